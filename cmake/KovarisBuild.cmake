@@ -1,0 +1,48 @@
+# Settings that every target shares.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# Programs and component libraries lie side by side: the registry and the tests find them there.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+include_directories(${CMAKE_SOURCE_DIR})
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_compile_options(-Wall -Wextra -Wformat=2 -Wold-style-cast -Wnon-virtual-dtor -Wshadow
+                    -Woverloaded-virtual -Wsuggest-override)
+if(KOVARIS_WERROR)
+    add_compile_options(-Werror)
+endif()
+if(KOVARIS_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer
+                        -fno-sanitize-recover=undefined)
+    # The database library keeps the type information of its classes to itself, so the check of dynamic
+    # types cannot be linked.
+    add_compile_options(-fno-sanitize=vptr)
+    # The instrumentation misleads the compiler's flow analysis, which then doubts the standard library
+    # itself (std::function inside std::regex). The builds without sanitizers keep this warning.
+    add_compile_options(-Wno-maybe-uninitialized)
+    add_link_options(-fsanitize=address,undefined)
+else()
+    # The sanitizers resolve their own symbols at load time.
+    add_link_options(-Wl,--no-undefined)
+endif()
+
+# A component library: a shared object that exports its entry points and nothing else.
+function(kovaris_component_library target)
+    add_library(${target} SHARED ${ARGN})
+    set(exports ${CMAKE_SOURCE_DIR}/cmake/component_library.exports)
+    target_link_options(${target} PRIVATE -Wl,--version-script=${exports})
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
+endfunction()
