@@ -1,0 +1,45 @@
+#include "host/components/profile_file.hpp"
+
+#include "agenda/contracts/text.hpp"
+#include "host/components/file_replacement.hpp"
+#include "host/components/ini_text.hpp"
+
+#include <cerrno>
+
+namespace kova::host {
+
+namespace {
+
+Text WithoutTrailingBlanks(const Text& text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
+
+bool FitsOneLine(const Text& text)
+{
+    constexpr std::string_view breaks("\r\n\0", 3);
+    return text.find_first_of(breaks) == Text::npos;
+}
+
+} // namespace
+
+Text ProfileFile::Read(const Text& section, const Text& key, const Text& defaultValue, Integer size,
+                       const Text& path) const
+{
+    if (size < 1)
+        return {};
+    const auto content = ReadWholeFile(path);
+    const auto value = content ? IniText(*content).Value(Trim(section), Trim(key)) : std::nullopt;
+    return Left(value ? *value : WithoutTrailingBlanks(defaultValue), static_cast<std::size_t>(size - 1));
+}
+
+bool ProfileFile::Write(const Text& section, const Text& key, const Text& value, const Text& path)
+{
+    if (!FitsOneLine(section) || !FitsOneLine(key) || !FitsOneLine(value))
+        return false;
+    const auto content = ReadWholeFile(path);
+    if (!content && errno != ENOENT)
+        return false;
+    IniText text(content.value_or(std::string()));
+    text.SetValue(Trim(section), Trim(key), value);
+    return ReplaceWholeFile(path, text.ToString());
+}
+
+} // namespace kova::host

@@ -1,0 +1,17 @@
+// A library that takes no host.
+
+#include "agenda/contracts/component_library.hpp"
+
+using namespace kova;
+
+KOVA_ENTRY_POINT std::int32_t KovaAttachHost(ServerHost*)
+{
+    return static_cast<std::int32_t>(ServerStatus::Refused);
+}
+KOVA_ENTRY_POINT std::int32_t DllGetClassObject(const char*, ClassFactory**)
+{
+    return static_cast<std::int32_t>(ServerStatus::ClassNotAvailable);
+}
+KOVA_ENTRY_POINT std::int32_t DllCanUnloadNow() { return 0; }
+KOVA_ENTRY_POINT std::int32_t DllRegisterServer() { return 0; }
+KOVA_ENTRY_POINT std::int32_t DllUnregisterServer() { return 0; }
