@@ -1,0 +1,101 @@
+#pragma once
+
+#include "toolkits/common/text_edit.hpp"
+#include "toolkits/common/widget_core.hpp"
+
+namespace kova::toolkit {
+
+/// A widget that the user types in. The model holds caret and selection too, so that typing gives the
+/// same text on every screen; a view either forwards keys (UserTypes, UserErases) or the text that its
+/// own editor made of them (UserEdits), and then shows the model's text.
+class EditCore : public WidgetCore {
+public:
+    using WidgetCore::WidgetCore;
+
+    const Text& ShownText() const { return edit_.AsText(); }
+    TextSelection ShownSelection() const { return edit_.Selection(); }
+
+    /// The user typed a character, which replaces what is selected.
+    void UserTypes(char32_t character);
+    /// Backspace and Delete.
+    void UserErases();
+    void UserErasesForward();
+    /// The user changed the text to this one, by pasting or through an input method: what was removed
+    /// counts as erased, what is new as typed, character by character.
+    void UserEdits(const Text& text);
+    /// The user moved the caret or selected with it. No event.
+    void UserSelects(std::size_t anchor, std::size_t caret);
+    void UserSelectsAll();
+
+    bool IsFocusable() const override { return true; }
+    void SelectToStart() override;
+    /// False where the box shows a value only.
+    virtual bool AllowsTyping() const { return true; }
+
+protected:
+    /// A write from code; the caret goes to the end.
+    void PutText(const Text& text);
+
+    virtual void Type(char32_t character) = 0;
+    virtual void Erase(bool forward) = 0;
+    virtual void Replace(const Text& text) = 0;
+
+    TextEdit edit_;
+};
+
+/// A box of any characters: text box, find box, number box.
+class FreeEditCore : public EditCore {
+public:
+    using EditCore::EditCore;
+
+protected:
+    /// Before a typed character enters: raises the kind's event. The character may be changed; false
+    /// drops it.
+    virtual bool Admits(char32_t& character) { return character >= U' '; }
+    /// Before a character is erased; `forward` is the Delete key.
+    virtual bool AdmitsErasing(bool forward)
+    {
+        static_cast<void>(forward);
+        return true;
+    }
+    /// After the user's edit changed the text.
+    virtual void Edited() { }
+
+    void Type(char32_t character) override;
+    void Erase(bool forward) override;
+    void Replace(const Text& text) override;
+
+private:
+    bool HasRoom() const;
+    bool IsStillOpen() const;
+};
+
+/// A box with a mask such as "__/__/____": digits fill its blanks from the left.
+class MaskEditCore : public EditCore {
+public:
+    MaskEditCore(FormModel& form, const ControlDesign& design, std::string_view mask);
+
+protected:
+    /// A write from code: "" gives the empty mask, any other text is shown as it stands.
+    void PutMasked(const Text& text);
+    /// After the user's edit changed the text.
+    virtual void Edited() { }
+
+    void Type(char32_t character) override;
+    void Erase(bool forward) override;
+    void Replace(const Text& text) override;
+
+private:
+    bool IsBlank(std::size_t position) const { return mask_[position] == U'_'; }
+    bool FitsMask(std::u32string_view characters) const;
+    /// Positions behind the separators from `position` on.
+    std::size_t SkipSeparators(std::size_t position) const;
+    std::size_t FirstBlank(std::u32string_view characters) const;
+    /// The text as far as it fits the mask, without what is selected; the caret goes to `caret`.
+    std::u32string Editable(std::size_t& caret) const;
+    void Change(std::u32string characters, std::size_t caret);
+
+    const std::u32string mask_;
+};
+
+} // namespace kova::toolkit

@@ -1,0 +1,136 @@
+#include "toolkits/common/find_box.hpp"
+
+#include "agenda/contracts/utf8.hpp"
+#include "toolkits/common/form.hpp"
+
+namespace kova::toolkit {
+
+namespace {
+
+/// The code of the key that types a character; 0 for one that no key of the basic keyboard types.
+Integer KeyCodeOf(char32_t character)
+{
+    const char32_t upper = utf8::ToUpper(character);
+    return upper < 0x80 ? static_cast<Integer>(upper) : Integer{0};
+}
+
+Integer ShiftOf(char32_t character) { return utf8::ToLower(character) != character ? 1 : 0; }
+
+} // namespace
+
+FindBoxModel::FindBoxModel(FormModel& form, const ControlDesign& design) : WidgetModel(form, design)
+{
+    edit_.Put(design.text);
+}
+
+kova::Text FindBoxModel::Text() const { return Read("Text", ShownText()); }
+
+void FindBoxModel::Text(const kova::Text& value)
+{
+    Writing("Text", value);
+    typed_ = false;
+    PutText(value);
+}
+
+Long FindBoxModel::Status() const { return Read("Status", status_); }
+
+void FindBoxModel::Status(Long value)
+{
+    Writing("Status", value);
+    status_ = value;
+    typed_ = false;
+    Tell(Aspect::Content);
+}
+
+Long FindBoxModel::Style() const { return Read("Style", Design().style); }
+
+void FindBoxModel::DisplayText(const kova::Text& value)
+{
+    Writing("DisplayText", value);
+    if (!value.empty())
+        throw Failure(FailureNumber::BadPropertyValue);
+    PutText(value);
+}
+
+void FindBoxModel::ReiniciarPesquisa()
+{
+    Calling("ReiniciarPesquisa");
+    status_ = find_status::Clear;
+    typed_ = false;
+    edit_.Select(0, edit_.Characters().size());
+    Tell(Aspect::Content);
+    Tell(Aspect::Selection);
+    GetForm().Raise(click_);
+}
+
+void FindBoxModel::UserPresses()
+{
+    ByUser([this] {
+        if (FocusForPress())
+            Press();
+    });
+}
+
+void FindBoxModel::UserPressesEnter()
+{
+    ByUser([this] {
+        if (WouldSearch())
+            UserPresses();
+        else
+            GetForm().FocusNext(true);
+    });
+}
+
+bool FindBoxModel::TakesEnter()
+{
+    UserPressesEnter();
+    return true;
+}
+
+void FindBoxModel::Press()
+{
+    if (!WouldSearch()) {
+        edit_.Put("");
+        return Report(find_status::Clear);
+    }
+    const bool endsFormerSearch = Design().announcesEndOfSearch && status_ == find_status::Search && typed_;
+    if (endsFormerSearch) {
+        Report(find_status::Clear);
+        if (!TakesInput())
+            return;
+    }
+    Report(find_status::Search);
+}
+
+void FindBoxModel::Report(Long status)
+{
+    status_ = status;
+    typed_ = false;
+    Tell(Aspect::Content);
+    GetForm().Raise(click_);
+}
+
+bool FindBoxModel::Admits(char32_t& character)
+{
+    if (!FreeEditCore::Admits(character))
+        return false;
+    GetForm().Raise(keyDown_, KeyCodeOf(character), ShiftOf(character));
+    return true;
+}
+
+void FindBoxModel::Edited()
+{
+    typed_ = true;
+    Tell(Aspect::Content);
+}
+
+void FindBoxModel::RaiseLostFocus() { GetForm().Raise(lostFocus_); }
+
+void FindBoxModel::DropHandlers()
+{
+    click_ = nullptr;
+    keyDown_ = nullptr;
+    lostFocus_ = nullptr;
+}
+
+} // namespace kova::toolkit

@@ -1,0 +1,98 @@
+// The focus: who has it, who gets it next, and the keys that act on the form.
+
+#include "toolkits/common/command_button.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/toolkit.hpp"
+
+#include <algorithm>
+
+namespace kova::toolkit {
+
+void FormModel::MoveFocus(WidgetCore* target)
+{
+    if (target == focused_ || state_.unloaded)
+        return;
+    const EventScope scope(toolkit_);
+    const auto self = weak_from_this().lock();
+    const unsigned move = ++focusMoves_;
+    if (WidgetCore* former = focused_) {
+        lastFocused_ = former;
+        focused_ = nullptr;
+        former->RaiseLostFocus();
+    }
+    const bool stillWanted = target && move == focusMoves_ && !state_.unloaded && target->CanHoldFocus();
+    if (!stillWanted)
+        return;
+    focused_ = target;
+    lastFocused_ = target;
+    if (View* view = target->GetView())
+        view->TakeFocus();
+    target->RaiseGotFocus();
+}
+
+void FormModel::ReviewFocus()
+{
+    if (focused_ && !focused_->HoldsForChain(&WidgetState::visible))
+        MoveFocus(nullptr);
+    else if (focused_ && !focused_->HoldsForChain(&WidgetState::enabled))
+        MoveFocus(nullptr);
+}
+
+WidgetCore* FormModel::NextStop(bool forward) const
+{
+    const std::size_t count = widgets_.size();
+    const WidgetCore* from = focused_ ? focused_ : lastFocused_;
+    const auto place = std::find_if(widgets_.begin(), widgets_.end(),
+                                    [from](const auto& widget) { return widget.get() == from; });
+    const bool known = place != widgets_.end();
+    std::size_t at = known ? static_cast<std::size_t>(place - widgets_.begin()) : (forward ? count - 1 : 0);
+    for (std::size_t step = 0; step < count; ++step) {
+        at = forward ? (at + 1) % count : (at + count - 1) % count;
+        WidgetCore* widget = widgets_[at].get();
+        if (widget->State().tabStop && widget->CanHoldFocus())
+            return widget;
+    }
+    return nullptr;
+}
+
+void FormModel::FocusNext(bool forward)
+{
+    if (WidgetCore* next = NextStop(forward))
+        MoveFocus(next);
+}
+
+void FormModel::UserPressesKey(FormKey key)
+{
+    ByUser([this, key] {
+        if (!Refusal().empty())
+            return;
+        switch (key) {
+        case FormKey::Tab: return FocusNext(true);
+        case FormKey::BackTab: return FocusNext(false);
+        case FormKey::Enter: return PressEnter();
+        case FormKey::Escape: PressButton(&ControlDesign::isCancel); return;
+        }
+    });
+}
+
+void FormModel::PressEnter()
+{
+    if (focused_ && focused_->TakesEnter())
+        return;
+    if (!PressButton(&ControlDesign::isDefault))
+        FocusNext(true);
+}
+
+bool FormModel::PressButton(bool ControlDesign::*role)
+{
+    for (const auto& widget : widgets_) {
+        auto* button = dynamic_cast<CommandButtonModel*>(widget.get());
+        if (button && button->Design().*role && button->TakesInput()) {
+            button->UserPresses();
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace kova::toolkit

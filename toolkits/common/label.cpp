@@ -1,0 +1,43 @@
+#include "toolkits/common/label.hpp"
+
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/toolkit.hpp"
+
+namespace kova::toolkit {
+
+LabelModel::LabelModel(FormModel& form, const ControlDesign& design)
+    : WidgetModel(form, design),
+      caption_(design.caption),
+      foreColor_(design.foreColor == -1 ? colours::Black : design.foreColor)
+{
+}
+
+void LabelModel::Caption(const Text& value)
+{
+    Writing("Caption", value);
+    caption_ = value;
+    FitToCaption();
+    Tell(Aspect::Content);
+}
+
+void LabelModel::ForeColor(Colour value)
+{
+    Writing("ForeColor", value);
+    foreColor_ = value;
+    Tell(Aspect::Look);
+}
+
+void LabelModel::FitToCaption()
+{
+    if (!Design().autoSize)
+        return;
+    const Font font{Design().fontName, Design().fontSize, Design().fontBold};
+    const Twips wrapWidth = Design().wordWrap ? state_.width : 0;
+    const Extent extent = GetForm().GetToolkit().Measure().Measure(caption_, font, wrapWidth);
+    if (!Design().wordWrap)
+        state_.width = extent.width;
+    state_.height = extent.height;
+    Tell(Aspect::Geometry);
+}
+
+} // namespace kova::toolkit

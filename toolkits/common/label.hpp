@@ -1,0 +1,32 @@
+#pragma once
+
+#include "agenda/contracts/widgets/label.hpp"
+#include "toolkits/common/widget_model.hpp"
+
+namespace kova::toolkit {
+
+/// A label of automatic size takes the size that the toolkit's TextMeasure gives its caption; with word
+/// wrap it keeps its width and follows in height only. Writes of Width and Height hold until the next
+/// write of Caption.
+class LabelModel final : public WidgetModel<Label, WidgetKind::Label> {
+public:
+    LabelModel(FormModel& form, const ControlDesign& design);
+
+    Text Caption() const override { return Read("Caption", caption_); }
+    void Caption(const Text& value) override;
+    Colour ForeColor() const override { return Read("ForeColor", foreColor_); }
+    void ForeColor(Colour value) override;
+
+    const Text& ShownCaption() const { return caption_; }
+    Colour ShownForeColor() const { return foreColor_; }
+
+    void Complete() override { FitToCaption(); }
+
+private:
+    void FitToCaption();
+
+    Text caption_;
+    Colour foreColor_ = colours::Black;
+};
+
+} // namespace kova::toolkit

@@ -1,0 +1,70 @@
+#include "toolkits/common/navigation_bar.hpp"
+
+#include "agenda/contracts/text.hpp"
+#include "toolkits/common/form.hpp"
+
+namespace kova::toolkit {
+
+NavigationBarModel::NavigationBarModel(FormModel& form, const ControlDesign& design)
+    : WidgetModel(form, design)
+{
+}
+
+void NavigationBarModel::FirstRecord(Double value)
+{
+    Writing("FirstRecord", value);
+    written_.first = value;
+}
+
+void NavigationBarModel::LastRecord(Double value)
+{
+    Writing("LastRecord", value);
+    written_.last = value;
+}
+
+void NavigationBarModel::RecordCount(Double value)
+{
+    Writing("RecordCount", value);
+    written_.count = value;
+}
+
+void NavigationBarModel::PageSize(Double value)
+{
+    Writing("PageSize", value);
+    written_.pageSize = value;
+}
+
+void NavigationBarModel::Refresh()
+{
+    Calling("Refresh");
+    shown_ = written_;
+    Tell(Aspect::Content);
+}
+
+void NavigationBarModel::UserPresses(int button)
+{
+    ByUser([this, button] {
+        if (!Offers(button) || !FocusForPress())
+            return;
+        auto number = static_cast<Integer>(button);
+        GetForm().Raise(click_, number);
+    });
+}
+
+bool NavigationBarModel::Offers(int button) const
+{
+    switch (button) {
+    case FirstPage:
+    case PreviousPage: return shown_.first > 1;
+    case NextPage:
+    case LastPage: return shown_.last < shown_.count;
+    default: return false;
+    }
+}
+
+Text NavigationBarModel::ShownText() const
+{
+    return TextOf(shown_.first) + " - " + TextOf(shown_.last) + " de " + TextOf(shown_.count);
+}
+
+} // namespace kova::toolkit

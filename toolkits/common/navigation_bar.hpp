@@ -1,0 +1,50 @@
+#pragma once
+
+#include "agenda/contracts/widgets/navigation_bar.hpp"
+#include "toolkits/common/widget_model.hpp"
+
+namespace kova::toolkit {
+
+class NavigationBarModel final : public WidgetModel<KVNavigationBar, WidgetKind::KVNavigationBar> {
+public:
+    using ClickHandler = std::function<void(Integer& button)>;
+
+    enum Button { FirstPage = 1, PreviousPage, NextPage, LastPage };
+
+    NavigationBarModel(FormModel& form, const ControlDesign& design);
+
+    Double FirstRecord() const override { return Read("FirstRecord", written_.first); }
+    void FirstRecord(Double value) override;
+    Double LastRecord() const override { return Read("LastRecord", written_.last); }
+    void LastRecord(Double value) override;
+    Double RecordCount() const override { return Read("RecordCount", written_.count); }
+    void RecordCount(Double value) override;
+    Double PageSize() const override { return Read("PageSize", written_.pageSize); }
+    void PageSize(Double value) override;
+    void Refresh() override;
+    void OnClick(ClickHandler handler) override { click_ = std::move(handler); }
+
+    /// The user pressed a button, 1 to 4; one that is not offered does nothing.
+    void UserPresses(int button);
+
+    /// As of the last Refresh: whether the bar offers a button, and its text "1 - 15 de 42".
+    bool Offers(int button) const;
+    Text ShownText() const;
+
+    bool IsFocusable() const override { return true; }
+    void DropHandlers() override { click_ = nullptr; }
+
+private:
+    struct Numbers {
+        Double first = 0;
+        Double last = 0;
+        Double count = 0;
+        Double pageSize = 0;
+    };
+
+    Numbers written_;
+    Numbers shown_;
+    ClickHandler click_;
+};
+
+} // namespace kova::toolkit

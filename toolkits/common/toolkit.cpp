@@ -1,0 +1,119 @@
+#include "toolkits/common/toolkit.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace kova::toolkit {
+
+namespace {
+
+void Remove(std::vector<FormModel*>& forms, const FormModel& form) { std::erase(forms, &form); }
+
+FormModel* LastOfName(const std::vector<FormModel*>& forms, std::string_view name)
+{
+    const auto found = std::find_if(forms.rbegin(), forms.rend(), [name](const FormModel* form) {
+        return form->Design().name == name && !form->Current().unloaded;
+    });
+    return found == forms.rend() ? nullptr : *found;
+}
+
+} // namespace
+
+EventScope::EventScope(ToolkitModel& toolkit) : toolkit_(toolkit) { toolkit_.EnterEvent(); }
+
+EventScope::~EventScope() { toolkit_.LeaveEvent(); }
+
+ToolkitModel::ToolkitModel() : alive_(std::make_shared<ToolkitModel*>(this)) { }
+
+ToolkitModel::~ToolkitModel() = default;
+
+FormRef ToolkitModel::CreateForm(const FormDesign& design)
+{
+    auto form = std::make_unique<FormModel>(*this, design);
+    form->Build();
+    forms_.push_back(form.get());
+    auto retire = [toolkit = std::weak_ptr<ToolkitModel*>(alive_)](FormModel* left) {
+        std::unique_ptr<FormModel> last(left);
+        if (const auto alive = toolkit.lock())
+            (*alive)->Retire(std::move(last));
+    };
+    return std::shared_ptr<FormModel>(form.release(), std::move(retire));
+}
+
+Reply ToolkitModel::MessageBox(MessageKind kind, const Text& text, const Text& title)
+{
+    const EventScope scope(*this);
+    const Closed closed(*this);
+    return AskUser(kind, text, title);
+}
+
+void ToolkitModel::SendKeys(const Text& keys)
+{
+    if (keys != "+({HOME})")
+        throw Failure(FailureNumber::InvalidArgument);
+    KeysAreSent(keys);
+    if (FormModel* form = ActiveForm()) {
+        if (WidgetCore* focused = form->Focused())
+            focused->SelectToStart();
+    }
+}
+
+FormModel* ToolkitModel::ModalForm() const { return modal_.empty() ? nullptr : modal_.back(); }
+
+FormModel* ToolkitModel::FindForm(std::string_view name) const
+{
+    FormModel* shown = LastOfName(shown_, name);
+    return shown ? shown : LastOfName(forms_, name);
+}
+
+bool ToolkitModel::IsShutOut(const FormModel& form) const
+{
+    if (closedDepth_ > 0)
+        return true;
+    const FormModel* modal = ModalForm();
+    return modal && modal != &form && form.showNumber_ < modal->showNumber_;
+}
+
+void ToolkitModel::LeaveEvent() noexcept
+{
+    --eventDepth_;
+    if (eventDepth_ == 0 && !retired_.empty())
+        ScheduleRelease();
+}
+
+void ToolkitModel::Retire(std::unique_ptr<FormModel> form) noexcept
+{
+    Remove(forms_, *form);
+    Remove(shown_, *form);
+    retired_.push_back(std::move(form));
+    if (eventDepth_ == 0)
+        ScheduleRelease();
+}
+
+void ToolkitModel::ReleaseRetired()
+{
+    while (eventDepth_ == 0 && !retired_.empty()) {
+        const auto batch = std::exchange(retired_, {});
+    }
+}
+
+void ToolkitModel::Shown(FormModel& form)
+{
+    form.showNumber_ = ++shows_;
+    Remove(shown_, form);
+    shown_.push_back(&form);
+}
+
+void ToolkitModel::Activated(FormModel& form)
+{
+    if (ActiveForm() == &form || !form.Current().visible)
+        return;
+    Remove(shown_, form);
+    shown_.push_back(&form);
+}
+
+void ToolkitModel::Hidden(FormModel& form) { Remove(shown_, form); }
+
+void ToolkitModel::PopModal(FormModel& form) { Remove(modal_, form); }
+
+} // namespace kova::toolkit

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "agenda/contracts/platform.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/text_measure.hpp"
+
+#include <memory>
+#include <vector>
+
+namespace kova::toolkit {
+
+/// The part of a toolkit that does not depend on the screen. A screen toolkit derives from it, gives
+/// windows, views and measures, and runs its event loop. It must outlive its forms.
+class ToolkitModel : public kova::Toolkit {
+public:
+    ToolkitModel();
+    ~ToolkitModel() override;
+    ToolkitModel(const ToolkitModel&) = delete;
+    ToolkitModel& operator=(const ToolkitModel&) = delete;
+
+    FormRef CreateForm(const FormDesign& design) final;
+    /// Asks through AskUser; no form takes input meanwhile.
+    Reply MessageBox(MessageKind kind, const Text& text, const Text& title) final;
+    void SendKeys(const Text& keys) final;
+
+    /// May be null. It must stay valid until it is replaced.
+    AccessObserver* Observer() const { return observer_; }
+    void Observer(AccessObserver* observer) { observer_ = observer; }
+
+    /// The innermost modal form; null where none is shown.
+    FormModel* ModalForm() const;
+    /// The visible form that was shown or used last; null where there is none.
+    FormModel* ActiveForm() const { return shown_.empty() ? nullptr : shown_.back(); }
+    /// Visible forms; the one shown or used last comes last.
+    const std::vector<FormModel*>& ShownForms() const { return shown_; }
+    /// The form of that name that was shown or used last; where none is visible, the one made last. Null
+    /// where there is none.
+    FormModel* FindForm(std::string_view name) const;
+    /// Whether a modal form that was shown later, a message box or a pop-up menu keeps the user out.
+    bool IsShutOut(const FormModel& form) const;
+    /// Whether an event is on the stack.
+    bool IsInsideEvent() const { return eventDepth_ > 0; }
+
+    // What a screen toolkit gives.
+
+    virtual std::unique_ptr<FormWindow> MakeWindow(FormModel& form) = 0;
+    /// The view of a widget; null where the widget is not drawn by one. Containers are asked for before
+    /// what they hold.
+    virtual std::unique_ptr<View> MakeView(WidgetCore& widget) = 0;
+    virtual const TextMeasure& Measure() const = 0;
+    /// The handle of a panel's window, never 0.
+    virtual Long HandleOf(const WidgetCore& widget) = 0;
+    /// A failure came out of a handler that the user had started: the program goes on.
+    virtual void UnhandledFailure(const Failure& failure) = 0;
+
+    // What forms do, for a log. Each comes before the act takes effect.
+
+    virtual void FormShows(const FormModel&, ShowMode) { }
+    virtual void FormHides(const FormModel&) { }
+    virtual void FormUnloads(const FormModel&) { }
+    virtual void FormRepaints(const FormModel&) { }
+    /// Code moves the focus to a widget that can take it.
+    virtual void CodeFocuses(const WidgetCore&) { }
+    virtual void FormPopsUp(const FormModel&, const MenuModel&, Twips, Twips) { }
+    virtual void KeysAreSent(const Text&) { }
+
+protected:
+    /// Shows a message box and waits for the answer; Question boxes answer Yes or No, others Ok.
+    virtual Reply AskUser(MessageKind kind, const Text& text, const Text& title) = 0;
+    /// Forms wait for their end and no event is on the stack. Calls ReleaseRetired at once; a toolkit
+    /// whose views may still be on the stack then does it from its event loop instead.
+    virtual void ScheduleRelease() { ReleaseRetired(); }
+    /// Destroys the forms that nobody holds any more; does nothing while an event is on the stack. A
+    /// toolkit calls it in its destructor, as long as windows and views can still be destroyed.
+    void ReleaseRetired();
+
+private:
+    friend class EventScope;
+    friend class WidgetCore;
+    friend class FormModel;
+
+    /// While a message box or a menu is open.
+    class Closed {
+    public:
+        explicit Closed(ToolkitModel& toolkit) : toolkit_(toolkit) { ++toolkit_.closedDepth_; }
+        ~Closed() { --toolkit_.closedDepth_; }
+        Closed(const Closed&) = delete;
+        Closed& operator=(const Closed&) = delete;
+
+    private:
+        ToolkitModel& toolkit_;
+    };
+
+    void EnterEvent() { ++eventDepth_; }
+    void LeaveEvent() noexcept;
+    void Retire(std::unique_ptr<FormModel> form) noexcept;
+    void Shown(FormModel& form);
+    void Activated(FormModel& form);
+    void Hidden(FormModel& form);
+    void PushModal(FormModel& form) { modal_.push_back(&form); }
+    void PopModal(FormModel& form);
+
+    AccessObserver* observer_ = nullptr;
+    int eventDepth_ = 0;
+    int closedDepth_ = 0;
+    unsigned shows_ = 0;
+    std::vector<FormModel*> forms_;
+    std::vector<FormModel*> shown_;
+    std::vector<FormModel*> modal_;
+    std::vector<std::unique_ptr<FormModel>> retired_;
+    /// Expires with the toolkit: a form that outlives it is then destroyed by its last holder.
+    std::shared_ptr<ToolkitModel*> alive_;
+};
+
+} // namespace kova::toolkit

@@ -1,0 +1,135 @@
+#include "toolkits/common/widget_core.hpp"
+
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/toolkit.hpp"
+#include "toolkits/common/widget_factory.hpp"
+
+namespace kova::toolkit {
+
+WidgetCore::WidgetCore(FormModel& form, const ControlDesign& design) : form_(form), design_(design)
+{
+    const bool open = design.width == 0 && design.height == 0;
+    const UsualSize size = open ? UsualSizeOf(design.kind) : UsualSize{design.width, design.height};
+    state_ = {design.left,    design.top,     size.width,         size.height, design.visible,
+              design.enabled, design.tabStop, design.toolTipText, {}};
+}
+
+WidgetCore::~WidgetCore() = default;
+
+std::string WidgetCore::FullName() const
+{
+    std::string name = form_.Design().name + "." + design_.name;
+    if (design_.index >= 0)
+        name += "(" + std::to_string(design_.index) + ")";
+    return name;
+}
+
+bool WidgetCore::HoldsForChain(bool WidgetState::*flag) const
+{
+    for (const WidgetCore* widget = this; widget; widget = widget->container_) {
+        if (!(widget->state_.*flag))
+            return false;
+    }
+    return true;
+}
+
+bool WidgetCore::IsOnShow() const { return form_.Current().visible && HoldsForChain(&WidgetState::visible); }
+
+bool WidgetCore::IsUsable() const { return form_.Current().enabled && HoldsForChain(&WidgetState::enabled); }
+
+std::string WidgetCore::Refusal() const
+{
+    if (auto refusal = form_.Refusal(); !refusal.empty())
+        return refusal;
+    if (!HoldsForChain(&WidgetState::visible))
+        return FullName() + " is not visible";
+    if (!HoldsForChain(&WidgetState::enabled))
+        return FullName() + " is disabled";
+    return {};
+}
+
+bool WidgetCore::CanHoldFocus() const { return IsFocusable() && IsOnShow() && IsUsable(); }
+
+bool WidgetCore::HasFocus() const { return form_.Focused() == this; }
+
+void WidgetCore::UserFocuses()
+{
+    ByUser([this] { form_.MoveFocus(IsFocusable() ? this : form_.Focused()); });
+}
+
+void WidgetCore::MoveTo(Twips WidgetState::*member, Twips value, bool mayBeNegative)
+{
+    if (value < 0 && !mayBeNegative)
+        throw Failure(FailureNumber::BadPropertyValue);
+    if (state_.*member == value)
+        return;
+    state_.*member = value;
+    Tell(Aspect::Geometry);
+}
+
+void WidgetCore::ShowSelf(bool visible)
+{
+    if (state_.visible == visible)
+        return;
+    state_.visible = visible;
+    Tell(Aspect::Visible);
+    form_.ReviewFocus();
+}
+
+void WidgetCore::EnableSelf(bool enabled)
+{
+    if (state_.enabled == enabled)
+        return;
+    state_.enabled = enabled;
+    Tell(Aspect::Enabled);
+    form_.ReviewFocus();
+}
+
+void WidgetCore::StopTab(bool stop)
+{
+    state_.tabStop = stop;
+    Tell(Aspect::TabStop);
+}
+
+void WidgetCore::WriteToolTip(const Text& text)
+{
+    state_.toolTipText = text;
+    Tell(Aspect::ToolTip);
+}
+
+void WidgetCore::FocusByCode()
+{
+    if (!CanHoldFocus())
+        return;
+    form_.GetToolkit().CodeFocuses(*this);
+    form_.MoveFocus(this);
+}
+
+void WidgetCore::ToFront() { Tell(Aspect::Order); }
+
+bool WidgetCore::FocusForPress()
+{
+    form_.MoveFocus(this);
+    return TakesInput();
+}
+
+AccessObserver* WidgetCore::Observer() const { return form_.GetToolkit().Observer(); }
+
+MemberAccess WidgetCore::AccessTo(std::string_view member) const
+{
+    return {form_.Design().name, design_.name, design_.index, member};
+}
+
+void WidgetCore::ByUser(const std::function<void()>& action)
+{
+    form_.ByUser([this, &action] {
+        if (!TakesInput())
+            return;
+        form_.GetToolkit().Activated(form_);
+        action();
+    });
+}
+
+bool WidgetCore::IsGone() const { return form_.Current().unloaded; }
+
+} // namespace kova::toolkit

@@ -1,0 +1,158 @@
+#pragma once
+
+#include "agenda/contracts/widgets/form_design.hpp"
+#include "agenda/contracts/widgets/widget.hpp"
+#include "toolkits/common/access_observer.hpp"
+#include "toolkits/common/view.hpp"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+namespace kova::toolkit {
+
+class FormModel;
+
+/// What every widget holds.
+struct WidgetState {
+    Twips left = 0;
+    Twips top = 0;
+    Twips width = 0;
+    Twips height = 0;
+    bool visible = true;
+    bool enabled = true;
+    bool tabStop = true;
+    Text toolTipText;
+    Text tag;
+};
+
+/// The part of a widget's model that does not depend on its kind: state, place among the others, focus,
+/// the user's permission, the way to the view and to the observer.
+///
+/// Functions called User... are what the user does; each checks first that the user can do it, and does
+/// nothing otherwise. A failure that a handler lets out of a User... function goes to
+/// ToolkitModel::UnhandledFailure. Forms die when no event is on the stack, which may be the end of a
+/// User... function: a toolkit whose views are still on the stack then delays that, see
+/// ToolkitModel::ScheduleRelease.
+class WidgetCore {
+public:
+    WidgetCore(FormModel& form, const ControlDesign& design);
+    virtual ~WidgetCore();
+    WidgetCore(const WidgetCore&) = delete;
+    WidgetCore& operator=(const WidgetCore&) = delete;
+
+    virtual WidgetKind KindOfWidget() const = 0;
+    /// The contract's side of this widget.
+    virtual Widget& Face() = 0;
+
+    const ControlDesign& Design() const { return design_; }
+    /// Current values; reading them is not an access of the contract.
+    const WidgetState& State() const { return state_; }
+    FormModel& GetForm() const { return form_; }
+    /// The picture box or parent menu that holds the widget; null is the form.
+    WidgetCore* Container() const { return container_; }
+    void Container(WidgetCore* container) { container_ = container; }
+    /// "frmLista.kvcmdAlterar", "frmFichaCompleta.kvdtpDataInicial(3)".
+    std::string FullName() const;
+
+    /// Whether the widget and all that holds it, the form too, are visible or enabled.
+    bool IsOnShow() const;
+    bool IsUsable() const;
+    /// Why the user cannot act on the widget now, as in "frmLista.kvcmdAlterar is not visible"; "" where
+    /// he can.
+    std::string Refusal() const;
+    bool TakesInput() const { return Refusal().empty(); }
+
+    /// Whether widgets of this kind can have the focus at all.
+    virtual bool IsFocusable() const { return false; }
+    /// Whether this one could have it now.
+    bool CanHoldFocus() const;
+    bool HasFocus() const;
+
+    /// The user moved the focus here, by mouse or key.
+    void UserFocuses();
+
+    void AttachView(std::unique_ptr<View> view) { view_ = std::move(view); }
+    View* GetView() const { return view_.get(); }
+
+    /// Enter while the widget has the focus; false leaves it to the form.
+    virtual bool TakesEnter() { return false; }
+    /// What "+({HOME})" does: selects from the caret back to the start. Only boxes have a caret.
+    virtual void SelectToStart() { }
+    /// The focus has moved away or here: the widget's own event, where its kind has one.
+    virtual void RaiseLostFocus() { }
+    virtual void RaiseGotFocus() { }
+    /// Forgets all handlers; called when the form is unloaded.
+    virtual void DropHandlers() { }
+    /// Called once after all widgets of the form exist.
+    virtual void Complete() { }
+
+protected:
+    friend class FormModel;
+
+    /// Tells the view.
+    void Tell(Aspect aspect) const
+    {
+        if (view_)
+            view_->Update(aspect);
+    }
+
+    void MoveTo(Twips WidgetState::*member, Twips value, bool mayBeNegative);
+    void ShowSelf(bool visible);
+    void EnableSelf(bool enabled);
+    void StopTab(bool stop);
+    void WriteToolTip(const Text& text);
+    void WriteTag(const Text& text) { state_.tag = text; }
+    void FocusByCode();
+    void ToFront();
+    /// A press takes the focus first; false where the widget cannot be pressed any more after that.
+    bool FocusForPress();
+
+    AccessObserver* Observer() const;
+    MemberAccess AccessTo(std::string_view member) const;
+    void Reading(std::string_view member) const
+    {
+        if (auto* observer = Observer())
+            observer->Read(AccessTo(member));
+    }
+    template <class T> void Writing(std::string_view member, const T& value) const
+    {
+        if (auto* observer = Observer())
+            observer->Write(AccessTo(member), ToValue(value));
+    }
+    void Calling(std::string_view member) const { Calling(member, Empty()); }
+    template <class T> void Calling(std::string_view member, const T& argument) const
+    {
+        if (auto* observer = Observer())
+            observer->Call(AccessTo(member), ToValue(argument));
+    }
+    template <class T> static Value ToValue(const T& value)
+    {
+        if constexpr (std::is_same_v<T, float>)
+            return Value(static_cast<Double>(value));
+        else if constexpr (std::is_same_v<T, int>)
+            return Value(static_cast<Long>(value));
+        else
+            return Value(value);
+    }
+
+    /// Runs what a User... function does, if the user can do it: keeps the form alive meanwhile and takes
+    /// a failure to the toolkit.
+    void ByUser(const std::function<void()>& action);
+    /// Whether the form has been unloaded, as a handler that has just run may have done.
+    bool IsGone() const;
+
+    WidgetState state_;
+
+private:
+    bool HoldsForChain(bool WidgetState::*flag) const;
+
+    FormModel& form_;
+    const ControlDesign design_;
+    WidgetCore* container_ = nullptr;
+    std::unique_ptr<View> view_;
+};
+
+} // namespace kova::toolkit

@@ -1,0 +1,71 @@
+#include "toolkits/common/widget_factory.hpp"
+
+#include "toolkits/common/check_box.hpp"
+#include "toolkits/common/combo_box.hpp"
+#include "toolkits/common/command_button.hpp"
+#include "toolkits/common/date_box.hpp"
+#include "toolkits/common/find_box.hpp"
+#include "toolkits/common/grid.hpp"
+#include "toolkits/common/header_band.hpp"
+#include "toolkits/common/image.hpp"
+#include "toolkits/common/label.hpp"
+#include "toolkits/common/menu.hpp"
+#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/number_box.hpp"
+#include "toolkits/common/option_button.hpp"
+#include "toolkits/common/picture_box.hpp"
+#include "toolkits/common/shape.hpp"
+#include "toolkits/common/text_box.hpp"
+#include "toolkits/common/time_box.hpp"
+
+namespace kova::toolkit {
+
+std::unique_ptr<WidgetCore> MakeWidget(FormModel& form, const ControlDesign& design)
+{
+    switch (design.kind) {
+    case WidgetKind::KVComboBox: return std::make_unique<ComboBoxModel>(form, design);
+    case WidgetKind::KVTextBox: return std::make_unique<TextBoxModel>(form, design);
+    case WidgetKind::KVFind: return std::make_unique<FindBoxModel>(form, design);
+    case WidgetKind::KVDTPicker: return std::make_unique<DateBoxModel>(form, design);
+    case WidgetKind::KVTime: return std::make_unique<TimeBoxModel>(form, design);
+    case WidgetKind::KVNumberBox: return std::make_unique<NumberBoxModel>(form, design);
+    case WidgetKind::KVCommandButton: return std::make_unique<CommandButtonModel>(form, design);
+    case WidgetKind::KVTheme: return std::make_unique<HeaderBandModel>(form, design);
+    case WidgetKind::KVNavigationBar: return std::make_unique<NavigationBarModel>(form, design);
+    case WidgetKind::MSFlexGrid: return std::make_unique<GridModel>(form, design);
+    case WidgetKind::Label: return std::make_unique<LabelModel>(form, design);
+    case WidgetKind::PictureBox: return std::make_unique<PictureBoxModel>(form, design);
+    case WidgetKind::Image: return std::make_unique<ImageModel>(form, design);
+    case WidgetKind::CheckBox: return std::make_unique<CheckBoxModel>(form, design);
+    case WidgetKind::OptionButton: return std::make_unique<OptionButtonModel>(form, design);
+    case WidgetKind::Menu: return std::make_unique<MenuModel>(form, design);
+    case WidgetKind::Shape: return std::make_unique<ShapeModel>(form, design);
+    }
+    throw Failure(FailureNumber::BadPropertyValue);
+}
+
+UsualSize UsualSizeOf(WidgetKind kind)
+{
+    switch (kind) {
+    case WidgetKind::KVComboBox:
+    case WidgetKind::KVTextBox:
+    case WidgetKind::KVFind: return {2400, 480};
+    case WidgetKind::KVDTPicker: return {1560, 480};
+    case WidgetKind::KVTime:
+    case WidgetKind::KVNumberBox: return {960, 480};
+    case WidgetKind::KVCommandButton: return {1560, 480};
+    case WidgetKind::KVTheme: return {12000, 795};
+    case WidgetKind::KVNavigationBar: return {3600, 615};
+    case WidgetKind::MSFlexGrid: return {6000, 3000};
+    case WidgetKind::Label: return {1200, 255};
+    case WidgetKind::PictureBox: return {2400, 1200};
+    case WidgetKind::Image: return {480, 480};
+    case WidgetKind::CheckBox:
+    case WidgetKind::OptionButton: return {1800, 255};
+    case WidgetKind::Menu: return {0, 0};
+    case WidgetKind::Shape: return {1200, 600};
+    }
+    return {0, 0};
+}
+
+} // namespace kova::toolkit

@@ -1,0 +1,101 @@
+// The lines that tell what forms and boxes did.
+
+#include "agenda/contracts/text.hpp"
+#include "toolkits/headless/quoted.hpp"
+#include "toolkits/headless/toolkit.hpp"
+
+namespace kova::headless {
+
+namespace {
+
+const char* WordFor(MessageKind kind)
+{
+    switch (kind) {
+    case MessageKind::Information: return "information";
+    case MessageKind::Critical: return "critical";
+    case MessageKind::Question: return "question";
+    case MessageKind::Plain: return "plain";
+    }
+    return "";
+}
+
+const char* WordFor(Reply reply)
+{
+    switch (reply) {
+    case Reply::Ok: return "ok";
+    case Reply::Yes: return "yes";
+    case Reply::No: return "no";
+    }
+    return "";
+}
+
+Reply Offered(MessageKind kind, Reply reply)
+{
+    if (kind != MessageKind::Question)
+        return Reply::Ok;
+    return reply == Reply::Yes ? Reply::Yes : Reply::No;
+}
+
+} // namespace
+
+Text Quoted(std::string_view text)
+{
+    Text quoted = "\"";
+    for (const char byte : text) {
+        switch (byte) {
+        case '"': quoted += "\\\""; break;
+        case '\\': quoted += "\\\\"; break;
+        case '\r': quoted += "\\r"; break;
+        case '\n': quoted += "\\n"; break;
+        default: quoted += byte;
+        }
+    }
+    return quoted + "\"";
+}
+
+void HeadlessToolkit::Write(std::string line)
+{
+    log_.push_back(std::move(line));
+    if (listener_)
+        listener_(Text(log_.back()));
+}
+
+void HeadlessToolkit::LogPause(Double seconds) { Write("pause " + TextOf(seconds, '.')); }
+
+Reply HeadlessToolkit::AskUser(MessageKind kind, const Text& text, const Text& title)
+{
+    const Reply reply = Offered(kind, GetDriver().Answer(kind, text, title));
+    Write(std::string("box ") + WordFor(kind) + " " + Quoted(title) + " " + Quoted(text) + " -> "
+          + WordFor(reply));
+    return reply;
+}
+
+void HeadlessToolkit::UnhandledFailure(const Failure& failure)
+{
+    failures_.push_back(failure);
+    Write("unhandled " + std::to_string(failure.Number()) + " " + Quoted(failure.Description()));
+}
+
+void HeadlessToolkit::FormShows(const toolkit::FormModel& form, ShowMode mode)
+{
+    Write("show " + form.Design().name + (mode == ShowMode::Modal ? " modal" : ""));
+}
+
+void HeadlessToolkit::FormHides(const toolkit::FormModel& form) { Write("hide " + form.Design().name); }
+
+void HeadlessToolkit::FormUnloads(const toolkit::FormModel& form) { Write("unload " + form.Design().name); }
+
+void HeadlessToolkit::FormRepaints(const toolkit::FormModel& form) { Write("repaint " + form.Design().name); }
+
+void HeadlessToolkit::CodeFocuses(const toolkit::WidgetCore& widget) { Write("focus " + widget.FullName()); }
+
+void HeadlessToolkit::FormPopsUp(const toolkit::FormModel&, const toolkit::MenuModel& parent, Twips x,
+                                 Twips y)
+{
+    Write("popup " + parent.Design().name + " " + TextOf(static_cast<Double>(x), '.') + " "
+          + TextOf(static_cast<Double>(y), '.'));
+}
+
+void HeadlessToolkit::KeysAreSent(const Text& keys) { Write("keys " + Quoted(keys)); }
+
+} // namespace kova::headless

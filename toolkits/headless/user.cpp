@@ -1,0 +1,246 @@
+#include "toolkits/headless/user.hpp"
+
+#include "toolkits/common/check_box.hpp"
+#include "toolkits/common/combo_box.hpp"
+#include "toolkits/common/command_button.hpp"
+#include "toolkits/common/date_box.hpp"
+#include "toolkits/common/edit_core.hpp"
+#include "toolkits/common/find_box.hpp"
+#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/option_button.hpp"
+
+#include <algorithm>
+#include <limits>
+
+namespace kova::headless {
+
+toolkit::WidgetCore* User::Reach(std::string_view form, std::string_view control, int index,
+                                 std::string& refusal)
+{
+    const toolkit::FormModel* model = toolkit_.FindForm(form);
+    toolkit::WidgetCore* widget = model ? model->Find(control, index) : nullptr;
+    if (!model)
+        refusal = std::string(form) + " does not exist";
+    else if (!widget)
+        refusal = std::string(form) + "." + std::string(control)
+            + (index < 0 ? "" : "(" + std::to_string(index) + ")") + " does not exist";
+    else
+        refusal = widget->Refusal();
+    return refusal.empty() ? widget : nullptr;
+}
+
+template <class Model>
+Model* User::Reach(std::string_view form, std::string_view control, int index, std::string& refusal)
+{
+    toolkit::WidgetCore* widget = Reach(form, control, index, refusal);
+    auto* model = dynamic_cast<Model*>(widget);
+    if (widget && !model)
+        refusal = widget->FullName() + " is a " + NameOf(widget->KindOfWidget());
+    return model;
+}
+
+std::string User::Click(std::string_view form, std::string_view control, int index)
+{
+    std::string refusal;
+    toolkit::WidgetCore* widget = Reach(form, control, index, refusal);
+    if (!widget)
+        return refusal;
+    if (auto* button = dynamic_cast<toolkit::CommandButtonModel*>(widget))
+        button->UserPresses();
+    else if (auto* box = dynamic_cast<toolkit::CheckBoxModel*>(widget))
+        box->UserPresses();
+    else if (auto* option = dynamic_cast<toolkit::OptionButtonModel*>(widget))
+        option->UserPresses();
+    else
+        return widget->FullName() + " is a " + NameOf(widget->KindOfWidget());
+    return {};
+}
+
+std::string User::Choose(std::string_view form, std::string_view combo, int row, int index)
+{
+    const toolkit::EventScope scope(toolkit_);
+    std::string refusal;
+    auto* box = Reach<toolkit::ComboBoxModel>(form, combo, index, refusal);
+    if (!box)
+        return refusal;
+    if (!box->UserOpensList())
+        return box->Refusal();
+    if (row < 0 || row >= static_cast<int>(box->ShownRows().size()))
+        return box->FullName() + " has no row " + std::to_string(row);
+    box->UserChooses(static_cast<Integer>(row));
+    return {};
+}
+
+std::string User::Choose(std::string_view form, std::string_view combo, std::string_view text, int index)
+{
+    const toolkit::EventScope scope(toolkit_);
+    std::string refusal;
+    auto* box = Reach<toolkit::ComboBoxModel>(form, combo, index, refusal);
+    if (!box)
+        return refusal;
+    if (!box->UserOpensList())
+        return box->Refusal();
+    const auto& rows = box->ShownRows();
+    const auto found =
+        std::find_if(rows.begin(), rows.end(), [text](const auto& row) { return row.text == text; });
+    if (found == rows.end())
+        return box->FullName() + " has no row \"" + std::string(text) + "\"";
+    box->UserChooses(static_cast<Integer>(found - rows.begin()));
+    return {};
+}
+
+std::string User::Type(std::string_view form, std::string_view control, std::string_view text, int index)
+{
+    const toolkit::EventScope scope(toolkit_);
+    std::string refusal;
+    auto* box = Reach<toolkit::EditCore>(form, control, index, refusal);
+    if (!box)
+        return refusal;
+    if (!box->AllowsTyping())
+        return box->FullName() + " is locked";
+    box->UserFocuses();
+    box->UserSelectsAll();
+    if (text.empty() && box->ShownSelection().caret > 0)
+        box->UserErases();
+    for (const char32_t character : toolkit::ToCharacters(text))
+        box->UserTypes(character);
+    return {};
+}
+
+std::string User::Press(std::string_view form, std::string_view find, int index)
+{
+    std::string refusal;
+    if (auto* box = Reach<toolkit::FindBoxModel>(form, find, index, refusal))
+        box->UserPresses();
+    return refusal;
+}
+
+std::string User::PressKey(std::string_view form, toolkit::FormKey key)
+{
+    toolkit::FormModel* model = toolkit_.FindForm(form);
+    if (!model)
+        return std::string(form) + " does not exist";
+    if (auto refusal = model->Refusal(); !refusal.empty())
+        return refusal;
+    model->UserPressesKey(key);
+    return {};
+}
+
+std::string User::Focus(std::string_view form, std::string_view control, int index)
+{
+    std::string refusal;
+    toolkit::WidgetCore* widget = Reach(form, control, index, refusal);
+    if (widget && !widget->IsFocusable())
+        return widget->FullName() + " takes no focus";
+    if (widget)
+        widget->UserFocuses();
+    return refusal;
+}
+
+std::string User::Pick(std::string_view form, std::string_view control, const Date& date, int index)
+{
+    std::string refusal;
+    if (auto* box = Reach<toolkit::DateBoxModel>(form, control, index, refusal))
+        box->UserPicks(date);
+    return refusal;
+}
+
+std::string User::Bar(std::string_view form, std::string_view bar, int button)
+{
+    std::string refusal;
+    auto* model = Reach<toolkit::NavigationBarModel>(form, bar, -1, refusal);
+    if (model && !model->Offers(button))
+        return model->FullName() + " does not offer button " + std::to_string(button);
+    if (model)
+        model->UserPresses(button);
+    return refusal;
+}
+
+std::string User::CloseForm(std::string_view form)
+{
+    toolkit::FormModel* model = toolkit_.FindForm(form);
+    if (!model)
+        return std::string(form) + " does not exist";
+    if (auto refusal = model->Refusal(); !refusal.empty())
+        return refusal;
+    model->UserCloses();
+    return {};
+}
+
+User::Point User::MiddleOf(toolkit::GridModel& grid, Long row, std::string& refusal)
+{
+    const toolkit::GridAxis& rows = grid.RowAxis();
+    const toolkit::GridAxis& columns = grid.ColumnAxis();
+    Long column = 0;
+    while (column < columns.Count() && columns.Size(column) == 0)
+        ++column;
+    if (row < 0 || row >= rows.Count() || rows.Size(row) == 0 || column == columns.Count()) {
+        refusal = grid.FullName() + " has no row " + std::to_string(row);
+        return {};
+    }
+    const bool scrolledOut = row >= rows.Fixed()
+        && (row < rows.First()
+            || row >= rows.First() + rows.PageSize(static_cast<Long>(grid.State().height)));
+    if (scrolledOut)
+        grid.UserScrolls(row, columns.First());
+    return {static_cast<Twips>(columns.Start(column)) + static_cast<Twips>(columns.Size(column)) / 2,
+            static_cast<Twips>(rows.Start(row)) + static_cast<Twips>(rows.Size(row)) / 2};
+}
+
+std::string User::Hover(std::string_view form, std::string_view grid, Long row)
+{
+    std::string refusal;
+    auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal);
+    if (!model)
+        return refusal;
+    const Point middle = MiddleOf(*model, row, refusal);
+    if (refusal.empty())
+        model->UserMovesMouse(0, 0, middle.x, middle.y);
+    return refusal;
+}
+
+std::string User::HoverAt(std::string_view form, std::string_view grid, Twips x, Twips y)
+{
+    std::string refusal;
+    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+        model->UserMovesMouse(0, 0, x, y);
+    return refusal;
+}
+
+std::string User::Select(std::string_view form, std::string_view grid, Long row)
+{
+    std::string refusal;
+    auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal);
+    if (!model)
+        return refusal;
+    const Point middle = MiddleOf(*model, row, refusal);
+    if (refusal.empty())
+        model->UserClicks(middle.x, middle.y);
+    return refusal;
+}
+
+std::string User::ClickAt(std::string_view form, std::string_view grid, Twips x, Twips y)
+{
+    std::string refusal;
+    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+        model->UserClicks(x, y);
+    return refusal;
+}
+
+std::string User::DragTo(std::string_view form, std::string_view grid, Twips x, Twips y)
+{
+    std::string refusal;
+    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+        model->UserDrags(x, y);
+    return refusal;
+}
+
+std::string User::GridKey(std::string_view form, std::string_view grid, toolkit::GridKey key)
+{
+    std::string refusal;
+    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+        model->UserKey(key);
+    return refusal;
+}
+
+} // namespace kova::headless

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "toolkits/common/grid.hpp"
+#include "toolkits/headless/toolkit.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace kova::headless {
+
+/// What a person at the screen does, by the names of forms and controls. Where several forms carry a
+/// name, the topmost one is meant.
+///
+/// Each function answers "" where it was done, or why the user could not do it, as in
+/// "frmLista.kvcmdAlterar is not visible"; nothing has changed then.
+class User {
+public:
+    explicit User(HeadlessToolkit& toolkit) : toolkit_(toolkit) { }
+
+    /// Presses a button, check box or option button.
+    std::string Click(std::string_view form, std::string_view control, int index = -1);
+    /// Opens a combo's list, which raises DropDown, and picks a row. Where the row is missing then, the
+    /// list has been opened nevertheless.
+    std::string Choose(std::string_view form, std::string_view combo, int row, int index = -1);
+    std::string Choose(std::string_view form, std::string_view combo, std::string_view text, int index = -1);
+    /// Moves the focus to a box and replaces its content key by key; "" empties it.
+    std::string Type(std::string_view form, std::string_view control, std::string_view text, int index = -1);
+    /// Presses the button of a find box.
+    std::string Press(std::string_view form, std::string_view find, int index = -1);
+    std::string PressKey(std::string_view form, toolkit::FormKey key);
+    std::string Focus(std::string_view form, std::string_view control, int index = -1);
+    /// Picks a day in the calendar of a date box.
+    std::string Pick(std::string_view form, std::string_view control, const Date& date, int index = -1);
+    /// Moves the mouse to the middle of a row, scrolled into view where it is not.
+    std::string Hover(std::string_view form, std::string_view grid, Long row);
+    /// Places are twips inside the grid.
+    std::string HoverAt(std::string_view form, std::string_view grid, Twips x, Twips y);
+    /// Clicks the middle of a row.
+    std::string Select(std::string_view form, std::string_view grid, Long row);
+    std::string ClickAt(std::string_view form, std::string_view grid, Twips x, Twips y);
+    std::string DragTo(std::string_view form, std::string_view grid, Twips x, Twips y);
+    std::string GridKey(std::string_view form, std::string_view grid, toolkit::GridKey key);
+    /// Presses a button of a navigation bar, 1 to 4.
+    std::string Bar(std::string_view form, std::string_view bar, int button);
+    /// The window's own close button.
+    std::string CloseForm(std::string_view form);
+
+private:
+    /// The control as its model where the user can act on it; otherwise null, with the reason.
+    template <class Model>
+    Model* Reach(std::string_view form, std::string_view control, int index, std::string& refusal);
+    toolkit::WidgetCore* Reach(std::string_view form, std::string_view control, int index,
+                               std::string& refusal);
+    struct Point {
+        Twips x = 0;
+        Twips y = 0;
+    };
+    /// The middle of a row, on show after the call; `refusal` says where there is none.
+    Point MiddleOf(toolkit::GridModel& grid, Long row, std::string& refusal);
+
+    HeadlessToolkit& toolkit_;
+};
+
+} // namespace kova::headless
