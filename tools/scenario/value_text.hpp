@@ -1,0 +1,28 @@
+#pragma once
+
+#include "agenda/contracts/business_services.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace kova::scenario {
+
+/// An object that prints as a fixed text, such as the session's user.
+class NamedObject : public Object {
+public:
+    explicit NamedObject(std::string text) : text_(std::move(text)) { }
+    const std::string& PrintedText() const { return text_; }
+
+private:
+    std::string text_;
+};
+
+/// A text in double quotes with the escapes \" \\ \r \n.
+std::string Quoted(std::string_view text);
+
+/// A value as transcripts show it: its type and its content, such as `Long 1` or `Text "x"`.
+std::string Print(const Value& value);
+/// An argument likewise; "&" after the type marks one by reference: `Integer& 15`.
+std::string Print(const Argument& argument);
+
+} // namespace kova::scenario
