@@ -1,0 +1,219 @@
+#pragma once
+
+#include "agenda/contracts/business_services.hpp"
+#include "agenda/contracts/widgets.hpp"
+
+#include <array>
+#include <memory>
+
+namespace kova::agenda {
+
+/// The module's main screen: one day's appointments in a paged grid, with filters above it, a detail
+/// panel below it and the buttons of the row under the mouse.
+///
+/// Its procedures lie by concern: frmLista.cpp sets it up, frmLista_list.cpp loads and pages it,
+/// frmLista_grid.cpp fills the grid and follows the mouse, frmLista_filters.cpp answers the filters,
+/// frmLista_status.cpp the
+/// status buttons, frmLista_panel.cpp and frmLista_layout.cpp place things, frmLista_wait.cpp shows the
+/// wait plate.
+class frmLista : public std::enable_shared_from_this<frmLista> {
+public:
+    /// A new list, hidden, on the toolkit of the host. It lives until its form is unloaded.
+    static std::shared_ptr<frmLista> Criar();
+
+    /// Builds the whole list inside the container and shows it. 1 where it failed, 0 when done.
+    Integer MontarExibirFormulario(Long HandleDoContainer);
+    /// 1 where it failed, 0 when done.
+    Integer ConfigurarGrade();
+    /// Runs a new selection with all filters. 1 where the selection failed, 0 when done.
+    Integer GerarLista();
+    /// Shows a page and the numbers of the bar. Modo: 1 first, 2 previous, 3 next, 4 last page; any
+    /// other value keeps the page.
+    void AtualizarObjetos(Integer Modo);
+    /// Writes the appointment of the current row into the panel and lets its labels flow.
+    void AtualizarPainel();
+    void ExibirOuOcultarPainel(bool& Exibir);
+    /// The wait plate: true shows it and waits one second, false hides it.
+    void ExibirOcultarpicMensagem(bool Exibir);
+
+    FormRef Formulario;
+
+    // The head and the filters.
+    Label& lblTitulo = Bind<Label>(Formulario, "lblTitulo");
+    KVCommandButton& kvcmdAdicionar = Bind<KVCommandButton>(Formulario, "kvcmdAdicionar");
+    KVFind& kvfndPesquisar = Bind<KVFind>(Formulario, "kvfndPesquisar");
+    KVComboBox& kvcmbSituacao = Bind<KVComboBox>(Formulario, "kvcmbSituacao");
+    KVComboBox& kvcmbTiposDeServicos = Bind<KVComboBox>(Formulario, "kvcmbTiposDeServicos");
+    KVComboBox& kvcmbFuncionarios = Bind<KVComboBox>(Formulario, "kvcmbFuncionarios");
+    KVCommandButton& kvcmdIrParaDiaAnterior = Bind<KVCommandButton>(Formulario, "kvcmdIrParaDiaAnterior");
+    KVDTPicker& kvdtpDataDeAgendamento = Bind<KVDTPicker>(Formulario, "kvdtpDataDeAgendamento");
+    KVCommandButton& kvcmdIrParaDiaPosterior = Bind<KVCommandButton>(Formulario, "kvcmdIrParaDiaPosterior");
+    KVCommandButton& kvcmdImprimirLista = Bind<KVCommandButton>(Formulario, "kvcmdImprimirLista");
+    KVNavigationBar& kvnbBarraDeNavegacao = Bind<KVNavigationBar>(Formulario, "kvnbBarraDeNavegacao");
+    Label& lblExibirPainel = Bind<Label>(Formulario, "lblExibirPainel");
+    CheckBox& chkExibirPainel = Bind<CheckBox>(Formulario, "chkExibirPainel");
+    Label& lblMensagemDeResultado = Bind<Label>(Formulario, "lblMensagemDeResultado");
+
+    // The grid, its pictures and the buttons of the row under the mouse.
+    MSFlexGrid& msfgGrade = Bind<MSFlexGrid>(Formulario, "msfgGrade");
+    Image& imgEtiqueta_Situacao_Agendado = Bind<Image>(Formulario, "imgEtiqueta_Situacao_Agendado");
+    Image& imgEtiqueta_Situacao_Atendido = Bind<Image>(Formulario, "imgEtiqueta_Situacao_Atendido");
+    Image& imgEtiqueta_Situacao_Cancelado = Bind<Image>(Formulario, "imgEtiqueta_Situacao_Cancelado");
+    Image& imgEtiqueta_Situacao_Atendido_Gerado_PreVenda =
+        Bind<Image>(Formulario, "imgEtiqueta_Situacao_Atendido_Gerado_PreVenda");
+    KVCommandButton& kvcmdMarcarAgendamentoComoAgendado =
+        Bind<KVCommandButton>(Formulario, "kvcmdMarcarAgendamentoComoAgendado");
+    KVCommandButton& kvcmdMarcarAgendamentoComoAtendido =
+        Bind<KVCommandButton>(Formulario, "kvcmdMarcarAgendamentoComoAtendido");
+    KVCommandButton& kvcmdMarcarAgendamentoComoCancelado =
+        Bind<KVCommandButton>(Formulario, "kvcmdMarcarAgendamentoComoCancelado");
+    KVCommandButton& kvcmdMarcarAgendamentoComoAtendidoEGeradoPreVenda =
+        Bind<KVCommandButton>(Formulario, "kvcmdMarcarAgendamentoComoAtendidoEGeradoPreVenda");
+    KVCommandButton& kvcmdDetalhar = Bind<KVCommandButton>(Formulario, "kvcmdDetalhar");
+    KVCommandButton& kvcmdAlterar = Bind<KVCommandButton>(Formulario, "kvcmdAlterar");
+    KVCommandButton& kvcmdExcluir = Bind<KVCommandButton>(Formulario, "kvcmdExcluir");
+    KVCommandButton& kvcmdImprimirFicha = Bind<KVCommandButton>(Formulario, "kvcmdImprimirFicha");
+
+    // The wait plate.
+    PictureBox& picMensagem = Bind<PictureBox>(Formulario, "picMensagem");
+
+    // The panel: each value stands after its title.
+    PictureBox& picPainel = Bind<PictureBox>(Formulario, "picPainel");
+    Shape& shpShape1 = Bind<Shape>(Formulario, "shpShape1");
+    Shape& shpShape2 = Bind<Shape>(Formulario, "shpShape2");
+    Label& lblTitulo_ApelidoOuNomeFantasiaDoCliente =
+        Bind<Label>(Formulario, "lblTitulo_ApelidoOuNomeFantasiaDoCliente");
+    Label& lblApelidoOuNomeFantasiaDoCliente = Bind<Label>(Formulario, "lblApelidoOuNomeFantasiaDoCliente");
+    Label& lblTitulo_NomeOuRazaoSocialDoCliente =
+        Bind<Label>(Formulario, "lblTitulo_NomeOuRazaoSocialDoCliente");
+    Label& lblNomeOuRazaoSocialDoCliente = Bind<Label>(Formulario, "lblNomeOuRazaoSocialDoCliente");
+    Label& lblTitulo_ComunicacaoDoCliente = Bind<Label>(Formulario, "lblTitulo_ComunicacaoDoCliente");
+    Label& lblComunicacaoDoCliente = Bind<Label>(Formulario, "lblComunicacaoDoCliente");
+    Label& lblTitulo_NomeDoAnimal = Bind<Label>(Formulario, "lblTitulo_NomeDoAnimal");
+    Label& lblNomeDoAnimal = Bind<Label>(Formulario, "lblNomeDoAnimal");
+    Label& lblTitulo_SexoDoAnimal = Bind<Label>(Formulario, "lblTitulo_SexoDoAnimal");
+    Label& lblSexoDoAnimal = Bind<Label>(Formulario, "lblSexoDoAnimal");
+    Label& lblTitulo_PorteDoAnimal = Bind<Label>(Formulario, "lblTitulo_PorteDoAnimal");
+    Label& lblPorteDoAnimal = Bind<Label>(Formulario, "lblPorteDoAnimal");
+    Label& lblTitulo_EspecieDoAnimal = Bind<Label>(Formulario, "lblTitulo_EspecieDoAnimal");
+    Label& lblEspecieDoAnimal = Bind<Label>(Formulario, "lblEspecieDoAnimal");
+    Label& lblTitulo_RacaDoAnimal = Bind<Label>(Formulario, "lblTitulo_RacaDoAnimal");
+    Label& lblRacaDoAnimal = Bind<Label>(Formulario, "lblRacaDoAnimal");
+    Label& lblTitulo_ObservacaoDoAnimal = Bind<Label>(Formulario, "lblTitulo_ObservacaoDoAnimal");
+    Label& lblObservacaoDoAnimal = Bind<Label>(Formulario, "lblObservacaoDoAnimal");
+    Label& lblTitulo_InicioDoServico = Bind<Label>(Formulario, "lblTitulo_InicioDoServico");
+    Label& lblInicioDoServico = Bind<Label>(Formulario, "lblInicioDoServico");
+    Label& lblTitulo_FimDoServico = Bind<Label>(Formulario, "lblTitulo_FimDoServico");
+    Label& lblFimDoServico = Bind<Label>(Formulario, "lblFimDoServico");
+    Label& lblTitulo_NomeDoServico = Bind<Label>(Formulario, "lblTitulo_NomeDoServico");
+    Label& lblNomeDoServico = Bind<Label>(Formulario, "lblNomeDoServico");
+    Label& lblTitulo_Funcionario = Bind<Label>(Formulario, "lblTitulo_Funcionario");
+    Label& lblNomeDoFuncionario = Bind<Label>(Formulario, "lblNomeDoFuncionario");
+    Label& lblTitulo_TransporteBuscar = Bind<Label>(Formulario, "lblTitulo_TransporteBuscar");
+    Label& lblTransporteBuscar = Bind<Label>(Formulario, "lblTransporteBuscar");
+    Label& lblTitulo_TransporteLevar = Bind<Label>(Formulario, "lblTitulo_TransporteLevar");
+    Label& lblTransporteLevar = Bind<Label>(Formulario, "lblTransporteLevar");
+    Label& lblTitulo_ObservacaoDoAgendamento = Bind<Label>(Formulario, "lblTitulo_ObservacaoDoAgendamento");
+    Label& lblObservacaoDoAgendamento = Bind<Label>(Formulario, "lblObservacaoDoAgendamento");
+    Label& lblTitulo_IncluidoOuAlteradoPor = Bind<Label>(Formulario, "lblTitulo_IncluidoOuAlteradoPor");
+    Label& lblIncluidoOuAlteradoPor = Bind<Label>(Formulario, "lblIncluidoOuAlteradoPor");
+
+    // Pop-up menus: each parent is hidden and holds the entries that follow it.
+    Menu& mnuAdicionarAgendamento = Bind<Menu>(Formulario, "mnuAdicionarAgendamento");
+    Menu& mnuAdicionarAgendamentoCompleto = Bind<Menu>(Formulario, "mnuAdicionarAgendamentoCompleto");
+    Menu& mnuAdicionarAgendamentoSimplificado = Bind<Menu>(Formulario, "mnuAdicionarAgendamentoSimplificado");
+    Menu& mnuImprimirLista = Bind<Menu>(Formulario, "mnuImprimirLista");
+    Menu& mnuImprimirListaDeAgendamentos = Bind<Menu>(Formulario, "mnuImprimirListaDeAgendamentos");
+    Menu& mnuImprimirListaDeAgendamentosParaTransporte =
+        Bind<Menu>(Formulario, "mnuImprimirListaDeAgendamentosParaTransporte");
+    Menu& mnuImprimirFicha = Bind<Menu>(Formulario, "mnuImprimirFicha");
+    Menu& mnuImprimirFichaDoAgendamentoParaTransporte =
+        Bind<Menu>(Formulario, "mnuImprimirFichaDoAgendamentoParaTransporte");
+    Menu& mnuImprimirFichaDoAgendamentoParaInspecaoDoAnimal =
+        Bind<Menu>(Formulario, "mnuImprimirFichaDoAgendamentoParaInspecaoDoAnimal");
+    Menu& mnuImprimirEtiquetaDeEndereco = Bind<Menu>(Formulario, "mnuImprimirEtiquetaDeEndereco");
+
+    /// The list's one long-lived business object; it holds the last selection.
+    ComponentRef objAgendaDaLista;
+    /// Rows of a page. Form_Resize computes it from the grid's height; 0 or less on a tiny window.
+    Integer RegistrosPorPagina = 0;
+    /// The page that PreencherGrade shows, from 1.
+    Integer PaginaAtual = 0;
+    /// Swallows the next Click of a filter; set just before code changes a filter's ListIndex.
+    bool IgnorarClick = false;
+    /// The user's edit of the date has reloaded the list already.
+    bool DataAlterada = false;
+    /// The date's text when its box received the focus.
+    Text DataAoEntrar;
+    /// Rows of a page given up to the panel: 2 when it is shown, else 0.
+    Integer LinhasDoPainel = 0;
+    /// Swallows the Click of the panel's check box while the list is built.
+    bool IgnorarClickDoPainel = false;
+    /// A status is chosen or a search is in force.
+    bool ListaFiltrada = false;
+    /// Page of the unfiltered list to come back to; 0 until a filter was first entered.
+    Integer PaginaSalva = 0;
+
+private:
+    frmLista();
+    void LigarEventos();
+    void AoDescarregar();
+
+    void PreencherComboBoxDeSituacao();
+    Integer PreencherComboboxTiposDeServicos();
+    Integer PreencherComboboxFuncionarios();
+    void PreencherDicasDosBotoes();
+    void LerExibicaoDoPainel();
+
+    RecordSetRef ResultadoDaSelecao();
+    void ExibirLista();
+    void ExibirListaVazia();
+    void PreencherBarraDeNavegacao(Integer Modo, Long total, Integer& Ponto);
+
+    Integer PreencherGrade();
+    void PreencherLinha(Long linha, const RecordSet& pagina);
+    void msfgGrade_SelChange();
+    void msfgGrade_MouseMove(Integer Button, Integer Shift, Twips X, Twips Y);
+    void PosicionarBotoesDaLinha();
+    std::array<KVCommandButton*, 8> BotoesDaLinha();
+
+    void RecarregarDepoisDaEspera();
+    void GuardarPaginaAoFiltrar(bool entraNoFiltro);
+    void IrParaOutroDia(Long dias, Integer& Ponto);
+    void kvcmbFuncionarios_Click();
+    void kvcmbTiposDeServicos_Click();
+    void kvcmbSituacao_Click();
+    void kvfndPesquisar_Click();
+    void kvcmdIrParaDiaAnterior_Click();
+    void kvcmdIrParaDiaPosterior_Click();
+    void kvdtpDataDeAgendamento_Change();
+    void kvdtpDataDeAgendamento_GotFocus();
+    void kvdtpDataDeAgendamento_LostFocus();
+    void kvnbBarraDeNavegacao_Click(Integer& Botao);
+
+    void kvcmdMarcarAgendamentoComoAgendado_Click();
+    void kvcmdMarcarAgendamentoComoAtendido_Click();
+    void kvcmdMarcarAgendamentoComoCancelado_Click();
+    void kvcmdMarcarAgendamentoComoAtendidoEGeradoPreVenda_Click();
+    void MarcarAgendamento(Integer SituacaoNova, Integer& Ponto);
+    bool AlterarSituacaoDoAgendamento(Integer SituacaoNova, Integer SituacaoAtual);
+    Text MotivoParaNaoGerarPreVenda();
+    bool PerguntarPeloPacote(Integer SituacaoNova);
+    Double NumeroDaCelula(Long coluna);
+
+    void PreencherRotulosDoPainel(MSFlexGrid& grade);
+    void AlinharRotulosDoPainel();
+    void chkExibirPainel_Click();
+
+    void Form_Resize();
+    void PosicionarFiltros();
+    void PosicionarGradeEPainel();
+    void AjustarColunasALarguraDaTela();
+
+    void PosicionarpicMensagem();
+
+    /// The row that the mouse was over last; kept also when another page is loaded.
+    Integer UltimaLinhaSobOMouse = 0;
+};
+
+} // namespace kova::agenda

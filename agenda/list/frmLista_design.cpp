@@ -1,0 +1,361 @@
+#include "agenda/list/frmLista_design.hpp"
+
+namespace kova::agenda {
+
+namespace {
+
+using Kind = WidgetKind;
+
+constexpr Colour CinzaEscuro = Rgb(73, 73, 73);
+constexpr Colour CinzaDoTitulo = Rgb(110, 110, 110);
+constexpr Colour FundoDoPainel = Rgb(250, 250, 250);
+
+// Pitch of the panel's rows: four of them fit below a full page on a screen of 768 rows.
+constexpr Twips PrimeiraLinhaDoPainel = 55;
+constexpr Twips PassoDoPainel = 260;
+constexpr Twips MargemDoPainel = 90;
+constexpr Twips InicioDosRotulos = 840;
+
+ControlDesign BotaoDaLinha(const char* nome, const char* icone, const char* acao)
+{
+    return {.kind = Kind::KVCommandButton,
+            .name = nome,
+            .width = 570,
+            .height = 570,
+            .caption = " ",
+            .visible = false,
+            .tabStop = false,
+            .accessibleName = acao,
+            .backColor = 14277081,
+            .icon = icone,
+            .highlightColor = 12895428,
+            .fontColor = colours::White};
+}
+
+ControlDesign SetaDeDia(const char* nome, const char* icone, const char* acao)
+{
+    return {.kind = Kind::KVCommandButton,
+            .name = nome,
+            .width = 360,
+            .height = 510,
+            .caption = " ",
+            .toolTipText = acao,
+            .accessibleName = acao,
+            .backColor = colours::White,
+            .icon = icone,
+            .highlightColor = 16185078,
+            .fontColor = colours::White};
+}
+
+ControlDesign Filtro(const char* nome, const char* acao)
+{
+    return {.kind = Kind::KVComboBox,
+            .name = nome,
+            .width = 2460,
+            .height = 510,
+            .toolTipText = acao,
+            .accessibleName = acao};
+}
+
+ControlDesign Imagem(const char* nome, const char* figura)
+{
+    return {.kind = Kind::Image, .name = nome, .visible = false, .picture = figura};
+}
+
+ControlDesign Secao(const char* nome, const char* texto, int linha)
+{
+    return {.kind = Kind::Label,
+            .name = nome,
+            .container = "picPainel",
+            .left = MargemDoPainel,
+            .top = PrimeiraLinhaDoPainel + PassoDoPainel * static_cast<Twips>(linha),
+            .caption = texto,
+            .autoSize = true,
+            .fontSize = 9,
+            .fontBold = true,
+            .foreColor = CinzaEscuro};
+}
+
+ControlDesign Titulo(const char* nome, const char* texto, int linha)
+{
+    return {.kind = Kind::Label,
+            .name = nome,
+            .container = "picPainel",
+            .left = InicioDosRotulos,
+            .top = PrimeiraLinhaDoPainel + PassoDoPainel * static_cast<Twips>(linha),
+            .caption = texto,
+            .autoSize = true,
+            .fontSize = 9,
+            .foreColor = CinzaDoTitulo};
+}
+
+ControlDesign Valor(const char* nome, int linha)
+{
+    ControlDesign rotulo = Titulo(nome, "", linha);
+    rotulo.foreColor = colours::Black;
+    return rotulo;
+}
+
+ControlDesign MenuPai(const char* nome) { return {.kind = Kind::Menu, .name = nome, .visible = false}; }
+
+ControlDesign EntradaDeMenu(const char* nome, const char* pai, const char* texto)
+{
+    return {.kind = Kind::Menu, .name = nome, .container = pai, .caption = texto};
+}
+
+void Append(std::vector<ControlDesign>& all, std::vector<ControlDesign> more)
+{
+    all.insert(all.end(), more.begin(), more.end());
+}
+
+std::vector<ControlDesign> CabecalhoEFiltros()
+{
+    return {
+        {.kind = Kind::Label,
+         .name = "lblTitulo",
+         .left = 300,
+         .top = 350,
+         .caption = "Agenda",
+         .autoSize = true,
+         .fontSize = 20.25F,
+         .foreColor = CinzaEscuro},
+        {.kind = Kind::KVCommandButton,
+         .name = "kvcmdAdicionar",
+         .left = 300,
+         .top = 1200,
+         .width = 1530,
+         .height = 510,
+         .caption = "    Adicionar",
+         .toolTipText = "Adicionar agendamento",
+         .backColor = 16617293,
+         .icon = "adicionar",
+         .highlightColor = 14530157,
+         .fontColor = colours::White},
+        {.kind = Kind::KVFind,
+         .name = "kvfndPesquisar",
+         .left = 1930,
+         .top = 1200,
+         .width = 2460,
+         .height = 510,
+         .caption = "Agenda",
+         .toolTipText = "Código, Nome, Apelido, Nome Fantasia, Razão Social, Endereço, CPF ou CNPJ",
+         .toolTipTextOfTextBox =
+             "Código, Nome, Apelido, Nome Fantasia, Razão Social, Endereço, CPF ou CNPJ do "
+             "cliente ou Código, Nome ou Microchip do animal",
+         .accessibleName = "Pesquisar na agenda",
+         .placeholder = "Pesquisar"},
+        Filtro("kvcmbSituacao", "Situação"),
+        SetaDeDia("kvcmdIrParaDiaAnterior", "anterior", "Dia anterior"),
+        {.kind = Kind::KVDTPicker,
+         .name = "kvdtpDataDeAgendamento",
+         .width = 1605,
+         .height = 510,
+         .toolTipText = "Dia da agenda",
+         .accessibleName = "Dia da agenda"},
+        SetaDeDia("kvcmdIrParaDiaPosterior", "posterior", "Próximo dia"),
+        {.kind = Kind::KVCommandButton,
+         .name = "kvcmdImprimirLista",
+         .width = 510,
+         .height = 510,
+         .caption = " ",
+         .accessibleName = "Imprimir lista",
+         .backColor = colours::Black,
+         .icon = "imprimir",
+         .highlightColor = 8421504,
+         .fontColor = colours::White},
+        Filtro("kvcmbTiposDeServicos", "Tipo de serviço"),
+        Filtro("kvcmbFuncionarios", "Funcionário"),
+        {.kind = Kind::Label,
+         .name = "lblExibirPainel",
+         .caption = "Exibir painel",
+         .autoSize = true,
+         .labelOf = "chkExibirPainel",
+         .fontSize = 9,
+         .foreColor = CinzaDoTitulo},
+        {.kind = Kind::CheckBox,
+         .name = "chkExibirPainel",
+         .width = 240,
+         .height = 240,
+         .accessibleName = "Exibir painel"},
+        {.kind = Kind::KVNavigationBar,
+         .name = "kvnbBarraDeNavegacao",
+         .width = 5220,
+         .height = 795,
+         .accessibleName = "Páginas da agenda"},
+        {.kind = Kind::Label,
+         .name = "lblMensagemDeResultado",
+         .caption = "Mensagem de resultado",
+         .visible = false,
+         .autoSize = true,
+         .fontSize = 12,
+         .foreColor = CinzaEscuro},
+    };
+}
+
+std::vector<ControlDesign> GradeEBotoesDaLinha()
+{
+    return {
+        {.kind = Kind::MSFlexGrid,
+         .name = "msfgGrade",
+         .left = 300,
+         .top = 2470,
+         .width = 12000,
+         .height = 6000,
+         .accessibleName = "Agendamentos do dia"},
+        Imagem("imgEtiqueta_Situacao_Agendado", "etiqueta_agendado"),
+        Imagem("imgEtiqueta_Situacao_Atendido", "etiqueta_atendido"),
+        Imagem("imgEtiqueta_Situacao_Cancelado", "etiqueta_cancelado"),
+        Imagem("imgEtiqueta_Situacao_Atendido_Gerado_PreVenda", "etiqueta_atendido_gerado_pre_venda"),
+        BotaoDaLinha("kvcmdMarcarAgendamentoComoAgendado", "agendado", "Marcar agendamento como agendado"),
+        BotaoDaLinha("kvcmdMarcarAgendamentoComoAtendido", "atendido", "Marcar agendamento como atendido"),
+        BotaoDaLinha("kvcmdMarcarAgendamentoComoCancelado", "cancelado", "Marcar agendamento como cancelado"),
+        BotaoDaLinha("kvcmdMarcarAgendamentoComoAtendidoEGeradoPreVenda", "pre_venda",
+                     "Marcar agendamento como atendido e gerado pré-venda"),
+        BotaoDaLinha("kvcmdDetalhar", "detalhar", "Detalhar"),
+        BotaoDaLinha("kvcmdAlterar", "alterar", "Alterar"),
+        BotaoDaLinha("kvcmdExcluir", "excluir", "Excluir"),
+        BotaoDaLinha("kvcmdImprimirFicha", "imprimir", "Imprimir fichas ou etiqueta"),
+    };
+}
+
+std::vector<ControlDesign> Painel()
+{
+    return {
+        {.kind = Kind::PictureBox,
+         .name = "picPainel",
+         .width = 12000,
+         .height = 1120,
+         .visible = false,
+         .accessibleName = "Detalhes do agendamento",
+         .backColor = FundoDoPainel},
+        {.kind = Kind::Shape,
+         .name = "shpShape1",
+         .container = "picPainel",
+         .top = 0,
+         .width = 12000,
+         .height = 15,
+         .backColor = Rgb(217, 217, 217)},
+        {.kind = Kind::Shape,
+         .name = "shpShape2",
+         .container = "picPainel",
+         .top = 1105,
+         .width = 12000,
+         .height = 15,
+         .backColor = Rgb(217, 217, 217)},
+
+        Secao("lblTitulo_Cliente", "Cliente:", 0),
+        Titulo("lblTitulo_ApelidoOuNomeFantasiaDoCliente", "Apelido:", 0),
+        Valor("lblApelidoOuNomeFantasiaDoCliente", 0),
+        Titulo("lblTitulo_NomeOuRazaoSocialDoCliente", "Nome:", 0),
+        Valor("lblNomeOuRazaoSocialDoCliente", 0),
+        Titulo("lblTitulo_ComunicacaoDoCliente", "Comunicação:", 0),
+        Valor("lblComunicacaoDoCliente", 0),
+
+        Secao("lblTitulo_Animal", "Animal:", 1),
+        Titulo("lblTitulo_NomeDoAnimal", "Nome:", 1),
+        Valor("lblNomeDoAnimal", 1),
+        Titulo("lblTitulo_SexoDoAnimal", "Sexo:", 1),
+        Valor("lblSexoDoAnimal", 1),
+        Titulo("lblTitulo_PorteDoAnimal", "Porte:", 1),
+        Valor("lblPorteDoAnimal", 1),
+        Titulo("lblTitulo_EspecieDoAnimal", "Espécie:", 1),
+        Valor("lblEspecieDoAnimal", 1),
+        Titulo("lblTitulo_RacaDoAnimal", "Raça:", 1),
+        Valor("lblRacaDoAnimal", 1),
+        Titulo("lblTitulo_ObservacaoDoAnimal", "Obs.:", 1),
+        Valor("lblObservacaoDoAnimal", 1),
+
+        Secao("lblTitulo_Servico", "Serviço:", 2),
+        Titulo("lblTitulo_InicioDoServico", "Inicio:", 2),
+        Valor("lblInicioDoServico", 2),
+        Titulo("lblTitulo_FimDoServico", "Fim:", 2),
+        Valor("lblFimDoServico", 2),
+        Titulo("lblTitulo_NomeDoServico", "Nome:", 2),
+        Valor("lblNomeDoServico", 2),
+        Titulo("lblTitulo_Funcionario", "Funcionário:", 2),
+        Valor("lblNomeDoFuncionario", 2),
+
+        Secao("lblTitulo_Transporte", "Obs.:", 3),
+        Titulo("lblTitulo_TransporteBuscar", "Buscar:", 3),
+        Valor("lblTransporteBuscar", 3),
+        Titulo("lblTitulo_TransporteLevar", "Levar:", 3),
+        Valor("lblTransporteLevar", 3),
+        Titulo("lblTitulo_ObservacaoDoAgendamento", "Observação:", 3),
+        Valor("lblObservacaoDoAgendamento", 3),
+        Titulo("lblTitulo_IncluidoOuAlteradoPor", "Incluído por:", 3),
+        Valor("lblIncluidoOuAlteradoPor", 3),
+    };
+}
+
+std::vector<ControlDesign> PlacaDeEspera()
+{
+    return {
+        {.kind = Kind::PictureBox,
+         .name = "picMensagem",
+         .width = 4200,
+         .height = 900,
+         .visible = false,
+         .accessibleName = "Aguarde",
+         .backColor = Rgb(77, 143, 253)},
+        {.kind = Kind::Label,
+         .name = "lblMensagem",
+         .container = "picMensagem",
+         .left = 0,
+         .top = 300,
+         .width = 4200,
+         .height = 300,
+         .caption = "Aguarde, pesquisando...",
+         .alignment = 2,
+         .fontSize = 11,
+         .foreColor = colours::White},
+    };
+}
+
+std::vector<ControlDesign> Menus()
+{
+    return {
+        MenuPai("mnuAdicionarAgendamento"),
+        EntradaDeMenu("mnuAdicionarAgendamentoCompleto", "mnuAdicionarAgendamento", "Agendamento completo"),
+        EntradaDeMenu("mnuAdicionarAgendamentoSimplificado", "mnuAdicionarAgendamento",
+                      "Agendamento Simplificado"),
+        MenuPai("mnuImprimirLista"),
+        EntradaDeMenu("mnuImprimirListaDeAgendamentos", "mnuImprimirLista", "Lista de agendamentos"),
+        EntradaDeMenu("mnuImprimirListaDeAgendamentosParaTransporte", "mnuImprimirLista",
+                      "Lista de agendamentos para transporte"),
+        MenuPai("mnuImprimirFicha"),
+        EntradaDeMenu("mnuImprimirFichaDoAgendamentoParaTransporte", "mnuImprimirFicha",
+                      "Imprimir ficha do agendamento para transporte"),
+        EntradaDeMenu("mnuImprimirFichaDoAgendamentoParaInspecaoDoAnimal", "mnuImprimirFicha",
+                      "Imprimir ficha do agendamento para inspeção do animal"),
+        EntradaDeMenu("Separador", "mnuImprimirFicha", "-"),
+        EntradaDeMenu("mnuImprimirEtiquetaDeEndereco", "mnuImprimirFicha", "Etiqueta de endereço"),
+    };
+}
+
+FormDesign Desenhar()
+{
+    FormDesign design{.name = "frmLista",
+                      .caption = "Agenda",
+                      .width = 15360,
+                      .height = 10800,
+                      .backColor = colours::White,
+                      .bordered = false,
+                      .resizable = true,
+                      .controls = {}};
+    Append(design.controls, CabecalhoEFiltros());
+    Append(design.controls, GradeEBotoesDaLinha());
+    Append(design.controls, Painel());
+    Append(design.controls, PlacaDeEspera());
+    Append(design.controls, Menus());
+    return design;
+}
+
+} // namespace
+
+const FormDesign& DesenhoDefrmLista()
+{
+    static const FormDesign design = Desenhar();
+    return design;
+}
+
+} // namespace kova::agenda

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "agenda/contracts/value.hpp"
+
+#include <memory>
+#include <vector>
+
+namespace kova::agenda {
+
+class frmLista;
+
+/// State of the module that more than one screen reads. One instance lives until the library is
+/// unloaded; a second AbrirLista overwrites it. One thread, so nothing guards it.
+struct modPrincipal {
+    /// The day the list shows, "dd/mm/yyyy".
+    Text DataDaAgenda;
+    /// The list form of this session.
+    std::shared_ptr<frmLista> FormularioDaLista;
+    /// The shell's user object, passed on as it stands.
+    ObjectRef DadosDoUsuario;
+    /// Title of every message box; empty if the shell never set it.
+    Text NomeDaAplicacao;
+    /// Window handle of the shell's main window, the one dimmed behind dialogs.
+    Long HandleDaJanelaPrincipal = 0;
+    /// Swallows the next Click of the service search's type combo.
+    bool IgnorarClickDoTipoNaPesquisa = false;
+    /// Arguments of the combo fills; set to 0 just before each call.
+    Double FiltroDosTiposDeServicos = 0;
+    Double FiltroDosFuncionarios = 0;
+    /// Nothing sets it, so printing always dims.
+    bool SemFundoEscuroNaImpressao = false;
+    /// Built for the customer's banner.
+    Text TextoDoCliente;
+
+    /// Lists that are on the screen. A list belongs to the shell's window: it lives here until its form
+    /// is unloaded, also when a later AbrirLista has taken its place above.
+    std::vector<std::shared_ptr<frmLista>> ListasAbertas;
+};
+
+modPrincipal& Principal();
+
+/// Back to the state of a library that was just loaded. Closes the lists that are still open.
+void ReiniciarModulo();
+
+} // namespace kova::agenda

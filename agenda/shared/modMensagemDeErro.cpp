@@ -1,0 +1,26 @@
+#include "agenda/shared/modMensagemDeErro.hpp"
+
+#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/module_platform.hpp"
+
+namespace kova::agenda {
+
+void MensagemDeErro(Value Numero, Value Descricao, Value Local)
+{
+    // 1. The error screen is created for this report alone.
+    const ComponentRef objMensagem = CreateObject("KOVA_A_MsgErro.clsMensagem");
+    // 2. It shows the report until the user closes it.
+    objMensagem->Call("Exibir",
+                      {ByRef(Numero), ByRef(Descricao), ByRef(Local), ByRef(Principal().NomeDaAplicacao)});
+    // 3. The object is released at the end of this block.
+}
+
+void MensagemDeErroDoObjeto(Component& objeto)
+{
+    const Value numero = objeto.Get("NumeroDoErro");
+    const Value descricao = objeto.Get("DescricaoDoErro");
+    const Value local = objeto.Get("LocalDoErro");
+    MensagemDeErro(numero, descricao, local);
+}
+
+} // namespace kova::agenda

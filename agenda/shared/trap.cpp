@@ -1,0 +1,43 @@
+#include "agenda/shared/trap.hpp"
+
+#include "agenda/shared/modMensagemDeErro.hpp"
+
+#include <new>
+#include <string>
+
+namespace kova::agenda {
+
+namespace {
+
+void Report(const Failure& failure, const char* tag, Integer Ponto)
+{
+    MensagemDeErro(failure.Number(), failure.Description(),
+                   NomeDoExecutavel + Text(tag) + std::to_string(Ponto));
+}
+
+/// The failure in flight, also where it comes from the language's own library.
+Failure Current()
+{
+    try {
+        throw;
+    } catch (const Failure& failure) {
+        return failure;
+    } catch (const std::bad_alloc&) {
+        return Failure(FailureNumber::OutOfMemory);
+    } catch (const std::exception& error) {
+        return Failure(FailureNumber::InvalidArgument, error.what());
+    }
+}
+
+} // namespace
+
+void ReportTrapped(const char* tag, Integer Ponto) noexcept
+{
+    try {
+        Report(Current(), tag, Ponto);
+    } catch (const std::exception&) {
+        // The error screen could not be shown: there is nobody left to tell.
+    }
+}
+
+} // namespace kova::agenda
