@@ -46,14 +46,16 @@ Integer ComboBoxModel::ListCount() const
 
 kova::Text ComboBoxModel::List(Integer row) const
 {
-    Reading("List");
+    if (auto* observer = Observer())
+        observer->Read(AccessToElement("List", row));
     const bool exists = row >= 0 && row < static_cast<int>(rows_.size());
     return exists ? rows_[static_cast<std::size_t>(row)].text : kova::Text();
 }
 
 Long ComboBoxModel::ItemData(Integer row) const
 {
-    Reading("ItemData");
+    if (auto* observer = Observer())
+        observer->Read(AccessToElement("ItemData", row));
     if (row < 0 || row >= static_cast<int>(rows_.size()))
         throw Failure(FailureNumber::BadListRow);
     return rows_[static_cast<std::size_t>(row)].data;
@@ -61,7 +63,8 @@ Long ComboBoxModel::ItemData(Integer row) const
 
 void ComboBoxModel::ItemData(Integer row, Long data)
 {
-    Writing("ItemData", data);
+    if (auto* observer = Observer())
+        observer->Write(AccessToElement("ItemData", row), data);
     if (row < 0 || row >= static_cast<int>(rows_.size()))
         throw Failure(FailureNumber::BadListRow);
     rows_[static_cast<std::size_t>(row)].data = data;

@@ -78,6 +78,8 @@ std::string FormModel::Refusal() const
 {
     if (!state_.visible)
         return design_.name + " is not visible";
+    if (toolkit_.IsAsking())
+        return design_.name + " is behind a message box or menu";
     if (toolkit_.IsShutOut(*this))
         return design_.name + " is under a modal form";
     if (!state_.enabled)

@@ -150,14 +150,6 @@ void GridModel::ColSel(Long col)
     Select(cursor_, {corner_.row, col});
 }
 
-MemberAccess GridModel::AccessToElement(std::string_view member, Long first) const
-{
-    MemberAccess access = AccessTo(member);
-    access.indexCount = 1;
-    access.indexes[0] = first;
-    return access;
-}
-
 MemberAccess GridModel::AccessToCell(std::string_view member, Long row, Long col) const
 {
     MemberAccess access = AccessToElement(member, row);

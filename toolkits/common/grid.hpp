@@ -209,7 +209,6 @@ private:
     void TouchAll();
     void Announce();
     template <class T> void WriteLook(std::string_view member, T GridLook::*field, T value);
-    MemberAccess AccessToElement(std::string_view member, Long first) const;
     MemberAccess AccessToCell(std::string_view member, Long row, Long col) const;
     void ClickCell(GridCell cell);
     void ClickHeader();

@@ -36,6 +36,8 @@ FormRef ToolkitModel::CreateForm(const FormDesign& design)
         std::unique_ptr<FormModel> last(left);
         if (const auto alive = toolkit.lock())
             (*alive)->Retire(std::move(last));
+        else
+            static_cast<void>(last.release());
     };
     return std::shared_ptr<FormModel>(form.release(), std::move(retire));
 }

@@ -38,6 +38,8 @@ public:
     FormModel* FindForm(std::string_view name) const;
     /// Whether a modal form that was shown later, a message box or a pop-up menu keeps the user out.
     bool IsShutOut(const FormModel& form) const;
+    /// Whether a message box or a pop-up menu is open.
+    bool IsAsking() const { return closedDepth_ > 0; }
     /// Whether an event is on the stack.
     bool IsInsideEvent() const { return eventDepth_ > 0; }
 
@@ -108,7 +110,8 @@ private:
     std::vector<FormModel*> shown_;
     std::vector<FormModel*> modal_;
     std::vector<std::unique_ptr<FormModel>> retired_;
-    /// Expires with the toolkit: a form that outlives it is then destroyed by its last holder.
+    /// Expires with the toolkit. A form that outlives it all the same is never destroyed, as its window
+    /// and views could not be.
     std::shared_ptr<ToolkitModel*> alive_;
 };
 

@@ -120,6 +120,14 @@ MemberAccess WidgetCore::AccessTo(std::string_view member) const
     return {form_.Design().name, design_.name, design_.index, member};
 }
 
+MemberAccess WidgetCore::AccessToElement(std::string_view member, Long index) const
+{
+    MemberAccess access = AccessTo(member);
+    access.indexCount = 1;
+    access.indexes[0] = index;
+    return access;
+}
+
 void WidgetCore::ByUser(const std::function<void()>& action)
 {
     form_.ByUser([this, &action] {

@@ -112,6 +112,7 @@ protected:
 
     AccessObserver* Observer() const;
     MemberAccess AccessTo(std::string_view member) const;
+    MemberAccess AccessToElement(std::string_view member, Long index) const;
     void Reading(std::string_view member) const
     {
         if (auto* observer = Observer())

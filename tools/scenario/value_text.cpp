@@ -10,7 +10,7 @@ std::string PrintObject(const ObjectRef& object)
 {
     if (!object)
         return "<nothing>";
-    if (const auto* named = dynamic_cast<const NamedObject*>(object.get()))
+    if (const auto* named = dynamic_cast<const PrintedObject*>(object.get()))
         return named->PrintedText();
     if (dynamic_cast<const RecordSet*>(object.get()))
         return "<recordset>";

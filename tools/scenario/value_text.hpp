@@ -8,10 +8,16 @@
 namespace kova::scenario {
 
 /// An object that prints as a fixed text, such as the session's user.
-class NamedObject : public Object {
+class PrintedObject {
+public:
+    virtual ~PrintedObject() = default;
+    virtual std::string PrintedText() const = 0;
+};
+
+class NamedObject : public Object, public PrintedObject {
 public:
     explicit NamedObject(std::string text) : text_(std::move(text)) { }
-    const std::string& PrintedText() const { return text_; }
+    std::string PrintedText() const override { return text_; }
 
 private:
     std::string text_;

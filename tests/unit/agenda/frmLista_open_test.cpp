@@ -249,8 +249,8 @@ TEST_F(OpeningTheList, ShowsThePanelAtTheFirstStartAndRemembersIt)
 {
     ScriptAppointments(3);
     const auto lista = Open();
-    EXPECT_EQ(profile.values["ExibirPainel/CheckBoxExibirPainel"], "1");
-    EXPECT_EQ(profile.lastPath, "/configuracao/KOVA_A_Agenda.ini");
+    EXPECT_EQ(profile.ValueOf("ExibirPainel", "CheckBoxExibirPainel"), "1");
+    EXPECT_EQ(profile.LastPath(), "/configuracao/KOVA_A_Agenda.ini");
     EXPECT_EQ(lista->LinhasDoPainel, 2);
     EXPECT_TRUE(lista->picPainel.Visible());
     EXPECT_FALSE(lista->IgnorarClickDoPainel);
@@ -259,7 +259,7 @@ TEST_F(OpeningTheList, ShowsThePanelAtTheFirstStartAndRemembersIt)
 TEST_F(OpeningTheList, HidesThePanelForEverySettingThatIsNotOne)
 {
     for (const char* setting : {"0", "", "não", "abc1"}) {
-        profile.values["ExibirPainel/CheckBoxExibirPainel"] = setting;
+        profile.Put("ExibirPainel", "CheckBoxExibirPainel", setting);
         ScriptAppointments(3);
         const auto lista = Open();
         EXPECT_EQ(lista->chkExibirPainel.Value(), 0) << setting;
@@ -272,7 +272,7 @@ TEST_F(OpeningTheList, HidesThePanelForEverySettingThatIsNotOne)
 
 TEST_F(OpeningTheList, TakesTheSentinelInTheFileForAMissingSetting)
 {
-    profile.values["ExibirPainel/CheckBoxExibirPainel"] = "Nenhum valor lido";
+    profile.Put("ExibirPainel", "CheckBoxExibirPainel", "Nenhum valor lido");
     const auto lista = Open();
     EXPECT_EQ(lista->chkExibirPainel.Value(), 1);
     EXPECT_EQ(Lines("settings write").size(), 1U);

@@ -105,7 +105,7 @@ TEST_F(ThePanel, SavesTheSwitchFirstAndThenGoesToTheFirstPage)
     EXPECT_EQ(lista->msfgGrade.Rows(), 22);
 
     EXPECT_EQ(user.Click("frmLista", "chkExibirPainel"), "");
-    EXPECT_EQ(profile.values["ExibirPainel/CheckBoxExibirPainel"], "1");
+    EXPECT_EQ(profile.ValueOf("ExibirPainel", "CheckBoxExibirPainel"), "1");
     EXPECT_EQ(lista->LinhasDoPainel, 2);
     EXPECT_EQ(lista->RegistrosPorPagina, 19);
     EXPECT_TRUE(lista->picPainel.Visible());

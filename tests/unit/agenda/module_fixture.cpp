@@ -2,7 +2,6 @@
 
 namespace kova::agenda {
 
-using scenario::Quoted;
 using scenario::RecordTable;
 using scenario::ScriptedAnswer;
 
@@ -34,28 +33,10 @@ std::vector<std::string> Beginning(const std::vector<std::string>& all, const st
 
 } // namespace
 
-Text MemoryProfile::Read(const Text& section, const Text& key, const Text& defaultValue, Integer size,
-                         const Text& path) const
-{
-    lastPath = path;
-    const auto found = values.find(section + "/" + key);
-    const Text value =
-        found == values.end() ? defaultValue : found->second.substr(0, static_cast<std::size_t>(size));
-    lines_.push_back("settings read " + Quoted(section) + " " + Quoted(key) + " -> " + Quoted(value));
-    return value;
-}
-
-bool MemoryProfile::Write(const Text& section, const Text& key, const Text& value, const Text& path)
-{
-    lastPath = path;
-    values[section + "/" + key] = value;
-    lines_.push_back("settings write " + Quoted(section) + " " + Quoted(key) + " " + Quoted(value));
-    return true;
-}
-
 ModuleTest::ModuleTest()
 {
     crossings->line = [this](const std::string& line) { lines.push_back(line); };
+    profile.line = crossings->line;
     toolkit.Clock().Set({{2026, 11, 20}, {10, 15, 0}});
     container = toolkit.CreateContainer(ContainerWidth, ContainerHeight);
     script.Always("KOVA_N_TipoDeServ.clsTiposDeServ.SelecionarParaComboBox",

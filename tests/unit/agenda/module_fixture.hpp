@@ -8,6 +8,7 @@
 #include "toolkits/common/grid.hpp"
 #include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
+#include "tools/scenario/memory_profile.hpp"
 #include "tools/scenario/observed_components.hpp"
 #include "tools/scenario/scripted_components.hpp"
 #include "tools/scenario/value_text.hpp"
@@ -19,21 +20,6 @@
 #include <vector>
 
 namespace kova::agenda {
-
-/// The settings file, in memory. Every access is a line of the same log as the business crossings.
-class MemoryProfile : public Profile {
-public:
-    explicit MemoryProfile(std::vector<std::string>& lines) : lines_(lines) { }
-    Text Read(const Text& section, const Text& key, const Text& defaultValue, Integer size,
-              const Text& path) const override;
-    bool Write(const Text& section, const Text& key, const Text& value, const Text& path) override;
-
-    std::map<std::string, std::string> values;
-    mutable std::string lastPath;
-
-private:
-    std::vector<std::string>& lines_;
-};
 
 /// The module on the headless toolkit, its components answered from a script: three service types, two
 /// employees and no appointment unless a test says otherwise. It is 20/11/2026, 10:15.
@@ -73,7 +59,7 @@ protected:
     scenario::ObservedComponents observed{script, crossings};
     headless::HeadlessToolkit toolkit;
     headless::User user{toolkit};
-    MemoryProfile profile{lines};
+    scenario::MemoryProfile profile;
     Long container = 0;
     std::string application = "Kova";
     bool withUser = true;

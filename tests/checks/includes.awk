@@ -1,0 +1,120 @@
+# Reads names of source files, one a line, relative to the repository root, and checks their includes.
+# Exit status 1 where one breaks a rule.
+
+# Project headers that a folder may include (by their first folders), and families of system headers:
+# std, posix, qt, soci, gtest, other. "*" is everything.
+function rule(folder, projectFolders, systemFamilies) {
+    projectAllowed[folder] = projectFolders
+    systemAllowed[folder] = systemFamilies
+}
+
+BEGIN {
+    rule("agenda", "agenda", "std")
+    rule("reports", "agenda/contracts reports", "std")
+    rule("toolkits/common", "agenda/contracts toolkits/common", "std")
+    rule("toolkits/headless", "agenda/contracts toolkits/common toolkits/headless", "std")
+    rule("toolkits/qt", "agenda/contracts toolkits/common toolkits/qt reports", "std qt")
+    rule("family", "agenda/contracts family", "std posix soci")
+    rule("family/presentation", "agenda/contracts family/presentation", "std qt")
+    rule("host/components", "agenda/contracts host/components", "std posix")
+    rule("host", "*", "*")
+    rule("tools", "*", "*")
+    rule("tests", "*", "*")
+    rule("bench", "*", "*")
+
+    names = "algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts" \
+        " condition_variable coroutine deque exception execution filesystem forward_list fstream functional" \
+        " future initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map" \
+        " memory memory_resource mutex new numbers numeric optional ostream queue random ranges ratio regex" \
+        " scoped_allocator semaphore set shared_mutex source_location span sstream stack stdexcept" \
+        " stop_token streambuf string string_view syncstream system_error thread tuple type_traits typeindex" \
+        " typeinfo unordered_map unordered_set utility valarray variant vector version cassert cctype cerrno" \
+        " cfenv cfloat cinttypes climits clocale cmath csetjmp csignal cstdarg cstddef cstdint cstdio" \
+        " cstdlib cstring ctime cuchar cwchar cwctype"
+    count = split(names, list, " ")
+    for (i = 1; i <= count; i++)
+        standard[list[i]] = 1
+}
+
+function family_of(header) {
+    if (header in standard)
+        return "std"
+    if (header ~ /^Q[A-Z]/ || header ~ /^Qt[A-Za-z]*\//)
+        return "qt"
+    if (header ~ /^soci\//)
+        return "soci"
+    if (header ~ /^(gtest|gmock)\//)
+        return "gtest"
+    if (header ~ /^(sys\/[a-z]+|dlfcn|fcntl|unistd)\.h$/)
+        return "posix"
+    return "other"
+}
+
+function rule_of(file,    folder) {
+    folder = file
+    while (sub(/\/[^\/]*$/, "", folder))
+        if (folder in projectAllowed)
+            return folder
+    return ""
+}
+
+function complain(reason) {
+    printf "%s:%d: %s\n", file, number, reason
+    broken = 1
+}
+
+function exists(path,    line, answer) {
+    answer = (getline line < path) >= 0
+    close(path)
+    return answer
+}
+
+function check_project(header, allowed,    count, parts, i) {
+    if (!exists(header)) {
+        complain("\"" header "\" is not written from the repository root")
+        return
+    }
+    if (allowed == "*")
+        return
+    count = split(allowed, parts, " ")
+    for (i = 1; i <= count; i++)
+        if (index(header, parts[i] "/") == 1)
+            return
+    complain(folder "/ may not include \"" header "\"")
+}
+
+function check_system(header, allowed,    kind) {
+    kind = family_of(header)
+    if (allowed != "*" && index(" " allowed " ", " " kind " ") == 0)
+        complain(folder "/ may not include <" header ">")
+}
+
+{
+    file = $0
+    folder = rule_of(file)
+    number = 0
+    while ((getline line < file) > 0) {
+        number++
+        if (line !~ /^[ \t]*#[ \t]*include/)
+            continue
+        checked++
+        sub(/^[ \t]*#[ \t]*include[ \t]*/, "", line)
+        header = substr(line, 2)
+        sub(/[">].*$/, "", header)
+        if (folder == "")
+            complain("no rule names this folder")
+        else if (line ~ /^"/)
+            check_project(header, projectAllowed[folder])
+        else
+            check_system(header, systemAllowed[folder])
+    }
+    close(file)
+}
+
+END {
+    if (!checked) {
+        print "no include was found: nothing was checked"
+        exit 1
+    }
+    exit broken
+}

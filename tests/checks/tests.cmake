@@ -1,0 +1,7 @@
+# The walls between the folders, as tests.
+set(checks ${CMAKE_CURRENT_SOURCE_DIR}/checks)
+add_test(NAME Checks.EveryFolderIncludesOnlyWhatItMaySee COMMAND ${checks}/includes)
+add_test(NAME Checks.TheIncludeCheckNamesEveryBreach COMMAND ${checks}/includes-test)
+add_test(NAME Checks.TextsPointToNothingOutsideTheRepository COMMAND ${checks}/wording)
+add_test(NAME Checks.ComponentLibrariesExportTheirEntryPointsOnly
+         COMMAND ${checks}/exports ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})

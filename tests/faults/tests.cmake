@@ -1,0 +1,10 @@
+# The failure sweep: every script once for each border crossing. It grows with the scripts.
+add_executable(fault-sweep ${CMAKE_CURRENT_LIST_DIR}/sweep.cpp)
+target_link_libraries(fault-sweep PRIVATE scenario_runner)
+add_dependencies(fault-sweep KOVA_A_Agenda)
+file(GLOB_RECURSE swept CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/*.scenario)
+foreach(scenario IN LISTS swept)
+    file(RELATIVE_PATH name ${CMAKE_CURRENT_SOURCE_DIR}/scenarios ${scenario})
+    string(REGEX REPLACE "\\.scenario$" "" name ${name})
+    add_test(NAME Faults.${name} COMMAND fault-sweep ${scenario})
+endforeach()

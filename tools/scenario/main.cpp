@@ -1,0 +1,81 @@
+// agenda-scenario: runs one script against the module and prints what crossed its borders.
+
+#include "host/components/component_error.hpp"
+#include "tools/scenario/runner.hpp"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace {
+
+using namespace kova::scenario;
+
+enum ExitStatus { Done = 0, ScriptWrong = 2, ModuleBroken = 3 };
+
+std::string ReadFile(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        throw std::invalid_argument("Não foi possível ler o roteiro " + path + ".");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void PrintLine(const std::string& line) { std::printf("%s\n", line.c_str()); }
+
+int RunScript(const RunOptions& options, Script script)
+{
+    Runner runner(std::move(script), options, PrintLine);
+    const bool kept = runner.Run();
+    if (options.printsCount)
+        runner.PrintCount();
+    std::fflush(stdout);
+    if (!kept)
+        std::fprintf(stderr, "O módulo deixou escapar uma falha de um tratador de evento.\n");
+    return kept ? Done : ModuleBroken;
+}
+
+/// Runs the script in a process of its own, so that a crash of the module becomes a status too.
+int RunApart(const RunOptions& options, const Script& script)
+{
+    std::fflush(stdout);
+    const pid_t child = fork();
+    if (child < 0)
+        throw std::runtime_error("Não foi possível criar um processo para o roteiro.");
+    if (child == 0) {
+        try {
+            std::exit(RunScript(options, script));
+        } catch (const std::exception& error) {
+            std::fflush(stdout);
+            std::fprintf(stderr, "%s\n", error.what());
+            std::exit(ModuleBroken);
+        }
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    if (!WIFEXITED(status))
+        std::fprintf(stderr, "O módulo caiu com o sinal %d.\n", WTERMSIG(status));
+    const int answer = WIFEXITED(status) ? WEXITSTATUS(status) : ModuleBroken;
+    return answer == Done || answer == ScriptWrong ? answer : ModuleBroken;
+}
+
+} // namespace
+
+int main(int count, char** words)
+{
+    try {
+        const RunOptions options = ParseOptions({words + 1, words + count});
+        if (options.help) {
+            std::fputs(HelpText().c_str(), stdout);
+            return Done;
+        }
+        return RunApart(options, ParseScript(ReadFile(options.file)));
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return ScriptWrong;
+    }
+}

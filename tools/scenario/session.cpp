@@ -1,0 +1,116 @@
+#include "tools/scenario/session.hpp"
+
+#include "tools/scenario/value_text.hpp"
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+namespace kova::scenario {
+
+namespace {
+
+constexpr const char* ModuleClass = "KOVA_A_Agenda.clsAgenda";
+constexpr Long MainWindowHandle = 1;
+
+/// Libraries lie beside the program.
+std::string LibraryPath(const char* name)
+{
+    return (std::filesystem::read_symlink("/proc/self/exe").parent_path() / name).string();
+}
+
+/// Who sits at the desk: the reference components ask for code and name.
+class DeskUser : public Component, public PrintedObject {
+public:
+    std::string PrintedText() const override { return "<user>"; }
+    Value Get(std::string_view member) override
+    {
+        if (member == "Codigo")
+            return Long{1};
+        if (member == "Nome")
+            return "Roteiro";
+        throw Failure(FailureNumber::NoSuchMember);
+    }
+    void Set(std::string_view, const Value&) override { throw Failure(FailureNumber::NoSuchMember); }
+    Value Call(std::string_view, std::span<Argument>) override { throw Failure(FailureNumber::NoSuchMember); }
+};
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder()
+    : path_((std::filesystem::temp_directory_path() / "roteiro-XXXXXX").string())
+{
+    if (!mkdtemp(path_.data()))
+        throw std::system_error(errno, std::generic_category(), path_);
+}
+
+TemporaryFolder::~TemporaryFolder()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+ComponentRef Session::Family::CreateObject(std::string_view className)
+{
+    const bool isBusiness = className.starts_with("KOVA_N_");
+    ComponentService& source = isBusiness && session_.usesDatabase_
+        ? static_cast<ComponentService&>(session_.registered_)
+        : session_.script;
+    return source.CreateObject(className);
+}
+
+Session::Session(const RunOptions& options, std::function<void(const std::string&)> line)
+    : usesDatabase_(!options.database.empty()),
+      registry_(folder_.Path() + "/componentes.reg"),
+      server_(registry_, *this, options.database),
+      registered_(registry_, server_.Libraries()),
+      family_(*this),
+      observed_(family_, crossings)
+{
+    crossings->line = line;
+    crossings->failAt = options.failAt;
+    border.line = line;
+    border.failAt = options.failWidgetsAt;
+    border.printsWrites = options.printsWidgetWrites;
+    profile.line = line;
+    toolkit.OnLine(line);
+    toolkit.Observer(&border);
+    server_.RegisterLibrary(LibraryPath("libKOVA_A_Agenda.so"));
+    if (usesDatabase_)
+        server_.RegisterLibrary(LibraryPath("libKOVA_N_Familia.so"));
+}
+
+Session::~Session()
+{
+    // What closes now is not part of the script.
+    const auto silent = [](const std::string&) {};
+    crossings->line = silent;
+    crossings->failAt = 0;
+    border.line = silent;
+    border.failAt = 0;
+    profile.line = silent;
+    toolkit.OnLine(silent);
+    toolkit.Observer(nullptr);
+    agenda_.reset();
+    while (auto* form = toolkit.ActiveForm()) {
+        if (!form->Unload())
+            break;
+    }
+    // A list that failed to open was never shown; the library counts it all the same.
+    for (auto* form = toolkit.FindForm("frmLista"); form && !form->Current().unloaded;
+         form = toolkit.FindForm("frmLista"))
+        form->Unload();
+}
+
+void Session::Open()
+{
+    container_ = toolkit.CreateContainer(containerWidth, containerHeight);
+    agenda_ = registered_.CreateObject(ModuleClass);
+    if (hasUser)
+        agenda_->Set("DadosDoUsuario", std::make_shared<DeskUser>());
+    if (hasApplication)
+        agenda_->Set("NomeDaAplicacao", application);
+    agenda_->Call("AbrirLista", {MainWindowHandle, container_});
+}
+
+} // namespace kova::scenario

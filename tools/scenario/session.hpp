@@ -1,0 +1,90 @@
+#pragma once
+
+#include "host/components/component_service.hpp"
+#include "host/components/registry.hpp"
+#include "host/components/server_host.hpp"
+#include "toolkits/headless/toolkit.hpp"
+#include "tools/scenario/border_observer.hpp"
+#include "tools/scenario/memory_profile.hpp"
+#include "tools/scenario/observed_components.hpp"
+#include "tools/scenario/options.hpp"
+#include "tools/scenario/scripted_components.hpp"
+
+#include <memory>
+#include <string>
+
+namespace kova::scenario {
+
+/// The script's folder for the registry of classes, gone with the session.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::string& Path() const { return path_; }
+
+private:
+    std::string path_;
+};
+
+/// A shell in small: the module's real library on the headless toolkit, the family's components from the
+/// script, or the business ones from the reference library on a database. All that crosses the module's
+/// borders becomes a line.
+class Session : public Platform {
+public:
+    /// Throws host::ComponentError where a library cannot be loaded.
+    Session(const RunOptions& options, std::function<void(const std::string&)> line);
+    ~Session() override;
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// The shell's part: creates clsAgenda, sets what the script said, calls AbrirLista.
+    void Open();
+    bool IsOpen() const { return agenda_ != nullptr; }
+
+    ComponentService& Components() override { return observed_; }
+    kova::Toolkit& Toolkit() override { return toolkit; }
+    kova::Clock& Clock() override { return toolkit.Clock(); }
+    kova::Profile& Profile() override { return profile; }
+    Text SettingsFolder() const override { return folder_.Path(); }
+    Text SettingsTitle() const override { return "KOVA_A_Agenda"; }
+
+    headless::HeadlessToolkit toolkit;
+    MemoryProfile profile;
+    ScriptedComponents script;
+    std::shared_ptr<CrossingLog> crossings = std::make_shared<CrossingLog>();
+    BorderObserver border;
+
+    /// What `application`, `user` and `container` gave; without a name NomeDaAplicacao is never set.
+    std::string application;
+    bool hasApplication = false;
+    bool hasUser = false;
+    Twips containerWidth = 28800;
+    Twips containerHeight = 16200;
+    Long Container() const { return container_; }
+
+private:
+    /// Business components from the database's library where there is one, all else from the script.
+    class Family : public ComponentService {
+    public:
+        explicit Family(Session& session) : session_(session) { }
+        ComponentRef CreateObject(std::string_view className) override;
+
+    private:
+        Session& session_;
+    };
+
+    TemporaryFolder folder_;
+    bool usesDatabase_;
+    host::Registry registry_;
+    host::RegistryServerHost server_;
+    host::RegisteredComponents registered_;
+    Family family_;
+    ObservedComponents observed_;
+    ComponentRef agenda_;
+    Long container_ = 0;
+};
+
+} // namespace kova::scenario
