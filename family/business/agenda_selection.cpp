@@ -1,0 +1,64 @@
+#include "family/business/agenda.hpp"
+#include "family/business/day_record_set.hpp"
+#include "family/data/iso_text.hpp"
+
+#include <algorithm>
+
+namespace kova::family {
+
+namespace {
+
+/// Positions of the arguments of Selecionar.
+enum Position { Mode, PageRows, Status, SearchText, Day, ServiceType, Employee, Transport };
+
+constexpr Long PagedMode = 1;
+
+std::string IsoDay(const Value& day)
+{
+    const Text text = day.ToText();
+    const auto date = ParseDate(text);
+    if (!date)
+        throw Failure(static_cast<std::int32_t>(FailureNumber::TypeMismatch),
+                      "A data da lista não é válida: \"" + text + "\".");
+    return IsoDate(*date);
+}
+
+DayFilter FilterOf(std::span<const Argument> arguments)
+{
+    DayFilter filter;
+    filter.date = IsoDay(arguments[Day].Get());
+    filter.status = arguments[Status].Get().ToLong();
+    filter.serviceType = arguments[ServiceType].Get().ToLong();
+    filter.employee = arguments[Employee].Get().ToLong();
+    filter.transport = arguments[Transport].Get().ToLong();
+    filter.text = arguments[SearchText].Get().ToText();
+    return filter;
+}
+
+/// A whole selection is one page.
+Long RowsOfPage(std::span<const Argument> arguments, const RecordSet& selection)
+{
+    const bool paged = arguments[Mode].Get().ToLong() == PagedMode;
+    return std::max<Long>(1, paged ? arguments[PageRows].Get().ToLong() : selection.RecordCount());
+}
+
+} // namespace
+
+Value Agenda::Selecionar(std::span<Argument> arguments)
+{
+    return Select("Selecionar", [&] {
+        auto selection = std::make_shared<DayRecordSet>(SelectDay(Data(), FilterOf(arguments)));
+        selection->PageSize(RowsOfPage(arguments, *selection));
+        return selection;
+    });
+}
+
+Value Agenda::PaginarResultadoDaSelecaoEmRecordset(std::span<Argument> arguments)
+{
+    if (!Result())
+        throw Failure(FailureNumber::NoObject);
+    arguments[1].Assign(CopyPage(*Result(), arguments[0].Get().ToLong()));
+    return {};
+}
+
+} // namespace kova::family

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "agenda/contracts/record_set.hpp"
+#include "family/data/database.hpp"
+
+#include <vector>
+
+namespace kova::family {
+
+/// A row of a combo box: what it shows and the key behind it.
+struct ComboRow {
+    std::string text;
+    long long key = 0;
+};
+
+/// The service types by name; the active employees by name. `key` 0 is all, another only that one.
+std::vector<ComboRow> SelectServiceTypes(Database& database, long long key);
+std::vector<ComboRow> SelectEmployees(Database& database, long long key);
+
+/// The rows under the two field names, the key as a Long.
+RecordSetRef ComboRecordSet(const char* textField, const char* keyField, const std::vector<ComboRow>& rows);
+
+} // namespace kova::family

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "family/data/database.hpp"
+
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+/// Trade names of the registered companies, first the one that was registered first.
+std::vector<std::string> SelectTradeNames(Database& database);
+
+} // namespace kova::family

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+/// What differs between the engines that keep the data; everything else is one SQL.
+struct Dialect {
+    /// Name by which the back end of the engine is loaded.
+    std::string backend;
+    /// Type of a key that the engine numbers itself, never giving a number twice.
+    std::string identity;
+    std::string bigInteger;
+    /// A text that orders by its bytes, as the folded texts are ordered.
+    std::string orderedText;
+    /// Run on every connection before anything else.
+    std::vector<std::string> settings;
+};
+
+const Dialect& SqliteDialect();
+const Dialect& PostgresqlDialect();
+
+} // namespace kova::family

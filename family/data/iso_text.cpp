@@ -1,0 +1,48 @@
+#include "family/data/iso_text.hpp"
+
+#include <cstdio>
+
+namespace kova::family {
+
+std::string IsoDate(Date date)
+{
+    char text[40];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d", date.year, date.month, date.day);
+    return text;
+}
+
+std::string IsoMoment(DateTime moment)
+{
+    char time[40];
+    std::snprintf(time, sizeof time, " %02d:%02d:%02d", moment.time.hour, moment.time.minute,
+                  moment.time.second);
+    return IsoDate(moment.date) + time;
+}
+
+std::string ShownDate(std::string_view isoDate)
+{
+    if (isoDate.size() < 10)
+        return std::string(isoDate);
+    std::string shown(isoDate.substr(8, 2));
+    shown += '/';
+    shown += isoDate.substr(5, 2);
+    shown += '/';
+    shown += isoDate.substr(0, 4);
+    return shown;
+}
+
+std::string ShownMoment(std::string_view isoMoment)
+{
+    if (isoMoment.size() < 10)
+        return std::string(isoMoment);
+    return ShownDate(isoMoment.substr(0, 10)) + std::string(isoMoment.substr(10));
+}
+
+std::string ShownDuration(long long minutes)
+{
+    char text[48];
+    std::snprintf(text, sizeof text, "%02lld:%02lld", minutes / 60, minutes % 60);
+    return text;
+}
+
+} // namespace kova::family

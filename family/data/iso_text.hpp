@@ -1,0 +1,22 @@
+#pragma once
+
+#include "agenda/contracts/date_time.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace kova::family {
+
+/// Dates are kept as "yyyy-mm-dd", moments as "yyyy-mm-dd hh:mm:ss": their order as texts is their order
+/// in time.
+std::string IsoDate(Date date);
+std::string IsoMoment(DateTime moment);
+
+/// "dd/mm/yyyy" of a kept date, "dd/mm/yyyy hh:mm:ss" of a kept moment.
+std::string ShownDate(std::string_view isoDate);
+std::string ShownMoment(std::string_view isoMoment);
+
+/// "hh:mm" of a number of minutes, hours from 00 upwards without a limit of 24.
+std::string ShownDuration(long long minutes);
+
+} // namespace kova::family

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "family/data/dialect.hpp"
+
+#include <soci/soci.h>
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+/// One step of the schema: the statements that lead from the version before to this one.
+struct Migration {
+    int version;
+    std::vector<std::string> (*statements)(const Dialect& dialect);
+};
+
+using Migrations = std::span<const Migration>;
+
+/// Every step from an empty database to the schema this program works on, in order.
+Migrations CurrentMigrations();
+
+/// The version the last step leads to.
+int NewestVersion(Migrations migrations);
+
+/// Version of the schema that a connection finds; 0 where there is none.
+int StoredVersion(soci::session& session);
+
+/// Runs the steps that are missing, in one transaction: all of them or none. Two programs that come at
+/// the same time wait for each other and the second finds nothing to do.
+void Migrate(soci::session& session, const Dialect& dialect, Migrations migrations);
+
+std::vector<std::string> SchemaOfVersion1(const Dialect& dialect);
+
+} // namespace kova::family

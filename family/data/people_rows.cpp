@@ -1,0 +1,49 @@
+#include "family/data/people_rows.hpp"
+
+#include "family/data/fold_text.hpp"
+
+namespace kova::family {
+
+namespace {
+
+std::string ComposeAddress(const CustomerRow& customer)
+{
+    std::string address = customer.logradouro + ", " + customer.numero;
+    for (const std::string* part : {&customer.complemento, &customer.bairro, &customer.cidade}) {
+        if (!part->empty())
+            address += " - " + *part;
+    }
+    return customer.uf.empty() ? address : address + "/" + customer.uf;
+}
+
+std::string ComposeChannels(const std::vector<ChannelRow>& channels)
+{
+    std::string text;
+    for (const ChannelRow& channel : channels) {
+        if (!text.empty())
+            text += "; ";
+        text += channel.tipo + ": " + channel.canal;
+    }
+    return text;
+}
+
+std::string ShownPostalCode(const std::string& digits)
+{
+    return digits.size() == 8 ? digits.substr(0, 5) + "-" + digits.substr(5) : digits;
+}
+
+} // namespace
+
+void CustomerRow::Compose(const std::vector<ChannelRow>& channels)
+{
+    enderecoCompleto = ComposeAddress(*this);
+    enderecoCompletoComCEP = enderecoCompleto;
+    if (!cep.empty())
+        enderecoCompletoComCEP += " - CEP " + ShownPostalCode(cep);
+    tiposECanais = ComposeChannels(channels);
+    nomeDeBusca = FoldText(nome);
+    // A line break keeps a search from finding a text that runs over two fields.
+    textoDeBusca = FoldText(apelido) + "\n" + nomeDeBusca + "\n" + FoldText(enderecoCompletoComCEP);
+}
+
+} // namespace kova::family

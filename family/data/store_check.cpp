@@ -1,0 +1,53 @@
+#include "family/data/store_check.hpp"
+
+#include "family/data/data_source.hpp"
+
+namespace kova::family {
+
+namespace {
+
+constexpr const char* Tables[] = {
+    "empresa", "usuario",     "tipo_de_servico", "servico",   "funcionario",
+    "especie", "raca",        "feriado",         "cliente",   "canal_de_comunicacao",
+    "animal",  "agendamento", "pacote",          "pre_venda", "auditoria",
+};
+
+TableCount Count(soci::session& session, const char* table)
+{
+    TableCount count{table, 0};
+    session << std::string("select count(*) from ") + table, soci::into(count.rows);
+    return count;
+}
+
+void FindProblems(soci::session& session, const std::string& path, StoreReport& report)
+{
+    std::string verdict;
+    session << "pragma integrity_check(1)", soci::into(verdict);
+    if (verdict != "ok")
+        report.problems.push_back("O banco de dados \"" + path + "\" está danificado: " + verdict);
+    long long orphans = 0;
+    session << "select count(*) from pragma_foreign_key_check", soci::into(orphans);
+    if (orphans > 0)
+        report.problems.push_back("O banco de dados \"" + path + "\" tem " + std::to_string(orphans)
+                                  + " referências sem registro.");
+}
+
+} // namespace
+
+StoreReport CheckStore(const std::string& path)
+{
+    const std::unique_ptr<Database> database = OpenForReading(path);
+    StoreReport report;
+    try {
+        soci::session& session = database->Session();
+        report.version = StoredVersion(session);
+        FindProblems(session, path, report);
+        for (const char* table : Tables)
+            report.tables.push_back(Count(session, table));
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(path, cause);
+    }
+    return report;
+}
+
+} // namespace kova::family

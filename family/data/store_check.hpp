@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+struct TableCount {
+    std::string name;
+    long long rows = 0;
+};
+
+/// What a look through a whole database finds.
+struct StoreReport {
+    int version = 0;
+    std::vector<TableCount> tables;
+    /// Empty where the database is sound; else Portuguese texts.
+    std::vector<std::string> problems;
+};
+
+/// Counts the tables' rows, and checks the file's structure and that every reference leads to a row.
+/// Reads only. Fails with the text of CheckDataSource where the database cannot be opened.
+StoreReport CheckStore(const std::string& path);
+
+} // namespace kova::family

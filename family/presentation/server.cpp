@@ -1,0 +1,28 @@
+#include "agenda/contracts/component_library.hpp"
+#include "family/presentation/clsMensagem.hpp"
+
+namespace {
+
+kova::ComponentLibrary& Library()
+{
+    static kova::ComponentLibrary library({
+        {"KOVA_A_MsgErro.clsMensagem", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E1}",
+         +[](kova::ServerHost&) { return std::make_unique<kova::family::clsMensagem>(); }},
+    });
+    return library;
+}
+
+} // namespace
+
+KOVA_ENTRY_POINT std::int32_t KovaAttachHost(kova::ServerHost* host) { return Library().AttachHost(host); }
+
+KOVA_ENTRY_POINT std::int32_t DllGetClassObject(const char* classId, kova::ClassFactory** factory)
+{
+    return Library().GetClassObject(classId, factory);
+}
+
+KOVA_ENTRY_POINT std::int32_t DllCanUnloadNow() { return Library().CanUnloadNow(); }
+
+KOVA_ENTRY_POINT std::int32_t DllRegisterServer() { return Library().RegisterServer(); }
+
+KOVA_ENTRY_POINT std::int32_t DllUnregisterServer() { return Library().UnregisterServer(); }

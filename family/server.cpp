@@ -1,0 +1,57 @@
+#include "agenda/contracts/component_library.hpp"
+#include "family/business/agenda.hpp"
+#include "family/business/company.hpp"
+#include "family/business/employees.hpp"
+#include "family/business/service_types.hpp"
+#include "family/business/store.hpp"
+#include "family/business/system_version.hpp"
+#include "family/data/shared_database.hpp"
+
+#include <soci/soci.h>
+
+namespace {
+
+template <class Class> kova::ComponentLibrary::Entry Entry(const char* classId)
+{
+    return {std::string(Class::ClassName), classId,
+            [](kova::ServerHost& host) { return std::make_unique<Class>(host); }};
+}
+
+kova::ComponentLibrary& Library()
+{
+    using namespace kova::family;
+    static kova::ComponentLibrary library({
+        Entry<Agenda>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E01}"),
+        Entry<ServiceTypes>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E02}"),
+        Entry<Employees>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E03}"),
+        Entry<Company>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E04}"),
+        Entry<SystemVersion>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E05}"),
+        Entry<Store>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E06}"),
+    });
+    return library;
+}
+
+} // namespace
+
+/// Without a host nobody will come back for the connections. The back ends go with them: one that stayed
+/// would be closed by a destructor that runs while the library itself is being closed.
+KOVA_ENTRY_POINT std::int32_t KovaAttachHost(kova::ServerHost* host)
+{
+    const std::int32_t status = Library().AttachHost(host);
+    if (!host && status == 0) {
+        kova::family::CloseSharedDatabases();
+        soci::dynamic_backends::unload_all();
+    }
+    return status;
+}
+
+KOVA_ENTRY_POINT std::int32_t DllGetClassObject(const char* classId, kova::ClassFactory** factory)
+{
+    return Library().GetClassObject(classId, factory);
+}
+
+KOVA_ENTRY_POINT std::int32_t DllCanUnloadNow() { return Library().CanUnloadNow(); }
+
+KOVA_ENTRY_POINT std::int32_t DllRegisterServer() { return Library().RegisterServer(); }
+
+KOVA_ENTRY_POINT std::int32_t DllUnregisterServer() { return Library().UnregisterServer(); }

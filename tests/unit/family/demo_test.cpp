@@ -1,0 +1,146 @@
+#include "tests/unit/family/shop_fixture.hpp"
+
+#include "family/data/data_source.hpp"
+#include "family/data/store_check.hpp"
+#include "family/demo/documents.hpp"
+#include "family/demo/holidays.hpp"
+#include "family/demo/shop.hpp"
+
+#include <set>
+
+namespace kova::family::test {
+
+namespace {
+
+class DemonstrationShop : public testing::Test {
+protected:
+    DemonstrationShop() : path_(folder_ / "loja.db") { CreateShop(path_, DemonstrationPlan({2026, 11, 20})); }
+
+    long long Count(const std::string& fromAndWhere)
+    {
+        long long count = 0;
+        OpenForReading(path_)->Session() << "select count(*) from " + fromAndWhere, soci::into(count);
+        return count;
+    }
+
+    TemporaryFolder folder_;
+    std::string path_;
+};
+
+} // namespace
+
+TEST_F(DemonstrationShop, IsTheSameForTheSameDate)
+{
+    CreateShop(folder_ / "outra.db", DemonstrationPlan({2026, 11, 20}));
+    CreateShop(folder_ / "depois.db", DemonstrationPlan({2026, 11, 21}));
+    EXPECT_EQ(ContentOf(folder_ / "outra.db"), ContentOf(path_));
+    EXPECT_NE(ContentOf(folder_ / "depois.db"), ContentOf(path_));
+}
+
+TEST_F(DemonstrationShop, IsSound) { EXPECT_EQ(CheckStore(path_).problems, std::vector<std::string>()); }
+
+TEST_F(DemonstrationShop, HasAboutFortyAppointmentsADayAndFewerOnSundays)
+{
+    for (Long day = -60; day <= 60; ++day) {
+        const Date date = AddDays({2026, 11, 20}, day);
+        char iso[40];
+        std::snprintf(iso, sizeof iso, "%04d-%02d-%02d", date.year, date.month, date.day);
+        const long long count = Count(std::string("agendamento where data_inicial = '") + iso + "'");
+        EXPECT_GE(count, Weekday(date) == 1 ? 8 : 36) << iso;
+        EXPECT_LE(count, Weekday(date) == 1 ? 12 : 44) << iso;
+    }
+}
+
+TEST_F(DemonstrationShop, HasEveryKindOfRow)
+{
+    for (const char* kind : {"agendamento where situacao = 1",
+                             "agendamento where situacao = 2",
+                             "agendamento where situacao = 3",
+                             "agendamento where situacao = 4",
+                             "agendamento where tipo_do_agendamento = 1",
+                             "agendamento where codigo_do_pacote is not null",
+                             "agendamento where observacao is null",
+                             "agendamento where observacao is not null",
+                             "agendamento where alterado_em is null",
+                             "agendamento where alterado_em is not null",
+                             "agendamento where transporte_buscar = 1 and transporte_levar = 1",
+                             "agendamento where data_inicial = '2026-11-20' and situacao = 1",
+                             "agendamento where data_inicial = '2026-11-20' and situacao = 2",
+                             "cliente where situacao = 2",
+                             "cliente where situacao = 3",
+                             "cliente where situacao = 4",
+                             "cliente where tipo_de_pessoa = 'PJ'",
+                             "cliente where vip = 1",
+                             "cliente where categoria_da_curva_abc = 'A'",
+                             "cliente where categoria_da_curva_abc = 'B'",
+                             "cliente where categoria_da_curva_abc = 'C'",
+                             "animal where situacao = 2",
+                             "animal where microchip is not null",
+                             "servico where quantidade_de_sessoes is not null",
+                             "servico where situacao = 2",
+                             "funcionario where situacao = 2",
+                             "pre_venda where situacao = 1",
+                             "pre_venda where situacao = 3",
+                             "feriado where data is null",
+                             "feriado where data is not null"})
+        EXPECT_GT(Count(kind), 0) << kind;
+}
+
+TEST_F(DemonstrationShop, NeverBooksAnEmployeeBeyondTheLimit)
+{
+    EXPECT_EQ(Count("agendamento a join funcionario f on f.codigo = a.codigo_do_funcionario"
+                    " where f.agendamentos_simultaneos < (select count(*) from agendamento b"
+                    " where b.codigo_do_funcionario = a.codigo_do_funcionario"
+                    " and b.data_inicial = a.data_inicial and b.hora_inicial <= a.hora_inicial"
+                    " and b.hora_final > a.hora_inicial and b.situacao <> 3)"),
+              0);
+}
+
+TEST_F(DemonstrationShop, GivesEveryPreSaleToAnAttendedAppointmentOfARegisteredCustomer)
+{
+    EXPECT_EQ(Count("agendamento where situacao = 4"), Count("pre_venda"));
+    EXPECT_EQ(Count("agendamento where situacao = 4 and"
+                    " (numero_do_tipo_de_servico < 4 or codigo_do_cliente is null)"),
+              0);
+}
+
+TEST_F(DemonstrationShop, GivesAnimalsToTheirOwners)
+{
+    EXPECT_EQ(Count("agendamento a join animal n on n.codigo = a.codigo_do_animal"
+                    " where n.codigo_do_cliente <> a.codigo_do_cliente"),
+              0);
+}
+
+TEST(MeasuringPlan, MakesExactlyWhatWasAskedFor)
+{
+    const TemporaryFolder folder;
+    CreateShop(folder / "grande.db", MeasuringPlan({2026, 11, 20}, 300, 5000));
+    std::map<std::string, long long> rows;
+    for (const TableCount& table : CheckStore(folder / "grande.db").tables)
+        rows[table.name] = table.rows;
+    EXPECT_EQ(rows["cliente"], 300);
+    EXPECT_EQ(rows["agendamento"], 5000);
+    EXPECT_THROW(MeasuringPlan({2026, 11, 20}, 0, 1), Failure);
+}
+
+TEST(NationalHolidays, FollowEaster)
+{
+    EXPECT_EQ(EasterSunday(2024), (Date{2024, 3, 31}));
+    EXPECT_EQ(EasterSunday(2025), (Date{2025, 4, 20}));
+    EXPECT_EQ(EasterSunday(2026), (Date{2026, 4, 5}));
+    EXPECT_EQ(EasterSunday(2038), (Date{2038, 4, 25}));
+    std::set<std::string> movable;
+    for (const HolidayRow& holiday : NationalHolidays(2026, 2026)) {
+        if (!holiday.data.IsNull())
+            movable.insert(holiday.data.value);
+    }
+    EXPECT_EQ(movable, (std::set<std::string>{"2026-02-16", "2026-02-17", "2026-04-03", "2026-06-04"}));
+}
+
+TEST(Documents, EndInTheirCheckDigits)
+{
+    EXPECT_EQ(WithCpfCheckDigits("123456789"), "12345678909");
+    EXPECT_EQ(WithCnpjCheckDigits("112223330001"), "11222333000181");
+}
+
+} // namespace kova::family::test

@@ -1,0 +1,71 @@
+#include "tests/unit/family/shop_fixture.hpp"
+
+#include <dlfcn.h>
+
+namespace kova::family::test {
+
+namespace {
+
+/// The library as a host loads it.
+class FamilyLibrary : public testing::Test {
+protected:
+    FamilyLibrary() : library_(dlopen(FAMILY_LIBRARY, RTLD_NOW | RTLD_LOCAL)) { }
+
+    void SetUp() override { ASSERT_NE(library_, nullptr) << dlerror(); }
+
+    template <class Function> Function Entry(const char* name)
+    {
+        return reinterpret_cast<Function>(dlsym(library_, name));
+    }
+
+    std::int32_t Attach(ServerHost* host) { return Entry<KovaAttachHostFunction>("KovaAttachHost")(host); }
+
+    ComponentRef Create(const TestHost& host, const std::string& className)
+    {
+        ClassFactory* factory = nullptr;
+        const std::string classId = host.registered.at(className);
+        Entry<DllGetClassObjectFunction>("DllGetClassObject")(classId.c_str(), &factory);
+        ComponentRef object;
+        EXPECT_EQ(factory->CreateInstance(nullptr, &object), ServerStatus::Ok);
+        return object;
+    }
+
+    TemporaryFolder folder_;
+    void* library_;
+};
+
+} // namespace
+
+TEST_F(FamilyLibrary, RegistersItsClassesAndMakesThem)
+{
+    TestHost host(folder_ / "loja.db");
+    ASSERT_EQ(Attach(&host), 0);
+    ASSERT_EQ(Entry<DllRegisterServerFunction>("DllRegisterServer")(), 0);
+    for (const char* name : {"KOVA_N_Agenda.clsAgenda", "KOVA_N_TipoDeServ.clsTiposDeServ",
+                             "KOVA_N_Funcionarios.clsFuncionarios", "KOVA_N_Empresa.clsEmpresa",
+                             "KOVA_N_SO.clsObterVersaoDoSO", "KOVA_N_Dados.clsBanco"})
+        EXPECT_NE(Create(host, name), nullptr) << name;
+    EXPECT_EQ(Entry<DllUnregisterServerFunction>("DllUnregisterServer")(), 0);
+    EXPECT_TRUE(host.registered.empty());
+    EXPECT_EQ(Attach(nullptr), 0);
+}
+
+TEST_F(FamilyLibrary, KeepsTheConnectionBetweenComponentsAndClosesItWithTheHost)
+{
+    TestHost host(folder_ / "loja.db");
+    Attach(&host);
+    Entry<DllRegisterServerFunction>("DllRegisterServer")();
+    const std::string log = host.DataSource() + "-wal";
+    {
+        const ComponentRef store = Create(host, "KOVA_N_Dados.clsBanco");
+        ASSERT_EQ(store->Call("CriarDemonstracao", {"20/11/2026"}), Value(Integer(0)));
+        ASSERT_EQ(store->Call("Abrir"), Value(Integer(0)));
+        EXPECT_NE(Entry<DllCanUnloadNowFunction>("DllCanUnloadNow")(), 0);
+    }
+    EXPECT_EQ(Entry<DllCanUnloadNowFunction>("DllCanUnloadNow")(), 0);
+    EXPECT_TRUE(std::filesystem::exists(log));
+    EXPECT_EQ(Attach(nullptr), 0);
+    EXPECT_FALSE(std::filesystem::exists(log));
+}
+
+} // namespace kova::family::test

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "agenda/contracts/component_server.hpp"
+#include "agenda/contracts/record_set.hpp"
+#include "family/data/database.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace kova::family::test {
+
+/// A folder that goes with its owner, writable again before.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+    const std::filesystem::path& Path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+std::string ContentOf(const std::string& path);
+void WriteContent(const std::string& path, const std::string& content);
+
+/// A host with a data source and nothing else: what asks for its platform fails.
+class TestHost : public ServerHost {
+public:
+    explicit TestHost(std::string dataSource) : dataSource_(std::move(dataSource)) { }
+
+    bool Register(const ClassRegistration& registration) override
+    {
+        registered[registration.className] = registration.classId;
+        return true;
+    }
+    bool Unregister(std::string_view className) override
+    {
+        registered.erase(std::string(className));
+        return true;
+    }
+    Platform& GetPlatform() override { throw Failure(FailureNumber::NoObject); }
+    std::string DataSource() const override { return dataSource_; }
+
+    std::map<std::string, std::string> registered;
+
+private:
+    std::string dataSource_;
+};
+
+/// A shop with eight known appointments on 20/11/2026 and one on 21/11/2026; see shop_fixture.cpp.
+class ShopTest : public testing::Test {
+protected:
+    ShopTest();
+    ~ShopTest() override;
+
+    /// Numbers of the appointments that a selection of 20/11/2026 finds, in its order.
+    std::vector<int> Find(const std::string& text, Long status = 0, Long type = 0, Long employee = 0,
+                          Long transport = 0);
+    std::vector<int> FindOn(const std::string& date);
+    static std::vector<int> NumbersOf(RecordSet& records);
+
+    /// The record set of the whole day, standing on that appointment.
+    RecordSetRef Appointment(int number);
+
+    TemporaryFolder folder_;
+    TestHost host_;
+};
+
+/// The arguments of Selecionar for a whole selection.
+std::vector<Argument> DayArguments(const std::string& date, const std::string& text = "", Long status = 0,
+                                   Long type = 0, Long employee = 0, Long transport = 0);
+
+RecordSetRef ResultOf(Component& component);
+
+} // namespace kova::family::test
