@@ -14,7 +14,14 @@ constexpr Colour FundoDoPainel = Rgb(250, 250, 250);
 constexpr Twips PrimeiraLinhaDoPainel = 55;
 constexpr Twips PassoDoPainel = 260;
 constexpr Twips MargemDoPainel = 90;
-constexpr Twips InicioDosRotulos = 840;
+// Where the titles stand until the first appointment is shown; from then on each label follows the one
+// before it.
+constexpr Twips PrimeiraColuna = 960;
+constexpr Twips SegundaColuna = 2400;
+constexpr Twips TerceiraColuna = 3960;
+constexpr Twips QuartaColuna = 5520;
+constexpr Twips QuintaColuna = 7080;
+constexpr Twips SextaColuna = 8640;
 
 ControlDesign BotaoDaLinha(const char* nome, const char* icone, const char* acao)
 {
@@ -76,12 +83,12 @@ ControlDesign Secao(const char* nome, const char* texto, int linha)
             .foreColor = CinzaEscuro};
 }
 
-ControlDesign Titulo(const char* nome, const char* texto, int linha)
+ControlDesign Titulo(const char* nome, const char* texto, int linha, Twips esquerda)
 {
     return {.kind = Kind::Label,
             .name = nome,
             .container = "picPainel",
-            .left = InicioDosRotulos,
+            .left = esquerda,
             .top = PrimeiraLinhaDoPainel + PassoDoPainel * static_cast<Twips>(linha),
             .caption = texto,
             .autoSize = true,
@@ -91,7 +98,7 @@ ControlDesign Titulo(const char* nome, const char* texto, int linha)
 
 ControlDesign Valor(const char* nome, int linha)
 {
-    ControlDesign rotulo = Titulo(nome, "", linha);
+    ControlDesign rotulo = Titulo(nome, "", linha, PrimeiraColuna);
     rotulo.foreColor = colours::Black;
     return rotulo;
 }
@@ -244,45 +251,45 @@ std::vector<ControlDesign> Painel()
          .backColor = Rgb(217, 217, 217)},
 
         Secao("lblTitulo_Cliente", "Cliente:", 0),
-        Titulo("lblTitulo_ApelidoOuNomeFantasiaDoCliente", "Apelido:", 0),
+        Titulo("lblTitulo_ApelidoOuNomeFantasiaDoCliente", "Apelido:", 0, PrimeiraColuna),
         Valor("lblApelidoOuNomeFantasiaDoCliente", 0),
-        Titulo("lblTitulo_NomeOuRazaoSocialDoCliente", "Nome:", 0),
+        Titulo("lblTitulo_NomeOuRazaoSocialDoCliente", "Nome:", 0, TerceiraColuna),
         Valor("lblNomeOuRazaoSocialDoCliente", 0),
-        Titulo("lblTitulo_ComunicacaoDoCliente", "Comunicação:", 0),
+        Titulo("lblTitulo_ComunicacaoDoCliente", "Comunicação:", 0, SextaColuna),
         Valor("lblComunicacaoDoCliente", 0),
 
         Secao("lblTitulo_Animal", "Animal:", 1),
-        Titulo("lblTitulo_NomeDoAnimal", "Nome:", 1),
+        Titulo("lblTitulo_NomeDoAnimal", "Nome:", 1, PrimeiraColuna),
         Valor("lblNomeDoAnimal", 1),
-        Titulo("lblTitulo_SexoDoAnimal", "Sexo:", 1),
+        Titulo("lblTitulo_SexoDoAnimal", "Sexo:", 1, SegundaColuna),
         Valor("lblSexoDoAnimal", 1),
-        Titulo("lblTitulo_PorteDoAnimal", "Porte:", 1),
+        Titulo("lblTitulo_PorteDoAnimal", "Porte:", 1, TerceiraColuna),
         Valor("lblPorteDoAnimal", 1),
-        Titulo("lblTitulo_EspecieDoAnimal", "Espécie:", 1),
+        Titulo("lblTitulo_EspecieDoAnimal", "Espécie:", 1, QuartaColuna),
         Valor("lblEspecieDoAnimal", 1),
-        Titulo("lblTitulo_RacaDoAnimal", "Raça:", 1),
+        Titulo("lblTitulo_RacaDoAnimal", "Raça:", 1, QuintaColuna),
         Valor("lblRacaDoAnimal", 1),
-        Titulo("lblTitulo_ObservacaoDoAnimal", "Obs.:", 1),
+        Titulo("lblTitulo_ObservacaoDoAnimal", "Obs.:", 1, SextaColuna),
         Valor("lblObservacaoDoAnimal", 1),
 
         Secao("lblTitulo_Servico", "Serviço:", 2),
-        Titulo("lblTitulo_InicioDoServico", "Inicio:", 2),
+        Titulo("lblTitulo_InicioDoServico", "Inicio:", 2, PrimeiraColuna),
         Valor("lblInicioDoServico", 2),
-        Titulo("lblTitulo_FimDoServico", "Fim:", 2),
+        Titulo("lblTitulo_FimDoServico", "Fim:", 2, SegundaColuna),
         Valor("lblFimDoServico", 2),
-        Titulo("lblTitulo_NomeDoServico", "Nome:", 2),
+        Titulo("lblTitulo_NomeDoServico", "Nome:", 2, TerceiraColuna),
         Valor("lblNomeDoServico", 2),
-        Titulo("lblTitulo_Funcionario", "Funcionário:", 2),
+        Titulo("lblTitulo_Funcionario", "Funcionário:", 2, SextaColuna),
         Valor("lblNomeDoFuncionario", 2),
 
         Secao("lblTitulo_Transporte", "Obs.:", 3),
-        Titulo("lblTitulo_TransporteBuscar", "Buscar:", 3),
+        Titulo("lblTitulo_TransporteBuscar", "Buscar:", 3, PrimeiraColuna),
         Valor("lblTransporteBuscar", 3),
-        Titulo("lblTitulo_TransporteLevar", "Levar:", 3),
+        Titulo("lblTitulo_TransporteLevar", "Levar:", 3, SegundaColuna),
         Valor("lblTransporteLevar", 3),
-        Titulo("lblTitulo_ObservacaoDoAgendamento", "Observação:", 3),
+        Titulo("lblTitulo_ObservacaoDoAgendamento", "Observação:", 3, TerceiraColuna),
         Valor("lblObservacaoDoAgendamento", 3),
-        Titulo("lblTitulo_IncluidoOuAlteradoPor", "Incluído por:", 3),
+        Titulo("lblTitulo_IncluidoOuAlteradoPor", "Incluído por:", 3, SextaColuna),
         Valor("lblIncluidoOuAlteradoPor", 3),
     };
 }
