@@ -187,6 +187,8 @@ void GridModel::SelectionMode(Integer value)
     Writing("SelectionMode", value);
     if (value < 0 || value > 2)
         throw Failure(FailureNumber::BadPropertyValue);
+    if (value == selectionMode_)
+        return;
     selectionMode_ = value;
     TouchAll();
 }

@@ -1,0 +1,300 @@
+#include "tests/unit/qt/support.hpp"
+#include "toolkits/qt/calendar.hpp"
+#include "toolkits/qt/combo_field.hpp"
+#include "toolkits/qt/date_box.hpp"
+#include "toolkits/qt/field_frame.hpp"
+#include "toolkits/qt/navigation_bar.hpp"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+
+namespace kova::qt::test {
+namespace {
+
+class Fields : public QtTest {
+protected:
+    void SetUp() override
+    {
+        ControlDesign locked = Design(WidgetKind::KVTextBox, "kvtxtTravado", 0, 3000, 3000, 510);
+        locked.locked = true;
+        locked.text = "fixo";
+        ControlDesign limited = Design(WidgetKind::KVTextBox, "kvtxtNome", 0, 0, 3000, 510);
+        limited.maxLength = 5;
+        ControlDesign label = Design(WidgetKind::Label, "lblNome", 4000, 0, 0, 0);
+        label.caption = "Nome do animal";
+        label.autoSize = true;
+        label.labelOf = "kvtxtNome";
+        form_ =
+            Show({limited, label, locked, Design(WidgetKind::KVComboBox, "kvcmbSituacao", 0, 600, 3000, 510),
+                  Design(WidgetKind::KVFind, "kvfndPesquisar", 0, 1200, 3000, 510),
+                  Design(WidgetKind::KVDTPicker, "kvdtpData", 0, 1800, 1605, 510),
+                  Design(WidgetKind::KVTime, "kvtimHora", 0, 2400, 1000, 510),
+                  Design(WidgetKind::KVNumberBox, "kvnumIdade", 3200, 2400, 1000, 510),
+                  Design(WidgetKind::CheckBox, "chkPainel", 0, 3600, 1000, 300),
+                  Design(WidgetKind::KVNavigationBar, "kvnbBarra", 0, 4200, 5220, 510)});
+    }
+
+    template <class Kind> Kind& Get(const char* name) { return Bind<Kind>(form_, name); }
+    template <class Kind> QWidget* Editor(const char* name) { return FocusWindowOf(Get<Kind>(name)); }
+
+    KVComboBox& FilledCombo()
+    {
+        auto& combo = Get<KVComboBox>("kvcmbSituacao");
+        for (const char* text : {"Todas", "Agendado", "Atendido"})
+            combo.AddItem(text);
+        combo.ListIndex(0);
+        return combo;
+    }
+
+    FormRef form_;
+};
+
+TEST_F(Fields, ComboRaisesClickWhenTheUserChoosesByArrowKey)
+{
+    KVComboBox& combo = FilledCombo();
+    int clicks = 0;
+    combo.OnClick([&] { ++clicks; });
+    combo.SetFocus();
+    Press(WindowOf(combo), Qt::Key_Down);
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(clicks, 1);
+    Press(WindowOf(combo), Qt::Key_End);
+    EXPECT_EQ(combo.ListIndex(), 2);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(Fields, ComboRaisesDropDownBeforeItsListAndClickForTheRowTaken)
+{
+    KVComboBox& combo = FilledCombo();
+    Text events;
+    combo.OnDropDown([&] { events += "D"; });
+    combo.OnClick([&] { events += "C"; });
+    combo.OnLostFocus([&] { events += "L"; });
+    auto& field = dynamic_cast<ComboField&>(*WindowOf(combo));
+    Press(&field, Qt::Key_F4);
+    ASSERT_TRUE(field.IsListOpen());
+    EXPECT_EQ(events, "D");
+    EXPECT_EQ(field.List()->count(), 3);
+    Press(field.List(), Qt::Key_Down);
+    EXPECT_EQ(combo.ListIndex(), 0);
+    Press(field.List(), Qt::Key_Return);
+    EXPECT_FALSE(field.IsListOpen());
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(events, "DC");
+}
+
+TEST_F(Fields, ComboKeepsItsRowWhenTheListIsLeftByEscape)
+{
+    KVComboBox& combo = FilledCombo();
+    auto& field = dynamic_cast<ComboField&>(*WindowOf(combo));
+    Press(&field, Qt::Key_F4);
+    Press(field.List(), Qt::Key_Down);
+    Press(field.List(), Qt::Key_Escape);
+    EXPECT_FALSE(field.IsListOpen());
+    EXPECT_EQ(combo.ListIndex(), 0);
+}
+
+TEST_F(Fields, ComboShowsATextThatNoRowHoldsAndTakesNoneFromTheUser)
+{
+    KVComboBox& combo = FilledCombo();
+    combo.Text("Texto antigo");
+    auto& field = dynamic_cast<ComboField&>(*WindowOf(combo));
+    EXPECT_EQ(field.ShownText(), "Texto antigo");
+    combo.SetFocus();
+    Type(&field, "z");
+    EXPECT_EQ(combo.Text(), "Texto antigo");
+    Type(&field, "a");
+    EXPECT_EQ(combo.Text(), "Agendado");
+}
+
+TEST_F(Fields, FindBoxRaisesKeyDownForEachCharacterAndSearchesByEnter)
+{
+    auto& find = Get<KVFind>("kvfndPesquisar");
+    int keys = 0;
+    Long status = -1;
+    find.OnKeyDown([&](Integer, Integer) { ++keys; });
+    find.OnClick([&] { status = find.Status(); });
+    find.SetFocus();
+    Type(Editor<KVFind>("kvfndPesquisar"), "zé");
+    EXPECT_EQ(keys, 2);
+    EXPECT_EQ(find.Text(), "zé");
+    Press(Editor<KVFind>("kvfndPesquisar"), Qt::Key_Return);
+    EXPECT_EQ(status, find_status::Search);
+}
+
+TEST_F(Fields, FindBoxShowsTheCrossWhereAPressWouldClear)
+{
+    auto& find = Get<KVFind>("kvfndPesquisar");
+    auto& frame = dynamic_cast<FieldFrame&>(*WindowOf(find));
+    EXPECT_EQ(frame.EndIcon(), "lupa");
+    find.Text("Maria");
+    find.Status(find_status::Found);
+    EXPECT_EQ(frame.EndIcon(), "limpar");
+    ClickAt(&frame, QPoint(frame.width() - 10, frame.height() / 2));
+    EXPECT_EQ(find.Text(), "");
+    EXPECT_EQ(frame.EndIcon(), "lupa");
+}
+
+TEST_F(Fields, DateTypedToTheEndRaisesChangeOnce)
+{
+    auto& date = Get<KVDTPicker>("kvdtpData");
+    int changes = 0;
+    date.OnChange([&] { ++changes; });
+    date.SetFocus();
+    auto* editor = dynamic_cast<QLineEdit*>(Editor<KVDTPicker>("kvdtpData"));
+    Press(editor, Qt::Key_A, QString(), Qt::ControlModifier);
+    Type(editor, "1703202");
+    EXPECT_EQ(changes, 0);
+    Type(editor, "6");
+    EXPECT_EQ(date.Text(), "17/03/2026");
+    EXPECT_EQ(editor->text(), "17/03/2026");
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(Fields, CalendarStartsAtTodayAndChoosesWithoutLosingTheFocus)
+{
+    auto& date = Get<KVDTPicker>("kvdtpData");
+    Text events;
+    date.OnChange([&] { events += "C"; });
+    date.OnLostFocus([&] { events += "L"; });
+    date.SetFocus();
+    Press(Editor<KVDTPicker>("kvdtpData"), Qt::Key_F4);
+    auto* calendar = dynamic_cast<DateBoxView&>(*CoreOf(date).GetView()).Calendar();
+    ASSERT_NE(calendar, nullptr);
+    EXPECT_EQ(calendar->Current(), (Date{2026, 3, 18}));
+    Press(calendar, Qt::Key_PageDown);
+    Press(calendar, Qt::Key_Left);
+    Press(calendar, Qt::Key_Return);
+    EXPECT_EQ(date.Text(), "17/04/2026");
+    EXPECT_EQ(events, "C");
+}
+
+TEST_F(Fields, CalendarStaysInsideItsRange)
+{
+    CalendarPopup calendar(nullptr, {2026, 3, 18}, nullptr);
+    calendar.setAttribute(Qt::WA_DeleteOnClose, false);
+    calendar.Open(QRect(0, 0, 10, 10), {1900, 1, 1});
+    Press(&calendar, Qt::Key_Left);
+    EXPECT_EQ(calendar.Current(), (Date{1900, 1, 1}));
+    calendar.Open(QRect(0, 0, 10, 10), {2024, 1, 31});
+    Press(&calendar, Qt::Key_PageDown);
+    EXPECT_EQ(calendar.Current(), (Date{2024, 2, 29}));
+}
+
+TEST_F(Fields, TimeFillsItsMaskFromTheLeft)
+{
+    auto& time = Get<KVTime>("kvtimHora");
+    time.SetFocus();
+    Press(Editor<KVTime>("kvtimHora"), Qt::Key_A, QString(), Qt::ControlModifier);
+    Type(Editor<KVTime>("kvtimHora"), "08x3");
+    EXPECT_EQ(time.Text(), "08:3_");
+    Press(Editor<KVTime>("kvtimHora"), Qt::Key_Backspace);
+    EXPECT_EQ(time.Text(), "08:__");
+}
+
+TEST_F(Fields, NumberBoxTakesDigitsThatItsHandlerLetsThrough)
+{
+    auto& number = Get<KVNumberBox>("kvnumIdade");
+    number.OnKeyPress([](Integer& character) { character = character == '7' ? Integer{0} : character; });
+    number.SetFocus();
+    Type(Editor<KVNumberBox>("kvnumIdade"), "1a72");
+    EXPECT_EQ(number.Text(), "12");
+}
+
+TEST_F(Fields, TextBoxStopsAtItsLimitPastesAndUndoes)
+{
+    auto& text = Get<KVTextBox>("kvtxtNome");
+    auto* editor = Editor<KVTextBox>("kvtxtNome");
+    text.SetFocus();
+    Type(editor, "ab");
+    QApplication::clipboard()->setText("cdefgh");
+    Press(editor, Qt::Key_V, QString(), Qt::ControlModifier);
+    EXPECT_EQ(text.Text(), "abcde");
+    Press(editor, Qt::Key_Z, QString(), Qt::ControlModifier);
+    EXPECT_EQ(text.Text(), "ab");
+}
+
+TEST_F(Fields, LockedTextBoxTakesNoTyping)
+{
+    auto& text = Get<KVTextBox>("kvtxtTravado");
+    text.SetFocus();
+    Type(Editor<KVTextBox>("kvtxtTravado"), "x");
+    Press(Editor<KVTextBox>("kvtxtTravado"), Qt::Key_Backspace);
+    EXPECT_EQ(text.Text(), "fixo");
+    EXPECT_EQ(Picture(WindowOf(text)).pixelColor(WindowOf(text)->width() - 6, 10), QColor(249, 249, 249));
+}
+
+TEST_F(Fields, CheckBoxIsToggledByTheSpaceBarAndByCode)
+{
+    auto& check = Get<CheckBox>("chkPainel");
+    int clicks = 0;
+    check.OnClick([&] { ++clicks; });
+    check.SetFocus();
+    Press(WindowOf(check), Qt::Key_Space, " ");
+    EXPECT_EQ(check.Value(), 1);
+    EXPECT_EQ(clicks, 1);
+    ClickAt(WindowOf(check), QPoint(8, 8));
+    EXPECT_EQ(check.Value(), 0);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(Fields, NavigationBarOffersWhatItsNumbersAllow)
+{
+    auto& bar = Get<KVNavigationBar>("kvnbBarra");
+    int pressed = 0;
+    bar.OnClick([&](Integer& button) { pressed = button; });
+    bar.FirstRecord(16);
+    bar.LastRecord(30);
+    bar.RecordCount(30);
+    bar.Refresh();
+    auto& window = dynamic_cast<NavigationWindow&>(*WindowOf(bar));
+    EXPECT_EQ(window.Numbers().text(), "16 - 30 de 30");
+    EXPECT_TRUE(window.Button(1).isEnabled());
+    EXPECT_FALSE(window.Button(4).isEnabled());
+    EXPECT_EQ(window.Button(2).accessibleName(), QString::fromUtf8("Página anterior"));
+    bar.SetFocus();
+    Settle();
+    EXPECT_TRUE(window.Button(1).hasFocus());
+    Press(&window.Button(1), Qt::Key_Right);
+    EXPECT_TRUE(window.Button(2).hasFocus());
+    Press(&window.Button(2), Qt::Key_Return);
+    EXPECT_EQ(pressed, 2);
+}
+
+TEST_F(Fields, AFieldIsNamedByTheLabelInFrontOfIt)
+{
+    EXPECT_EQ(Editor<KVTextBox>("kvtxtNome")->accessibleName(), "Nome do animal");
+    auto* label = dynamic_cast<QLabel*>(WindowOf(Get<Label>("lblNome")));
+    EXPECT_EQ(label->buddy(), Editor<KVTextBox>("kvtxtNome"));
+}
+
+TEST_F(Fields, LabelOfAutomaticSizeHoldsItsWholeText)
+{
+    auto& label = Get<Label>("lblNome");
+    const Twips before = label.Width();
+    label.Caption("Nome do animal que veio hoje");
+    EXPECT_GT(label.Width(), before);
+    EXPECT_GE(WindowOf(label)->width(), dynamic_cast<QLabel*>(WindowOf(label))->sizeHint().width());
+}
+
+TEST_F(Fields, ContextMenuSpeaksPortuguese)
+{
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2), QPoint(2, 2));
+    QCoreApplication::sendEvent(Editor<KVTextBox>("kvtxtNome"), &event);
+    auto* menu = Editor<KVTextBox>("kvtxtNome")->findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    QStringList texts;
+    for (const QAction* action : menu->actions()) {
+        if (!action->isSeparator())
+            texts.append(action->text());
+    }
+    EXPECT_EQ(texts.join('|').toStdString(), "Desfazer|Recortar|Copiar|Colar|Selecionar tudo");
+    menu->close();
+}
+
+} // namespace
+} // namespace kova::qt::test

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "toolkits/common/combo_box.hpp"
+#include "toolkits/qt/combo_field.hpp"
+#include "toolkits/qt/widget_view.hpp"
+
+namespace kova::qt {
+
+class ComboBoxView : public ViewOf<toolkit::ComboBoxModel, ComboField> {
+public:
+    ComboBoxView(QtToolkit& toolkit, toolkit::ComboBoxModel& model, QWidget* parent);
+
+protected:
+    void ShowContent() override;
+};
+
+} // namespace kova::qt

@@ -1,0 +1,295 @@
+#include "toolkits/qt/form.hpp"
+
+#include "toolkits/common/edit_core.hpp"
+#include "toolkits/common/menu.hpp"
+#include "toolkits/qt/handles.hpp"
+#include "toolkits/qt/label.hpp"
+#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/toolkit.hpp"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace kova::qt {
+
+namespace {
+
+class ResizeWatch : public QObject {
+public:
+    ResizeWatch(QWidget& watched, std::function<void()> resized) : resized_(std::move(resized))
+    {
+        watched.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize)
+            resized_();
+        return false;
+    }
+
+private:
+    std::function<void()> resized_;
+};
+
+Qt::WindowFlags FlagsOf(const FormDesign& design)
+{
+    if (!design.bordered)
+        return Qt::Dialog | Qt::FramelessWindowHint;
+    Qt::WindowFlags flags =
+        Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+    if (design.resizable)
+        flags |= Qt::WindowMaximizeButtonHint;
+    return flags;
+}
+
+// Whether a key only goes from field to field. Enter in a find box or on a button may have run a
+// handler that put the focus and the selection where it wants them.
+bool WalksOn(toolkit::FormKey key, const toolkit::WidgetCore* from)
+{
+    if (key != toolkit::FormKey::Enter)
+        return key != toolkit::FormKey::Escape;
+    return from && from->KindOfWidget() != WidgetKind::KVFind
+        && dynamic_cast<const toolkit::EditCore*>(from) != nullptr;
+}
+
+toolkit::InnerSize InnerSizeOf(const QWidget& widget)
+{
+    return {ToTwips(widget.width()), ToTwips(widget.height())};
+}
+
+} // namespace
+
+FormWidget::FormWidget(toolkit::FormModel& model) : PlainPanel(nullptr), model_(model)
+{
+    const FormDesign& design = model.Design();
+    setWindowFlags(FlagsOf(design));
+    setWindowTitle(FromText(design.caption));
+    setObjectName(FromText(design.name));
+    setAccessibleName(FromText(design.caption));
+    // Takes the keys where no control has the focus, so that Tab and Escape still reach the form.
+    setFocusPolicy(Qt::ClickFocus);
+    setFont(MakeFont("Arial", 9.75));
+}
+
+bool FormWidget::Forward(toolkit::FormKey key)
+{
+    const QPointer<FormWidget> self(this);
+    const toolkit::WidgetCore* before = model_.Focused();
+    model_.UserPressesKey(key);
+    if (self && WalksOn(key, before) && model_.Focused() != before) {
+        // Entering a field by key selects it whole: typing replaces it.
+        if (auto* edit = dynamic_cast<toolkit::EditCore*>(model_.Focused()))
+            edit->UserSelectsAll();
+    }
+    return true;
+}
+
+void FormWidget::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.fillRect(event->rect(), ToColor(model_.Design().backColor, look::Paper));
+    if (isWindow() && !model_.Design().bordered) {
+        painter.setPen(QPen(look::Border, 1));
+        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
+void FormWidget::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    if (model_.Refusal().empty())
+        model_.UserCloses();
+}
+
+void FormWidget::resizeEvent(QResizeEvent*)
+{
+    if (!followsModel && isVisible())
+        model_.UserResizes(InnerSizeOf(*this));
+}
+
+void FormWidget::moveEvent(QMoveEvent*)
+{
+    if (!followsModel && isWindow() && isVisible())
+        model_.UserMoves(ToTwips(x()), ToTwips(y()));
+}
+
+FormWindow::FormWindow(QtToolkit& toolkit, toolkit::FormModel& model)
+    : toolkit_(toolkit), model_(model), widget_(new FormWidget(model)), handle_(HandleOf(*widget_))
+{
+    ShowGeometry();
+}
+
+FormWindow::~FormWindow() { Remove(); }
+
+Long FormWindow::Handle() const { return handle_; }
+
+std::optional<toolkit::InnerSize> FormWindow::SetParent(Long containerHandle)
+{
+    QWidget* container = WidgetOfHandle(containerHandle);
+    if (!container || !widget_)
+        return std::nullopt;
+    container_ = container;
+    containerWatch_ = std::make_unique<ResizeWatch>(*container, [this] { FitToContainer(); });
+    widget_->followsModel = true;
+    widget_->setParent(container, Qt::Widget);
+    widget_->setMinimumSize(0, 0);
+    widget_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    widget_->setGeometry(container->rect());
+    widget_->followsModel = false;
+    return InnerSizeOf(*container);
+}
+
+void FormWindow::FitToContainer()
+{
+    if (!widget_ || !container_)
+        return;
+    widget_->followsModel = true;
+    widget_->setGeometry(container_->rect());
+    widget_->followsModel = false;
+    model_.UserResizes(InnerSizeOf(*container_));
+}
+
+void FormWindow::Update(toolkit::FormAspect aspect)
+{
+    if (!widget_)
+        return;
+    switch (aspect) {
+    case toolkit::FormAspect::Caption: widget_->setWindowTitle(FromText(model_.Current().caption)); return;
+    case toolkit::FormAspect::Geometry: ShowGeometry(); return;
+    // Input is held back at the gate; greying a whole form for a second's work would only flicker.
+    case toolkit::FormAspect::Enabled: return;
+    }
+}
+
+void FormWindow::ShowGeometry()
+{
+    if (!widget_ || container_)
+        return;
+    const toolkit::InnerSize inner = model_.Inner();
+    const QSize size(Pixels(inner.width), Pixels(inner.height));
+    const QPoint place(Pixels(model_.Current().left), Pixels(model_.Current().top));
+    widget_->followsModel = true;
+    if (model_.Design().resizable)
+        widget_->resize(size);
+    else
+        widget_->setFixedSize(size);
+    if (placed_ && widget_->pos() != place)
+        widget_->move(place);
+    widget_->followsModel = false;
+}
+
+void FormWindow::CentreOver(const QWidget* other)
+{
+    const QScreen* screen = other ? other->screen() : QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    const QPoint centre = other ? other->frameGeometry().center() : room.center();
+    QRect area(QPoint(), widget_->size());
+    area.moveCenter(centre);
+    area.moveLeft(std::clamp(area.left(), room.left(), std::max(room.left(), room.right() - area.width())));
+    area.moveTop(std::clamp(area.top(), room.top(), std::max(room.top(), room.bottom() - area.height())));
+    widget_->followsModel = true;
+    widget_->move(area.topLeft());
+    widget_->followsModel = false;
+}
+
+void FormWindow::LinkBuddies() const
+{
+    for (const auto& core : model_.Widgets()) {
+        if (auto* label = dynamic_cast<LabelView*>(core->GetView()))
+            label->LinkBuddy();
+    }
+}
+
+void FormWindow::Show(ShowMode mode)
+{
+    if (!widget_)
+        return;
+    modalEnded_ = false;
+    if (!container_ && !widget_->isVisible()) {
+        QWidget* below = toolkit_.WindowBelow(widget_);
+        if (!placed_)
+            CentreOver(below);
+        placed_ = true;
+        widget_->setWindowModality(mode == ShowMode::Modal ? Qt::ApplicationModal : Qt::NonModal);
+        widget_->winId();
+        if (below && below->windowHandle())
+            widget_->windowHandle()->setTransientParent(below->windowHandle());
+    }
+    LinkBuddies();
+    widget_->followsModel = true;
+    widget_->show();
+    widget_->followsModel = false;
+    widget_->raise();
+    if (!container_)
+        widget_->activateWindow();
+}
+
+void FormWindow::Hide()
+{
+    if (widget_)
+        widget_->hide();
+}
+
+void FormWindow::Remove()
+{
+    containerWatch_.reset();
+    if (!widget_)
+        return;
+    widget_->followsModel = true;
+    widget_->hide();
+    // A handler of one of its widgets may be on the stack.
+    widget_->deleteLater();
+}
+
+void FormWindow::RunModal()
+{
+    if (modalEnded_)
+        return;
+    QEventLoop loop;
+    loop_ = &loop;
+    loop.exec();
+    loop_ = nullptr;
+}
+
+void FormWindow::EndModal()
+{
+    modalEnded_ = true;
+    if (loop_)
+        loop_->quit();
+}
+
+void FormWindow::Refresh()
+{
+    if (widget_ && widget_->isVisible())
+        widget_->repaint();
+}
+
+toolkit::MenuModel* FormWindow::PopupMenu(toolkit::MenuModel&,
+                                          const std::vector<toolkit::MenuModel*>& entries, Twips x, Twips y)
+{
+    if (!widget_)
+        return nullptr;
+    QMenu menu(widget_);
+    menu.setFont(MakeFont("Arial", 9.75));
+    QHash<QAction*, toolkit::MenuModel*> entryOf;
+    for (toolkit::MenuModel* entry : entries) {
+        if (entry->IsRule()) {
+            menu.addSeparator();
+            continue;
+        }
+        QAction* action = menu.addAction(FromText(entry->ShownCaption()));
+        action->setEnabled(entry->State().enabled);
+        entryOf.insert(action, entry);
+    }
+    const QPoint place = widget_->mapToGlobal(QPoint(Pixels(x), Pixels(y)));
+    return entryOf.value(menu.exec(place));
+}
+
+} // namespace kova::qt

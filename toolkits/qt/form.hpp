@@ -1,0 +1,75 @@
+#pragma once
+
+#include "toolkits/common/form.hpp"
+#include "toolkits/qt/plain_panel.hpp"
+
+#include <QEventLoop>
+#include <QPointer>
+
+#include <functional>
+
+namespace kova::qt {
+
+class QtToolkit;
+
+/// The widget that is a form's inner area: a window of its own, or the child of a container.
+class FormWidget : public PlainPanel {
+public:
+    explicit FormWidget(toolkit::FormModel& model);
+
+    toolkit::FormModel& Model() const { return model_; }
+    /// Hands a key to the model; always true.
+    bool Forward(toolkit::FormKey key);
+
+    /// While set, changes of place and size are the model's own and not told to it.
+    bool followsModel = false;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+
+private:
+    toolkit::FormModel& model_;
+};
+
+class FormWindow : public toolkit::FormWindow {
+public:
+    FormWindow(QtToolkit& toolkit, toolkit::FormModel& model);
+    ~FormWindow() override;
+
+    Long Handle() const override;
+    std::optional<toolkit::InnerSize> SetParent(Long containerHandle) override;
+    void Update(toolkit::FormAspect aspect) override;
+    void Show(ShowMode mode) override;
+    void Hide() override;
+    void Remove() override;
+    void RunModal() override;
+    void EndModal() override;
+    void Refresh() override;
+    toolkit::MenuModel* PopupMenu(toolkit::MenuModel& parent, const std::vector<toolkit::MenuModel*>& entries,
+                                  Twips x, Twips y) override;
+
+    /// Null once the form was unloaded or its container destroyed.
+    FormWidget* Window() const { return widget_; }
+
+private:
+    void ShowGeometry();
+    void FitToContainer();
+    void CentreOver(const QWidget* other);
+    void LinkBuddies() const;
+
+    QtToolkit& toolkit_;
+    toolkit::FormModel& model_;
+    QPointer<FormWidget> widget_;
+    QPointer<QWidget> container_;
+    /// Watches the container's size; goes with this window.
+    std::unique_ptr<QObject> containerWatch_;
+    QEventLoop* loop_ = nullptr;
+    bool modalEnded_ = false;
+    bool placed_ = false;
+    Long handle_ = 0;
+};
+
+} // namespace kova::qt

@@ -1,0 +1,154 @@
+// What the user does on the grid's canvas.
+
+#include "toolkits/qt/grid_canvas.hpp"
+
+#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/widget_view.hpp"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <cmath>
+#include <cstdlib>
+
+namespace kova::qt {
+
+using toolkit::GridKey;
+
+namespace {
+
+Integer ButtonOf(Qt::MouseButtons buttons)
+{
+    if (buttons & Qt::LeftButton)
+        return 1;
+    return buttons & Qt::RightButton ? 2 : 0;
+}
+
+Integer ShiftOf(Qt::KeyboardModifiers modifiers)
+{
+    int shift = modifiers & Qt::ShiftModifier ? 1 : 0;
+    shift += modifiers & Qt::ControlModifier ? 2 : 0;
+    shift += modifiers & Qt::AltModifier ? 4 : 0;
+    return static_cast<Integer>(shift);
+}
+
+std::optional<GridKey> KeyOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Up: return GridKey::Up;
+    case Qt::Key_Down: return GridKey::Down;
+    case Qt::Key_PageUp: return GridKey::PageUp;
+    case Qt::Key_PageDown: return GridKey::PageDown;
+    case Qt::Key_Home: return GridKey::Home;
+    case Qt::Key_End: return GridKey::End;
+    default: return std::nullopt;
+    }
+}
+
+} // namespace
+
+bool GridCanvas::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        ShowWholeText(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
+    return PlainPanel::event(event);
+}
+
+// A cell whose text may be cut tells it whole.
+void GridCanvas::ShowWholeText(const QHelpEvent& event)
+{
+    const auto cell = model_.HitTest(ToTwips(event.pos().x()), ToTwips(event.pos().y()));
+    if (!cell || model_.IsFixed(cell->row, cell->col))
+        return QToolTip::hideText();
+    const QRect area = CellArea(cell->row, cell->col);
+    const Text& text = model_.CellText(cell->row, cell->col);
+    const QFont font = MakeFont(model_.Look().font.name, static_cast<double>(model_.Look().font.size));
+    if (QFontMetricsF(font).horizontalAdvance(Lines(text)) > area.width() - 12)
+        QToolTip::showText(event.globalPos(), ToolTipOf(text), this, area);
+    else
+        QToolTip::hideText();
+}
+
+void GridCanvas::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    draggedEdge_ = EdgeAt(event->position());
+    if (!draggedEdge_)
+        model_.UserClicks(ToTwips(event->position().x()), ToTwips(event->position().y()));
+}
+
+void GridCanvas::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void GridCanvas::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPointF place = event->position();
+    if (draggedEdge_)
+        return DragEdge(place);
+    if (event->buttons() & Qt::LeftButton)
+        model_.UserDrags(ToTwips(place.x()), ToTwips(place.y()));
+    setCursor(EdgeAt(place) ? Qt::SplitHCursor : Qt::ArrowCursor);
+    model_.UserMovesMouse(ButtonOf(event->buttons()), ShiftOf(event->modifiers()), ToTwips(place.x()),
+                          ToTwips(place.y()));
+}
+
+void GridCanvas::mouseReleaseEvent(QMouseEvent*) { draggedEdge_.reset(); }
+
+// The column whose right edge in the header is under the mouse.
+std::optional<Long> GridCanvas::EdgeAt(const QPointF& place) const
+{
+    constexpr double reach = 4;
+    const auto& rows = model_.RowAxis();
+    if (!(model_.Look().allowUserResizing & 1) || rows.Fixed() == 0 || !RowArea(0).contains(place.toPoint()))
+        return std::nullopt;
+    for (const Span& column : ColumnsOnShow()) {
+        if (std::abs(place.x() - (column.start + column.length)) <= reach)
+            return column.index;
+    }
+    return std::nullopt;
+}
+
+void GridCanvas::DragEdge(const QPointF& place)
+{
+    constexpr double narrowest = 20;
+    const Long start = model_.ColumnAxis().Start(*draggedEdge_);
+    const double width = std::max(narrowest, place.x() - start / TwipsOfPixel);
+    model_.UserResizesColumn(*draggedEdge_, static_cast<Long>(std::lround(width * TwipsOfPixel)));
+}
+
+void GridCanvas::wheelEvent(QWheelEvent* event)
+{
+    constexpr int rowsPerStep = 3;
+    constexpr int unitsPerRow = 120 / rowsPerStep;
+    if (!vertical_->isVisibleTo(this)) {
+        event->ignore();
+        return;
+    }
+    wheelRest_ += event->angleDelta().y();
+    const int rows = wheelRest_ / unitsPerRow;
+    wheelRest_ -= rows * unitsPerRow;
+    if (rows != 0)
+        model_.UserScrolls(model_.RowAxis().First() - rows, model_.ColumnAxis().First());
+    event->accept();
+}
+
+void GridCanvas::keyPressEvent(QKeyEvent* event)
+{
+    if (const auto key = KeyOf(event->key()))
+        model_.UserKey(*key);
+    else if (event->key() == Qt::Key_Space && !event->isAutoRepeat())
+        model_.UserPressesRow();
+    else
+        event->ignore();
+}
+
+void GridCanvas::focusInEvent(QFocusEvent*) { update(RowArea(model_.Cursor().row)); }
+
+void GridCanvas::focusOutEvent(QFocusEvent*) { update(RowArea(model_.Cursor().row)); }
+
+} // namespace kova::qt

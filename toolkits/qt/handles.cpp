@@ -1,0 +1,50 @@
+#include "toolkits/qt/handles.hpp"
+
+#include <QHash>
+#include <QPointer>
+#include <QWidget>
+
+namespace kova::qt {
+
+namespace {
+
+// Window numbers of the display server end below 2^29.
+constexpr Long FirstOwnHandle = 0x40000000;
+constexpr const char* HandleProperty = "kovaHandle";
+
+QHash<Long, QPointer<QWidget>>& OwnHandles()
+{
+    static QHash<Long, QPointer<QWidget>> handles;
+    return handles;
+}
+
+Long NewHandle(QWidget& widget)
+{
+    static Long next = FirstOwnHandle;
+    const Long handle = next++;
+    OwnHandles().insert(handle, &widget);
+    widget.setProperty(HandleProperty, handle);
+    QObject::connect(&widget, &QObject::destroyed, [handle] { OwnHandles().remove(handle); });
+    return handle;
+}
+
+} // namespace
+
+Long HandleOf(QWidget& widget)
+{
+    const QVariant known = widget.property(HandleProperty);
+    if (known.isValid())
+        return known.toInt();
+    if (widget.testAttribute(Qt::WA_WState_Created) && widget.internalWinId() != 0)
+        return static_cast<Long>(widget.internalWinId());
+    return NewHandle(widget);
+}
+
+QWidget* WidgetOfHandle(Long handle)
+{
+    if (handle >= FirstOwnHandle)
+        return OwnHandles().value(handle);
+    return handle > 0 ? QWidget::find(static_cast<WId>(handle)) : nullptr;
+}
+
+} // namespace kova::qt

@@ -1,0 +1,59 @@
+#include "toolkits/qt/label.hpp"
+
+#include "toolkits/common/form.hpp"
+#include "toolkits/qt/theme.hpp"
+
+namespace kova::qt {
+
+namespace {
+
+Qt::Alignment AlignmentOf(int alignment)
+{
+    switch (alignment) {
+    case 1: return Qt::AlignRight | Qt::AlignTop;
+    case 2: return Qt::AlignHCenter | Qt::AlignTop;
+    default: return Qt::AlignLeft | Qt::AlignTop;
+    }
+}
+
+} // namespace
+
+LabelView::LabelView(QtToolkit& toolkit, toolkit::LabelModel& model, QWidget* parent)
+    : ViewOf(toolkit, model, new CaptionLabel(parent))
+{
+    const ControlDesign& design = model.Design();
+    Shown().setTextFormat(Qt::PlainText);
+    Shown().setAlignment(AlignmentOf(design.alignment));
+    Shown().setWordWrap(design.wordWrap);
+    Shown().setMargin(0);
+    Shown().setIndent(0);
+    if (design.backColor != -1)
+        Shown().setAutoFillBackground(true);
+}
+
+void LabelView::ShowContent()
+{
+    const QString caption = Lines(GetModel().ShownCaption());
+    Shown().setText(caption);
+    if (Core().Design().accessibleName.empty())
+        Shown().setAccessibleName(caption);
+}
+
+void LabelView::ShowLook()
+{
+    QPalette palette = Shown().palette();
+    palette.setColor(QPalette::WindowText, ToColor(GetModel().ShownForeColor(), look::Ink));
+    palette.setColor(QPalette::Window, ToColor(Core().Design().backColor, look::Paper));
+    Shown().setPalette(palette);
+}
+
+void LabelView::LinkBuddy()
+{
+    const std::string& name = Core().Design().labelOf;
+    const toolkit::WidgetCore* named = name.empty() ? nullptr : Core().GetForm().Find(name);
+    const auto* view = named ? dynamic_cast<const WidgetView*>(named->GetView()) : nullptr;
+    if (Window() && view && view->FocusWindow())
+        Shown().setBuddy(view->FocusWindow());
+}
+
+} // namespace kova::qt

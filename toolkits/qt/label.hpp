@@ -1,0 +1,21 @@
+#pragma once
+
+#include "toolkits/common/label.hpp"
+#include "toolkits/qt/caption_label.hpp"
+#include "toolkits/qt/widget_view.hpp"
+
+namespace kova::qt {
+
+class LabelView : public ViewOf<toolkit::LabelModel, CaptionLabel> {
+public:
+    LabelView(QtToolkit& toolkit, toolkit::LabelModel& model, QWidget* parent);
+
+    /// Lets the label's mnemonic reach the control that it names.
+    void LinkBuddy();
+
+protected:
+    void ShowContent() override;
+    void ShowLook() override;
+};
+
+} // namespace kova::qt

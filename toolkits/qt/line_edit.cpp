@@ -1,0 +1,99 @@
+#include "toolkits/qt/line_edit.hpp"
+
+#include "toolkits/qt/theme.hpp"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+
+namespace kova::qt {
+
+LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent)
+{
+    setFrame(false);
+    setAttribute(Qt::WA_MacShowFocusRect, false);
+    QPalette clear = palette();
+    clear.setColor(QPalette::Base, Qt::transparent);
+    setPalette(clear);
+    setAutoFillBackground(false);
+    setDragEnabled(false);
+    setAcceptDrops(false);
+}
+
+bool LineEdit::event(QEvent* event)
+{
+    // Keys that a window would otherwise take for its own shortcuts stay with the field.
+    if (event->type() == QEvent::ShortcutOverride) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+            return false;
+    }
+    return QLineEdit::event(event);
+}
+
+void LineEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Paste) && pasteText)
+        return Paste();
+    if (event->matches(QKeySequence::Cut) && eraseSelection)
+        return Cut();
+    if (filterKey && filterKey(*event))
+        return;
+    QLineEdit::keyPressEvent(event);
+}
+
+void LineEdit::Cut()
+{
+    if (isReadOnly() || !hasSelectedText())
+        return;
+    if (!eraseSelection)
+        return cut();
+    copy();
+    eraseSelection();
+}
+
+void LineEdit::Paste()
+{
+    if (isReadOnly())
+        return;
+    if (pasteText)
+        pasteText(QGuiApplication::clipboard()->text());
+    else
+        paste();
+}
+
+void LineEdit::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool editable = !isReadOnly() && isEnabled();
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto add = [&](const char* text, bool enabled, auto action) {
+        menu->addAction(QString::fromUtf8(text), this, action)->setEnabled(enabled);
+    };
+    const bool undoable = canUndo ? canUndo() : isUndoAvailable();
+    add("Desfazer", editable && undoable, [this] { undoEdit ? undoEdit() : undo(); });
+    menu->addSeparator();
+    add("Recortar", editable && hasSelectedText(), [this] { Cut(); });
+    add("Copiar", hasSelectedText(), [this] { copy(); });
+    add("Colar", editable && !QGuiApplication::clipboard()->text().isEmpty(), [this] { Paste(); });
+    menu->addSeparator();
+    add("Selecionar tudo", !text().isEmpty(), [this] { selectAll(); });
+    menu->popup(event->globalPos());
+}
+
+void LineEdit::inputMethodEvent(QInputMethodEvent* event)
+{
+    // Composed characters ("ç" by dead keys) come here and not as keys.
+    if (pasteText && !event->commitString().isEmpty()) {
+        pasteText(event->commitString());
+        event->accept();
+        return;
+    }
+    QLineEdit::inputMethodEvent(event);
+}
+
+bool LineEdit::focusNextPrevChild(bool) { return false; }
+
+} // namespace kova::qt

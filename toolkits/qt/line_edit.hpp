@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include <functional>
+
+namespace kova::qt {
+
+/// The borderless editor inside a field: its own Portuguese context menu, and keys offered to the field
+/// before the editor takes them.
+class LineEdit : public QLineEdit {
+public:
+    explicit LineEdit(QWidget* parent);
+
+    /// Asked first about each key; true keeps it from the editor.
+    std::function<bool(QKeyEvent&)> filterKey;
+    /// What "Colar" and Ctrl+V do instead of inserting; empty leaves it to the editor.
+    std::function<void(const QString&)> pasteText;
+    /// What "Recortar" and "Excluir" of a masked field do instead of cutting.
+    std::function<void()> eraseSelection;
+    std::function<void()> undoEdit;
+    std::function<bool()> canUndo;
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void Cut();
+    void Paste();
+};
+
+} // namespace kova::qt

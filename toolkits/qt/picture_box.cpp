@@ -1,0 +1,36 @@
+#include "toolkits/qt/picture_box.hpp"
+
+#include "toolkits/qt/theme.hpp"
+
+#include <QPainter>
+
+namespace kova::qt {
+
+void PanelWindow::SetGround(const QColor& ground)
+{
+    ground_ = ground;
+    update();
+}
+
+void PanelWindow::SetCorners(double radius)
+{
+    radius_ = radius;
+    update();
+}
+
+void PanelWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (radius_ <= 0) {
+        painter.fillRect(rect(), ground_);
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ground_.darker(112), 1));
+    painter.setBrush(ground_);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius_, radius_);
+}
+
+void PictureBoxView::ShowLook() { Shown().SetGround(ToColor(Core().Design().backColor, look::Paper)); }
+
+} // namespace kova::qt

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "toolkits/common/picture_box.hpp"
+#include "toolkits/qt/plain_panel.hpp"
+#include "toolkits/qt/widget_view.hpp"
+
+namespace kova::qt {
+
+/// A panel with its own ground. Its round corners are drawn smooth, see SetRoundRectRegion.
+class PanelWindow : public PlainPanel {
+public:
+    using PlainPanel::PlainPanel;
+    void SetGround(const QColor& ground);
+    void SetCorners(double radius);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor ground_ = Qt::white;
+    double radius_ = 0;
+};
+
+class PictureBoxView : public ViewOf<toolkit::PictureBoxModel, PanelWindow> {
+public:
+    PictureBoxView(QtToolkit& toolkit, toolkit::PictureBoxModel& model, QWidget* parent)
+        : ViewOf(toolkit, model, new PanelWindow(parent))
+    {
+    }
+
+protected:
+    void ShowLook() override;
+};
+
+} // namespace kova::qt

@@ -1,0 +1,40 @@
+#include "toolkits/qt/shape.hpp"
+
+#include "toolkits/qt/theme.hpp"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace kova::qt {
+
+ShapeWindow::ShapeWindow(const toolkit::ShapeModel& model, QWidget* parent) : QWidget(parent), model_(model)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ShapeWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const ControlDesign& design = model_.Design();
+    const QColor line = ToColor(design.foreColor, look::Rule);
+    if (model_.IsRule()) {
+        painter.fillRect(rect(), ToColor(design.backColor, line));
+        return;
+    }
+    if (design.backColor != -1)
+        painter.fillRect(rect(), ToColor(design.backColor, look::Paper));
+    painter.setPen(QPen(line, 1));
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+// A rule is never thinner than one pixel.
+void ShapeView::ShowGeometry()
+{
+    const toolkit::WidgetState& state = Core().State();
+    QRect area = PixelRect(state.left, state.top, state.width, state.height);
+    area.setSize(QSize(std::max(1, area.width()), std::max(1, area.height())));
+    Shown().setGeometry(area);
+}
+
+} // namespace kova::qt

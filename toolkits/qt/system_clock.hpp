@@ -1,0 +1,14 @@
+#pragma once
+
+#include "agenda/contracts/platform.hpp"
+
+namespace kova::qt {
+
+/// The desk's own clock, in local time.
+class SystemClock : public Clock {
+public:
+    DateTime Now() const override;
+    Double Timer() const override;
+};
+
+} // namespace kova::qt

@@ -1,0 +1,173 @@
+#include "toolkits/qt/toolkit.hpp"
+
+#include "toolkits/qt/check_box.hpp"
+#include "toolkits/qt/combo_box.hpp"
+#include "toolkits/qt/command_button.hpp"
+#include "toolkits/qt/date_box.hpp"
+#include "toolkits/qt/find_box.hpp"
+#include "toolkits/qt/form.hpp"
+#include "toolkits/qt/grid.hpp"
+#include "toolkits/qt/grid_accessible.hpp"
+#include "toolkits/qt/handles.hpp"
+#include "toolkits/qt/header_band.hpp"
+#include "toolkits/qt/input_gate.hpp"
+#include "toolkits/qt/label.hpp"
+#include "toolkits/qt/message_box.hpp"
+#include "toolkits/qt/navigation_bar.hpp"
+#include "toolkits/qt/number_box.hpp"
+#include "toolkits/qt/option_button.hpp"
+#include "toolkits/qt/picture_box.hpp"
+#include "toolkits/qt/shape.hpp"
+#include "toolkits/qt/text_box.hpp"
+#include "toolkits/qt/text_measure.hpp"
+#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/time_box.hpp"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QPainterPath>
+#include <QRegion>
+#include <QScreen>
+#include <QTimer>
+
+namespace kova::qt {
+
+namespace {
+
+template <class ViewKind, class Model>
+std::unique_ptr<toolkit::View> Make(QtToolkit& toolkit, toolkit::WidgetCore& core, QWidget* parent)
+{
+    auto view = std::make_unique<ViewKind>(toolkit, dynamic_cast<Model&>(core), parent);
+    view->Begin();
+    return view;
+}
+
+QWidget* ParentOf(const toolkit::WidgetCore& core)
+{
+    if (core.Container()) {
+        const auto* view = dynamic_cast<WidgetView*>(core.Container()->GetView());
+        return view ? view->Window() : nullptr;
+    }
+    return static_cast<const FormWindow&>(core.GetForm().Window()).Window();
+}
+
+QRegion RoundRect(const QSize& size, int ellipseWidth, int ellipseHeight)
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(QPointF(0, 0), size), ellipseWidth / 2.0, ellipseHeight / 2.0);
+    return QRegion(path.toFillPolygon().toPolygon());
+}
+
+} // namespace
+
+QtToolkit::QtToolkit(const Clock& clock)
+    : clock_(clock), measure_(std::make_unique<QtTextMeasure>()), gate_(std::make_unique<InputGate>(nullptr))
+{
+    ApplyLook(*qApp);
+    InstallGridAccessibility();
+    qApp->installEventFilter(gate_.get());
+}
+
+QtToolkit::~QtToolkit() = default;
+
+QWidget* QtToolkit::WindowBelow(const QWidget* except) const
+{
+    QWidget* active = QApplication::activeWindow();
+    if (active && active != except && active->isVisible())
+        return active;
+    return topWindow_ ? topWindow_->window() : nullptr;
+}
+
+void QtToolkit::ProcessPendingEvents()
+{
+    constexpr int longestWaitMilliseconds = 10;
+    auto* dispatcher = QAbstractEventDispatcher::instance();
+    if (!dispatcher || dispatcher->processEvents(QEventLoop::AllEvents))
+        return;
+    QTimer wake;
+    wake.setTimerType(Qt::PreciseTimer);
+    wake.setSingleShot(true);
+    wake.start(longestWaitMilliseconds);
+    dispatcher->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}
+
+Twips QtToolkit::ScreenWidth() const
+{
+    const QScreen* screen = topWindow_ ? topWindow_->screen() : QGuiApplication::primaryScreen();
+    return ToTwips(screen->geometry().width());
+}
+
+void QtToolkit::SetRoundRectRegion(Long handle, int ellipseWidth, int ellipseHeight)
+{
+    QWidget* window = WidgetOfHandle(handle);
+    if (!window)
+        return;
+    if (auto* panel = dynamic_cast<PanelWindow*>(window))
+        panel->SetCorners(ellipseWidth / 2.0);
+    window->setMask(RoundRect(window->size(), ellipseWidth, ellipseHeight));
+    window->update();
+}
+
+std::unique_ptr<toolkit::FormWindow> QtToolkit::MakeWindow(toolkit::FormModel& form)
+{
+    return std::make_unique<FormWindow>(*this, form);
+}
+
+std::unique_ptr<toolkit::View> QtToolkit::MakeView(toolkit::WidgetCore& widget)
+{
+    using namespace toolkit;
+    if (widget.KindOfWidget() == WidgetKind::Menu || widget.KindOfWidget() == WidgetKind::Image)
+        return nullptr;
+    QWidget* parent = ParentOf(widget);
+    if (!parent)
+        return nullptr;
+    switch (widget.KindOfWidget()) {
+    case WidgetKind::KVComboBox: return Make<ComboBoxView, ComboBoxModel>(*this, widget, parent);
+    case WidgetKind::KVTextBox: return Make<TextBoxView, TextBoxModel>(*this, widget, parent);
+    case WidgetKind::KVFind: return Make<FindBoxView, FindBoxModel>(*this, widget, parent);
+    case WidgetKind::KVDTPicker: return Make<DateBoxView, DateBoxModel>(*this, widget, parent);
+    case WidgetKind::KVTime: return Make<TimeBoxView, TimeBoxModel>(*this, widget, parent);
+    case WidgetKind::KVNumberBox: return Make<NumberBoxView, NumberBoxModel>(*this, widget, parent);
+    case WidgetKind::KVCommandButton:
+        return Make<CommandButtonView, CommandButtonModel>(*this, widget, parent);
+    case WidgetKind::KVTheme: return Make<HeaderBandView, HeaderBandModel>(*this, widget, parent);
+    case WidgetKind::KVNavigationBar:
+        return Make<NavigationBarView, NavigationBarModel>(*this, widget, parent);
+    case WidgetKind::MSFlexGrid: return Make<GridView, GridModel>(*this, widget, parent);
+    case WidgetKind::Label: return Make<LabelView, LabelModel>(*this, widget, parent);
+    case WidgetKind::PictureBox: return Make<PictureBoxView, PictureBoxModel>(*this, widget, parent);
+    case WidgetKind::CheckBox: return Make<CheckBoxView, CheckBoxModel>(*this, widget, parent);
+    case WidgetKind::OptionButton: return Make<OptionButtonView, OptionButtonModel>(*this, widget, parent);
+    case WidgetKind::Shape: return Make<ShapeView, ShapeModel>(*this, widget, parent);
+    case WidgetKind::Menu:
+    case WidgetKind::Image: break;
+    }
+    return nullptr;
+}
+
+const toolkit::TextMeasure& QtToolkit::Measure() const { return *measure_; }
+
+Long QtToolkit::HandleOf(const toolkit::WidgetCore& widget)
+{
+    const auto* view = dynamic_cast<const WidgetView*>(widget.GetView());
+    // A panel whose window the host has destroyed answers its form's handle, which no window has any more.
+    return view && view->Window() ? kova::qt::HandleOf(*view->Window()) : widget.GetForm().Window().Handle();
+}
+
+void QtToolkit::UnhandledFailure(const Failure& failure)
+{
+    AskUser(MessageKind::Critical, failure.Description(), QCoreApplication::applicationName().toStdString());
+}
+
+Reply QtToolkit::AskUser(MessageKind kind, const Text& text, const Text& title)
+{
+    return ShowMessageBox(WindowBelow(nullptr), kind, text, title);
+}
+
+// Qt may still be inside a handler of a widget that would die.
+void QtToolkit::ScheduleRelease()
+{
+    QTimer::singleShot(0, gate_.get(), [this] { ReleaseRetired(); });
+}
+
+} // namespace kova::qt

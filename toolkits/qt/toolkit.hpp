@@ -1,0 +1,55 @@
+#pragma once
+
+#include "toolkits/common/toolkit.hpp"
+
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+
+class QWidget;
+
+namespace kova::qt {
+
+/// Handles for the host: see handles.hpp.
+Long HandleOf(QWidget& widget);
+
+/// The toolkit on Qt's widgets. A QApplication must exist; it gets the product's look. One per process.
+class QtToolkit : public toolkit::ToolkitModel {
+public:
+    /// The clock gives the calendars their "today" and must outlive the toolkit.
+    explicit QtToolkit(const Clock& clock);
+    ~QtToolkit() override;
+
+    /// The host's main window: dialogs are centred over it while none of its windows is active.
+    void RegisterTopWindow(QWidget* window) { topWindow_ = window; }
+    /// The window over which another one opens: the active one, else the host's main window. May be null.
+    QWidget* WindowBelow(const QWidget* except) const;
+    Date Today() const { return clock_.Now().date; }
+
+    void ProcessPendingEvents() override;
+    void PauseBegins(Double) override { }
+    void PauseEnds() override { }
+    Twips ScreenWidth() const override;
+    Twips TwipsPerPixelX() const override { return 15; }
+    void SetRoundRectRegion(Long handle, int ellipseWidth, int ellipseHeight) override;
+
+    std::unique_ptr<toolkit::FormWindow> MakeWindow(toolkit::FormModel& form) override;
+    std::unique_ptr<toolkit::View> MakeView(toolkit::WidgetCore& widget) override;
+    const toolkit::TextMeasure& Measure() const override;
+    Long HandleOf(const toolkit::WidgetCore& widget) override;
+    /// Shows the failure's text in a box.
+    void UnhandledFailure(const Failure& failure) override;
+
+protected:
+    Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
+    void ScheduleRelease() override;
+
+private:
+    const Clock& clock_;
+    QPointer<QWidget> topWindow_;
+    std::unique_ptr<toolkit::TextMeasure> measure_;
+    std::unique_ptr<QObject> gate_;
+};
+
+} // namespace kova::qt

@@ -1,0 +1,182 @@
+#include "toolkits/qt/widget_view.hpp"
+
+#include "toolkits/common/form.hpp"
+#include "toolkits/qt/theme.hpp"
+
+#include <QFocusEvent>
+
+namespace kova::qt {
+
+using toolkit::Aspect;
+
+namespace {
+
+constexpr const char* LayerProperty = "kovaLayer";
+
+// Grounds lie below texts and grids, and these below what the user operates.
+int LayerOf(WidgetKind kind)
+{
+    switch (kind) {
+    case WidgetKind::Shape:
+    case WidgetKind::KVTheme: return 1;
+    case WidgetKind::Label:
+    case WidgetKind::MSFlexGrid: return 2;
+    default: return 3;
+    }
+}
+
+// Forwards the focus that Qt moves, by mouse or mnemonic, to the model.
+class FocusWatch : public QObject {
+public:
+    FocusWatch(QWidget* watched, toolkit::WidgetCore& core) : QObject(watched), core_(core)
+    {
+        watched->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::FocusIn || core_.HasFocus())
+            return false;
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason
+            || reason == Qt::TabFocusReason)
+            core_.UserFocuses();
+        return false;
+    }
+
+private:
+    toolkit::WidgetCore& core_;
+};
+
+QString LabelFor(const toolkit::WidgetCore& core)
+{
+    for (const auto& other : core.GetForm().Widgets()) {
+        if (other->KindOfWidget() == WidgetKind::Label && other->Design().labelOf == core.Design().name)
+            return FromText(other->Design().caption).remove(QLatin1Char('&'));
+    }
+    return QString();
+}
+
+} // namespace
+
+WidgetView::WidgetView(QtToolkit& toolkit, toolkit::WidgetCore& core, QWidget* widget)
+    : toolkit_(toolkit), core_(core), widget_(widget)
+{
+    const ControlDesign& design = core.Design();
+    widget->setObjectName(FromText(core.FullName()));
+    widget->setFont(MakeFont(design.fontName, static_cast<double>(design.fontSize), design.fontBold));
+    widget->setAccessibleName(AccessibleNameOf(core));
+    StackByKind();
+}
+
+WidgetView::~WidgetView() { delete widget_.data(); }
+
+void WidgetView::Begin()
+{
+    for (Aspect aspect :
+         {Aspect::Look, Aspect::Content, Aspect::Geometry, Aspect::ToolTip, Aspect::Enabled, Aspect::Visible})
+        Update(aspect);
+}
+
+void WidgetView::Update(Aspect aspect)
+{
+    if (!widget_)
+        return;
+    switch (aspect) {
+    case Aspect::Geometry: return ShowGeometry();
+    case Aspect::Visible: return ShowVisible();
+    case Aspect::Enabled: return ShowEnabled();
+    case Aspect::TabStop: return;
+    case Aspect::ToolTip: return ShowToolTip();
+    case Aspect::Content: return ShowContent();
+    case Aspect::Selection: return ShowSelection();
+    case Aspect::Look: return ShowLook();
+    case Aspect::Order: return ShowOrder();
+    }
+}
+
+void WidgetView::TakeFocus()
+{
+    if (widget_ && FocusWindow())
+        FocusWindow()->setFocus(Qt::OtherFocusReason);
+}
+
+void WidgetView::WatchFocus(QWidget* widget) { new FocusWatch(widget, core_); }
+
+void WidgetView::ShowGeometry()
+{
+    const toolkit::WidgetState& state = core_.State();
+    widget_->setGeometry(PixelRect(state.left, state.top, state.width, state.height));
+}
+
+void WidgetView::ShowVisible()
+{
+    if (!core_.State().visible)
+        LeaveFocus();
+    widget_->setVisible(core_.State().visible);
+}
+
+void WidgetView::ShowEnabled()
+{
+    if (!core_.State().enabled)
+        LeaveFocus();
+    widget_->setEnabled(core_.State().enabled);
+}
+
+// A widget that goes away leaves the focus to its window, not to a neighbour of Qt's choice.
+void WidgetView::LeaveFocus()
+{
+    const QWidget* focus = widget_->window()->focusWidget();
+    if (!focus || (focus != widget_ && !widget_->isAncestorOf(focus)))
+        return;
+    for (QWidget* parent = widget_->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (parent->focusPolicy() != Qt::NoFocus) {
+            parent->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+}
+
+void WidgetView::ShowToolTip() { widget_->setToolTip(ToolTipOf(core_.State().toolTipText)); }
+
+void WidgetView::ShowOrder()
+{
+    widget_->setProperty(LayerProperty, LayerOf(WidgetKind::PictureBox));
+    widget_->raise();
+}
+
+void WidgetView::StackByKind()
+{
+    const int layer = LayerOf(core_.KindOfWidget());
+    widget_->setProperty(LayerProperty, layer);
+    const auto siblings = widget_->parentWidget()->children();
+    for (QObject* object : siblings) {
+        auto* sibling = qobject_cast<QWidget*>(object);
+        if (sibling && sibling != widget_ && sibling->property(LayerProperty).toInt() > layer) {
+            widget_->stackUnder(sibling);
+            return;
+        }
+    }
+}
+
+QString AccessibleNameOf(const toolkit::WidgetCore& core)
+{
+    const ControlDesign& design = core.Design();
+    const QString caption = FromText(design.caption).trimmed();
+    for (const QString& name : {FromText(design.accessibleName), caption, LabelFor(core)}) {
+        if (!name.isEmpty())
+            return name;
+    }
+    return FromText(design.toolTipText);
+}
+
+QString ToolTipOf(const Text& text)
+{
+    constexpr int longestLine = 60;
+    const QString plain = Lines(text);
+    if (plain.size() <= longestLine)
+        return plain;
+    return QStringLiteral("<p>") + plain.toHtmlEscaped() + QStringLiteral("</p>");
+}
+
+} // namespace kova::qt

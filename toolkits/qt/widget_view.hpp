@@ -1,0 +1,77 @@
+#pragma once
+
+#include "toolkits/common/widget_core.hpp"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace kova::qt {
+
+class QtToolkit;
+
+/// The Qt picture of one widget: geometry, visibility, enabling, tool tip, order and focus are the same
+/// for all kinds; content, selection and look come from the kind's own view.
+class WidgetView : public toolkit::View {
+public:
+    /// Takes the widget over. `Begin` must be called once the view is complete.
+    WidgetView(QtToolkit& toolkit, toolkit::WidgetCore& core, QWidget* widget);
+    ~WidgetView() override;
+
+    void Begin();
+    void Update(toolkit::Aspect aspect) final;
+    void TakeFocus() override;
+
+    /// Null once its window has been destroyed by the host.
+    QWidget* Window() const { return widget_; }
+    /// Where children of a panel go and what a label's mnemonic reaches.
+    virtual QWidget* FocusWindow() const { return widget_; }
+
+protected:
+    virtual void ShowContent() { }
+    virtual void ShowSelection() { }
+    virtual void ShowLook() { }
+    virtual void ShowGeometry();
+    virtual void ShowToolTip();
+
+    /// Tells the model when the user moves the focus to this Qt widget.
+    void WatchFocus(QWidget* widget);
+    QtToolkit& Toolkit() const { return toolkit_; }
+    toolkit::WidgetCore& Core() const { return core_; }
+
+private:
+    void ShowVisible();
+    void ShowEnabled();
+    void ShowOrder();
+    void LeaveFocus();
+    void StackByKind();
+
+    QtToolkit& toolkit_;
+    toolkit::WidgetCore& core_;
+    QPointer<QWidget> widget_;
+};
+
+/// A view whose model and Qt widget are of known types.
+template <class Model, class QtWidget> class ViewOf : public WidgetView {
+public:
+    ViewOf(QtToolkit& toolkit, Model& model, QtWidget* widget)
+        : WidgetView(toolkit, model, widget), model_(model)
+    {
+    }
+
+protected:
+    Model& GetModel() const { return model_; }
+    /// Not null inside Show... functions.
+    QtWidget& Shown() const { return *static_cast<QtWidget*>(Window()); }
+
+private:
+    Model& model_;
+};
+
+/// What a screen reader calls the widget: the design's name, its caption, the label in front of it or
+/// its tool tip.
+QString AccessibleNameOf(const toolkit::WidgetCore& core);
+
+/// A tool tip as Qt shows it: long ones break into lines.
+QString ToolTipOf(const Text& text);
+
+} // namespace kova::qt
