@@ -1,0 +1,81 @@
+#include "host/application.hpp"
+
+#include "agenda/contracts/failure.hpp"
+#include "host/display.hpp"
+#include "host/messages.hpp"
+#include "host/session.hpp"
+#include "toolkits/qt/theme.hpp"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace kova::host {
+
+namespace {
+
+/// Where the window goes: on a screen, into the picture that was asked for, or into one of our own
+/// because there is no screen.
+Outlet ChooseOutlet(const Options& options)
+{
+    if (!options.picture.empty())
+        return Outlet::PictureOnPurpose;
+    return HasDisplay() ? Outlet::Window : Outlet::PictureForWantOfDisplay;
+}
+
+/// Remarks of the toolkit that nobody can act on: about every window drawn into memory, and about a folder
+/// that it makes itself where the desktop names none.
+void LeaveOutRemarks(QtMsgType, const QMessageLogContext&, const QString& message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support "))
+        && !message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+        std::cerr << message.toStdString() << std::endl;
+}
+
+/// The toolkit's own words (menus of text boxes, its dialogs) in Portuguese, whatever the desktop speaks.
+void SpeakPortuguese(QApplication& application)
+{
+    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    auto* translator = new QTranslator(&application);
+    if (translator->load(QStringLiteral("qtbase_pt_BR"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(translator);
+}
+
+int RunTelling(const Options& options, Outlet outlet)
+{
+    try {
+        return RunSession(options, outlet);
+    } catch (const Failure& failure) {
+        TellFailure(failure.Description());
+    } catch (const std::exception& failure) {
+        TellFailure(failure.what());
+    }
+    return EXIT_FAILURE;
+}
+
+} // namespace
+
+std::string VersionText() { return "kovaris " KOVARIS_VERSION "\n"; }
+
+int RunApplication(char* programName, const Options& options)
+{
+    const Outlet outlet = ChooseOutlet(options);
+    if (outlet != Outlet::Window)
+        UseNoDisplay();
+    qInstallMessageHandler(LeaveOutRemarks);
+    int count = 1;
+    char* words[] = {programName, nullptr};
+    QApplication application(count, words);
+    QApplication::setApplicationName(QStringLiteral("kovaris"));
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName(QStringLiteral("kovaris"));
+    qt::ApplyLook(application);
+    SpeakPortuguese(application);
+    return RunTelling(options, outlet);
+}
+
+} // namespace kova::host

@@ -1,0 +1,81 @@
+#include "host/component_setup.hpp"
+
+#include "host/components/component_error.hpp"
+
+#include <algorithm>
+#include <array>
+#include <iostream>
+
+namespace kova::host {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::array<std::string_view, 7> NeededClasses{
+    "KOVA_A_Agenda.clsAgenda",      "KOVA_A_MsgErro.clsMensagem",       "KOVA_N_Dados.clsBanco",
+    "KOVA_N_Agenda.clsAgenda",      "KOVA_N_TipoDeServ.clsTiposDeServ", "KOVA_N_Funcionarios.clsFuncionarios",
+    "KOVA_N_SO.clsObterVersaoDoSO",
+};
+
+std::vector<std::string> LibrariesIn(const fs::path& folder)
+{
+    std::vector<std::string> libraries;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+        const std::string name = entry.path().filename().string();
+        if (name.starts_with("libKOVA_") && name.ends_with(".so"))
+            libraries.push_back(fs::canonical(entry.path()).string());
+    }
+    std::sort(libraries.begin(), libraries.end());
+    return libraries;
+}
+
+std::string MissingClass(const RegistryContents& contents)
+{
+    for (const std::string_view needed : NeededClasses)
+        if (contents.Find(needed) == nullptr)
+            return std::string(needed);
+    return {};
+}
+
+bool Names(const RegistryContents& contents, const std::string& library)
+{
+    return std::any_of(contents.classes.begin(), contents.classes.end(),
+                       [&](const ClassRegistration& entry) { return entry.libraryPath == library; });
+}
+
+void RegisterWhatIsNew(RegistryServerHost& server, const RegistryContents& contents, const fs::path& folder)
+{
+    const bool incomplete = !MissingClass(contents).empty();
+    for (const std::string& library : LibrariesIn(folder))
+        if (incomplete || !Names(contents, library))
+            server.RegisterLibrary(library);
+}
+
+std::string TextOf(const std::vector<RegistryProblem>& problems)
+{
+    std::string text;
+    for (const RegistryProblem& problem : problems)
+        text += " " + problem.message;
+    return text;
+}
+
+} // namespace
+
+void SetUpComponents(Registry& registry, RegistryServerHost& server, const fs::path& folder)
+{
+    RegistryContents contents = registry.Load();
+    if (contents.problems.empty()) {
+        RegisterWhatIsNew(server, contents, folder);
+        contents = registry.Load();
+    }
+    if (const std::string missing = MissingClass(contents); !missing.empty())
+        throw ComponentError("O componente '" + missing + "' não está registrado em '" + registry.Path()
+                             + "'." + TextOf(contents.problems)
+                             + " Instale o programa novamente, com todas as bibliotecas ao lado dele em '"
+                             + folder.string() + "'.");
+    for (const RegistryProblem& problem : contents.problems)
+        std::cerr << "Kovaris: " << problem.message << std::endl;
+}
+
+} // namespace kova::host

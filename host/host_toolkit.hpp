@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QWidget>
+
+#include "toolkits/qt/toolkit.hpp"
+
+namespace kova::host {
+
+/// The screen toolkit of the application. Where it draws into memory nobody sits in front of it: messages
+/// go to the standard error output then, and are answered as if their box had been closed.
+class HostToolkit : public qt::QtToolkit {
+public:
+    /// `drawnWidth` is the width in pixels of the window that is drawn into memory, which stands for the
+    /// screen's; 0 is a real screen. The clock must outlive the toolkit.
+    HostToolkit(const kova::Clock& clock, int drawnWidth) : QtToolkit(clock), drawnWidth_(drawnWidth) { }
+
+    Twips ScreenWidth() const override;
+    void UnhandledFailure(const Failure& failure) override;
+
+protected:
+    Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
+
+private:
+    bool DrawsIntoMemory() const { return drawnWidth_ > 0; }
+
+    int drawnWidth_;
+};
+
+} // namespace kova::host

@@ -1,0 +1,69 @@
+#include "host/main_window.hpp"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace kova::host {
+
+namespace {
+
+/// What is left of a screen of 1024 by 768 beside the desktop's bars and the window's frame.
+constexpr QSize SmallestWindow(1000, 680);
+/// How long a desktop may take to give the window its place.
+constexpr qint64 LongestWaitMilliseconds = 400;
+constexpr int EventSliceMilliseconds = 10;
+
+} // namespace
+
+MainWindow::MainWindow(const QString& shop) : container_(new QWidget(this))
+{
+    setWindowTitle(shop.isEmpty() ? QStringLiteral("Kovaris") : shop + QStringLiteral(" - Kovaris"));
+    setMinimumSize(SmallestWindow);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Qt::white);
+    setPalette(colours);
+
+    container_->setObjectName(QStringLiteral("container"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(container_);
+}
+
+void MainWindow::ShowHint(const QString& text)
+{
+    auto* hint = new QLabel(text, container_);
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setWordWrap(true);
+    hint->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    auto* layout = new QVBoxLayout(container_);
+    layout->setContentsMargins(80, 80, 80, 80);
+    layout->addWidget(hint);
+}
+
+void MainWindow::Open(std::optional<WindowSize> size)
+{
+    if (size) {
+        resize(size->width, size->height);
+        show();
+    } else {
+        resize(screen()->availableSize());
+        showMaximized();
+        WaitForPlace();
+    }
+}
+
+void MainWindow::WaitForPlace()
+{
+    QElapsedTimer waited;
+    waited.start();
+    do
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, EventSliceMilliseconds);
+    while (!windowHandle()->isExposed() && waited.elapsed() < LongestWaitMilliseconds);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace kova::host

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "host/options.hpp"
+
+#include <QWidget>
+
+namespace kova::host {
+
+/// The application's window: a container that the day's list fills, and a hint in its place where no list
+/// could be opened.
+class MainWindow : public QWidget {
+public:
+    /// The title is "SHOP - Kovaris", or "Kovaris" where the shop has no name.
+    explicit MainWindow(const QString& shop);
+
+    QWidget& Container() { return *container_; }
+
+    /// Shown in the container, until something else fills it.
+    void ShowHint(const QString& text);
+    /// Shows the window at that size; without one filling the screen, and then returns once the desktop has
+    /// given it its place, so that what is laid out in it finds the final size.
+    void Open(std::optional<WindowSize> size);
+
+private:
+    void WaitForPlace();
+
+    QWidget* container_;
+};
+
+} // namespace kova::host

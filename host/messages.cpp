@@ -1,0 +1,23 @@
+#include "host/messages.hpp"
+
+#include "host/display.hpp"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <iostream>
+
+namespace kova::host {
+
+void TellFailure(const std::string& text)
+{
+    std::cerr << "Kovaris: " << text << std::endl;
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr || !HasDisplay())
+        return;
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Kovaris"), QString::fromStdString(text));
+    box.addButton(QStringLiteral("&Fechar"), QMessageBox::AcceptRole);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.exec();
+}
+
+} // namespace kova::host

@@ -1,0 +1,40 @@
+#include "host/picture.hpp"
+
+#include <QCoreApplication>
+#include <QPixmap>
+#include <QSaveFile>
+#include <QWidget>
+
+#include <stdexcept>
+
+namespace kova::host {
+
+namespace {
+
+void WaitUntilIdle()
+{
+    // A round of events may post the next one (a layout, then its painting).
+    constexpr int rounds = 5;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+} // namespace
+
+void SavePicture(QWidget& window, const std::filesystem::path& file)
+{
+    WaitUntilIdle();
+    std::error_code ignored;
+    if (file.has_parent_path())
+        std::filesystem::create_directories(file.parent_path(), ignored);
+    QSaveFile target(QString::fromStdString(file.string()));
+    if (!target.open(QIODevice::WriteOnly) || !window.grab().save(&target, "PNG") || !target.commit()) {
+        throw std::runtime_error("A imagem \"" + file.string()
+                                 + "\" não pôde ser gravada: " + target.errorString().toStdString()
+                                 + ". Informe em --picture um arquivo de uma pasta em que você pode gravar.");
+    }
+}
+
+} // namespace kova::host

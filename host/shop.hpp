@@ -1,0 +1,22 @@
+#pragma once
+
+#include "agenda/contracts/business_services.hpp"
+
+#include <filesystem>
+#include <string>
+
+namespace kova::host {
+
+/// What the application knows of the shop whose database is open.
+struct Shop {
+    /// "" where no company is registered.
+    std::string tradeName;
+};
+
+/// Opens the data source of the host at `path` through the data component, for the whole process. Where
+/// nothing is there and `makeDemonstration` allows it, the demonstration shop is made first, around
+/// `today`. Throws std::runtime_error or Failure with a text for the user; the file is as it was then.
+Shop OpenShop(ComponentService& components, const std::filesystem::path& path, bool makeDemonstration,
+              const std::string& today);
+
+} // namespace kova::host

@@ -1,0 +1,132 @@
+#include "family/presentation/clsMensagem.hpp"
+#include "family/presentation/error_window.hpp"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace kova::family {
+
+namespace {
+
+/// The application lives as long as its tests: it must not be left to the end of the process.
+class ErrorScreen : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        static int count = 1;
+        static char name[] = "test_host";
+        static char* words[] = {name, nullptr};
+        application_ = std::make_unique<QApplication>(count, words);
+    }
+    static void TearDownTestSuite() { application_.reset(); }
+
+    static void PressKey(QWidget& window, Qt::Key key)
+    {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&window, &press);
+    }
+
+    static Text FieldOf(const ErrorWindow& window, const char* name)
+    {
+        return window.findChild<QPlainTextEdit*>(name)->toPlainText().toStdString();
+    }
+
+    inline static std::unique_ptr<QApplication> application_;
+    const ErrorReport report_{"-2147467259", "Não há conexão.\nTente de novo.",
+                              "kovaris, frmLista, GerarLista, Ponto: 1", "Kovaris"};
+};
+
+std::int32_t NumberOfFailure(const std::function<void()>& act)
+{
+    try {
+        act();
+    } catch (const Failure& failure) {
+        return failure.Number();
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST_F(ErrorScreen, ShowsNumberDescriptionAndPlaceInFullUnderTheApplicationsName)
+{
+    const ErrorWindow window(report_);
+    EXPECT_EQ(window.windowTitle(), "Kovaris");
+    EXPECT_EQ(FieldOf(window, "number"), report_.number);
+    EXPECT_EQ(FieldOf(window, "description"), report_.description);
+    EXPECT_EQ(FieldOf(window, "place"), report_.place);
+}
+
+TEST_F(ErrorScreen, KeepsAWindowOfASaneSizeForALongTextAndStillHoldsAllOfIt)
+{
+    const ErrorReport longReport{"5", Text(20000, 'x'), "kovaris", "Kovaris"};
+    ErrorWindow window(longReport);
+    window.show();
+    EXPECT_LT(window.height(), 600);
+    EXPECT_EQ(FieldOf(window, "description"), longReport.description);
+}
+
+TEST_F(ErrorScreen, CopiesAllFourTexts)
+{
+    ErrorWindow window(report_);
+    window.findChild<QPushButton*>("copy")->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), AsText(report_));
+    for (const Text& part : {report_.number, report_.description, report_.place, report_.application})
+        EXPECT_NE(AsText(report_).find(part), Text::npos) << part;
+}
+
+TEST_F(ErrorScreen, ClosesByItsButtonByEnterAndByEscape)
+{
+    const auto isClosedBy = [&](const std::function<void(ErrorWindow&)>& act) {
+        ErrorWindow window(report_);
+        window.show();
+        act(window);
+        return !window.isVisible();
+    };
+    EXPECT_TRUE(isClosedBy([](ErrorWindow& window) { window.findChild<QPushButton*>("close")->click(); }));
+    EXPECT_TRUE(isClosedBy([](ErrorWindow& window) { PressKey(window, Qt::Key_Return); }));
+    EXPECT_TRUE(isClosedBy([](ErrorWindow& window) { PressKey(window, Qt::Key_Escape); }));
+    EXPECT_FALSE(isClosedBy([](ErrorWindow& window) { window.findChild<QPushButton*>("copy")->click(); }));
+}
+
+TEST_F(ErrorScreen, NamesEveryFieldForAScreenReader)
+{
+    const ErrorWindow window(report_);
+    for (const QPlainTextEdit* field : window.findChildren<QPlainTextEdit*>())
+        EXPECT_FALSE(field->accessibleName().isEmpty()) << field->objectName().toStdString();
+}
+
+TEST_F(ErrorScreen, GoesToTheStandardErrorOutputWhereNobodyCanCloseIt)
+{
+    clsMensagem screen;
+    testing::internal::CaptureStderr();
+    EXPECT_TRUE(screen.Call("Exibir", {Long{13}, "Tipos incompatíveis", "kovaris, X", "Kovaris"}).IsEmpty());
+    const std::string output = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(output, AsText({"13", "Tipos incompatíveis", "kovaris, X", "Kovaris"}));
+}
+
+TEST_F(ErrorScreen, TakesValuesOfAnyType)
+{
+    EXPECT_EQ(ReadableText(Null{}), "");
+    EXPECT_EQ(ReadableText(Empty{}), "");
+    EXPECT_EQ(ReadableText(Double{-2147467259}), "-2147467259");
+    EXPECT_EQ(ReadableText(std::shared_ptr<Component>(std::make_shared<clsMensagem>())), "");
+}
+
+TEST_F(ErrorScreen, HasOneMethodWithFourArguments)
+{
+    clsMensagem screen;
+    EXPECT_EQ(NumberOfFailure([&] { screen.Call("Exibir", {Long{1}, "a", "b"}); }), 450);
+    EXPECT_EQ(NumberOfFailure([&] { screen.Call("Fechar"); }), 438);
+    EXPECT_EQ(NumberOfFailure([&] { screen.Get("Numero"); }), 438);
+    EXPECT_EQ(NumberOfFailure([&] { screen.Set("Numero", Long{1}); }), 438);
+}
+
+} // namespace kova::family

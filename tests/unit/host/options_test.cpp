@@ -1,0 +1,102 @@
+#include "host/options.hpp"
+
+#include <gtest/gtest.h>
+
+namespace kova::host {
+
+namespace {
+
+std::string RefusalOf(const std::vector<std::string>& arguments)
+{
+    try {
+        ParseOptions(arguments);
+    } catch (const BadOptions& refusal) {
+        return refusal.what();
+    }
+    return {};
+}
+
+void ExpectRefusalNames(const std::vector<std::string>& arguments, const std::string& name)
+{
+    const std::string refusal = RefusalOf(arguments);
+    EXPECT_NE(refusal.find(name), std::string::npos) << refusal;
+    EXPECT_NE(refusal.find("--help"), std::string::npos) << refusal;
+}
+
+} // namespace
+
+TEST(Options, AreTheDemonstrationShopInAWindowWithoutArguments)
+{
+    const Options options = ParseOptions({});
+    EXPECT_EQ(options.database, "");
+    EXPECT_EQ(options.user, "");
+    EXPECT_EQ(options.picture, "");
+    EXPECT_FALSE(options.date.has_value());
+    EXPECT_FALSE(options.size.has_value());
+    EXPECT_FALSE(options.firstPaint);
+    EXPECT_FALSE(options.showHelp);
+    EXPECT_FALSE(options.showVersion);
+}
+
+TEST(Options, KnowTheSwitchForMeasuringTheStart) { EXPECT_TRUE(ParseOptions({"--first-paint"}).firstPaint); }
+
+TEST(Options, TakeTheirValueFromTheNextArgument)
+{
+    const Options options = ParseOptions({"--database", "loja.db", "--user", "Ana Maria", "--date",
+                                          "25/03/2026", "--picture", "a.png", "--size", "1920x1080"});
+    EXPECT_EQ(options.database, "loja.db");
+    EXPECT_EQ(options.user, "Ana Maria");
+    EXPECT_EQ(options.date, (Date{2026, 3, 25}));
+    EXPECT_EQ(options.picture, "a.png");
+    EXPECT_EQ(options.size, (WindowSize{1920, 1080}));
+}
+
+TEST(Options, TakeTheirValueBehindAnEqualsSignWhichItMayHoldItself)
+{
+    EXPECT_EQ(ParseOptions({"--database=/a=b/loja.db"}).database, "/a=b/loja.db");
+}
+
+TEST(Options, TakeTheLastOfTwoValues) { EXPECT_EQ(ParseOptions({"--user", "A", "--user", "B"}).user, "B"); }
+
+TEST(Options, KnowHelpByBothNames)
+{
+    EXPECT_TRUE(ParseOptions({"--help"}).showHelp);
+    EXPECT_TRUE(ParseOptions({"-h"}).showHelp);
+    EXPECT_TRUE(ParseOptions({"--version"}).showVersion);
+}
+
+TEST(Options, RefuseAnUnknownNameAndSayIt)
+{
+    ExpectRefusalNames({"--databse", "loja.db"}, "--databse");
+    ExpectRefusalNames({"loja.db"}, "loja.db");
+    ExpectRefusalNames({""}, "\"\"");
+}
+
+TEST(Options, RefuseAMissingValue)
+{
+    ExpectRefusalNames({"--database"}, "--database");
+    ExpectRefusalNames({"--user="}, "--user");
+    ExpectRefusalNames({"--picture", ""}, "--picture");
+}
+
+TEST(Options, RefuseADayThatDoesNotExist)
+{
+    for (const char* day : {"30/02/2026", "2026-03-25", "amanhã", "25/03/1899", "25/03/3000", "25/03/26"})
+        ExpectRefusalNames({"--date", day}, day);
+}
+
+TEST(Options, RefuseASizeThatNoWindowHas)
+{
+    for (const char* size :
+         {"1366", "x768", "1366x", "800x600", "1366x768x2", "-1366x768", "99999x768", "1366X768"})
+        ExpectRefusalNames({"--size", size}, size);
+}
+
+TEST(Options, HelpNamesEveryOption)
+{
+    const std::string help = HelpText();
+    for (const char* name : {"--database", "--user", "--date", "--picture", "--size", "--version", "--help"})
+        EXPECT_NE(help.find(name), std::string::npos) << name;
+}
+
+} // namespace kova::host

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace kova::host::test {
+
+namespace fs = std::filesystem;
+
+/// A folder of its own for one test, removed at its end.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const fs::path& Path() const { return path_; }
+    fs::path operator/(const std::string& name) const { return path_ / name; }
+
+private:
+    fs::path path_;
+};
+
+struct ProgramResult {
+    /// -1 where the program did not end by itself.
+    int status = -1;
+    std::string output;
+    std::string errors;
+};
+
+/// Runs a program of the build folder to its end, without a display, as a user whose home is `home`.
+ProgramResult RunProgram(const fs::path& program, const std::vector<std::string>& arguments,
+                         const fs::path& home);
+/// The application.
+ProgramResult RunKovaris(const std::vector<std::string>& arguments, const fs::path& home);
+
+/// Folder of the programs and component libraries.
+fs::path BuildFolder();
+
+/// Whole content of a file; "" where there is none.
+std::string ContentOf(const fs::path& file);
+void WriteFile(const fs::path& file, const std::string& content);
+
+} // namespace kova::host::test

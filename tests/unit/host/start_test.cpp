@@ -1,0 +1,117 @@
+#include "tests/unit/host/program_run.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <regex>
+
+namespace kova::host::test {
+
+namespace {
+
+struct PictureSize {
+    unsigned width = 0;
+    unsigned height = 0;
+
+    bool operator==(const PictureSize&) const = default;
+};
+
+/// Reads the header of a PNG file; 0 by 0 where it is none.
+PictureSize SizeOfPicture(const fs::path& file)
+{
+    const std::string content = ContentOf(file);
+    if (content.size() < 24 || content.compare(0, 8, "\x89PNG\r\n\x1a\n", 8) != 0)
+        return {};
+    const auto number = [&](std::size_t at) {
+        unsigned value = 0;
+        for (std::size_t i = at; i < at + 4; ++i)
+            value = value * 256 + static_cast<unsigned char>(content[i]);
+        return value;
+    };
+    return {number(16), number(20)};
+}
+
+/// Lines of the output that begin with a time of day.
+long RowsIn(const std::string& output)
+{
+    const std::regex row("(^|\n)[0-9]{2}:[0-9]{2}  [^\n]+");
+    return std::distance(std::sregex_iterator(output.begin(), output.end(), row), std::sregex_iterator());
+}
+
+void ExpectText(const std::string& text, const std::string& part)
+{
+    EXPECT_NE(text.find(part), std::string::npos) << "\"" << part << "\" is not in:\n" << text;
+}
+
+} // namespace
+
+TEST(Start, DrawsTheDemonstrationDayIntoAPictureAndPrintsItsFirstRows)
+{
+    const TemporaryFolder home;
+    const fs::path picture = home / "pasta/agenda.png";
+    const ProgramResult result =
+        RunKovaris({"--date", "25/03/2026", "--size", "1280x800", "--picture", picture}, home.Path());
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(SizeOfPicture(picture), (PictureSize{1280, 800}));
+    ExpectText(result.output, "Agenda de 25/03/2026");
+    ExpectText(result.output, picture.string());
+    EXPECT_GE(RowsIn(result.output), 5) << result.output;
+}
+
+TEST(Start, WithoutADisplaySaysWhereThePictureIsAndWhatADisplayIsFor)
+{
+    const TemporaryFolder home;
+    const ProgramResult result = RunKovaris({"--date", "25/03/2026"}, home.Path());
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_NE(SizeOfPicture(home / ".local/share/kovaris/agenda.png"), PictureSize{});
+    ExpectText(result.output, (home / ".local/share/kovaris/agenda.png").string());
+    ExpectText(result.output, "DISPLAY");
+}
+
+TEST(Start, ForMeasuringEndsOnceTheDayIsPaintedAndSaysSo)
+{
+    const TemporaryFolder home;
+    const ProgramResult result = RunKovaris({"--first-paint", "--date", "25/03/2026"}, home.Path());
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, "desenhado\n");
+    EXPECT_FALSE(fs::exists(home / ".local/share/kovaris/agenda.png"));
+}
+
+TEST(Start, KeepsTheDemonstrationShopThatIsThere)
+{
+    const TemporaryFolder home;
+    RunKovaris({"--date", "25/03/2026"}, home.Path());
+    const fs::path shop = home / ".local/share/kovaris/demonstracao.db";
+    const fs::file_time_type made = fs::last_write_time(shop);
+    const ProgramResult second = RunKovaris({"--date", "25/03/2026"}, home.Path());
+
+    EXPECT_EQ(second.status, 0) << second.errors;
+    EXPECT_EQ(fs::last_write_time(shop), made);
+}
+
+TEST(Start, PrintsTheHelpAndTheVersion)
+{
+    const TemporaryFolder home;
+    const ProgramResult help = RunKovaris({"--help"}, home.Path());
+    EXPECT_EQ(help.status, 0);
+    ExpectText(help.output, "--database");
+    const ProgramResult version = RunKovaris({"--version"}, home.Path());
+    EXPECT_EQ(version.status, 0);
+    EXPECT_TRUE(std::regex_match(version.output, std::regex("kovaris [0-9]+\\.[0-9]+\\.[0-9]+\n")));
+}
+
+TEST(Start, EndsWithTwoOnAnOptionItDoesNotKnow)
+{
+    const TemporaryFolder home;
+    const ProgramResult result = RunKovaris({"--databse", "x"}, home.Path());
+    EXPECT_EQ(result.status, 2);
+    ExpectText(result.errors, "--databse");
+    EXPECT_EQ(result.output, "");
+}
+
+} // namespace kova::host::test
