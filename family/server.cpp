@@ -2,6 +2,7 @@
 #include "family/business/agenda.hpp"
 #include "family/business/company.hpp"
 #include "family/business/employees.hpp"
+#include "family/business/lent_record_sets.hpp"
 #include "family/business/service_types.hpp"
 #include "family/business/store.hpp"
 #include "family/business/system_version.hpp"
@@ -33,10 +34,14 @@ kova::ComponentLibrary& Library()
 
 } // namespace
 
+/// A record set that is still held counts as an object of the library.
+///
 /// Without a host nobody will come back for the connections. The back ends go with them: one that stayed
 /// would be closed by a destructor that runs while the library itself is being closed.
 KOVA_ENTRY_POINT std::int32_t KovaAttachHost(kova::ServerHost* host)
 {
+    if (host != Library().Host() && kova::family::LentRecordSets() > 0)
+        return static_cast<std::int32_t>(kova::ServerStatus::Refused);
     const std::int32_t status = Library().AttachHost(host);
     if (!host && status == 0) {
         kova::family::CloseSharedDatabases();
@@ -50,7 +55,12 @@ KOVA_ENTRY_POINT std::int32_t DllGetClassObject(const char* classId, kova::Class
     return Library().GetClassObject(classId, factory);
 }
 
-KOVA_ENTRY_POINT std::int32_t DllCanUnloadNow() { return Library().CanUnloadNow(); }
+KOVA_ENTRY_POINT std::int32_t DllCanUnloadNow()
+{
+    if (kova::family::LentRecordSets() > 0)
+        return static_cast<std::int32_t>(kova::ServerStatus::Busy);
+    return Library().CanUnloadNow();
+}
 
 KOVA_ENTRY_POINT std::int32_t DllRegisterServer() { return Library().RegisterServer(); }
 

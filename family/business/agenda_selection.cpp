@@ -1,5 +1,6 @@
 #include "family/business/agenda.hpp"
 #include "family/business/day_record_set.hpp"
+#include "family/business/lent_record_sets.hpp"
 #include "family/data/iso_text.hpp"
 
 #include <algorithm>
@@ -57,7 +58,7 @@ Value Agenda::PaginarResultadoDaSelecaoEmRecordset(std::span<Argument> arguments
 {
     if (!Result())
         throw Failure(FailureNumber::NoObject);
-    arguments[1].Assign(CopyPage(*Result(), arguments[0].Get().ToLong()));
+    arguments[1].Assign(Lend(CopyPage(*Result(), arguments[0].Get().ToLong())));
     return {};
 }
 

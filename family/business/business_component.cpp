@@ -1,5 +1,6 @@
 #include "family/business/business_component.hpp"
 
+#include "family/business/lent_record_sets.hpp"
 #include "family/data/shared_database.hpp"
 
 namespace kova::family {
@@ -35,7 +36,7 @@ Integer BusinessComponent::Attempt(std::string_view member, const std::function<
 
 Integer BusinessComponent::Select(std::string_view member, const std::function<RecordSetRef()>& selection)
 {
-    return Attempt(member, [&] { result_ = selection(); });
+    return Attempt(member, [&] { result_ = Lend(selection()); });
 }
 
 void BusinessComponent::Remember(std::string_view member, std::int32_t number, const std::string& description)

@@ -85,23 +85,25 @@ public:
         if (member == PagingMember)
             return PageInto(arguments);
         if (!answer) {
-            Select({}, arguments);
+            Select(member, {}, arguments);
             return Integer{0};
         }
         for (const auto& [name, value] : answer->members)
             members_[name] = value;
-        Select(answer->records, arguments);
+        Select(member, answer->records, arguments);
         return answer->result;
     }
 
 private:
     std::string Full(std::string_view member) const { return className_ + "." + std::string(member); }
 
-    /// A selection in mode 1 is paged by its second argument, as the real components do it.
-    void Select(const RecordTable& table, std::span<Argument> arguments)
+    /// A selection in mode 1 is paged by its second argument, as the real components do it. Other members
+    /// may begin with a number too: the error window with that of the failure.
+    void Select(std::string_view member, const RecordTable& table, std::span<Argument> arguments)
     {
         selection_ = std::make_shared<MemoryRecordSet>(table.fields, table.rows);
-        const bool paged = arguments.size() > 2 && arguments[0].Get() == Value(Long{1});
+        const bool paged =
+            member.starts_with("Selecionar") && arguments.size() > 2 && arguments[0].Get() == Value(Long{1});
         if (paged)
             selection_->PageSize(std::max<Long>(arguments[1].Get().ToLong(), 1));
     }

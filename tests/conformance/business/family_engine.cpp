@@ -1,0 +1,79 @@
+#include "tests/conformance/business/family_engine.hpp"
+
+#include "family/data/data_source.hpp"
+#include "host/components/component_service.hpp"
+#include "host/components/server_host.hpp"
+#include "tests/conformance/business/shop_database.hpp"
+#include "tests/unit/components/host_fixture.hpp"
+
+namespace kova::conformance {
+
+namespace {
+
+/// Where the family keeps the shop. Another engine of the family is another one of these.
+class ShopStore {
+public:
+    virtual ~ShopStore() = default;
+    /// What the host hands to the components.
+    virtual std::string DataSource() const = 0;
+    /// A connection beside the one that the components use.
+    virtual std::shared_ptr<family::Database> Connect() const = 0;
+};
+
+class SqliteFile : public ShopStore {
+public:
+    SqliteFile() { family::CreateDatabase(DataSource(), WriteShop); }
+
+    std::string DataSource() const override { return folder_.File("loja.db"); }
+    std::shared_ptr<family::Database> Connect() const override { return family::OpenDatabase(DataSource()); }
+
+private:
+    test::TemporaryFolder folder_;
+};
+
+class FamilyEngine : public Engine {
+public:
+    explicit FamilyEngine(std::unique_ptr<ShopStore> store) : store_(std::move(store))
+    {
+        server_.RegisterLibrary(FAMILY_LIBRARY);
+    }
+
+    ComponentService& Components() override { return components_; }
+
+    void BreakData() override { Rename("", "_escondido"); }
+    void MendData() override { Rename("_escondido", ""); }
+
+    void RefuseToCreate(const std::string& className) override
+    {
+        ClassRegistration registration = registry_.Find(className).value();
+        registration.libraryPath = folder_.File("libNada.so");
+        registry_.Write(registration);
+    }
+
+    bool Unload() override { return server_.Libraries().Unload(FAMILY_LIBRARY); }
+
+private:
+    /// Each selection needs one of these tables.
+    void Rename(const std::string& oldEnding, const std::string& newEnding)
+    {
+        const auto database = store_->Connect();
+        for (const std::string table : {"funcionario", "tipo_de_servico", "empresa"})
+            database->Session() << "alter table " + table + oldEnding + " rename to " + table + newEnding;
+    }
+
+    std::unique_ptr<ShopStore> store_;
+    test::TemporaryFolder folder_;
+    test::FolderPlatform platform_;
+    host::Registry registry_{folder_.File("registro.txt")};
+    host::RegistryServerHost server_{registry_, platform_, store_->DataSource()};
+    host::RegisteredComponents components_{registry_, server_.Libraries()};
+};
+
+} // namespace
+
+std::unique_ptr<Engine> MakeSqliteEngine()
+{
+    return std::make_unique<FamilyEngine>(std::make_unique<SqliteFile>());
+}
+
+} // namespace kova::conformance

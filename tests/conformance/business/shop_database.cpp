@@ -1,0 +1,136 @@
+#include "tests/conformance/business/shop_database.hpp"
+
+#include "family/data/appointment_rows.hpp"
+#include "family/data/fold_text.hpp"
+#include "family/data/insert_row.hpp"
+#include "family/data/iso_text.hpp"
+#include "family/data/people_rows.hpp"
+#include "tests/conformance/business/shop.hpp"
+
+namespace kova::conformance {
+
+using namespace family;
+
+namespace {
+
+Nullable<std::string> Stored(const std::optional<const char*>& text)
+{
+    return text ? Nullable<std::string>(*text) : Nullable<std::string>();
+}
+
+void WriteService(Database& database, const Service& service)
+{
+    Insert(database, ServiceTypeRow{service.type, service.typeName, FoldText(service.typeName)});
+    ServiceRow row;
+    row.codigo = service.code;
+    row.nome = service.name;
+    row.nomeDeBusca = FoldText(service.name);
+    row.numeroDoTipo = service.type;
+    row.duracaoEmMinutos = service.minutes;
+    Insert(database, row);
+}
+
+void WriteEmployee(Database& database, const Employee& employee)
+{
+    Insert(database,
+           EmployeeRow{employee.code, employee.nickname, employee.name, FoldText(employee.name), 1,
+                       employee.active ? 1 : 2});
+}
+
+void WriteCustomer(Database& database, const Customer& customer)
+{
+    CustomerRow row;
+    row.codigo = customer.code;
+    row.tipoDePessoa = customer.kind;
+    row.apelido = customer.nickname;
+    row.nome = customer.name;
+    row.categoriaDaCurvaABC = "A";
+    row.logradouro = customer.street;
+    row.numero = customer.number;
+    row.cidade = customer.town;
+    row.uf = customer.state;
+    row.cep = customer.postalCode;
+    row.Compose({{customer.code, customer.code, "Celular", customer.phone}});
+    Insert(database, row);
+}
+
+void WriteAnimal(Database& database, const Customer& owner)
+{
+    Insert(database, BreedRow{owner.breed, 1, owner.breedName, FoldText(owner.breedName)});
+    AnimalRow row;
+    row.codigo = owner.animal;
+    row.codigoDoCliente = owner.code;
+    row.nome = owner.animalName;
+    row.sexo = owner.sex;
+    row.codigoDaRaca = owner.breed;
+    row.porte = owner.size;
+    row.cor = owner.colour;
+    row.observacao = Stored(owner.animalRemark);
+    row.nomeDeBusca = FoldText(owner.animalName);
+    Insert(database, row);
+}
+
+void FillCustomer(AppointmentRow& row, const Customer& customer)
+{
+    row.codigoDoCliente = Key(customer.code);
+    row.codigoDoAnimal = Key(customer.animal);
+}
+
+void FillWalkIn(AppointmentRow& row)
+{
+    row.tipoDoAgendamento = 1;
+    row.nomeDoCliente = WalkIn::Name;
+    row.canaisDoCliente = WalkIn::Channels;
+    row.nomeDoAnimal = WalkIn::Animal;
+    row.sexoDoAnimal = "M";
+    row.especieDoAnimal = WalkIn::Species;
+    row.racaDoAnimal = WalkIn::Breed;
+    row.corDoAnimal = WalkIn::Colour;
+}
+
+void WriteAppointment(Database& database, const Appointment& appointment)
+{
+    AppointmentRow row;
+    row.numero = appointment.number;
+    row.dataInicial = row.dataFinal = IsoDate(RequireDate(appointment.date));
+    row.horaInicial = appointment.start;
+    row.horaFinal = appointment.end;
+    if (appointment.customer)
+        FillCustomer(row, *appointment.customer);
+    else
+        FillWalkIn(row);
+    row.numeroDoTipoDeServico = appointment.service->type;
+    row.codigoDoServico = appointment.service->code;
+    row.codigoDoFuncionario = appointment.service->employee;
+    row.observacao = Stored(appointment.remark);
+    row.transporteBuscar = appointment.fetched;
+    row.transporteLevar = appointment.taken;
+    row.situacao = appointment.status;
+    row.incluidoEm = "2026-11-01 09:05:07";
+    row.incluidoPor = "Carla";
+    row.alteradoPor = Stored(appointment.changedBy);
+    if (appointment.changedBy)
+        row.alteradoEm = std::string("2026-11-02 10:00:00");
+    row.Compose();
+    Insert(database, row);
+}
+
+} // namespace
+
+void WriteShop(Database& database)
+{
+    Insert(database, CompanyRow{1, TradeName, "Amigo Fiel Ltda.", "", "", ""});
+    Insert(database, SpeciesRow{1, SpeciesName, FoldText(SpeciesName)});
+    for (const Service& service : Services())
+        WriteService(database, service);
+    for (const Employee& employee : ShopEmployees())
+        WriteEmployee(database, employee);
+    for (const Customer& customer : Customers()) {
+        WriteCustomer(database, customer);
+        WriteAnimal(database, customer);
+    }
+    for (const Appointment& appointment : Appointments())
+        WriteAppointment(database, appointment);
+}
+
+} // namespace kova::conformance
