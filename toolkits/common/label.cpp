@@ -15,9 +15,13 @@ LabelModel::LabelModel(FormModel& form, const ControlDesign& design)
 void LabelModel::Caption(const Text& value)
 {
     Writing("Caption", value);
+    const bool isNew = value != caption_;
     caption_ = value;
-    FitToCaption();
-    Tell(Aspect::Content);
+    // The same caption again only takes back a size that was written meanwhile.
+    if (isNew || state_.width != fitted_.width || state_.height != fitted_.height)
+        FitToCaption();
+    if (isNew)
+        Tell(Aspect::Content);
 }
 
 void LabelModel::ForeColor(Colour value)
@@ -37,6 +41,7 @@ void LabelModel::FitToCaption()
     if (!Design().wordWrap)
         state_.width = extent.width;
     state_.height = extent.height;
+    fitted_ = {state_.width, state_.height};
     Tell(Aspect::Geometry);
 }
 

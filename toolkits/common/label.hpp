@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/widgets/label.hpp"
+#include "toolkits/common/text_measure.hpp"
 #include "toolkits/common/widget_model.hpp"
 
 namespace kova::toolkit {
@@ -26,6 +27,8 @@ private:
     void FitToCaption();
 
     Text caption_;
+    /// The size that the caption was given last.
+    Extent fitted_;
     Colour foreColor_ = colours::Black;
 };
 

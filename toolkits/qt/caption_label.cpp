@@ -2,6 +2,7 @@
 
 #include "toolkits/qt/laid_out_text.hpp"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -16,10 +17,18 @@ void CaptionLabel::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     painter.setFont(font());
-    const QStaticText& caption = LaidOutText(text(), font());
-    const QSize size = caption.size().toSize();
+    if (drawn_.text() != text())
+        drawn_ = LaidOutText(text(), font());
+    const QSize size = drawn_.size().toSize();
     const QRect place = QStyle::alignedRect(layoutDirection(), alignment(), size, contentsRect());
-    painter.drawStaticText(place.topLeft(), caption);
+    painter.drawStaticText(place.topLeft(), drawn_);
+}
+
+void CaptionLabel::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        drawn_ = QStaticText();
+    QLabel::changeEvent(event);
 }
 
 } // namespace kova::qt

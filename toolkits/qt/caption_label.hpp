@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QStaticText>
 
 namespace kova::qt {
 
@@ -12,6 +13,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    /// The caption as it was drawn last; empty where it is to be laid out anew.
+    QStaticText drawn_;
 };
 
 } // namespace kova::qt

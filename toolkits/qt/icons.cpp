@@ -1,18 +1,16 @@
 #include "toolkits/qt/icons.hpp"
 
+#include "toolkits/qt/kept_picture.hpp"
 #include "toolkits/qt/theme.hpp"
 
-#include <QImage>
 #include <QPainter>
 #include <QPainterPath>
 
 #include <array>
 #include <cctype>
-#include <cmath>
 #include <cstdlib>
 #include <map>
 #include <string>
-#include <tuple>
 
 namespace kova::qt {
 
@@ -160,27 +158,11 @@ void DrawOutline(QPainter& painter, const IconDrawing& drawing, const QRectF& sq
 {
     constexpr double units = 24.0;
     constexpr double penWidth = 1.8;
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(square.topLeft());
     painter.scale(square.width() / units, square.height() / units);
     painter.setPen(QPen(color, penWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(OutlineOf(drawing));
-}
-
-// The icon drawn once for a size in the screen's own pixels. Stroking a path costs far more than laying
-// down its picture, and eight buttons follow the mouse from row to row.
-const QImage& ImageOf(const IconDrawing& drawing, int pixels, const QColor& color)
-{
-    static std::map<std::tuple<std::string_view, int, QRgb>, QImage> images;
-    QImage& image = images[{drawing.name, pixels, color.rgba()}];
-    if (image.isNull()) {
-        image = QImage(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        DrawOutline(painter, drawing, QRectF(0, 0, pixels, pixels), color);
-    }
-    return image;
 }
 
 } // namespace
@@ -198,19 +180,9 @@ void PaintIcon(QPainter& painter, std::string_view name, const QRectF& square, c
     const IconDrawing* drawing = FindDrawing(name);
     if (!drawing)
         return;
-    const QTransform onScreen = painter.deviceTransform();
-    const double scale = onScreen.m11();
-    const int pixels = static_cast<int>(std::lround(square.width() * scale));
-    painter.save();
-    if (onScreen.type() <= QTransform::TxScale && pixels > 0) {
-        const QPoint place = onScreen.map(square.topLeft()).toPoint();
-        const QTransform back = onScreen.inverted();
-        painter.drawImage(QRectF(back.map(QPointF(place)), QSizeF(pixels, pixels) / scale),
-                          ImageOf(*drawing, pixels, color));
-    } else {
-        DrawOutline(painter, *drawing, square, color);
-    }
-    painter.restore();
+    PaintKept(painter, square, {drawing->name, color}, [&](QPainter& inside, const QRectF& place, double) {
+        DrawOutline(inside, *drawing, place, color);
+    });
 }
 
 } // namespace kova::qt

@@ -3,8 +3,6 @@
 #include <QFont>
 #include <QHash>
 
-#include <utility>
-
 namespace kova::qt {
 
 namespace {
@@ -12,12 +10,27 @@ namespace {
 // The labels of many rows; beyond it the oldest are only in the way.
 constexpr qsizetype MostTexts = 2048;
 
+/// What tells the product's fonts apart; a font as a whole is slow to hash.
+struct Key {
+    QString text;
+    QString family;
+    int pixels = 0;
+    bool bold = false;
+
+    friend bool operator==(const Key&, const Key&) = default;
+};
+
+std::size_t qHash(const Key& key, std::size_t seed)
+{
+    return qHashMulti(seed, key.text, key.pixels, key.bold);
+}
+
 } // namespace
 
 const QStaticText& LaidOutText(const QString& text, const QFont& font)
 {
-    static QHash<std::pair<QString, QFont>, QStaticText> texts;
-    const std::pair<QString, QFont> key(text, font);
+    static QHash<Key, QStaticText> texts;
+    const Key key{text, font.family(), font.pixelSize(), font.bold()};
     const auto known = texts.constFind(key);
     if (known != texts.constEnd())
         return *known;

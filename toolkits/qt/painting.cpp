@@ -1,5 +1,6 @@
 #include "toolkits/qt/painting.hpp"
 
+#include "toolkits/qt/kept_picture.hpp"
 #include "toolkits/qt/theme.hpp"
 
 #include <QPainter>
@@ -49,12 +50,12 @@ void PaintFocusRing(QPainter& painter, const QRectF& area, const QColor& ground)
 
 void PaintPlate(QPainter& painter, const QRectF& area, const QColor& color, double radius)
 {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawRoundedRect(area, radius, radius);
-    painter.restore();
+    PaintKept(painter, area, {"plate", color, radius},
+              [&](QPainter& inside, const QRectF& place, double scale) {
+                  inside.setPen(Qt::NoPen);
+                  inside.setBrush(color);
+                  inside.drawRoundedRect(place, radius * scale, radius * scale);
+              });
 }
 
 } // namespace kova::qt

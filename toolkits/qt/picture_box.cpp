@@ -6,6 +6,9 @@
 
 namespace kova::qt {
 
+// Where it covers its whole area, nothing below it needs painting.
+PanelWindow::PanelWindow(QWidget* parent) : PlainPanel(parent) { setAttribute(Qt::WA_OpaquePaintEvent); }
+
 void PanelWindow::SetGround(const QColor& ground)
 {
     ground_ = ground;
@@ -15,6 +18,7 @@ void PanelWindow::SetGround(const QColor& ground)
 void PanelWindow::SetCorners(double radius)
 {
     radius_ = radius;
+    setAttribute(Qt::WA_OpaquePaintEvent, radius <= 0);
     update();
 }
 

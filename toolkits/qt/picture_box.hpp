@@ -9,7 +9,7 @@ namespace kova::qt {
 /// A panel with its own ground. Its round corners are drawn smooth, see SetRoundRectRegion.
 class PanelWindow : public PlainPanel {
 public:
-    using PlainPanel::PlainPanel;
+    explicit PanelWindow(QWidget* parent);
     void SetGround(const QColor& ground);
     void SetCorners(double radius);
 

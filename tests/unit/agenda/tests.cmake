@@ -1,1 +1,2 @@
 kovaris_test_program(test_agenda unit/agenda $<TARGET_OBJECTS:agenda_module> contracts toolkit_headless scenario)
+target_compile_definitions(test_agenda PRIVATE MODULE_SOURCES="${CMAKE_SOURCE_DIR}/agenda")

@@ -1,0 +1,104 @@
+// The trap of a procedure and the report it makes.
+
+#include "agenda/shared/modLerGravarEmArquivoIni.hpp"
+#include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/trap.hpp"
+#include "tests/unit/agenda/module_fixture.hpp"
+
+#include <new>
+#include <stdexcept>
+
+namespace kova::agenda {
+
+namespace {
+
+class TheTrap : public ModuleTest {
+protected:
+    TheTrap() { Principal().NomeDaAplicacao = "Kova"; }
+
+    /// The place that the last report gave.
+    std::string Place() const
+    {
+        const auto reports = Reports();
+        if (reports.empty())
+            return {};
+        const std::size_t begin = reports.back().find("KOVA_A_Agenda, ");
+        return reports.back().substr(begin, reports.back().find('"', begin) - begin);
+    }
+};
+
+TEST_F(TheTrap, EndsThePlaceInZeroBeforeTheFirstCheckpoint)
+{
+    Integer Ponto = 0;
+    Trap(", frmLista, Algo, Ponto: ", Ponto, [] { throw Failure(FailureNumber::TypeMismatch); });
+    EXPECT_EQ(Place(), "KOVA_A_Agenda, frmLista, Algo, Ponto: 0");
+}
+
+TEST_F(TheTrap, TellsTheCheckpointThatWasReached)
+{
+    Integer Ponto = 0;
+    Trap(", frmLista, Algo, Ponto: ", Ponto, [&] {
+        Ponto = 1;
+        Ponto = 12;
+        throw Failure(FailureNumber::TypeMismatch);
+    });
+    EXPECT_EQ(Place(), "KOVA_A_Agenda, frmLista, Algo, Ponto: 12");
+    EXPECT_EQ(Reports().size(), 1U);
+}
+
+TEST_F(TheTrap, SaysNothingWhereNothingFails)
+{
+    Integer Ponto = 0;
+    Trap(", frmLista, Algo, Ponto: ", Ponto, [&] { Ponto = 1; });
+    EXPECT_TRUE(lines.empty());
+}
+
+TEST_F(TheTrap, GivesFailuresOfTheLanguageANumber)
+{
+    Integer Ponto = 3;
+    Trap(", frmLista, Algo, Ponto: ", Ponto, [] { throw std::bad_alloc(); });
+    EXPECT_NE(Reports().back().find("Long& 7,"), std::string::npos) << Reports().back();
+    Trap(", frmLista, Algo, Ponto: ", Ponto, [] { throw std::out_of_range("fora"); });
+    EXPECT_NE(Reports().back().find("Long& 5, Text& \"fora\""), std::string::npos) << Reports().back();
+}
+
+TEST_F(TheTrap, PassesTheNumberOfAnotherMakerOnUnchanged)
+{
+    Integer Ponto = 1;
+    Trap(", frmLista, Algo, Ponto: ", Ponto, [] { throw Failure(-2147217887, "campo"); });
+    EXPECT_NE(Reports().back().find("Long& -2147217887, Text& \"campo\""), std::string::npos);
+}
+
+TEST_F(TheTrap, GivesAnEmptyTextWhereTheShellSetNoName)
+{
+    Principal().NomeDaAplicacao.clear();
+    MensagemDeErro(Long{1}, "d", "l");
+    EXPECT_EQ(
+        Reports().back(),
+        R"(call KOVA_A_MsgErro.clsMensagem.Exibir(Long& 1, Text& "d", Text& "l", Text& "") -> Integer 0)");
+    EXPECT_EQ(script.LiveObjects(), 0) << "the error screen is released at once";
+}
+
+TEST_F(TheTrap, LeavesAFailureOfTheErrorScreenToTheCaller)
+{
+    script.FailCreate("KOVA_A_MsgErro.clsMensagem", Failure(429, "sem tela"));
+    EXPECT_THROW(MensagemDeErro(Long{1}, "d", "l"), Failure);
+    script.FailCreate("KOVA_A_MsgErro.clsMensagem", Failure(429, "sem tela"));
+    Integer Ponto = 1;
+    EXPECT_NO_THROW(Trap(", frmLista, Algo, Ponto: ", Ponto, [] { throw Failure(FailureNumber::Overflow); }));
+    EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(TheTrap, HasNoneInTheSettingsProcedures)
+{
+    AttachPlatform(nullptr);
+    EXPECT_THROW(LerArquivoIni("S", "K"), Failure);
+    EXPECT_THROW(GravarArquivoIni("S", "K", "V"), Failure);
+    AttachPlatform(this);
+    EXPECT_EQ(GravarArquivoIni("S", "K", "V"), "") << "the result of the write stays empty";
+    EXPECT_EQ(LerArquivoIni("s", "k"), "V");
+}
+
+} // namespace
+
+} // namespace kova::agenda

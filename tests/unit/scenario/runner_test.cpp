@@ -1,0 +1,161 @@
+// agenda-scenario as a program: what it prints, and the status it ends with.
+
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace {
+
+struct Result {
+    int status = 0;
+    /// Standard output and standard error, as they came.
+    std::string text;
+};
+
+class TheRunner : public testing::Test {
+protected:
+    TheRunner()
+    {
+        std::string pattern = (std::filesystem::temp_directory_path() / "roteiro-XXXXXX").string();
+        folder_ = mkdtemp(pattern.data());
+    }
+    ~TheRunner() override { std::filesystem::remove_all(folder_); }
+
+    Result Run(const std::string& script, const std::string& options = {})
+    {
+        const std::string file = folder_ + "/teste.scenario";
+        std::ofstream(file) << script;
+        return Call(options + " " + file);
+    }
+
+    static Result Call(const std::string& words)
+    {
+        Result result;
+        FILE* pipe = popen((std::string(RUNNER) + " " + words + " 2>&1").c_str(), "r");
+        std::array<char, 4096> part{};
+        while (const std::size_t read = std::fread(part.data(), 1, part.size(), pipe))
+            result.text.append(part.data(), read);
+        const int status = pclose(pipe);
+        result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        return result;
+    }
+
+    const std::string shop =
+        "records tipos Nome Numero\n\"Consulta\", 1\nend\n"
+        "records gente Apelido Codigo\n\"Ana\", 7\nend\n"
+        "always KOVA_N_TipoDeServ.clsTiposDeServ.SelecionarParaComboBox 0 records tipos\n"
+        "always KOVA_N_Funcionarios.clsFuncionarios.SelecionarParaComboBox 0 records gente\n";
+
+private:
+    std::string folder_;
+};
+
+TEST_F(TheRunner, EndsWithZeroAtTheScriptsEnd)
+{
+    const Result result = Run(shop + "open\nnote \"fim\"");
+    EXPECT_EQ(result.status, 0) << result.text;
+    EXPECT_NE(result.text.find("show frmLista\n"), std::string::npos);
+    EXPECT_TRUE(result.text.ends_with("fim\n")) << result.text;
+}
+
+TEST_F(TheRunner, EndsWithTwoAndTheLineWhereTheScriptIsWrong)
+{
+    const std::pair<const char*, const char*> wrong[]{
+        {"voar", "linha 1: comando desconhecido: 'voar'"},
+        {"click frmLista.kvcmdAdicionar", "linha 1: 'click' vem depois de 'open'"},
+        {"open\nscreen 800", "linha 2: 'screen' vem antes de 'open'"},
+        {"clock 2026-13-01 10:00:00", "linha 1: '2026-13-01 10:00:00' não é AAAA-MM-DD hh:mm:ss"},
+        {"answer clsAgenda.Selecionar 0",
+         "linha 1: 'clsAgenda.Selecionar' não é CLASSE.MEMBRO com a classe por inteiro"},
+        {"answer A.b.C 0 records nada", "linha 1: a tabela 'nada' não existe"},
+        {"open\nshow frmLista.kvcmbNada", "linha 2: o controle 'frmLista.kvcmbNada' não existe"},
+        {"open\nshow frmLista.kvcmbSituacao.DropDown",
+         "linha 2: 'frmLista.kvcmbSituacao' não tem o membro 'DropDown'"},
+        {"open\nshow frmLista.msfgGrade.ColWidth", "linha 2: 'ColWidth' pede 1 índice(s)"},
+        {"open\nshow frmNada", "linha 2: o formulário 'frmNada' não existe"},
+        {"screen \"800\"", "linha 1: '800' não deve estar entre aspas"},
+    };
+    for (const auto& [script, message] : wrong) {
+        const Result result = Run(script);
+        EXPECT_EQ(result.status, 2) << script << "\n" << result.text;
+        EXPECT_NE(result.text.find(message), std::string::npos) << script << "\n" << result.text;
+    }
+}
+
+TEST_F(TheRunner, RefusesWhatItsCommandLineDoesNotKnow)
+{
+    EXPECT_EQ(Call("").status, 2);
+    EXPECT_EQ(Call("--voar x").status, 2);
+    EXPECT_EQ(Call("--fail-at 0 x").status, 2);
+    EXPECT_EQ(Call("/nao/existe.scenario").status, 2);
+    EXPECT_EQ(Call("--help").status, 0);
+}
+
+TEST_F(TheRunner, SaysWhyTheUserCannotDoAThing)
+{
+    const Result result = Run(shop
+                              + "open\nclick frmLista.kvcmdExcluir\nclick frmLista.kvcmdNada\n"
+                                "reply ok\nmenu none\nchoose frmLista.kvcmbSituacao 9\n"
+                                "type frmLista.kvcmbSituacao \"x\"");
+    EXPECT_EQ(result.status, 0) << result.text;
+    for (const char* line :
+         {"refused: frmLista.kvcmdExcluir is not visible\n", "refused: frmLista.kvcmdNada does not exist\n",
+          "refused: no message box is open\n", "refused: no menu is open\n",
+          "refused: frmLista.kvcmbSituacao has no row 9\n",
+          "refused: frmLista.kvcmbSituacao is a KVComboBox\n"})
+        EXPECT_NE(result.text.find(line), std::string::npos) << line << result.text;
+}
+
+TEST_F(TheRunner, InjectsOneFailureAndCountsTheCrossings)
+{
+    const Result counted = Run(shop + "open", "--count");
+    EXPECT_NE(counted.text.find("count business 10\n"), std::string::npos) << counted.text;
+    EXPECT_NE(counted.text.find("count widgets "), std::string::npos);
+    const Result failed = Run(shop + "open", "--fail-at 2");
+    EXPECT_EQ(failed.status, 0);
+    EXPECT_NE(failed.text.find("SelecionarParaComboBox(Double& 0)\nraise 5 \"Falha injetada\"\n"),
+              std::string::npos)
+        << failed.text;
+    const Result widget = Run(shop + "open", "--fail-widgets-at 1");
+    EXPECT_NE(widget.text.find("Text& \"Falha injetada\""), std::string::npos) << widget.text;
+}
+
+TEST_F(TheRunner, PrintsWidgetWritesOnDemand)
+{
+    const Result result = Run(shop + "open", "--widgets");
+    EXPECT_NE(result.text.find("widget frmLista.kvcmbSituacao.AddItem(Text \"Agendado\")\n"),
+              std::string::npos)
+        << result.text;
+    EXPECT_NE(result.text.find("widget frmLista.kvcmbSituacao.ItemData(1) = Long 1\n"), std::string::npos);
+    EXPECT_EQ(Run(shop + "open").text.find("\nwidget "), std::string::npos);
+}
+
+TEST_F(TheRunner, MovesItsClockOnlyByPausesAndAdvance)
+{
+    const Result result = Run(shop
+                              + "clock 2026-11-20 23:59:58\nopen\nadvance 3\n"
+                                "type frmLista.kvdtpDataDeAgendamento \"1\"\nfocus frmLista.kvfndPesquisar\n"
+                                "show frmLista.kvdtpDataDeAgendamento.Text");
+    EXPECT_NE(result.text.find("frmLista.kvdtpDataDeAgendamento.Text = \"21/11/2026\"\n"), std::string::npos)
+        << result.text;
+}
+
+TEST_F(TheRunner, AnswersAWholeNumberAsAStatusAndMembersAsTheyAre)
+{
+    const Result result =
+        Run("answer KOVA_N_TipoDeServ.clsTiposDeServ.SelecionarParaComboBox 1 NumeroDoErro=7 "
+            "DescricaoDoErro=\"d e\" LocalDoErro=\"l\"\nopen");
+    EXPECT_NE(result.text.find("-> Integer 1\n"), std::string::npos) << result.text;
+    EXPECT_NE(result.text.find("NumeroDoErro -> Long 7\n"), std::string::npos);
+    EXPECT_NE(result.text.find("DescricaoDoErro -> Text \"d e\"\n"), std::string::npos);
+}
+
+} // namespace
