@@ -12,10 +12,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array<std::string_view, 7> NeededClasses{
-    "KOVA_A_Agenda.clsAgenda",      "KOVA_A_MsgErro.clsMensagem",       "KOVA_N_Dados.clsBanco",
-    "KOVA_N_Agenda.clsAgenda",      "KOVA_N_TipoDeServ.clsTiposDeServ", "KOVA_N_Funcionarios.clsFuncionarios",
+constexpr std::array<std::string_view, 8> NeededClasses{
+    "KOVA_A_Agenda.clsAgenda",
+    "KOVA_A_MsgErro.clsMensagem",
+    "KOVA_N_Dados.clsBanco",
+    "KOVA_N_Agenda.clsAgenda",
+    "KOVA_N_TipoDeServ.clsTiposDeServ",
+    "KOVA_N_Funcionarios.clsFuncionarios",
     "KOVA_N_SO.clsObterVersaoDoSO",
+    "KOVA_A_EfeitosDeTela.clsFundoEscuro",
 };
 
 std::vector<std::string> LibrariesIn(const fs::path& folder)

@@ -1,4 +1,5 @@
 #include "agenda/contracts/component_library.hpp"
+#include "family/presentation/clsFundoEscuro.hpp"
 #include "family/presentation/clsMensagem.hpp"
 
 namespace {
@@ -8,6 +9,8 @@ kova::ComponentLibrary& Library()
     static kova::ComponentLibrary library({
         {"KOVA_A_MsgErro.clsMensagem", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E1}",
          +[](kova::ServerHost&) { return std::make_unique<kova::family::clsMensagem>(); }},
+        {"KOVA_A_EfeitosDeTela.clsFundoEscuro", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E2}",
+         +[](kova::ServerHost&) { return std::make_unique<kova::family::clsFundoEscuro>(); }},
     });
     return library;
 }

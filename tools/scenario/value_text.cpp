@@ -56,21 +56,6 @@ std::string Join(std::string type, const std::string& content)
 
 } // namespace
 
-std::string Quoted(std::string_view text)
-{
-    std::string quoted = "\"";
-    for (const char character : text) {
-        switch (character) {
-        case '"': quoted += "\\\""; break;
-        case '\\': quoted += "\\\\"; break;
-        case '\r': quoted += "\\r"; break;
-        case '\n': quoted += "\\n"; break;
-        default: quoted += character;
-        }
-    }
-    return quoted + "\"";
-}
-
 std::string Print(const Value& value) { return Join(std::string(NameOf(value.GetType())), Content(value)); }
 
 std::string Print(const Argument& argument)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/business_services.hpp"
+#include "toolkits/headless/quoted.hpp"
 
 #include <string>
 #include <string_view>
@@ -23,8 +24,7 @@ private:
     std::string text_;
 };
 
-/// A text in double quotes with the escapes \" \\ \r \n.
-std::string Quoted(std::string_view text);
+using headless::Quoted;
 
 /// A value as transcripts show it: its type and its content, such as `Long 1` or `Text "x"`.
 std::string Print(const Value& value);
