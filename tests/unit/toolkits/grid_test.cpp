@@ -440,6 +440,15 @@ TEST_F(Grid, ReportsTheRowsThatTheSelectionLeftAndReached)
     EXPECT_EQ(change.lastRow, 5);
 }
 
+TEST_F(Grid, ReportsNothingWhereTheSelectionModeStays)
+{
+    Shape(8, 3);
+    grid_->SelectionMode(1);
+    EXPECT_TRUE(Model().TakeChange().all);
+    grid_->SelectionMode(1);
+    EXPECT_TRUE(Model().TakeChange().IsEmpty());
+}
+
 TEST_F(Grid, KeepsItsOwnLook)
 {
     grid_->FontName("Arial");

@@ -136,6 +136,21 @@ TEST_F(LabelOfAutomaticSize, FollowsItsCaptionInsideTheWrite)
     EXPECT_EQ(label.Width(), narrow);
 }
 
+TEST_F(LabelOfAutomaticSize, TakesItsSizeBackWithTheSameCaptionAgain)
+{
+    Has(WidgetKind::Label, "lbl").autoSize = true;
+    Make();
+    auto& label = Get<Label>("lbl");
+    label.Caption("Faísca");
+    const Twips width = label.Width();
+    const Twips height = label.Height();
+    label.Width(width + 300);
+    label.Height(height + 300);
+    label.Caption("Faísca");
+    EXPECT_EQ(label.Width(), width);
+    EXPECT_EQ(label.Height(), height);
+}
+
 TEST_F(LabelOfAutomaticSize, GrowsByLines)
 {
     Has(WidgetKind::Label, "lbl").autoSize = true;

@@ -1,0 +1,108 @@
+#include "bench/list_program.hpp"
+
+#include "agenda/list/clsAgenda.hpp"
+#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/module_platform.hpp"
+#include "bench/paint_watch.hpp"
+#include "family/business/agenda.hpp"
+#include "family/business/employees.hpp"
+#include "family/business/service_types.hpp"
+#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/qt/handles.hpp"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+
+#include <cstdlib>
+#include <iostream>
+#include <stdexcept>
+
+namespace kova::bench {
+
+namespace {
+
+/// Stands for the error screen. A list that had to report something did not do what is measured, so the
+/// program ends.
+class ErrorScreen : public Component {
+public:
+    Value Get(std::string_view) override { return {}; }
+    void Set(std::string_view, const Value&) override { }
+    Value Call(std::string_view, std::span<Argument> arguments) override
+    {
+        std::cerr << "the list reports";
+        for (const Argument& argument : arguments)
+            std::cerr << ": " << argument.Get().ToText();
+        std::cerr << std::endl;
+        std::_Exit(EXIT_FAILURE);
+    }
+};
+
+} // namespace
+
+ComponentRef DataComponents::CreateObject(std::string_view className)
+{
+    if (className == family::Agenda::ClassName)
+        return std::make_shared<family::Agenda>(host_);
+    if (className == family::ServiceTypes::ClassName)
+        return std::make_shared<family::ServiceTypes>(host_);
+    if (className == family::Employees::ClassName)
+        return std::make_shared<family::Employees>(host_);
+    return std::make_shared<ErrorScreen>();
+}
+
+ListProgram::ListProgram(const std::string& database, Date day, QSize size)
+    : clock_(day), toolkit_(clock_, size.width()), platform_(clock_, toolkit_), components_(database)
+{
+    platform_.Use(components_);
+    agenda::AttachPlatform(&platform_);
+    window_.resize(size);
+    window_.show();
+    const Long handle = qt::HandleOf(window_);
+    agenda::clsAgenda agenda;
+    static_cast<Component&>(agenda).Call("AbrirLista", {handle, handle});
+    list_ = agenda::Principal().FormularioDaLista;
+    grid_ = dynamic_cast<qt::GridCanvas*>(window_.findChild<QWidget*>(QStringLiteral("frmLista.msfgGrade")));
+    if (!grid_)
+        throw std::runtime_error("the list has no grid");
+    Settle();
+}
+
+ListProgram::~ListProgram()
+{
+    list_.reset();
+    agenda::ReiniciarModulo();
+    agenda::AttachPlatform(nullptr);
+}
+
+void ListProgram::ShowPanel(bool show)
+{
+    list_->chkExibirPainel.Value(show ? 1 : 0);
+    Settle();
+}
+
+void ListProgram::ShowDay(Date day, Integer rowsOfPage)
+{
+    list_->kvdtpDataDeAgendamento.Text(FormatDate(day));
+    list_->RegistrosPorPagina = rowsOfPage;
+    list_->GerarLista();
+    list_->PaginaAtual = 1;
+    list_->AtualizarObjetos(1);
+    Settle();
+}
+
+Long ListProgram::RecordCount() const { return static_cast<Long>(list_->kvnbBarraDeNavegacao.RecordCount()); }
+
+void ListProgram::PressBar(int button)
+{
+    dynamic_cast<toolkit::NavigationBarModel&>(list_->kvnbBarraDeNavegacao).UserPresses(button);
+}
+
+void ListProgram::MoveMouseTo(int row)
+{
+    const QPointF place = QRectF(grid_->RowArea(row)).center();
+    QMouseEvent event(QEvent::MouseMove, place, grid_->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(grid_, &event);
+}
+
+} // namespace kova::bench
