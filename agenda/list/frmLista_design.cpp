@@ -31,7 +31,6 @@ ControlDesign BotaoDaLinha(const char* nome, const char* icone, const char* acao
             .height = 570,
             .caption = " ",
             .visible = false,
-            .tabStop = false,
             .accessibleName = acao,
             .backColor = 14277081,
             .icon = icone,

@@ -88,6 +88,7 @@ private:
     void QueueDuringPause(const Statement&);
     void MenuOutsideMenu(const Statement&);
     void ReplyOutsideBox(const Statement&);
+    void PagesOutsidePreview(const Statement&);
     void Show(const Statement&);
     void Note(const Statement&);
     /// The control that a statement names.

@@ -63,6 +63,7 @@ const Runner::Verb* Runner::Find(const std::string& verb)
         {"bar", {&Runner::Bar, When::After}},
         {"menu", {&Runner::MenuOutsideMenu, When::After}},
         {"reply", {&Runner::ReplyOutsideBox, When::After}},
+        {"pages", {&Runner::PagesOutsidePreview, When::After}},
         {"resize", {&Runner::Resize, When::After}},
         {"close", {&Runner::Close, When::After}},
         {"show", {&Runner::Show, When::After}},
@@ -277,6 +278,8 @@ void Runner::QueueDuringPause(const Statement& statement) { duringPause_.push_ba
 void Runner::MenuOutsideMenu(const Statement&) { RefuseIf("no menu is open"); }
 
 void Runner::ReplyOutsideBox(const Statement&) { RefuseIf("no message box is open"); }
+
+void Runner::PagesOutsidePreview(const Statement&) { RefuseIf("no report preview is open"); }
 
 void Runner::Show(const Statement& statement)
 {

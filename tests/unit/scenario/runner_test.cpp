@@ -103,13 +103,13 @@ TEST_F(TheRunner, SaysWhyTheUserCannotDoAThing)
 {
     const Result result = Run(shop
                               + "open\nclick frmLista.kvcmdExcluir\nclick frmLista.kvcmdNada\n"
-                                "reply ok\nmenu none\nchoose frmLista.kvcmbSituacao 9\n"
+                                "reply ok\nmenu none\npages\nchoose frmLista.kvcmbSituacao 9\n"
                                 "type frmLista.kvcmbSituacao \"x\"");
     EXPECT_EQ(result.status, 0) << result.text;
     for (const char* line :
          {"refused: frmLista.kvcmdExcluir is not visible\n", "refused: frmLista.kvcmdNada does not exist\n",
           "refused: no message box is open\n", "refused: no menu is open\n",
-          "refused: frmLista.kvcmbSituacao has no row 9\n",
+          "refused: no report preview is open\n", "refused: frmLista.kvcmbSituacao has no row 9\n",
           "refused: frmLista.kvcmbSituacao is a KVComboBox\n"})
         EXPECT_NE(result.text.find(line), std::string::npos) << line << result.text;
 }
