@@ -18,9 +18,10 @@ namespace {
 
 using namespace kova::scenario;
 
-/// Scripts with more widget accesses than this inject into every n-th one, so that the longest ones take
-/// no longer than the rest.
-constexpr int MostWidgetInjections = 400;
+/// Long scripts inject into every n-th widget access only: at most so many injections, and at most so many
+/// accesses in all their runs together, so that a long script takes no longer than the others.
+constexpr long MostWidgetInjections = 400;
+constexpr long MostWidgetAccesses = 1'200'000;
 /// A run that has not ended by then hangs.
 constexpr unsigned SecondsOfARun = 60;
 
@@ -113,6 +114,12 @@ private:
     int faults_ = 0;
 };
 
+int WidgetStep(long accesses)
+{
+    return static_cast<int>(
+        std::max({1L, accesses / MostWidgetInjections, accesses * accesses / MostWidgetAccesses}));
+}
+
 } // namespace
 
 int main(int count, char** words)
@@ -131,8 +138,7 @@ int main(int count, char** words)
     }
     Sweep sweep(script);
     sweep.Over(&RunOptions::failAt, "business", plain.business, 1);
-    sweep.Over(&RunOptions::failWidgetsAt, "widget", plain.widgets,
-               std::max(1, plain.widgets / MostWidgetInjections));
+    sweep.Over(&RunOptions::failWidgetsAt, "widget", plain.widgets, WidgetStep(plain.widgets));
     std::printf("%d injections, %d faults (%d business crossings, %d widget accesses)\n", sweep.Injections(),
                 sweep.Faults(), plain.business, plain.widgets);
     return sweep.Faults() == 0 ? 0 : 1;
