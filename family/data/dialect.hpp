@@ -14,6 +14,9 @@ struct Dialect {
     std::string bigInteger;
     /// A text that orders by its bytes, as the folded texts are ordered.
     std::string orderedText;
+    /// Begins a transaction that writes. What it reads cannot be changed by another connection before it
+    /// ends: that one waits, or fails.
+    std::string beginOfWrite;
     /// Run on every connection before anything else.
     std::vector<std::string> settings;
 };

@@ -1,0 +1,21 @@
+#include "family/business/current_author.hpp"
+
+#include "agenda/contracts/text.hpp"
+#include "family/data/iso_text.hpp"
+
+namespace kova::family {
+
+Author CurrentAuthor(const ObjectRef& user, const Clock& clock)
+{
+    const Failure missing(FailureNumber::NoObject, "Usuário não informado.");
+    const auto session = std::dynamic_pointer_cast<Component>(user);
+    if (!session)
+        throw missing;
+    Author author{session->Get("Codigo").ToText(), Trim(session->Get("Nome").ToText()),
+                  IsoMoment(clock.Now())};
+    if (author.name.empty())
+        throw missing;
+    return author;
+}
+
+} // namespace kova::family

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "family/business/write_answer.hpp"
+#include "family/data/author.hpp"
+#include "family/data/rows.hpp"
+
+namespace kova::family {
+
+class Database;
+
+/// Each runs in a transaction of its own: what is not answered with Done has changed nothing. A change to 4
+/// makes the pre-sale with the service's price, one from 4 cancels it. The stored status counts, not the
+/// one that a screen shows. They fail with a DatabaseFailure.
+
+/// Sets the status of one appointment. Refused where it is gone, where its pre-sale cannot be made (a
+/// clinical type, no registered customer) or was billed already.
+WriteAnswer ChangeStatus(Database& database, Key appointment, int status, const Author& author);
+
+/// Sets the status of all appointments of the same package that are neither attended nor billed; those
+/// that have it already are not touched. Refused as the change of one, and where there is no package.
+WriteAnswer ChangeStatusOfPackage(Database& database, Key appointment, int status, const Author& author);
+
+} // namespace kova::family

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "agenda/contracts/value.hpp"
+
+namespace kova::family {
+
+/// What a write of a business class answers, technical failures (status 1) aside.
+struct WriteAnswer {
+    static constexpr Integer Done = 0;
+    static constexpr Integer Invalid = 2;
+    static constexpr Integer Refused = 3;
+
+    static WriteAnswer InvalidField(Text field, Text text)
+    {
+        return {Invalid, std::move(field), std::move(text)};
+    }
+    static WriteAnswer Refusal(Text text) { return {Refused, {}, std::move(text)}; }
+
+    bool IsDone() const { return status == Done; }
+
+    Integer status = Done;
+    /// The field at fault, on Invalid.
+    Text field;
+    /// Why not, for the user.
+    Text text;
+    /// Whether the appointment that was written belongs to a package.
+    bool inPackage = false;
+};
+
+} // namespace kova::family

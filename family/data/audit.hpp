@@ -1,0 +1,55 @@
+#pragma once
+
+#include "family/data/author.hpp"
+#include "family/data/rows.hpp"
+
+#include <string_view>
+
+namespace kova::family {
+
+class Database;
+
+/// Values of a row by their columns, as one line of JSON.
+class AuditValues {
+public:
+    AuditValues& Add(std::string_view column, long long value);
+    AuditValues& Add(std::string_view column, const std::string& value);
+    AuditValues& Add(std::string_view column, const Nullable<std::string>& value);
+
+    std::string Line() const { return "{" + members_ + "}"; }
+
+private:
+    AuditValues& AddWritten(std::string_view column, const std::string& written);
+
+    std::string members_;
+};
+
+/// A row of the audit; the engine numbers it. `usuario` is "CODE - NAME".
+struct AuditRow {
+    static constexpr const char* Table = "auditoria";
+    std::string momento, usuario, tabela;
+    Key chave = 0;
+    /// "inclusao" or "alteracao"
+    std::string operacao;
+    /// The written columns only; `antes` is Null for a new row.
+    Nullable<std::string> antes, depois;
+
+    template <class Visit> void Columns(Visit visit)
+    {
+        visit("momento", momento);
+        visit("usuario", usuario);
+        visit("tabela", tabela);
+        visit("chave", chave);
+        visit("operacao", operacao);
+        visit("antes", antes);
+        visit("depois", depois);
+    }
+};
+
+/// Write a line for a new row, and for a changed one, in the transaction that is open.
+void AuditInsertion(Database& database, const Author& author, const char* table, Key key,
+                    const AuditValues& after);
+void AuditChange(Database& database, const Author& author, const char* table, Key key,
+                 const AuditValues& before, const AuditValues& after);
+
+} // namespace kova::family

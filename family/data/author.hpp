@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace kova::family {
+
+/// Who writes, and when.
+struct Author {
+    std::string code;
+    /// What the lists show as the one who made or changed a record.
+    std::string name;
+    /// "yyyy-mm-dd hh:mm:ss"
+    std::string moment;
+};
+
+} // namespace kova::family
