@@ -10,7 +10,9 @@ namespace kova::qt {
 
 void CaptionLabel::paintEvent(QPaintEvent* event)
 {
-    if (buddy() || wordWrap() || !isEnabled()) {
+    // Lines are aligned one by one, which a text laid out as a whole is not.
+    const bool hasLines = text().contains(QLatin1Char('\n'));
+    if (buddy() || wordWrap() || hasLines || !isEnabled()) {
         QLabel::paintEvent(event);
         return;
     }

@@ -6,6 +6,7 @@
 #include "toolkits/qt/label.hpp"
 #include "toolkits/qt/theme.hpp"
 #include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/widget_view.hpp"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -120,6 +121,13 @@ void FormWidget::moveEvent(QMoveEvent*)
         model_.UserMoves(ToTwips(x()), ToTwips(y()));
 }
 
+// A click beside the widgets, or on a disabled one, does not take the focus from the one that has it.
+void FormWidget::focusInEvent(QFocusEvent* event)
+{
+    if (event->reason() == Qt::MouseFocusReason && model_.Focused())
+        ShowFocusOf(model_);
+}
+
 FormWindow::FormWindow(QtToolkit& toolkit, toolkit::FormModel& model)
     : toolkit_(toolkit), model_(model), widget_(new FormWidget(model)), handle_(HandleOf(*widget_))
 {
@@ -207,13 +215,25 @@ void FormWindow::LinkBuddies() const
     }
 }
 
+// A form that is shown over a modal one belongs to it: Qt would keep the user out of any other.
+QWidget* FormWindow::WindowBelow() const
+{
+    const toolkit::FormModel* modal = toolkit_.ModalForm();
+    if (modal && modal != &model_) {
+        const QWidget* widget = static_cast<const FormWindow&>(modal->Window()).Window();
+        if (widget && widget->isVisible())
+            return widget->window();
+    }
+    return toolkit_.WindowBelow(widget_);
+}
+
 void FormWindow::Show(ShowMode mode)
 {
     if (!widget_)
         return;
     modalEnded_ = false;
     if (!container_ && !widget_->isVisible()) {
-        QWidget* below = toolkit_.WindowBelow(widget_);
+        QWidget* below = WindowBelow();
         if (!placed_)
             CentreOver(below);
         placed_ = true;

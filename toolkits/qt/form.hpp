@@ -29,6 +29,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     toolkit::FormModel& model_;
@@ -59,6 +60,7 @@ private:
     void FitToContainer();
     void CentreOver(const QWidget* other);
     void LinkBuddies() const;
+    QWidget* WindowBelow() const;
 
     QtToolkit& toolkit_;
     toolkit::FormModel& model_;

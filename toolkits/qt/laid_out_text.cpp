@@ -36,7 +36,8 @@ const QStaticText& LaidOutText(const QString& text, const QFont& font)
         return *known;
     if (texts.size() >= MostTexts)
         texts.clear();
-    QStaticText made(text);
+    // The layout breaks lines at separators only.
+    QStaticText made(QString(text).replace(QLatin1Char('\n'), QChar::LineSeparator));
     made.setTextFormat(Qt::PlainText);
     made.prepare(QTransform(), font);
     return *texts.insert(key, made);

@@ -1,6 +1,7 @@
 #include "toolkits/qt/widget_view.hpp"
 
 #include "toolkits/common/form.hpp"
+#include "toolkits/qt/form.hpp"
 #include "toolkits/qt/theme.hpp"
 
 #include <QFocusEvent>
@@ -40,11 +41,20 @@ public:
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason
             || reason == Qt::TabFocusReason)
-            core_.UserFocuses();
+            Forward();
         return false;
     }
 
 private:
+    // Qt has moved its focus already, which a form that takes no input has not wanted.
+    void Forward()
+    {
+        toolkit::WidgetCore& core = core_;
+        core.UserFocuses();
+        if (!core.HasFocus())
+            ShowFocusOf(core.GetForm());
+    }
+
     toolkit::WidgetCore& core_;
 };
 
@@ -157,6 +167,16 @@ void WidgetView::StackByKind()
             return;
         }
     }
+}
+
+void ShowFocusOf(const toolkit::FormModel& form)
+{
+    if (form.Current().unloaded)
+        return;
+    if (form.Focused() && form.Focused()->GetView())
+        form.Focused()->GetView()->TakeFocus();
+    else if (QWidget* window = static_cast<const FormWindow&>(form.Window()).Window())
+        window->setFocus(Qt::OtherFocusReason);
 }
 
 QString AccessibleNameOf(const toolkit::WidgetCore& core)

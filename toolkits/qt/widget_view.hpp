@@ -67,6 +67,9 @@ private:
     Model& model_;
 };
 
+/// Puts Qt's focus where the model has it: on its widget, or on the form where none has it.
+void ShowFocusOf(const toolkit::FormModel& form);
+
 /// What a screen reader calls the widget: the design's name, its caption, the label in front of it or
 /// its tool tip.
 QString AccessibleNameOf(const toolkit::WidgetCore& core);

@@ -1,0 +1,63 @@
+#include "tests/conformance/widgets/qt/application.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include <memory>
+
+namespace kova::conformance {
+
+namespace {
+
+// The offscreen platform has no window manager, and says so.
+bool IsExpected(const QString& text)
+{
+    for (const char* lack : {"propagateSizeHints", "support raise()", "support grabbing the keyboard"}) {
+        if (text.contains(QLatin1String(lack)))
+            return true;
+    }
+    return false;
+}
+
+void FailOnWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg && !IsExpected(text))
+        ADD_FAILURE() << "Qt says: " << text.toStdString();
+}
+
+/// The application, made for the first bench and gone before the program ends.
+class Application : public testing::Environment {
+public:
+    void Need()
+    {
+        if (application_)
+            return;
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        application_ = std::make_unique<QApplication>(count_, arguments_);
+        QApplication::setQuitOnLastWindowClosed(false);
+        qInstallMessageHandler(&FailOnWarning);
+    }
+    void TearDown() override { application_.reset(); }
+
+private:
+    int count_ = 1;
+    char name_[8] = "widgets";
+    char* arguments_[2] = {name_, nullptr};
+    std::unique_ptr<QApplication> application_;
+};
+
+Application& TheApplication()
+{
+    static auto* const application = new Application;
+    return *application;
+}
+[[maybe_unused]] testing::Environment* const registered =
+    testing::AddGlobalTestEnvironment(&TheApplication());
+
+} // namespace
+
+void NeedApplication() { TheApplication().Need(); }
+
+} // namespace kova::conformance

@@ -1,0 +1,289 @@
+#include "tests/conformance/widgets/qt/qt_bench.hpp"
+
+#include "tests/conformance/widgets/qt/application.hpp"
+#include "tests/conformance/widgets/qt/bench_toolkit.hpp"
+#include "tests/conformance/widgets/qt/input.hpp"
+#include "toolkits/qt/calendar.hpp"
+#include "toolkits/qt/combo_field.hpp"
+#include "toolkits/qt/date_box.hpp"
+#include "toolkits/qt/field_frame.hpp"
+#include "toolkits/qt/grid_canvas.hpp"
+#include "toolkits/qt/handles.hpp"
+#include "toolkits/qt/navigation_bar.hpp"
+#include "toolkits/qt/theme.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <map>
+
+namespace kova::conformance {
+
+namespace {
+
+using toolkit::FormKey;
+
+QPoint PixelOf(Twips x, Twips y) { return QPoint(qt::Pixels(x), qt::Pixels(y)); }
+
+class QtBench final : public Bench {
+public:
+    QtBench() : toolkit_(clock_, script_) { }
+
+    kova::Toolkit& Kit() override { return toolkit_; }
+    Long MakeContainer(Twips width, Twips height) override;
+    void ResizeContainer(Long handle, Twips width, Twips height) override;
+    void Settle() override;
+
+    void Press(Widget& button) override { ClickOn(WindowOf(button)); }
+    void PressBySpace(Widget& button) override
+    {
+        button.SetFocus();
+        if (Reached(button))
+            KeyOn(WindowOf(button), Qt::Key_Space);
+    }
+    void PressFind(KVFind& box) override;
+    void PressBar(KVNavigationBar& bar, int button) override { ClickOn(&BarOf(bar).Button(button)); }
+    void Key(Form& form, FormKey key) override;
+    void CloseWindow(Form& form) override { WindowOf(form)->close(); }
+    void ResizeWindow(Form& form, Twips innerWidth, Twips innerHeight) override
+    {
+        WindowOf(form)->resize(qt::Pixels(innerWidth), qt::Pixels(innerHeight));
+    }
+    void Focus(Widget& box) override { ClickOn(FocusWindowOf(box)); }
+
+    void Type(Widget& box, const std::string& text) override;
+    void TypeOn(Widget& box, const std::string& text) override
+    {
+        if (Reached(box))
+            TypeOnKeys(WindowOf(box), qt::FromText(text));
+    }
+    void Backspace(Widget& box) override { KeyInside(box, Qt::Key_Backspace); }
+    void DeleteFirst(Widget& box) override
+    {
+        KeyInside(box, Qt::Key_Home);
+        KeyInside(box, Qt::Key_Delete);
+    }
+    void PasteAtEnd(Widget& box, const std::string& text) override;
+
+    void Choose(KVComboBox& combo, int row) override;
+    std::vector<std::string> LookAtList(KVComboBox& combo) override;
+    void StepTo(KVComboBox& combo, int row) override;
+    void Pick(KVDTPicker& box, Date date) override;
+
+    void HoverAt(MSFlexGrid& grid, Twips x, Twips y) override { MoveOver(WindowOf(grid), PixelOf(x, y)); }
+    void ClickAt(MSFlexGrid& grid, Twips x, Twips y) override { ClickOn(WindowOf(grid), PixelOf(x, y)); }
+    void Drag(MSFlexGrid& grid, Twips x, Twips y, Twips toX, Twips toY) override
+    {
+        DragOver(WindowOf(grid), PixelOf(x, y), PixelOf(toX, toY));
+    }
+    void GridKey(MSFlexGrid& grid, toolkit::GridKey key) override;
+
+    bool IsOnScreen(Widget& widget) override { return WindowOf(widget)->isVisible(); }
+    std::string Focused(Form& form) override;
+    std::string ShownText(Widget& widget) override;
+    std::string SelectedText(Widget& box) override { return qt::ToText(EditorOf(box).selectedText()); }
+    bool ShowsMagnifier(KVFind& box) override { return FrameOf(box).EndIcon() == "lupa"; }
+    bool Offers(KVNavigationBar& bar, int button) override { return BarOf(bar).Button(button).isEnabled(); }
+    std::string BarText(KVNavigationBar& bar) override { return qt::ToText(BarOf(bar).Numbers().text()); }
+    Colour GroundOf(MSFlexGrid& grid, Long row, Long col) override;
+
+private:
+    static qt::FieldFrame& FrameOf(Widget& box) { return dynamic_cast<qt::FieldFrame&>(*WindowOf(box)); }
+    static QLineEdit& EditorOf(Widget& box) { return FrameOf(box).Editor(); }
+    static qt::ComboField& FieldOf(Widget& box) { return dynamic_cast<qt::ComboField&>(*WindowOf(box)); }
+    static QListWidget* OpenedList(KVComboBox& combo);
+    static qt::NavigationWindow& BarOf(Widget& bar)
+    {
+        return dynamic_cast<qt::NavigationWindow&>(*WindowOf(bar));
+    }
+    /// Whether keys go to that widget now.
+    static bool Reached(Widget& widget)
+    {
+        const QWidget* window = WindowOf(widget);
+        return window && window->window()->focusWidget() == FocusWindowOf(widget);
+    }
+    static void KeyInside(Widget& box, Qt::Key key)
+    {
+        if (Reached(box))
+            KeyOn(WindowOf(box), key);
+    }
+
+    BenchClock clock_;
+    BenchToolkit toolkit_;
+    std::map<Long, std::unique_ptr<QWidget>> containers_;
+};
+
+Long QtBench::MakeContainer(Twips width, Twips height)
+{
+    auto container = std::make_unique<QWidget>();
+    container->resize(qt::Pixels(width), qt::Pixels(height));
+    container->show();
+    container->activateWindow();
+    const Long handle = qt::HandleOf(*container);
+    containers_[handle] = std::move(container);
+    return handle;
+}
+
+void QtBench::ResizeContainer(Long handle, Twips width, Twips height)
+{
+    containers_.at(handle)->resize(qt::Pixels(width), qt::Pixels(height));
+    Settle();
+}
+
+void QtBench::Settle()
+{
+    for (int round = 0; round < 3; ++round) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+void QtBench::PressFind(KVFind& box)
+{
+    const QWidget& frame = FrameOf(box);
+    ClickOn(&FrameOf(box), QPoint(frame.width() - 10, frame.height() / 2));
+}
+
+void QtBench::Key(Form& form, FormKey key)
+{
+    static const std::map<FormKey, Qt::Key> keys = {{FormKey::Tab, Qt::Key_Tab},
+                                                    {FormKey::BackTab, Qt::Key_Backtab},
+                                                    {FormKey::Enter, Qt::Key_Return},
+                                                    {FormKey::Escape, Qt::Key_Escape}};
+    KeyOn(WindowOf(form), keys.at(key),
+          key == FormKey::BackTab ? Qt::ShiftModifier : Qt::KeyboardModifiers());
+}
+
+void QtBench::Type(Widget& box, const std::string& text)
+{
+    Focus(box);
+    if (!Reached(box))
+        return;
+    KeyOn(WindowOf(box), Qt::Key_A, Qt::ControlModifier);
+    if (text.empty())
+        Backspace(box);
+    TypeOn(box, text);
+}
+
+void QtBench::PasteAtEnd(Widget& box, const std::string& text)
+{
+    KeyInside(box, Qt::Key_End);
+    QApplication::clipboard()->setText(qt::FromText(text));
+    if (Reached(box))
+        KeyOn(WindowOf(box), Qt::Key_V, Qt::ControlModifier);
+}
+
+// Null where it did not open; the form may be gone then.
+QListWidget* QtBench::OpenedList(KVComboBox& combo)
+{
+    const QPointer<qt::ComboField> field = &FieldOf(combo);
+    ClickOn(field);
+    return field ? field->List() : nullptr;
+}
+
+void QtBench::Choose(KVComboBox& combo, int row)
+{
+    QListWidget* list = OpenedList(combo);
+    if (!list)
+        return;
+    if (row < list->count())
+        ClickOn(list->viewport(), list->visualItemRect(list->item(row)).center());
+    else
+        KeyOn(list, Qt::Key_Escape);
+}
+
+std::vector<std::string> QtBench::LookAtList(KVComboBox& combo)
+{
+    QListWidget* list = OpenedList(combo);
+    std::vector<std::string> rows;
+    if (!list)
+        return rows;
+    for (int row = 0; row < list->count(); ++row)
+        rows.push_back(qt::ToText(list->item(row)->text()));
+    KeyOn(list, Qt::Key_Escape);
+    return rows;
+}
+
+void QtBench::StepTo(KVComboBox& combo, int row)
+{
+    combo.SetFocus();
+    KeyInside(combo, row > combo.ListIndex() ? Qt::Key_Down : Qt::Key_Up);
+}
+
+void QtBench::Pick(KVDTPicker& box, Date date)
+{
+    Focus(box);
+    KeyInside(box, Qt::Key_F4);
+    auto& view = dynamic_cast<qt::DateBoxView&>(*CoreOf(box).GetView());
+    qt::CalendarPopup* calendar = view.Calendar();
+    if (!calendar)
+        return;
+    const auto monthOf = [](Date day) { return day.year * 12 + day.month; };
+    while (monthOf(calendar->Current()) != monthOf(date))
+        KeyOn(calendar, monthOf(calendar->Current()) < monthOf(date) ? Qt::Key_PageDown : Qt::Key_PageUp);
+    while (calendar->Current() != date)
+        KeyOn(calendar, calendar->Current() < date ? Qt::Key_Right : Qt::Key_Left);
+    KeyOn(calendar, Qt::Key_Return);
+}
+
+void QtBench::GridKey(MSFlexGrid& grid, toolkit::GridKey key)
+{
+    using toolkit::GridKey;
+    static const std::map<toolkit::GridKey, Qt::Key> keys = {
+        {GridKey::Up, Qt::Key_Up},         {GridKey::Down, Qt::Key_Down},
+        {GridKey::PageUp, Qt::Key_PageUp}, {GridKey::PageDown, Qt::Key_PageDown},
+        {GridKey::Home, Qt::Key_Home},     {GridKey::End, Qt::Key_End}};
+    grid.SetFocus();
+    KeyInside(grid, keys.at(key));
+}
+
+// The screen's own focus has to stand where the model says.
+std::string QtBench::Focused(Form& form)
+{
+    const toolkit::WidgetCore* focused = ModelOf(form).Focused();
+    const QWidget* on = WindowOf(form)->window()->focusWidget();
+    if (focused) {
+        const auto& view = dynamic_cast<qt::WidgetView&>(*focused->GetView());
+        EXPECT_TRUE(on == view.FocusWindow() || view.Window()->isAncestorOf(on))
+            << focused->FullName() << " has the focus, on the screen "
+            << (on ? on->objectName().toStdString() : "nothing");
+    }
+    return NameOfFocused(form);
+}
+
+std::string QtBench::ShownText(Widget& widget)
+{
+    QWidget* window = WindowOf(widget);
+    if (const auto* combo = dynamic_cast<qt::ComboField*>(window))
+        return qt::ToText(combo->ShownText());
+    if (const auto* label = dynamic_cast<QLabel*>(window))
+        return qt::ToText(label->text());
+    if (const auto* button = dynamic_cast<QAbstractButton*>(window))
+        return qt::ToText(button->text());
+    return qt::ToText(EditorOf(widget).text());
+}
+
+// A pixel beside the text and the lines.
+Colour QtBench::GroundOf(MSFlexGrid& grid, Long row, Long col)
+{
+    auto& canvas = dynamic_cast<qt::GridCanvas&>(*WindowOf(grid));
+    QImage image(canvas.size(), QImage::Format_RGB32);
+    canvas.render(&image);
+    const QColor ground = image.pixelColor(canvas.CellArea(row, col).topLeft() + QPoint(4, 2));
+    return Rgb(ground.red(), ground.green(), ground.blue());
+}
+
+} // namespace
+
+std::unique_ptr<Bench> MakeQtBench()
+{
+    NeedApplication();
+    return std::make_unique<QtBench>();
+}
+
+} // namespace kova::conformance
