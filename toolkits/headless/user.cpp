@@ -56,7 +56,7 @@ std::string User::Click(std::string_view form, std::string_view control, int ind
     return {};
 }
 
-std::string User::Choose(std::string_view form, std::string_view combo, int row, int index)
+std::string User::ChooseRow(std::string_view form, std::string_view combo, int index, const RowFinder& find)
 {
     const toolkit::EventScope scope(toolkit_);
     std::string refusal;
@@ -65,28 +65,30 @@ std::string User::Choose(std::string_view form, std::string_view combo, int row,
         return refusal;
     if (!box->UserOpensList())
         return box->Refusal();
-    if (row < 0 || row >= static_cast<int>(box->ShownRows().size()))
-        return box->FullName() + " has no row " + std::to_string(row);
+    // The rows are those that the list has once it is open.
+    const std::size_t row = find(box->ShownRows(), refusal);
+    if (row >= box->ShownRows().size())
+        return box->FullName() + " has no row " + refusal;
     box->UserChooses(static_cast<Integer>(row));
     return {};
 }
 
+std::string User::Choose(std::string_view form, std::string_view combo, int row, int index)
+{
+    return ChooseRow(form, combo, index, [row](const auto&, std::string& name) {
+        name = std::to_string(row);
+        return static_cast<std::size_t>(row);
+    });
+}
+
 std::string User::Choose(std::string_view form, std::string_view combo, std::string_view text, int index)
 {
-    const toolkit::EventScope scope(toolkit_);
-    std::string refusal;
-    auto* box = Reach<toolkit::ComboBoxModel>(form, combo, index, refusal);
-    if (!box)
-        return refusal;
-    if (!box->UserOpensList())
-        return box->Refusal();
-    const auto& rows = box->ShownRows();
-    const auto found =
-        std::find_if(rows.begin(), rows.end(), [text](const auto& row) { return row.text == text; });
-    if (found == rows.end())
-        return box->FullName() + " has no row \"" + std::string(text) + "\"";
-    box->UserChooses(static_cast<Integer>(found - rows.begin()));
-    return {};
+    return ChooseRow(form, combo, index, [text](const auto& rows, std::string& name) {
+        name = "\"" + std::string(text) + "\"";
+        const auto found =
+            std::find_if(rows.begin(), rows.end(), [text](const auto& row) { return row.text == text; });
+        return static_cast<std::size_t>(found - rows.begin());
+    });
 }
 
 std::string User::Type(std::string_view form, std::string_view control, std::string_view text, int index)

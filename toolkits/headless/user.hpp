@@ -1,10 +1,13 @@
 #pragma once
 
+#include "toolkits/common/combo_box.hpp"
 #include "toolkits/common/grid.hpp"
 #include "toolkits/headless/toolkit.hpp"
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kova::headless {
 
@@ -46,6 +49,11 @@ public:
     std::string CloseForm(std::string_view form);
 
 private:
+    /// The number of the row that is meant, beyond the last where there is none; `name` takes what a refusal
+    /// calls it.
+    using RowFinder =
+        std::function<std::size_t(const std::vector<toolkit::ComboBoxModel::Row>& rows, std::string& name)>;
+    std::string ChooseRow(std::string_view form, std::string_view combo, int index, const RowFinder& find);
     /// The control as its model where the user can act on it; otherwise null, with the reason.
     template <class Model>
     Model* Reach(std::string_view form, std::string_view control, int index, std::string& refusal);
