@@ -76,7 +76,7 @@ Long FormModel::Handle() const
 
 std::string FormModel::Refusal() const
 {
-    if (!state_.visible)
+    if (!IsOnScreen())
         return design_.name + " is not visible";
     if (toolkit_.IsAsking())
         return design_.name + " is behind a message box or menu";

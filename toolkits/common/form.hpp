@@ -12,6 +12,7 @@
 
 namespace kova::toolkit {
 
+class CommandButtonModel;
 class ToolkitModel;
 
 /// Keys that act on the form as a whole; a window forwards them unless the focused widget uses them.
@@ -97,6 +98,9 @@ public:
     const FormDesign& Design() const { return design_; }
     const State& Current() const { return state_; }
     InnerSize Inner() const;
+    /// Whether the window is to be seen: a form of which no inner area is left is off the screen, although it
+    /// counts as visible and a modal Show of it goes on.
+    bool IsOnScreen() const;
     /// All widgets in the order of the design, then those made at run time.
     const std::vector<std::unique_ptr<WidgetCore>>& Widgets() const { return widgets_; }
     /// Null where there is none.
@@ -114,6 +118,10 @@ public:
     void UserResizes(InnerSize inner);
     void UserMoves(Twips left, Twips top);
     void UserPressesKey(FormKey key);
+    /// A key that is not a character, such as "F4" or "Ctrl+1": presses the button or enters the box that
+    /// has it, where the user can act on it, or shows the form's keys. A button leaves the focus where it
+    /// was. False where the key means nothing here.
+    bool UserPressesShortcut(std::string_view shortcut);
 
     // For widgets.
 
@@ -158,6 +166,7 @@ private:
     void PressEnter();
     void PressEscape();
     bool PressButton(bool ControlDesign::*role);
+    void PressByShortcut(CommandButtonModel& button);
     WidgetCore* NextStop(bool forward) const;
 
     ToolkitModel& toolkit_;

@@ -1,7 +1,9 @@
 // The focus: who has it, who gets it next, and the keys that act on the form.
 
 #include "toolkits/common/command_button.hpp"
+#include "toolkits/common/edit_core.hpp"
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/common/toolkit.hpp"
 
 #include <algorithm>
@@ -36,6 +38,47 @@ void FormModel::ReviewFocus()
         MoveFocus(nullptr);
     else if (focused_ && !focused_->HoldsForChain(&WidgetState::enabled))
         MoveFocus(nullptr);
+}
+
+bool FormModel::UserPressesShortcut(std::string_view shortcut)
+{
+    bool means = false;
+    ByUser([&] {
+        if (!Refusal().empty())
+            return;
+        if (shortcut == HelpKey) {
+            const std::vector<KeyHelp> keys = KeysOf(*this);
+            means = !keys.empty();
+            if (means)
+                toolkit_.TellKeys(*this, keys);
+            return;
+        }
+        for (const auto& widget : widgets_) {
+            if (widget->Design().shortcut != shortcut)
+                continue;
+            means = true;
+            if (!widget->TakesInput())
+                return;
+            if (auto* button = dynamic_cast<CommandButtonModel*>(widget.get()))
+                return PressByShortcut(*button);
+            MoveFocus(widget.get());
+            if (auto* edit = dynamic_cast<EditCore*>(widget.get()); edit && widget->HasFocus())
+                edit->UserSelectsAll();
+            return;
+        }
+    });
+    return means;
+}
+
+// Whoever walks the rows by key goes on from the same row.
+void FormModel::PressByShortcut(CommandButtonModel& button)
+{
+    WidgetCore* from = focused_;
+    const auto self = weak_from_this().lock();
+    button.UserPresses();
+    const bool focusUnmoved = !focused_ || focused_ == &button;
+    if (from && focusUnmoved && !state_.unloaded && from->CanHoldFocus())
+        MoveFocus(from);
 }
 
 WidgetCore* FormModel::NextStop(bool forward) const

@@ -19,6 +19,12 @@ InnerSize FormModel::Inner() const
     return {std::max<Twips>(state_.width - frame.width, 0), std::max<Twips>(state_.height - frame.height, 0)};
 }
 
+bool FormModel::IsOnScreen() const
+{
+    const InnerSize inner = Inner();
+    return state_.visible && inner.width > 0 && inner.height > 0;
+}
+
 Twips FormModel::Left() const
 {
     Reading("Left");

@@ -17,6 +17,7 @@ constexpr std::int64_t CellLimit = 350000;
 GridModel::GridModel(FormModel& form, const ControlDesign& design) : WidgetModel(form, design)
 {
     look_.font = {design.fontName, design.fontSize, design.fontBold};
+    selectionMode_ = design.selectionMode;
     Shape(2, 2);
     rows_.Fixed(1);
     columns_.Fixed(1);

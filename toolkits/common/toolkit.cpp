@@ -49,6 +49,13 @@ Reply ToolkitModel::MessageBox(MessageKind kind, const Text& text, const Text& t
     return AskUser(kind, text, title);
 }
 
+void ToolkitModel::TellKeys(const FormModel& form, const std::vector<KeyHelp>& keys)
+{
+    const EventScope scope(*this);
+    const Closed closed(*this);
+    ShowKeys(form, keys);
+}
+
 void ToolkitModel::SendKeys(const Text& keys)
 {
     if (keys != "+({HOME})")

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/platform.hpp"
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/common/text_measure.hpp"
 
 #include <memory>
@@ -66,7 +67,11 @@ public:
     virtual void FormPopsUp(const FormModel&, const MenuModel&, Twips, Twips) { }
     virtual void KeysAreSent(const Text&) { }
 
+    /// Shows the keys of a form and waits until the user has read them; no form takes input meanwhile.
+    void TellKeys(const FormModel& form, const std::vector<KeyHelp>& keys);
+
 protected:
+    virtual void ShowKeys(const FormModel& form, const std::vector<KeyHelp>& keys) = 0;
     /// Shows a message box and waits for the answer; Question boxes answer Yes or No, others Ok.
     virtual Reply AskUser(MessageKind kind, const Text& text, const Text& title) = 0;
     /// Forms wait for their end and no event is on the stack. Calls ReleaseRetired at once; a toolkit

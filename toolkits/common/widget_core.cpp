@@ -33,7 +33,7 @@ bool WidgetCore::HoldsForChain(bool WidgetState::*flag) const
     return true;
 }
 
-bool WidgetCore::IsOnShow() const { return form_.Current().visible && HoldsForChain(&WidgetState::visible); }
+bool WidgetCore::IsOnShow() const { return form_.IsOnScreen() && HoldsForChain(&WidgetState::visible); }
 
 bool WidgetCore::IsUsable() const { return form_.Current().enabled && HoldsForChain(&WidgetState::enabled); }
 

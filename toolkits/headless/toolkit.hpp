@@ -44,7 +44,8 @@ public:
 
     /// What forms and boxes did, one line each: "show frmLista", "show NAME modal", "hide NAME",
     /// "unload NAME", "repaint NAME", "focus NAME.CONTROL", "popup MENU X Y", "keys TEXT", "pause 1",
-    /// "box information TITLE TEXT -> ok", "unhandled NUMBER TEXT".
+    /// "box information TITLE TEXT -> ok", "unhandled NUMBER TEXT", "help NAME", followed by
+    /// "  KEY: PURPOSE" for each of its keys.
     const std::vector<std::string>& Log() const { return log_; }
     void ClearLog() { log_.clear(); }
     /// Hears each line of the log as it comes.
@@ -84,6 +85,7 @@ public:
 
 protected:
     Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
+    void ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys) override;
 
 private:
     struct Container {

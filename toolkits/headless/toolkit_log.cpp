@@ -70,6 +70,13 @@ Reply HeadlessToolkit::AskUser(MessageKind kind, const Text& text, const Text& t
     return reply;
 }
 
+void HeadlessToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys)
+{
+    Write("help " + form.Design().name);
+    for (const toolkit::KeyHelp& line : keys)
+        Write("  " + line.key + ": " + line.purpose);
+}
+
 void HeadlessToolkit::UnhandledFailure(const Failure& failure)
 {
     failures_.push_back(failure);

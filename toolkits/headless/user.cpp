@@ -128,6 +128,18 @@ std::string User::PressKey(std::string_view form, toolkit::FormKey key)
     return {};
 }
 
+std::string User::PressShortcut(std::string_view form, std::string_view shortcut)
+{
+    toolkit::FormModel* model = toolkit_.FindForm(form);
+    if (!model)
+        return std::string(form) + " does not exist";
+    if (auto refusal = model->Refusal(); !refusal.empty())
+        return refusal;
+    if (!model->UserPressesShortcut(shortcut))
+        return std::string(form) + " has no key " + std::string(shortcut);
+    return {};
+}
+
 std::string User::Focus(std::string_view form, std::string_view control, int index)
 {
     std::string refusal;

@@ -31,6 +31,8 @@ public:
     /// Presses the button of a find box.
     std::string Press(std::string_view form, std::string_view find, int index = -1);
     std::string PressKey(std::string_view form, toolkit::FormKey key);
+    /// Presses a key such as "F4" or "Ctrl+1".
+    std::string PressShortcut(std::string_view form, std::string_view shortcut);
     std::string Focus(std::string_view form, std::string_view control, int index = -1);
     /// Picks a day in the calendar of a date box.
     std::string Pick(std::string_view form, std::string_view control, const Date& date, int index = -1);

@@ -92,6 +92,8 @@ bool FormWidget::Forward(toolkit::FormKey key)
     return true;
 }
 
+bool FormWidget::ForwardShortcut(const QString& key) { return model_.UserPressesShortcut(ToText(key)); }
+
 void FormWidget::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
@@ -191,6 +193,19 @@ void FormWindow::ShowGeometry()
     if (placed_ && widget_->pos() != place)
         widget_->move(place);
     widget_->followsModel = false;
+    FollowArea();
+}
+
+// A form that is shrunk to nothing leaves the screen and comes back where it was; its modal loop goes on.
+void FormWindow::FollowArea()
+{
+    if (!vanished_ && widget_->isVisible() && !model_.IsOnScreen()) {
+        vanished_ = true;
+        widget_->hide();
+    } else if (vanished_ && model_.IsOnScreen()) {
+        vanished_ = false;
+        Appear();
+    }
 }
 
 void FormWindow::CentreOver(const QWidget* other)
@@ -205,6 +220,7 @@ void FormWindow::CentreOver(const QWidget* other)
     widget_->followsModel = true;
     widget_->move(area.topLeft());
     widget_->followsModel = false;
+    model_.UserMoves(ToTwips(area.left()), ToTwips(area.top()));
 }
 
 void FormWindow::LinkBuddies() const
@@ -232,12 +248,20 @@ void FormWindow::Show(ShowMode mode)
     if (!widget_)
         return;
     modalEnded_ = false;
+    if (!container_ && !widget_->isVisible())
+        widget_->setWindowModality(mode == ShowMode::Modal ? Qt::ApplicationModal : Qt::NonModal);
+    vanished_ = !container_ && !model_.IsOnScreen();
+    if (!vanished_)
+        Appear();
+}
+
+void FormWindow::Appear()
+{
     if (!container_ && !widget_->isVisible()) {
         QWidget* below = WindowBelow();
         if (!placed_)
             CentreOver(below);
         placed_ = true;
-        widget_->setWindowModality(mode == ShowMode::Modal ? Qt::ApplicationModal : Qt::NonModal);
         widget_->winId();
         if (below && below->windowHandle())
             widget_->windowHandle()->setTransientParent(below->windowHandle());
@@ -253,6 +277,7 @@ void FormWindow::Show(ShowMode mode)
 
 void FormWindow::Hide()
 {
+    vanished_ = false;
     if (widget_)
         widget_->hide();
 }

@@ -20,6 +20,8 @@ public:
     toolkit::FormModel& Model() const { return model_; }
     /// Hands a key to the model; always true.
     bool Forward(toolkit::FormKey key);
+    /// Hands a key such as "F4" to the model; false where it means nothing to the form.
+    bool ForwardShortcut(const QString& key);
 
     /// While set, changes of place and size are the model's own and not told to it.
     bool followsModel = false;
@@ -57,6 +59,8 @@ public:
 
 private:
     void ShowGeometry();
+    void FollowArea();
+    void Appear();
     void FitToContainer();
     void CentreOver(const QWidget* other);
     void LinkBuddies() const;
@@ -71,6 +75,8 @@ private:
     QEventLoop* loop_ = nullptr;
     bool modalEnded_ = false;
     bool placed_ = false;
+    /// Shown, but off the screen for want of an inner area.
+    bool vanished_ = false;
     Long handle_ = 0;
 };
 

@@ -3,6 +3,7 @@
 #include "toolkits/qt/form.hpp"
 
 #include <QKeyEvent>
+#include <QKeySequence>
 
 namespace kova::qt {
 
@@ -25,6 +26,21 @@ bool IsInput(QEvent::Type type)
     case QEvent::Shortcut: return true;
     default: return false;
     }
+}
+
+// Characters are for the box that has the focus; so is Shift with them.
+bool IsShortcut(const QKeyEvent& event)
+{
+    if (event.isAutoRepeat())
+        return false;
+    const bool isFunctionKey = event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F35;
+    return isFunctionKey || event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+}
+
+QString NameOf(const QKeyEvent& event)
+{
+    const int modifiers = static_cast<int>(event.modifiers() & ~Qt::KeypadModifier);
+    return QKeySequence(modifiers | event.key()).toString(QKeySequence::PortableText);
 }
 
 } // namespace
@@ -60,6 +76,8 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event)
 bool InputGate::TakesKey(FormWidget& form, QWidget& target, const QKeyEvent& event)
 {
     using toolkit::FormKey;
+    if (IsShortcut(event) && form.ForwardShortcut(NameOf(event)))
+        return true;
     if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier))
         return false;
     switch (event.key()) {

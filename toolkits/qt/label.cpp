@@ -50,7 +50,9 @@ void LabelView::ShowLook()
 void LabelView::LinkBuddy()
 {
     const std::string& name = Core().Design().labelOf;
-    const toolkit::WidgetCore* named = name.empty() ? nullptr : Core().GetForm().Find(name);
+    // A label of an indexed group names its like in the other group.
+    const toolkit::WidgetCore* named =
+        name.empty() ? nullptr : Core().GetForm().Find(name, Core().Design().index);
     const auto* view = named ? dynamic_cast<const WidgetView*>(named->GetView()) : nullptr;
     if (Window() && view && view->FocusWindow())
         Shown().setBuddy(view->FocusWindow());

@@ -10,6 +10,7 @@
 #include "toolkits/qt/grid_accessible.hpp"
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/header_band.hpp"
+#include "toolkits/qt/help_window.hpp"
 #include "toolkits/qt/input_gate.hpp"
 #include "toolkits/qt/label.hpp"
 #include "toolkits/qt/message_box.hpp"
@@ -162,6 +163,11 @@ void QtToolkit::UnhandledFailure(const Failure& failure)
 Reply QtToolkit::AskUser(MessageKind kind, const Text& text, const Text& title)
 {
     return ShowMessageBox(WindowBelow(nullptr), kind, text, title);
+}
+
+void QtToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys)
+{
+    ShowHelpWindow(WindowBelow(nullptr), form.Current().caption, keys);
 }
 
 // Qt may still be inside a handler of a widget that would die.

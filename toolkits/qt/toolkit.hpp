@@ -43,6 +43,7 @@ public:
 
 protected:
     Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
+    void ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys) override;
     void ScheduleRelease() override;
 
 private:

@@ -1,6 +1,7 @@
 #include "toolkits/qt/widget_view.hpp"
 
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/form.hpp"
 #include "toolkits/qt/theme.hpp"
 
@@ -76,6 +77,9 @@ WidgetView::WidgetView(QtToolkit& toolkit, toolkit::WidgetCore& core, QWidget* w
     widget->setObjectName(FromText(core.FullName()));
     widget->setFont(MakeFont(design.fontName, static_cast<double>(design.fontSize), design.fontBold));
     widget->setAccessibleName(AccessibleNameOf(core));
+    if (!design.shortcut.empty())
+        widget->setAccessibleDescription(QStringLiteral("Tecla: ")
+                                         + FromText(toolkit::KeyName(design.shortcut)));
     StackByKind();
 }
 

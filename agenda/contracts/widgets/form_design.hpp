@@ -65,12 +65,18 @@ struct ControlDesign {
     bool isDefault = false;
     bool isCancel = false;
 
+    /// The key that presses a button or puts the focus on a box from anywhere in the form, such as "F4",
+    /// "Ctrl+1" or "Alt+Left"; "" is none. F1 lists the keys of a form that has any.
+    std::string shortcut = {};
+
     /// Images.
     std::string picture = {};
     /// Check boxes and options.
     int value = 0;
     /// Grids: the cell limit of 350000 applies.
     bool cellLimit = true;
+    /// Grids: SelectionMode until code writes it.
+    Integer selectionMode = 0;
 };
 
 struct FormDesign {

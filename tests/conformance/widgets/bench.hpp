@@ -61,6 +61,8 @@ public:
     virtual void PressFind(KVFind& box) = 0;
     virtual void PressBar(KVNavigationBar& bar, int button) = 0;
     virtual void Key(Form& form, toolkit::FormKey key) = 0;
+    /// A key such as "F4" or "Ctrl+1".
+    virtual void Shortcut(Form& form, const std::string& key) = 0;
     virtual void CloseWindow(Form& form) = 0;
     virtual void ResizeWindow(Form& form, Twips innerWidth, Twips innerHeight) = 0;
     /// Puts the focus into a box with the mouse.

@@ -103,6 +103,7 @@ public:
     void PressFind(KVFind& box) override { user_.Press(FormOf(box), NameOf(box)); }
     void PressBar(KVNavigationBar& bar, int button) override { user_.Bar(FormOf(bar), NameOf(bar), button); }
     void Key(Form& form, toolkit::FormKey key) override { user_.PressKey(form.Name(), key); }
+    void Shortcut(Form& form, const std::string& key) override { user_.PressShortcut(form.Name(), key); }
     void CloseWindow(Form& form) override { user_.CloseForm(form.Name()); }
     void ResizeWindow(Form& form, Twips innerWidth, Twips innerHeight) override
     {

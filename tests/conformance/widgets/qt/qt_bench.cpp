@@ -17,6 +17,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -49,6 +50,7 @@ public:
     void PressFind(KVFind& box) override;
     void PressBar(KVNavigationBar& bar, int button) override { ClickOn(&BarOf(bar).Button(button)); }
     void Key(Form& form, FormKey key) override;
+    void Shortcut(Form& form, const std::string& key) override;
     void CloseWindow(Form& form) override { WindowOf(form)->close(); }
     void ResizeWindow(Form& form, Twips innerWidth, Twips innerHeight) override
     {
@@ -157,6 +159,12 @@ void QtBench::Key(Form& form, FormKey key)
                                                     {FormKey::Escape, Qt::Key_Escape}};
     KeyOn(WindowOf(form), keys.at(key),
           key == FormKey::BackTab ? Qt::ShiftModifier : Qt::KeyboardModifiers());
+}
+
+void QtBench::Shortcut(Form& form, const std::string& key)
+{
+    const auto combination = QKeySequence::fromString(qt::FromText(key), QKeySequence::PortableText)[0];
+    KeyOn(WindowOf(form), combination.key(), combination.keyboardModifiers());
 }
 
 void QtBench::Type(Widget& box, const std::string& text)

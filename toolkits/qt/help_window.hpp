@@ -1,0 +1,14 @@
+#pragma once
+
+#include "toolkits/common/shortcuts.hpp"
+
+#include <vector>
+
+class QWidget;
+
+namespace kova::qt {
+
+/// Lists the keys of a form over that window and waits until the user closes it.
+void ShowHelpWindow(QWidget* over, const Text& formCaption, const std::vector<toolkit::KeyHelp>& keys);
+
+} // namespace kova::qt
