@@ -1,5 +1,7 @@
 #include "agenda/list/frmLista_design.hpp"
 
+#include "agenda/shared/wait_plate.hpp"
+
 namespace kova::agenda {
 
 namespace {
@@ -23,7 +25,7 @@ constexpr Twips QuartaColuna = 5520;
 constexpr Twips QuintaColuna = 7080;
 constexpr Twips SextaColuna = 8640;
 
-ControlDesign BotaoDaLinha(const char* nome, const char* icone, const char* acao)
+ControlDesign BotaoDaLinha(const char* nome, const char* icone, const char* acao, const char* tecla)
 {
     return {.kind = Kind::KVCommandButton,
             .name = nome,
@@ -35,10 +37,11 @@ ControlDesign BotaoDaLinha(const char* nome, const char* icone, const char* acao
             .backColor = 14277081,
             .icon = icone,
             .highlightColor = 12895428,
-            .fontColor = colours::White};
+            .fontColor = colours::White,
+            .shortcut = tecla};
 }
 
-ControlDesign SetaDeDia(const char* nome, const char* icone, const char* acao)
+ControlDesign SetaDeDia(const char* nome, const char* icone, const char* acao, const char* tecla)
 {
     return {.kind = Kind::KVCommandButton,
             .name = nome,
@@ -50,7 +53,8 @@ ControlDesign SetaDeDia(const char* nome, const char* icone, const char* acao)
             .backColor = colours::White,
             .icon = icone,
             .highlightColor = 16185078,
-            .fontColor = colours::White};
+            .fontColor = colours::White,
+            .shortcut = tecla};
 }
 
 ControlDesign Filtro(const char* nome, const char* acao)
@@ -136,7 +140,8 @@ std::vector<ControlDesign> CabecalhoEFiltros()
          .backColor = 16617293,
          .icon = "adicionar",
          .highlightColor = 14530157,
-         .fontColor = colours::White},
+         .fontColor = colours::White,
+         .shortcut = "F2"},
         {.kind = Kind::KVFind,
          .name = "kvfndPesquisar",
          .left = 1930,
@@ -149,16 +154,17 @@ std::vector<ControlDesign> CabecalhoEFiltros()
              "Código, Nome, Apelido, Nome Fantasia, Razão Social, Endereço, CPF ou CNPJ do "
              "cliente ou Código, Nome ou Microchip do animal",
          .accessibleName = "Pesquisar na agenda",
-         .placeholder = "Pesquisar"},
+         .placeholder = "Pesquisar",
+         .shortcut = "F3"},
         Filtro("kvcmbSituacao", "Situação"),
-        SetaDeDia("kvcmdIrParaDiaAnterior", "anterior", "Dia anterior"),
+        SetaDeDia("kvcmdIrParaDiaAnterior", "anterior", "Dia anterior", "Alt+Left"),
         {.kind = Kind::KVDTPicker,
          .name = "kvdtpDataDeAgendamento",
          .width = 1605,
          .height = 510,
          .toolTipText = "Dia da agenda",
          .accessibleName = "Dia da agenda"},
-        SetaDeDia("kvcmdIrParaDiaPosterior", "posterior", "Próximo dia"),
+        SetaDeDia("kvcmdIrParaDiaPosterior", "posterior", "Próximo dia", "Alt+Right"),
         {.kind = Kind::KVCommandButton,
          .name = "kvcmdImprimirLista",
          .width = 510,
@@ -168,7 +174,8 @@ std::vector<ControlDesign> CabecalhoEFiltros()
          .backColor = colours::Black,
          .icon = "imprimir",
          .highlightColor = 8421504,
-         .fontColor = colours::White},
+         .fontColor = colours::White,
+         .shortcut = "Ctrl+P"},
         Filtro("kvcmbTiposDeServicos", "Tipo de serviço"),
         Filtro("kvcmbFuncionarios", "Funcionário"),
         {.kind = Kind::Label,
@@ -212,15 +219,18 @@ std::vector<ControlDesign> GradeEBotoesDaLinha()
         Imagem("imgEtiqueta_Situacao_Atendido", "etiqueta_atendido"),
         Imagem("imgEtiqueta_Situacao_Cancelado", "etiqueta_cancelado"),
         Imagem("imgEtiqueta_Situacao_Atendido_Gerado_PreVenda", "etiqueta_atendido_gerado_pre_venda"),
-        BotaoDaLinha("kvcmdMarcarAgendamentoComoAgendado", "agendado", "Marcar agendamento como agendado"),
-        BotaoDaLinha("kvcmdMarcarAgendamentoComoAtendido", "atendido", "Marcar agendamento como atendido"),
-        BotaoDaLinha("kvcmdMarcarAgendamentoComoCancelado", "cancelado", "Marcar agendamento como cancelado"),
+        BotaoDaLinha("kvcmdMarcarAgendamentoComoAgendado", "agendado", "Marcar agendamento como agendado",
+                     "Ctrl+1"),
+        BotaoDaLinha("kvcmdMarcarAgendamentoComoAtendido", "atendido", "Marcar agendamento como atendido",
+                     "Ctrl+2"),
+        BotaoDaLinha("kvcmdMarcarAgendamentoComoCancelado", "cancelado", "Marcar agendamento como cancelado",
+                     "Ctrl+3"),
         BotaoDaLinha("kvcmdMarcarAgendamentoComoAtendidoEGeradoPreVenda", "pre_venda",
-                     "Marcar agendamento como atendido e gerado pré-venda"),
-        BotaoDaLinha("kvcmdDetalhar", "detalhar", "Detalhar"),
-        BotaoDaLinha("kvcmdAlterar", "alterar", "Alterar"),
-        BotaoDaLinha("kvcmdExcluir", "excluir", "Excluir"),
-        BotaoDaLinha("kvcmdImprimirFicha", "imprimir", "Imprimir fichas ou etiqueta"),
+                     "Marcar agendamento como atendido e gerado pré-venda", "Ctrl+4"),
+        BotaoDaLinha("kvcmdDetalhar", "detalhar", "Detalhar", "F4"),
+        BotaoDaLinha("kvcmdAlterar", "alterar", "Alterar", "F6"),
+        BotaoDaLinha("kvcmdExcluir", "excluir", "Excluir", "F8"),
+        BotaoDaLinha("kvcmdImprimirFicha", "imprimir", "Imprimir fichas ou etiqueta", "F9"),
     };
 }
 
@@ -293,30 +303,6 @@ std::vector<ControlDesign> Painel()
     };
 }
 
-std::vector<ControlDesign> PlacaDeEspera()
-{
-    return {
-        {.kind = Kind::PictureBox,
-         .name = "picMensagem",
-         .width = 4200,
-         .height = 900,
-         .visible = false,
-         .accessibleName = "Aguarde",
-         .backColor = Rgb(77, 143, 253)},
-        {.kind = Kind::Label,
-         .name = "lblMensagem",
-         .container = "picMensagem",
-         .left = 0,
-         .top = 300,
-         .width = 4200,
-         .height = 300,
-         .caption = "Aguarde, pesquisando...",
-         .alignment = 2,
-         .fontSize = 11,
-         .foreColor = colours::White},
-    };
-}
-
 std::vector<ControlDesign> Menus()
 {
     return {
@@ -351,7 +337,7 @@ FormDesign Desenhar()
     Append(design.controls, CabecalhoEFiltros());
     Append(design.controls, GradeEBotoesDaLinha());
     Append(design.controls, Painel());
-    Append(design.controls, PlacaDeEspera());
+    Append(design.controls, DesenhoDaPlacaDeEspera());
     Append(design.controls, Menus());
     return design;
 }

@@ -1,6 +1,7 @@
 #include "agenda/shared/frmMensagem.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "agenda/shared/border_shape.hpp"
 #include "agenda/shared/frmMensagem_design.hpp"
 #include "agenda/shared/modArredondarCantosDoObjeto.hpp"
 #include "agenda/shared/modFuncoes.hpp"
@@ -65,12 +66,7 @@ void frmMensagem::Form_Load()
             ArredondarCantosDoObjeto(janela, raio);
         } else {
             // A frame in place of the round corners.
-            Widget& moldura = Formulario->Add(WidgetKind::Shape, "lshpObj");
-            moldura.Visible(true);
-            moldura.Top(Formulario->ScaleTop());
-            moldura.Left(Formulario->ScaleLeft());
-            moldura.Height(Formulario->ScaleHeight());
-            moldura.Width(Formulario->ScaleWidth());
+            AdicionarMoldura(*Formulario);
         }
         Ponto = 3;
     });

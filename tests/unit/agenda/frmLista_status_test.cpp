@@ -238,6 +238,48 @@ TEST_F(Marking, LetsNoHoverMoveTheRowWhileAQuestionIsOpen)
     EXPECT_FALSE(enabled);
 }
 
+TEST_F(Marking, TakesAKeyForEachStatusOnTheRowThatTheArrowsReached)
+{
+    const auto lista = OpenOn({{{"Situacao", Long{3}}}, {{"Situacao", Long{3}}}}, 1);
+    EXPECT_EQ(user.GridKey("frmLista", "msfgGrade", toolkit::GridKey::Down), "");
+    int expected = 1;
+    for (const char* key : {"Ctrl+1", "Ctrl+2"}) {
+        lines.clear();
+        EXPECT_EQ(user.PressShortcut("frmLista", key), "");
+        EXPECT_EQ(Lines("set KOVA_N_Agenda.clsAgenda.SituacaoNova").front(),
+                  "set KOVA_N_Agenda.clsAgenda.SituacaoNova Integer " + std::to_string(expected++));
+        EXPECT_EQ(Lines("set KOVA_N_Agenda.clsAgenda.NumeroDeLancamento").front(),
+                  "set KOVA_N_Agenda.clsAgenda.NumeroDeLancamento Double 2");
+    }
+}
+
+TEST_F(Marking, ListsTheKeysOfAllCommandsOnF1)
+{
+    const auto lista = OpenOn({{}});
+    toolkit.ClearLog();
+    EXPECT_EQ(user.PressShortcut("frmLista", "F1"), "");
+    const std::vector<std::string> expected{
+        "help frmLista",
+        "  F2: Adicionar agendamento",
+        "  F3: Pesquisar na agenda",
+        "  Alt+←: Dia anterior",
+        "  Alt+→: Próximo dia",
+        "  Ctrl+P: Imprimir lista",
+        "  Ctrl+1: Marcar agendamento como agendado",
+        "  Ctrl+2: Marcar agendamento como atendido",
+        "  Ctrl+3: Marcar agendamento como cancelado",
+        "  Ctrl+4: Marcar agendamento como atendido e gerado pré-venda",
+        "  F4: Detalhar",
+        "  F6: Alterar",
+        "  F8: Excluir",
+        "  F9: Imprimir fichas ou etiqueta",
+        "  ↑ ↓: Ir de linha em linha na lista",
+        "  Tab: Ir para o próximo campo",
+        "  F1: Mostrar esta ajuda",
+    };
+    EXPECT_EQ(toolkit.Log(), expected);
+}
+
 } // namespace
 
 } // namespace kova::agenda

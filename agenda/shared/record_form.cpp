@@ -1,0 +1,164 @@
+#include "agenda/shared/record_form.hpp"
+
+#include "agenda/contracts/date_time.hpp"
+#include "agenda/contracts/text.hpp"
+#include "agenda/list/frmLista.hpp"
+#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modFundoEscuro.hpp"
+#include "agenda/shared/module_platform.hpp"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace kova::agenda {
+
+namespace {
+
+constexpr std::array RotulosSemCampo{"lblCliente", "lblAnimal", "lblServico",
+                                     "lblObservacaoDeCamposObrigatorios"};
+
+bool Contem(const Text& texto, char marca) { return texto.find(marca) != Text::npos; }
+
+/// Date of a stamp "dd/mm/yyyy hh:mm:ss", or the cell as it stands where it is none.
+Text DataDoCarimbo(const Text& carimbo)
+{
+    const auto momento = ParseDateTime(carimbo);
+    return momento ? FormatDate(momento->date) : carimbo;
+}
+
+Integer MinutosDoServico(const Text& tempo)
+{
+    return RoundToInteger(Val(Left(tempo, 2)) * 60 + Val(Right(tempo, 2)));
+}
+
+/// Whether the user lets a start stand that has passed already.
+bool HoraInicialConfirmada(Date data, TimeOfDay hora)
+{
+    const DateTime agora = ThePlatform().Clock().Now();
+    if (data != agora.date || FormatTime(hora) >= FormatTime(agora.time))
+        return true;
+    return Perguntar("Hora inicial é menor que o hora atual. Confirma?");
+}
+
+} // namespace
+
+void FichaDeAgendamento::Exibir()
+{
+    if (!std::exchange(NaoAplicarFundoEscuro, false)) {
+        Integer opcao = 0;
+        AplicarFundoEscuro(Principal().HandleDaJanelaPrincipal, opcao);
+    }
+    if (!std::exchange(NaoExibirFormulario, false))
+        Formulario->Show(ShowMode::Modal);
+    if (std::exchange(NaoRemoverFundoEscuro, false))
+        return;
+    ThePlatform().Toolkit().ProcessPendingEvents();
+    if (const auto lista = Principal().FormularioDaLista)
+        lista->Formulario->Refresh();
+    RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+}
+
+bool FichaDeAgendamento::EventoIgnorado() { return std::exchange(IgnorarEventoDeCampo, false); }
+
+void EscreverBotao(KVCommandButton& botao, const Text& legenda, const Text& dica)
+{
+    botao.Caption(legenda);
+    botao.ToolTipText(dica);
+}
+
+void ReescreverBotao(KVCommandButton& botao, const Text& legenda, const Text& dica)
+{
+    botao.Caption(legenda);
+    botao.ToolTipTitle("");
+    botao.ToolTipText("");
+    botao.ToolTipBody("");
+    botao.ToolTipText(dica);
+}
+
+void RestaurarCorDosRotulos(Form& formulario)
+{
+    for (Widget* controle : formulario.Controls()) {
+        auto* rotulo = As<Label>(*controle);
+        if (rotulo && std::ranges::find(RotulosSemCampo, rotulo->Name()) == RotulosSemCampo.end())
+            rotulo->ForeColor(CorDoRotulo);
+    }
+}
+
+void MarcarCampoRecusado(Label& rotulo, Widget& campo)
+{
+    ThePlatform().Toolkit().ProcessPendingEvents();
+    rotulo.ForeColor(CorDoRotuloRecusado);
+    campo.SetFocus();
+}
+
+Value ItemDataOuZero(const KVComboBox& combo)
+{
+    const Integer linha = combo.ListIndex();
+    return linha == -1 ? Value(Integer{0}) : Value(combo.ItemData(linha));
+}
+
+Integer LinhaDoItemData(const KVComboBox& combo, Double numero)
+{
+    const Integer linhas = combo.ListCount();
+    for (Integer linha = 0; linha < linhas; ++linha)
+        if (combo.ItemData(linha) == numero)
+            return linha;
+    return -1;
+}
+
+Integer LinhaDaCelula(const KVComboBox& combo, const Text& celula)
+{
+    return combo.ListCount() == 0 ? Integer{-1} : LinhaDoItemData(combo, Value(celula).ToDouble());
+}
+
+Text CarimboDeInclusao(Double numeroDeLancamento, const Text& carimbo, Integer tipoDeOperacao)
+{
+    const Text data = DataDoCarimbo(carimbo);
+    if (tipoDeOperacao == operacao::Excluir)
+        return "Código: " + TextOf(numeroDeLancamento) + "  |  Incluído em " + data;
+    return "Código " + TextOf(numeroDeLancamento) + " | Incluído em " + data;
+}
+
+Text CarimboDeAlteracao(const Text& carimbo)
+{
+    if (Trim(carimbo).empty())
+        return {};
+    return "Alterado em " + DataDoCarimbo(carimbo);
+}
+
+void PreencherTerminoDoServico(const CamposDoHorario& campos)
+{
+    // 1. Both must be complete; what is impossible, saving refuses with a message of its own.
+    const Text textoDaHora = campos.kvtimHoraInicial.Text();
+    const Text textoDaData = campos.kvdtpDataInicial.Text();
+    if (Contem(textoDaHora, '_') || Contem(textoDaData, '_'))
+        return;
+    const auto hora = ParseTime(textoDaHora);
+    const auto data = ParseDate(textoDaData);
+    if (!hora || !data)
+        return;
+
+    // 2. A start that has passed is asked about.
+    if (!HoraInicialConfirmada(*data, *hora)) {
+        campos.kvtimHoraInicial.SetFocus();
+        return;
+    }
+
+    // 3. Without a duration the service ends on the day it starts, and the end time stays.
+    const Text tempo = campos.kvtxtTempoDoServico.Text();
+    const Integer minutos = MinutosDoServico(tempo);
+    if (minutos == 0) {
+        campos.kvdtpDataFinal.Text(textoDaData);
+        return;
+    }
+
+    // 4. A service that passes midnight ends on the next day.
+    const TimeOfDay duracao = RequireTime(tempo);
+    const Long minutosDaDuracao = duracao.hour * 60L + duracao.minute;
+    campos.kvtimHoraFinal.Text(FormatTime(AddMinutes({*data, *hora}, minutosDaDuracao).time));
+    campos.kvdtpDataFinal.Text(FormatDate(AddMinutes({*data, *hora}, minutos).date));
+}
+
+} // namespace kova::agenda

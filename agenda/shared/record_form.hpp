@@ -1,0 +1,107 @@
+#pragma once
+
+#include "agenda/contracts/widgets.hpp"
+
+#include <memory>
+
+namespace kova::agenda {
+
+// What the two record forms do alike.
+
+/// Operation of a record form, as its opener passes it.
+namespace operacao {
+inline constexpr Integer Adicionar = 1;
+inline constexpr Integer Detalhar = 2;
+inline constexpr Integer Alterar = 3;
+inline constexpr Integer Excluir = 4;
+} // namespace operacao
+
+/// What Adicionar, Alterar and Excluir of the business tier answer. Any other number means nothing.
+namespace resultado_da_gravacao {
+inline constexpr Integer Concluida = 0;
+inline constexpr Integer FalhaTecnica = 1;
+inline constexpr Integer CampoRecusado = 2;
+inline constexpr Integer Recusada = 3;
+} // namespace resultado_da_gravacao
+
+/// A record form as the list opens it: the list fills its three combos, runs it, reads OperacaoConcluida
+/// and unloads it.
+class FichaDeAgendamento {
+public:
+    virtual ~FichaDeAgendamento() = default;
+    FichaDeAgendamento(const FichaDeAgendamento&) = delete;
+    FichaDeAgendamento& operator=(const FichaDeAgendamento&) = delete;
+
+    /// Fills the form for an operation and shows it; returns when it has been closed.
+    virtual void MontarExibirFormulario(Integer Operacao) = 0;
+
+    FormRef Formulario;
+    KVComboBox& kvcmbTiposDeServicos = Bind<KVComboBox>(Formulario, "kvcmbTiposDeServicos");
+    KVComboBox& kvcmbFuncionarios = Bind<KVComboBox>(Formulario, "kvcmbFuncionarios");
+    KVComboBox& kvcmbSituacao = Bind<KVComboBox>(Formulario, "kvcmbSituacao");
+
+    /// The operation that the form is in; see `operacao`.
+    Integer TipoDeOperacao = 0;
+    /// Whether the business tier stored the change, or the user closed a detail view.
+    bool OperacaoConcluida = false;
+    /// The appointment's key, 0 on adding.
+    Double NumeroDeLancamento = 0;
+    /// Swallows the next event of a guarded control; the handler that it stops clears it.
+    bool IgnorarEventoDeCampo = false;
+
+protected:
+    explicit FichaDeAgendamento(FormRef formulario) : Formulario(std::move(formulario)) { }
+
+    /// Dims the shell, shows the form modally and takes the dimming away afterwards; each of the three
+    /// steps is skipped once where its flag is set. Failures go up to the caller.
+    void Exibir();
+    /// Whether the guard swallows this event; it is cleared then.
+    bool EventoIgnorado();
+
+    bool NaoAplicarFundoEscuro = false;
+    bool NaoExibirFormulario = false;
+    bool NaoRemoverFundoEscuro = false;
+};
+
+/// Colour of a field's label, and of the label whose field was refused.
+inline constexpr Colour CorDoRotulo = 4802889;
+inline constexpr Colour CorDoRotuloRecusado = 255;
+
+/// Gives a button its role when the form opens.
+void EscreverBotao(KVCommandButton& botao, const Text& legenda, const Text& dica);
+/// Changes the role of a button that shows another one: the three tool-tip texts are blanked first.
+void ReescreverBotao(KVCommandButton& botao, const Text& legenda, const Text& dica);
+
+/// Puts every label of the form back to its normal colour, but for the section heads and the legend.
+void RestaurarCorDosRotulos(Form& formulario);
+/// Lets the screen come to rest, turns the label red and gives the field the focus.
+void MarcarCampoRecusado(Label& rotulo, Widget& campo);
+
+/// Number kept for the selected row, a Long; the Integer 0 where none is selected.
+Value ItemDataOuZero(const KVComboBox& combo);
+/// First row whose number is that one, -1 where there is none. The combo is not moved.
+Integer LinhaDoItemData(const KVComboBox& combo, Double numero);
+/// The same for the number in a grid's cell. Fails with 13 where the combo has rows and the cell is no
+/// number.
+Integer LinhaDaCelula(const KVComboBox& combo, const Text& celula);
+
+/// "Código N | Incluído em dd/mm/yyyy" from the first ten characters of a stamp; a record about to be
+/// deleted has a colon and doubled blanks in it. `carimbo` is the grid's cell.
+Text CarimboDeInclusao(Double numeroDeLancamento, const Text& carimbo, Integer tipoDeOperacao);
+/// "Alterado em dd/mm/yyyy"; empty where the cell is blank.
+Text CarimboDeAlteracao(const Text& carimbo);
+
+/// The fields by which a record form works out when a service ends.
+struct CamposDoHorario {
+    KVDTPicker& kvdtpDataInicial;
+    KVTime& kvtimHoraInicial;
+    KVDTPicker& kvdtpDataFinal;
+    KVTime& kvtimHoraFinal;
+    KVTextBox& kvtxtTempoDoServico;
+};
+/// The start time lost the focus: asks about a time that has passed and fills the end from the start and the
+/// duration. Does nothing where date or time is half-typed, empty or impossible; saving tells of it. Fails
+/// with 13 where the duration cannot be read as a time.
+void PreencherTerminoDoServico(const CamposDoHorario& campos);
+
+} // namespace kova::agenda
