@@ -3,13 +3,29 @@
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/toolkit.hpp"
 
+#include "agenda/contracts/text.hpp"
+
 namespace kova::toolkit {
+
+namespace {
+
+Text PlainCaption(const ControlDesign& design)
+{
+    return design.labelOf.empty() ? design.caption : Replace(design.caption, "&", "");
+}
+
+} // namespace
 
 LabelModel::LabelModel(FormModel& form, const ControlDesign& design)
     : WidgetModel(form, design),
-      caption_(design.caption),
+      caption_(PlainCaption(design)),
       foreColor_(design.foreColor == -1 ? colours::Black : design.foreColor)
 {
+}
+
+const Text& LabelModel::CaptionWithMnemonic() const
+{
+    return caption_ == PlainCaption(Design()) ? Design().caption : caption_;
 }
 
 void LabelModel::Caption(const Text& value)

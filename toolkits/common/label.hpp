@@ -19,6 +19,9 @@ public:
     void ForeColor(Colour value) override;
 
     const Text& ShownCaption() const { return caption_; }
+    /// The caption with "&" before the letter that leads to the control it names, as designed; a caption
+    /// that code has changed has none.
+    const Text& CaptionWithMnemonic() const;
     Colour ShownForeColor() const { return foreColor_; }
 
     void Complete() override { FitToCaption(); }

@@ -33,10 +33,9 @@ LabelView::LabelView(QtToolkit& toolkit, toolkit::LabelModel& model, QWidget* pa
 
 void LabelView::ShowContent()
 {
-    const QString caption = Lines(GetModel().ShownCaption());
-    Shown().setText(caption);
+    Shown().setText(Lines(GetModel().CaptionWithMnemonic()));
     if (Core().Design().accessibleName.empty())
-        Shown().setAccessibleName(caption);
+        Shown().setAccessibleName(Lines(GetModel().ShownCaption()));
 }
 
 void LabelView::ShowLook()

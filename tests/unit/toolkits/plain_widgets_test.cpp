@@ -1,5 +1,5 @@
 #include "tests/unit/toolkits/fixture.hpp"
-
+#include "toolkits/common/label.hpp"
 #include "toolkits/common/navigation_bar.hpp"
 
 namespace kova::headless {
@@ -299,6 +299,26 @@ TEST_F(Menus, PassAFailureOfTheEntryToTheCaller)
     Get<Menu>("mnuOne").OnClick([] { throw Failure(FailureNumber::Overflow); });
     toolkit_.Queue().QueueMenu("mnuOne");
     EXPECT_EQ(FailureOf([this] { Pop(); }), 6);
+}
+
+TEST_F(PlainWidgets, ALabelsMnemonicIsNoPartOfItsCaption)
+{
+    Has(WidgetKind::KVTextBox, "kvtxt");
+    ControlDesign& label = Has(WidgetKind::Label, "lbl");
+    label.caption = "&Nome";
+    label.labelOf = "kvtxt";
+    Open();
+    EXPECT_EQ(Get<Label>("lbl").Caption(), "Nome");
+    EXPECT_EQ(ModelOf<toolkit::LabelModel>("lbl").CaptionWithMnemonic(), "&Nome");
+    Get<Label>("lbl").Caption("Nome e mais");
+    EXPECT_EQ(ModelOf<toolkit::LabelModel>("lbl").CaptionWithMnemonic(), "Nome e mais");
+}
+
+TEST_F(PlainWidgets, ALabelThatNamesNothingShowsItsAmpersands)
+{
+    Has(WidgetKind::Label, "lbl").caption = "Silva & Filhos";
+    Open();
+    EXPECT_EQ(Get<Label>("lbl").Caption(), "Silva & Filhos");
 }
 
 } // namespace kova::headless
