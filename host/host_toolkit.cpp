@@ -27,4 +27,11 @@ Reply HostToolkit::AskUser(MessageKind kind, const Text& text, const Text& title
     return kind == MessageKind::Question ? Reply::No : Reply::Ok;
 }
 
+// Nobody could close a window that is drawn into memory.
+void HostToolkit::RunPreview(const toolkit::ReportModel& report)
+{
+    if (!DrawsIntoMemory())
+        QtToolkit::RunPreview(report);
+}
+
 } // namespace kova::host

@@ -19,6 +19,7 @@ public:
 
 protected:
     Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
+    void RunPreview(const toolkit::ReportModel& report) override;
 
 private:
     bool DrawsIntoMemory() const { return drawnWidth_ > 0; }

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/business_services.hpp"
 #include "agenda/contracts/date_time.hpp"
+#include "agenda/contracts/reports.hpp"
 #include "agenda/contracts/widgets.hpp"
 
 #include <string>
@@ -49,6 +50,9 @@ public:
     /// Makes a form and its controls as designed, hidden. Fails with 380 on a design that names a
     /// control twice or a container that it does not have.
     virtual FormRef CreateForm(const FormDesign& design) = 0;
+    /// Makes a report as designed, hidden and without data. Fails with 380 on a design that names a section
+    /// or a control twice, or has two sections of a kind.
+    virtual ReportRef CreateReport(const ReportDesign& design) = 0;
 
     /// Runs the event loop until the user has answered. Line breaks are "\r\n".
     virtual Reply MessageBox(MessageKind kind, const Text& text, const Text& title) = 0;

@@ -12,7 +12,7 @@ BEGIN {
     rule("agenda", "agenda", "std")
     rule("reports", "agenda/contracts reports", "std")
     rule("toolkits/common", "agenda/contracts toolkits/common", "std")
-    rule("toolkits/headless", "agenda/contracts toolkits/common toolkits/headless", "std")
+    rule("toolkits/headless", "agenda/contracts toolkits/common toolkits/headless reports", "std")
     rule("toolkits/qt", "agenda/contracts toolkits/common toolkits/qt reports", "std qt")
     rule("family", "agenda/contracts family", "std posix soci")
     rule("family/presentation", "agenda/contracts family/presentation", "std qt")

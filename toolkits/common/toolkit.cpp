@@ -56,6 +56,18 @@ void ToolkitModel::TellKeys(const FormModel& form, const std::vector<KeyHelp>& k
     ShowKeys(form, keys);
 }
 
+ReportRef ToolkitModel::CreateReport(const ReportDesign& design)
+{
+    return std::make_shared<ReportModel>(*this, design);
+}
+
+void ToolkitModel::Preview(const ReportModel& report)
+{
+    const EventScope scope(*this);
+    const Closed closed(*this);
+    RunPreview(report);
+}
+
 void ToolkitModel::SendKeys(const Text& keys)
 {
     if (keys != "+({HOME})")

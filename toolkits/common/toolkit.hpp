@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/platform.hpp"
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/report.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/common/text_measure.hpp"
 
@@ -20,6 +21,7 @@ public:
     ToolkitModel& operator=(const ToolkitModel&) = delete;
 
     FormRef CreateForm(const FormDesign& design) final;
+    ReportRef CreateReport(const ReportDesign& design) final;
     /// Asks through AskUser; no form takes input meanwhile.
     Reply MessageBox(MessageKind kind, const Text& text, const Text& title) final;
     void SendKeys(const Text& keys) final;
@@ -37,9 +39,10 @@ public:
     /// The form of that name that was shown or used last; where none is visible, the one made last. Null
     /// where there is none.
     FormModel* FindForm(std::string_view name) const;
-    /// Whether a modal form that was shown later, a message box or a pop-up menu keeps the user out.
+    /// Whether a modal form that was shown later, a message box, a pop-up menu or a preview keeps the user
+    /// out.
     bool IsShutOut(const FormModel& form) const;
-    /// Whether a message box or a pop-up menu is open.
+    /// Whether a message box, a pop-up menu or the preview of a report is open.
     bool IsAsking() const { return closedDepth_ > 0; }
     /// Whether an event is on the stack.
     bool IsInsideEvent() const { return eventDepth_ > 0; }
@@ -70,8 +73,13 @@ public:
     /// Shows the keys of a form and waits until the user has read them; no form takes input meanwhile.
     void TellKeys(const FormModel& form, const std::vector<KeyHelp>& keys);
 
+    /// Shows a report and waits until the user has closed it; no form takes input meanwhile.
+    void Preview(const ReportModel& report);
+
 protected:
     virtual void ShowKeys(const FormModel& form, const std::vector<KeyHelp>& keys) = 0;
+    /// Lays a report out, shows it and returns when the user has closed it.
+    virtual void RunPreview(const ReportModel& report) = 0;
     /// Shows a message box and waits for the answer; Question boxes answer Yes or No, others Ok.
     virtual Reply AskUser(MessageKind kind, const Text& text, const Text& title) = 0;
     /// Forms wait for their end and no event is on the stack. Calls ReleaseRetired at once; a toolkit
@@ -86,7 +94,7 @@ private:
     friend class WidgetCore;
     friend class FormModel;
 
-    /// While a message box or a menu is open.
+    /// While a message box, a menu or a preview is open.
     class Closed {
     public:
         explicit Closed(ToolkitModel& toolkit) : toolkit_(toolkit) { ++toolkit_.closedDepth_; }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
+#include "reports/pages.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/menu.hpp"
+#include "toolkits/common/report.hpp"
 
 #include <vector>
 
@@ -22,6 +24,9 @@ public:
     /// A pop-up menu is open; null chooses nothing. An entry that is disabled or a rule is not chosen.
     virtual toolkit::MenuModel* ChooseMenu(toolkit::MenuModel& parent,
                                            const std::vector<toolkit::MenuModel*>& entries) = 0;
+    /// The preview of a report is open: acts as the user, and returns to close it. The pages hold until
+    /// then.
+    virtual void RunPreview(const toolkit::ReportModel&, const reports::Document&) { }
     /// A pause of that many seconds has begun; asked once in each, when it first takes events.
     virtual void DuringPause(Double seconds) = 0;
 };

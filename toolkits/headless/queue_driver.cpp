@@ -17,7 +17,7 @@ template <class T> T TakeFirst(std::deque<T>& queue)
 
 std::size_t QueueDriver::Unused() const
 {
-    return replies_.size() + menus_.size() + actions_.size() + pauses_.size();
+    return replies_.size() + menus_.size() + actions_.size() + pauses_.size() + previews_.size();
 }
 
 void QueueDriver::RunModal(toolkit::FormModel& form)
@@ -53,6 +53,14 @@ toolkit::MenuModel* QueueDriver::ChooseMenu(toolkit::MenuModel& parent,
     }
     unexpected_.push_back("menu entry " + name + " cannot be chosen");
     return nullptr;
+}
+
+void QueueDriver::RunPreview(const toolkit::ReportModel& report, const reports::Document& pages)
+{
+    if (previews_.empty())
+        unexpected_.push_back("preview of " + report.Current().name);
+    else
+        TakeFirst(previews_)(pages);
 }
 
 void QueueDriver::DuringPause(Double)

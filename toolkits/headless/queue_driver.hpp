@@ -29,10 +29,16 @@ public:
     /// What the user does inside the next pause; a pause without one is no surprise.
     void QueueDuringPause(std::function<void()> action) { pauses_.push_back(std::move(action)); }
 
+    /// What the user looks at in the next preview, before closing it.
+    void QueuePreview(std::function<void(const reports::Document&)> look)
+    {
+        previews_.push_back(std::move(look));
+    }
+
     /// All questions asked so far.
     const std::vector<Question>& Questions() const { return questions_; }
-    /// One line for each box or menu without a queued answer, each queued menu entry that could not be
-    /// chosen, and each modal form that was still open when no action was left.
+    /// One line for each box, menu or preview without a queued answer, each queued menu entry that could not
+    /// be chosen, and each modal form that was still open when no action was left.
     const std::vector<std::string>& Unexpected() const { return unexpected_; }
     /// How many queued answers and actions nobody has asked for.
     std::size_t Unused() const;
@@ -41,6 +47,7 @@ public:
     Reply Answer(MessageKind kind, const Text& text, const Text& title) override;
     toolkit::MenuModel* ChooseMenu(toolkit::MenuModel& parent,
                                    const std::vector<toolkit::MenuModel*>& entries) override;
+    void RunPreview(const toolkit::ReportModel& report, const reports::Document& pages) override;
     void DuringPause(Double seconds) override;
 
 private:
@@ -48,6 +55,7 @@ private:
     std::deque<std::string> menus_;
     std::deque<std::function<void()>> actions_;
     std::deque<std::function<void()>> pauses_;
+    std::deque<std::function<void(const reports::Document&)>> previews_;
     std::vector<Question> questions_;
     std::vector<std::string> unexpected_;
 };

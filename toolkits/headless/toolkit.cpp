@@ -1,5 +1,6 @@
 #include "toolkits/headless/toolkit.hpp"
 
+#include "reports/layout.hpp"
 #include "toolkits/headless/window.hpp"
 
 #include <utility>
@@ -79,6 +80,14 @@ std::optional<HeadlessToolkit::Corners> HeadlessToolkit::CornersOf(Long handle) 
 {
     const auto found = windows_.find(handle);
     return found == windows_.end() ? std::nullopt : found->second.corners;
+}
+
+void HeadlessToolkit::RunPreview(const toolkit::ReportModel& report)
+{
+    const reports::Document pages =
+        reports::LayOut({report.Current(), report.Data(), clock_.Now()}, reportMetrics_);
+    LogReport(report, pages);
+    GetDriver().RunPreview(report, pages);
 }
 
 void HeadlessToolkit::PauseBegins(Double seconds)

@@ -3,6 +3,7 @@
 #include "toolkits/common/toolkit.hpp"
 #include "toolkits/headless/clock.hpp"
 #include "toolkits/headless/queue_driver.hpp"
+#include "toolkits/headless/report_metrics.hpp"
 #include "toolkits/headless/text_measure.hpp"
 
 #include <functional>
@@ -45,7 +46,8 @@ public:
     /// What forms and boxes did, one line each: "show frmLista", "show NAME modal", "hide NAME",
     /// "unload NAME", "repaint NAME", "focus NAME.CONTROL", "popup MENU X Y", "keys TEXT", "pause 1",
     /// "box information TITLE TEXT -> ok", "unhandled NUMBER TEXT", "help NAME", followed by
-    /// "  KEY: PURPOSE" for each of its keys.
+    /// "  KEY: PURPOSE" for each of its keys; "report NAME modal caption TEXT width W margins LEFT TOP
+    /// RIGHT BOTTOM landscape records N pages N".
     const std::vector<std::string>& Log() const { return log_; }
     void ClearLog() { log_.clear(); }
     /// Hears each line of the log as it comes.
@@ -86,6 +88,7 @@ public:
 protected:
     Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
     void ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys) override;
+    void RunPreview(const toolkit::ReportModel& report) override;
 
 private:
     struct Container {
@@ -105,9 +108,11 @@ private:
 
     void Write(std::string line);
     void LogPause(Double seconds);
+    void LogReport(const toolkit::ReportModel& report, const reports::Document& pages);
 
     FrozenClock clock_;
     TableMeasure measure_;
+    TableMetrics reportMetrics_{measure_};
     QueueDriver queue_;
     Driver* driver_ = nullptr;
     int screenWidth_ = 1920;

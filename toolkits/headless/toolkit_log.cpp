@@ -29,6 +29,8 @@ const char* WordFor(Reply reply)
     return "";
 }
 
+std::string Number(Twips length) { return TextOf(static_cast<Double>(length), '.'); }
+
 Reply Offered(MessageKind kind, Reply reply)
 {
     if (kind != MessageKind::Question)
@@ -77,6 +79,18 @@ void HeadlessToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector
         Write("  " + line.key + ": " + line.purpose);
 }
 
+void HeadlessToolkit::LogReport(const toolkit::ReportModel& report, const reports::Document& pages)
+{
+    const ReportDesign& design = report.Current();
+    std::string line = "report " + design.name + " modal caption " + Quoted(design.caption) + " width "
+        + Number(design.width) + " margins";
+    for (const Twips margin : {design.leftMargin, design.topMargin, design.rightMargin, design.bottomMargin})
+        line += " " + Number(margin);
+    line += design.orientation == ReportOrientation::Landscape ? " landscape" : " portrait";
+    Write(line + " records " + std::to_string(pages.records) + " pages "
+          + std::to_string(pages.pages.size()));
+}
+
 void HeadlessToolkit::UnhandledFailure(const Failure& failure)
 {
     failures_.push_back(failure);
@@ -99,8 +113,7 @@ void HeadlessToolkit::CodeFocuses(const toolkit::WidgetCore& widget) { Write("fo
 void HeadlessToolkit::FormPopsUp(const toolkit::FormModel&, const toolkit::MenuModel& parent, Twips x,
                                  Twips y)
 {
-    Write("popup " + parent.Design().name + " " + TextOf(static_cast<Double>(x), '.') + " "
-          + TextOf(static_cast<Double>(y), '.'));
+    Write("popup " + parent.Design().name + " " + Number(x) + " " + Number(y));
 }
 
 void HeadlessToolkit::KeysAreSent(const Text& keys) { Write("keys " + Quoted(keys)); }

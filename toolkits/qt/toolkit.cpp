@@ -1,5 +1,6 @@
 #include "toolkits/qt/toolkit.hpp"
 
+#include "reports/layout.hpp"
 #include "toolkits/qt/check_box.hpp"
 #include "toolkits/qt/combo_box.hpp"
 #include "toolkits/qt/command_button.hpp"
@@ -18,6 +19,8 @@
 #include "toolkits/qt/number_box.hpp"
 #include "toolkits/qt/option_button.hpp"
 #include "toolkits/qt/picture_box.hpp"
+#include "toolkits/qt/report_metrics.hpp"
+#include "toolkits/qt/report_preview.hpp"
 #include "toolkits/qt/shape.hpp"
 #include "toolkits/qt/text_box.hpp"
 #include "toolkits/qt/text_measure.hpp"
@@ -168,6 +171,17 @@ Reply QtToolkit::AskUser(MessageKind kind, const Text& text, const Text& title)
 void QtToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys)
 {
     ShowHelpWindow(WindowBelow(nullptr), form.Current().caption, keys);
+}
+
+void QtToolkit::RunPreview(const toolkit::ReportModel& report)
+{
+    const reports::Document pages =
+        reports::LayOut({report.Current(), report.Data(), clock_.Now()}, QtReportMetrics());
+    ReportDesk desk;
+    ReportPreview preview(pages, desk, WindowBelow(nullptr));
+    if (report.Current().windowState == ReportWindowState::Maximized)
+        preview.setWindowState(Qt::WindowMaximized);
+    preview.exec();
 }
 
 // Qt may still be inside a handler of a widget that would die.

@@ -44,6 +44,7 @@ public:
 protected:
     Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
     void ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys) override;
+    void RunPreview(const toolkit::ReportModel& report) override;
     void ScheduleRelease() override;
 
 private:

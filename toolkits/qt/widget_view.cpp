@@ -62,7 +62,8 @@ private:
 QString LabelFor(const toolkit::WidgetCore& core)
 {
     for (const auto& other : core.GetForm().Widgets()) {
-        if (other->KindOfWidget() == WidgetKind::Label && other->Design().labelOf == core.Design().name)
+        if (other->KindOfWidget() == WidgetKind::Label && other->Design().labelOf == core.Design().name
+            && other->Design().index == core.Design().index)
             return FromText(other->Design().caption).remove(QLatin1Char('&'));
     }
     return QString();

@@ -145,6 +145,16 @@ toolkit::MenuModel* Runner::EntryOf(const Statement& statement,
     return *found;
 }
 
+void Runner::RunPreview(const toolkit::ReportModel& report, const reports::Document& pages)
+{
+    preview_ = {report.Current().name, &pages};
+    while (preview_ && Next())
+        Execute(Take());
+    if (preview_)
+        line_("end inside " + preview_->report);
+    preview_.reset();
+}
+
 void Runner::DuringPause(Double)
 {
     while (!duringPause_.empty()) {

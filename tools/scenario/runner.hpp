@@ -8,6 +8,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace kova::scenario {
@@ -39,6 +40,7 @@ public:
     Reply Answer(MessageKind kind, const Text& text, const Text& title) override;
     toolkit::MenuModel* ChooseMenu(toolkit::MenuModel& parent,
                                    const std::vector<toolkit::MenuModel*>& entries) override;
+    void RunPreview(const toolkit::ReportModel& report, const reports::Document& pages) override;
     void DuringPause(Double seconds) override;
 
 private:
@@ -88,14 +90,22 @@ private:
     void QueueDuringPause(const Statement&);
     void MenuOutsideMenu(const Statement&);
     void ReplyOutsideBox(const Statement&);
-    void PagesOutsidePreview(const Statement&);
+    void ShowPreviewPages(const Statement&);
+    void ClosePreview(const Statement&);
     void Show(const Statement&);
     void Note(const Statement&);
     /// The control that a statement names.
     Place ControlOf(const Statement&) const;
 
+    /// The preview that the user looks at.
+    struct OpenPreview {
+        std::string report;
+        const reports::Document* pages = nullptr;
+    };
+
     Script script_;
     std::deque<Statement> waiting_;
+    std::optional<OpenPreview> preview_;
     std::deque<Statement> duringPause_;
     std::function<void(const std::string&)> line_;
     WrongStatement wrong_;

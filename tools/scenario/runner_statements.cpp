@@ -1,5 +1,6 @@
 // One function for each statement of the language.
 
+#include "tools/scenario/page_text.hpp"
 #include "tools/scenario/runner.hpp"
 
 #include <algorithm>
@@ -63,7 +64,7 @@ const Runner::Verb* Runner::Find(const std::string& verb)
         {"bar", {&Runner::Bar, When::After}},
         {"menu", {&Runner::MenuOutsideMenu, When::After}},
         {"reply", {&Runner::ReplyOutsideBox, When::After}},
-        {"pages", {&Runner::PagesOutsidePreview, When::After}},
+        {"pages", {&Runner::ShowPreviewPages, When::After}},
         {"resize", {&Runner::Resize, When::After}},
         {"close", {&Runner::Close, When::After}},
         {"show", {&Runner::Show, When::After}},
@@ -263,6 +264,10 @@ void Runner::Resize(const Statement& statement)
 
 void Runner::Close(const Statement& statement)
 {
+    if (preview_)
+        return ClosePreview(statement);
+    if (!statement.Has(0))
+        return RefuseIf("no report preview is open");
     statement.ExpectAtMost(1);
     RefuseIf(user_.CloseForm(statement.Word(0)));
 }
@@ -279,7 +284,22 @@ void Runner::MenuOutsideMenu(const Statement&) { RefuseIf("no menu is open"); }
 
 void Runner::ReplyOutsideBox(const Statement&) { RefuseIf("no message box is open"); }
 
-void Runner::PagesOutsidePreview(const Statement&) { RefuseIf("no report preview is open"); }
+void Runner::ShowPreviewPages(const Statement& statement)
+{
+    statement.ExpectAtMost(0);
+    if (!preview_)
+        return RefuseIf("no report preview is open");
+    for (const std::string& line : ShowPages(*preview_->pages))
+        line_(line);
+}
+
+void Runner::ClosePreview(const Statement& statement)
+{
+    statement.ExpectAtMost(1);
+    if (statement.Has(0) && statement.Word(0) != preview_->report)
+        return RefuseIf(statement.Word(0) + " is behind a report preview");
+    preview_.reset();
+}
 
 void Runner::Show(const Statement& statement)
 {

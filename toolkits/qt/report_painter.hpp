@@ -1,0 +1,20 @@
+#pragma once
+
+#include "reports/pages.hpp"
+
+#include <QImage>
+
+class QPainter;
+
+namespace kova::qt {
+
+inline constexpr double TwipsOfInch = 1440.0;
+
+/// Draws a page with a painter whose unit is the twip and whose origin is the paper's top left corner. The
+/// one painting of reports: preview, printer, PDF and picture all come from here.
+void PaintPage(QPainter& painter, const reports::Page& page);
+
+/// A page on white paper.
+QImage PictureOf(const reports::Document& document, std::size_t page, double dotsPerInch);
+
+} // namespace kova::qt

@@ -1,0 +1,311 @@
+#include "toolkits/qt/report_preview.hpp"
+
+#include "toolkits/qt/flat_button.hpp"
+#include "toolkits/qt/help_window.hpp"
+#include "toolkits/qt/report_output.hpp"
+#include "toolkits/qt/theme.hpp"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace kova::qt {
+
+namespace {
+
+/// Where the last report was saved; the next one is proposed there.
+QString& LastFolder()
+{
+    static QString folder;
+    return folder;
+}
+
+/// A title as a file's name.
+QString FileName(const QString& title)
+{
+    QString name;
+    for (const QChar character : title)
+        name += QStringLiteral("/\\:*?\"<>|").contains(character) ? QChar(u' ') : character;
+    name = name.simplified();
+    return (name.isEmpty() ? QStringLiteral("Relatório") : name) + QStringLiteral(".pdf");
+}
+
+class BusyCursor {
+public:
+    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
+    BusyCursor(const BusyCursor&) = delete;
+    BusyCursor& operator=(const BusyCursor&) = delete;
+};
+
+QLabel* BarLabel(QHBoxLayout& bar, const char* name)
+{
+    auto* label = new QLabel;
+    label->setObjectName(QString::fromLatin1(name));
+    label->setTextFormat(Qt::PlainText);
+    bar.addWidget(label);
+    return label;
+}
+
+} // namespace
+
+const std::vector<ReportPreview::Command>& ReportPreview::Commands()
+{
+    using Preview = ReportPreview;
+    static const std::vector<Command> commands{
+        {"PgDown", "Próxima página", &Preview::NextPage},
+        {"PgUp", "Página anterior", &Preview::PreviousPage},
+        {"Home", "Primeira página", &Preview::FirstPage},
+        {"End", "Última página", &Preview::LastPage},
+        {"Ctrl++", "Aumentar", &Preview::ZoomIn},
+        {"Ctrl+-", "Diminuir", &Preview::ZoomOut},
+        {"Ctrl+0", "Tamanho do papel", &Preview::PaperSize},
+        {"Ctrl+L", "Ajustar à largura", &Preview::FitWidth},
+        {"Ctrl+P", "Imprimir", &Preview::PrintPages},
+        {"Ctrl+S", "Salvar em PDF", &Preview::SavePdf},
+        {"Ctrl+F", "Localizar um texto", &Preview::GoToSearch},
+        {"F3", "Localizar o próximo", &Preview::NextMatch},
+        {"Shift+F3", "Localizar o anterior", &Preview::PreviousMatch},
+        {"Esc", "Fechar", &Preview::Leave},
+        {"F1", "Mostrar esta ajuda", &Preview::ShowKeys},
+    };
+    return commands;
+}
+
+ReportPreview::ReportPreview(const reports::Document& document, ReportDesk& desk, QWidget* over)
+    : QDialog(over), document_(document), desk_(desk), canvas_(new ReportCanvas(document, this))
+{
+    setObjectName(QStringLiteral("visualizacao"));
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint
+                   | Qt::WindowCloseButtonHint);
+    setWindowTitle(FromText(document.title));
+    resize(1000, 720);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto* bar = new QHBoxLayout;
+    bar->setContentsMargins(12, 8, 12, 8);
+    bar->setSpacing(4);
+    MakeBar(*bar);
+    column->addLayout(bar);
+    column->addWidget(canvas_);
+    canvas_->changed = [this] { FollowCanvas(); };
+    FollowCanvas();
+    canvas_->setFocus();
+}
+
+FlatButton* ReportPreview::Button(QHBoxLayout& bar, const char* name, const char* icon, const char* text)
+{
+    const auto command = std::ranges::find_if(
+        Commands(), [&](const Command& each) { return QLatin1String(each.key) == QLatin1String(name); });
+    auto* button = new FlatButton(this);
+    const QString purpose = QString::fromUtf8(command->purpose);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setText(QString::fromUtf8(text));
+    button->setToolTip(purpose + QStringLiteral(" (%1)").arg(QString::fromLatin1(command->key)));
+    button->setAccessibleName(purpose);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->SetIconName(icon);
+    button->SetBordered(true);
+    const int textWidth = QFontMetrics(button->font()).horizontalAdvance(button->text());
+    const int iconWidth = *icon == '\0' ? 0 : 26;
+    button->setFixedSize(std::max(34, (*text == '\0' ? 0 : textWidth + iconWidth) + 20), 34);
+    connect(button, &QAbstractButton::clicked, this, [this, act = command->act] { (this->*act)(); });
+    bar.addWidget(button);
+    return button;
+}
+
+void ReportPreview::MakeBar(QHBoxLayout& bar)
+{
+    Button(bar, "Ctrl+P", "imprimir", "Imprimir");
+    Button(bar, "Ctrl+S", "", "Salvar em PDF");
+    bar.addSpacing(8);
+    backButtons_ = {Button(bar, "Home", "primeira", ""), Button(bar, "PgUp", "anterior", "")};
+    pageLabel_ = BarLabel(bar, "pagina");
+    pageLabel_->setAlignment(Qt::AlignCenter);
+    pageLabel_->setMinimumWidth(110);
+    forwardButtons_ = {Button(bar, "PgDown", "posterior", ""), Button(bar, "End", "ultima", "")};
+    bar.addSpacing(8);
+    Button(bar, "Ctrl+-", "", "−");
+    zoomLabel_ = BarLabel(bar, "tamanho");
+    zoomLabel_->setAlignment(Qt::AlignCenter);
+    zoomLabel_->setMinimumWidth(44);
+    Button(bar, "Ctrl++", "", "+");
+    Button(bar, "Ctrl+L", "", "Ajustar à largura");
+    bar.addSpacing(8);
+    search_ = new QLineEdit;
+    search_->setObjectName(QStringLiteral("localizar"));
+    search_->setPlaceholderText(QStringLiteral("Localizar"));
+    search_->setAccessibleName(QStringLiteral("Localizar um texto"));
+    search_->setToolTip(QStringLiteral("Localizar um texto (Ctrl+F)"));
+    search_->setClearButtonEnabled(true);
+    search_->setFixedHeight(34);
+    search_->setMinimumWidth(110);
+    search_->setMaximumWidth(240);
+    connect(search_, &QLineEdit::textChanged, this, [this] { Search(); });
+    connect(search_, &QLineEdit::returnPressed, this, [this] { NextMatch(); });
+    bar.addWidget(search_);
+    found_ = BarLabel(bar, "achados");
+    status_ = BarLabel(bar, "situacao");
+    bar.setStretchFactor(status_, 1);
+    status_->setMinimumWidth(0);
+    status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    Button(bar, "Esc", "", "Fechar");
+}
+
+void ReportPreview::FollowCanvas()
+{
+    const std::size_t page = canvas_->CurrentPage();
+    const std::size_t pages = document_.pages.size();
+    pageLabel_->setText(QStringLiteral("Página %1 de %2").arg(page + 1).arg(pages));
+    zoomLabel_->setText(QStringLiteral("%1%").arg(std::lround(canvas_->Zoom() * 100)));
+    const bool hadFocus = focusWidget() && focusWidget() != search_;
+    for (FlatButton* button : backButtons_)
+        button->setEnabled(page > 0);
+    for (FlatButton* button : forwardButtons_)
+        button->setEnabled(page + 1 < pages);
+    if (hadFocus && focusWidget() && !focusWidget()->isEnabled())
+        canvas_->setFocus();
+}
+
+const ReportPreview::Command* ReportPreview::CommandOf(const QKeyEvent& event) const
+{
+    // "+" may come with Shift, as on most keyboards, or from the keypad; "=" is its key without Shift.
+    Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    int key = event.key();
+    if (modifiers & Qt::ControlModifier && (key == Qt::Key_Plus || key == Qt::Key_Equal)) {
+        key = Qt::Key_Plus;
+        modifiers &= ~Qt::ShiftModifier;
+    }
+    const QString name = QKeySequence(static_cast<int>(modifiers) | key).toString(QKeySequence::PortableText);
+    const auto found = std::ranges::find_if(
+        Commands(), [&](const Command& command) { return name == QLatin1String(command.key); });
+    return found == Commands().end() ? nullptr : &*found;
+}
+
+void ReportPreview::keyPressEvent(QKeyEvent* event)
+{
+    if (const Command* command = CommandOf(*event))
+        (this->*command->act)();
+    else
+        event->ignore();
+}
+
+void ReportPreview::PreviousPage()
+{
+    const std::size_t page = canvas_->CurrentPage();
+    canvas_->ShowPage(page > 0 ? page - 1 : 0);
+}
+
+void ReportPreview::NextPage() { canvas_->ShowPage(canvas_->CurrentPage() + 1); }
+
+void ReportPreview::GoToSearch()
+{
+    search_->setFocus();
+    search_->selectAll();
+}
+
+void ReportPreview::Search()
+{
+    searched_ = search_->text();
+    matches_ = FindInReport(document_, searched_);
+    // From the page in view on, so that typing does not send the reader back to the beginning.
+    const auto here = std::ranges::find_if(
+        matches_, [this](const ReportMatch& match) { return match.page >= canvas_->CurrentPage(); });
+    currentMatch_ = here == matches_.end() ? 0 : static_cast<std::size_t>(here - matches_.begin());
+    StepToMatch(0);
+}
+
+void ReportPreview::StepToMatch(int step)
+{
+    if (matches_.empty()) {
+        canvas_->ClearMarks();
+        found_->setText(searched_.isEmpty() ? QString() : QStringLiteral("Nenhum texto encontrado"));
+        return;
+    }
+    const auto count = static_cast<int>(matches_.size());
+    currentMatch_ = static_cast<std::size_t>((static_cast<int>(currentMatch_) + step + count) % count);
+    found_->setText(QStringLiteral("%1 de %2").arg(currentMatch_ + 1).arg(count));
+    canvas_->Mark(matches_, currentMatch_);
+}
+
+// Leaving the search first: whoever presses Escape there means the search.
+void ReportPreview::Leave()
+{
+    if (focusWidget() != search_)
+        return reject();
+    search_->clear();
+    canvas_->setFocus();
+}
+
+void ReportPreview::ShowKeys()
+{
+    std::vector<toolkit::KeyHelp> keys;
+    for (const Command& command : Commands())
+        keys.push_back({command.key, command.purpose});
+    ShowHelpWindow(this, document_.title, keys);
+}
+
+void ReportPreview::Tell(MessageKind kind, const QString& text)
+{
+    desk_.Tell(this, kind, text, windowTitle());
+}
+
+void ReportPreview::PrintPages()
+{
+    if (!desk_.HasPrinter())
+        return Tell(MessageKind::Information,
+                    QStringLiteral("Nenhuma impressora foi encontrada neste computador.\n\n"
+                                   "Instale uma impressora ou use \"Salvar em PDF\"."));
+    QPrinter printer(QPrinter::HighResolution);
+    PrepareForReport(printer, document_);
+    if (!desk_.ChoosePrinting(this, printer, document_.pages.size()))
+        return;
+    QString trouble;
+    {
+        const BusyCursor busy;
+        trouble = Print(printer, document_, canvas_->CurrentPage());
+    }
+    if (!trouble.isEmpty())
+        return Tell(MessageKind::Critical, trouble);
+    status_->setText(QStringLiteral("Enviado para a impressora"));
+}
+
+QString ReportPreview::ProposedPath() const
+{
+    const QString folder = LastFolder().isEmpty()
+        ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+        : LastFolder();
+    return QDir(folder).filePath(FileName(windowTitle()));
+}
+
+void ReportPreview::SavePdf()
+{
+    const QString path = desk_.AskPdfPath(this, ProposedPath());
+    if (path.isEmpty())
+        return;
+    QString trouble;
+    {
+        const BusyCursor busy;
+        trouble = WritePdf(document_, path);
+    }
+    if (!trouble.isEmpty())
+        return Tell(MessageKind::Critical, trouble);
+    LastFolder() = QFileInfo(path).absolutePath();
+    status_->setText(QStringLiteral("Salvo em %1").arg(QFileInfo(path).fileName()));
+    status_->setToolTip(path);
+}
+
+} // namespace kova::qt

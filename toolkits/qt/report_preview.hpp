@@ -1,0 +1,80 @@
+#pragma once
+
+#include "toolkits/common/shortcuts.hpp"
+#include "toolkits/qt/report_canvas.hpp"
+#include "toolkits/qt/report_desk.hpp"
+
+#include <QDialog>
+
+#include <vector>
+
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+
+namespace kova::qt {
+
+class FlatButton;
+
+/// The window that shows a report before it goes to paper: pages, size, search, printing, saving. Document
+/// and desk must outlive it.
+class ReportPreview : public QDialog {
+public:
+    ReportPreview(const reports::Document& document, ReportDesk& desk, QWidget* over);
+
+    const ReportCanvas& Canvas() const { return *canvas_; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    /// What a key or a button does.
+    struct Command {
+        /// As the help shows it.
+        const char* key;
+        const char* purpose;
+        void (ReportPreview::*act)();
+    };
+    static const std::vector<Command>& Commands();
+    const Command* CommandOf(const QKeyEvent& event) const;
+
+    void MakeBar(QHBoxLayout& bar);
+    FlatButton* Button(QHBoxLayout& bar, const char* name, const char* icon, const char* text);
+    void FollowCanvas();
+
+    void PreviousPage();
+    void NextPage();
+    void FirstPage() { canvas_->ShowPage(0); }
+    void LastPage() { canvas_->ShowPage(document_.pages.size()); }
+    void ZoomIn() { canvas_->ZoomIn(); }
+    void ZoomOut() { canvas_->ZoomOut(); }
+    void PaperSize() { canvas_->Zoom(1); }
+    void FitWidth() { canvas_->FitWidth(); }
+    void PrintPages();
+    void SavePdf();
+    void GoToSearch();
+    void Search();
+    void NextMatch() { StepToMatch(1); }
+    void PreviousMatch() { StepToMatch(-1); }
+    void StepToMatch(int step);
+    void Leave();
+    void ShowKeys();
+    void Tell(MessageKind kind, const QString& text);
+    QString ProposedPath() const;
+
+    const reports::Document& document_;
+    ReportDesk& desk_;
+    ReportCanvas* canvas_;
+    QLineEdit* search_ = nullptr;
+    QLabel* found_ = nullptr;
+    QLabel* pageLabel_ = nullptr;
+    QLabel* zoomLabel_ = nullptr;
+    QLabel* status_ = nullptr;
+    std::vector<FlatButton*> backButtons_;
+    std::vector<FlatButton*> forwardButtons_;
+    std::vector<ReportMatch> matches_;
+    std::size_t currentMatch_ = 0;
+    QString searched_;
+};
+
+} // namespace kova::qt
