@@ -1,9 +1,15 @@
 #include "agenda/contracts/component_library.hpp"
 #include "family/business/agenda.hpp"
+#include "family/business/animals.hpp"
+#include "family/business/breeds.hpp"
 #include "family/business/company.hpp"
+#include "family/business/customers.hpp"
 #include "family/business/employees.hpp"
+#include "family/business/holidays.hpp"
 #include "family/business/lent_record_sets.hpp"
 #include "family/business/service_types.hpp"
+#include "family/business/services.hpp"
+#include "family/business/species.hpp"
 #include "family/business/store.hpp"
 #include "family/business/system_version.hpp"
 #include "family/data/shared_database.hpp"
@@ -28,6 +34,12 @@ kova::ComponentLibrary& Library()
         Entry<Company>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E04}"),
         Entry<SystemVersion>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E05}"),
         Entry<Store>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E06}"),
+        Entry<Species>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E07}"),
+        Entry<Breeds>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E08}"),
+        Entry<Services>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E09}"),
+        Entry<Customers>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0A}"),
+        Entry<Animals>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0B}"),
+        Entry<Holidays>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0C}"),
     });
     return library;
 }

@@ -3,6 +3,9 @@
 #include "family/business/appointment_input.hpp"
 #include "family/business/by_name.hpp"
 #include "family/business/write_answer.hpp"
+#include "family/data/author.hpp"
+
+#include <optional>
 
 namespace kova::family {
 
@@ -21,27 +24,39 @@ private:
     Value Selecionar(std::span<Argument> arguments);
     Value PaginarResultadoDaSelecaoEmRecordset(std::span<Argument> arguments);
 
-    // agenda_status.cpp
-    /// Answers the write status. Only with AtualizarSomenteOCampoSituacao: status 1 without it.
+    // agenda_writes.cpp
+    // Each answers the write status, by the properties that the caller has written before.
+    Value Adicionar(std::span<Argument>);
+    /// With AtualizarSomenteOCampoSituacao only the status.
     Value Alterar(std::span<Argument>);
-    /// Answers the write status. Without an argument the status is cancelled.
+    Value Excluir(std::span<Argument>);
+    /// For the package of the appointment with the written number, also where this object has just deleted
+    /// it. Without an argument the status is cancelled.
     Value AlterarSituacaoDoAgendamentoNoPacoteDeBanhoETosa(std::span<Argument> arguments);
 
     /// Runs a write for the session's user and keeps its answer for the members that are read after it.
-    Integer Write(std::string_view member, const std::function<WriteAnswer()>& write);
+    Integer Write(std::string_view member, const std::function<WriteAnswer(const Author&)>& write);
 
     // The answer of the last write; "" and False where it was done, or has failed technically.
     Value DescricaoDaFalha() const { return answer_.text; }
     Value NomeDoCampoValidado() const { return answer_.field; }
-    Value RegistroPercenteAUmPacoteDeBanhoETosa() const { return answer_.IsDone() && answer_.inPackage; }
+    Value RegistroPercenteAUmPacoteDeBanhoETosa() const { return answer_.IsDone() && answer_.package != 0; }
 
     /// Takes a property that the caller writes, converted to its type.
     template <auto Field, auto Convert> void Take(const Value& value) { input_.*Field = (value.*Convert)(); }
     void DadosDoUsuario(const Value& user);
+    /// Takes the table as it is now, whatever the caller does with its own later.
+    void ListaDasDatasEHorasSelecionadas(const Value& table);
+
+    /// An appointment that this object has deleted, and the package it belonged to; 0 is none.
+    struct Deleted {
+        Key number, package;
+    };
 
     ObjectRef user_;
     AppointmentInput input_;
     WriteAnswer answer_;
+    std::optional<Deleted> deleted_;
 };
 
 } // namespace kova::family

@@ -1,9 +1,8 @@
 #include "family/business/agenda.hpp"
 #include "family/business/day_record_set.hpp"
 #include "family/business/lent_record_sets.hpp"
+#include "family/business/selection_arguments.hpp"
 #include "family/data/iso_text.hpp"
-
-#include <algorithm>
 
 namespace kova::family {
 
@@ -11,8 +10,6 @@ namespace {
 
 /// Positions of the arguments of Selecionar.
 enum Position { Mode, PageRows, Status, SearchText, Day, ServiceType, Employee, Transport };
-
-constexpr Long PagedMode = 1;
 
 std::string IsoDay(const Value& day)
 {
@@ -36,20 +33,13 @@ DayFilter FilterOf(std::span<const Argument> arguments)
     return filter;
 }
 
-/// A whole selection is one page.
-Long RowsOfPage(std::span<const Argument> arguments, const RecordSet& selection)
-{
-    const bool paged = arguments[Mode].Get().ToLong() == PagedMode;
-    return std::max<Long>(1, paged ? arguments[PageRows].Get().ToLong() : selection.RecordCount());
-}
-
 } // namespace
 
 Value Agenda::Selecionar(std::span<Argument> arguments)
 {
     return Select("Selecionar", [&] {
-        auto selection = std::make_shared<DayRecordSet>(SelectDay(Data(), FilterOf(arguments)));
-        selection->PageSize(RowsOfPage(arguments, *selection));
+        auto selection = DayRecordSet(SelectDay(Data(), FilterOf(arguments)));
+        selection->PageSize(RowsOfPage(arguments, selection->RecordCount()));
         return selection;
     });
 }

@@ -5,11 +5,11 @@
 
 namespace kova::family {
 
-Database& BusinessComponent::Data()
+const std::shared_ptr<Database>& BusinessComponent::SharedData()
 {
     if (!database_)
         database_ = SharedDatabase(host_.DataSource());
-    return *database_;
+    return database_;
 }
 
 Value BusinessComponent::ResultadoDaSelecaoEmRecordSet() const { return result_ ? Value(result_) : Value(); }

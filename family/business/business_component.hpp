@@ -19,7 +19,9 @@ protected:
     ServerHost& Host() const { return host_; }
 
     /// The connection shared by the process, opened at the first use. Fails as OpenDatabase.
-    Database& Data();
+    Database& Data() { return *SharedData(); }
+    /// The same, for what goes on reading after the member has returned.
+    const std::shared_ptr<Database>& SharedData();
     /// Gives the component's share of the connection back; the next use takes it again.
     void LetGo() { database_.reset(); }
 

@@ -16,6 +16,13 @@ public:
         return rows;
     }
 
+    /// For a statement that also asks for the group of the rows.
+    std::vector<ComboRow> Run(long long group, long long key)
+    {
+        group_ = group;
+        return Run(key);
+    }
+
 protected:
     ComboSelection(Database& database, const char* statement)
         : statement_((database.Session().prepare << statement, soci::use(key_, "chave"),
@@ -23,8 +30,15 @@ protected:
     {
     }
 
+    struct OfGroup { };
+    ComboSelection(OfGroup, Database& database, const char* statement)
+        : statement_((database.Session().prepare << statement, soci::use(key_, "chave"),
+                      soci::use(group_, "grupo"), soci::into(row_.text), soci::into(row_.key)))
+    {
+    }
+
 private:
-    long long key_ = 0;
+    long long key_ = 0, group_ = 0;
     ComboRow row_;
     soci::statement statement_;
 };
@@ -49,9 +63,38 @@ struct EmployeesByName : ComboSelection {
     }
 };
 
-template <class Selection> std::vector<ComboRow> Run(Database& database, long long key)
+struct SpeciesByName : ComboSelection {
+    explicit SpeciesByName(Database& database)
+        : ComboSelection(database,
+                         "select nome, codigo from especie"
+                         " where situacao = 1 and (:chave = 0 or codigo = :chave)"
+                         " order by nome_de_busca, codigo")
+    {
+    }
+};
+
+struct BreedsByName : ComboSelection {
+    explicit BreedsByName(Database& database)
+        : ComboSelection(OfGroup(), database,
+                         "select nome, codigo from raca where codigo_da_especie = :grupo"
+                         " and situacao = 1 and (:chave = 0 or codigo = :chave)"
+                         " order by nome_de_busca, codigo")
+    {
+    }
+};
+
+struct AnimalsByName : ComboSelection {
+    explicit AnimalsByName(Database& database)
+        : ComboSelection(OfGroup(), database,
+                         "select nome, codigo from animal where codigo_do_cliente = :grupo"
+                         " and (:chave = 0 or situacao = :chave) order by nome_de_busca, codigo")
+    {
+    }
+};
+
+template <class Selection, class... Keys> std::vector<ComboRow> Run(Database& database, Keys... keys)
 {
-    return database.With<Selection>([&](Selection& selection) { return selection.Run(key); });
+    return database.With<Selection>([&](Selection& selection) { return selection.Run(keys...); });
 }
 
 } // namespace
@@ -64,6 +107,21 @@ std::vector<ComboRow> SelectServiceTypes(Database& database, long long key)
 std::vector<ComboRow> SelectEmployees(Database& database, long long key)
 {
     return Run<EmployeesByName>(database, key);
+}
+
+std::vector<ComboRow> SelectSpecies(Database& database, long long key)
+{
+    return Run<SpeciesByName>(database, key);
+}
+
+std::vector<ComboRow> SelectBreeds(Database& database, long long species, long long key)
+{
+    return Run<BreedsByName>(database, species, key);
+}
+
+std::vector<ComboRow> SelectAnimalsOfCustomer(Database& database, long long customer, int situation)
+{
+    return Run<AnimalsByName>(database, customer, situation);
 }
 
 RecordSetRef ComboRecordSet(const char* textField, const char* keyField, const std::vector<ComboRow>& rows)

@@ -1,5 +1,6 @@
 #include "family/business/day_record_set.hpp"
 
+#include "family/business/kept_record_set.hpp"
 #include "family/business/shown_values.hpp"
 #include "family/data/iso_text.hpp"
 
@@ -27,12 +28,7 @@ Value MomentOrNull(const Nullable<std::string_view>& moment)
     return moment.IsNull() ? Value(Null()) : Value(ShownMoment(moment.value));
 }
 
-struct Column {
-    const char* name;
-    Value (*read)(const DayRow& row);
-};
-
-constexpr Column Columns[] = {
+constexpr KeptField<DayRowOf> Fields[] = {
     {"NumeroDeLancamento", [](const DayRow& row) { return Code(row.numeroDeLancamento); }},
     {"DataInicial", [](const DayRow& row) { return Value(ShownDate(row.dataInicial)); }},
     {"HoraInicial", [](const DayRow& row) { return Value(row.horaInicial); }},
@@ -72,22 +68,11 @@ constexpr Column Columns[] = {
     {"UsuarioDaAlteracao", [](const DayRow& row) { return TextOrNull(row.alteradoPor); }},
 };
 
-std::vector<Text> Names()
-{
-    std::vector<Text> names;
-    names.reserve(std::size(Columns));
-    for (const Column& column : Columns)
-        names.emplace_back(column.name);
-    return names;
-}
-
 } // namespace
 
-DayRecordSet::DayRecordSet(DayRows day) : PagedRecordSet(Names()), day_(std::move(day)) { }
-
-Value DayRecordSet::CellAt(Long row, int field) const
+std::shared_ptr<PagedRecordSet> DayRecordSet(DayRows day)
 {
-    return Columns[field].read(day_.rows[static_cast<std::size_t>(row)]);
+    return std::make_shared<KeptRecordSet<DayRowOf>>(Fields, std::move(day));
 }
 
 } // namespace kova::family

@@ -24,4 +24,17 @@ std::string ShownSize(int size)
 
 std::string YesOrNo(bool yes) { return yes ? "Sim" : "Não"; }
 
+std::string ShownMoney(long long cents)
+{
+    const bool negative = cents < 0;
+    std::string digits = std::to_string(negative ? -cents : cents);
+    if (digits.size() < 3)
+        digits.insert(0, 3 - digits.size(), '0');
+    const std::size_t decimals = digits.size() - 2;
+    digits.insert(decimals, 1, ',');
+    for (std::size_t mark = decimals; mark > 3; mark -= 3)
+        digits.insert(mark - 3, 1, '.');
+    return negative ? "-" + digits : digits;
+}
+
 } // namespace kova::family

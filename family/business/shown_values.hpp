@@ -12,4 +12,7 @@ std::string ShownSize(int size);
 /// "Sim" or "Não".
 std::string YesOrNo(bool yes);
 
+/// An amount of cents as money: "45,00", "1.234,50", "-0,05".
+std::string ShownMoney(long long cents);
+
 } // namespace kova::family

@@ -1,8 +1,8 @@
 #include "family/business/status_change.hpp"
 
+#include "family/business/pre_sale_rules.hpp"
+#include "family/business/write_in_transaction.hpp"
 #include "family/data/appointment_status.hpp"
-#include "family/data/pre_sales.hpp"
-#include "family/data/write_transaction.hpp"
 
 #include <optional>
 
@@ -10,95 +10,70 @@ namespace kova::family {
 
 namespace {
 
-/// Service types below this one are clinical.
-constexpr Key FirstTypeThatSells = 4;
-
-WriteAnswer MakePreSale(Database& database, const AppointmentState& appointment, const Author& author)
-{
-    if (appointment.serviceType < FirstTypeThatSells)
-        return WriteAnswer::Refusal("Não é possível gerar pré-venda para serviços tipo clínico.");
-    if (appointment.customer.IsNull())
-        return WriteAnswer::Refusal("Não é possível gerar pré-venda para agendamento simplificado.");
-    CreatePreSale(database, appointment.number, appointment.priceInCents, author);
-    return {};
-}
-
-WriteAnswer UndoPreSale(Database& database, const AppointmentState& appointment, const Author& author)
-{
-    for (const PreSale& preSale : FindPreSales(database, appointment.number)) {
-        if (preSale.status == pre_sale_status::Billed)
-            return WriteAnswer::Refusal(
-                "Não é possível alterar a situação: a pré-venda deste agendamento já foi faturada.");
-        CancelPreSale(database, preSale, author);
-    }
-    return {};
-}
-
-WriteAnswer FollowWithPreSale(Database& database, const AppointmentState& appointment, int status,
-                              const Author& author)
-{
-    const bool had = appointment.status == appointment_status::PreSaleGenerated;
-    const bool has = status == appointment_status::PreSaleGenerated;
-    if (had == has)
-        return {};
-    return has ? MakePreSale(database, appointment, author) : UndoPreSale(database, appointment, author);
-}
-
 WriteAnswer Change(Database& database, const AppointmentState& appointment, int status, const Author& author)
 {
     WriteAnswer answer = FollowWithPreSale(database, appointment, status, author);
     if (answer.IsDone())
         WriteStatus(database, appointment, status, author);
-    answer.inPackage = !appointment.package.IsNull();
+    answer.package = appointment.package.ValueOr(0);
     return answer;
 }
 
-WriteAnswer ChangePackage(Database& database, const AppointmentState& member, int status,
-                          const Author& author)
+/// `package` 0 is none.
+WriteAnswer ChangePackage(Database& database, Key package, int status, const Author& author)
 {
-    if (member.package.IsNull())
+    if (package == 0)
         return WriteAnswer::Refusal("O agendamento não pertence a um pacote.");
     WriteAnswer answer;
-    answer.inPackage = true;
-    for (const AppointmentState& appointment : FindUnattendedOfPackage(database, member.package.value)) {
+    for (const AppointmentState& appointment : FindUnattendedOfPackage(database, package)) {
         if (appointment.status != status)
             answer = Change(database, appointment, status, author);
         if (!answer.IsDone())
             break;
     }
+    answer.package = package;
     return answer;
 }
 
-/// Finds the appointment and runs `change` with it, both under the lock of one transaction.
-template <class ChangeOf>
-WriteAnswer InTransaction(Database& database, Key number, int status, ChangeOf change)
+/// Runs `write` in a transaction where there is such a status.
+template <class Write> WriteAnswer WriteKnownStatus(Database& database, int status, Write write)
 {
-    if (status < appointment_status::Booked || status > appointment_status::PreSaleGenerated)
+    if (!appointment_status::IsKnown(status))
         return WriteAnswer::InvalidField("Situacao", "Selecione a situação.");
-    WriteTransaction transaction(database);
-    const std::optional<AppointmentState> appointment = FindAppointment(database, number);
-    if (!appointment)
-        return WriteAnswer::Refusal("O agendamento não existe mais.");
-    WriteAnswer answer = change(*appointment);
-    if (answer.IsDone())
-        transaction.Commit();
-    return answer;
+    return InTransaction(database, write);
+}
+
+/// Finds the appointment and runs `change` with it, both under the lock of one transaction.
+template <class ChangeOf> WriteAnswer WithStored(Database& database, Key number, int status, ChangeOf change)
+{
+    return WriteKnownStatus(database, status, [&]() -> WriteAnswer {
+        const std::optional<AppointmentState> appointment = FindAppointment(database, number);
+        if (!appointment)
+            return WriteAnswer::Refusal("O agendamento não existe mais.");
+        return change(*appointment);
+    });
 }
 
 } // namespace
 
 WriteAnswer ChangeStatus(Database& database, Key appointment, int status, const Author& author)
 {
-    return InTransaction(database, appointment, status, [&](const AppointmentState& stored) {
+    return WithStored(database, appointment, status, [&](const AppointmentState& stored) {
         return Change(database, stored, status, author);
     });
 }
 
 WriteAnswer ChangeStatusOfPackage(Database& database, Key appointment, int status, const Author& author)
 {
-    return InTransaction(database, appointment, status, [&](const AppointmentState& stored) {
-        return ChangePackage(database, stored, status, author);
+    return WithStored(database, appointment, status, [&](const AppointmentState& stored) {
+        return ChangePackage(database, stored.package.ValueOr(0), status, author);
     });
+}
+
+WriteAnswer ChangeStatusInPackage(Database& database, Key package, int status, const Author& author)
+{
+    return WriteKnownStatus(database, status,
+                            [&] { return ChangePackage(database, package, status, author); });
 }
 
 } // namespace kova::family

@@ -20,4 +20,7 @@ WriteAnswer ChangeStatus(Database& database, Key appointment, int status, const 
 /// that have it already are not touched. Refused as the change of one, and where there is no package.
 WriteAnswer ChangeStatusOfPackage(Database& database, Key appointment, int status, const Author& author);
 
+/// The same of a package whose key is known: it outlives an appointment of it that was deleted. 0 is none.
+WriteAnswer ChangeStatusInPackage(Database& database, Key package, int status, const Author& author);
+
 } // namespace kova::family

@@ -23,8 +23,9 @@ struct WriteAnswer {
     Text field;
     /// Why not, for the user.
     Text text;
-    /// Whether the appointment that was written belongs to a package.
-    bool inPackage = false;
+    /// Key of the package that the appointment belongs to, or belonged to before it was deleted; 0 where it
+    /// belongs to none.
+    long long package = 0;
 };
 
 } // namespace kova::family

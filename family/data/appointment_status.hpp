@@ -16,6 +16,8 @@ inline constexpr int Booked = 1;
 inline constexpr int Attended = 2;
 inline constexpr int Cancelled = 3;
 inline constexpr int PreSaleGenerated = 4;
+
+constexpr bool IsKnown(long long status) { return status >= Booked && status <= PreSaleGenerated; }
 } // namespace appointment_status
 
 /// What a change of its status needs of a stored appointment.

@@ -53,6 +53,11 @@ AuditValues& AuditValues::Add(std::string_view column, const Nullable<std::strin
     return AddWritten(column, value.IsNull() ? "null" : Quoted(value.value));
 }
 
+AuditValues& AuditValues::Add(std::string_view column, const Nullable<Key>& value)
+{
+    return AddWritten(column, value.IsNull() ? "null" : std::to_string(value.value));
+}
+
 AuditValues& AuditValues::AddWritten(std::string_view column, const std::string& written)
 {
     members_.append(members_.empty() ? "" : ",").append(Quoted(column)).append(":").append(written);
@@ -73,6 +78,14 @@ void AuditChange(Database& database, const Author& author, const char* table, Ke
     AuditRow row = RowOf(author, table, key, "alteracao");
     row.antes = before.Line();
     row.depois = after.Line();
+    Insert(database, row);
+}
+
+void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
+                  const AuditValues& before)
+{
+    AuditRow row = RowOf(author, table, key, "exclusao");
+    row.antes = before.Line();
     Insert(database, row);
 }
 

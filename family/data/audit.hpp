@@ -15,6 +15,7 @@ public:
     AuditValues& Add(std::string_view column, long long value);
     AuditValues& Add(std::string_view column, const std::string& value);
     AuditValues& Add(std::string_view column, const Nullable<std::string>& value);
+    AuditValues& Add(std::string_view column, const Nullable<Key>& value);
 
     std::string Line() const { return "{" + members_ + "}"; }
 
@@ -29,9 +30,9 @@ struct AuditRow {
     static constexpr const char* Table = "auditoria";
     std::string momento, usuario, tabela;
     Key chave = 0;
-    /// "inclusao" or "alteracao"
+    /// "inclusao", "alteracao" or "exclusao"
     std::string operacao;
-    /// The written columns only; `antes` is Null for a new row.
+    /// The written columns only; `antes` is Null for a new row, `depois` for one that is gone.
     Nullable<std::string> antes, depois;
 
     template <class Visit> void Columns(Visit visit)
@@ -46,10 +47,21 @@ struct AuditRow {
     }
 };
 
-/// Write a line for a new row, and for a changed one, in the transaction that is open.
+/// All columns of a row.
+template <class Row> AuditValues ValuesOf(Row row)
+{
+    AuditValues values;
+    row.Columns([&](const char* column, const auto& field) { values.Add(column, field); });
+    return values;
+}
+
+/// Write a line for a new row, for a changed one and for one that is gone, in the transaction that is
+/// open.
 void AuditInsertion(Database& database, const Author& author, const char* table, Key key,
                     const AuditValues& after);
 void AuditChange(Database& database, const Author& author, const char* table, Key key,
                  const AuditValues& before, const AuditValues& after);
+void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
+                  const AuditValues& before);
 
 } // namespace kova::family

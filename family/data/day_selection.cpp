@@ -1,9 +1,6 @@
 #include "family/data/day_selection.hpp"
 
-#include "agenda/contracts/text.hpp"
-#include "family/data/fold_text.hpp"
-
-#include <charconv>
+#include "family/data/search_text.hpp"
 
 namespace kova::family {
 
@@ -42,118 +39,45 @@ constexpr const char* Conditions =
 // The folded texts are compared where they lie, so that only the rows that are found are fetched. A
 // comparison with a Null parameter holds for no row.
 constexpr const char* TextCondition =
-    " and (c.texto_de_busca like :padrao escape '!' or n.nome_de_busca like :padrao escape '!'"
+    " and (c.nomes_de_busca like :padrao escape '!' or c.endereco_de_busca like :padrao escape '!'"
+    " or n.nome_de_busca like :padrao escape '!'"
     " or a.texto_de_busca like :padrao escape '!' or c.codigo = :codigo or n.codigo = :codigo"
     " or c.documento = :digitos or n.microchip = :digitos)";
 
 constexpr const char* Order = " order by a.data_inicial, a.hora_inicial, a.numero";
 
-/// The variables of the statement. Their texts keep their memory from row to row.
-using FetchedRow = DayRowOf<std::string>;
-
-void KeepMember(long long from, long long& to, TextArena&) { to = from; }
-void KeepMember(int from, int& to, TextArena&) { to = from; }
-void KeepMember(const std::string& from, std::string_view& to, TextArena& texts) { to = texts.Keep(from); }
-void KeepMember(const Nullable<long long>& from, Nullable<long long>& to, TextArena&) { to = from; }
-void KeepMember(const Nullable<std::string>& from, Nullable<std::string_view>& to, TextArena& texts)
-{
-    if (!from.IsNull())
-        to = texts.Keep(from.value);
-}
-
-template <std::size_t... At>
-void KeepMembers(FetchedRow& from, DayRow& to, TextArena& texts, std::index_sequence<At...>)
-{
-    auto source = from.Members();
-    auto target = to.Members();
-    (KeepMember(std::get<At>(source), std::get<At>(target), texts), ...);
-}
-
-void Keep(FetchedRow& fetched, DayRows& day)
-{
-    constexpr std::size_t members = std::tuple_size_v<decltype(fetched.Members())>;
-    KeepMembers(fetched, day.rows.emplace_back(), day.texts, std::make_index_sequence<members>());
-}
-
-/// The prepared selection with its variables.
-class DaySelection : public KeptStatement {
+class DaySelection : public RowSelection<DayRowOf> {
 public:
-    DayRows Run(const DayFilter& filter)
+    DayRows Run(const DayFilter& filter, const SearchText& text)
     {
         filter_ = filter;
-        Prepare(filter.text);
-        DayRows day;
-        day.rows.reserve(rowsOfFormerDay_);
-        statement_.execute();
-        while (statement_.fetch())
-            Keep(row_, day);
-        rowsOfFormerDay_ = day.rows.size();
-        return day;
+        text_ = text;
+        return Fetch();
     }
 
 protected:
-    DaySelection(Database& database, bool searchesText) : statement_(database.Session())
+    DaySelection(Database& database, bool searchesText) : RowSelection(database)
     {
-        statement_.alloc();
-        BindRow();
-        BindFilter();
+        Use(filter_.date, "data");
+        Use(filter_.status, "situacao");
+        Use(filter_.serviceType, "tipo");
+        Use(filter_.employee, "funcionario");
+        Use(filter_.transport, "transporte");
         if (searchesText)
-            BindText();
-        statement_.prepare(std::string(Columns) + Conditions + (searchesText ? TextCondition : "") + Order);
-        statement_.define_and_bind();
+            UseText();
+        Prepare(std::string(Columns) + Conditions + (searchesText ? TextCondition : "") + Order);
     }
 
 private:
-    template <class T> void Into(T& field) { statement_.exchange(soci::into(field)); }
-    template <class T> void Into(Nullable<T>& field)
+    void UseText()
     {
-        statement_.exchange(soci::into(field.value, field.state));
-    }
-
-    void BindRow()
-    {
-        std::apply([this](auto&... members) { (Into(members), ...); }, row_.Members());
-    }
-
-    void BindFilter()
-    {
-        statement_.exchange(soci::use(filter_.date, "data"));
-        statement_.exchange(soci::use(filter_.status, "situacao"));
-        statement_.exchange(soci::use(filter_.serviceType, "tipo"));
-        statement_.exchange(soci::use(filter_.employee, "funcionario"));
-        statement_.exchange(soci::use(filter_.transport, "transporte"));
-    }
-
-    void BindText()
-    {
-        statement_.exchange(soci::use(pattern_, "padrao"));
-        statement_.exchange(soci::use(code_.value, code_.state, "codigo"));
-        statement_.exchange(soci::use(digits_.value, digits_.state, "digitos"));
-    }
-
-    void Prepare(const std::string& text)
-    {
-        pattern_ = ContainsPattern(FoldText(text));
-        code_ = {};
-        digits_ = {};
-        const std::string digits = DigitsOf(text);
-        if (digits.empty())
-            return;
-        digits_ = digits;
-        long long code = 0;
-        const char* end = text.data() + text.size();
-        const auto [stop, error] = std::from_chars(text.data(), end, code);
-        if (error == std::errc() && stop == end)
-            code_ = code;
+        Use(text_.pattern, "padrao");
+        Use(text_.code, "codigo");
+        Use(text_.digits, "digitos");
     }
 
     DayFilter filter_;
-    std::string pattern_;
-    Nullable<long long> code_;
-    Nullable<std::string> digits_;
-    FetchedRow row_;
-    std::size_t rowsOfFormerDay_ = 0;
-    soci::statement statement_;
+    SearchText text_;
 };
 
 struct WholeDay : DaySelection {
@@ -167,10 +91,9 @@ struct SearchedDay : DaySelection {
 
 DayRows SelectDay(Database& database, const DayFilter& filter)
 {
-    DayFilter trimmed = filter;
-    trimmed.text = Trim(filter.text);
-    const auto run = [&](DaySelection& selection) { return selection.Run(trimmed); };
-    return trimmed.text.empty() ? database.With<WholeDay>(run) : database.With<SearchedDay>(run);
+    const SearchText text(filter.text);
+    const auto run = [&](DaySelection& selection) { return selection.Run(filter, text); };
+    return text.IsEmpty() ? database.With<WholeDay>(run) : database.With<SearchedDay>(run);
 }
 
 std::string DayStatement() { return std::string(Columns) + Conditions + Order; }

@@ -1,13 +1,6 @@
 #pragma once
 
-#include "family/data/database.hpp"
-#include "family/data/nullable.hpp"
-#include "family/data/text_arena.hpp"
-
-#include <string>
-#include <string_view>
-#include <tuple>
-#include <vector>
+#include "family/data/kept_rows.hpp"
 
 namespace kova::family {
 
@@ -55,11 +48,7 @@ template <class Text> struct DayRowOf {
 
 using DayRow = DayRowOf<std::string_view>;
 
-/// The rows of a day with the memory of their texts.
-struct DayRows {
-    std::vector<DayRow> rows;
-    TextArena texts;
-};
+using DayRows = KeptRows<DayRowOf>;
 
 /// All conditions apply together; 0 and an empty text are no condition.
 struct DayFilter {

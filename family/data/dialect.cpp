@@ -2,6 +2,34 @@
 
 namespace kova::family {
 
+namespace {
+
+std::string AddOne(const std::string& table)
+{
+    return "update contador_de_alteracoes set alteracoes = alteracoes + 1 where tabela = '" + table + "';";
+}
+
+std::vector<std::string> CountByTriggers(const std::string& table, const std::string& columns)
+{
+    const auto trigger = [&](const std::string& name, const std::string& event) {
+        return "create trigger " + table + "_" + name + "_contada after " + event + " on " + table + " begin "
+            + AddOne(table) + " end";
+    };
+    return {trigger("inclusao", "insert"), trigger("exclusao", "delete"),
+            trigger("alteracao", "update of " + columns)};
+}
+
+std::vector<std::string> CountByTriggerFunction(const std::string& table, const std::string& columns)
+{
+    const std::string function = "conta_alteracao_de_" + table;
+    return {"create function " + function + "() returns trigger language plpgsql as $$ begin " + AddOne(table)
+                + " return null; end $$",
+            "create trigger " + table + "_alteracao_contada after insert or delete or update of " + columns
+                + " on " + table + " for each statement execute function " + function + "()"};
+}
+
+} // namespace
+
 const Dialect& SqliteDialect()
 {
     static const Dialect dialect{
@@ -11,6 +39,8 @@ const Dialect& SqliteDialect()
         "text",
         // The lock is taken at once: a transaction that begins by reading could not wait for it later.
         "begin immediate",
+        "instr",
+        CountByTriggers,
         // The wait comes first: switching to the write-ahead log may itself have to wait.
         {"pragma busy_timeout = 5000", "pragma journal_mode = wal", "pragma synchronous = full",
          "pragma foreign_keys = on", "pragma cache_size = -16000"},
@@ -26,6 +56,8 @@ const Dialect& PostgresqlDialect()
         "bigint",
         "text collate \"C\"",
         "begin isolation level serializable",
+        "strpos",
+        CountByTriggerFunction,
         {},
     };
     return dialect;

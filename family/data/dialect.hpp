@@ -17,6 +17,11 @@ struct Dialect {
     /// Begins a transaction that writes. What it reads cannot be changed by another connection before it
     /// ends: that one waits, or fails.
     std::string beginOfWrite;
+    /// The function that tells at which character a text holds another, from 1.
+    std::string position;
+    /// The statements that make the engine add one to the row of contador_de_alteracoes that bears the
+    /// table's name, whenever a row comes or goes or one of these columns is written.
+    std::vector<std::string> (*countChanges)(const std::string& table, const std::string& columns);
     /// Run on every connection before anything else.
     std::vector<std::string> settings;
 };

@@ -1,5 +1,6 @@
 #include "family/data/iso_text.hpp"
 
+#include <charconv>
 #include <cstdio>
 
 namespace kova::family {
@@ -17,6 +18,24 @@ std::string IsoMoment(DateTime moment)
     std::snprintf(time, sizeof time, " %02d:%02d:%02d", moment.time.hour, moment.time.minute,
                   moment.time.second);
     return IsoDate(moment.date) + time;
+}
+
+namespace {
+
+int NumberAt(std::string_view text, std::size_t at, std::size_t digits)
+{
+    int number = 0;
+    if (at + digits <= text.size())
+        std::from_chars(text.data() + at, text.data() + at + digits, number);
+    return number;
+}
+
+} // namespace
+
+DateTime ReadIsoMoment(std::string_view isoDate, std::string_view time)
+{
+    return {{NumberAt(isoDate, 0, 4), NumberAt(isoDate, 5, 2), NumberAt(isoDate, 8, 2)},
+            {NumberAt(time, 0, 2), NumberAt(time, 3, 2), 0}};
 }
 
 std::string ShownDate(std::string_view isoDate)

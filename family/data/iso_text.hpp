@@ -12,6 +12,9 @@ namespace kova::family {
 std::string IsoDate(Date date);
 std::string IsoMoment(DateTime moment);
 
+/// A kept date with a time "hh:mm", as they were written.
+DateTime ReadIsoMoment(std::string_view isoDate, std::string_view time);
+
 /// "dd/mm/yyyy" of a kept date, "dd/mm/yyyy hh:mm:ss" of a kept moment.
 std::string ShownDate(std::string_view isoDate);
 std::string ShownMoment(std::string_view isoMoment);

@@ -15,6 +15,8 @@ template <class T> struct Nullable {
     Nullable(T given) : value(std::move(given)), state(soci::i_ok) { }
 
     bool IsNull() const { return state == soci::i_null; }
+    /// While it is Null, `value` is what stood there before.
+    T ValueOr(T other) const { return IsNull() ? other : value; }
 };
 
 } // namespace kova::family

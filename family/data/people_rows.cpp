@@ -43,7 +43,8 @@ void CustomerRow::Compose(const std::vector<ChannelRow>& channels)
     tiposECanais = ComposeChannels(channels);
     nomeDeBusca = FoldText(nome);
     // A line break keeps a search from finding a text that runs over two fields.
-    textoDeBusca = FoldText(apelido) + "\n" + nomeDeBusca + "\n" + FoldText(enderecoCompletoComCEP);
+    nomesDeBusca = FoldText(apelido) + "\n" + nomeDeBusca;
+    enderecoDeBusca = FoldText(enderecoCompletoComCEP);
 }
 
 } // namespace kova::family

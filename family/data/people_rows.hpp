@@ -30,10 +30,12 @@ struct CustomerRow {
     std::string categoriaDaCurvaABC, logradouro, numero, complemento, bairro, cidade, uf;
     /// Digits only.
     std::string cep;
-    /// Composed by Compose.
-    std::string enderecoCompleto, enderecoCompletoComCEP, tiposECanais, nomeDeBusca, textoDeBusca;
+    /// Composed by Compose. The last three are folded texts: the name; nickname and name with a line break
+    /// between them; the address with its postal code.
+    std::string enderecoCompleto, enderecoCompletoComCEP, tiposECanais;
+    std::string nomeDeBusca, nomesDeBusca, enderecoDeBusca;
 
-    /// Fills the columns that follow from the others. Call it before every write.
+    /// Fills the columns that follow from the others. WriteCustomer does it.
     void Compose(const std::vector<ChannelRow>& channels);
 
     template <class Visit> void Columns(Visit visit)
@@ -57,7 +59,8 @@ struct CustomerRow {
         visit("endereco_completo_com_cep", enderecoCompletoComCEP);
         visit("tipos_e_canais", tiposECanais);
         visit("nome_de_busca", nomeDeBusca);
-        visit("texto_de_busca", textoDeBusca);
+        visit("nomes_de_busca", nomesDeBusca);
+        visit("endereco_de_busca", enderecoDeBusca);
     }
 };
 

@@ -98,12 +98,14 @@ struct SpeciesRow {
     static constexpr const char* Table = "especie";
     Key codigo = 0;
     std::string nome, nomeDeBusca;
+    int situacao = 1;
 
     template <class Visit> void Columns(Visit visit)
     {
         visit("codigo", codigo);
         visit("nome", nome);
         visit("nome_de_busca", nomeDeBusca);
+        visit("situacao", situacao);
     }
 };
 
@@ -111,6 +113,7 @@ struct BreedRow {
     static constexpr const char* Table = "raca";
     Key codigo = 0, codigoDaEspecie = 0;
     std::string nome, nomeDeBusca;
+    int situacao = 1;
 
     template <class Visit> void Columns(Visit visit)
     {
@@ -118,6 +121,7 @@ struct BreedRow {
         visit("codigo_da_especie", codigoDaEspecie);
         visit("nome", nome);
         visit("nome_de_busca", nomeDeBusca);
+        visit("situacao", situacao);
     }
 };
 

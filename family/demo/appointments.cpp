@@ -128,7 +128,7 @@ private:
         const ShopCustomer* customer = nullptr;
         do
             customer = &random_.Pick(std::span<const ShopCustomer>(customers_));
-        while (customer->situation != 1 && date_ >= plan_.today);
+        while (!customer->HasAnimals() || (customer->situation != 1 && date_ >= plan_.today));
         row.codigoDoCliente = customer->code;
         const int animals = static_cast<int>(customer->lastAnimal - customer->firstAnimal);
         row.codigoDoAnimal = customer->firstAnimal + random_.Between(0, animals);

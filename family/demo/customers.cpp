@@ -1,5 +1,6 @@
 #include "family/demo/customers.hpp"
 
+#include "family/data/customer_store.hpp"
 #include "family/data/fold_text.hpp"
 #include "family/data/insert_row.hpp"
 #include "family/demo/documents.hpp"
@@ -32,24 +33,32 @@ public:
     ShopCustomer Write(Key code)
     {
         CustomerRow customer = MakePersonOrCompany(code);
-        customer.situacao = Situation();
+        customer.situacao = Situation(code);
         customer.vip = random_.Chance(8) ? 1 : 0;
         customer.categoriaDaCurvaABC.assign(1, random_.Chance(20) ? 'A' : random_.Chance(40) ? 'B' : 'C');
         GiveAddress(customer);
         const std::vector<ChannelRow> channels = MakeChannels(customer);
-        customer.Compose(channels);
-        Insert(database_, customer);
-        for (const ChannelRow& channel : channels)
-            Insert(database_, channel);
+        WriteCustomer(database_, customer, channels);
         return WriteAnimals(customer);
     }
 
 private:
-    int Situation()
+    int Situation(Key code)
     {
         const int draw = random_.Below(100);
-        return draw < 94 ? 1 : draw < 97 ? 2 : draw < 99 ? 3 : 4;
+        return CanAlwaysBook(code) || draw < 94 ? 1 : draw < 97 ? 2 : draw < 99 ? 3 : 4;
     }
+
+    int CountOfAnimals(Key code)
+    {
+        const int draw = random_.Below(100);
+        if (draw < 4)
+            return CanAlwaysBook(code) ? 1 : 0;
+        return draw < 68 ? 1 : draw < 93 ? 2 : 3;
+    }
+
+    /// However few customers there are, one can book.
+    static bool CanAlwaysBook(Key code) { return code == 1; }
 
     CustomerRow MakePersonOrCompany(Key code)
     {
@@ -103,11 +112,10 @@ private:
     ShopCustomer WriteAnimals(const CustomerRow& customer)
     {
         ShopCustomer known{customer.codigo, customer.situacao, lastAnimal_ + 1, 0};
-        const int draw = random_.Below(100);
-        for (int left = draw < 68 ? 1 : draw < 93 ? 2 : 3; left > 0; --left)
+        for (int left = CountOfAnimals(customer.codigo); left > 0; --left)
             Insert(database_, MakeAnimal(customer.codigo, 1));
         known.lastAnimal = lastAnimal_;
-        if (random_.Chance(6))
+        if (known.HasAnimals() && random_.Chance(6))
             Insert(database_, MakeAnimal(customer.codigo, 2));
         return known;
     }

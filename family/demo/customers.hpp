@@ -11,8 +11,10 @@ namespace kova::family {
 struct ShopCustomer {
     Key code = 0;
     int situation = 1;
-    /// Codes of the animals, first to last; none of them inactive.
+    /// Codes of the animals, first to last; none of them inactive. Without one the last is below the first.
     Key firstAnimal = 0, lastAnimal = 0;
+
+    bool HasAnimals() const { return firstAnimal <= lastAnimal; }
 };
 
 /// Writes that many fictional customers with their channels and animals.

@@ -57,6 +57,7 @@ constexpr Employee Employees[] = {
     {"Neto", "Antônio Galvão Neto", Trade::Trainer},
     {"Lurdes", "Maria de Lurdes Queirós", Trade::Groomer},
     {"Dra. Íris", "Íris Menezes Brandão", Trade::Veterinarian},
+    {"Leva e traz", "Equipe de transporte", Trade::Trainer, 0},
     {"Paulão", "Paulo Roberto Ximenes", Trade::Groomer, 1, 2},
 };
 
@@ -74,6 +75,7 @@ const std::vector<Breeds>& AllBreeds()
         {"Felina", {"Sem raça definida", "Angorá", "Maine Coon", "Persa", "Siamês", "Sphynx"}},
         {"Ave", {"Calopsita", "Canário", "Periquito-australiano"}},
         {"Roedor", {"Coelho", "Hamster", "Porquinho-da-índia"}},
+        {"Réptil", {}},
     };
     return breeds;
 }

@@ -2,7 +2,7 @@
 
 #include "family/data/data_source.hpp"
 #include "family/data/insert_row.hpp"
-#include "family/demo/holidays.hpp"
+#include "family/data/national_holidays.hpp"
 
 #include <algorithm>
 
@@ -14,13 +14,24 @@ constexpr std::uint64_t Seed = 20081;
 constexpr int DaysAround = 60;
 constexpr int MeasuredDays = 2500;
 
+/// What the state and the town add to the national holidays.
+void WriteHolidays(Database& database)
+{
+    std::vector<HolidayRow> holidays = NationalHolidays(FirstHolidayYear, LastHolidayYear);
+    holidays.push_back({0, "Revolução Constitucionalista", 9, 7, {}});
+    holidays.push_back({0, "Aniversário de Vale Sereno", 19, 8, {}});
+    Key code = 0;
+    for (HolidayRow& holiday : holidays) {
+        holiday.codigo = ++code;
+        Insert(database, holiday);
+    }
+}
+
 void Fill(Database& database, const ShopPlan& plan)
 {
     Random random(Seed);
     const ShopRegisters registers = WriteRegisters(database, plan.employees, random);
-    const int year = plan.appointments.today.year;
-    for (const HolidayRow& holiday : NationalHolidays(year - 1, year + 2))
-        Insert(database, holiday);
+    WriteHolidays(database);
     const std::vector<ShopCustomer> customers = WriteCustomers(database, registers, plan.customers, random);
     WriteAppointments(database, registers, customers, plan.appointments, random);
 }
@@ -41,7 +52,7 @@ ShopPlan MeasuringPlan(Date date, int customers, long long appointments)
     const int perDay = static_cast<int>(std::max<long long>(40, appointments / MeasuredDays));
     const Long days = static_cast<Long>(appointments / perDay) + 1;
     ShopPlan plan;
-    plan.employees = std::max(9, perDay / 6);
+    plan.employees = std::max(ShopPlan().employees, perDay / 6);
     plan.customers = customers;
     plan.appointments = {date, AddDays(date, -days / 2), 0, appointments, perDay};
     return plan;

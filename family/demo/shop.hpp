@@ -8,7 +8,7 @@ namespace kova::family {
 
 /// A fictional shop: the same plan always gives the same content.
 struct ShopPlan {
-    int employees = 9;
+    int employees = 10;
     int customers = 400;
     AppointmentPlan appointments;
 };

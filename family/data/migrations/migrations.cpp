@@ -6,6 +6,8 @@ namespace {
 
 constexpr Migration Steps[] = {
     {1, SchemaOfVersion1},
+    {2, SchemaOfVersion2},
+    {3, SchemaOfVersion3},
 };
 
 void Run(soci::session& session, const Dialect& dialect, const Migration& migration)

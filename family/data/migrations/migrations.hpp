@@ -32,5 +32,7 @@ int StoredVersion(soci::session& session);
 void Migrate(soci::session& session, const Dialect& dialect, Migrations migrations);
 
 std::vector<std::string> SchemaOfVersion1(const Dialect& dialect);
+std::vector<std::string> SchemaOfVersion2(const Dialect& dialect);
+std::vector<std::string> SchemaOfVersion3(const Dialect& dialect);
 
 } // namespace kova::family

@@ -4,7 +4,9 @@ namespace kova::conformance {
 
 namespace {
 
-constexpr const char* Classes[] = {AgendaClass, TypesClass, EmployeesClass, CompanyClass, SystemClass};
+constexpr const char* Classes[] = {AgendaClass,    TypesClass,   EmployeesClass, CompanyClass,
+                                   SystemClass,    SpeciesClass, BreedsClass,    ServicesClass,
+                                   CustomersClass, AnimalsClass, HolidaysClass};
 
 } // namespace
 
@@ -96,6 +98,17 @@ TEST_P(CheckedNames, RefuseAWrongCountOfArgumentsWith450)
     EXPECT_EQ(failure(TypesClass, "SelecionarParaComboBox", {}), 450);
     EXPECT_EQ(failure(EmployeesClass, "SelecionarParaComboBox", {Double(0), Double(0)}), 450);
     EXPECT_EQ(failure(CompanyClass, "SelecionarNova", {Long(2)}), 450);
+    EXPECT_EQ(failure(SpeciesClass, "SelecionarParaComboBox", {}), 450);
+    EXPECT_EQ(failure(BreedsClass, "SelecionarParaComboBox", {Double(1)}), 450);
+    const Argument zero = Long(0), two = Long(2), none = "";
+    EXPECT_EQ(failure(ServicesClass, "Selecionar", {two, zero, zero, none}), 450);
+    EXPECT_EQ(failure(ServicesClass, "Selecionar", {two, zero, zero, none, zero, none, zero, zero}), 450);
+    EXPECT_EQ(
+        failure(CustomersClass, "Selecionar", {two, zero, zero, none, none, zero, none, none, none, zero}),
+        450);
+    EXPECT_EQ(failure(AnimalsClass, "Selecionar", {two, zero, zero, none, zero}), 450);
+    EXPECT_EQ(failure(AnimalsClass, "SelecionarParaComboBoxFiltradoPorCliente", {Double(10)}), 450);
+    EXPECT_EQ(failure(HolidaysClass, "Selecionar", {two, zero, zero}), 450);
     EXPECT_EQ(failure(SystemClass, "ObterversaoDoSO", {Long(1)}), 450);
     EXPECT_EQ(failure(AgendaClass, "NumeroDoErro", {Long(1)}), 450);
 }
@@ -110,7 +123,8 @@ TEST_P(CheckedNames, LeaveTheResultOfASelectionAloneWhenACallIsRefused)
 
 TEST_P(CheckedNames, RefuseAWriteOfWhatCanOnlyBeReadWith450)
 {
-    for (const char* name : {AgendaClass, TypesClass, EmployeesClass, CompanyClass})
+    for (const char* name : {AgendaClass, TypesClass, EmployeesClass, CompanyClass, SpeciesClass, BreedsClass,
+                             ServicesClass, CustomersClass, AnimalsClass, HolidaysClass})
         for (const char* member :
              {"NumeroDoErro", "DescricaoDoErro", "LocalDoErro", "ResultadoDaSelecaoEmRecordSet"})
             EXPECT_EQ(NumberOfFailure([&] { Create(name)->Set(member, Long(1)); }), 450) << name << member;
@@ -118,9 +132,11 @@ TEST_P(CheckedNames, RefuseAWriteOfWhatCanOnlyBeReadWith450)
 
 TEST_P(CheckedNames, RefuseAUserThatIsNoObject)
 {
-    const ComponentRef agenda = Create(AgendaClass);
-    EXPECT_EQ(NumberOfFailure([&] { agenda->Set("DadosDoUsuario", "Carla"); }), 13);
-    EXPECT_EQ(NumberOfFailure([&] { agenda->Get("DadosDoUsuario"); }), 438);
+    for (const char* name : {AgendaClass, CustomersClass, HolidaysClass}) {
+        const ComponentRef object = Create(name);
+        EXPECT_EQ(NumberOfFailure([&] { object->Set("DadosDoUsuario", "Carla"); }), 13) << name;
+        EXPECT_EQ(NumberOfFailure([&] { object->Get("DadosDoUsuario"); }), 438) << name;
+    }
 }
 
 /// Engines that stand in for every class and take every member.

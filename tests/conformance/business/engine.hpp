@@ -21,6 +21,10 @@ public:
     /// looks for itself.
     virtual void NextCallFinds(const std::string& /*member*/, const Rows& /*rows*/) { }
 
+    /// The next call of that member has to be refused with this status and this text for the user. An
+    /// engine that holds the shop looks for itself.
+    virtual void NextCallRefuses(const std::string& /*member*/, Integer /*status*/, const Text& /*text*/) { }
+
     /// From now on every selection fails for a technical reason, until MendData.
     virtual void BreakData() = 0;
     virtual void MendData() = 0;
@@ -43,6 +47,8 @@ struct EngineKind {
     bool keepsFormerResult = true;
     /// Its code lies in a library that is loaded and unloaded.
     bool livesInALibrary = true;
+    /// Stores what is written, so that the next selection finds it.
+    bool storesWrites = true;
 };
 
 /// Every engine there is. A new one is added here and in a file of its own.

@@ -13,7 +13,8 @@ const std::vector<EngineKind>& Engines()
          .make = MakeScriptedEngine,
          .checksNames = false,
          .keepsFormerResult = false,
-         .livesInALibrary = false},
+         .livesInALibrary = false,
+         .storesWrites = false},
         {.name = "Sqlite", .make = MakeSqliteEngine},
     };
     return engines;

@@ -31,6 +31,26 @@ private:
     test::TemporaryFolder folder_;
 };
 
+/// The moment of every write.
+class DeskPlatform : public test::FolderPlatform, private kova::Clock {
+public:
+    kova::Clock& Clock() override { return *this; }
+
+private:
+    DateTime Now() const override { return RequireDateTime(MomentOfWrites); }
+    Double Timer() const override { return 0; }
+};
+
+/// A platform whose clock stands.
+class ClockedPlatform : public test::FolderPlatform, private kova::Clock {
+public:
+    kova::Clock& Clock() override { return *this; }
+
+private:
+    DateTime Now() const override { return {{2026, 11, 20}, {9, 0, 0}}; }
+    Double Timer() const override { return 0; }
+};
+
 class FamilyEngine : public Engine {
 public:
     explicit FamilyEngine(std::unique_ptr<ShopStore> store) : store_(std::move(store))
@@ -57,13 +77,14 @@ private:
     void Rename(const std::string& oldEnding, const std::string& newEnding)
     {
         const auto database = store_->Connect();
-        for (const std::string table : {"funcionario", "tipo_de_servico", "empresa"})
+        for (const std::string table : {"funcionario", "tipo_de_servico", "empresa", "especie", "raca",
+                                        "servico", "cliente", "animal", "feriado"})
             database->Session() << "alter table " + table + oldEnding + " rename to " + table + newEnding;
     }
 
     std::unique_ptr<ShopStore> store_;
     test::TemporaryFolder folder_;
-    test::FolderPlatform platform_;
+    DeskPlatform platform_;
     host::Registry registry_{folder_.File("registro.txt")};
     host::RegistryServerHost server_{registry_, platform_, store_->DataSource()};
     host::RegisteredComponents components_{registry_, server_.Libraries()};

@@ -96,11 +96,11 @@ TEST_P(LibraryLifetime, LastsWhileARecordSetLives)
 
 TEST_P(LibraryLifetime, LastsWhileARecordSetOfEveryOtherClassLives)
 {
-    for (const char* name : {TypesClass, EmployeesClass, CompanyClass}) {
+    for (const auto& [name, rows] : AllRegisters()) {
         RecordSetRef records;
         {
             const ComponentRef object = Create(name);
-            Fill(name, *object, {});
+            Fill(name, *object, rows);
             records = ResultOf(*object);
         }
         EXPECT_FALSE(TheEngine().Unload()) << name;

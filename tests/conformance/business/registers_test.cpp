@@ -30,6 +30,22 @@ TEST_P(Registers, OfTheCompanyGiveItsTradeName)
     ExpectSame(Found(CompanyClass, CompanyRows()), {{"NomeFantasia"}, {{"Pet Shop Amigo Fiel"}}});
 }
 
+TEST_P(Registers, GiveTheirRowsWithTheirTypesInTheirOrder)
+{
+    for (const auto& [name, rows] : AllRegisters()) {
+        SCOPED_TRACE(name);
+        ExpectSame(Found(name, rows), rows);
+    }
+}
+
+TEST_P(Registers, HaveAValueInEveryColumnOfEveryRow)
+{
+    for (const auto& [name, rows] : AllRegisters())
+        for (const auto& row : Found(name, rows).rows)
+            for (const Value& value : row)
+                EXPECT_FALSE(value.IsNull() || value.IsEmpty()) << name;
+}
+
 TEST_P(Registers, AnswerTheSameAgainOnOneObject)
 {
     const ComponentRef types = Create(TypesClass);

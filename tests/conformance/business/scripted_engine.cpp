@@ -23,6 +23,11 @@ public:
                                     {"LocalDoErro", member}}});
     }
 
+    void NextCallRefuses(const std::string& member, Integer status, const Text& text) override
+    {
+        script_.Answer(member, {.result = status, .members = {{"DescricaoDaFalha", text}}});
+    }
+
     void BreakData() override { broken_ = true; }
     void MendData() override { broken_ = false; }
 

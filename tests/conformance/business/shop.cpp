@@ -58,8 +58,8 @@ const std::vector<Customer>& Customers()
 const std::vector<Service>& Services()
 {
     static const std::vector<Service> services = {
-        {1, 1, 1, "Consulta clínica", "Consulta", 30, "00:30"},
-        {2, 4, 2, "Banho", "Banho e tosa", 75, "01:15"},
+        {1, 1, 1, "Consulta clínica", "Consulta", 30, "00:30", 120000, "1.200,00"},
+        {2, 4, 2, "Banho", "Banho e tosa", 75, "01:15", 4500, "45,00"},
     };
     return services;
 }
@@ -218,5 +218,80 @@ Rows TypeRows() { return {{"Nome", "Numero"}, {{"Banho e tosa", Long(4)}, {"Cons
 Rows EmployeeRows() { return {{"Apelido", "Codigo"}, {{"Bia", Long(2)}, {"Zeca", Long(1)}}}; }
 
 Rows CompanyRows() { return {{"NomeFantasia"}, {{TradeName}}}; }
+
+Rows SpeciesRows() { return {{"Nome", "Codigo"}, {{SpeciesName, Long(1)}}}; }
+
+Rows BreedRows() { return {{"Nome", "Codigo"}, {{"Fila", Long(2)}, {"Poodle", Long(1)}}}; }
+
+Rows ServiceRows(const std::vector<int>& codes)
+{
+    Rows found{
+        {"Codigo", "Nome", "Descricao", "ValorDeVenda", "Custo", "NumeroDoTipoDeServico", "TempoDeExecucao"},
+        {}};
+    for (const int code : codes) {
+        const Service& service = Services()[static_cast<std::size_t>(code - 1)];
+        found.rows.push_back(
+            {Double(service.code), service.name, "", service.price, "0,00", service.type, service.duration});
+    }
+    return found;
+}
+
+namespace {
+
+/// The address as the lookups show it, without the postal code.
+Text ShortAddress(const Customer& customer)
+{
+    const Text address = customer.address;
+    return address.substr(0, address.find(" - CEP"));
+}
+
+const Customer& CustomerWith(Long Customer::*key, int code)
+{
+    return *std::find_if(Customers().begin(), Customers().end(),
+                         [&](const Customer& customer) { return customer.*key == code; });
+}
+
+} // namespace
+
+Rows CustomerRows(const std::vector<int>& codes)
+{
+    Rows found{{"CodigoDoCliente", "ApelidoOuNomeFantasia", "NomeOuRazaoSocial", "Situacao",
+                "EnderecoCompleto", "TiposECanaisDeComunicacao", "VIP", "CategoriaDaCurvaABC"},
+               {}};
+    for (const int code : codes) {
+        const Customer& customer = CustomerWith(&Customer::code, code);
+        found.rows.push_back({Double(code), customer.nickname, customer.name, Long(1), ShortAddress(customer),
+                              customer.channels, "Não", "A"});
+    }
+    return found;
+}
+
+Rows AnimalRows(const std::vector<int>& codes)
+{
+    Rows found{{"Codigo", "Nome", "Sexo", "CodigoDaEspecie", "NomeDaEspecie", "CodigoDaRaca", "NomeDaRaca",
+                "Cor", "CodigoDoCliente", "ApelidoOuNomeFantasia", "NomeOuRazaoSocial", "SituacaoDoCliente",
+                "Situacao", "EnderecoCompleto", "TiposECanaisDeComunicacao", "VIP", "CategoriaDaCurvaABC"},
+               {}};
+    for (const int code : codes) {
+        const Customer& owner = CustomerWith(&Customer::animal, code);
+        found.rows.push_back({owner.animal, owner.animalName, owner.shownSex, Long(1), SpeciesName,
+                              owner.breed, owner.breedName, owner.colour, Double(owner.code), owner.nickname,
+                              owner.name, Long(1), Long(1), ShortAddress(owner), owner.channels, "Não", "A"});
+    }
+    return found;
+}
+
+Rows AnimalComboRows(const std::vector<int>& codes)
+{
+    Rows found{{"Nome", "Codigo"}, {}};
+    for (const int code : codes)
+        found.rows.push_back({CustomerWith(&Customer::animal, code).animalName, Long(code)});
+    return found;
+}
+
+Rows HolidayRows()
+{
+    return {{"Codigo", "Nome", "Data"}, {{YearlyHoliday::Code, YearlyHoliday::Name, YearlyHoliday::Day}}};
+}
 
 } // namespace kova::conformance

@@ -11,6 +11,12 @@ inline constexpr const char* AgendaClass = "KOVA_N_Agenda.clsAgenda";
 inline constexpr const char* TypesClass = "KOVA_N_TipoDeServ.clsTiposDeServ";
 inline constexpr const char* EmployeesClass = "KOVA_N_Funcionarios.clsFuncionarios";
 inline constexpr const char* CompanyClass = "KOVA_N_Empresa.clsEmpresa";
+inline constexpr const char* SpeciesClass = "KOVA_N_EspecRacas.clsEspecies";
+inline constexpr const char* BreedsClass = "KOVA_N_EspecRacas.clsRacas";
+inline constexpr const char* ServicesClass = "KOVA_N_Servicos.clsServicos";
+inline constexpr const char* CustomersClass = "KOVA_N_ClientAnim.clsClientes";
+inline constexpr const char* AnimalsClass = "KOVA_N_ClientAnim.clsAnimais";
+inline constexpr const char* HolidaysClass = "KOVA_N_Feriados.clsFeriados";
 inline constexpr const char* SystemClass = "KOVA_N_SO.clsObterVersaoDoSO";
 
 /// The day with appointments 5, 1, 2, 3, 4, 6, 7 in the order of their start; a day with number 8 alone;
@@ -47,6 +53,8 @@ struct Service {
     const char *name, *typeName;
     int minutes;
     const char* duration;
+    int cents;
+    const char* price;
 };
 
 struct Employee {
@@ -76,8 +84,25 @@ struct WalkIn {
     static constexpr const char* Colour = "Creme";
 };
 
+/// The moment at which everything is written that a test writes.
+inline constexpr const char* MomentOfWrites = "18/11/2026 10:11:12";
+
 inline constexpr const char* TradeName = "Pet Shop Amigo Fiel";
 inline constexpr const char* SpeciesName = "Canina";
+
+/// A customer's second animal, which is no longer active.
+struct FormerAnimal {
+    static constexpr Long Code = 52;
+    static constexpr Long Owner = 10;
+    static constexpr const char* Name = "Amora";
+};
+
+/// A holiday of every year.
+struct YearlyHoliday {
+    static constexpr Long Code = 1;
+    static constexpr const char* Name = "Natal";
+    static constexpr const char* Day = "25/12";
+};
 
 const std::vector<Customer>& Customers();
 const std::vector<Service>& Services();
@@ -90,5 +115,14 @@ Rows AppointmentRows(const std::vector<int>& numbers);
 Rows TypeRows();
 Rows EmployeeRows();
 Rows CompanyRows();
+/// The species; the breeds of that species; the services, the customers and the animals
+/// of these codes in this order; the holiday.
+Rows SpeciesRows();
+Rows BreedRows();
+Rows ServiceRows(const std::vector<int>& codes);
+Rows CustomerRows(const std::vector<int>& codes);
+Rows AnimalRows(const std::vector<int>& codes);
+Rows AnimalComboRows(const std::vector<int>& codes);
+Rows HolidayRows();
 
 } // namespace kova::conformance

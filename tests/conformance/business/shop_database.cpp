@@ -1,6 +1,7 @@
 #include "tests/conformance/business/shop_database.hpp"
 
 #include "family/data/appointment_rows.hpp"
+#include "family/data/customer_store.hpp"
 #include "family/data/fold_text.hpp"
 #include "family/data/insert_row.hpp"
 #include "family/data/iso_text.hpp"
@@ -27,6 +28,7 @@ void WriteService(Database& database, const Service& service)
     row.nomeDeBusca = FoldText(service.name);
     row.numeroDoTipo = service.type;
     row.duracaoEmMinutos = service.minutes;
+    row.precoEmCentavos = service.cents;
     Insert(database, row);
 }
 
@@ -50,8 +52,7 @@ void WriteCustomer(Database& database, const Customer& customer)
     row.cidade = customer.town;
     row.uf = customer.state;
     row.cep = customer.postalCode;
-    row.Compose({{customer.code, customer.code, "Celular", customer.phone}});
-    Insert(database, row);
+    WriteCustomer(database, row, {{customer.code, customer.code, "Celular", customer.phone}});
 }
 
 void WriteAnimal(Database& database, const Customer& owner)
@@ -129,6 +130,19 @@ void WriteShop(Database& database)
         WriteCustomer(database, customer);
         WriteAnimal(database, customer);
     }
+    Insert(database,
+           AnimalRow{FormerAnimal::Code,
+                     FormerAnimal::Owner,
+                     FormerAnimal::Name,
+                     "F",
+                     1,
+                     1,
+                     "Branco",
+                     {},
+                     {},
+                     2,
+                     FoldText(FormerAnimal::Name)});
+    Insert(database, HolidayRow{YearlyHoliday::Code, YearlyHoliday::Name, 25, 12, {}});
     for (const Appointment& appointment : Appointments())
         WriteAppointment(database, appointment);
 }

@@ -1,5 +1,7 @@
 #include "tests/conformance/business/suite.hpp"
 
+#include <algorithm>
+
 namespace kova::conformance {
 
 class Status : public BusinessTest {
@@ -9,18 +11,17 @@ protected:
     {
         if (className == AgendaClass)
             return Select(object, {}, WholeDay());
-        const bool types = className == TypesClass;
-        return Fill(className, object,
-                    className == CompanyClass ? CompanyRows()
-                        : types               ? TypeRows()
-                                              : EmployeeRows());
+        const auto found = std::find_if(AllRegisters().begin(), AllRegisters().end(),
+                                        [&](const Register& entry) { return entry.className == className; });
+        return Fill(className, object, found->rows);
     }
 };
 KOVA_OVER_EVERY_ENGINE(Status);
 
 namespace {
 
-constexpr const char* Selecting[] = {AgendaClass, TypesClass, EmployeesClass, CompanyClass};
+constexpr const char* Selecting[] = {AgendaClass, TypesClass,    EmployeesClass, CompanyClass, SpeciesClass,
+                                     BreedsClass, ServicesClass, CustomersClass, AnimalsClass, HolidaysClass};
 
 } // namespace
 

@@ -30,21 +30,55 @@ RecordSetRef BusinessTest::Page(Component& agenda, Integer pageRows)
     return Value(page).ToObject<RecordSet>();
 }
 
+Value BusinessTest::Ask(const std::string& className, const std::string& member, Component& component,
+                        const Rows& finds, std::vector<Argument> arguments)
+{
+    TheEngine().NextCallFinds(className + "." + member, finds);
+    return component.Call(member, std::move(arguments));
+}
+
 Value BusinessTest::Fill(const std::string& className, Component& component, const Rows& finds)
 {
-    if (className == CompanyClass) {
-        TheEngine().NextCallFinds(className + ".SelecionarNova", finds);
-        return component.Call("SelecionarNova", {Long(2), Integer(0), Long(1), ""});
-    }
-    Double all = 0;
-    TheEngine().NextCallFinds(className + ".SelecionarParaComboBox", finds);
-    return component.Call("SelecionarParaComboBox", {ByRef(all)});
+    Double all = 0, species = 1;
+    const auto ask = [&](const char* member, std::vector<Argument> arguments) {
+        return Ask(className, member, component, finds, std::move(arguments));
+    };
+    if (className == CompanyClass)
+        return ask("SelecionarNova", {Long(2), Integer(0), Long(1), ""});
+    if (className == ServicesClass)
+        return ask("Selecionar", {Long(2), Integer(0), Long(1), "", Long(0)});
+    if (className == CustomersClass)
+        return ask("Selecionar",
+                   {Long(2), Integer(0), Long(0), "", "", Double(0), "", "", "", Double(0), ""});
+    if (className == AnimalsClass)
+        return ask("Selecionar", {Long(2), Integer(0), Long(1), "", Integer(1), Double(0)});
+    if (className == HolidaysClass)
+        return ask("Selecionar", {Long(2), Integer(0), Long(0), YearlyHoliday::Day});
+    if (className == BreedsClass)
+        return ask("SelecionarParaComboBox", {ByRef(species), ByRef(all)});
+    return ask("SelecionarParaComboBox", {ByRef(all)});
 }
 
 const std::vector<int>& WholeDay()
 {
     static const std::vector<int> numbers = {5, 1, 2, 3, 4, 6, 7};
     return numbers;
+}
+
+const std::vector<Register>& AllRegisters()
+{
+    static const std::vector<Register> registers = {
+        {TypesClass, TypeRows()},
+        {EmployeesClass, EmployeeRows()},
+        {CompanyClass, CompanyRows()},
+        {SpeciesClass, SpeciesRows()},
+        {BreedsClass, BreedRows()},
+        {ServicesClass, ServiceRows({2, 1})},
+        {CustomersClass, CustomerRows({11, 10})},
+        {AnimalsClass, AnimalRows({51, 50})},
+        {HolidaysClass, HolidayRows()},
+    };
+    return registers;
 }
 
 RecordSetRef ResultOf(Component& component)

@@ -35,7 +35,10 @@ protected:
     RecordSetRef PagedDay(Component& agenda, Integer pageRows);
     /// What clsAgenda copies of the page its selection stands on.
     static RecordSetRef Page(Component& agenda, Integer pageRows);
-    /// Runs SelecionarParaComboBox, or SelecionarNova of the company.
+    /// Calls a member that has to find these rows. The answer is its status.
+    Value Ask(const std::string& className, const std::string& member, Component& component,
+              const Rows& finds, std::vector<Argument> arguments);
+    /// Runs the selection of the class, without a condition where it takes one.
     Value Fill(const std::string& className, Component& component, const Rows& finds);
 
 private:
@@ -44,6 +47,13 @@ private:
 
 /// Numbers of the appointments of the whole day, in its order.
 const std::vector<int>& WholeDay();
+
+/// Every class but clsAgenda that selects, with what Fill finds of it in the shop.
+struct Register {
+    std::string className;
+    Rows rows;
+};
+const std::vector<Register>& AllRegisters();
 
 RecordSetRef ResultOf(Component& component);
 /// The numbers of the appointments from the first row on; ends at Eof.

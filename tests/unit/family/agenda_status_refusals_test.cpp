@@ -115,12 +115,4 @@ TEST_F(AgendaStatusRefusals, AskForAUserBeforeAPackageIsChanged)
     EXPECT_EQ(Count("auditoria"), 0);
 }
 
-TEST_F(AgendaStatusRefusals, TellThatOnlyTheStatusCanBeAltered)
-{
-    const auto agenda = Desk(1, 2);
-    agenda->Set("AtualizarSomenteOCampoSituacao", false);
-    ExpectFailure(*agenda, 445,
-                  "A alteração do registro completo do agendamento não está disponível nesta versão.");
-}
-
 } // namespace kova::family::test

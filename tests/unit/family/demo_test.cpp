@@ -3,7 +3,6 @@
 #include "family/data/data_source.hpp"
 #include "family/data/store_check.hpp"
 #include "family/demo/documents.hpp"
-#include "family/demo/holidays.hpp"
 #include "family/demo/shop.hpp"
 
 #include <set>
@@ -53,43 +52,71 @@ TEST_F(DemonstrationShop, HasAboutFortyAppointmentsADayAndFewerOnSundays)
 
 TEST_F(DemonstrationShop, HasEveryKindOfRow)
 {
-    for (const char* kind : {"agendamento where situacao = 1",
-                             "agendamento where situacao = 2",
-                             "agendamento where situacao = 3",
-                             "agendamento where situacao = 4",
-                             "agendamento where tipo_do_agendamento = 1",
-                             "agendamento where codigo_do_pacote is not null",
-                             "agendamento where observacao is null",
-                             "agendamento where observacao is not null",
-                             "agendamento where alterado_em is null",
-                             "agendamento where alterado_em is not null",
-                             "agendamento where transporte_buscar = 1 and transporte_levar = 1",
-                             "agendamento where data_inicial = '2026-11-20' and situacao = 1",
-                             "agendamento where data_inicial = '2026-11-20' and situacao = 2",
-                             "cliente where situacao = 2",
-                             "cliente where situacao = 3",
-                             "cliente where situacao = 4",
-                             "cliente where tipo_de_pessoa = 'PJ'",
-                             "cliente where vip = 1",
-                             "cliente where categoria_da_curva_abc = 'A'",
-                             "cliente where categoria_da_curva_abc = 'B'",
-                             "cliente where categoria_da_curva_abc = 'C'",
-                             "animal where situacao = 2",
-                             "animal where microchip is not null",
-                             "servico where quantidade_de_sessoes is not null",
-                             "servico where situacao = 2",
-                             "funcionario where situacao = 2",
-                             "pre_venda where situacao = 1",
-                             "pre_venda where situacao = 3",
-                             "feriado where data is null",
-                             "feriado where data is not null"})
+    for (const char* kind :
+         {"agendamento where situacao = 1",
+          "agendamento where situacao = 2",
+          "agendamento where situacao = 3",
+          "agendamento where situacao = 4",
+          "agendamento where tipo_do_agendamento = 1",
+          "agendamento where codigo_do_pacote is not null",
+          "agendamento where observacao is null",
+          "agendamento where observacao is not null",
+          "agendamento where alterado_em is null",
+          "agendamento where alterado_em is not null",
+          "agendamento where transporte_buscar = 1 and transporte_levar = 1",
+          "agendamento where data_inicial = '2026-11-20' and situacao = 1",
+          "agendamento where data_inicial = '2026-11-20' and situacao = 2",
+          "cliente where situacao = 2",
+          "cliente where situacao = 3",
+          "cliente where situacao = 4",
+          "cliente where tipo_de_pessoa = 'PJ'",
+          "cliente where vip = 1",
+          "cliente where categoria_da_curva_abc = 'A'",
+          "cliente where categoria_da_curva_abc = 'B'",
+          "cliente where categoria_da_curva_abc = 'C'",
+          "animal where situacao = 2",
+          "animal where microchip is not null",
+          "cliente c where not exists"
+          " (select 1 from animal n where n.codigo_do_cliente = c.codigo)",
+          "(select 1 from animal where situacao = 1 group by codigo_do_cliente"
+          " having count(*) = 1)",
+          "(select 1 from animal where situacao = 1 group by codigo_do_cliente"
+          " having count(*) > 1)",
+          "especie e where not exists (select 1 from raca where codigo_da_especie = e.codigo)",
+          "especie e where exists (select 1 from raca where codigo_da_especie = e.codigo)",
+          "servico where quantidade_de_sessoes is not null",
+          "servico where situacao = 2",
+          "funcionario where situacao = 2",
+          "funcionario where agendamentos_simultaneos = 0",
+          "funcionario where agendamentos_simultaneos = 1",
+          "funcionario where agendamentos_simultaneos = 2",
+          "pre_venda where situacao = 1",
+          "pre_venda where situacao = 3",
+          "feriado where data is null",
+          "feriado where data is not null"})
         EXPECT_GT(Count(kind), 0) << kind;
+}
+
+TEST_F(DemonstrationShop, HasAnActiveServiceOfEveryTypeAndSeveralWithAWordInCommon)
+{
+    EXPECT_EQ(Count("tipo_de_servico t where not exists (select 1 from servico"
+                    " where situacao = 1 and numero_do_tipo_de_servico = t.numero)"),
+              0);
+    EXPECT_GT(Count("servico where situacao = 1 and nome_de_busca like '%banho%'"), 1);
+}
+
+TEST_F(DemonstrationShop, HasTheHolidaysOfACenturyAndThoseOfItsTown)
+{
+    for (const char* date : {"2000-04-21", "2100-05-27"})
+        EXPECT_EQ(Count("feriado where data = '" + std::string(date) + "'"), 1) << date;
+    EXPECT_EQ(Count("feriado where nome = 'Aniversário de Vale Sereno' and data is null"), 1);
 }
 
 TEST_F(DemonstrationShop, NeverBooksAnEmployeeBeyondTheLimit)
 {
     EXPECT_EQ(Count("agendamento a join funcionario f on f.codigo = a.codigo_do_funcionario"
-                    " where f.agendamentos_simultaneos < (select count(*) from agendamento b"
+                    " where f.agendamentos_simultaneos > 0"
+                    " and f.agendamentos_simultaneos < (select count(*) from agendamento b"
                     " where b.codigo_do_funcionario = a.codigo_do_funcionario"
                     " and b.data_inicial = a.data_inicial and b.hora_inicial <= a.hora_inicial"
                     " and b.hora_final > a.hora_inicial and b.situacao <> 3)"),
@@ -121,20 +148,6 @@ TEST(MeasuringPlan, MakesExactlyWhatWasAskedFor)
     EXPECT_EQ(rows["cliente"], 300);
     EXPECT_EQ(rows["agendamento"], 5000);
     EXPECT_THROW(MeasuringPlan({2026, 11, 20}, 0, 1), Failure);
-}
-
-TEST(NationalHolidays, FollowEaster)
-{
-    EXPECT_EQ(EasterSunday(2024), (Date{2024, 3, 31}));
-    EXPECT_EQ(EasterSunday(2025), (Date{2025, 4, 20}));
-    EXPECT_EQ(EasterSunday(2026), (Date{2026, 4, 5}));
-    EXPECT_EQ(EasterSunday(2038), (Date{2038, 4, 25}));
-    std::set<std::string> movable;
-    for (const HolidayRow& holiday : NationalHolidays(2026, 2026)) {
-        if (!holiday.data.IsNull())
-            movable.insert(holiday.data.value);
-    }
-    EXPECT_EQ(movable, (std::set<std::string>{"2026-02-16", "2026-02-17", "2026-04-03", "2026-06-04"}));
 }
 
 TEST(Documents, EndInTheirCheckDigits)

@@ -41,9 +41,12 @@ TEST_F(FamilyLibrary, RegistersItsClassesAndMakesThem)
     TestHost host(folder_ / "loja.db");
     ASSERT_EQ(Attach(&host), 0);
     ASSERT_EQ(Entry<DllRegisterServerFunction>("DllRegisterServer")(), 0);
-    for (const char* name : {"KOVA_N_Agenda.clsAgenda", "KOVA_N_TipoDeServ.clsTiposDeServ",
-                             "KOVA_N_Funcionarios.clsFuncionarios", "KOVA_N_Empresa.clsEmpresa",
-                             "KOVA_N_SO.clsObterVersaoDoSO", "KOVA_N_Dados.clsBanco"})
+    for (const char* name :
+         {"KOVA_N_Agenda.clsAgenda", "KOVA_N_TipoDeServ.clsTiposDeServ",
+          "KOVA_N_Funcionarios.clsFuncionarios", "KOVA_N_Empresa.clsEmpresa", "KOVA_N_SO.clsObterVersaoDoSO",
+          "KOVA_N_Dados.clsBanco", "KOVA_N_EspecRacas.clsEspecies", "KOVA_N_EspecRacas.clsRacas",
+          "KOVA_N_Servicos.clsServicos", "KOVA_N_ClientAnim.clsClientes", "KOVA_N_ClientAnim.clsAnimais",
+          "KOVA_N_Feriados.clsFeriados"})
         EXPECT_NE(Create(host, name), nullptr) << name;
     EXPECT_EQ(Entry<DllUnregisterServerFunction>("DllUnregisterServer")(), 0);
     EXPECT_TRUE(host.registered.empty());

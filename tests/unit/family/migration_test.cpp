@@ -1,5 +1,7 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
+#include "family/business/combo_selection.hpp"
+#include "family/data/customer_selection.hpp"
 #include "family/data/data_source.hpp"
 #include "family/data/insert_row.hpp"
 #include "family/data/rows.hpp"
@@ -8,22 +10,24 @@ namespace kova::family::test {
 
 namespace {
 
-constexpr Migration NextVersion[] = {
-    {1, SchemaOfVersion1},
-    {2,
-     [](const Dialect&) {
-         return std::vector<std::string>{"alter table usuario add column apelido text not null default ''"};
-     }},
-};
+const int Newest = NewestVersion(CurrentMigrations());
 
-constexpr Migration BrokenVersion[] = {
-    {1, SchemaOfVersion1},
-    {2,
-     [](const Dialect&) {
-         return std::vector<std::string>{"alter table usuario add column apelido text",
-                                         "update tabela_que_nao_existe set x = 1"};
-     }},
-};
+/// The current schema with one more step.
+std::vector<Migration> With(std::vector<std::string> (*statements)(const Dialect&))
+{
+    std::vector<Migration> steps(CurrentMigrations().begin(), CurrentMigrations().end());
+    steps.push_back({Newest + 1, statements});
+    return steps;
+}
+
+const std::vector<Migration> NextVersion = With([](const Dialect&) {
+    return std::vector<std::string>{"alter table usuario add column apelido text not null default ''"};
+});
+
+const std::vector<Migration> BrokenVersion = With([](const Dialect&) {
+    return std::vector<std::string>{"alter table usuario add column apelido text",
+                                    "update tabela_que_nao_existe set x = 1"};
+});
 
 class SchemaMigration : public testing::Test {
 protected:
@@ -69,14 +73,14 @@ TEST_F(SchemaMigration, MakesEveryRegister)
 TEST_F(SchemaMigration, BringsAnOlderVersionUpToDateAfterACopy)
 {
     const auto migrated = OpenDatabase(path_, NextVersion);
-    EXPECT_EQ(StoredVersion(migrated->Session()), 2);
+    EXPECT_EQ(StoredVersion(migrated->Session()), Newest + 1);
     EXPECT_EQ(ColumnsOfUser(*migrated), 4);
     EXPECT_EQ(NameOfUser(*migrated), "Carla");
 
-    const std::string copy = path_ + ".antes-da-versao-2.bak";
-    ASSERT_EQ(BackupName(path_, 2), copy);
+    const std::string copy = path_ + ".antes-da-versao-" + std::to_string(Newest + 1) + ".bak";
+    ASSERT_EQ(BackupName(path_, Newest + 1), copy);
     const auto former = OpenDatabase(copy);
-    EXPECT_EQ(StoredVersion(former->Session()), 1);
+    EXPECT_EQ(StoredVersion(former->Session()), Newest);
     EXPECT_EQ(ColumnsOfUser(*former), 3);
     EXPECT_EQ(NameOfUser(*former), "Carla");
 }
@@ -91,18 +95,18 @@ TEST_F(SchemaMigration, ThatFailsChangesNothing)
 {
     EXPECT_THROW(OpenDatabase(path_, BrokenVersion), Failure);
     const auto database = OpenDatabase(path_);
-    EXPECT_EQ(StoredVersion(database->Session()), 1);
+    EXPECT_EQ(StoredVersion(database->Session()), Newest);
     EXPECT_EQ(ColumnsOfUser(*database), 3);
     EXPECT_EQ(NameOfUser(*database), "Carla");
 }
 
 TEST_F(SchemaMigration, GoesAheadAfterAnAttemptThatWasCutOff)
 {
-    WriteContent(BackupName(path_, 2) + ".parcial", "resto");
-    WriteContent(BackupName(path_, 2), "cópia anterior");
-    EXPECT_EQ(StoredVersion(OpenDatabase(path_, NextVersion)->Session()), 2);
-    EXPECT_FALSE(std::filesystem::exists(BackupName(path_, 2) + ".parcial"));
-    EXPECT_EQ(StoredVersion(OpenDatabase(BackupName(path_, 2))->Session()), 1);
+    WriteContent(BackupName(path_, Newest + 1) + ".parcial", "resto");
+    WriteContent(BackupName(path_, Newest + 1), "cópia anterior");
+    EXPECT_EQ(StoredVersion(OpenDatabase(path_, NextVersion)->Session()), Newest + 1);
+    EXPECT_FALSE(std::filesystem::exists(BackupName(path_, Newest + 1) + ".parcial"));
+    EXPECT_EQ(StoredVersion(OpenDatabase(BackupName(path_, Newest + 1))->Session()), Newest);
 }
 
 TEST_F(SchemaMigration, IsRefusedToAnOlderProgram)
@@ -111,6 +115,32 @@ TEST_F(SchemaMigration, IsRefusedToAnOlderProgram)
     const std::string content = ContentOf(path_);
     EXPECT_TRUE(CheckDataSource(path_).has_value());
     EXPECT_EQ(ContentOf(path_), content);
+}
+
+TEST_F(SchemaMigration, FromTheFirstVersionKeepsCustomersAndMakesTheirNamesSearchable)
+{
+    const std::string path = folder_ / "antigo.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + path, path);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(1));
+        database.Session()
+            << "insert into cliente (codigo, tipo_de_pessoa, apelido, nome, documento,"
+               " categoria_da_curva_abc, logradouro, numero, complemento, bairro, cidade, uf,"
+               " cep, endereco_completo, endereco_completo_com_cep, tipos_e_canais,"
+               " nome_de_busca, texto_de_busca) values (7, 'PF', 'Zé', 'José Antônio', '', 'A',"
+               " 'Rua do Ipê', '1', '', '', '', '', '', 'Rua do Ipê, 1', 'Rua do Ipê, 1', '',"
+               " 'jose antonio', 'ze\njose antonio\nrua do ipe, 1')";
+        database.Session() << "insert into especie (codigo, nome, nome_de_busca) values (1, 'Ave', 'ave')";
+    }
+    const auto database = OpenDatabase(path);
+    EXPECT_EQ(StoredVersion(database->Session()), NewestVersion(CurrentMigrations()));
+    std::string names, address;
+    database->Session() << "select nomes_de_busca, endereco_de_busca from cliente where codigo = 7",
+        soci::into(names), soci::into(address);
+    EXPECT_EQ(names, "ze\njose antonio");
+    EXPECT_EQ(address, "rua do ipe, 1");
+    EXPECT_EQ(SelectCustomers(*database, {"tonio", "", 0, ""}).size(), 1U);
+    EXPECT_EQ(SelectSpecies(*database, 0).size(), 1U);
 }
 
 TEST_F(SchemaMigration, KeepsReferencesWhole)

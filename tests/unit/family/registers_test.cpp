@@ -1,10 +1,15 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
+#include "family/business/breeds.hpp"
 #include "family/business/company.hpp"
 #include "family/business/employees.hpp"
 #include "family/business/service_types.hpp"
+#include "family/business/species.hpp"
 #include "family/business/system_name.hpp"
 #include "family/business/system_version.hpp"
+#include "family/data/insert_row.hpp"
+#include "family/data/rows.hpp"
+#include "family/data/shared_database.hpp"
 
 namespace kova::family::test {
 
@@ -55,6 +60,46 @@ TEST_F(Registers, GiveOneRowForAKey)
     Employees employees(host_);
     employees.Call("SelecionarParaComboBox", {ByRef(one)});
     EXPECT_EQ(RowsOf(*ResultOf(employees), "Apelido", "Codigo"), (std::vector<std::string>{"Zeca=1"}));
+}
+
+TEST_F(Registers, GiveTheActiveSpeciesByName)
+{
+    Database& database = *SharedDatabase(host_.DataSource());
+    Insert(database, SpeciesRow{2, "Ave", "ave"});
+    Insert(database, SpeciesRow{3, "Bovina", "bovina", 2});
+    Double all = 0;
+    Species species(host_);
+    ASSERT_EQ(species.Call("SelecionarParaComboBox", {ByRef(all)}), Value(Integer(0)));
+    EXPECT_EQ(RowsOf(*ResultOf(species), "Nome", "Codigo"), (std::vector<std::string>{"Ave=2", "Canina=1"}));
+    EXPECT_EQ(all, 0);
+    ASSERT_EQ(species.Call("SelecionarParaComboBox", {Double(1)}), Value(Integer(0)));
+    EXPECT_EQ(RowsOf(*ResultOf(species), "Nome", "Codigo"), (std::vector<std::string>{"Canina=1"}));
+}
+
+TEST_F(Registers, GiveTheActiveBreedsOfOneSpeciesByName)
+{
+    Database& database = *SharedDatabase(host_.DataSource());
+    Insert(database, SpeciesRow{2, "Ave", "ave"});
+    Insert(database, BreedRow{2, 1, "Águia do campo", "aguia do campo"});
+    Insert(database, BreedRow{3, 1, "Dingo", "dingo", 2});
+    Insert(database, BreedRow{4, 2, "Canário", "canario"});
+    Double species = 1, all = 0;
+    Breeds breeds(host_);
+    ASSERT_EQ(breeds.Call("SelecionarParaComboBox", {ByRef(species), ByRef(all)}), Value(Integer(0)));
+    EXPECT_EQ(ResultOf(breeds)->Field("Codigo").GetType(), ValueType::Long);
+    EXPECT_EQ(RowsOf(*ResultOf(breeds), "Nome", "Codigo"),
+              (std::vector<std::string>{"Águia do campo=2", "Poodle=1"}));
+}
+
+TEST_F(Registers, GiveNoBreedOfASpeciesThatHasNoneOrIsUnknown)
+{
+    Insert(*SharedDatabase(host_.DataSource()), SpeciesRow{2, "Ave", "ave"});
+    Breeds breeds(host_);
+    for (const Double species : {2.0, 99.0, 0.0, 1.5, -1.0, 1e300}) {
+        ASSERT_EQ(breeds.Call("SelecionarParaComboBox", {species, Double(0)}), Value(Integer(0)));
+        EXPECT_EQ(ResultOf(breeds)->RecordCount(), 0) << species;
+        EXPECT_EQ(ResultOf(breeds)->FieldCount(), 2);
+    }
 }
 
 TEST_F(Registers, GiveTheTradeNameOfTheCompany)

@@ -2,6 +2,7 @@
 
 #include "family/business/agenda.hpp"
 #include "family/data/appointment_rows.hpp"
+#include "family/data/customer_store.hpp"
 #include "family/data/data_source.hpp"
 #include "family/data/fold_text.hpp"
 #include "family/data/insert_row.hpp"
@@ -75,12 +76,9 @@ CustomerRow Customer(Key code, const char* nickname, const char* name, const cha
 
 void WritePeople(Database& database)
 {
-    CustomerRow person = Customer(10, "Zé", "José Antônio Peçanha", "12345678909");
-    person.Compose({{1, 10, "Celular", "(00) 91234-5678"}, {2, 10, "E-mail", "ze@example.com"}});
-    Insert(database, person);
-    CustomerRow company = Customer(11, "Canil Céu", "Canil Céu Azul Ltda.", "11222333000181");
-    company.Compose({});
-    Insert(database, company);
+    WriteCustomer(database, Customer(10, "Zé", "José Antônio Peçanha", "12345678909"),
+                  {{1, 10, "Celular", "(00) 91234-5678"}, {2, 10, "E-mail", "ze@example.com"}});
+    WriteCustomer(database, Customer(11, "Canil Céu", "Canil Céu Azul Ltda.", "11222333000181"), {});
     Insert(database,
            AnimalRow{50, 10, "Paçoca", "F", 1, 2, "Caramelo", std::string("999000000000001"),
                      std::string("Tem medo de secador."), 1, "pacoca"});

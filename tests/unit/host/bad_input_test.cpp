@@ -66,7 +66,7 @@ TEST(BadInput, ADatabaseOfANewerSchemaIsNamedAndLeftAsItWas)
     const TemporaryFolder home;
     const fs::path shop = home / "loja.db";
     family::CreateDatabase(shop, [](family::Database& database) {
-        database.Session() << "update versao_do_esquema set versao = 9999";
+        database.Session() << "insert into versao_do_esquema (versao) values (9999)";
     });
     const std::string content = ContentOf(shop);
     ExpectRefusal(Open(shop, home.Path()), shop.string());

@@ -10,7 +10,12 @@ namespace kova::family {
 /// Easter Sunday of a year of the Gregorian calendar.
 Date EasterSunday(int year);
 
-/// Brazil's national holidays: the fixed ones once, the movable ones for each year of the range.
+/// The years for which a new database gets its movable holidays.
+inline constexpr int FirstHolidayYear = 2000;
+inline constexpr int LastHolidayYear = 2100;
+
+/// Brazil's national holidays: the fixed ones once, as a day and a month; the movable ones for each year of
+/// the range, as dates. Codes count from 1.
 std::vector<HolidayRow> NationalHolidays(int firstYear, int lastYear);
 
 } // namespace kova::family

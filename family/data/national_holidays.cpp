@@ -1,4 +1,4 @@
-#include "family/demo/holidays.hpp"
+#include "family/data/national_holidays.hpp"
 
 #include "family/data/iso_text.hpp"
 

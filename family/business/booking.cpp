@@ -1,0 +1,27 @@
+#include "family/business/booking.hpp"
+
+#include "family/data/iso_text.hpp"
+
+namespace kova::family {
+
+FreeDays Booking::RuleForFreeDays() const
+{
+    if (input.IsSimplified())
+        return FreeDays::Keep;
+    // Whoever picked the dates has been asked about each of them.
+    if (!IsPicked() && !input.validated)
+        return FreeDays::AskAbout;
+    return input.toWorkingDay ? FreeDays::MoveAway : FreeDays::Keep;
+}
+
+AppointmentRow Booking::At(const TimeSpan& span) const
+{
+    AppointmentRow appointment = row;
+    appointment.dataInicial = IsoDate(span.start.date);
+    appointment.horaInicial = FormatTime(span.start.time);
+    appointment.dataFinal = IsoDate(span.end.date);
+    appointment.horaFinal = FormatTime(span.end.time);
+    return appointment;
+}
+
+} // namespace kova::family

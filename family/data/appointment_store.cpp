@@ -1,0 +1,69 @@
+#include "family/data/appointment_store.hpp"
+
+#include "family/data/audit.hpp"
+#include "family/data/database.hpp"
+#include "family/data/insert_new_row.hpp"
+#include "family/data/update_row.hpp"
+
+namespace kova::family {
+
+namespace {
+
+class AppointmentDeletion : public KeptStatement {
+public:
+    explicit AppointmentDeletion(Database& database)
+        : statement_((database.Session().prepare << "delete from agendamento where numero = :numero",
+                      soci::use(number_, "numero")))
+    {
+    }
+
+    void Run(Key number)
+    {
+        number_ = number;
+        statement_.execute(true);
+    }
+
+private:
+    Key number_ = 0;
+    soci::statement statement_;
+};
+
+} // namespace
+
+Key AddAppointment(Database& database, AppointmentRow row, const Author& author)
+{
+    row.incluidoEm = author.moment;
+    row.incluidoPor = author.name;
+    row.Compose();
+    row.numero = InsertNew(database, row);
+    AuditInsertion(database, author, AppointmentRow::Table, row.numero, ValuesOf(row));
+    return row.numero;
+}
+
+void ReplaceAppointment(Database& database, const AppointmentRow& before, AppointmentRow after,
+                        const Author& author)
+{
+    after.incluidoEm = before.incluidoEm;
+    after.incluidoPor = before.incluidoPor;
+    after.alteradoEm = author.moment;
+    after.alteradoPor = author.name;
+    after.Compose();
+    Update(database, after);
+    AuditChange(database, author, AppointmentRow::Table, before.numero, ValuesOf(before), ValuesOf(after));
+}
+
+void RemoveAppointment(Database& database, const AppointmentRow& row, const Author& author)
+{
+    database.With<AppointmentDeletion>([&](AppointmentDeletion& deletion) { deletion.Run(row.numero); });
+    AuditRemoval(database, author, AppointmentRow::Table, row.numero, ValuesOf(row));
+}
+
+Key AddPackage(Database& database, Key service, const Author& author)
+{
+    PackageRow package{0, service, author.moment, author.name};
+    package.codigo = InsertNew(database, package);
+    AuditInsertion(database, author, PackageRow::Table, package.codigo, ValuesOf(package));
+    return package.codigo;
+}
+
+} // namespace kova::family

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "family/data/appointment_rows.hpp"
+#include "family/data/author.hpp"
+
+#include <optional>
+
+namespace kova::family {
+
+class Database;
+
+/// Each writes one appointment in the transaction that is open, with who and when on the row and the whole
+/// row before and after in the audit. They fail with a DatabaseFailure.
+
+/// Answers the number that the engine gave.
+Key AddAppointment(Database& database, AppointmentRow row, const Author& author);
+
+/// `after` has the number of `before`; what `before` says about its inclusion stays.
+void ReplaceAppointment(Database& database, const AppointmentRow& before, AppointmentRow after,
+                        const Author& author);
+
+/// The row goes. The audit keeps all of it, and its pre-sales stay as they are.
+void RemoveAppointment(Database& database, const AppointmentRow& row, const Author& author);
+
+/// A package without appointments yet. Answers its key.
+Key AddPackage(Database& database, Key service, const Author& author);
+
+} // namespace kova::family

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "family/data/people_rows.hpp"
+
+namespace kova::family {
+
+class Database;
+
+/// Writes a new customer with its contact channels, in the transaction that is open or in one of its own
+/// for each row. The columns that follow from others are filled here, so every new customer goes through
+/// it. Keys are given by the caller. Fails as Database::With.
+void WriteCustomer(Database& database, CustomerRow customer, const std::vector<ChannelRow>& channels);
+
+} // namespace kova::family

@@ -1,0 +1,63 @@
+#include "family/data/holiday_calendar.hpp"
+
+#include "family/data/database.hpp"
+#include "family/data/iso_text.hpp"
+#include "family/data/rows.hpp"
+
+#include <cstdio>
+
+namespace kova::family {
+
+namespace {
+
+class HolidaySelection : public KeptStatement {
+public:
+    explicit HolidaySelection(Database& database)
+        : statement_(
+            (database.Session().prepare << "select nome, dia, mes, data from feriado order by codigo",
+             soci::into(row_.nome), soci::into(row_.dia.value, row_.dia.state),
+             soci::into(row_.mes.value, row_.mes.state), soci::into(row_.data.value, row_.data.state)))
+    {
+    }
+
+    template <class Take> void Run(Take take)
+    {
+        statement_.execute();
+        while (statement_.fetch())
+            take(row_);
+    }
+
+private:
+    HolidayRow row_;
+    soci::statement statement_;
+};
+
+std::string DateOf(const HolidayRow& row)
+{
+    if (!row.data.IsNull())
+        return row.data.value;
+    char text[32];
+    std::snprintf(text, sizeof text, "%02d-%02d", row.mes.value, row.dia.value);
+    return text;
+}
+
+} // namespace
+
+HolidayCalendar::HolidayCalendar(Database& database)
+{
+    database.With<HolidaySelection>([this](HolidaySelection& selection) {
+        selection.Run([this](const HolidayRow& row) { names_.try_emplace(DateOf(row), row.nome); });
+    });
+}
+
+std::optional<std::string> HolidayCalendar::On(Date date) const
+{
+    const std::string iso = IsoDate(date);
+    for (const std::string_view key : {std::string_view(iso), std::string_view(iso).substr(5)}) {
+        if (const auto found = names_.find(key); found != names_.end())
+            return found->second;
+    }
+    return std::nullopt;
+}
+
+} // namespace kova::family

@@ -1,0 +1,192 @@
+// Appointments that are added, altered and deleted, and what the day's selection then finds.
+
+#include "tests/conformance/business/suite.hpp"
+
+#include <algorithm>
+
+namespace kova::conformance {
+
+namespace {
+
+/// The session's user.
+class Clerk : public Component {
+public:
+    using Component::Call;
+    Value Get(std::string_view member) override { return member == "Nome" ? Value("Rute") : Value(Long(3)); }
+    void Set(std::string_view, const Value&) override { throw Failure(FailureNumber::NoSuchMember); }
+    Value Call(std::string_view, std::span<Argument>) override { throw Failure(FailureNumber::NoSuchMember); }
+};
+
+using Properties = std::vector<std::pair<const char*, Value>>;
+
+/// What both record forms send, for a bath on the day without appointments.
+Properties Common()
+{
+    return {{"Situacao", Integer(1)},       {"CodigoDoFuncionario", Long(2)},  {"DataInicial", EmptyDay},
+            {"HoraInicial", "09:00"},       {"DataFinal", EmptyDay},           {"HoraFinal", "10:15"},
+            {"CodigoDoServico", Double(2)}, {"NumeroDoTipoDeServico", Long(4)}};
+}
+
+Properties Simplified()
+{
+    Properties properties = Common();
+    const Properties more = {{"NomeOuRazaoSocialDoCliente", WalkIn::Name},
+                             {"CanaisdeComunicacaoDoCliente", WalkIn::Channels},
+                             {"NomeDoAnimal", WalkIn::Animal},
+                             {"SexoDoAnimal", "M"},
+                             {"EspecieDoAnimal", WalkIn::Species},
+                             {"RacaDoAnimal", WalkIn::Breed},
+                             {"CorDoAnimal", WalkIn::Colour},
+                             {"Observacao", ""},
+                             {"TipoDoAgendamento", Long(1)}};
+    properties.insert(properties.end(), more.begin(), more.end());
+    return properties;
+}
+
+Properties Full()
+{
+    Properties properties = Common();
+    const Properties more = {{"CodigoDoCliente", Double(10)},
+                             {"CodigoDoAnimal", Long(50)},
+                             {"Observacao", "Laço azul."},
+                             {"TransporteBuscar", Long(-1)},
+                             {"TransporteLevar", Long(0)},
+                             {"CriadaListaDasDatasEHorasSelecionadas", false},
+                             {"QuantidadeDeReagendamentos", Long(0)},
+                             {"FrequenciaDeReagendamento", Integer(-1)},
+                             {"TipoDoAgendamento", Long(0)},
+                             {"DadosValidados", true},
+                             {"DomingoOuFeriado", false}};
+    properties.insert(properties.end(), more.begin(), more.end());
+    return properties;
+}
+
+} // namespace
+
+class Writes : public BusinessTest {
+protected:
+    ComponentRef Sent(const Properties& properties, const Properties& changed = {})
+    {
+        ComponentRef agenda = Create(AgendaClass);
+        for (const Properties* all : {&properties, &changed}) {
+            for (const auto& [name, value] : *all)
+                agenda->Set(name, value);
+        }
+        agenda->Set("DadosDoUsuario", std::make_shared<Clerk>());
+        return agenda;
+    }
+
+    Rows DayOf(const char* date) { return ContentOf(*Selected({.date = date}, {})); }
+
+    /// The day's rows without the names of their fields.
+    std::vector<std::vector<Value>> RowsOf(const char* date) { return DayOf(date).rows; }
+
+    /// A row as the shop has it, with the stamps of a write by the clerk.
+    static Rows Written(const Appointment& model, const std::vector<std::pair<Text, Value>>& fields)
+    {
+        Rows rows = AppointmentRows({static_cast<int>(model.number)});
+        for (const auto& [field, value] : fields) {
+            const auto at = std::find(rows.fields.begin(), rows.fields.end(), field) - rows.fields.begin();
+            rows.rows.front()[static_cast<std::size_t>(at)] = value;
+        }
+        return rows;
+    }
+};
+
+KOVA_OVER_ENGINES(Writes, EnginesWith(&EngineKind::storesWrites));
+
+TEST_P(Writes, OfASimplifiedAppointmentAreFoundOnItsDayWithEveryField)
+{
+    ASSERT_EQ(Sent(Simplified())->Call("Adicionar"), Value(Integer(0)));
+    // Appointment 4 of the shop is a simplified bath.
+    ExpectSame(DayOf(EmptyDay),
+               Written(Appointments()[3],
+                       {{"NumeroDeLancamento", Double(9)},
+                        {"DataInicial", EmptyDay},
+                        {"HoraInicial", "09:00"},
+                        {"DataFinal", EmptyDay},
+                        {"HoraFinal", "10:15"},
+                        {"Observacao", Null()},
+                        {"DataEHoraDaInclusao", MomentOfWrites},
+                        {"UsuarioDaInclusao", "Rute"}}));
+}
+
+TEST_P(Writes, OfAFullRecordAreFoundOnItsDayWithEveryField)
+{
+    ASSERT_EQ(Sent(Full())->Call("Adicionar"), Value(Integer(0)));
+    // Appointment 2 of the shop is a bath for the same customer.
+    ExpectSame(DayOf(EmptyDay),
+               Written(Appointments()[1],
+                       {{"NumeroDeLancamento", Double(9)},
+                        {"DataInicial", EmptyDay},
+                        {"HoraInicial", "09:00"},
+                        {"DataFinal", EmptyDay},
+                        {"HoraFinal", "10:15"},
+                        {"TransporteLevar", "Não"},
+                        {"DataEHoraDaInclusao", MomentOfWrites},
+                        {"UsuarioDaInclusao", "Rute"},
+                        {"DataEHoraDaAlteracao", Null()},
+                        {"UsuarioDaAlteracao", Null()}}));
+}
+
+TEST_P(Writes, OfAnAlterationReplaceTheRecordAndStampIt)
+{
+    ASSERT_EQ(Sent(Full(), {{"NumeroDeLancamento", Double(8)}})->Call("Alterar"), Value(Integer(0)));
+    EXPECT_TRUE(RowsOf(QuietDay).empty());
+    ExpectSame(DayOf(EmptyDay),
+               Written(Appointments()[1],
+                       {{"NumeroDeLancamento", Double(8)},
+                        {"DataInicial", EmptyDay},
+                        {"HoraInicial", "09:00"},
+                        {"DataFinal", EmptyDay},
+                        {"HoraFinal", "10:15"},
+                        {"TransporteLevar", "Não"},
+                        {"DataEHoraDaAlteracao", MomentOfWrites},
+                        {"UsuarioDaAlteracao", "Rute"}}));
+}
+
+TEST_P(Writes, OfADeletionTakeTheRecordAway)
+{
+    const ComponentRef agenda = Sent(Full(), {{"NumeroDeLancamento", Double(8)}});
+    ASSERT_EQ(agenda->Call("Excluir"), Value(Integer(0)));
+    EXPECT_TRUE(RowsOf(QuietDay).empty());
+    EXPECT_EQ(agenda->Call("Excluir"), Value(Integer(3)));
+    EXPECT_EQ(agenda->Get("DescricaoDaFalha"), Value("O agendamento não existe mais."));
+}
+
+TEST_P(Writes, ThatAreRefusedNameTheFieldAndWriteNothing)
+{
+    const ComponentRef agenda = Sent(Full(), {{"DadosValidados", false}});
+    EXPECT_EQ(agenda->Call("Adicionar"), Value(Integer(2)));
+    EXPECT_EQ(agenda->Get("NomeDoCampoValidado"), Value("DomingoOuFeriado"));
+    EXPECT_EQ(agenda->Get("DescricaoDaFalha"), Value("A data 22/11/2026 é um domingo."));
+    EXPECT_TRUE(RowsOf(EmptyDay).empty());
+}
+
+TEST_P(Writes, RepeatedOnOneObjectGoByTheSamePropertiesAndTheAnswer)
+{
+    const ComponentRef agenda = Sent(Full(), {{"DadosValidados", false}});
+    ASSERT_EQ(agenda->Call("Adicionar"), Value(Integer(2)));
+    agenda->Set("DadosValidados", true);
+    agenda->Set("DomingoOuFeriado", true);
+    ASSERT_EQ(agenda->Call("Adicionar"), Value(Integer(0)));
+    EXPECT_EQ(agenda->Get("NomeDoCampoValidado"), Value(""));
+    EXPECT_EQ(agenda->Get("RegistroPercenteAUmPacoteDeBanhoETosa"), Value(false));
+    EXPECT_TRUE(RowsOf(EmptyDay).empty());
+    EXPECT_EQ(RowsOf("23/11/2026").size(), 1U);
+}
+
+TEST_P(Writes, WithoutAUserAreATechnicalFailure)
+{
+    const ComponentRef agenda = Sent(Full());
+    agenda->Set("DadosDoUsuario", ObjectRef());
+    for (const char* member : {"Adicionar", "Alterar", "Excluir"}) {
+        EXPECT_EQ(agenda->Call(member), Value(Integer(1)));
+        EXPECT_EQ(agenda->Get("DescricaoDoErro"), Value("Usuário não informado."));
+        EXPECT_NE(agenda->Get("NumeroDoErro").ToLong(), 0);
+        EXPECT_NE(agenda->Get("LocalDoErro").ToText().find(member), std::string::npos);
+    }
+    EXPECT_TRUE(RowsOf(EmptyDay).empty());
+}
+
+} // namespace kova::conformance

@@ -1,0 +1,166 @@
+#include "tests/unit/family/shop_fixture.hpp"
+
+#include "agenda/contracts/text.hpp"
+#include "family/data/customer_selection.hpp"
+#include "family/data/customer_store.hpp"
+#include "family/data/data_source.hpp"
+#include "family/data/fold_text.hpp"
+#include "family/data/write_transaction.hpp"
+#include "family/demo/shop.hpp"
+
+#include <algorithm>
+#include <set>
+
+namespace kova::family::test {
+
+namespace {
+
+class NamesInMemory : public testing::Test {
+protected:
+    NamesInMemory()
+    {
+        CreateDatabase(folder_ / "loja.db", [](Database&) {});
+        database_ = OpenDatabase(folder_ / "loja.db");
+        Add(1, "Márcia Ribeiro");
+    }
+
+    void Add(Key code, const char* name)
+    {
+        CustomerRow row;
+        row.codigo = code;
+        row.nome = name;
+        WriteCustomer(*database_, row, {});
+    }
+
+    std::size_t Found(const std::string& name)
+    {
+        return SelectCustomers(*database_, {name, "", 0, ""}).size();
+    }
+
+    TemporaryFolder folder_;
+    std::shared_ptr<Database> database_;
+};
+
+} // namespace
+
+TEST_F(NamesInMemory, KnowANewCustomer)
+{
+    EXPECT_EQ(Found("márcia"), 1U);
+    Add(2, "Ana Márcia");
+    EXPECT_EQ(Found("márcia"), 2U);
+}
+
+TEST_F(NamesInMemory, FollowAChangeOfName)
+{
+    database_->Session() << "update cliente set nomes_de_busca = 'tereza' where codigo = 1";
+    EXPECT_EQ(Found("marcia"), 0U);
+    EXPECT_EQ(Found("tereza"), 1U);
+}
+
+TEST_F(NamesInMemory, ForgetARemovedCustomer)
+{
+    database_->Session() << "delete from cliente where codigo = 1";
+    EXPECT_EQ(Found("marcia"), 0U);
+    Add(1, "Tereza");
+    EXPECT_EQ(Found("tereza"), 1U);
+    EXPECT_EQ(Found("marcia"), 0U);
+}
+
+TEST_F(NamesInMemory, TakeBackWhatATransactionTakesBack)
+{
+    {
+        WriteTransaction transaction(*database_);
+        Add(2, "Ana Márcia");
+        EXPECT_EQ(Found("marcia"), 2U);
+    }
+    EXPECT_EQ(Found("marcia"), 1U);
+}
+
+TEST_F(NamesInMemory, SeeWhatAnotherConnectionWrites)
+{
+    EXPECT_EQ(Found("bento"), 0U);
+    const auto other = OpenDatabase(folder_ / "loja.db");
+    CustomerRow row;
+    row.codigo = 7;
+    row.nome = "Bento";
+    WriteCustomer(*other, row, {});
+    EXPECT_EQ(Found("bento"), 1U);
+}
+
+TEST_F(NamesInMemory, AreSearchedForAnyText)
+{
+    for (const char* text :
+         {"\"", "\"\"\"", "'''", "a\"b\"c", "((()", "-- x", "\xff\xfe\xfd", "***", "^ab", "a AND"})
+        EXPECT_NO_THROW(Found(text)) << text;
+}
+
+/// Every part of 1 to 9 characters of some names finds in a shop exactly the customers whose folded names
+/// hold it, in the order of name and code.
+TEST(NamesInMemoryOfAShop, AreThoseOfEveryRow)
+{
+    const TemporaryFolder folder;
+    CreateShop(folder / "loja.db", MeasuringPlan({2026, 11, 20}, 700, 1));
+    const auto database = OpenDatabase(folder / "loja.db");
+    struct Known {
+        std::string name, names;
+        Key code;
+    };
+    std::vector<Known> all;
+    KeptRows<FoundCustomerOf> kept;
+    for (const Key code : SelectCustomers(*database, {}))
+        FetchCustomer(*database, code, kept);
+    for (const auto& row : kept.rows)
+        all.push_back({FoldText(row.nome), FoldText(row.apelido) + "\n" + FoldText(row.nome), row.codigo});
+    ASSERT_EQ(all.size(), 700U);
+    EXPECT_TRUE(std::is_sorted(all.begin(), all.end(), [](const Known& a, const Known& b) {
+        return std::tie(a.name, a.code) < std::tie(b.name, b.code);
+    }));
+    std::set<std::string> parts;
+    for (std::size_t person = 0; person < all.size(); person += 70)
+        for (std::size_t length = 1; length < 10; ++length)
+            for (std::size_t at = 0; at + length <= all[person].name.size(); at += 4)
+                parts.insert(all[person].name.substr(at, length));
+    for (const std::string& part : parts) {
+        if (Trim(part) != part)
+            continue;
+        std::vector<Key> expected;
+        for (const Known& known : all)
+            if (known.names.find(part) != std::string::npos)
+                expected.push_back(known.code);
+        EXPECT_EQ(SelectCustomers(*database, {part, "", 0, ""}), expected) << part;
+    }
+}
+
+TEST_F(NamesInMemory, AreReadAgainWhenAnyWriteOfACustomerChangesThem)
+{
+    EXPECT_EQ(Found("marcia"), 1U);
+    for (const char* statement :
+         {"update cliente set nomes_de_busca = 'bento' where codigo = 1",
+          "update cliente set nomes_de_busca = 'marcia' where codigo = 1",
+          "update cliente set situacao = 2 where codigo = 1", "delete from cliente where codigo = 1"}) {
+        database_->Session() << statement;
+        int expected = 0;
+        database_->Session() << "select count(*) from cliente where nomes_de_busca like '%marcia%'",
+            soci::into(expected);
+        EXPECT_EQ(Found("marcia"), static_cast<std::size_t>(expected)) << statement;
+    }
+}
+
+TEST_F(NamesInMemory, OfNobodyHoldNothing)
+{
+    database_->Session() << "delete from cliente";
+    EXPECT_EQ(Found(""), 0U);
+    EXPECT_EQ(Found("a"), 0U);
+    EXPECT_EQ(Found("1"), 0U);
+}
+
+TEST_F(NamesInMemory, AreReadAgainAfterAFailure)
+{
+    EXPECT_EQ(Found("marcia"), 1U);
+    database_->Session() << "alter table contador_de_alteracoes rename to escondido";
+    EXPECT_THROW(Found("marcia"), Failure);
+    database_->Session() << "alter table escondido rename to contador_de_alteracoes";
+    EXPECT_EQ(Found("marcia"), 1U);
+}
+
+} // namespace kova::family::test
