@@ -109,6 +109,13 @@ void frmLista::LigarEventos()
     kvnbBarraDeNavegacao.OnClick([this](Integer& Botao) { kvnbBarraDeNavegacao_Click(Botao); });
     chkExibirPainel.OnClick([this] { chkExibirPainel_Click(); });
 
+    kvcmdAdicionar.OnClick([this] { kvcmdAdicionar_Click(); });
+    mnuAdicionarAgendamentoCompleto.OnClick([this] { mnuAdicionarAgendamentoCompleto_Click(); });
+    mnuAdicionarAgendamentoSimplificado.OnClick([this] { mnuAdicionarAgendamentoSimplificado_Click(); });
+    kvcmdDetalhar.OnClick([this] { kvcmdDetalhar_Click(); });
+    kvcmdAlterar.OnClick([this] { kvcmdAlterar_Click(); });
+    kvcmdExcluir.OnClick([this] { kvcmdExcluir_Click(); });
+
     kvcmdMarcarAgendamentoComoAgendado.OnClick([this] { kvcmdMarcarAgendamentoComoAgendado_Click(); });
     kvcmdMarcarAgendamentoComoAtendido.OnClick([this] { kvcmdMarcarAgendamentoComoAtendido_Click(); });
     kvcmdMarcarAgendamentoComoCancelado.OnClick([this] { kvcmdMarcarAgendamentoComoCancelado_Click(); });

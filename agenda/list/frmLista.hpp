@@ -8,14 +8,15 @@
 
 namespace kova::agenda {
 
+class FichaDeAgendamento;
+
 /// The module's main screen: one day's appointments in a paged grid, with filters above it, a detail
 /// panel below it and the buttons of the row under the mouse.
 ///
 /// Its procedures lie by concern: frmLista.cpp sets it up, frmLista_list.cpp loads and pages it,
 /// frmLista_grid.cpp fills the grid and follows the mouse, frmLista_filters.cpp answers the filters,
-/// frmLista_status.cpp the
-/// status buttons, frmLista_panel.cpp and frmLista_layout.cpp place things, frmLista_wait.cpp shows the
-/// wait plate.
+/// frmLista_status.cpp the status buttons, frmLista_records.cpp opens the record forms, frmLista_panel.cpp
+/// and frmLista_layout.cpp place things, frmLista_wait.cpp shows the wait plate.
 class frmLista : public std::enable_shared_from_this<frmLista> {
 public:
     /// A new list, hidden, on the toolkit of the host. It lives until its form is unloaded.
@@ -190,6 +191,22 @@ private:
     void kvdtpDataDeAgendamento_GotFocus();
     void kvdtpDataDeAgendamento_LostFocus();
     void kvnbBarraDeNavegacao_Click(Integer& Botao);
+
+    void kvcmdAdicionar_Click();
+    void mnuAdicionarAgendamentoCompleto_Click();
+    void mnuAdicionarAgendamentoSimplificado_Click();
+    void kvcmdDetalhar_Click();
+    void kvcmdAlterar_Click();
+    void kvcmdExcluir_Click();
+    void AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Integer& Ponto);
+    static std::shared_ptr<FichaDeAgendamento> CriarFicha(bool simplificado);
+    Integer UltimaSituacao() const;
+    Integer UltimaSituacaoSemPreVenda() const;
+    void CopiarSituacoes(KVComboBox& destino, Integer ultima);
+    void CopiarTiposDeServicos(KVComboBox& destino, KVComboBox& comboALimpar);
+    void CopiarFuncionarios(KVComboBox& destino);
+    void CopiarLinhas(KVComboBox& fonte, KVComboBox& destino, Integer ultima);
+    void Escolher(KVComboBox& combo, Integer linha);
 
     void kvcmdMarcarAgendamentoComoAgendado_Click();
     void kvcmdMarcarAgendamentoComoAtendido_Click();

@@ -7,6 +7,8 @@
 
 namespace kova::agenda {
 
+class frmFichaCompleta;
+class frmFichaSimplificada;
 class frmLista;
 
 /// State of the module that more than one screen reads. One instance lives until the library is
@@ -31,6 +33,11 @@ struct modPrincipal {
     bool SemFundoEscuroNaImpressao = false;
     /// Built for the customer's banner.
     Text TextoDoCliente;
+
+    /// The record forms' shared instances, by which appointments are added. Null until their first use and
+    /// after each unload.
+    std::shared_ptr<frmFichaCompleta> FichaCompletaImplicita;
+    std::shared_ptr<frmFichaSimplificada> FichaSimplificadaImplicita;
 
     /// Lists that are on the screen. A list belongs to the shell's window: it lives here until its form
     /// is unloaded, also when a later AbrirLista has taken its place above.

@@ -33,6 +33,18 @@ Integer MinutosDoServico(const Text& tempo)
     return RoundToInteger(Val(Left(tempo, 2)) * 60 + Val(Right(tempo, 2)));
 }
 
+bool EhCampoDeEdicao(WidgetKind especie)
+{
+    switch (especie) {
+    case WidgetKind::KVTextBox:
+    case WidgetKind::KVComboBox:
+    case WidgetKind::KVDTPicker:
+    case WidgetKind::KVTime:
+    case WidgetKind::KVFind: return true;
+    default: return false;
+    }
+}
+
 /// Whether the user lets a start stand that has passed already.
 bool HoraInicialConfirmada(Date data, TimeOfDay hora)
 {
@@ -111,6 +123,35 @@ Integer LinhaDoItemData(const KVComboBox& combo, Double numero)
 Integer LinhaDaCelula(const KVComboBox& combo, const Text& celula)
 {
     return combo.ListCount() == 0 ? Integer{-1} : LinhaDoItemData(combo, Value(celula).ToDouble());
+}
+
+void SelecionarPelaCelula(KVComboBox& combo, const Text& celula)
+{
+    const Integer linha = LinhaDaCelula(combo, celula);
+    if (linha != -1)
+        combo.ListIndex(linha);
+}
+
+Text CelulaSelecionadaDaLista(Long coluna)
+{
+    const auto lista = Principal().FormularioDaLista;
+    if (!lista)
+        throw Failure(FailureNumber::NoObject);
+    return lista->msfgGrade.TextMatrix(lista->msfgGrade.RowSel(), coluna);
+}
+
+void HabilitarCamposDeEdicao(Form& formulario, bool habilitar, CaixasDePesquisa caixas)
+{
+    for (Widget* controle : formulario.Controls()) {
+        if (!EhCampoDeEdicao(controle->Kind()))
+            continue;
+        controle->Enabled(habilitar);
+        auto* pesquisa = As<KVFind>(*controle);
+        if (pesquisa && caixas == CaixasDePesquisa::EsperamPesquisa) {
+            pesquisa->Status(find_status::Clear);
+            pesquisa->Text("");
+        }
+    }
 }
 
 Text CarimboDeInclusao(Double numeroDeLancamento, const Text& carimbo, Integer tipoDeOperacao)

@@ -85,6 +85,17 @@ Integer LinhaDoItemData(const KVComboBox& combo, Double numero);
 /// number.
 Integer LinhaDaCelula(const KVComboBox& combo, const Text& celula);
 
+/// Selects the row whose number is in the cell; where there is none, nothing is written. The combo's Click is
+/// raised by the write.
+void SelecionarPelaCelula(KVComboBox& combo, const Text& celula);
+/// A cell of the list's selected row. Fails with 91 where there is no list.
+Text CelulaSelecionadaDaLista(Long coluna);
+
+/// What becomes of the search boxes when the fields are switched.
+enum class CaixasDePesquisa { Ficam, EsperamPesquisa };
+/// Walks all controls and switches the boxes and combos; a search box may be emptied and wait for a search.
+void HabilitarCamposDeEdicao(Form& formulario, bool habilitar, CaixasDePesquisa caixas);
+
 /// "Código N | Incluído em dd/mm/yyyy" from the first ten characters of a stamp; a record about to be
 /// deleted has a colon and doubled blanks in it. `carimbo` is the grid's cell.
 Text CarimboDeInclusao(Double numeroDeLancamento, const Text& carimbo, Integer tipoDeOperacao);

@@ -29,7 +29,8 @@ public:
     virtual void Enabled(bool) = 0;
 
     /// Outer place and size, in twips. A write of another size raises Resize inside the call once the
-    /// form has been shown. A negative size is failure 380.
+    /// form has been shown. A negative size is failure 380. A form of size 0 is off the screen until it is
+    /// given its size again: it stays Visible, and a modal Show of it goes on.
     virtual Twips Left() const = 0;
     virtual void Left(Twips) = 0;
     virtual Twips Top() const = 0;

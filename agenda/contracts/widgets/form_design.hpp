@@ -20,7 +20,8 @@ struct ControlDesign {
     /// 0 in both directions takes the kind's usual size.
     Twips width = 0;
     Twips height = 0;
-    /// Caption of labels, buttons, boxes and menus; the title of a find box.
+    /// Caption of labels, buttons, boxes and menus; the title of a find box. In a label that names a control,
+    /// "&" marks the letter that leads there and is no part of the caption.
     std::string caption = {};
     std::string text = {};
     bool visible = true;

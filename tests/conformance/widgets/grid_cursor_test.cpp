@@ -83,6 +83,21 @@ TEST_P(GridCursor, HighlightsByTheSelectionMode)
     EXPECT_EQ(FailureOf([this] { grid_->SelectionMode(3); }), 380);
 }
 
+TEST_P(GridCursor, HighlightsByTheSelectionModeOfTheDesignUntilCodeWritesAnother)
+{
+    auto& grid = Get<MSFlexGrid>("msfgSemLimite");
+    const auto marked = [&grid](Long row, Long col) { return Bench::IsHighlighted(grid, row, col); };
+    grid.Rows(3);
+    grid.Cols(4);
+    grid.SetFocus();
+    User().GridKey(grid, GridKey::Down);
+    EXPECT_EQ(grid.SelectionMode(), 1);
+    EXPECT_TRUE(marked(2, 1) && marked(2, 3)) << "the row that a key reaches, as a whole";
+    EXPECT_FALSE(marked(1, 1));
+    grid.SelectionMode(0);
+    EXPECT_FALSE(marked(2, 1));
+}
+
 TEST_P(GridCursor, StandsOnTheCellThatTheUserClicks)
 {
     User().ClickCell(*grid_, 3, 2);

@@ -12,6 +12,7 @@ protected:
         Has(WidgetKind::MSFlexGrid, "msfg");
         ControlDesign& boundless = Has(WidgetKind::MSFlexGrid, "msfgSemLimite");
         boundless.cellLimit = false;
+        boundless.selectionMode = 1;
         boundless.height = 1500;
         Has(WidgetKind::KVTextBox, "kvtxt").top = 7500;
         Open();

@@ -247,4 +247,68 @@ TEST_P(MessageBoxes, AreAnsweredInsideAHandler)
     EXPECT_EQ(TakeEvents(), (Events{"yes"}));
 }
 
+TEST_P(ModalForms, VanishWithoutAHeightAndComeBackUnderTheSameShow)
+{
+    Then([this] {
+        Widget& button = dialog_->Control("kvcmd");
+        const Twips height = dialog_->Height();
+        const Twips left = dialog_->Left();
+        const Twips top = dialog_->Top();
+        dialog_->Height(0);
+        User().Settle();
+        EXPECT_TRUE(dialog_->Visible());
+        EXPECT_FALSE(User().IsOnScreen(button));
+        PressDialog();
+        PressBelow();
+        EXPECT_EQ(TakeEvents(), Events());
+
+        dialog_->Height(height);
+        User().Settle();
+        EXPECT_TRUE(User().IsOnScreen(button));
+        EXPECT_EQ(dialog_->Left(), left);
+        EXPECT_EQ(dialog_->Top(), top);
+        PressBelow();
+        PressDialog();
+        dialog_->Hide();
+    });
+    dialog_->Show(ShowMode::Modal);
+    EXPECT_EQ(TakeEvents(), (Events{"dialog"}));
+}
+
+TEST_P(ModalForms, ShowAnotherOneWhileTheyHaveNoHeight)
+{
+    const FormRef another = MakeWindow("frmOutro");
+    Bind<KVCommandButton>(another, "kvcmd").OnClick(Note("another"));
+    const auto pressAnother = [&] { User().Press(Bind<KVCommandButton>(another, "kvcmd")); };
+    Then([&, this] {
+        const Twips height = dialog_->Height();
+        dialog_->Height(0);
+        Then([&] {
+            pressAnother();
+            another->Hide();
+        });
+        another->Show(ShowMode::Modal);
+        pressAnother();
+        dialog_->Height(height);
+        PressDialog();
+        dialog_->Hide();
+    });
+    dialog_->Show(ShowMode::Modal);
+    EXPECT_EQ(TakeEvents(), (Events{"another", "dialog"}));
+}
+
+TEST_P(ModalForms, StayOffTheScreenWhereTheyAreHiddenWithoutAHeight)
+{
+    Then([this] {
+        const Twips height = dialog_->Height();
+        dialog_->Height(0);
+        dialog_->Hide();
+        dialog_->Height(height);
+        User().Settle();
+        EXPECT_FALSE(User().IsOnScreen(dialog_->Control("kvcmd")));
+    });
+    dialog_->Show(ShowMode::Modal);
+    EXPECT_FALSE(dialog_->Visible());
+}
+
 } // namespace kova::conformance

@@ -265,6 +265,7 @@ TEST_F(Marking, ListsTheKeysOfAllCommandsOnF1)
         "  Alt+←: Dia anterior",
         "  Alt+→: Próximo dia",
         "  Ctrl+P: Imprimir lista",
+        "  F7: Agendamentos do dia",
         "  Ctrl+1: Marcar agendamento como agendado",
         "  Ctrl+2: Marcar agendamento como atendido",
         "  Ctrl+3: Marcar agendamento como cancelado",

@@ -1,0 +1,199 @@
+// The search by animal: it finds the owner. And the choice at the top of the form between the two searches.
+
+#include "agenda/contracts/text.hpp"
+#include "agenda/full_record/frmFichaCompleta.hpp"
+#include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/module_platform.hpp"
+#include "agenda/shared/trap.hpp"
+
+namespace kova::agenda {
+
+namespace {
+
+/// Index of the option that searches the customer by its own fields.
+constexpr Integer PorDadosDoCliente = 1;
+
+} // namespace
+
+void frmFichaCompleta::optAgendarPor_Click(Integer Index)
+{
+    Integer Ponto = 0;
+    Trap(", frmFichaCompleta, optAgendarPor_Click, Ponto: ", Ponto, [&] {
+        Ponto = 1;
+        LimparCamposDoCliente();
+        LimparCamposDoAnimal();
+
+        Ponto = 2;
+        const bool porCliente = Index == PorDadosDoCliente;
+        for (KVFind* caixa : CaixasDoCliente()) {
+            caixa->TabStop(porCliente);
+            caixa->Enabled(porCliente);
+        }
+        kvfNomeDoAnimal.TabStop(!porCliente);
+        // The way back leaves the animals' combo without its stop.
+        if (!porCliente)
+            kvcmbAnimal.TabStop(false);
+
+        // Either way the combo stays shut until a customer is found.
+        Ponto = 3;
+        kvcmbAnimal.Visible(porCliente);
+        kvcmbAnimal.Enabled(false);
+        kvfNomeDoAnimal.Visible(!porCliente);
+        kvfNomeDoAnimal.Enabled(!porCliente);
+        if (!porCliente) {
+            kvfNomeDoAnimal.Status(find_status::Clear);
+            kvfNomeDoAnimal.Text("");
+        }
+    });
+}
+
+void frmFichaCompleta::kvfNomeDoAnimal_Click()
+{
+    Integer Ponto = 0;
+    Trap(", frmFichaCompleta, kvfNomeDoAnimal_Click, Ponto: ", Ponto, [&] {
+        Ponto = 1;
+        switch (kvfNomeDoAnimal.Status()) {
+        case find_status::Search: return PesquisarPeloAnimal(Ponto);
+        case find_status::Clear:
+            Ponto = 6;
+            EsvaziarClienteDoAnimal();
+            kvfNomeDoAnimal.SetFocus();
+            return;
+        default: return;
+        }
+    });
+}
+
+void frmFichaCompleta::PesquisarPeloAnimal(Integer& Ponto)
+{
+    // A short number may be a code.
+    const Text texto = kvfNomeDoAnimal.Text();
+    if (Length(texto) < 3 && !IsNumeric(texto)) {
+        kvfNomeDoAnimal.Enabled(true);
+        ExibirInformacao("Informe 3 caracteres ou mais para iniciar a pesquisa.");
+        return;
+    }
+
+    Ponto = 2;
+    if (!PesquisarAnimal(Trim(texto))) {
+        Ponto = 3;
+        EsvaziarClienteDoAnimal();
+        kvfNomeDoAnimal.Enabled(true);
+        kvfNomeDoAnimal.SetFocus();
+        return;
+    }
+
+    Ponto = 4;
+    kvcmbAnimal.Enabled(true);
+    kvcmbTiposDeServicos.Enabled(true);
+    if (PreencherComboboxAnimal(Val(kvfCodigoDoCliente.Text())) != 0)
+        return;
+    Ponto = 5;
+    ExibirAnimaisDoDono();
+}
+
+void frmFichaCompleta::ExibirAnimaisDoDono()
+{
+    if (kvcmbAnimal.ListCount() == 1) {
+        kvcmbAnimal.ListIndex(0);
+        kvfNomeDoAnimal.Text(kvcmbAnimal.Text());
+        kvcmbTiposDeServicos.SetFocus();
+        return;
+    }
+    // The owner has several: the combo takes the place of the search.
+    if (optAgendarPorAnimal.Value()) {
+        kvfNomeDoAnimal.Visible(false);
+        kvcmbAnimal.Visible(true);
+    }
+    if (kvcmbAnimal.Visible())
+        kvcmbAnimal.SetFocus();
+    else
+        kvcmbTiposDeServicos.SetFocus();
+}
+
+void frmFichaCompleta::EsvaziarClienteDoAnimal()
+{
+    // The box of the nickname is not among them.
+    KVFind* const caixas[] = {&kvfNomeOuRazaoSocialDoCliente, &kvfCodigoDoCliente, &kvfEnderecoDoCliente};
+    for (KVFind* caixa : caixas)
+        caixa->Status(find_status::Clear);
+    for (KVFind* caixa : caixas)
+        caixa->Text("");
+    for (KVFind* caixa : caixas)
+        caixa->Enabled(true);
+    LimparOutrosCamposDoFormularioRelacionadoAoCliente();
+}
+
+void frmFichaCompleta::kvfNomeDoAnimal_KeyDown()
+{
+    Integer Ponto = 0;
+    // The tag names the nickname's box; it is fixed so.
+    Trap(", frmFichaCompleta, kvfApelidoOuNomeFantasiaDoCliente_KeyDown, Ponto: ", Ponto, [&] {
+        Ponto = 1;
+        if (EventoIgnorado())
+            return;
+        LimparCamposDoCliente();
+        LimparCamposDoAnimal();
+    });
+}
+
+bool frmFichaCompleta::PesquisarAnimal(const Text& Nome)
+{
+    Integer Ponto = 0;
+    bool resultado = false;
+    Trap(", frmFichaCompleta, PesquisarAnimal, Ponto: ", Ponto, [&] {
+        Ponto = 1;
+        ExibirOcultarpicMensagem(true);
+        ComponentRef objAnimais = CreateObject("KOVA_N_ClientAnim.clsAnimais");
+
+        Ponto = 2;
+        Text nome = Nome;
+        if (objAnimais->Call("Selecionar", {Long{2}, Integer{0}, Long{1}, ByRef(nome), Integer{1}, Double{0}})
+                .ToInteger()
+            != 0) {
+            Ponto = 3;
+            ExibirOcultarpicMensagem(false);
+            MensagemDeErroDoObjeto(*objAnimais);
+            return;
+        }
+
+        Ponto = 4;
+        ExibirOcultarpicMensagem(false);
+        const auto registros = objAnimais->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>();
+        objAnimais.reset();
+
+        Ponto = 5;
+        const Long encontrados = registros->RecordCount();
+        if (encontrados == 0) {
+            ExibirInformacao("Nenhum cliente encontrado com o nome do animal '" + Nome + "'.");
+            ThePlatform().Toolkit().SendKeys("+({HOME})");
+            return;
+        }
+
+        Ponto = 6;
+        resultado = encontrados == 1 ? AceitarDonoEncontrado(*registros) : EscolherDono(*registros);
+    });
+    return resultado;
+}
+
+bool frmFichaCompleta::AceitarDonoEncontrado(const RecordSet& registros)
+{
+    if (RecusarClientePelaSituacao(registros.Field("SituacaoDoCliente").ToInteger()))
+        return false;
+    // The section's head is not touched: this search knows no marks.
+    ExibirClienteDoRegistro(registros);
+    return true;
+}
+
+bool frmFichaCompleta::EscolherDono(RecordSet& registros)
+{
+    const auto pesquisa = AbrirPesquisaDeClientes(registros);
+    const bool escolhido = pesquisa->RegistroSelecionado;
+    if (escolhido)
+        ExibirClienteEscolhido(*pesquisa);
+    pesquisa->Formulario->Unload();
+    return escolhido;
+}
+
+} // namespace kova::agenda

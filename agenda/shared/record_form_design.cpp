@@ -1,0 +1,130 @@
+#include "agenda/shared/record_form_design.hpp"
+
+#include "agenda/shared/record_form.hpp"
+
+namespace kova::agenda {
+
+using Kind = WidgetKind;
+using namespace medidas_da_ficha;
+
+namespace {
+
+constexpr Colour FundoDeCampoSomenteLeitura = 16382457;
+
+ControlDesign Botao(const char* nome, const char* texto, Twips esquerda, Twips topo)
+{
+    return {.kind = Kind::KVCommandButton,
+            .name = nome,
+            .left = esquerda,
+            .top = topo,
+            .width = LarguraDoBotao,
+            .height = AlturaDoCampo,
+            .caption = texto,
+            .highlightColor = 14530157};
+}
+
+} // namespace
+
+ControlDesign CabecalhoDaFicha(const char* titulo)
+{
+    return {.kind = Kind::KVTheme,
+            .name = "KVTheme",
+            .width = LarguraInterna,
+            .height = AlturaDoCabecalho,
+            .caption = titulo};
+}
+
+ControlDesign SecaoDaFicha(const char* nome, const char* texto, Twips topo)
+{
+    return {.kind = Kind::Label,
+            .name = nome,
+            .left = Margem,
+            .top = topo,
+            .caption = texto,
+            .autoSize = true,
+            .fontSize = 11.25F,
+            .fontBold = true,
+            .foreColor = CorDoRotulo};
+}
+
+ControlDesign RotuloDaFicha(const char* nome, const char* texto, const char* campo, Twips esquerda,
+                            Twips linha)
+{
+    return {.kind = Kind::Label,
+            .name = nome,
+            .left = esquerda,
+            .top = linha,
+            .caption = texto,
+            .autoSize = true,
+            .labelOf = campo,
+            .fontSize = 9,
+            .foreColor = CorDoRotulo};
+}
+
+ControlDesign CampoDaFicha(WidgetKind especie, const char* nome, Twips esquerda, Twips linha, Twips largura)
+{
+    return {.kind = especie,
+            .name = nome,
+            .left = esquerda,
+            .top = linha + AlturaDoRotulo,
+            .width = largura,
+            .height = AlturaDoCampo};
+}
+
+ControlDesign CampoDeCodigo(const char* nome, Twips esquerda, Twips linha, Twips largura)
+{
+    ControlDesign campo = CampoDaFicha(Kind::KVFind, nome, esquerda, linha, largura);
+    campo.style = 2;
+    return campo;
+}
+
+ControlDesign CampoDeTexto(const char* nome, Twips esquerda, Twips linha, Twips largura, int limite)
+{
+    ControlDesign campo = CampoDaFicha(Kind::KVTextBox, nome, esquerda, linha, largura);
+    campo.backColor = colours::White;
+    campo.maxLength = limite;
+    return campo;
+}
+
+ControlDesign CampoSomenteLeitura(const char* nome, Twips esquerda, Twips linha, Twips largura, int limite)
+{
+    ControlDesign campo = CampoDeTexto(nome, esquerda, linha, largura, limite);
+    campo.tabStop = false;
+    campo.backColor = FundoDeCampoSomenteLeitura;
+    campo.locked = true;
+    return campo;
+}
+
+ControlDesign ComNomeAcessivel(ControlDesign campo, const char* nome)
+{
+    campo.accessibleName = nome;
+    return campo;
+}
+
+std::vector<ControlDesign> RodapeDaFicha(Twips topo)
+{
+    constexpr Twips esquerdaDoSegundo = BordaDireita - LarguraDoBotao;
+    ControlDesign salvar =
+        Botao("kvcmdSalvarFecharConfirmar", "Salvar", esquerdaDoSegundo - Vao - LarguraDoBotao, topo);
+    salvar.backColor = 16617293;
+    salvar.fontColor = colours::White;
+    salvar.shortcut = "Ctrl+S";
+    ControlDesign cancelar = Botao("kvcmdCancelarAlterar", "Cancelar", esquerdaDoSegundo, topo);
+    cancelar.backColor = colours::White;
+    cancelar.fontColor = 4210752;
+    cancelar.isCancel = true;
+    return {
+        {.kind = Kind::Label,
+         .name = "lblObservacaoDeCamposObrigatorios",
+         .left = Margem,
+         .top = topo + (AlturaDoCampo - AlturaDoRotulo) / 2,
+         .caption = "* Campos obrigatórios",
+         .autoSize = true,
+         .fontSize = 9,
+         .foreColor = CorDoRotulo},
+        salvar,
+        cancelar,
+    };
+}
+
+} // namespace kova::agenda
