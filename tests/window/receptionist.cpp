@@ -1,0 +1,199 @@
+#include "tests/window/receptionist.hpp"
+
+#include "toolkits/common/toolkit.hpp"
+
+#include <QApplication>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimerEvent>
+
+#include <cstdlib>
+#include <iostream>
+
+namespace kova::window_test {
+
+namespace {
+
+constexpr int PollMilliseconds = 2;
+constexpr int PatienceMilliseconds = 30'000;
+
+qt::FormWidget* FormIn(QWidget* top)
+{
+    if (auto* form = dynamic_cast<qt::FormWidget*>(top))
+        return form;
+    for (QWidget* child : top->findChildren<QWidget*>())
+        if (auto* form = dynamic_cast<qt::FormWidget*>(child))
+            return form;
+    return nullptr;
+}
+
+/// The window that gets the keys: the innermost modal one, else the application's.
+QWidget* TopInFront()
+{
+    if (QWidget* popup = QApplication::activePopupWidget())
+        return popup;
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    for (QWidget* top : QApplication::topLevelWidgets())
+        if (top->isVisible() && FormIn(top) && !dynamic_cast<qt::FormWidget*>(top))
+            return top;
+    return nullptr;
+}
+
+bool TakesInput()
+{
+    const toolkit::FormModel* form = Receptionist::FormInFront();
+    return form != nullptr && form->Refusal().empty() && !form->GetToolkit().IsInsideEvent();
+}
+
+bool TakesInputInModal()
+{
+    const toolkit::FormModel* form = Receptionist::FormInFront();
+    return form != nullptr && form->Refusal().empty();
+}
+
+void SendKeys(const std::string& keys)
+{
+    const auto combination =
+        QKeySequence::fromString(QString::fromStdString(keys), QKeySequence::PortableText)[0];
+    QTest::keyClick(TopInFront()->windowHandle(), combination.key(), combination.keyboardModifiers());
+}
+
+void SendText(const std::string& text)
+{
+    for (const QChar character : QString::fromStdString(text)) {
+        const auto key = static_cast<Qt::Key>(character.toUpper().unicode());
+        QTest::sendKeyEvent(QTest::Click, TopInFront()->windowHandle(), key, QString(character),
+                            Qt::NoModifier);
+    }
+}
+
+std::string WhatIsInFront()
+{
+    if (const auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget()))
+        return "a box says \"" + box->text().toStdString() + "\"";
+    if (QApplication::activePopupWidget())
+        return "a menu or list is open";
+    const toolkit::FormModel* form = Receptionist::FormInFront();
+    if (!form)
+        return "no form is in front";
+    return form->Design().name + ", focus " + Receptionist::Focused() + " " + form->Refusal();
+}
+
+QMessageBox* OpenBox() { return dynamic_cast<QMessageBox*>(QApplication::activeModalWidget()); }
+QMenu* OpenMenu() { return dynamic_cast<QMenu*>(QApplication::activePopupWidget()); }
+
+} // namespace
+
+Receptionist::Receptionist()
+{
+    waiting_.start();
+    Arm();
+}
+
+Receptionist& Receptionist::Presses(const std::string& keys)
+{
+    return Then({"press " + keys, TakesInputInModal, [keys] { SendKeys(keys); }});
+}
+
+Receptionist& Receptionist::Types(const std::string& text)
+{
+    return Then({"type " + text, TakesInputInModal, [text] { SendText(text); }});
+}
+
+Receptionist& Receptionist::WaitsFor(const std::string& form)
+{
+    const auto inFront = [form] {
+        const toolkit::FormModel* front = FormInFront();
+        return front && front->Design().name == form && front->Refusal().empty();
+    };
+    return Then({"wait for " + form, inFront, [] {}});
+}
+
+Receptionist& Receptionist::Answers(const std::string& key)
+{
+    return Then({"answer " + key, [] { return OpenBox() != nullptr; },
+                 [this, key] {
+                     boxes_.push_back(OpenBox()->text().toStdString());
+                     SendKeys(key);
+                 }});
+}
+
+Receptionist& Receptionist::Picks(const std::string& entry)
+{
+    return Then({"pick " + entry, [] { return OpenMenu() != nullptr; },
+                 [entry] {
+                     for (int i = 0; OpenMenu() && i < 10; ++i) {
+                         SendKeys("Down");
+                         const QAction* active = OpenMenu()->activeAction();
+                         if (active && active->text().toStdString() == entry)
+                             return SendKeys("Return");
+                     }
+                 }});
+}
+
+Receptionist& Receptionist::Looks(std::function<void()> look)
+{
+    return Then({"look", TakesInputInModal, std::move(look)});
+}
+
+void Receptionist::Leaves()
+{
+    Then({"leave", TakesInput, [] { TopInFront()->close(); }});
+}
+
+toolkit::FormModel* Receptionist::FormInFront()
+{
+    QWidget* top = TopInFront();
+    qt::FormWidget* form = top && !OpenBox() && !OpenMenu() ? FormIn(top) : nullptr;
+    return form && form->isVisible() ? &form->Model() : nullptr;
+}
+
+std::string Receptionist::Focused()
+{
+    const toolkit::FormModel* form = FormInFront();
+    const toolkit::WidgetCore* widget = form ? form->Focused() : nullptr;
+    return widget ? widget->FullName() : "";
+}
+
+Widget& Receptionist::Control(const std::string& form, const std::string& name)
+{
+    for (QWidget* widget : QApplication::allWidgets()) {
+        auto* shown = dynamic_cast<qt::FormWidget*>(widget);
+        if (shown && shown->isVisible() && shown->Model().Design().name == form)
+            return static_cast<Form&>(shown->Model()).Control(name);
+    }
+    throw Failure(FailureNumber::NoSuchMember);
+}
+
+Receptionist& Receptionist::Then(Step step)
+{
+    steps_.push_back(std::move(step));
+    return *this;
+}
+
+void Receptionist::Arm() { startTimer(PollMilliseconds); }
+
+// The next timer is armed before the act, which may run an event loop of its own.
+void Receptionist::timerEvent(QTimerEvent* event)
+{
+    killTimer(event->timerId());
+    Arm();
+    if (steps_.empty())
+        return;
+    if (!steps_.front().ready()) {
+        if (waiting_.elapsed() < PatienceMilliseconds)
+            return;
+        std::cerr << "cannot " << steps_.front().what << ": " << WhatIsInFront() << std::endl;
+        std::_Exit(EXIT_FAILURE);
+    }
+    const Step step = std::move(steps_.front());
+    steps_.pop_front();
+    waiting_.restart();
+    step.act();
+    waiting_.restart();
+}
+
+} // namespace kova::window_test

@@ -1,0 +1,75 @@
+#include "tests/window/shop.hpp"
+
+#include "host/session.hpp"
+#include "toolkits/qt/theme.hpp"
+
+#include <QApplication>
+
+#include <cstdlib>
+
+namespace kova::window_test {
+
+namespace {
+
+/// One per process, as each test runs in a process of its own.
+QApplication& TheApplication()
+{
+    static int count = 1;
+    static char name[] = "test_window";
+    static char* words[] = {name, nullptr};
+    // It outlives everything: what is torn down behind main must still find it.
+    static auto* const application = new QApplication(count, words);
+    return *application;
+}
+
+} // namespace
+
+Shop::Shop()
+{
+    std::string pattern = (std::filesystem::temp_directory_path() / "loja-XXXXXX").string();
+    folder_ = mkdtemp(pattern.data());
+    setenv("XDG_DATA_HOME", (folder_ / "dados").c_str(), 1);
+    setenv("XDG_CONFIG_HOME", (folder_ / "ajustes").c_str(), 1);
+    const std::string make =
+        std::string(AGENDA_DATA) + " demo " + Database() + " --date 20/11/2026 >/dev/null";
+    if (std::system(make.c_str()) != 0)
+        throw std::runtime_error("the demonstration shop was not made");
+    qt::ApplyLook(TheApplication());
+    receptionist = new Receptionist;
+}
+
+Shop::~Shop()
+{
+    delete receptionist;
+    std::filesystem::remove_all(folder_);
+}
+
+void Shop::Run()
+{
+    host::Options options;
+    options.database = Database();
+    options.user = "Maria";
+    options.date = Date{2026, 11, 20};
+    options.size = host::WindowSize{1366, 768};
+    EXPECT_EQ(host::RunSession(options, host::Outlet::Window), EXIT_SUCCESS);
+}
+
+std::vector<std::string> Shop::Query(const std::string& statement) const
+{
+    return test::SqliteFile(Database()).Run(statement);
+}
+
+void Shop::Execute(const std::string& statement) const { test::SqliteFile(Database()).Run(statement); }
+
+std::unique_ptr<test::SqliteFile> Shop::OpenedByAnotherProgram() const
+{
+    return std::make_unique<test::SqliteFile>(Database());
+}
+
+std::string Shop::Value(const std::string& statement) const
+{
+    const auto rows = Query(statement);
+    return rows.empty() ? "" : rows.front();
+}
+
+} // namespace kova::window_test
