@@ -1,8 +1,7 @@
 // The smallest program of the toolkit that opens the database and paints a day: prints "desenhado" after
 // its first painting and ends. Usage: bench_start_floor DATABASE STATEMENT yyyy-mm-dd WIDTH HEIGHT
 
-#include "bench/floor_view.hpp"
-#include "bench/raw_database.hpp"
+#include "bench/floor_day.hpp"
 
 #include <QApplication>
 #include <QTimer>
@@ -13,28 +12,12 @@ namespace kova::bench {
 
 namespace {
 
-/// Places of the statement's columns that the view shows, in the order of VisibleColumns; the status
-/// column has no text.
-constexpr std::array<int, VisibleColumns.size()> Places{0, 2, 5, 7, 12, 22, 24, -1};
-constexpr int StatusPlace = 32;
-
 std::vector<FloorRow> SelectDay(const std::string& path, const std::string& text, const std::string& day)
 {
     RawDatabase database(path);
     RawStatement statement(database, text);
     BindDay(statement, day);
-    std::vector<FloorRow> rows;
-    while (statement.Step()) {
-        FloorRow& row = rows.emplace_back();
-        for (std::size_t column = 0; column < Places.size(); ++column) {
-            if (Places[column] < 0)
-                continue;
-            const std::string_view shown = statement.TextAt(Places[column]);
-            row.texts[column] = QString::fromUtf8(shown.data(), static_cast<qsizetype>(shown.size()));
-        }
-        row.status = static_cast<int>(statement.NumberAt(StatusPlace));
-    }
-    return rows;
+    return ReadDay(statement);
 }
 
 /// The view of the day; ends the program once it has been painted.
