@@ -100,7 +100,12 @@ Receptionist& Receptionist::Presses(const std::string& keys)
 
 Receptionist& Receptionist::Types(const std::string& text)
 {
-    return Then({"type " + text, TakesInputInModal, [text] { SendText(text); }});
+    // Sending a key lets other events happen: nothing else is begun between two characters.
+    return Then({"type " + text, TakesInputInModal, [this, text] {
+                     typing_ = true;
+                     SendText(text);
+                     typing_ = false;
+                 }});
 }
 
 Receptionist& Receptionist::WaitsFor(const std::string& form)
@@ -181,7 +186,7 @@ void Receptionist::timerEvent(QTimerEvent* event)
 {
     killTimer(event->timerId());
     Arm();
-    if (steps_.empty())
+    if (steps_.empty() || typing_)
         return;
     if (!steps_.front().ready()) {
         if (waiting_.elapsed() < PatienceMilliseconds)

@@ -55,6 +55,7 @@ private:
 
     std::deque<Step> steps_;
     QElapsedTimer waiting_;
+    bool typing_ = false;
     std::vector<std::string> boxes_;
 };
 
