@@ -2,6 +2,7 @@
 
 #include "agenda/shared/modArredondarCantosDoObjeto.hpp"
 #include "agenda/shared/modFuncoes.hpp"
+#include "agenda/shared/record_form.hpp"
 
 namespace kova::agenda {
 
@@ -14,7 +15,7 @@ std::vector<ControlDesign> DesenhoDaPlacaDeEspera()
          .height = 900,
          .visible = false,
          .accessibleName = "Aguarde",
-         .backColor = Rgb(77, 143, 253)},
+         .backColor = Rgb(214, 230, 255)},
         {.kind = WidgetKind::Label,
          .name = "lblMensagem",
          .container = "picMensagem",
@@ -25,7 +26,9 @@ std::vector<ControlDesign> DesenhoDaPlacaDeEspera()
          .caption = "Aguarde, pesquisando...",
          .alignment = 2,
          .fontSize = 11,
-         .foreColor = colours::White},
+         .fontBold = true,
+         // The colour that refused fields give back to all labels.
+         .foreColor = CorDoRotulo},
     };
 }
 

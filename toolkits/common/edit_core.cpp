@@ -57,6 +57,9 @@ void EditCore::SelectToStart()
 void EditCore::PutText(const Text& text)
 {
     edit_.Put(text);
+    // A long text that nobody is typing in shows its beginning.
+    if (!HasFocus())
+        edit_.Select(0, 0);
     Tell(Aspect::Content);
 }
 

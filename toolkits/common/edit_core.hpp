@@ -33,7 +33,7 @@ public:
     virtual bool AllowsTyping() const { return true; }
 
 protected:
-    /// A write from code; the caret goes to the end.
+    /// A write from code; the caret goes to the end where the widget has the focus, else to the start.
     void PutText(const Text& text);
 
     virtual void Type(char32_t character) = 0;

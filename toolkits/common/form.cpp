@@ -87,6 +87,14 @@ std::string FormModel::Refusal() const
     return {};
 }
 
+// A form that a failed procedure has left disabled must not hold the user captive; while a pause lasts, its
+// procedure goes on with the form.
+bool FormModel::MayBeClosed() const
+{
+    const bool isReachable = IsOnScreen() && !toolkit_.IsAsking() && !toolkit_.IsShutOut(*this);
+    return isReachable && (state_.enabled || !toolkit_.IsPausing());
+}
+
 void FormModel::Owner(std::weak_ptr<void> owner)
 {
     owner_ = std::move(owner);
@@ -138,7 +146,7 @@ void FormModel::ByUser(const std::function<void()>& action)
 void FormModel::UserCloses()
 {
     ByUser([this] {
-        if (Refusal().empty())
+        if (MayBeClosed())
             UnloadNow();
     });
 }

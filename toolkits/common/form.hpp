@@ -109,10 +109,12 @@ public:
     WidgetCore* Focused() const { return focused_; }
     /// Why the user cannot act in this form, as in "frmLista is under a modal form"; "" where he can.
     std::string Refusal() const;
+    /// Whether the window's close button works.
+    bool MayBeClosed() const;
 
     // What the user does.
 
-    /// The window's own close button or key.
+    /// The window's own close button or key. It works on a disabled form too, but not during a pause.
     void UserCloses();
     /// The window or its container got another inner size: Resize, once the form has been shown.
     void UserResizes(InnerSize inner);

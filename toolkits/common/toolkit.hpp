@@ -44,6 +44,10 @@ public:
     bool IsShutOut(const FormModel& form) const;
     /// Whether a message box, a pop-up menu or the preview of a report is open.
     bool IsAsking() const { return closedDepth_ > 0; }
+    /// Whether a loop that lets time pass is running.
+    bool IsPausing() const { return pauses_ > 0; }
+    void PauseBegins(Double) override { ++pauses_; }
+    void PauseEnds() override { --pauses_; }
     /// Whether an event is on the stack.
     bool IsInsideEvent() const { return eventDepth_ > 0; }
 
@@ -118,6 +122,7 @@ private:
     AccessObserver* observer_ = nullptr;
     int eventDepth_ = 0;
     int closedDepth_ = 0;
+    int pauses_ = 0;
     unsigned shows_ = 0;
     std::vector<FormModel*> forms_;
     std::vector<FormModel*> shown_;

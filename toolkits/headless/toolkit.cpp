@@ -92,6 +92,7 @@ void HeadlessToolkit::RunPreview(const toolkit::ReportModel& report)
 
 void HeadlessToolkit::PauseBegins(Double seconds)
 {
+    ToolkitModel::PauseBegins(seconds);
     pauses_.push_back({seconds, false});
     clock_.HoldTimer();
     LogPause(seconds);
@@ -102,6 +103,7 @@ void HeadlessToolkit::PauseEnds()
     if (pauses_.empty())
         return;
     pauses_.pop_back();
+    ToolkitModel::PauseEnds();
     clock_.ReleaseTimer();
 }
 

@@ -175,8 +175,8 @@ std::string User::CloseForm(std::string_view form)
     toolkit::FormModel* model = toolkit_.FindForm(form);
     if (!model)
         return std::string(form) + " does not exist";
-    if (auto refusal = model->Refusal(); !refusal.empty())
-        return refusal;
+    if (!model->MayBeClosed())
+        return model->Refusal();
     model->UserCloses();
     return {};
 }

@@ -107,8 +107,7 @@ void FormWidget::paintEvent(QPaintEvent* event)
 void FormWidget::closeEvent(QCloseEvent* event)
 {
     event->ignore();
-    if (model_.Refusal().empty())
-        model_.UserCloses();
+    model_.UserCloses();
 }
 
 void FormWidget::resizeEvent(QResizeEvent*)

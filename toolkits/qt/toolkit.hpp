@@ -28,8 +28,6 @@ public:
     Date Today() const { return clock_.Now().date; }
 
     void ProcessPendingEvents() override;
-    void PauseBegins(Double) override { }
-    void PauseEnds() override { }
     Twips ScreenWidth() const override;
     Twips TwipsPerPixelX() const override { return 15; }
     void SetRoundRectRegion(Long handle, int ellipseWidth, int ellipseHeight) override;

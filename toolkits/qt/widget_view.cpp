@@ -1,5 +1,6 @@
 #include "toolkits/qt/widget_view.hpp"
 
+#include "toolkits/common/edit_core.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/form.hpp"
@@ -42,18 +43,22 @@ public:
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason
             || reason == Qt::TabFocusReason)
-            Forward();
+            Forward(reason);
         return false;
     }
 
 private:
-    // Qt has moved its focus already, which a form that takes no input has not wanted.
-    void Forward()
+    // Qt has moved its focus already, which a form that takes no input has not wanted. A mnemonic enters a
+    // field as Tab does: its text is selected.
+    void Forward(Qt::FocusReason reason)
     {
         toolkit::WidgetCore& core = core_;
         core.UserFocuses();
+        auto* edit = dynamic_cast<toolkit::EditCore*>(&core);
         if (!core.HasFocus())
             ShowFocusOf(core.GetForm());
+        else if (edit && reason == Qt::ShortcutFocusReason)
+            edit->UserSelectsAll();
     }
 
     toolkit::WidgetCore& core_;

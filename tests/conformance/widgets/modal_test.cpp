@@ -56,6 +56,30 @@ TEST_P(ModalForms, ReturnOnceTheUserClosesTheWindow)
     EXPECT_FALSE(dialog_->IsLoaded());
 }
 
+TEST_P(ModalForms, CanBeClosedByTheUserAlsoWhereTheyWereLeftDisabled)
+{
+    Then([this] {
+        dialog_->Enabled(false);
+        User().CloseWindow(*dialog_);
+    });
+    dialog_->Show(ShowMode::Modal);
+    EXPECT_FALSE(dialog_->IsLoaded());
+}
+
+TEST_P(ModalForms, CannotBeClosedByTheUserDuringAPause)
+{
+    Then([this] {
+        dialog_->Enabled(false);
+        Kit().PauseBegins(1);
+        User().CloseWindow(*dialog_);
+        Kit().PauseEnds();
+        events_.push_back(dialog_->IsLoaded() ? "still there" : "gone");
+        dialog_->Hide();
+    });
+    dialog_->Show(ShowMode::Modal);
+    EXPECT_EQ(TakeEvents(), (Events{"still there"}));
+}
+
 TEST_P(ModalForms, ReturnAfterTheHandlerThatHidesThemHasEnded)
 {
     Bind<KVCommandButton>(dialog_, "kvcmd").OnClick([this] {

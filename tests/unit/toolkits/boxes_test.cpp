@@ -1,4 +1,5 @@
 #include "tests/unit/toolkits/fixture.hpp"
+#include "toolkits/common/edit_core.hpp"
 
 #include "toolkits/common/date_box.hpp"
 #include "toolkits/common/number_box.hpp"
@@ -170,6 +171,7 @@ TEST_F(SmallBoxes, NumberAsksItsHandlerBeforeTheLimitCounts)
 TEST_F(SmallBoxes, NumberReportsBackspaceAsEight)
 {
     auto& number = Get<KVNumberBox>("kvnum");
+    number.SetFocus();
     number.Text("12");
     bool keep = true;
     number.OnKeyPress([&](Integer& character) {
@@ -230,6 +232,15 @@ TEST_F(SmallBoxes, SentKeysSelectFromTheCaretToTheStart)
     ModelOf<toolkit::TextBoxModel>("kvtxt").UserTypes(U'z');
     EXPECT_EQ(Get<KVTextBox>("kvtxt").Text(), "z");
     EXPECT_EQ(FailureOf([this] { toolkit_.SendKeys("{F1}"); }), 5);
+}
+
+TEST_F(SmallBoxes, ATextWrittenByCodeShowsItsBeginningUnlessTheUserIsInTheBox)
+{
+    Get<KVTextBox>("kvtxt").Text("Rua das Flores");
+    EXPECT_EQ(ModelOf<toolkit::EditCore>("kvtxt").ShownSelection().caret, 0U);
+    Get<KVTextBox>("kvtxt").SetFocus();
+    Get<KVTextBox>("kvtxt").Text("Rua");
+    EXPECT_EQ(ModelOf<toolkit::EditCore>("kvtxt").ShownSelection().caret, 3U);
 }
 
 } // namespace kova::headless
