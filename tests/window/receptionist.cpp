@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QKeySequence>
 #include <QMenu>
-#include <QMessageBox>
 #include <QTest>
 #include <QTimerEvent>
 
@@ -119,8 +118,10 @@ Receptionist& Receptionist::WaitsFor(const std::string& form)
 
 Receptionist& Receptionist::Answers(const std::string& key)
 {
-    return Then({"answer " + key, [] { return OpenBox() != nullptr; },
+    // A button pressed by its letter goes down for a moment: the box answered last may still be open.
+    return Then({"answer " + key, [this] { return OpenBox() && OpenBox() != answered_; },
                  [this, key] {
+                     answered_ = OpenBox();
                      boxes_.push_back(OpenBox()->text().toStdString());
                      SendKeys(key);
                  }});

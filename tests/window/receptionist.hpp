@@ -3,7 +3,9 @@
 #include "toolkits/qt/form.hpp"
 
 #include <QElapsedTimer>
+#include <QMessageBox>
 #include <QObject>
+#include <QPointer>
 
 #include <deque>
 #include <functional>
@@ -57,6 +59,7 @@ private:
     QElapsedTimer waiting_;
     bool typing_ = false;
     std::vector<std::string> boxes_;
+    QPointer<QMessageBox> answered_;
 };
 
 } // namespace kova::window_test
