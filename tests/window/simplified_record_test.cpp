@@ -4,6 +4,9 @@
 
 #include "agenda/contracts/widgets.hpp"
 
+#include <QApplication>
+#include <QClipboard>
+
 namespace kova::window_test {
 
 namespace {
@@ -39,7 +42,18 @@ protected:
     void ChooseEmployee()
     {
         receptionist->Looks([] { Receptionist::Control(Form, "kvcmbFuncionarios").SetFocus(); });
-        receptionist->Presses("Down").Presses("Tab").Types("Muito bravo").Presses("Ctrl+S");
+        receptionist->Presses("Down").Presses("Tab").Types("Muito bravo");
+    }
+    void BookAndSave()
+    {
+        Book();
+        ChooseEmployee();
+        receptionist->Presses("Ctrl+S").WaitsFor("frmLista");
+    }
+    /// What the name's box of the open form shows.
+    static std::string NameInTheForm()
+    {
+        return As<KVTextBox>(Receptionist::Control(Form, "kvtxtNomeOuRazaoSocialDoCliente"))->Text();
     }
 
     std::string focusBehindTime_;
@@ -47,9 +61,8 @@ protected:
 
 TEST_F(SimplifiedRecord, IsBookedByKeyboardAlone)
 {
-    Book();
-    ChooseEmployee();
-    receptionist->WaitsFor("frmLista").Leaves();
+    BookAndSave();
+    receptionist->Leaves();
     Run();
     EXPECT_EQ(receptionist->Boxes(), std::vector<std::string>{});
     EXPECT_EQ(focusBehindTime_, "frmFichaSimplificada.kvdtpDataFinal");
@@ -62,10 +75,9 @@ TEST_F(SimplifiedRecord, IsBookedByKeyboardAlone)
 
 TEST_F(SimplifiedRecord, IsDetailedAlteredAndDeletedByKeyboardAlone)
 {
-    Book();
-    ChooseEmployee();
+    BookAndSave();
     std::string detail, altered;
-    receptionist->WaitsFor("frmLista").Presses("F7").Presses("Down").Presses("F4").WaitsFor(Form);
+    receptionist->Presses("F7").Presses("Down").Presses("F4").WaitsFor(Form);
     receptionist->Looks([&] {
         detail = As<KVTheme>(Receptionist::Control(Form, "KVTheme"))->Caption();
         As<KVCommandButton>(Receptionist::Control(Form, "kvcmdCancelarAlterar"))->SetFocus();
@@ -87,6 +99,64 @@ TEST_F(SimplifiedRecord, IsDetailedAlteredAndDeletedByKeyboardAlone)
     EXPECT_EQ(Value("select count(*) from agendamento where data_inicial = '2026-11-20'"), "0");
     EXPECT_EQ(Query("select operacao from auditoria where tabela = 'agendamento' order by codigo"),
               (std::vector<std::string>{"inclusao", "alteracao", "exclusao"}));
+}
+
+TEST_F(SimplifiedRecord, IsRefusedForAnEmployeeWhoBecameInactiveMeanwhileAndKeepsWhatWasTyped)
+{
+    Book();
+    ChooseEmployee();
+    std::string name, focus;
+    receptionist->Looks([&] { Execute("update funcionario set situacao = 2"); }).Presses("Ctrl+S");
+    receptionist->Answers("Return").WaitsFor(Form).Looks([&] {
+        name = NameInTheForm();
+        focus = Receptionist::Focused();
+    });
+    receptionist->Presses("Escape").WaitsFor("frmLista").Leaves();
+    Run();
+    EXPECT_EQ(receptionist->Boxes(), (std::vector<std::string>{"Selecione o(a) funcionário(a)."}));
+    EXPECT_EQ(name, "João d'Ávila \"Zé\"");
+    EXPECT_EQ(focus, "frmFichaSimplificada.kvcmbFuncionarios");
+    EXPECT_EQ(Value("select count(*) from agendamento where data_inicial = '2026-11-20'"), "0");
+}
+
+TEST_F(SimplifiedRecord, ThatAnotherDeskDeletedMeanwhileIsToldWhenItIsSaved)
+{
+    BookAndSave();
+    receptionist->Presses("F7").Presses("Down").Presses("F6").WaitsFor(Form).Looks(
+        [&] { Execute("delete from agendamento where data_inicial = '2026-11-20'"); });
+    receptionist->Presses("Ctrl+S").Answers("Return").WaitsFor("frmLista").Leaves();
+    Run();
+    EXPECT_EQ(receptionist->Boxes(), (std::vector<std::string>{"O agendamento não existe mais."}));
+}
+
+TEST_F(SimplifiedRecord, StoresPastedTextsAsTheyAreOnOneLine)
+{
+    const std::string pasted = "Ação 🐶 \"x\" '); drop table agendamento;-- אבג\r\nfim";
+    Book();
+    receptionist->Looks([&] {
+        QApplication::clipboard()->setText(QString::fromStdString(pasted));
+        Receptionist::Control(Form, "kvtxtNomeOuRazaoSocialDoCliente").SetFocus();
+    });
+    receptionist->Presses("Ctrl+A").Presses("Ctrl+V");
+    ChooseEmployee();
+    receptionist->Presses("Ctrl+S").WaitsFor("frmLista").Leaves();
+    Run();
+    const std::string stored =
+        Value("select nome_do_cliente from agendamento where data_inicial = '2026-11-20'");
+    EXPECT_EQ(stored.find_first_of("\r\n"), std::string::npos);
+    EXPECT_TRUE(stored.starts_with("Ação 🐶 \"x\" '); drop table agendamento;-- אבג")) << stored;
+    EXPECT_TRUE(stored.ends_with("fim")) << stored;
+}
+
+TEST_F(SimplifiedRecord, IsRefusedWithATimeThatIsNone)
+{
+    Book();
+    receptionist->Looks([] { Receptionist::Control(Form, "kvtimHoraInicial").SetFocus(); });
+    receptionist->Presses("Ctrl+A").Types("2400").Presses("Tab").Presses("Ctrl+S").Answers("Return");
+    receptionist->WaitsFor(Form).Presses("Escape").WaitsFor("frmLista").Leaves();
+    Run();
+    EXPECT_EQ(receptionist->Boxes(), (std::vector<std::string>{"Informe uma hora inicial válida."}));
+    EXPECT_EQ(Value("select count(*) from agendamento where data_inicial = '2026-11-20'"), "0");
 }
 
 } // namespace
