@@ -5,12 +5,15 @@
 #include "agenda/shared/module_platform.hpp"
 #include "bench/paint_watch.hpp"
 #include "family/business/agenda.hpp"
+#include "family/business/customers.hpp"
 #include "family/business/employees.hpp"
 #include "family/business/service_types.hpp"
+#include "family/business/system_version.hpp"
 #include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/qt/handles.hpp"
+#include "toolkits/qt/theme.hpp"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMouseEvent>
 
 #include <cstdlib>
@@ -47,6 +50,10 @@ ComponentRef DataComponents::CreateObject(std::string_view className)
         return std::make_shared<family::ServiceTypes>(host_);
     if (className == family::Employees::ClassName)
         return std::make_shared<family::Employees>(host_);
+    if (className == family::Customers::ClassName)
+        return std::make_shared<family::Customers>(host_);
+    if (className == family::SystemVersion::ClassName)
+        return std::make_shared<family::SystemVersion>(host_);
     return std::make_shared<ErrorScreen>();
 }
 
@@ -103,6 +110,24 @@ void ListProgram::MoveMouseTo(int row)
     QMouseEvent event(QEvent::MouseMove, place, grid_->mapToGlobal(place), Qt::NoButton, Qt::NoButton,
                       Qt::NoModifier);
     QCoreApplication::sendEvent(grid_, &event);
+}
+
+int MeasureOnDay(int count, char** words, const char* name, void (*measure)(const std::string&, Date))
+{
+    const std::optional<Date> day = count == 3 ? ParseDate(words[2]) : std::nullopt;
+    if (!day) {
+        std::cerr << "usage: " << name << " DATABASE dd/mm/yyyy" << std::endl;
+        return 2;
+    }
+    try {
+        QApplication application(count, words);
+        qt::ApplyLook(application);
+        measure(words[1], *day);
+        return 0;
+    } catch (const std::exception& failure) {
+        std::cerr << name << ": " << failure.what() << std::endl;
+        return 1;
+    }
 }
 
 } // namespace kova::bench

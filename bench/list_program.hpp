@@ -59,4 +59,9 @@ private:
     qt::GridCanvas* grid_ = nullptr;
 };
 
+/// The main function of a measuring program that takes "DATABASE dd/mm/yyyy": 0 when it has measured, 1 where
+/// that failed, 2 where the arguments are not these two.
+int MeasureOnDay(int count, char** words, const char* name,
+                 void (*measure)(const std::string& database, Date day));
+
 } // namespace kova::bench

@@ -7,11 +7,7 @@
 #include "bench/paint_watch.hpp"
 #include "family/data/day_selection.hpp"
 #include "family/data/iso_text.hpp"
-#include "toolkits/qt/theme.hpp"
 
-#include <QApplication>
-
-#include <iostream>
 #include <stdexcept>
 
 namespace kova::bench {
@@ -82,29 +78,11 @@ void Measure(const std::string& path, Date day)
               "ms", ReloadLimit);
 }
 
-int Run(int count, char** words)
-{
-    const std::optional<Date> day = count == 3 ? ParseDate(words[2]) : std::nullopt;
-    if (!day) {
-        std::cerr << "usage: bench_reload DATABASE dd/mm/yyyy" << std::endl;
-        return 2;
-    }
-    QApplication application(count, words);
-    qt::ApplyLook(application);
-    Measure(words[1], *day);
-    return 0;
-}
-
 } // namespace
 
 } // namespace kova::bench
 
 int main(int count, char** words)
 {
-    try {
-        return kova::bench::Run(count, words);
-    } catch (const std::exception& failure) {
-        std::cerr << "bench_reload: " << failure.what() << std::endl;
-        return 1;
-    }
+    return kova::bench::MeasureOnDay(count, words, "bench_reload", kova::bench::Measure);
 }
