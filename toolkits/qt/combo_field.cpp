@@ -242,7 +242,8 @@ void ComboField::paintEvent(QPaintEvent*)
     PaintField(painter, rect(), state, look::Paper);
     const QRectF area = QRectF(rect()).adjusted(Inset, 0, -EndWidth, 0);
     painter.setFont(font());
-    painter.setPen(isEnabled() ? look::Ink : look::MutedInk);
+    // What a disabled box shows is still to be read.
+    painter.setPen(look::Ink);
     const QString shown = QFontMetricsF(font()).elidedText(text_, Qt::ElideRight, area.width());
     painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, shown);
     const double size = std::min(18.0, height() - 4.0);
