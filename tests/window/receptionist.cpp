@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTimerEvent>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 
@@ -41,16 +42,21 @@ QWidget* TopInFront()
     return nullptr;
 }
 
+/// A desktop gives the keyboard back to the window behind a dialog that closed. There is none here, and
+/// without it the letters of the labels lead nowhere.
+bool FrontHasKeyboard()
+{
+    QWidget* top = TopInFront();
+    if (!top || QApplication::activePopupWidget() || top->isActiveWindow())
+        return true;
+    top->activateWindow();
+    return top->isActiveWindow();
+}
+
 bool TakesInput()
 {
     const toolkit::FormModel* form = Receptionist::FormInFront();
     return form != nullptr && form->Refusal().empty() && !form->GetToolkit().IsInsideEvent();
-}
-
-bool TakesInputInModal()
-{
-    const toolkit::FormModel* form = Receptionist::FormInFront();
-    return form != nullptr && form->Refusal().empty();
 }
 
 void SendKeys(const std::string& keys)
@@ -94,13 +100,19 @@ Receptionist::Receptionist()
 
 Receptionist& Receptionist::Presses(const std::string& keys)
 {
-    return Then({"press " + keys, TakesInputInModal, [keys] { SendKeys(keys); }});
+    return Then({"press " + keys, [this] { return FrontIsIdle(); },
+                 [this, keys] {
+                     handling_.push_back(FormInFront());
+                     SendKeys(keys);
+                     handling_.pop_back();
+                 }});
 }
 
 Receptionist& Receptionist::Types(const std::string& text)
 {
     // Sending a key lets other events happen: nothing else is begun between two characters.
-    return Then({"type " + text, TakesInputInModal, [this, text] {
+    return Then({"type " + text, [this] { return FrontIsIdle(); },
+                 [this, text] {
                      typing_ = true;
                      SendText(text);
                      typing_ = false;
@@ -109,10 +121,7 @@ Receptionist& Receptionist::Types(const std::string& text)
 
 Receptionist& Receptionist::WaitsFor(const std::string& form)
 {
-    const auto inFront = [form] {
-        const toolkit::FormModel* front = FormInFront();
-        return front && front->Design().name == form && front->Refusal().empty();
-    };
+    const auto inFront = [this, form] { return FrontIsIdle() && FormInFront()->Design().name == form; };
     return Then({"wait for " + form, inFront, [] {}});
 }
 
@@ -142,12 +151,19 @@ Receptionist& Receptionist::Picks(const std::string& entry)
 
 Receptionist& Receptionist::Looks(std::function<void()> look)
 {
-    return Then({"look", TakesInputInModal, std::move(look)});
+    return Then({"look", [this] { return FrontIsIdle(); }, std::move(look)});
 }
 
 void Receptionist::Leaves()
 {
     Then({"leave", TakesInput, [] { TopInFront()->close(); }});
+}
+
+bool Receptionist::FrontIsIdle() const
+{
+    const toolkit::FormModel* form = FormInFront();
+    const bool handling = std::find(handling_.begin(), handling_.end(), form) != handling_.end();
+    return form && form->Refusal().empty() && !handling;
 }
 
 toolkit::FormModel* Receptionist::FormInFront()
@@ -189,7 +205,7 @@ void Receptionist::timerEvent(QTimerEvent* event)
     Arm();
     if (steps_.empty() || typing_)
         return;
-    if (!steps_.front().ready()) {
+    if (!FrontHasKeyboard() || !steps_.front().ready()) {
         if (waiting_.elapsed() < PatienceMilliseconds)
             return;
         std::cerr << "cannot " << steps_.front().what << ": " << WhatIsInFront() << std::endl;

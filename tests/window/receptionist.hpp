@@ -54,10 +54,15 @@ private:
     };
     Receptionist& Then(Step step);
     void Arm();
+    /// Whether the form in front takes input and has done with the last key. A search may let other events
+    /// happen while it runs; a key in a dialog that the last key has opened is another form's.
+    bool FrontIsIdle() const;
 
     std::deque<Step> steps_;
     QElapsedTimer waiting_;
     bool typing_ = false;
+    /// The forms that had the keys not returned from yet, the innermost last.
+    std::vector<const toolkit::FormModel*> handling_;
     std::vector<std::string> boxes_;
     QPointer<QMessageBox> answered_;
 };
