@@ -120,9 +120,9 @@ public:
     void UserResizes(InnerSize inner);
     void UserMoves(Twips left, Twips top);
     void UserPressesKey(FormKey key);
-    /// A key that is not a character, such as "F4" or "Ctrl+1": presses the button or enters the box that
-    /// has it, where the user can act on it, or shows the form's keys. A button leaves the focus where it
-    /// was. False where the key means nothing here.
+    /// A key that is not a character, such as "F4" or "Ctrl+1": presses the button, chooses the option or
+    /// enters the box that has it, where the user can act on it, or shows the form's keys. A button leaves
+    /// the focus where it was. False where the key means nothing here.
     bool UserPressesShortcut(std::string_view shortcut);
 
     // For widgets.

@@ -62,6 +62,10 @@ bool FormModel::UserPressesShortcut(std::string_view shortcut)
             if (auto* button = dynamic_cast<CommandButtonModel*>(widget.get()))
                 return PressByShortcut(*button);
             MoveFocus(widget.get());
+            if (widget->KindOfWidget() == WidgetKind::OptionButton && widget->HasFocus()) {
+                widget->TakesEnter();
+                return;
+            }
             if (auto* edit = dynamic_cast<EditCore*>(widget.get()); edit && widget->HasFocus())
                 edit->UserSelectsAll();
             return;

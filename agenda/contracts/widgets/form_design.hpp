@@ -66,8 +66,8 @@ struct ControlDesign {
     bool isDefault = false;
     bool isCancel = false;
 
-    /// The key that presses a button or puts the focus on a box from anywhere in the form, such as "F4",
-    /// "Ctrl+1" or "Alt+Left"; "" is none. F1 lists the keys of a form that has any.
+    /// The key that presses a button, chooses an option or puts the focus on a box from anywhere in the form,
+    /// such as "F4", "Ctrl+1" or "Alt+Left"; "" is none. F1 lists the keys of a form that has any.
     std::string shortcut = {};
 
     /// Images.

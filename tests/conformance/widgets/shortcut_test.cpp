@@ -14,7 +14,13 @@ protected:
         Has(WidgetKind::KVCommandButton, "kvcmdAtendido").shortcut = "Ctrl+2";
         Has(WidgetKind::KVCommandButton, "kvcmdAnterior").shortcut = "Alt+Left";
         Has(WidgetKind::KVFind, "kvfnd").shortcut = "F3";
+        for (const int index : {1, 2}) {
+            ControlDesign& option = Has(WidgetKind::OptionButton, "opt");
+            option.index = index;
+            option.shortcut = index == 2 ? "Alt+L" : "Alt+D";
+        }
         Open();
+        Get<OptionButton>("opt", 2).OnClick([this](Integer) { events_.push_back("option"); });
         for (const char* name : {"kvcmdDetalhar", "kvcmdAtendido", "kvcmdAnterior"})
             Get<KVCommandButton>(name).OnClick(Note(name));
     }
@@ -84,6 +90,13 @@ TEST_P(Shortcuts, EnterABox)
 {
     User().Shortcut(*form_, "F3");
     EXPECT_EQ(Focused(), "kvfnd");
+}
+
+TEST_P(Shortcuts, ChooseAnOption)
+{
+    User().Shortcut(*form_, "Alt+L");
+    EXPECT_TRUE(Get<OptionButton>("opt", 2).Value());
+    EXPECT_EQ(TakeEvents(), (Events{"option"}));
 }
 
 TEST_P(Shortcuts, SurviveAHandlerThatUnloadsTheForm)

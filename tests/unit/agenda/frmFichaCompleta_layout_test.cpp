@@ -157,16 +157,14 @@ TEST_F(FichaCompletaLayout, EscapePressesTheSecondButton)
     EXPECT_FALSE(ficha->OperacaoConcluida);
 }
 
-TEST_F(FichaCompletaLayout, AKeyLeadsToTheChoiceOfTheSearch)
+TEST_F(FichaCompletaLayout, AKeyMakesTheChoiceOfTheSearch)
 {
     Show(operacao::Adicionar, [this] {
         EXPECT_EQ(user.PressShortcut(Form, "Alt+L"), "");
-        Key(toolkit::FormKey::Enter);
         EXPECT_TRUE(ficha->kvfNomeDoAnimal.Visible());
         Key(toolkit::FormKey::Tab);
         EXPECT_EQ(Focused(), "kvfNomeDoAnimal") << "the customer's boxes are passed by";
         EXPECT_EQ(user.PressShortcut(Form, "Alt+D"), "");
-        Key(toolkit::FormKey::Enter);
         Key(toolkit::FormKey::Tab);
         EXPECT_EQ(Focused(), "kvfCodigoDoCliente");
     });
