@@ -122,6 +122,17 @@ void frmLista::LigarEventos()
     kvcmdMarcarAgendamentoComoAtendidoEGeradoPreVenda.OnClick(
         [this] { kvcmdMarcarAgendamentoComoAtendidoEGeradoPreVenda_Click(); });
 
+    kvcmdImprimirLista.OnClick([this] { kvcmdImprimirLista_Click(); });
+    mnuImprimirListaDeAgendamentos.OnClick([this] { mnuImprimirListaDeAgendamentos_Click(); });
+    mnuImprimirListaDeAgendamentosParaTransporte.OnClick(
+        [this] { mnuImprimirListaDeAgendamentosParaTransporte_Click(); });
+    kvcmdImprimirFicha.OnClick([this] { kvcmdImprimirFicha_Click(); });
+    mnuImprimirFichaDoAgendamentoParaTransporte.OnClick(
+        [this] { mnuImprimirFichaDoAgendamentoParaTransporte_Click(); });
+    mnuImprimirFichaDoAgendamentoParaInspecaoDoAnimal.OnClick(
+        [this] { mnuImprimirFichaDoAgendamentoParaInspecaoDoAnimal_Click(); });
+    mnuImprimirEtiquetaDeEndereco.OnClick([this] { mnuImprimirEtiquetaDeEndereco_Click(); });
+
     msfgGrade.OnSelChange([this] { msfgGrade_SelChange(); });
     msfgGrade.OnMouseMove([this](Integer Button, Integer Shift, Twips X, Twips Y) {
         msfgGrade_MouseMove(Button, Shift, X, Y);

@@ -9,14 +9,16 @@
 namespace kova::agenda {
 
 class FichaDeAgendamento;
+struct FichaImpressa;
 
 /// The module's main screen: one day's appointments in a paged grid, with filters above it, a detail
 /// panel below it and the buttons of the row under the mouse.
 ///
 /// Its procedures lie by concern: frmLista.cpp sets it up, frmLista_list.cpp loads and pages it,
 /// frmLista_grid.cpp fills the grid and follows the mouse, frmLista_filters.cpp answers the filters,
-/// frmLista_status.cpp the status buttons, frmLista_records.cpp opens the record forms, frmLista_panel.cpp
-/// and frmLista_layout.cpp place things, frmLista_wait.cpp shows the wait plate.
+/// frmLista_status.cpp the status buttons, frmLista_records.cpp opens the record forms, frmLista_printing.cpp
+/// the list's print dialog, frmLista_cards.cpp prints what concerns one row, frmLista_panel.cpp and
+/// frmLista_layout.cpp place things, frmLista_wait.cpp shows the wait plate.
 class frmLista : public std::enable_shared_from_this<frmLista> {
 public:
     /// A new list, hidden, on the toolkit of the host. It lives until its form is unloaded.
@@ -205,7 +207,8 @@ private:
     void CopiarSituacoes(KVComboBox& destino, Integer ultima);
     void CopiarTiposDeServicos(KVComboBox& destino, KVComboBox& comboALimpar);
     void CopiarFuncionarios(KVComboBox& destino);
-    void CopiarLinhas(KVComboBox& fonte, KVComboBox& destino, Integer ultima);
+    /// Adds the filter's rows from `primeira` to `ultima` to another combo.
+    void CopiarLinhas(KVComboBox& fonte, KVComboBox& destino, Integer primeira, Integer ultima);
     void Escolher(KVComboBox& combo, Integer linha);
 
     void kvcmdMarcarAgendamentoComoAgendado_Click();
@@ -217,6 +220,21 @@ private:
     Text MotivoParaNaoGerarPreVenda();
     bool PerguntarPeloPacote(Integer SituacaoNova);
     Double NumeroDaCelula(Long coluna);
+
+    void kvcmdImprimirLista_Click();
+    void mnuImprimirListaDeAgendamentos_Click();
+    void mnuImprimirListaDeAgendamentosParaTransporte_Click();
+    void AbrirImpressaoDaLista(Integer Tipo, Integer& Ponto);
+    void CopiarFiltro(KVComboBox& fonte, KVComboBox& destino);
+
+    void kvcmdImprimirFicha_Click();
+    void mnuImprimirFichaDoAgendamentoParaTransporte_Click();
+    void mnuImprimirFichaDoAgendamentoParaInspecaoDoAnimal_Click();
+    /// 1 where it gave up, 0 when it ran to its end.
+    Integer ImprimirFichaDoAgendamentoParaTransporte();
+    Integer ImprimirFichaDoAgendamentoParaInspecaoDoAnimal();
+    Integer ImprimirFicha(const FichaImpressa& ficha, Integer& Ponto);
+    void mnuImprimirEtiquetaDeEndereco_Click();
 
     void PreencherRotulosDoPainel(MSFlexGrid& grade);
     void AlinharRotulosDoPainel();

@@ -194,7 +194,7 @@ void frmLista::CopiarSituacoes(KVComboBox& destino, Integer ultima)
 {
     destino.Clear();
     const Integer escolhida = kvcmbSituacao.ListIndex();
-    CopiarLinhas(kvcmbSituacao, destino, ultima);
+    CopiarLinhas(kvcmbSituacao, destino, 1, ultima);
     Escolher(kvcmbSituacao, escolhida);
 }
 
@@ -204,7 +204,7 @@ void frmLista::CopiarTiposDeServicos(KVComboBox& destino, KVComboBox& comboALimp
     const Integer escolhido = kvcmbTiposDeServicos.ListIndex();
     destino.AddItem(TodosOsTipos);
     destino.ItemData(destino.NewIndex(), 0);
-    CopiarLinhas(kvcmbTiposDeServicos, destino, Checked(kvcmbTiposDeServicos.ListCount() - 1));
+    CopiarLinhas(kvcmbTiposDeServicos, destino, 1, Checked(kvcmbTiposDeServicos.ListCount() - 1));
     // The filter chosen on the list is what the record starts with.
     Escolher(destino, escolhido);
     Escolher(kvcmbTiposDeServicos, escolhido);
@@ -214,7 +214,7 @@ void frmLista::CopiarFuncionarios(KVComboBox& destino)
 {
     destino.Clear();
     const Integer escolhido = kvcmbFuncionarios.ListIndex();
-    CopiarLinhas(kvcmbFuncionarios, destino, Checked(kvcmbFuncionarios.ListCount() - 1));
+    CopiarLinhas(kvcmbFuncionarios, destino, 1, Checked(kvcmbFuncionarios.ListCount() - 1));
     IgnorarClick = true;
     // One less, as "(Funcionários)" stays behind.
     if (escolhido != 0)
@@ -222,10 +222,11 @@ void frmLista::CopiarFuncionarios(KVComboBox& destino)
     Escolher(kvcmbFuncionarios, escolhido);
 }
 
-// The first row, the one that filters nothing, stays behind. The filter really moves while it is copied.
-void frmLista::CopiarLinhas(KVComboBox& fonte, KVComboBox& destino, Integer ultima)
+// The filter really moves while it is copied. A record form leaves row 0 behind, the one that filters
+// nothing.
+void frmLista::CopiarLinhas(KVComboBox& fonte, KVComboBox& destino, Integer primeira, Integer ultima)
 {
-    for (Integer linha = 1; linha <= ultima; ++linha) {
+    for (Integer linha = primeira; linha <= ultima; ++linha) {
         Escolher(fonte, linha);
         destino.AddItem(fonte.Text());
         destino.ItemData(destino.NewIndex(), fonte.ItemData(fonte.ListIndex()));

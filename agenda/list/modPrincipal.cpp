@@ -1,6 +1,7 @@
 #include "agenda/list/modPrincipal.hpp"
 
 #include "agenda/list/frmLista.hpp"
+#include "agenda/printing/frmImprimirAgenda.hpp"
 
 #include <utility>
 

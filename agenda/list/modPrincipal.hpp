@@ -1,5 +1,6 @@
 #pragma once
 
+#include "agenda/contracts/reports.hpp"
 #include "agenda/contracts/value.hpp"
 
 #include <memory>
@@ -9,6 +10,7 @@ namespace kova::agenda {
 
 class frmFichaCompleta;
 class frmFichaSimplificada;
+class frmImprimirAgenda;
 class frmLista;
 
 /// State of the module that more than one screen reads. One instance lives until the library is
@@ -38,6 +40,14 @@ struct modPrincipal {
     /// after each unload.
     std::shared_ptr<frmFichaCompleta> FichaCompletaImplicita;
     std::shared_ptr<frmFichaSimplificada> FichaSimplificadaImplicita;
+    /// The print dialog's shared instance; null until its first use and after each unload.
+    std::shared_ptr<frmImprimirAgenda> ImprimirAgendaImplicita;
+
+    /// The module's reports, one of each; null until their first use.
+    ReportRef drListaDeAgendamentos;
+    ReportRef drListaDeAgendamentosParaTransporte;
+    ReportRef drFichaDoAgendamentoParaTransporte;
+    ReportRef drFichaDoAgendamentoParaInspecaoDoAnimal;
 
     /// Lists that are on the screen. A list belongs to the shell's window: it lives here until its form
     /// is unloaded, also when a later AbrirLista has taken its place above.

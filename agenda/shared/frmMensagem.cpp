@@ -8,6 +8,8 @@
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 
+#include <exception>
+
 namespace kova::agenda {
 
 namespace {
@@ -31,7 +33,17 @@ frmMensagem::frmMensagem() : Formulario(ThePlatform().Toolkit().CreateForm(Desen
     Formulario->OnUnload([this](bool&) { Form_Unload(); });
 }
 
-frmMensagem::~frmMensagem() { Formulario->Unload(); }
+frmMensagem::~frmMensagem()
+{
+    // Its maker unloads it; this is for a maker that failed before.
+    if (!Formulario->IsLoaded())
+        return;
+    try {
+        Formulario->Unload();
+    } catch (const std::exception&) {
+        // The maker has reported its own failure, and the window goes with its last reference.
+    }
+}
 
 Integer frmMensagem::MontarExibirFormulario()
 {

@@ -1,6 +1,7 @@
 #include "agenda/contracts/component_library.hpp"
 #include "family/presentation/clsFundoEscuro.hpp"
 #include "family/presentation/clsMensagem.hpp"
+#include "family/presentation/clsMensagemDeAcesso.hpp"
 
 namespace {
 
@@ -11,6 +12,8 @@ kova::ComponentLibrary& Library()
          +[](kova::ServerHost&) { return std::make_unique<kova::family::clsMensagem>(); }},
         {"KOVA_A_EfeitosDeTela.clsFundoEscuro", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E2}",
          +[](kova::ServerHost&) { return std::make_unique<kova::family::clsFundoEscuro>(); }},
+        {"KOVA_A_MsgAcesso.clsMensagem", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E3}",
+         +[](kova::ServerHost&) { return std::make_unique<kova::family::clsMensagemDeAcesso>(); }},
     });
     return library;
 }

@@ -1,0 +1,97 @@
+// Printing the list: its menu, and the dialog that gets the list's filters.
+
+#include "agenda/contracts/text.hpp"
+#include "agenda/list/frmLista.hpp"
+#include "agenda/list/modPrincipal.hpp"
+#include "agenda/printing/frmImprimirAgenda.hpp"
+#include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/trap.hpp"
+
+namespace kova::agenda {
+
+void frmLista::kvcmdImprimirLista_Click()
+{
+    Integer Ponto = 0;
+    Trap(", frmLista, kvcmdImprimirLista_Click, Ponto: ", Ponto, [&] {
+        Ponto = 1;
+        mnuImprimirListaDeAgendamentos.Caption("Lista dos agendamentos");
+        mnuImprimirListaDeAgendamentosParaTransporte.Caption("Lista dos agendamentos para transporte");
+        Ponto = 2;
+        Formulario->PopupMenu(mnuImprimirLista, kvcmdImprimirLista.Left(),
+                              kvcmdImprimirLista.Top() + kvcmdImprimirLista.Height());
+    });
+}
+
+void frmLista::mnuImprimirListaDeAgendamentos_Click()
+{
+    Integer Ponto = 0;
+    Trap(", frmLista, mnuImprimirListaDeAgendamentos_Click, Ponto: ", Ponto,
+         [&] { AbrirImpressaoDaLista(tipo_da_lista::Agendamentos, Ponto); });
+}
+
+void frmLista::mnuImprimirListaDeAgendamentosParaTransporte_Click()
+{
+    Integer Ponto = 0;
+    Trap(", frmLista, mnuImprimirListaDeAgendamentosParaTransporte_Click, Ponto: ", Ponto,
+         [&] { AbrirImpressaoDaLista(tipo_da_lista::Transporte, Ponto); });
+}
+
+void frmLista::AbrirImpressaoDaLista(Integer Tipo, Integer& Ponto)
+{
+    // 1. What is on the screen decides, whatever other filters would find.
+    Ponto = 1;
+    if (ResultadoDaSelecao()->RecordCount() == 0) {
+        ExibirInformacao("Nenhum agendamento encontrado para impressão.");
+        return;
+    }
+
+    // 2. Also under a filter: this becomes the page to come back to.
+    Ponto = 2;
+    PaginaSalva = Checked(ResultadoDaSelecao()->AbsolutePage());
+
+    // 3. The dialog's one instance is made at its first use and goes when it is closed.
+    Ponto = 3;
+    auto& instancia = Principal().ImprimirAgendaImplicita;
+    if (!instancia)
+        instancia = frmImprimirAgenda::Criar();
+    const std::shared_ptr<frmImprimirAgenda> dialogo = instancia;
+    dialogo->TipoDaListaASerImpressa(Tipo);
+    dialogo->Formulario->Load();
+
+    // 4. The filters' rows go over, with what is chosen in them.
+    Ponto = 4;
+    CopiarFiltro(kvcmbSituacao, dialogo->kvcmbSituacao);
+    Ponto = 5;
+    CopiarFiltro(kvcmbTiposDeServicos, dialogo->kvcmbTiposDeServicos);
+    Ponto = 6;
+    CopiarFiltro(kvcmbFuncionarios, dialogo->kvcmbFuncionarios);
+
+    // 5. and 6.
+    Ponto = 7;
+    Formulario->Refresh();
+    if (Tipo == tipo_da_lista::Transporte)
+        dialogo->kvTheme.Caption("Imprimir lista para transporte");
+
+    // 7.
+    Ponto = 8;
+    dialogo->MontarExibirFormulario();
+
+    // 8. The list is fresh on the same page, also where nothing was printed.
+    Ponto = 9;
+    if (GerarLista() == 0) {
+        Ponto = 10;
+        PaginaAtual = PaginaSalva;
+        AtualizarObjetos(0);
+    }
+}
+
+void frmLista::CopiarFiltro(KVComboBox& fonte, KVComboBox& destino)
+{
+    destino.Clear();
+    const Integer escolhida = fonte.ListIndex();
+    CopiarLinhas(fonte, destino, 0, Checked(fonte.ListCount() - 1));
+    Escolher(destino, escolhida);
+    Escolher(fonte, escolhida);
+}
+
+} // namespace kova::agenda

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "agenda/contracts/reports.hpp"
+
+#include <functional>
+#include <span>
+
+namespace kova::agenda {
+
+// What printing a list and printing a card have in common.
+
+namespace secoes {
+inline constexpr const char* Cabecalho = "CabecalhoDaPagina";
+inline constexpr const char* Detalhes = "Detalhes";
+inline constexpr const char* Rodape = "RodapeDaPagina";
+} // namespace secoes
+
+/// Which field of the record set a text box of the details shows.
+struct Vinculo {
+    const char* caixa;
+    const char* campo;
+};
+
+/// The company's rows, standing on the first, which is the one that is printed. Null where the selection
+/// failed or no company is registered: the user has been told then, after `antesDeAvisar` has run.
+RecordSetRef SelecionarEmpresa(const std::function<void()>& antesDeAvisar);
+
+/// The module's one report of that design, hidden: made at its first use and kept in `instancia`.
+ReportRef InstanciaDoRelatorio(ReportRef& instancia, const ReportDesign& desenho);
+
+/// Ties the text boxes of the details to their fields.
+void Vincular(Report& relatorio, std::span<const Vinculo> vinculos);
+
+/// The application's name at the foot of each page, the title and size of the window, the width in twips and
+/// the margins; then the preview, until the user closes it. It leaves the report as designed, so all of it is
+/// set anew for every preview.
+void ExibirRelatorio(Report& relatorio, const char* titulo, Twips largura);
+
+} // namespace kova::agenda
