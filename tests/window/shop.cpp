@@ -1,6 +1,7 @@
 #include "tests/window/shop.hpp"
 
 #include "host/session.hpp"
+#include "tests/support/qt_application.hpp"
 #include "toolkits/qt/theme.hpp"
 
 #include <QApplication>
@@ -8,21 +9,6 @@
 #include <cstdlib>
 
 namespace kova::window_test {
-
-namespace {
-
-/// One per process, as each test runs in a process of its own.
-QApplication& TheApplication()
-{
-    static int count = 1;
-    static char name[] = "test_window";
-    static char* words[] = {name, nullptr};
-    // It outlives everything: what is torn down behind main must still find it.
-    static auto* const application = new QApplication(count, words);
-    return *application;
-}
-
-} // namespace
 
 Shop::Shop()
 {
@@ -34,7 +20,9 @@ Shop::Shop()
         std::string(AGENDA_DATA) + " demo " + Database() + " --date 20/11/2026 >/dev/null";
     if (std::system(make.c_str()) != 0)
         throw std::runtime_error("the demonstration shop was not made");
-    qt::ApplyLook(TheApplication());
+    test::NeedApplication();
+    QApplication::setQuitOnLastWindowClosed(true);
+    qt::ApplyLook(*qApp);
     receptionist = new Receptionist;
 }
 

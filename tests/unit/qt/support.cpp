@@ -1,48 +1,18 @@
 #include "tests/unit/qt/support.hpp"
 
+#include "tests/support/qt_application.hpp"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-
-#include <memory>
 
 namespace kova::qt::test {
 
 namespace {
 
-// The offscreen platform has no window manager, and says so.
-bool IsExpected(const QString& text)
-{
-    for (const char* lack : {"propagateSizeHints", "support raise()", "support grabbing the keyboard"}) {
-        if (text.contains(QLatin1String(lack)))
-            return true;
-    }
-    return false;
-}
-
-void FailOnWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
-{
-    if (type != QtDebugMsg && type != QtInfoMsg && !IsExpected(text))
-        ADD_FAILURE() << "Qt says: " << text.toStdString();
-}
-
 class QtEnvironment : public ::testing::Environment {
 public:
-    void SetUp() override
-    {
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        application_ = std::make_unique<QApplication>(count_, arguments_);
-        qInstallMessageHandler(&FailOnWarning);
-    }
-
-    void TearDown() override { application_.reset(); }
-
-private:
-    int count_ = 1;
-    char name_[8] = "test_qt";
-    char* arguments_[2] = {name_, nullptr};
-    std::unique_ptr<QApplication> application_;
+    void SetUp() override { kova::test::NeedApplication(); }
 };
 
 [[maybe_unused]] ::testing::Environment* const environment =

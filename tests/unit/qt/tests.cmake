@@ -1,3 +1,3 @@
 if(NOT KOVARIS_CORE_ONLY)
-    kovaris_test_program(test_qt unit/qt toolkit_qt report_layouts)
+    kovaris_test_program(test_qt unit/qt toolkit_qt report_layouts test_qt_application)
 endif()

@@ -1,8 +1,8 @@
 #include "tests/conformance/widgets/qt/qt_bench.hpp"
 
-#include "tests/conformance/widgets/qt/application.hpp"
 #include "tests/conformance/widgets/qt/bench_toolkit.hpp"
 #include "tests/conformance/widgets/qt/input.hpp"
+#include "tests/support/qt_application.hpp"
 #include "toolkits/qt/calendar.hpp"
 #include "toolkits/qt/combo_field.hpp"
 #include "toolkits/qt/date_box.hpp"
@@ -290,7 +290,7 @@ Colour QtBench::GroundOf(MSFlexGrid& grid, Long row, Long col)
 
 std::unique_ptr<Bench> MakeQtBench()
 {
-    NeedApplication();
+    test::NeedApplication();
     return std::make_unique<QtBench>();
 }
 

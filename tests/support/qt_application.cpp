@@ -1,4 +1,4 @@
-#include "tests/conformance/widgets/qt/application.hpp"
+#include "tests/support/qt_application.hpp"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace kova::conformance {
+namespace kova::test {
 
 namespace {
 
@@ -26,7 +26,7 @@ void FailOnWarning(QtMsgType type, const QMessageLogContext&, const QString& tex
         ADD_FAILURE() << "Qt says: " << text.toStdString();
 }
 
-/// The application, made for the first bench and gone before the program ends.
+/// The application, made at its first need and gone before the program ends.
 class Application : public testing::Environment {
 public:
     void Need()
@@ -43,7 +43,7 @@ public:
 
 private:
     int count_ = 1;
-    char name_[8] = "widgets";
+    char name_[8] = "kovaris";
     char* arguments_[2] = {name_, nullptr};
     std::unique_ptr<QApplication> application_;
 };
@@ -60,4 +60,4 @@ Application& TheApplication()
 
 void NeedApplication() { TheApplication().Need(); }
 
-} // namespace kova::conformance
+} // namespace kova::test
