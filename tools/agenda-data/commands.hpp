@@ -1,14 +1,17 @@
 #pragma once
 
-#include "agenda/contracts/date_time.hpp"
-
-#include <ostream>
-#include <span>
+#include "tools/agenda-data/command.hpp"
 
 namespace kova::data {
 
 /// Runs the program: 0 done, 1 the data cannot be read or written, 2 the command line is wrong. What
 /// went wrong is written to `error` in Portuguese.
-int Run(std::span<const char* const> arguments, Date today, std::ostream& output, std::ostream& error);
+int Run(std::span<const char* const> arguments, DateTime now, std::ostream& output, std::ostream& error);
+
+// Each in the file of its name.
+
+extern const Command CheckCommand;
+extern const Command DemoCommand;
+extern const Command GenerateCommand;
 
 } // namespace kova::data

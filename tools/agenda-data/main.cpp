@@ -5,12 +5,13 @@
 
 namespace {
 
-kova::Date Today()
+kova::DateTime Now()
 {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
-    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
+    return {{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday},
+            {local.tm_hour, local.tm_min, local.tm_sec}};
 }
 
 } // namespace
@@ -19,5 +20,5 @@ int main(int count, char** words)
 {
     const std::span<const char* const> arguments(words + 1,
                                                  static_cast<std::size_t>(count > 0 ? count - 1 : 0));
-    return kova::data::Run(arguments, Today(), std::cout, std::cerr);
+    return kova::data::Run(arguments, Now(), std::cout, std::cerr);
 }

@@ -17,7 +17,7 @@ protected:
             arguments.push_back(word.c_str());
         output_.str("");
         error_.str("");
-        return data::Run(arguments, {2026, 11, 20}, output_, error_);
+        return data::Run(arguments, {{2026, 11, 20}, {9, 0, 0}}, output_, error_);
     }
 
     bool Said(const std::string& words) const { return output_.str().find(words) != std::string::npos; }

@@ -1,0 +1,32 @@
+#include "family/demo/shop.hpp"
+#include "tools/agenda-data/commands.hpp"
+
+namespace kova::data {
+
+namespace {
+
+constexpr long long MostCustomers = 10'000'000;
+constexpr long long MostAppointments = 100'000'000;
+
+int Run(const Call& call, Surroundings& surroundings)
+{
+    const Date date = call.Day("--date", surroundings.now.date);
+    const int customers = static_cast<int>(call.Count("--customers", 50'000, MostCustomers));
+    const long long appointments = call.Count("--appointments", 1'000'000, MostAppointments);
+    family::CreateShop(call.Operand(0), family::MeasuringPlan(date, customers, appointments));
+    surroundings.output << "Banco de dados criado: " << call.Operand(0) << "\n";
+    return 0;
+}
+
+} // namespace
+
+const Command GenerateCommand{
+    "generate",
+    {"BANCO"},
+    {{"--customers", "N"}, {"--appointments", "N"}, {"--date", "dd/mm/aaaa"}},
+    "cria uma loja grande para medições (padrão: 50000 clientes e 1000000 agendamentos); os\n"
+    "mesmos números dão sempre o mesmo conteúdo",
+    Run,
+};
+
+} // namespace kova::data
