@@ -25,11 +25,33 @@ struct Dialect {
     /// The statements that make the engine add one to the row of contador_de_alteracoes that bears the
     /// table's name, whenever a row comes or goes or one of these columns is written.
     std::vector<std::string> (*countChanges)(const std::string& table, const std::string& columns);
+    /// Counts the tables named versao_do_esquema that a connection sees: 0 or 1.
+    std::string countVersionTables;
+    /// Run first in a transaction that changes the schema: a second one waits here. Empty where the beginning
+    /// of the transaction, or its first write, does that.
+    std::string lockSchema;
+    /// Run after rows were written with keys of the caller's: the engine then numbers on behind the highest.
+    /// Empty where it does so anyway.
+    std::string numberOn;
+    /// Writes the mark :identificador of a transaction that is about to write, unless it stands there
+    /// already; waits for another transaction that is writing the same. Empty where a connection cannot break
+    /// between a commit and its answer.
+    std::string markWrite;
+    /// Takes marks away that nobody will ask for any more.
+    std::string forgetMarks;
     /// Run on every connection before anything else.
     std::vector<std::string> settings;
+
+    /// Whether the data lie behind a connection that can break.
+    bool IsServer() const { return !markWrite.empty(); }
 };
 
 const Dialect& SqliteDialect();
+
 const Dialect& PostgresqlDialect();
+/// The same for work that takes as long as it takes: building, bringing up to date, copying.
+const Dialect& PostgresqlDialectForLongWork();
+/// The same for connections that only read.
+const Dialect& PostgresqlDialectForReading();
 
 } // namespace kova::family
