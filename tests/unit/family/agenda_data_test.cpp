@@ -77,6 +77,20 @@ TEST_F(AgendaData, FindsReferencesThatLeadNowhere)
     EXPECT_TRUE(Complained("referências sem registro"));
 }
 
+TEST_F(AgendaData, BacksUpAndRestores)
+{
+    Run({"demo", folder_ / "a.db"});
+    EXPECT_EQ(Run({"backup", folder_ / "a.db", folder_ / "copia.bak"}), 0);
+    EXPECT_TRUE(Said("cliente: 400\n"));
+    EXPECT_TRUE(Said("Cópia feita e conferida: " + folder_ / "copia.bak"));
+    EXPECT_TRUE(Complained("Cópia: 100%"));
+    EXPECT_EQ(Run({"restore", folder_ / "copia.bak", folder_ / "b.db"}), 0);
+    EXPECT_TRUE(Said("cliente: 400\n"));
+    EXPECT_EQ(Run({"check", folder_ / "b.db"}), 0);
+    EXPECT_EQ(Run({"restore", folder_ / "copia.bak", folder_ / "a.db"}), 1);
+    EXPECT_TRUE(Complained("já existe"));
+}
+
 TEST_F(AgendaData, RefusesAWrongCommandLine)
 {
     const std::string file = folder_ / "a.db";
@@ -90,7 +104,9 @@ TEST_F(AgendaData, RefusesAWrongCommandLine)
                                                {"demo", file, "--customers", "5"},
                                                {"generate", file, "--customers", "0"},
                                                {"generate", file, "--appointments", "12x"},
-                                               {"check", file, "--date", "20/11/2026"}}) {
+                                               {"check", file, "--date", "20/11/2026"},
+                                               {"backup", file},
+                                               {"restore", file}}) {
         EXPECT_EQ(Run(words), 2);
         EXPECT_TRUE(Complained("Uso:"));
     }
