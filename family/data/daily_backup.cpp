@@ -3,6 +3,7 @@
 #include "family/data/database_failure.hpp"
 #include "family/data/iso_text.hpp"
 #include "family/data/store_backup.hpp"
+#include "family/data/store_copy.hpp"
 #include "family/data/unfinished_file.hpp"
 
 #include <algorithm>
@@ -85,7 +86,7 @@ std::string DailyBackupName(const std::string& path, Date day)
 
 bool MakeDailyBackup(const std::string& path, Date day, const LongWork& work)
 {
-    if (path.find("://") != std::string::npos)
+    if (IsOnServer(path))
         return false;
     const std::string file = DailyBackupName(path, day);
     try {

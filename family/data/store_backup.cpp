@@ -2,6 +2,7 @@
 
 #include "family/data/data_source.hpp"
 #include "family/data/online_copy.hpp"
+#include "family/data/store_copy.hpp"
 #include "family/data/trial_restore.hpp"
 #include "family/data/unfinished_file.hpp"
 
@@ -52,6 +53,8 @@ void CopyContent(const std::string& file, const std::string& target, const LongW
 
 std::vector<TableCount> BackUpStore(const std::string& source, const std::string& file, const LongWork& work)
 {
+    if (IsOnServer(source))
+        return CopyStore(source, file, work);
     const std::unique_ptr<Database> database = OpenForReading(source);
     UnfinishedFile copy(file);
     std::vector<TableCount> counts = CopyOnline(*database, copy.Name(), work);
@@ -63,6 +66,8 @@ std::vector<TableCount> BackUpStore(const std::string& source, const std::string
 std::vector<TableCount> RestoreStore(const std::string& file, const std::string& target, const LongWork& work)
 {
     RequireFile(file);
+    if (IsOnServer(target))
+        return CopyStore(file, target, work);
     UnfinishedFile restored(target);
     try {
         CopyContent(file, restored.Name(), work);
