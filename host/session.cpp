@@ -2,6 +2,7 @@
 
 #include "host/component_setup.hpp"
 #include "host/components/component_service.hpp"
+#include "host/computer_user.hpp"
 #include "host/day_text.hpp"
 #include "host/first_paint.hpp"
 #include "host/folders.hpp"

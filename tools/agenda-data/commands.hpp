@@ -12,8 +12,11 @@ int Run(std::span<const char* const> arguments, DateTime now, std::ostream& outp
 
 extern const Command BackupCommand;
 extern const Command CheckCommand;
+extern const Command CopyCommand;
+extern const Command CreateCommand;
 extern const Command DemoCommand;
 extern const Command GenerateCommand;
+extern const Command MigrateCommand;
 extern const Command RestoreCommand;
 
 } // namespace kova::data
