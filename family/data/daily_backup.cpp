@@ -19,24 +19,15 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view Mark = ".copia-";
 constexpr std::string_view Ending = ".bak";
-/// A date's letters with digits for "9".
-constexpr std::string_view DatePattern = "9999-99-99";
-
-bool IsDate(std::string_view text)
-{
-    return std::equal(text.begin(), text.end(), DatePattern.begin(), DatePattern.end(),
-                      [](char letter, char expected) {
-                          return expected == '9' ? letter >= '0' && letter <= '9' : letter == expected;
-                      });
-}
+constexpr std::size_t DateLength = 10;
 
 /// Whether the name is that of a copy of the database called `base`.
 bool IsDailyBackup(std::string_view name, std::string_view base)
 {
-    const std::size_t length = base.size() + Mark.size() + DatePattern.size() + Ending.size();
+    const std::size_t length = base.size() + Mark.size() + DateLength + Ending.size();
     return name.size() == length && name.substr(0, base.size()) == base
         && name.substr(base.size(), Mark.size()) == Mark
-        && IsDate(name.substr(base.size() + Mark.size(), DatePattern.size()))
+        && IsIsoDate(name.substr(base.size() + Mark.size(), DateLength))
         && name.substr(length - Ending.size()) == Ending;
 }
 

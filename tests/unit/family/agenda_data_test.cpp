@@ -140,6 +140,16 @@ TEST_F(AgendaData, CopiesAShop)
     EXPECT_TRUE(Said("cliente: 400\n"));
 }
 
+TEST_F(AgendaData, FindsRowsThatBreakARule)
+{
+    Run({"demo", folder_ / "a.db"});
+    Database(SqliteDialect(), "dbname=" + folder_ / "a.db", "a").Session()
+        << "update agendamento set hora_final = hora_inicial where numero = 12";
+    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 1);
+    EXPECT_EQ(error_.str(), "agendamento 12: o término não é posterior ao início.\n");
+    EXPECT_FALSE(Said("íntegro"));
+}
+
 TEST_F(AgendaData, RefusesAWrongCommandLine)
 {
     const std::string file = folder_ / "a.db";
