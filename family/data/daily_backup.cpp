@@ -82,7 +82,7 @@ bool MakeDailyBackup(const std::string& path, Date day, const LongWork& work)
     const std::string file = DailyBackupName(path, day);
     try {
         RemoveRests(path);
-        if (fs::exists(fs::symlink_status(file)))
+        if (fs::exists(fs::symlink_status(file)) || RemoveAbandoned(file))
             return false;
         BackUpStore(path, file, work);
         RemoveOld(path, file);

@@ -14,8 +14,9 @@ inline constexpr std::size_t DailyBackupsKept = 14;
 std::string DailyBackupName(const std::string& path, Date day);
 
 /// Makes the copy of that day where it is not there yet, as BackUpStore, and removes all but the newest
-/// ones; of other files only the rests of its own former attempts. Answers whether it made one: false for
-/// a server too, which has copies of its own. Fails with a DatabaseFailure.
+/// ones; of other files only the rests of its own former attempts. Answers whether it made one: false also
+/// while another program is at it, and for a server, which has copies of its own. Fails with a
+/// DatabaseFailure.
 bool MakeDailyBackup(const std::string& path, Date day, const LongWork& work);
 
 } // namespace kova::family

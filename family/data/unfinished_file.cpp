@@ -118,13 +118,14 @@ void UnfinishedFile::Finish()
     finished_ = true;
 }
 
-void RemoveAbandoned(const std::string& path)
+bool RemoveAbandoned(const std::string& path)
 {
     const int file = OpenLocked(UnfinishedName(path), 0);
     if (file < 0)
-        return;
+        return errno == EWOULDBLOCK;
     RemoveUnfinished(path);
     close(file);
+    return false;
 }
 
 } // namespace kova::family

@@ -39,7 +39,8 @@ private:
     bool finished_ = false;
 };
 
-/// Removes what is left of an attempt to make the file, unless a program is still at it.
-void RemoveAbandoned(const std::string& path);
+/// Removes what is left of an attempt to make the file, unless a program is still at it. Answers whether
+/// one is.
+bool RemoveAbandoned(const std::string& path);
 
 } // namespace kova::family

@@ -79,6 +79,13 @@ TEST_F(DailyBackup, ClearsWhatAKilledAttemptHasLeftAndNothingThatIsBeingMade)
     EXPECT_TRUE(fs::exists(living.Name()));
 }
 
+TEST_F(DailyBackup, ThatAnotherProgramIsMakingIsLeftToIt)
+{
+    const UnfinishedFile other(DailyBackupName(shop_, {2026, 11, 20}));
+    EXPECT_FALSE(MakeDailyBackup(shop_, {2026, 11, 20}, {}));
+    EXPECT_TRUE(fs::exists(other.Name()));
+}
+
 TEST_F(DailyBackup, ThatFailsTakesNoFormerOneAway)
 {
     for (int day = 1; day <= 14; ++day)
