@@ -21,6 +21,7 @@ void Fill(Database& database, const NewShop& shop)
     if (!shop.company.empty())
         InsertNew(database, CompanyRow{0, shop.company, shop.company, "", "", ""});
     InsertNew(database, UserRow{0, shop.user});
+    InsertNew(database, EmployeeRow{0, shop.employee, shop.employee, FoldText(shop.employee)});
     for (const char* name : ServiceTypes)
         InsertNew(database, ServiceTypeRow{0, name, FoldText(name)});
     for (const char* name : Species) {

@@ -8,9 +8,10 @@ namespace {
 
 int Run(const Call& call, Surroundings& surroundings)
 {
+    const std::string user = call.Option("--user").value_or(host::NameOfThisUser());
     family::CreateNewShop(
         call.Operand(0),
-        {call.Option("--company").value_or(""), call.Option("--user").value_or(host::NameOfThisUser())});
+        {call.Option("--company").value_or(""), user, call.Option("--employee").value_or(user)});
     surroundings.output << "Banco de dados criado: " << call.Operand(0) << "\n";
     return 0;
 }
@@ -20,9 +21,10 @@ int Run(const Call& call, Surroundings& surroundings)
 const Command CreateCommand{
     "create",
     {"BANCO"},
-    {{"--company", "NOME"}, {"--user", "NOME"}},
-    "cria uma loja que ainda não começou: a empresa e o usuário (padrão: o do computador), os\n"
-    "tipos de serviço 1 a 4, as espécies mais comuns e os feriados nacionais",
+    {{"--company", "NOME"}, {"--user", "NOME"}, {"--employee", "NOME"}},
+    "cria uma loja que ainda não começou: a empresa, o usuário (padrão: o do computador), um(a)\n"
+    "funcionário(a) (padrão: o usuário), os tipos de serviço 1 a 4, as espécies mais comuns e os\n"
+    "feriados nacionais",
     Run,
 };
 

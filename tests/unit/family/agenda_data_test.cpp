@@ -113,6 +113,7 @@ TEST_F(AgendaData, CreatesAShopWithoutACompanyForWhoeverRunsIt)
     EXPECT_EQ(Run({"create", folder_ / "a.db"}), 0);
     EXPECT_EQ(Run({"check", folder_ / "a.db"}), 0);
     EXPECT_TRUE(Said("empresa: 0\nusuario: 1\n"));
+    EXPECT_TRUE(Said("funcionario: 1\n"));
 }
 
 TEST_F(AgendaData, BringsAnOlderShopUpToDate)
