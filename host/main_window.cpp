@@ -1,5 +1,7 @@
 #include "host/main_window.hpp"
 
+#include "host/notice_bar.hpp"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -19,7 +21,7 @@ constexpr int EventSliceMilliseconds = 10;
 
 } // namespace
 
-MainWindow::MainWindow(const QString& shop) : container_(new QWidget(this))
+MainWindow::MainWindow(const QString& shop) : container_(new QWidget(this)), notice_(new NoticeBar(this))
 {
     setWindowTitle(shop.isEmpty() ? QStringLiteral("Kovaris") : shop + QStringLiteral(" - Kovaris"));
     setMinimumSize(SmallestWindow);
@@ -30,8 +32,11 @@ MainWindow::MainWindow(const QString& shop) : container_(new QWidget(this))
     container_->setObjectName(QStringLiteral("container"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(container_);
+    layout->addWidget(container_, 1);
+    layout->addWidget(notice_);
 }
+
+void MainWindow::ShowNotice(const QString& text) { notice_->Show(text); }
 
 void MainWindow::ShowHint(const QString& text)
 {

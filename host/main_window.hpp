@@ -6,6 +6,8 @@
 
 namespace kova::host {
 
+class NoticeBar;
+
 /// The application's window: a container that the day's list fills, and a hint in its place where no list
 /// could be opened.
 class MainWindow : public QWidget {
@@ -17,6 +19,9 @@ public:
 
     /// Shown in the container, until something else fills it.
     void ShowHint(const QString& text);
+    /// Shown in a line below the container until the user closes it or "" takes it away. It never takes the
+    /// keyboard.
+    void ShowNotice(const QString& text);
     /// Shows the window at that size; without one filling the screen, and then returns once the desktop has
     /// given it its place, so that what is laid out in it finds the final size.
     void Open(std::optional<WindowSize> size);
@@ -25,6 +30,7 @@ private:
     void WaitForPlace();
 
     QWidget* container_;
+    NoticeBar* notice_;
 };
 
 } // namespace kova::host

@@ -2,6 +2,8 @@
 
 #include "host/component_setup.hpp"
 #include "host/components/component_service.hpp"
+#include "host/computer_user.hpp"
+#include "host/daily_backup.hpp"
 #include "host/day_text.hpp"
 #include "host/first_paint.hpp"
 #include "host/folders.hpp"
@@ -75,6 +77,7 @@ private:
     bool ListShowsADay() const;
     void RequireDay() const;
     int RunWindow();
+    void BackUpDaily();
     int PaintWindow();
     int DrawWindow();
 
@@ -88,6 +91,7 @@ private:
     RegisteredComponents components_;
     std::unique_ptr<MainWindow> window_;
     ComponentRef agenda_;
+    std::unique_ptr<DailyBackup> backup_;
 };
 
 int Session::Run()
@@ -130,8 +134,20 @@ int Session::RunWindow()
         window_->ShowHint(
             QStringLiteral("A agenda não pôde ser aberta.\n\nCorrija a causa que foi mostrada e abra "
                            "o programa novamente."));
+    else
+        BackUpDaily();
     QApplication::exec();
     return opened ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+void Session::BackUpDaily()
+{
+    backup_ = std::make_unique<DailyBackup>(components_, [this](const std::string& reason) {
+        window_->ShowNotice(reason.empty() ? QString()
+                                           : QStringLiteral("A cópia de segurança de hoje não foi feita. ")
+                                    + QString::fromStdString(reason));
+    });
+    AfterFirstPaint(*window_, [this] { backup_->Begin(); });
 }
 
 void Session::RequireDay() const
@@ -165,6 +181,7 @@ int Session::DrawWindow()
 
 Session::~Session()
 {
+    backup_.reset();
     if (Form* list = List())
         list->Unload();
     agenda_.reset();

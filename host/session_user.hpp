@@ -22,7 +22,4 @@ private:
     Text name_;
 };
 
-/// The name that the computer has for whoever started the program; "Recepção" where it has none.
-std::string NameOfThisUser();
-
 } // namespace kova::host

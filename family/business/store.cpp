@@ -15,6 +15,7 @@ std::span<const Method<Store>> Store::Methods()
         {"Abrir", 0, 0, &Store::Abrir},
         {"Fechar", 0, 0, &Store::Fechar},
         {"CriarDemonstracao", 0, 1, &Store::CriarDemonstracao},
+        {"IniciarCopiaDoDia", 1, 1, &Store::IniciarCopiaDoDia},
     };
     return methods;
 }
@@ -25,6 +26,8 @@ std::span<const Property<Store>> Store::Properties()
         {"Caminho", &Store::Caminho},
         {"Existe", &Store::Existe},
         {"NomeFantasia", &Store::NomeFantasia},
+        {"CopiaDoDiaTerminou", &Store::CopiaDoDiaTerminou},
+        {"FalhaDaCopiaDoDia", &Store::FalhaDaCopiaDoDia},
         {"NumeroDoErro", &Store::NumeroDoErro},
         {"DescricaoDoErro", &Store::DescricaoDoErro},
         {"LocalDoErro", &Store::LocalDoErro},
@@ -67,5 +70,18 @@ Value Store::CriarDemonstracao(std::span<Argument> arguments)
         CreateShop(Host().DataSource(), DemonstrationPlan(date));
     });
 }
+
+Value Store::IniciarCopiaDoDia(std::span<Argument> arguments)
+{
+    return Attempt("IniciarCopiaDoDia", [&] {
+        const Date day = RequireDate(arguments[0].Get().ToText());
+        backup_.reset();
+        backup_ = std::make_unique<BackgroundBackup>(Host().DataSource(), day);
+    });
+}
+
+Value Store::CopiaDoDiaTerminou() const { return !backup_ || backup_->HasEnded(); }
+
+Value Store::FalhaDaCopiaDoDia() const { return backup_ ? backup_->Reason() : std::string(); }
 
 } // namespace kova::family

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "family/business/background_backup.hpp"
 #include "family/business/by_name.hpp"
+
+#include <memory>
 
 namespace kova::family {
 
@@ -33,7 +36,16 @@ private:
     /// "dd/mm/yyyy". Refused where Existe.
     Value CriarDemonstracao(std::span<Argument> arguments);
 
+    /// Begins to make, in the background, the copy of the day "dd/mm/yyyy" beside a file, where it is not
+    /// there yet. It is given up when the object goes.
+    Value IniciarCopiaDoDia(std::span<Argument> arguments);
+    /// Boolean: whether the copy that was begun has come to its end.
+    Value CopiaDoDiaTerminou() const;
+    /// Text: why it could not be made; "" where nothing is known against it.
+    Value FalhaDaCopiaDoDia() const;
+
     Text tradeName_;
+    std::unique_ptr<BackgroundBackup> backup_;
 };
 
 } // namespace kova::family

@@ -20,6 +20,7 @@ constexpr Translation Translations[] = {
     {"malformed", "O banco de dados está danificado. Restaure a cópia de segurança mais recente."},
     {"unable to open", "O arquivo não pode ser aberto. Verifique o caminho e as permissões da pasta."},
     {"I/O error", "O disco não respondeu à leitura ou à gravação. Verifique o disco e tente novamente."},
+    {"interrupted", "O trabalho foi interrompido antes do fim; nada foi gravado."},
 };
 
 /// A state of a server, or the class of states that begin with it.

@@ -1,5 +1,6 @@
 #include "family/data/iso_text.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 
@@ -36,6 +37,34 @@ DateTime ReadIsoMoment(std::string_view isoDate, std::string_view time)
 {
     return {{NumberAt(isoDate, 0, 4), NumberAt(isoDate, 5, 2), NumberAt(isoDate, 8, 2)},
             {NumberAt(time, 0, 2), NumberAt(time, 3, 2), 0}};
+}
+
+namespace {
+
+/// `shape` has 9 for any digit; every other letter stands for itself.
+bool HasShape(std::string_view text, std::string_view shape)
+{
+    return std::equal(text.begin(), text.end(), shape.begin(), shape.end(), [](char letter, char expected) {
+        return expected == '9' ? letter >= '0' && letter <= '9' : letter == expected;
+    });
+}
+
+} // namespace
+
+bool IsIsoDate(std::string_view text)
+{
+    return HasShape(text, "9999-99-99") && ParseDate(ShownDate(text)).has_value();
+}
+
+bool IsIsoTime(std::string_view text)
+{
+    return HasShape(text, "99:99") && NumberAt(text, 0, 2) < 24 && NumberAt(text, 3, 2) < 60;
+}
+
+bool IsIsoMoment(std::string_view text)
+{
+    return HasShape(text, "9999-99-99 99:99:99") && IsIsoDate(text.substr(0, 10))
+        && IsIsoTime(text.substr(11, 5)) && NumberAt(text, 17, 2) < 60;
 }
 
 std::string ShownDate(std::string_view isoDate)

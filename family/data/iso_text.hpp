@@ -15,6 +15,11 @@ std::string IsoMoment(DateTime moment);
 /// A kept date with a time "hh:mm", as they were written.
 DateTime ReadIsoMoment(std::string_view isoDate, std::string_view time);
 
+/// Whether a text is a day of the calendar, a time of the day "hh:mm", or a moment, as they are kept.
+bool IsIsoDate(std::string_view text);
+bool IsIsoTime(std::string_view text);
+bool IsIsoMoment(std::string_view text);
+
 /// "dd/mm/yyyy" of a kept date, "dd/mm/yyyy hh:mm:ss" of a kept moment.
 std::string ShownDate(std::string_view isoDate);
 std::string ShownMoment(std::string_view isoMoment);

@@ -6,19 +6,6 @@ namespace kova::family {
 
 namespace {
 
-constexpr const char* Tables[] = {
-    "empresa", "usuario",     "tipo_de_servico", "servico",   "funcionario",
-    "especie", "raca",        "feriado",         "cliente",   "canal_de_comunicacao",
-    "animal",  "agendamento", "pacote",          "pre_venda", "auditoria",
-};
-
-TableCount Count(soci::session& session, const char* table)
-{
-    TableCount count{table, 0};
-    session << std::string("select count(*) from ") + table, soci::into(count.rows);
-    return count;
-}
-
 void FindProblems(soci::session& session, const std::string& path, StoreReport& report)
 {
     std::string verdict;
@@ -42,8 +29,7 @@ StoreReport CheckStore(const std::string& path)
         soci::session& session = database->Session();
         report.version = StoredVersion(session);
         FindProblems(session, path, report);
-        for (const char* table : Tables)
-            report.tables.push_back(Count(session, table));
+        report.tables = CountRows(*database);
     } catch (const soci::soci_error& cause) {
         throw TranslatedFailure(path, cause);
     }

@@ -1,14 +1,11 @@
 #pragma once
 
+#include "family/data/table_layouts.hpp"
+
 #include <string>
 #include <vector>
 
 namespace kova::family {
-
-struct TableCount {
-    std::string name;
-    long long rows = 0;
-};
 
 /// What a look through a whole database finds.
 struct StoreReport {

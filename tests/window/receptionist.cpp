@@ -154,6 +154,11 @@ Receptionist& Receptionist::Looks(std::function<void()> look)
     return Then({"look", [this] { return FrontIsIdle(); }, std::move(look)});
 }
 
+Receptionist& Receptionist::WaitsUntil(const std::string& what, std::function<bool()> ready)
+{
+    return Then({"wait until " + what, std::move(ready), [] {}});
+}
+
 void Receptionist::Leaves()
 {
     Then({"leave", TakesInput, [] { TopInFront()->close(); }});

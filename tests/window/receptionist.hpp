@@ -31,6 +31,8 @@ public:
     Receptionist& Picks(const std::string& entry);
     /// Runs once the form in front takes input.
     Receptionist& Looks(std::function<void()> look);
+    /// Goes on once `ready` holds; `what` says for what that was.
+    Receptionist& WaitsUntil(const std::string& what, std::function<bool()> ready);
     /// Closes the application's window.
     void Leaves();
 

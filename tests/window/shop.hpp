@@ -29,11 +29,13 @@ protected:
     /// The first value of the first row.
     std::string Value(const std::string& statement) const;
 
+    /// Where the database stands.
+    const std::filesystem::path& Folder() const { return folder_; }
+    std::string Database() const { return (folder_ / "loja.db").string(); }
+
     Receptionist* receptionist = nullptr;
 
 private:
-    std::string Database() const { return (folder_ / "loja.db").string(); }
-
     std::filesystem::path folder_;
 };
 

@@ -1,19 +1,38 @@
+#include "family/data/data_source.hpp"
+#include "family/data/rule_check.hpp"
 #include "family/data/store_check.hpp"
 #include "tools/agenda-data/commands.hpp"
+#include "tools/agenda-data/shown_work.hpp"
 
 namespace kova::data {
 
 namespace {
 
+std::vector<std::string> BrokenRules(const std::string& source)
+{
+    const std::unique_ptr<family::Database> database = family::OpenForReading(source);
+    try {
+        return family::FindBrokenRules(*database);
+    } catch (const std::runtime_error& cause) {
+        throw family::TranslatedFailure(source, cause);
+    }
+}
+
+/// Rows of a file that is damaged would only be told to break rules which nobody broke.
+std::vector<std::string> ProblemsOf(const std::string& source, const family::StoreReport& report)
+{
+    return report.problems.empty() ? BrokenRules(source) : report.problems;
+}
+
 int Run(const Call& call, Surroundings& surroundings)
 {
     const family::StoreReport report = family::CheckStore(call.Operand(0));
-    for (const family::TableCount& table : report.tables)
-        surroundings.output << table.name << ": " << table.rows << "\n";
+    WriteCounts(surroundings.output, report.tables);
     surroundings.output << "versão do esquema: " << report.version << "\n";
-    for (const std::string& problem : report.problems)
+    const std::vector<std::string> problems = ProblemsOf(call.Operand(0), report);
+    for (const std::string& problem : problems)
         surroundings.error << problem << "\n";
-    if (!report.problems.empty())
+    if (!problems.empty())
         return 1;
     surroundings.output << "O banco de dados está íntegro.\n";
     return 0;
@@ -22,7 +41,11 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command CheckCommand{
-    "check", {"BANCO"}, {}, "verifica se o banco pode ser aberto e se está íntegro, e conta o que contém",
+    "check",
+    {"BANCO"},
+    {},
+    "verifica se o banco está íntegro e se o que contém segue as regras, e conta as suas linhas;\n"
+    "escreve cada problema com a tabela e o número do registro",
     Run,
 };
 

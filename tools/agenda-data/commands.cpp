@@ -6,9 +6,8 @@ namespace {
 
 /// In the order of the help.
 constexpr const Command* Commands[] = {
-    &DemoCommand,
-    &GenerateCommand,
-    &CheckCommand,
+    &CreateCommand, &DemoCommand,   &GenerateCommand, &MigrateCommand,
+    &CheckCommand,  &BackupCommand, &RestoreCommand,  &CopyCommand,
 };
 
 void WriteIndented(std::ostream& output, std::string_view text)

@@ -10,8 +10,13 @@ int Run(std::span<const char* const> arguments, DateTime now, std::ostream& outp
 
 // Each in the file of its name.
 
+extern const Command BackupCommand;
 extern const Command CheckCommand;
+extern const Command CopyCommand;
+extern const Command CreateCommand;
 extern const Command DemoCommand;
 extern const Command GenerateCommand;
+extern const Command MigrateCommand;
+extern const Command RestoreCommand;
 
 } // namespace kova::data

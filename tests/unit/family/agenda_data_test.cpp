@@ -1,5 +1,6 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
+#include "family/data/migrations/migrations.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 #include <sstream>
@@ -77,6 +78,79 @@ TEST_F(AgendaData, FindsReferencesThatLeadNowhere)
     EXPECT_TRUE(Complained("referências sem registro"));
 }
 
+TEST_F(AgendaData, BacksUpAndRestores)
+{
+    Run({"demo", folder_ / "a.db"});
+    EXPECT_EQ(Run({"backup", folder_ / "a.db", folder_ / "copia.bak"}), 0);
+    EXPECT_TRUE(Said("cliente: 400\n"));
+    EXPECT_TRUE(Said("Cópia feita e conferida: " + folder_ / "copia.bak"));
+    EXPECT_TRUE(Complained("Cópia: 100%"));
+    EXPECT_EQ(Run({"restore", folder_ / "copia.bak", folder_ / "b.db"}), 0);
+    EXPECT_TRUE(Said("cliente: 400\n"));
+    EXPECT_EQ(Run({"check", folder_ / "b.db"}), 0);
+    EXPECT_EQ(Run({"restore", folder_ / "copia.bak", folder_ / "a.db"}), 1);
+    EXPECT_TRUE(Complained("já existe"));
+}
+
+TEST_F(AgendaData, CreatesAShopThatCanBegin)
+{
+    EXPECT_EQ(Run({"create", folder_ / "a.db", "--company", "Pet Shop Céu", "--user", "Lia"}), 0);
+    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 0);
+    for (const char* count : {"empresa: 1\n", "usuario: 1\n", "tipo_de_servico: 4\n", "agendamento: 0\n"})
+        EXPECT_TRUE(Said(count)) << output_.str();
+    Database database(SqliteDialect(), "dbname=" + folder_ / "a.db", "a");
+    std::string company, user, type;
+    database.Session() << "select nome_fantasia from empresa", soci::into(company);
+    database.Session() << "select nome from usuario where codigo = 1", soci::into(user);
+    database.Session() << "select nome from tipo_de_servico where numero = 4", soci::into(type);
+    EXPECT_EQ(company + ", " + user + ", " + type, "Pet Shop Céu, Lia, Banho e tosa");
+    EXPECT_EQ(Run({"create", folder_ / "a.db"}), 1);
+    EXPECT_TRUE(Complained("já existe"));
+}
+
+TEST_F(AgendaData, CreatesAShopWithoutACompanyForWhoeverRunsIt)
+{
+    EXPECT_EQ(Run({"create", folder_ / "a.db"}), 0);
+    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 0);
+    EXPECT_TRUE(Said("empresa: 0\nusuario: 1\n"));
+    EXPECT_TRUE(Said("funcionario: 1\n"));
+}
+
+TEST_F(AgendaData, BringsAnOlderShopUpToDate)
+{
+    const std::string file = folder_ / "a.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + file, file);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(1));
+    }
+    const std::string newest = std::to_string(NewestVersion(CurrentMigrations()));
+    EXPECT_EQ(Run({"migrate", file}), 0);
+    EXPECT_TRUE(Said("da versão 1 para a versão " + newest + ".\n")) << output_.str();
+    EXPECT_TRUE(Said(file + ".antes-da-versao-" + newest + ".bak\n")) << output_.str();
+    EXPECT_EQ(Run({"migrate", file}), 0);
+    EXPECT_TRUE(Said("já está na versão " + newest)) << output_.str();
+}
+
+TEST_F(AgendaData, CopiesAShop)
+{
+    Run({"demo", folder_ / "a.db"});
+    EXPECT_EQ(Run({"copy", folder_ / "a.db", folder_ / "b.db"}), 0);
+    EXPECT_TRUE(Said("agendamento: "));
+    EXPECT_TRUE(Complained("Cópia: 100%"));
+    EXPECT_EQ(Run({"check", folder_ / "b.db"}), 0);
+    EXPECT_TRUE(Said("cliente: 400\n"));
+}
+
+TEST_F(AgendaData, FindsRowsThatBreakARule)
+{
+    Run({"demo", folder_ / "a.db"});
+    Database(SqliteDialect(), "dbname=" + folder_ / "a.db", "a").Session()
+        << "update agendamento set hora_final = hora_inicial where numero = 12";
+    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 1);
+    EXPECT_EQ(error_.str(), "agendamento 12: o término não é posterior ao início.\n");
+    EXPECT_FALSE(Said("íntegro"));
+}
+
 TEST_F(AgendaData, RefusesAWrongCommandLine)
 {
     const std::string file = folder_ / "a.db";
@@ -90,7 +164,12 @@ TEST_F(AgendaData, RefusesAWrongCommandLine)
                                                {"demo", file, "--customers", "5"},
                                                {"generate", file, "--customers", "0"},
                                                {"generate", file, "--appointments", "12x"},
-                                               {"check", file, "--date", "20/11/2026"}}) {
+                                               {"check", file, "--date", "20/11/2026"},
+                                               {"backup", file},
+                                               {"restore", file},
+                                               {"copy", file},
+                                               {"create", file, "--company"},
+                                               {"migrate"}}) {
         EXPECT_EQ(Run(words), 2);
         EXPECT_TRUE(Complained("Uso:"));
     }

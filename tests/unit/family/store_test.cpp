@@ -2,7 +2,12 @@
 
 #include "family/business/agenda.hpp"
 #include "family/business/store.hpp"
+#include "family/data/daily_backup.hpp"
+#include "family/data/data_source.hpp"
 #include "family/data/shared_database.hpp"
+#include "family/data/unfinished_file.hpp"
+
+#include <thread>
 
 namespace kova::family::test {
 
@@ -10,6 +15,12 @@ class StoreComponent : public testing::Test {
 protected:
     StoreComponent() : host_(folder_ / "loja.db") { }
     ~StoreComponent() override { CloseSharedDatabases(); }
+
+    static void AwaitCopy(Store& store)
+    {
+        while (!store.Get("CopiaDoDiaTerminou").ToBoolean())
+            std::this_thread::yield();
+    }
 
     TemporaryFolder folder_;
     TestHost host_;
@@ -57,6 +68,40 @@ TEST_F(StoreComponent, RefusesAnImpossibleDate)
     EXPECT_EQ(store.Call("CriarDemonstracao", {"31/02/2026"}), Value(Integer(1)));
     EXPECT_EQ(store.Get("NumeroDoErro"), Value(Long(13)));
     EXPECT_EQ(store.Get("Existe"), Value(false));
+}
+
+TEST_F(StoreComponent, MakesTheCopyOfTheDayInTheBackground)
+{
+    Store store(host_);
+    EXPECT_EQ(store.Get("CopiaDoDiaTerminou"), Value(true));
+    store.Call("CriarDemonstracao", {"20/11/2026"});
+    EXPECT_EQ(store.Call("IniciarCopiaDoDia", {"20/11/2026"}), Value(Integer(0)));
+    AwaitCopy(store);
+    EXPECT_EQ(store.Get("FalhaDaCopiaDoDia"), Value(""));
+    EXPECT_EQ(CheckDataSource(DailyBackupName(host_.DataSource(), {2026, 11, 20})), std::nullopt);
+}
+
+TEST_F(StoreComponent, TellsWhyThereIsNoCopyOfTheDay)
+{
+    WriteContent(host_.DataSource(), "nota");
+    Store store(host_);
+    EXPECT_EQ(store.Call("IniciarCopiaDoDia", {"31/02/2026"}), Value(Integer(1)));
+    EXPECT_EQ(store.Call("IniciarCopiaDoDia", {"20/11/2026"}), Value(Integer(0)));
+    AwaitCopy(store);
+    EXPECT_NE(store.Get("FalhaDaCopiaDoDia").ToText().find("não é um banco de dados"), std::string::npos);
+}
+
+TEST_F(StoreComponent, GivesTheCopyOfTheDayUpWhenItGoes)
+{
+    const std::string copy = DailyBackupName(host_.DataSource(), {2026, 11, 20});
+    {
+        Store store(host_);
+        store.Call("CriarDemonstracao", {"20/11/2026"});
+        store.Call("IniciarCopiaDoDia", {"20/11/2026"});
+    }
+    // It may have come to its end before.
+    EXPECT_FALSE(std::filesystem::exists(UnfinishedName(copy)));
+    EXPECT_TRUE(!std::filesystem::exists(copy) || !CheckDataSource(copy));
 }
 
 TEST_F(StoreComponent, ClosesTheFileWhenNobodyUsesIt)

@@ -94,6 +94,21 @@ TEST(Start, KeepsTheDemonstrationShopThatIsThere)
     EXPECT_EQ(fs::last_write_time(shop), made);
 }
 
+TEST(Start, OpensAShopThatWasJustCreated)
+{
+    const TemporaryFolder home;
+    const std::string shop = home / "loja.db";
+    const ProgramResult created =
+        RunProgram(BuildFolder() / "agenda-data", {"create", shop, "--company", "Pet Shop Céu"}, home.Path());
+    ASSERT_EQ(created.status, 0) << created.errors;
+    const ProgramResult result = RunKovaris({"--database", shop, "--date", "25/03/2026"}, home.Path());
+
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.errors, "");
+    ExpectText(result.output, "Agenda de 25/03/2026");
+    EXPECT_EQ(RowsIn(result.output), 0);
+}
+
 TEST(Start, PrintsTheHelpAndTheVersion)
 {
     const TemporaryFolder home;

@@ -1,4 +1,4 @@
 if(NOT KOVARIS_CORE_ONLY)
     kovaris_test_program(test_host unit/host host_application family_presentation family_business)
-    add_dependencies(test_host kovaris)
+    add_dependencies(test_host kovaris agenda-data)
 endif()

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+#include <stop_token>
+
+namespace kova::family {
+
+/// What follows long work, and may end it before its time.
+struct LongWork {
+    /// How much of how much is done; told from time to time. May be empty.
+    std::function<void(long long done, long long total)> progress;
+    /// Asks the work to end: it fails then and leaves nothing behind.
+    std::stop_token stop;
+
+    void Reach(long long done, long long total) const
+    {
+        if (progress)
+            progress(done, total);
+    }
+};
+
+} // namespace kova::family

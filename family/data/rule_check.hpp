@@ -1,0 +1,22 @@
+#pragma once
+
+#include "family/data/database.hpp"
+
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+/// A Portuguese line for each row that breaks a rule which the writes hold to: its table, its number and
+/// what is wrong. Such rows come from outside, by an import or another program. Reads only. Fails with
+/// soci::soci_error.
+std::vector<std::string> FindBrokenRules(Database& database);
+
+/// The parts of it. Rows that refer to nothing, or whose statuses or kinds are impossible.
+void FindBrokenRows(Database& database, std::vector<std::string>& problems);
+/// Texts that should be dates, times or moments, and names that a search would not find.
+void FindBrokenTexts(Database& database, std::vector<std::string>& problems);
+/// Appointments beyond the number that their employee can have at the same time.
+void FindBookingsWithoutRoom(Database& database, std::vector<std::string>& problems);
+
+} // namespace kova::family

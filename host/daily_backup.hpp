@@ -1,0 +1,36 @@
+#pragma once
+
+#include "agenda/contracts/business_services.hpp"
+
+#include <QTimer>
+
+#include <functional>
+#include <string>
+
+namespace kova::host {
+
+/// Has the data component copy the shop once a day while the application is open: soon after the window has
+/// been painted, and again when midnight has passed. The work is done in the background; nobody waits for
+/// it.
+class DailyBackup {
+public:
+    /// Tells why the copy could not be made, and "" once there is one.
+    using Tell = std::function<void(const std::string& reason)>;
+
+    /// `components` must outlive this.
+    DailyBackup(ComponentService& components, Tell tell);
+
+    /// Begins at once where no copy is being made. The event loop does the rest.
+    void Begin();
+
+private:
+    void LookWhetherDone();
+
+    ComponentService& components_;
+    Tell tell_;
+    QTimer everyHour_, whileRunning_;
+    /// The data component that is at it; empty where none is. It gives the copy up when it goes.
+    ComponentRef store_;
+};
+
+} // namespace kova::host

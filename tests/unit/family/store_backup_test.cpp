@@ -1,0 +1,286 @@
+#include "tests/unit/family/shop_fixture.hpp"
+
+#include "family/data/data_source.hpp"
+#include "family/data/insert_new_row.hpp"
+#include "family/data/insert_row.hpp"
+#include "family/data/store_backup.hpp"
+#include "family/data/trial_restore.hpp"
+#include "family/data/unfinished_file.hpp"
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <csignal>
+#include <thread>
+
+namespace kova::family::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+long long RowsOf(const std::string& path, const std::string& table)
+{
+    long long rows = 0;
+    OpenForReading(path)->Session() << "select count(*) from " + table, soci::into(rows);
+    return rows;
+}
+
+/// Overwrites the middle of a file.
+void Damage(const std::string& path)
+{
+    std::string content = ContentOf(path);
+    std::fill(content.begin() + static_cast<long>(content.size()) / 3, content.end(), 'x');
+    WriteContent(path, content);
+}
+
+/// What `act` fails with; "" where it does not.
+std::string FailureOf(const std::function<void()>& act)
+{
+    try {
+        act();
+    } catch (const Failure& failure) {
+        return failure.Description();
+    }
+    return "";
+}
+
+/// Writes a company and a user in each transaction, until it is told to end.
+class BusyDesk {
+public:
+    explicit BusyDesk(const std::string& path)
+        : database_(OpenDatabase(path)), thread_([this](const std::stop_token& stop) { Write(stop); })
+    {
+    }
+
+    void AwaitAWrite() const
+    {
+        const long before = written_;
+        while (written_ == before)
+            std::this_thread::yield();
+    }
+
+private:
+    void Write(const std::stop_token& stop)
+    {
+        while (!stop.stop_requested()) {
+            soci::transaction transaction(database_->Session());
+            InsertNew(*database_, CompanyRow{0, "Filial", "", "", "", ""});
+            InsertNew(*database_, UserRow{0, "Carla"});
+            transaction.commit();
+            ++written_;
+        }
+    }
+
+    std::shared_ptr<Database> database_;
+    std::atomic<long> written_ = 0;
+    std::jthread thread_;
+};
+
+/// No file of this process can grow beyond that size.
+class SmallFiles {
+public:
+    explicit SmallFiles(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &former_);
+        formerHandler_ = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small{bytes, former_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallFiles()
+    {
+        setrlimit(RLIMIT_FSIZE, &former_);
+        std::signal(SIGXFSZ, formerHandler_);
+    }
+    SmallFiles(const SmallFiles&) = delete;
+    SmallFiles& operator=(const SmallFiles&) = delete;
+
+private:
+    rlimit former_{};
+    void (*formerHandler_)(int) = nullptr;
+};
+
+} // namespace
+
+class StoreBackup : public ShopTest {
+protected:
+    StoreBackup() : shop_(host_.DataSource()), copy_(folder_ / "copia.bak") { }
+
+    /// The names in the folder, the shop's own files left out.
+    std::vector<std::string> OtherFiles() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+            const std::string name = entry.path().filename().string();
+            if (name.rfind("loja.db", 0) != 0)
+                names.push_back(name);
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    std::string shop_, copy_;
+};
+
+TEST_F(StoreBackup, HoldsEveryRowAndIsRestoredToAShopThatOpens)
+{
+    const std::vector<TableCount> counts = BackUpStore(shop_, copy_, {});
+    EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
+    EXPECT_EQ(RestoreStore(copy_, folder_ / "nova.db", {}), counts);
+    EXPECT_EQ(CountRows(*OpenDatabase(folder_ / "nova.db")), CountRows(*OpenDatabase(shop_)));
+    EXPECT_EQ(RowsOf(folder_ / "nova.db", "agendamento"), 9);
+}
+
+TEST_F(StoreBackup, HoldsOneMomentWhileADeskGoesOnWriting)
+{
+    const BusyDesk desk(shop_);
+    for (int time = 0; time < 5; ++time) {
+        const std::string copy = folder_ / ("copia" + std::to_string(time) + ".bak");
+        LongWork work;
+        // The copy's moment is held open here; the desk does not wait for it.
+        work.progress = [&](long long, long long) { desk.AwaitAWrite(); };
+        BackUpStore(shop_, copy, work);
+        EXPECT_EQ(RowsOf(copy, "empresa"), RowsOf(copy, "usuario") + 1);
+    }
+}
+
+TEST_F(StoreBackup, ThatIsDamagedOnTheDiskIsNotTakenForACopy)
+{
+    LongWork work;
+    work.progress = [&](long long, long long) { Damage(UnfinishedName(copy_)); };
+    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, work); }).find("danificado"), std::string::npos);
+    EXPECT_TRUE(OtherFiles().empty());
+}
+
+TEST_F(StoreBackup, ThatLacksARowIsNotTakenForACopy)
+{
+    std::vector<TableCount> counts = BackUpStore(shop_, copy_, {});
+    EXPECT_EQ(FailureOf([&] { TrialRestore(copy_, counts, {}); }), "");
+    ++counts[3].rows;
+    const std::string refusal = FailureOf([&] { TrialRestore(copy_, counts, {}); });
+    EXPECT_NE(refusal.find("prova de restauração"), std::string::npos) << refusal;
+    EXPECT_NE(refusal.find("servico"), std::string::npos) << refusal;
+}
+
+TEST_F(StoreBackup, WithAReferenceThatLeadsNowhereIsNotTakenForACopy)
+{
+    {
+        Database database(SqliteDialect(), "dbname=" + shop_, shop_);
+        database.Session() << "pragma foreign_keys = off";
+        database.Session() << "delete from raca";
+    }
+    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find("referências"), std::string::npos);
+    EXPECT_TRUE(OtherFiles().empty());
+}
+
+TEST_F(StoreBackup, NeverReplacesAFile)
+{
+    WriteContent(copy_, "nota");
+    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find("já existe"), std::string::npos);
+    EXPECT_EQ(ContentOf(copy_), "nota");
+}
+
+TEST_F(StoreBackup, NeverReplacesAFileThatCameMeanwhile)
+{
+    LongWork work;
+    work.progress = [&](long long, long long) { WriteContent(copy_, "nota"); };
+    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, work); }), "");
+    EXPECT_EQ(ContentOf(copy_), "nota");
+    EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
+}
+
+TEST_F(StoreBackup, IsMadeByOneAtATime)
+{
+    const UnfinishedFile other(copy_);
+    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find("outro programa"), std::string::npos);
+    EXPECT_TRUE(fs::exists(other.Name()));
+}
+
+TEST_F(StoreBackup, ThatIsKilledLeavesNothingUnderItsNameAndStandsInNobodysWay)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        LongWork work;
+        work.progress = [](long long, long long) { std::raise(SIGKILL); };
+        BackUpStore(shop_, copy_, work);
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak.parcial"});
+    BackUpStore(shop_, copy_, {});
+    EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
+}
+
+TEST_F(StoreBackup, WithoutRoomFailsAndLeavesNothing)
+{
+    OpenDatabase(shop_);
+    const SmallFiles small(fs::file_size(shop_) / 2);
+    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find(copy_), std::string::npos);
+    EXPECT_TRUE(OtherFiles().empty());
+}
+
+TEST_F(StoreBackup, EndsWhereItIsAskedToAndLeavesNothing)
+{
+    std::stop_source source;
+    LongWork work{[&](long long, long long) { source.request_stop(); }, source.get_token()};
+    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, work); }).find("interrompido"), std::string::npos);
+    EXPECT_TRUE(OtherFiles().empty());
+}
+
+TEST_F(StoreBackup, IsRestoredFromWhereNothingCanBeWritten)
+{
+    BackUpStore(shop_, copy_, {});
+    fs::permissions(copy_, fs::perms::owner_read);
+    RestoreStore(copy_, folder_ / "nova.db", {});
+    EXPECT_NO_THROW(Insert(*OpenDatabase(folder_ / "nova.db"), UserRow{7, "Carla"}));
+}
+
+TEST_F(StoreBackup, NeverGivesANumberTwiceAfterItIsRestored)
+{
+    {
+        const auto database = OpenDatabase(shop_);
+        Insert(*database, UserRow{7, "Carla"});
+        database->Session() << "delete from usuario where codigo = 7";
+    }
+    BackUpStore(shop_, copy_, {});
+    RestoreStore(copy_, folder_ / "nova.db", {});
+    EXPECT_EQ(InsertNew(*OpenDatabase(folder_ / "nova.db"), UserRow{0, "Ana"}), 8);
+}
+
+TEST_F(StoreBackup, NeverReplacesAShopWhenItIsRestored)
+{
+    BackUpStore(shop_, copy_, {});
+    WriteContent(folder_ / "nova.db", "nota");
+    EXPECT_NE(FailureOf([&] { RestoreStore(copy_, folder_ / "nova.db", {}); }).find("já existe"),
+              std::string::npos);
+    EXPECT_EQ(ContentOf(folder_ / "nova.db"), "nota");
+}
+
+TEST_F(StoreBackup, ThatIsNoneIsNotRestored)
+{
+    WriteContent(copy_, "nota");
+    const std::string nobody = folder_ / "nenhuma.bak";
+    EXPECT_NE(FailureOf([&] { RestoreStore(copy_, folder_ / "a.db", {}); }).find(copy_), std::string::npos);
+    EXPECT_NE(FailureOf([&] { RestoreStore(nobody, folder_ / "a.db", {}); }).find(nobody), std::string::npos);
+    Damage(shop_);
+    EXPECT_NE(FailureOf([&] { RestoreStore(shop_, folder_ / "a.db", {}); }), "");
+    EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
+}
+
+TEST_F(StoreBackup, OfAnOlderSchemaIsRestoredAsItIsAndOpens)
+{
+    const std::string old = folder_ / "antigo.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + old, old);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(1));
+    }
+    BackUpStore(old, copy_, {});
+    RestoreStore(copy_, folder_ / "nova.db", {});
+    EXPECT_NO_THROW(Insert(*OpenDatabase(folder_ / "nova.db"), UserRow{7, "Carla"}));
+}
+
+} // namespace kova::family::test

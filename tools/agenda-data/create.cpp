@@ -1,0 +1,31 @@
+#include "family/data/new_shop.hpp"
+#include "host/computer_user.hpp"
+#include "tools/agenda-data/commands.hpp"
+
+namespace kova::data {
+
+namespace {
+
+int Run(const Call& call, Surroundings& surroundings)
+{
+    const std::string user = call.Option("--user").value_or(host::NameOfThisUser());
+    family::CreateNewShop(
+        call.Operand(0),
+        {call.Option("--company").value_or(""), user, call.Option("--employee").value_or(user)});
+    surroundings.output << "Banco de dados criado: " << call.Operand(0) << "\n";
+    return 0;
+}
+
+} // namespace
+
+const Command CreateCommand{
+    "create",
+    {"BANCO"},
+    {{"--company", "NOME"}, {"--user", "NOME"}, {"--employee", "NOME"}},
+    "cria uma loja que ainda não começou: a empresa, o usuário (padrão: o do computador), um(a)\n"
+    "funcionário(a) (padrão: o usuário), os tipos de serviço 1 a 4, as espécies mais comuns e os\n"
+    "feriados nacionais",
+    Run,
+};
+
+} // namespace kova::data

@@ -1,0 +1,43 @@
+#include "family/data/data_source.hpp"
+#include "tools/agenda-data/commands.hpp"
+
+#include <filesystem>
+
+namespace kova::data {
+
+namespace {
+
+int VersionOf(const std::string& source)
+{
+    return family::StoredVersion(family::OpenForReading(source)->Session());
+}
+
+void TellCopy(const std::string& source, int version, std::ostream& output)
+{
+    const std::string copy = family::BackupName(source, version);
+    if (std::filesystem::exists(copy))
+        output << "Cópia de antes da atualização: " << copy << "\n";
+}
+
+int Run(const Call& call, Surroundings& surroundings)
+{
+    const std::string& source = call.Operand(0);
+    const int before = VersionOf(source);
+    const int after = family::StoredVersion(family::OpenDatabase(source)->Session());
+    if (before == after) {
+        surroundings.output << "O banco de dados já está na versão " << after << ".\n";
+        return 0;
+    }
+    surroundings.output << "Banco de dados atualizado da versão " << before << " para a versão " << after
+                        << ".\n";
+    TellCopy(source, after, surroundings.output);
+    return 0;
+}
+
+} // namespace
+
+const Command MigrateCommand{
+    "migrate", {"BANCO"}, {}, "atualiza o banco para a versão deste programa, depois de o copiar", Run,
+};
+
+} // namespace kova::data

@@ -1,0 +1,24 @@
+#include "family/data/store_backup.hpp"
+#include "tools/agenda-data/commands.hpp"
+#include "tools/agenda-data/shown_work.hpp"
+
+namespace kova::data {
+
+namespace {
+
+int Run(const Call& call, Surroundings& surroundings)
+{
+    WriteCounts(
+        surroundings.output,
+        family::RestoreStore(call.Operand(0), call.Operand(1), ShownWork(surroundings.error, "Restauração")));
+    surroundings.output << "Banco de dados restaurado e conferido: " << call.Operand(1) << "\n";
+    return 0;
+}
+
+} // namespace
+
+const Command RestoreCommand{
+    "restore", {"ARQUIVO", "BANCO"}, {}, "restaura uma cópia em um banco novo, e o confere", Run,
+};
+
+} // namespace kova::data

@@ -1,0 +1,23 @@
+#include "tools/agenda-data/shown_work.hpp"
+
+namespace kova::data {
+
+family::LongWork ShownWork(std::ostream& output, const std::string& what)
+{
+    family::LongWork work;
+    work.progress = [&output, what, told = std::shared_ptr<Progress>()](long long done,
+                                                                        long long total) mutable {
+        if (!told)
+            told = std::make_shared<Progress>(output, what, total);
+        told->Reach(done);
+    };
+    return work;
+}
+
+void WriteCounts(std::ostream& output, const std::vector<family::TableCount>& counts)
+{
+    for (const family::TableCount& table : counts)
+        output << table.name << ": " << table.rows << "\n";
+}
+
+} // namespace kova::data

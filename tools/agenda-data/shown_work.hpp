@@ -1,0 +1,17 @@
+#pragma once
+
+#include "family/data/long_work.hpp"
+#include "family/data/table_layouts.hpp"
+#include "tools/agenda-data/progress.hpp"
+
+#include <memory>
+
+namespace kova::data {
+
+/// Long work whose progress is told on the stream, in lines that begin with `what`.
+family::LongWork ShownWork(std::ostream& output, const std::string& what);
+
+/// One line for each table: its name and its rows.
+void WriteCounts(std::ostream& output, const std::vector<family::TableCount>& counts);
+
+} // namespace kova::data
