@@ -56,6 +56,8 @@ LabelWindow::LabelWindow(PostalAddress address, const LabelChoice& choice, Label
     rows->setSpacing(12);
     rows->addLayout(columns, 1);
     rows->addLayout(MakeButtons());
+    // Behind the fields, although it is made with the sheet's side.
+    setTabOrder(nickname_, view_);
     FollowSheet();
     copies_->setFocus();
     copies_->selectAll();
