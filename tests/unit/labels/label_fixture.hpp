@@ -4,13 +4,13 @@
 #include "family/presentation/labels/label_output.hpp"
 #include "family/presentation/labels/label_pages.hpp"
 #include "family/presentation/labels/label_painter.hpp"
+#include "tests/support/pdf_text.hpp"
 #include "tests/support/qt_application.hpp"
 #include "toolkits/headless/toolkit.hpp"
 
 #include <gtest/gtest.h>
 
 #include <QPrinter>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace kova::family::test {
@@ -75,21 +75,13 @@ protected:
 
     QString File(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
 
-    static QString Run(const QString& program, const QStringList& arguments)
-    {
-        QProcess process;
-        process.start(program, arguments);
-        EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << program.toStdString();
-        return QString::fromUtf8(process.readAllStandardOutput());
-    }
     /// The words of a PDF in their order, a bar between sheets.
     static std::string TextOf(const QString& path)
     {
-        QStringList pages;
-        const QString text = Run(QStringLiteral("pdftotext"), {path, QStringLiteral("-")});
-        for (const QString& page : text.split(QLatin1Char('\f'), Qt::SkipEmptyParts))
-            pages += page.simplified();
-        return pages.join(QStringLiteral(" | ")).toStdString();
+        std::string text;
+        for (const std::string& page : kova::test::PdfPages(path))
+            text += (text.empty() ? "" : " | ") + page;
+        return text;
     }
 
     static constexpr const char* LabelText =

@@ -12,8 +12,8 @@ protected:
     /// Left and top edges of a word's places on the sheets, in millimetres, in their order.
     static std::vector<QPointF> PlacesOf(const QString& word, const QString& path)
     {
-        const QString boxes =
-            Run(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), path, QStringLiteral("-")});
+        const QString boxes = kova::test::OutputOf(QStringLiteral("pdftotext"),
+                                                   {QStringLiteral("-bbox"), path, QStringLiteral("-")});
         const QRegularExpression place(
             QStringLiteral("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>%1<").arg(word));
         std::vector<QPointF> places;
@@ -36,13 +36,14 @@ TEST_F(LabelOutput, HasTheSheetsSizeTitleAndFonts)
 {
     ASSERT_EQ(WriteLabelPdf(JobOf("A4-2x7", 0, 1), File("a4.pdf")).toStdString(), "");
     ASSERT_EQ(WriteLabelPdf(JobOf("carta-3x10", 0, 1), File("carta.pdf")).toStdString(), "");
-    const QString facts = Run(QStringLiteral("pdfinfo"), {File("a4.pdf")}).simplified();
+    const QString facts = kova::test::OutputOf(QStringLiteral("pdfinfo"), {File("a4.pdf")}).simplified();
     EXPECT_TRUE(facts.contains(QStringLiteral("Title: Etiqueta de endereço - José"))) << facts.toStdString();
     EXPECT_TRUE(facts.contains(QStringLiteral("Page size: 595 x 842 pts (A4)"))) << facts.toStdString();
-    const QString letter = Run(QStringLiteral("pdfinfo"), {File("carta.pdf")}).simplified();
+    const QString letter = kova::test::OutputOf(QStringLiteral("pdfinfo"), {File("carta.pdf")}).simplified();
     EXPECT_TRUE(letter.contains(QStringLiteral("Page size: 612 x 792 pts (letter)"))) << letter.toStdString();
-    const QStringList fonts =
-        Run(QStringLiteral("pdffonts"), {File("a4.pdf")}).split(QLatin1Char('\n'), Qt::SkipEmptyParts).mid(2);
+    const QStringList fonts = kova::test::OutputOf(QStringLiteral("pdffonts"), {File("a4.pdf")})
+                                  .split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+                                  .mid(2);
     EXPECT_EQ(fonts.size(), 2);
     for (const QString& font : fonts) {
         const QStringList columns = font.simplified().split(QLatin1Char(' '));
