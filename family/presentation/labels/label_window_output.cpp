@@ -20,6 +20,13 @@ QString& LastFolder()
     return folder;
 }
 
+/// The user's documents; the home folder where there is none for them.
+QString DocumentsFolder()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
 /// A title as a file's name.
 QString FileName(const QString& title)
 {
@@ -61,9 +68,7 @@ void LabelWindow::Print()
 
 QString LabelWindow::ProposedPath() const
 {
-    const QString folder = LastFolder().isEmpty()
-        ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-        : LastFolder();
+    const QString folder = LastFolder().isEmpty() ? DocumentsFolder() : LastFolder();
     return QDir(folder).filePath(FileName(QString::fromStdString(job_.pages.title)));
 }
 

@@ -120,6 +120,31 @@ TEST_F(LabelOutput, PrintsTheSheetsThatWereAskedFor)
     EXPECT_EQ(TextOf(File("papel.pdf")), std::string(LabelText) + " " + LabelText);
 }
 
+/// A printer that takes that many more pages and then is gone.
+class VanishingPrinter final : public QPrinter {
+public:
+    VanishingPrinter(const QString& file, int pages) : QPrinter(QPrinter::HighResolution), pages_(pages)
+    {
+        setOutputFormat(QPrinter::PdfFormat);
+        setOutputFileName(file);
+    }
+    bool newPage() override { return pages_-- > 0 && QPrinter::newPage(); }
+
+private:
+    int pages_;
+};
+
+TEST_F(LabelOutput, TellsOfAPrinterThatVanishesInTheMiddleOfTheJob)
+{
+    const LabelJob job = JobOf("A4-2x7", 0, 40);
+    VanishingPrinter whole(File("papel.pdf"), 2);
+    PrepareForLabels(whole, job);
+    EXPECT_EQ(PrintLabels(whole, job).toStdString(), "");
+    VanishingPrinter printer(File("meio.pdf"), 1);
+    PrepareForLabels(printer, job);
+    EXPECT_TRUE(PrintLabels(printer, job).startsWith(QStringLiteral("A impressora deixou de responder")));
+}
+
 TEST_F(LabelOutput, RefusesAPaperThatIsNotTheSheets)
 {
     const LabelJob job = JobOf("A4-2x7", 0, 1);
