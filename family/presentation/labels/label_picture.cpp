@@ -1,11 +1,11 @@
 #include "family/presentation/labels/label_picture.hpp"
 
 #include "family/presentation/labels/label_painter.hpp"
+#include "family/presentation/labels/label_sheet.hpp"
 
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace kova::family {
 
@@ -27,14 +27,15 @@ void LabelPicture::Show(reports::Page label, const reports::Box& box)
 {
     label_ = std::move(label);
     box_ = box;
-    updateGeometry();
     update();
 }
 
 QSize LabelPicture::sizeHint() const
 {
-    return QSize(static_cast<int>(std::ceil(static_cast<double>(box_.width) / TwipsOfPixel)) + 2,
-                 static_cast<int>(std::ceil(static_cast<double>(box_.height) / TwipsOfPixel)) + 2);
+    QSizeF largest;
+    for (const LabelSheet& sheet : LabelSheets())
+        largest = largest.expandedTo(QSizeF(sheet.width, sheet.height));
+    return (largest * TwipsOfMillimetre / TwipsOfPixel).toSize() + QSize(2, 2);
 }
 
 void LabelPicture::paintEvent(QPaintEvent*)

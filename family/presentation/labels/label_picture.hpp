@@ -13,6 +13,7 @@ public:
 
     /// `label` stands in a box at 0, 0 of that size, in twips.
     void Show(reports::Page label, const reports::Box& box);
+    /// Room for the largest label, so that the window does not move with the sheets.
     QSize sizeHint() const override;
 
 protected:

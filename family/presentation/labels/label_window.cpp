@@ -187,7 +187,7 @@ LabelChoice LabelWindow::Choice() const { return {run_.sheet->key, nickname_->is
 void LabelWindow::FollowSheet()
 {
     run_.sheet = &LabelSheetOf(sheets_->currentData().toString().toStdString());
-    ChooseFirst(std::min(run_.first, run_.sheet->Labels() - 1));
+    ChooseFirst(0);
 }
 
 void LabelWindow::ChooseFirst(int position)

@@ -47,7 +47,7 @@ private:
     QLayout* MakeButtons();
     QPushButton* Button(QLayout& row, const char* name, const QString& text, void (LabelWindow::*act)());
 
-    /// The sheets changed: the first free label stays within them.
+    /// Other sheets were chosen: a fresh one is put in.
     void FollowSheet();
     void ChooseFirst(int position);
     void Refresh();

@@ -184,11 +184,12 @@ TEST_F(LabelWindowTest, ChoosesTheFirstFreeLabelByAClick)
     EXPECT_EQ(First(), "4,2") << "beside the paper";
 }
 
-TEST_F(LabelWindowTest, KeepsTheFirstFreeLabelOnASmallerSheet)
+TEST_F(LabelWindowTest, BeginsAnotherSheetAtItsFirstLabel)
 {
-    The<QSpinBox>("linha").setValue(7);
+    The<QSpinBox>("linha").setValue(2);
     The<QComboBox>("folha").setCurrentIndex(The<QComboBox>("folha").findData(QStringLiteral("carta-2x5")));
-    EXPECT_EQ(First(), "5,2");
+    EXPECT_EQ(First(), "1,1");
+    EXPECT_EQ(The<QSpinBox>("linha").maximum(), 5);
     EXPECT_STREQ(window_.Job().sheet->key, "carta-2x5");
 }
 
