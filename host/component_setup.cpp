@@ -12,13 +12,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array<std::string_view, 16> NeededClasses{
-    "KOVA_A_Agenda.clsAgenda",      "KOVA_A_MsgErro.clsMensagem",       "KOVA_N_Dados.clsBanco",
-    "KOVA_N_Agenda.clsAgenda",      "KOVA_N_TipoDeServ.clsTiposDeServ", "KOVA_N_Funcionarios.clsFuncionarios",
-    "KOVA_N_Empresa.clsEmpresa",    "KOVA_N_EspecRacas.clsEspecies",    "KOVA_N_EspecRacas.clsRacas",
-    "KOVA_N_Servicos.clsServicos",  "KOVA_N_ClientAnim.clsClientes",    "KOVA_N_ClientAnim.clsAnimais",
-    "KOVA_N_Feriados.clsFeriados",  "KOVA_N_SO.clsObterVersaoDoSO",     "KOVA_A_EfeitosDeTela.clsFundoEscuro",
+constexpr std::array<std::string_view, 17> NeededClasses{
+    "KOVA_A_Agenda.clsAgenda",
+    "KOVA_A_MsgErro.clsMensagem",
+    "KOVA_N_Dados.clsBanco",
+    "KOVA_N_Agenda.clsAgenda",
+    "KOVA_N_TipoDeServ.clsTiposDeServ",
+    "KOVA_N_Funcionarios.clsFuncionarios",
+    "KOVA_N_Empresa.clsEmpresa",
+    "KOVA_N_EspecRacas.clsEspecies",
+    "KOVA_N_EspecRacas.clsRacas",
+    "KOVA_N_Servicos.clsServicos",
+    "KOVA_N_ClientAnim.clsClientes",
+    "KOVA_N_ClientAnim.clsAnimais",
+    "KOVA_N_Feriados.clsFeriados",
+    "KOVA_N_SO.clsObterVersaoDoSO",
+    "KOVA_A_EfeitosDeTela.clsFundoEscuro",
     "KOVA_A_MsgAcesso.clsMensagem",
+    "KOVA_A_EmissorDeEtiquetas.clsEtiquetas",
 };
 
 std::vector<std::string> LibrariesIn(const fs::path& folder)

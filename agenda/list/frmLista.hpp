@@ -225,6 +225,7 @@ private:
     void mnuImprimirListaDeAgendamentos_Click();
     void mnuImprimirListaDeAgendamentosParaTransporte_Click();
     void AbrirImpressaoDaLista(Integer Tipo, Integer& Ponto);
+    void AbrirDialogoDeImpressao(Integer Tipo, Integer& Ponto);
     void CopiarFiltro(KVComboBox& fonte, KVComboBox& destino);
 
     void kvcmdImprimirFicha_Click();

@@ -7,7 +7,38 @@
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/trap.hpp"
 
+#include <exception>
+#include <memory>
+#include <utility>
+
 namespace kova::agenda {
+
+namespace {
+
+/// Unloads the dialog at its end where a failure has kept it from showing: it would pass its title and its
+/// filters on to the next one.
+class DialogoPassageiro {
+public:
+    explicit DialogoPassageiro(std::shared_ptr<frmImprimirAgenda> dialogo) : dialogo_(std::move(dialogo)) { }
+    ~DialogoPassageiro()
+    {
+        try {
+            if (dialogo_->Formulario->IsLoaded())
+                dialogo_->Formulario->Unload();
+        } catch (const std::exception&) {
+            // What kept it from showing has been reported, or is on its way.
+        }
+    }
+    DialogoPassageiro(const DialogoPassageiro&) = delete;
+    DialogoPassageiro& operator=(const DialogoPassageiro&) = delete;
+
+    frmImprimirAgenda* operator->() const { return dialogo_.get(); }
+
+private:
+    std::shared_ptr<frmImprimirAgenda> dialogo_;
+};
+
+} // namespace
 
 void frmLista::kvcmdImprimirLista_Click()
 {
@@ -48,13 +79,25 @@ void frmLista::AbrirImpressaoDaLista(Integer Tipo, Integer& Ponto)
     // 2. Also under a filter: this becomes the page to come back to.
     Ponto = 2;
     PaginaSalva = Checked(ResultadoDaSelecao()->AbsolutePage());
+    AbrirDialogoDeImpressao(Tipo, Ponto);
 
+    // 8. The list is fresh on the same page, also where nothing was printed.
+    Ponto = 9;
+    if (GerarLista() == 0) {
+        Ponto = 10;
+        PaginaAtual = PaginaSalva;
+        AtualizarObjetos(0);
+    }
+}
+
+void frmLista::AbrirDialogoDeImpressao(Integer Tipo, Integer& Ponto)
+{
     // 3. The dialog's one instance is made at its first use and goes when it is closed.
     Ponto = 3;
     auto& instancia = Principal().ImprimirAgendaImplicita;
     if (!instancia)
         instancia = frmImprimirAgenda::Criar();
-    const std::shared_ptr<frmImprimirAgenda> dialogo = instancia;
+    const DialogoPassageiro dialogo(instancia);
     dialogo->TipoDaListaASerImpressa(Tipo);
     dialogo->Formulario->Load();
 
@@ -75,14 +118,6 @@ void frmLista::AbrirImpressaoDaLista(Integer Tipo, Integer& Ponto)
     // 7.
     Ponto = 8;
     dialogo->MontarExibirFormulario();
-
-    // 8. The list is fresh on the same page, also where nothing was printed.
-    Ponto = 9;
-    if (GerarLista() == 0) {
-        Ponto = 10;
-        PaginaAtual = PaginaSalva;
-        AtualizarObjetos(0);
-    }
 }
 
 void frmLista::CopiarFiltro(KVComboBox& fonte, KVComboBox& destino)

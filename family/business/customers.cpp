@@ -2,6 +2,9 @@
 
 #include "family/business/customer_record_set.hpp"
 #include "family/business/selection_arguments.hpp"
+#include "family/data/customer_address.hpp"
+
+#include <iterator>
 
 namespace kova::family {
 
@@ -21,12 +24,40 @@ CustomerFilter FilterOf(std::span<const Argument> arguments)
     return filter;
 }
 
+constexpr const char* AddressFields[] = {"CodigoDoCliente",
+                                         "ApelidoOuNomeFantasia",
+                                         "NomeOuRazaoSocial",
+                                         "Situacao",
+                                         "Logradouro",
+                                         "Numero",
+                                         "Complemento",
+                                         "Bairro",
+                                         "Cidade",
+                                         "UF",
+                                         "CEP"};
+
+std::vector<Value> RowOf(const CustomerAddress& customer)
+{
+    return {static_cast<Double>(customer.codigo),
+            customer.apelido,
+            customer.nome,
+            static_cast<Long>(customer.situacao),
+            customer.logradouro,
+            customer.numero,
+            customer.complemento,
+            customer.bairro,
+            customer.cidade,
+            customer.uf,
+            customer.cep};
+}
+
 } // namespace
 
 std::span<const Method<Customers>> Customers::Methods()
 {
     static constexpr Method<Customers> methods[] = {
-        {"Selecionar", CountOfArguments, CountOfArguments, &Customers::Selecionar}};
+        {"Selecionar", CountOfArguments, CountOfArguments, &Customers::Selecionar},
+        {"SelecionarEndereco", 1, 1, &Customers::SelecionarEndereco}};
     return methods;
 }
 
@@ -51,6 +82,17 @@ Value Customers::Selecionar(std::span<Argument> arguments)
             std::make_shared<CustomerRecordSet>(SharedData(), SelectCustomers(Data(), FilterOf(arguments)));
         selection->PageSize(RowsOfPage(arguments, selection->RecordCount()));
         return selection;
+    });
+}
+
+Value Customers::SelecionarEndereco(std::span<Argument> arguments)
+{
+    return Select("SelecionarEndereco", [&] {
+        std::vector<std::vector<Value>> rows;
+        if (const auto customer = FindByKey<CustomerAddress>(Data(), KeyOf(arguments[0].Get())))
+            rows.push_back(RowOf(*customer));
+        return std::make_shared<MemoryRecordSet>(
+            std::vector<Text>(std::begin(AddressFields), std::end(AddressFields)), rows);
     });
 }
 

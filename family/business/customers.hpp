@@ -18,6 +18,9 @@ private:
     /// Mode, rows of a page, a constant, free text, nickname or name, code, address, and four constants; no
     /// constant changes anything. Customers of every situation.
     Value Selecionar(std::span<Argument> arguments);
+    /// The address of the customer with that code (Double), in its parts: one row, whatever the customer's
+    /// situation, or none.
+    Value SelecionarEndereco(std::span<Argument> arguments);
     void DadosDoUsuario(const Value& user);
 };
 

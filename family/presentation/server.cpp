@@ -1,4 +1,5 @@
 #include "agenda/contracts/component_library.hpp"
+#include "family/presentation/clsEtiquetas.hpp"
 #include "family/presentation/clsFundoEscuro.hpp"
 #include "family/presentation/clsMensagem.hpp"
 #include "family/presentation/clsMensagemDeAcesso.hpp"
@@ -14,6 +15,8 @@ kova::ComponentLibrary& Library()
          +[](kova::ServerHost&) { return std::make_unique<kova::family::clsFundoEscuro>(); }},
         {"KOVA_A_MsgAcesso.clsMensagem", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E3}",
          +[](kova::ServerHost&) { return std::make_unique<kova::family::clsMensagemDeAcesso>(); }},
+        {"KOVA_A_EmissorDeEtiquetas.clsEtiquetas", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E4}",
+         +[](kova::ServerHost& host) { return std::make_unique<kova::family::clsEtiquetas>(host); }},
     });
     return library;
 }

@@ -15,7 +15,7 @@ BEGIN {
     rule("toolkits/headless", "agenda/contracts toolkits/common toolkits/headless reports", "std")
     rule("toolkits/qt", "agenda/contracts toolkits/common toolkits/qt reports", "std qt")
     rule("family", "agenda/contracts family", "std posix soci libpq json")
-    rule("family/presentation", "agenda/contracts family/presentation", "std qt")
+    rule("family/presentation", "agenda/contracts family/presentation reports", "std qt")
     rule("host/components", "agenda/contracts host/components", "std posix")
     rule("host", "*", "*")
     rule("tools", "*", "*")

@@ -149,6 +149,14 @@ Receptionist& Receptionist::Picks(const std::string& entry)
                  }});
 }
 
+Receptionist& Receptionist::InWindow(const std::string& window, const std::string& keys)
+{
+    const auto inFront = [window] {
+        return TopInFront() && TopInFront()->objectName().toStdString() == window;
+    };
+    return Then({"press " + keys + " in " + window, inFront, [keys] { SendKeys(keys); }});
+}
+
 Receptionist& Receptionist::Looks(std::function<void()> look)
 {
     return Then({"look", [this] { return FrontIsIdle(); }, std::move(look)});

@@ -29,6 +29,9 @@ public:
     Receptionist& Answers(const std::string& key);
     /// Goes on once a pop-up menu is open, and picks the entry of that text.
     Receptionist& Picks(const std::string& entry);
+    /// Goes on once a window of that name that is no form (a preview, a file dialog) is in front, and presses
+    /// keys in it.
+    Receptionist& InWindow(const std::string& window, const std::string& keys);
     /// Runs once the form in front takes input.
     Receptionist& Looks(std::function<void()> look);
     /// Goes on once `ready` holds; `what` says for what that was.

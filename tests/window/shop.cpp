@@ -14,6 +14,8 @@ Shop::Shop()
 {
     std::string pattern = (std::filesystem::temp_directory_path() / "loja-XXXXXX").string();
     folder_ = mkdtemp(pattern.data());
+    setenv("HOME", folder_.c_str(), 1);
+    std::filesystem::create_directories(Documents());
     setenv("XDG_DATA_HOME", (folder_ / "dados").c_str(), 1);
     setenv("XDG_CONFIG_HOME", (folder_ / "ajustes").c_str(), 1);
     const std::string make =

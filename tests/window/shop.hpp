@@ -26,6 +26,8 @@ protected:
     void Execute(const std::string& statement) const;
     /// The database as another program holds it open.
     std::unique_ptr<test::SqliteFile> OpenedByAnotherProgram() const;
+    /// Where the user's documents lie: what is saved under its proposed name goes there.
+    std::filesystem::path Documents() const { return folder_ / "Documents"; }
     /// The first value of the first row.
     std::string Value(const std::string& statement) const;
 

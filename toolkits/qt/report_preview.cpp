@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
@@ -32,6 +31,13 @@ QString& LastFolder()
     return folder;
 }
 
+/// The user's documents; the home folder where there is none for them.
+QString DocumentsFolder()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
 /// A title as a file's name.
 QString FileName(const QString& title)
 {
@@ -49,15 +55,6 @@ public:
     BusyCursor(const BusyCursor&) = delete;
     BusyCursor& operator=(const BusyCursor&) = delete;
 };
-
-QLabel* BarLabel(QHBoxLayout& bar, const char* name)
-{
-    auto* label = new QLabel;
-    label->setObjectName(QString::fromLatin1(name));
-    label->setTextFormat(Qt::PlainText);
-    bar.addWidget(label);
-    return label;
-}
 
 } // namespace
 
@@ -95,74 +92,11 @@ ReportPreview::ReportPreview(const reports::Document& document, ReportDesk& desk
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    auto* bar = new QHBoxLayout;
-    bar->setContentsMargins(12, 8, 12, 8);
-    bar->setSpacing(4);
-    MakeBar(*bar);
-    column->addLayout(bar);
+    MakeBars(*column);
     column->addWidget(canvas_);
     canvas_->changed = [this] { FollowCanvas(); };
     FollowCanvas();
     canvas_->setFocus();
-}
-
-FlatButton* ReportPreview::Button(QHBoxLayout& bar, const char* name, const char* icon, const char* text)
-{
-    const auto command = std::ranges::find_if(
-        Commands(), [&](const Command& each) { return QLatin1String(each.key) == QLatin1String(name); });
-    auto* button = new FlatButton(this);
-    const QString purpose = QString::fromUtf8(command->purpose);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setText(QString::fromUtf8(text));
-    button->setToolTip(purpose + QStringLiteral(" (%1)").arg(QString::fromLatin1(command->key)));
-    button->setAccessibleName(purpose);
-    button->setFocusPolicy(Qt::TabFocus);
-    button->SetIconName(icon);
-    button->SetBordered(true);
-    const int textWidth = QFontMetrics(button->font()).horizontalAdvance(button->text());
-    const int iconWidth = *icon == '\0' ? 0 : 26;
-    button->setFixedSize(std::max(34, (*text == '\0' ? 0 : textWidth + iconWidth) + 20), 34);
-    connect(button, &QAbstractButton::clicked, this, [this, act = command->act] { (this->*act)(); });
-    bar.addWidget(button);
-    return button;
-}
-
-void ReportPreview::MakeBar(QHBoxLayout& bar)
-{
-    Button(bar, "Ctrl+P", "imprimir", "Imprimir");
-    Button(bar, "Ctrl+S", "", "Salvar em PDF");
-    bar.addSpacing(8);
-    backButtons_ = {Button(bar, "Home", "primeira", ""), Button(bar, "PgUp", "anterior", "")};
-    pageLabel_ = BarLabel(bar, "pagina");
-    pageLabel_->setAlignment(Qt::AlignCenter);
-    pageLabel_->setMinimumWidth(110);
-    forwardButtons_ = {Button(bar, "PgDown", "posterior", ""), Button(bar, "End", "ultima", "")};
-    bar.addSpacing(8);
-    Button(bar, "Ctrl+-", "", "−");
-    zoomLabel_ = BarLabel(bar, "tamanho");
-    zoomLabel_->setAlignment(Qt::AlignCenter);
-    zoomLabel_->setMinimumWidth(44);
-    Button(bar, "Ctrl++", "", "+");
-    Button(bar, "Ctrl+L", "", "Ajustar à largura");
-    bar.addSpacing(8);
-    search_ = new QLineEdit;
-    search_->setObjectName(QStringLiteral("localizar"));
-    search_->setPlaceholderText(QStringLiteral("Localizar"));
-    search_->setAccessibleName(QStringLiteral("Localizar um texto"));
-    search_->setToolTip(QStringLiteral("Localizar um texto (Ctrl+F)"));
-    search_->setClearButtonEnabled(true);
-    search_->setFixedHeight(34);
-    search_->setMinimumWidth(110);
-    search_->setMaximumWidth(240);
-    connect(search_, &QLineEdit::textChanged, this, [this] { Search(); });
-    connect(search_, &QLineEdit::returnPressed, this, [this] { NextMatch(); });
-    bar.addWidget(search_);
-    found_ = BarLabel(bar, "achados");
-    status_ = BarLabel(bar, "situacao");
-    bar.setStretchFactor(status_, 1);
-    status_->setMinimumWidth(0);
-    status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    Button(bar, "Esc", "", "Fechar");
 }
 
 void ReportPreview::FollowCanvas()
@@ -233,12 +167,13 @@ void ReportPreview::StepToMatch(int step)
     if (matches_.empty()) {
         canvas_->ClearMarks();
         found_->setText(searched_.isEmpty() ? QString() : QStringLiteral("Nenhum texto encontrado"));
-        return;
+        return ArrangeBars();
     }
     const auto count = static_cast<int>(matches_.size());
     currentMatch_ = static_cast<std::size_t>((static_cast<int>(currentMatch_) + step + count) % count);
     found_->setText(QStringLiteral("%1 de %2").arg(currentMatch_ + 1).arg(count));
     canvas_->Mark(matches_, currentMatch_);
+    ArrangeBars();
 }
 
 // Leaving the search first: whoever presses Escape there means the search.
@@ -285,9 +220,7 @@ void ReportPreview::PrintPages()
 
 QString ReportPreview::ProposedPath() const
 {
-    const QString folder = LastFolder().isEmpty()
-        ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-        : LastFolder();
+    const QString folder = LastFolder().isEmpty() ? DocumentsFolder() : LastFolder();
     return QDir(folder).filePath(FileName(windowTitle()));
 }
 

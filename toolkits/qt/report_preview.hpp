@@ -8,7 +8,7 @@
 
 #include <vector>
 
-class QHBoxLayout;
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 
@@ -26,6 +26,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     /// What a key or a button does.
@@ -38,8 +39,13 @@ private:
     static const std::vector<Command>& Commands();
     const Command* CommandOf(const QKeyEvent& event) const;
 
-    void MakeBar(QHBoxLayout& bar);
-    FlatButton* Button(QHBoxLayout& bar, const char* name, const char* icon, const char* text);
+    void MakeBars(QBoxLayout& column);
+    void MakePageBar(QBoxLayout& bar);
+    void MakeLookBar(QBoxLayout& bar);
+    void MakeSearch(QBoxLayout& bar);
+    FlatButton* Button(QBoxLayout& bar, const char* name, const char* icon, const char* text);
+    /// The two bars beside each other, or one below the other where the window is too narrow.
+    void ArrangeBars();
     void FollowCanvas();
 
     void PreviousPage();
@@ -65,6 +71,7 @@ private:
     const reports::Document& document_;
     ReportDesk& desk_;
     ReportCanvas* canvas_;
+    QBoxLayout* bars_ = nullptr;
     QLineEdit* search_ = nullptr;
     QLabel* found_ = nullptr;
     QLabel* pageLabel_ = nullptr;

@@ -51,13 +51,29 @@ struct ScriptedComponents::State {
 
 namespace {
 
+/// The selection of an answer without a table. Nobody knows its fields, so an order may name any.
+class SelectionWithoutFields final : public MemoryRecordSet {
+public:
+    SelectionWithoutFields() : MemoryRecordSet({}, {}) { }
+
+    Text Sort() const override { return order_; }
+    void Sort(std::string_view order) override { order_ = order; }
+
+private:
+    Text order_;
+};
+
+std::shared_ptr<MemoryRecordSet> SelectionOf(const RecordTable& table)
+{
+    if (table.fields.empty())
+        return std::make_shared<SelectionWithoutFields>();
+    return std::make_shared<MemoryRecordSet>(table.fields, table.rows);
+}
+
 class ScriptedComponent : public Component {
 public:
     ScriptedComponent(std::string className, std::shared_ptr<ScriptedComponents::State> state)
-        : className_(std::move(className)),
-          state_(std::move(state)),
-          selection_(std::make_shared<MemoryRecordSet>(std::vector<std::string>{},
-                                                       std::vector<std::vector<Value>>{}))
+        : className_(std::move(className)), state_(std::move(state)), selection_(SelectionOf({}))
     {
         ++state_->liveObjects;
     }
@@ -101,7 +117,7 @@ private:
     /// may begin with a number too: the error window with that of the failure.
     void Select(std::string_view member, const RecordTable& table, std::span<Argument> arguments)
     {
-        selection_ = std::make_shared<MemoryRecordSet>(table.fields, table.rows);
+        selection_ = SelectionOf(table);
         const bool paged =
             member.starts_with("Selecionar") && arguments.size() > 2 && arguments[0].Get() == Value(Long{1});
         if (paged)

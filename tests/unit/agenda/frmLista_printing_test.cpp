@@ -107,6 +107,19 @@ TEST_F(ListPrinting, OnlyTheListForTransportChangesTheTitle)
     OpenDialog(Lista, [this] { EXPECT_EQ(dialogo->kvTheme.Caption(), "Imprimir agenda"); });
 }
 
+TEST_F(ListPrinting, ADialogThatCouldNotBeShownLeavesNoTitleToTheNextOne)
+{
+    ScriptAppointments(1);
+    const auto lista = Open();
+    toolkit.Queue().QueueMenu(ListaParaTransporte);
+    script.Fail("KOVA_A_EfeitosDeTela.clsFundoEscuro.Aplicar", Failure(5, "falhou"));
+    user.Click("frmLista", "kvcmdImprimirLista");
+    EXPECT_EQ(Reports().size(), 1U);
+    EXPECT_EQ(Principal().ImprimirAgendaImplicita, nullptr);
+    EXPECT_EQ(toolkit.FindForm(Dialogo), nullptr);
+    OpenDialog(Lista, [this] { EXPECT_EQ(dialogo->kvTheme.Caption(), "Imprimir agenda"); });
+}
+
 TEST_F(ListPrinting, TheShellIsDimmedWhileTheDialogIsOpen)
 {
     ScriptAppointments(1);

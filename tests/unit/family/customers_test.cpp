@@ -211,6 +211,52 @@ TEST_F(CustomerSearch, TellsATechnicalFailure)
     EXPECT_EQ(search(), Value(Integer(0)));
 }
 
+TEST_F(CustomerSearch, GivesTheAddressOfACodeInItsParts)
+{
+    CustomerRow row;
+    row.codigo = 40;
+    row.tipoDePessoa = "PF";
+    row.apelido = "Lu";
+    row.nome = "Lúcia Góes";
+    row.documento = "11111111111";
+    row.situacao = 2;
+    row.logradouro = "Rua \"B\"";
+    row.numero = "7-A";
+    row.complemento = "Fundos";
+    row.bairro = "Céu Azul";
+    row.cidade = "Vale Sereno";
+    row.uf = "MG";
+    row.cep = "00456789";
+    WriteCustomer(*SharedDatabase(host_.DataSource()), row, {});
+    Customers customers(host_);
+    ASSERT_EQ(customers.Call("SelecionarEndereco", {Double(40)}), Value(Integer(0)));
+    const RecordSetRef found = ResultOf(customers);
+    ASSERT_EQ(found->RecordCount(), 1);
+    EXPECT_EQ(found->FieldCount(), 11);
+    EXPECT_EQ(found->Field("CodigoDoCliente"), Value(40.0));
+    EXPECT_EQ(found->Field("Situacao"), Value(Long(2)));
+    const std::pair<const char*, const char*> texts[] = {{"ApelidoOuNomeFantasia", "Lu"},
+                                                         {"NomeOuRazaoSocial", "Lúcia Góes"},
+                                                         {"Logradouro", "Rua \"B\""},
+                                                         {"Numero", "7-A"},
+                                                         {"Complemento", "Fundos"},
+                                                         {"Bairro", "Céu Azul"},
+                                                         {"Cidade", "Vale Sereno"},
+                                                         {"UF", "MG"},
+                                                         {"CEP", "00456789"}};
+    for (const auto& [field, text] : texts)
+        EXPECT_EQ(found->Field(field), Value(text)) << field;
+}
+
+TEST_F(CustomerSearch, HasNoAddressOfACodeThatNobodyHas)
+{
+    Customers customers(host_);
+    for (const Double code : {41.0, 0.0, -1.0, 10.5}) {
+        ASSERT_EQ(customers.Call("SelecionarEndereco", {code}), Value(Integer(0)));
+        EXPECT_EQ(ResultOf(customers)->RecordCount(), 0) << code;
+    }
+}
+
 TEST_F(CustomerSearch, NeedsItsElevenArgumentsAndAnObjectAsUser)
 {
     Customers customers(host_);

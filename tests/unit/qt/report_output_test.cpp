@@ -42,6 +42,20 @@ private:
     rlimit before_{};
 };
 
+/// A printer that takes that many more pages and then is gone.
+class VanishingPrinter final : public QPrinter {
+public:
+    VanishingPrinter(const QString& file, int pages) : QPrinter(QPrinter::HighResolution), pages_(pages)
+    {
+        setOutputFormat(QPrinter::PdfFormat);
+        setOutputFileName(file);
+    }
+    bool newPage() override { return pages_-- > 0 && QPrinter::newPage(); }
+
+private:
+    int pages_;
+};
+
 class ReportOutput : public ::testing::Test {
 protected:
     QString File(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
@@ -216,6 +230,29 @@ TEST_F(ReportOutput, TellsOfAPrinterThatDoesNotTakeTheJob)
     printer.setOutputFileName(File("nada/papel.pdf"));
     EXPECT_TRUE(Print(printer, LaidOut(NumberedList(1)), 0)
                     .startsWith(QStringLiteral("A impressora deixou de responder")));
+}
+
+TEST_F(ReportOutput, TellsOfAPrinterThatVanishesInTheMiddleOfTheJob)
+{
+    const auto document = LaidOut(NumberedList(30));
+    ASSERT_EQ(document.pages.size(), 5u);
+    VanishingPrinter whole(File("papel.pdf"), 4);
+    PrepareForReport(whole, document);
+    EXPECT_EQ(Print(whole, document, 0).toStdString(), "");
+    VanishingPrinter printer(File("meio.pdf"), 2);
+    PrepareForReport(printer, document);
+    EXPECT_TRUE(Print(printer, document, 0).startsWith(QStringLiteral("A impressora deixou de responder")));
+}
+
+TEST_F(ReportOutput, TellsOfAPrintFileThatCouldNotBeWrittenToItsEnd)
+{
+    const auto document = LaidOut(NumberedList(300));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(File("papel.pdf"));
+    PrepareForReport(printer, document);
+    const FullDisk full(2000);
+    EXPECT_TRUE(Print(printer, document, 0).startsWith(QStringLiteral("A impressora deixou de responder")));
 }
 
 TEST_F(ReportOutput, DrawsInkWhereTheLayoutPutsIt)

@@ -213,6 +213,26 @@ TEST_F(Preview, BeginsAtTheTopAndFitsASmallScreen)
     EXPECT_LE(Window().minimumSizeHint().width(), 1024);
 }
 
+TEST_F(Preview, BreaksItsBarIntoTwoRowsOnANarrowScreen)
+{
+    const auto rowsAt = [&](int width) {
+        Window().resize(width, 480);
+        Settle();
+        std::set<int> rows;
+        for (const auto* button : Window().findChildren<QAbstractButton*>()) {
+            if (button->parent() == Search())
+                continue;
+            EXPECT_LE(button->geometry().right(), width) << button->objectName().toStdString();
+            rows.insert(button->y());
+        }
+        EXPECT_EQ(Window().width(), width);
+        return rows.size();
+    };
+    EXPECT_EQ(rowsAt(1024), 1U);
+    EXPECT_EQ(rowsAt(680), 2U);
+    EXPECT_EQ(rowsAt(1024), 1U);
+}
+
 class ModalPreview : public QtTest { };
 
 TEST_F(ModalPreview, ShowsTheCaptionMaximisedAndLetsGoOfTheDataWhenClosed)

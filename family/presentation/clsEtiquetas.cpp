@@ -1,0 +1,152 @@
+#include "family/presentation/clsEtiquetas.hpp"
+
+#include "agenda/contracts/text.hpp"
+#include "family/presentation/clsMensagem.hpp"
+
+#include <QApplication>
+
+namespace kova::family {
+
+namespace {
+
+constexpr const char* ClassName = "KOVA_A_EmissorDeEtiquetas.clsEtiquetas";
+constexpr Integer AddressLabel = 1;
+
+// The settings: section and keys.
+constexpr const char* Section = "Etiquetas";
+constexpr const char* SheetKey = "Folha";
+constexpr const char* NicknameKey = "ImprimirApelido";
+constexpr Integer SettingLength = 40;
+
+[[noreturn]] void FailOnMember(std::string_view member)
+{
+    throw Failure(FailureNumber::NoSuchMember,
+                  Text(ClassName) + " não aceita a propriedade ou método '" + Text(member) + "'.");
+}
+
+QString ToQString(const Text& text) { return QString::fromStdString(text); }
+
+/// Why a customer of that situation should not get a label; "" for one in good standing.
+QString Objection(Long situation)
+{
+    switch (situation) {
+    case 2: return QStringLiteral("inativo");
+    case 3: return QStringLiteral("bloqueado");
+    default: return {};
+    }
+}
+
+constexpr Long Deleted = 4;
+
+} // namespace
+
+clsEtiquetas::clsEtiquetas(ServerHost& host, DeskMaker makeDesk) : host_(host), makeDesk_(std::move(makeDesk))
+{
+    if (!makeDesk_)
+        makeDesk_ = [](Toolkit& toolkit, const Text& title) {
+            return std::make_unique<LabelDesk>(toolkit, title);
+        };
+}
+
+Value clsEtiquetas::Get(std::string_view member) { FailOnMember(member); }
+
+void clsEtiquetas::Set(std::string_view member, const Value& value)
+{
+    if (member == "CodigoDoCliente") {
+        code_ = value.ToText();
+    } else if (member == "ApelidoOuNomeFantasiaDoCliente") {
+        nickname_ = value.ToText();
+    } else if (member == "NomeOuRazaoSocialDoCliente") {
+        name_ = value.ToText();
+    } else if (member == "NomeDaAplicacao") {
+        application_ = value.ToText();
+    } else if (member == "DadosDoUsuario") {
+        if (value.GetType() != ValueType::Object)
+            throw Failure(FailureNumber::TypeMismatch);
+        user_ = value;
+    } else {
+        FailOnMember(member);
+    }
+}
+
+Value clsEtiquetas::Call(std::string_view member, std::span<Argument> arguments)
+{
+    if (member != "AbrirEmissaoDeEtiqueta")
+        FailOnMember(member);
+    if (arguments.size() != 1)
+        throw Failure(FailureNumber::WrongArgumentCount);
+    if (arguments[0].Get().ToInteger() != AddressLabel)
+        throw Failure(FailureNumber::InvalidArgument);
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+        return {};
+    try {
+        OpenLabels();
+    } catch (const BusinessFailure& failure) {
+        TellFailure(failure, failure.Place());
+    } catch (const Failure& failure) {
+        TellFailure(failure, Text(ClassName) + ", AbrirEmissaoDeEtiqueta");
+    }
+    return {};
+}
+
+void clsEtiquetas::OpenLabels()
+{
+    desk_ = makeDesk_(host_.GetPlatform().Toolkit(), application_);
+    const auto customer = FindCustomer(host_.GetPlatform().Components(), user_, Val(code_));
+    if (!MayHaveLabel(customer))
+        return;
+    PostalAddress address = customer->address;
+    if (!nickname_.empty())
+        address.nickname = nickname_;
+    if (!name_.empty())
+        address.name = name_;
+    ShowWindow(std::move(address));
+}
+
+bool clsEtiquetas::MayHaveLabel(const std::optional<RegisteredCustomer>& customer)
+{
+    const auto refuse = [&](const QString& text) {
+        desk_->Tell(MessageKind::Information, text);
+        return false;
+    };
+    if (!customer || customer->situation == Deleted)
+        return refuse(QStringLiteral("O cliente de código %1 não está mais cadastrado.\n\n"
+                                     "Atualize a lista e escolha outro agendamento.")
+                          .arg(ToQString(code_)));
+    if (!customer->address.IsComplete())
+        return refuse(
+            QStringLiteral("O cadastro de %1 não tem logradouro ou cidade.\n\n"
+                           "Complete o endereço no cadastro do cliente e abra a etiqueta novamente.")
+                .arg(ToQString(name_.empty() ? customer->address.name : name_)));
+    const QString objection = Objection(customer->situation);
+    return objection.isEmpty()
+        || desk_->Ask(
+            QStringLiteral("O cliente está %1.\n\nDeseja imprimir a etiqueta mesmo assim?").arg(objection));
+}
+
+void clsEtiquetas::ShowWindow(PostalAddress address)
+{
+    Profile& profile = host_.GetPlatform().Profile();
+    const Text file = SettingsFile();
+    const LabelChoice before{profile.Read(Section, SheetKey, "", SettingLength, file),
+                             profile.Read(Section, NicknameKey, "", SettingLength, file) == "1"};
+    LabelWindow window(std::move(address), before, *desk_, QApplication::activeWindow());
+    window.exec();
+    // A folder that cannot be written only keeps the choice from being remembered.
+    if (const LabelChoice now = window.Choice(); now != before) {
+        profile.Write(Section, SheetKey, now.sheetKey, file);
+        profile.Write(Section, NicknameKey, now.withNickname ? "1" : "0", file);
+    }
+}
+
+Text clsEtiquetas::SettingsFile()
+{
+    return host_.GetPlatform().SettingsFolder() + "/KOVA_A_EmissorDeEtiquetas.ini";
+}
+
+void clsEtiquetas::TellFailure(const Failure& failure, const Text& place) const
+{
+    clsMensagem().Call("Exibir", {Long(failure.Number()), failure.Description(), place, application_});
+}
+
+} // namespace kova::family

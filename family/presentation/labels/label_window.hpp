@@ -1,0 +1,79 @@
+#pragma once
+
+#include "family/presentation/labels/label_desk.hpp"
+#include "family/presentation/labels/label_output.hpp"
+#include "family/presentation/labels/label_pages.hpp"
+#include "family/presentation/labels/label_painter.hpp"
+
+#include <QDialog>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+class QSpinBox;
+class QToolButton;
+
+namespace kova::family {
+
+class LabelPicture;
+class LabelSheetView;
+
+/// What the window is opened with again.
+struct LabelChoice {
+    Text sheetKey = {};
+    bool withNickname = false;
+
+    friend bool operator==(const LabelChoice&, const LabelChoice&) = default;
+};
+
+/// The window that prints an address on label sheets: which sheets, the first free label on the first one,
+/// how many labels; how they will come out; printer or PDF. Escape closes.
+class LabelWindow : public QDialog {
+public:
+    /// The desk must outlive it.
+    LabelWindow(PostalAddress address, const LabelChoice& choice, LabelDesk& desk, QWidget* parent = nullptr);
+
+    LabelChoice Choice() const;
+    const LabelJob& Job() const { return job_; }
+
+private:
+    QLayout* MakeFields(const LabelChoice& choice);
+    void AddSheets(QGridLayout& grid, const LabelChoice& choice);
+    void AddNumbers(QGridLayout& grid);
+    QLayout* MakeSheetSide();
+    QLayout* MakeSheetTurner();
+    QLayout* MakeButtons();
+    QPushButton* Button(QLayout& row, const char* name, const QString& text, void (LabelWindow::*act)());
+
+    /// Other sheets were chosen: a fresh one is put in.
+    void FollowSheet();
+    void ChooseFirst(int position);
+    void Refresh();
+    void ShowSheet(int sheet);
+    QString Summary() const;
+    void Print();
+    void SavePdf();
+    QString ProposedPath() const;
+
+    PostalAddress address_;
+    LabelDesk& desk_;
+    LabelMetrics metrics_;
+    LabelRun run_;
+    LabelJob job_;
+    QComboBox* sheets_ = nullptr;
+    QSpinBox* row_ = nullptr;
+    QSpinBox* column_ = nullptr;
+    QSpinBox* copies_ = nullptr;
+    QCheckBox* nickname_ = nullptr;
+    QLabel* summary_ = nullptr;
+    QLabel* sheetNumber_ = nullptr;
+    QLabel* status_ = nullptr;
+    QToolButton* before_ = nullptr;
+    QToolButton* after_ = nullptr;
+    LabelPicture* picture_ = nullptr;
+    LabelSheetView* view_ = nullptr;
+};
+
+} // namespace kova::family

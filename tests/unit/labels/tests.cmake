@@ -1,0 +1,5 @@
+# The label window and its arithmetic, on the screen toolkit drawn into memory.
+if(NOT KOVARIS_CORE_ONLY)
+    kovaris_test_program(test_labels unit/labels family_presentation scenario toolkit_headless
+                         test_qt_application Qt6::Test)
+endif()
