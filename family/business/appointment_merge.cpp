@@ -5,8 +5,6 @@
 #include "family/data/database.hpp"
 #include "family/data/find_by_key.hpp"
 
-#include <algorithm>
-
 namespace kova::family {
 
 namespace {
@@ -60,24 +58,16 @@ Refusal RefuseClashes(Database& database, const ThreeWays& ways, const std::vect
     return WriteAnswer::Refusal(ClashText(clashes, others));
 }
 
-/// Captions of the fields that one write has changed.
-std::vector<std::string> ChangedFields(const AppointmentStep& step)
+/// Captions of the fields in which two states of an appointment differ.
+std::vector<std::string> ChangedFields(const AppointmentRow& before, const AppointmentRow& after)
 {
     std::vector<std::string> captions;
-    const AppointmentInput before = Comparable(InputOf(step.before));
-    const AppointmentInput after = Comparable(InputOf(step.after));
+    const AppointmentInput one = Comparable(InputOf(before)), other = Comparable(InputOf(after));
     for (const AppointmentField& field : AppointmentFields()) {
-        if (!field.same(before, after))
+        if (!field.same(one, other))
             captions.push_back(field.caption);
     }
     return captions;
-}
-
-bool IsSameToPeople(const AppointmentRow& one, const AppointmentRow& other)
-{
-    const AppointmentInput first = Comparable(InputOf(one)), second = Comparable(InputOf(other));
-    return std::ranges::all_of(AppointmentFields(),
-                               [&](const AppointmentField& field) { return field.same(first, second); });
 }
 
 } // namespace
@@ -109,11 +99,11 @@ Refusal CheckUnchanged(Database& database, const AppointmentRow& stored)
     const auto steps = StepsSince(database, stored, *read);
     if (!steps || steps->empty())
         return WriteAnswer::Refusal(UnknownClashText());
-    if (IsSameToPeople(steps->back().before, stored))
+    if (ChangedFields(steps->back().before, stored).empty())
         return std::nullopt;
     std::vector<OthersWrite> writes;
     for (const AppointmentStep& step : *steps)
-        writes.push_back({step.line, ChangedFields(step)});
+        writes.push_back({step.line, ChangedFields(step.before, step.after)});
     return WriteAnswer::Refusal(DeletionClashText(writes));
 }
 

@@ -19,6 +19,8 @@ protected:
     Shop();
     ~Shop() override;
 
+    std::string Database() const { return (folder_ / "loja.db").string(); }
+
     /// Runs the application until the receptionist has left it.
     void Run();
     /// Rows of a selection, columns joined by "|".

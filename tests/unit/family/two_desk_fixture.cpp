@@ -1,5 +1,7 @@
 #include "tests/unit/family/two_desk_fixture.hpp"
 
+#include "tests/unit/family/record_form.hpp"
+
 #include "family/business/appointment_fields.hpp"
 #include "family/business/status_change.hpp"
 #include "family/data/data_source.hpp"
@@ -24,30 +26,10 @@ void TwoDesksTest::Shows(const std::string& day)
 TwoDesksTest::Desk TwoDesksTest::Form(Key number)
 {
     const RecordSetRef records = ResultOf(list_);
-    for (records->MoveFirst(); records->Field("NumeroDeLancamento").ToLong() != number;)
-        records->MoveNext();
-    const auto field = [&](const char* name) { return records->Field(name); };
-    const bool simplified = field("CodigoDoCliente") == Value("");
-    const Hours hours{field("DataInicial").ToText(), field("HoraInicial").ToText(),
-                      field("DataFinal").ToText(), field("HoraFinal").ToText()};
-    Desk form = Over(static_cast<int>(number), simplified ? Simplified(hours) : Full(hours));
-    for (const char* same : {"Situacao", "CodigoDoFuncionario", "CodigoDoServico", "NumeroDoTipoDeServico"})
-        form->Set(same, field(same));
-    form->Set("Observacao", field("Observacao").IsNull() ? Value("") : field("Observacao"));
-    if (!simplified) {
-        form->Set("CodigoDoCliente", field("CodigoDoCliente"));
-        form->Set("CodigoDoAnimal", field("CodigoDoAnimal"));
-        for (const char* transport : {"TransporteBuscar", "TransporteLevar"})
-            form->Set(transport, Long(field(transport) == Value("Sim") ? -1 : 0));
-        return form;
-    }
-    form->Set("NomeOuRazaoSocialDoCliente", field("NomeOuRazaoSocialDoCliente"));
-    form->Set("CanaisdeComunicacaoDoCliente", field("TiposECanaisDeComunicacao"));
-    form->Set("NomeDoAnimal", field("NomeDoAnimal"));
-    form->Set("SexoDoAnimal", field("SexoDoAnimal"));
-    form->Set("EspecieDoAnimal", field("NomeDaEspecie"));
-    form->Set("RacaDoAnimal", field("NomeDaRaca"));
-    form->Set("CorDoAnimal", field("CorDoAnimal"));
+    GoTo(*records, number);
+    auto form = std::make_unique<Agenda>(desk_);
+    SetFromRecord(*form, *records);
+    form->Set("DadosDoUsuario", std::make_shared<DeskUser>("Lia"));
     return form;
 }
 

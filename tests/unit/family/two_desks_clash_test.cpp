@@ -51,6 +51,8 @@ struct FieldOfBoth {
     const char* typed;
 };
 
+void PrintTo(const FieldOfBoth& change, std::ostream* out) { *out << change.name; }
+
 const FieldOfBoth FieldsOfBoth[] = {
     {"CustomerAndAnimal",
      24,

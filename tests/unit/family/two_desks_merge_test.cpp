@@ -27,6 +27,8 @@ struct OthersChange {
     bool (*stands)(const AppointmentRow&);
 };
 
+void PrintTo(const OthersChange& change, std::ostream* out) { *out << change.name; }
+
 constexpr Key Full = 24, Simplified = 25;
 
 const OthersChange Changes[] = {
