@@ -57,6 +57,8 @@ private:
     AppointmentInput input_;
     WriteAnswer answer_;
     std::optional<Deleted> deleted_;
+    /// The versions of the rows of the last selection.
+    std::shared_ptr<const RowVersions::Selection> shown_;
 };
 
 } // namespace kova::family

@@ -33,12 +33,23 @@ DayFilter FilterOf(std::span<const Argument> arguments)
     return filter;
 }
 
+RowVersions::Selection VersionsOf(const DayRows& day)
+{
+    RowVersions::Selection versions;
+    versions.reserve(day.rows.size());
+    for (const DayRow& row : day.rows)
+        versions.emplace_back(row.numeroDeLancamento, row.versao);
+    return versions;
+}
+
 } // namespace
 
 Value Agenda::Selecionar(std::span<Argument> arguments)
 {
     return Select("Selecionar", [&] {
-        auto selection = DayRecordSet(SelectDay(Data(), FilterOf(arguments)));
+        DayRows day = SelectDay(Data(), FilterOf(arguments));
+        shown_ = Data().Versions().Keep(VersionsOf(day));
+        auto selection = DayRecordSet(std::move(day));
         selection->PageSize(RowsOfPage(arguments, selection->RecordCount()));
         return selection;
     });

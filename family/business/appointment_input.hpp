@@ -12,6 +12,9 @@ struct AppointmentInput {
     /// The value of `kind` that has typed texts in the place of customer and animal.
     static constexpr Long SimplifiedKind = 1;
 
+    /// Most characters of the typed texts; the boxes of the screens are as wide.
+    static constexpr std::size_t WidthOfName = 100, WidthOfRemark = 100, WidthOfText = 50;
+
     bool IsSimplified() const { return kind == SimplifiedKind; }
 
     Double number = 0;

@@ -1,10 +1,12 @@
 #include "family/business/appointment_writes.hpp"
 
+#include "family/business/appointment_merge.hpp"
 #include "family/business/booking.hpp"
 #include "family/business/pre_sale_rules.hpp"
 #include "family/business/write_in_transaction.hpp"
 #include "family/data/appointment_status.hpp"
 #include "family/data/appointment_store.hpp"
+#include "family/data/database.hpp"
 #include "family/data/find_by_key.hpp"
 
 namespace kova::family {
@@ -45,11 +47,26 @@ WriteAnswer AddEach(Booking& booking, const Author& author)
     return {};
 }
 
+WriteAnswer WriteOver(Database& database, const AppointmentRow& stored, AppointmentInput input,
+                      const Author& author)
+{
+    if (const Refusal refusal = MergeIntoInput(database, stored, input))
+        return *refusal;
+    Booking booking(database, input, stored);
+    if (const Refusal refusal = Check(booking))
+        return *refusal;
+    const WriteAnswer answer = FollowWithPreSale(database, StateOf(booking, stored.numero, stored.situacao),
+                                                 booking.row.situacao, author);
+    if (answer.IsDone())
+        ReplaceAppointment(database, stored, booking.At(booking.times.front()), author);
+    return answer;
+}
+
 /// Finds the appointment with that number and runs `write` with it, both under the lock of one transaction.
 template <class Write> WriteAnswer WithStored(Database& database, Double number, Write write)
 {
     return InTransaction(database, [&]() -> WriteAnswer {
-        const std::optional<AppointmentRow> stored = FindByKey<AppointmentRow>(database, KeyOf(number));
+        const auto stored = FindByKey<LockedAppointmentRow>(database, KeyOf(number));
         if (!stored)
             return WriteAnswer::Refusal("O agendamento não existe mais.");
         WriteAnswer answer = write(*stored);
@@ -72,21 +89,21 @@ WriteAnswer AddAppointments(Database& database, const AppointmentInput& input, c
 
 WriteAnswer AlterAppointment(Database& database, const AppointmentInput& input, const Author& author)
 {
-    return WithStored(database, input.number, [&](const AppointmentRow& stored) -> WriteAnswer {
-        Booking booking(database, input, stored);
-        if (const Refusal refusal = Check(booking))
-            return *refusal;
-        const WriteAnswer answer = FollowWithPreSale(
-            database, StateOf(booking, stored.numero, stored.situacao), booking.row.situacao, author);
-        if (answer.IsDone())
-            ReplaceAppointment(database, stored, booking.At(booking.times.front()), author);
-        return answer;
+    Key before = 0;
+    const WriteAnswer answer = WithStored(database, input.number, [&](const AppointmentRow& stored) {
+        before = stored.versao;
+        return WriteOver(database, stored, input, author);
     });
+    if (answer.IsDone())
+        database.Versions().Follow(KeyOf(input.number), before, before + 1);
+    return answer;
 }
 
 WriteAnswer DeleteAppointment(Database& database, const AppointmentInput& input, const Author& author)
 {
-    return WithStored(database, input.number, [&](const AppointmentRow& stored) {
+    return WithStored(database, input.number, [&](const AppointmentRow& stored) -> WriteAnswer {
+        if (const Refusal refusal = CheckUnchanged(database, stored))
+            return *refusal;
         const WriteAnswer answer = CheckNoPreSale(database, stored.numero, stored.situacao);
         if (answer.IsDone())
             RemoveAppointment(database, stored, author);

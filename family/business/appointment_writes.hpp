@@ -21,15 +21,18 @@ WriteAnswer AddAppointments(Database& database, const AppointmentInput& input, c
 
 /// Writes everything typed over the stored appointment with the input's number.
 /// 1. Refused where it is gone.
-/// 2. The checks, without repetition: one appointment stays one.
-/// 3. A change to or from status 4 is followed by the pre-sale, or refused.
-/// 4. The row is written, with its line in the audit. It stays in its package.
+/// 2. What other desks have changed since this session selected it is kept, or the write refused
+///    (MergeIntoInput).
+/// 3. The checks, without repetition: one appointment stays one.
+/// 4. A change to or from status 4 is followed by the pre-sale, or refused.
+/// 5. The row is written, with its line in the audit. It stays in its package.
 WriteAnswer AlterAppointment(Database& database, const AppointmentInput& input, const Author& author);
 
 /// Takes the appointment with the input's number away; nothing else of the input is looked at.
 /// 1. Refused where it is gone.
-/// 2. Refused where it has a pre-sale that is not cancelled.
-/// 3. The row goes; the audit keeps all of it.
+/// 2. Refused where other desks have changed it since this session selected it (CheckUnchanged).
+/// 3. Refused where it has a pre-sale that is not cancelled.
+/// 4. The row goes; the audit keeps all of it.
 WriteAnswer DeleteAppointment(Database& database, const AppointmentInput& input, const Author& author);
 
 } // namespace kova::family

@@ -48,11 +48,6 @@ constexpr BookingCheck ChecksOfSimplifiedRecord[] = {
     /* 8. HoraInicial                */ EmployeeHasRoom,
 };
 
-/// Most characters of the typed texts; the boxes of the screens are as wide.
-constexpr std::size_t WidthOfName = 100;
-constexpr std::size_t WidthOfRemark = 100;
-constexpr std::size_t WidthOfText = 50;
-
 Refusal CustomerIsUsable(Booking& booking)
 {
     const auto customer = FindByKey<BookedCustomer>(booking.database, KeyOf(booking.input.customer));
@@ -66,11 +61,11 @@ Refusal CustomerIsUsable(Booking& booking)
 
 Refusal CustomerHasAName(Booking& booking)
 {
-    booking.row.nomeDoCliente = CleanText(booking.input.customerName, WidthOfName);
+    booking.row.nomeDoCliente = CleanText(booking.input.customerName, AppointmentInput::WidthOfName);
     if (booking.row.nomeDoCliente.empty())
         return WriteAnswer::InvalidField("NomeOuRazaoSocialDoCliente",
                                          "Informe o nome ou a razão social do cliente.");
-    booking.row.canaisDoCliente = CleanText(booking.input.customerChannels, WidthOfText);
+    booking.row.canaisDoCliente = CleanText(booking.input.customerChannels, AppointmentInput::WidthOfText);
     return std::nullopt;
 }
 
@@ -86,13 +81,13 @@ Refusal AnimalIsOfCustomer(Booking& booking)
 Refusal AnimalHasAName(Booking& booking)
 {
     const AppointmentInput& input = booking.input;
-    booking.row.nomeDoAnimal = CleanText(input.animalName, WidthOfName);
+    booking.row.nomeDoAnimal = CleanText(input.animalName, AppointmentInput::WidthOfName);
     if (booking.row.nomeDoAnimal.empty())
         return WriteAnswer::InvalidField("NomeDoAnimal", "Informe o nome do animal.");
-    booking.row.sexoDoAnimal = CleanText(input.animalSex, WidthOfText);
-    booking.row.especieDoAnimal = CleanText(input.animalSpecies, WidthOfText);
-    booking.row.racaDoAnimal = CleanText(input.animalBreed, WidthOfText);
-    booking.row.corDoAnimal = CleanText(input.animalColour, WidthOfText);
+    booking.row.sexoDoAnimal = CleanText(input.animalSex, AppointmentInput::WidthOfText);
+    booking.row.especieDoAnimal = CleanText(input.animalSpecies, AppointmentInput::WidthOfText);
+    booking.row.racaDoAnimal = CleanText(input.animalBreed, AppointmentInput::WidthOfText);
+    booking.row.corDoAnimal = CleanText(input.animalColour, AppointmentInput::WidthOfText);
     return std::nullopt;
 }
 
@@ -168,7 +163,7 @@ void TakeTheRest(Booking& booking)
 {
     const AppointmentInput& input = booking.input;
     booking.row.tipoDoAgendamento = input.IsSimplified() ? 1 : 0;
-    if (const Text remark = CleanText(input.remark, WidthOfRemark); !remark.empty())
+    if (const Text remark = CleanText(input.remark, AppointmentInput::WidthOfRemark); !remark.empty())
         booking.row.observacao = remark;
     if (input.IsSimplified())
         return;

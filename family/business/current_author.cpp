@@ -1,6 +1,7 @@
 #include "family/business/current_author.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "family/business/desk_name.hpp"
 #include "family/data/iso_text.hpp"
 
 namespace kova::family {
@@ -12,7 +13,7 @@ Author CurrentAuthor(const ObjectRef& user, const Clock& clock)
     if (!session)
         throw missing;
     Author author{session->Get("Codigo").ToText(), Trim(session->Get("Nome").ToText()),
-                  IsoMoment(clock.Now())};
+                  IsoMoment(clock.Now()), DeskName()};
     if (author.name.empty())
         throw missing;
     return author;

@@ -22,6 +22,17 @@ std::string ShownSize(int size)
     }
 }
 
+std::string ShownStatus(int status)
+{
+    switch (status) {
+    case 1: return "Agendado";
+    case 2: return "Atendido";
+    case 3: return "Cancelado";
+    case 4: return "Atendido e gerado pré-venda";
+    default: return "";
+    }
+}
+
 std::string YesOrNo(bool yes) { return yes ? "Sim" : "Não"; }
 
 std::string ShownMoney(long long cents)

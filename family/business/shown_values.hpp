@@ -9,6 +9,8 @@ namespace kova::family {
 std::string ShownSex(std::string_view sex);
 /// "Pequeno" to "Gigante" of 1 to 4, else "".
 std::string ShownSize(int size);
+/// "Agendado" to "Atendido e gerado pré-venda" of 1 to 4, else "".
+std::string ShownStatus(int status);
 /// "Sim" or "Não".
 std::string YesOrNo(bool yes);
 

@@ -12,7 +12,8 @@ class Database;
 /// makes the pre-sale with the service's price, one from 4 cancels it. The stored status counts, not the
 /// one that a screen shows. They fail with a DatabaseFailure.
 
-/// Sets the status of one appointment. Refused where it is gone, where its pre-sale cannot be made (a
+/// Sets the status of one appointment. Refused where it is gone, where another desk has set a different one
+/// since this session selected it, where its pre-sale cannot be made (a
 /// clinical type, no registered customer) or was billed already.
 WriteAnswer ChangeStatus(Database& database, Key appointment, int status, const Author& author);
 

@@ -24,6 +24,8 @@ struct AppointmentRow {
     Nullable<std::string> alteradoEm, alteradoPor;
     /// Composed by Compose.
     std::string textoDeBusca;
+    /// 1 when it is added; every write raises it by one.
+    Key versao = 1;
 
     /// Fills the column that follows from the others. Call it before every write.
     void Compose();
@@ -58,7 +60,13 @@ struct AppointmentRow {
         visit("alterado_em", alteradoEm);
         visit("alterado_por", alteradoPor);
         visit("texto_de_busca", textoDeBusca);
+        visit("versao", versao);
     }
+};
+
+/// The same row read by a transaction that is going to write it.
+struct LockedAppointmentRow : AppointmentRow {
+    static constexpr bool LocksRow = true;
 };
 
 struct PackageRow {

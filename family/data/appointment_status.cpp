@@ -9,8 +9,14 @@ namespace {
 
 constexpr const char* Columns =
     "select a.numero, a.situacao, a.numero_do_tipo_de_servico, a.codigo_do_cliente, a.codigo_do_pacote,"
-    " s.preco_em_centavos, a.alterado_em, a.alterado_por"
+    " s.preco_em_centavos, a.alterado_em, a.alterado_por, a.versao"
     " from agendamento a join servico s on s.codigo = a.codigo_do_servico";
+
+/// The appointment alone is locked, not its service.
+std::string LockOfAppointment(const Dialect& dialect)
+{
+    return dialect.lockRow.empty() ? "" : dialect.lockRow + " of a";
+}
 
 class StateSelection : public KeptStatement {
 public:
@@ -27,12 +33,14 @@ public:
 
 protected:
     StateSelection(Database& database, const char* conditions)
-        : statement_((database.Session().prepare << std::string(Columns) + conditions,
+        : statement_((database.Session().prepare
+                          << Columns + std::string(conditions) + LockOfAppointment(database.GetDialect()),
                       soci::into(row_.number), soci::into(row_.status), soci::into(row_.serviceType),
                       soci::into(row_.customer.value, row_.customer.state),
                       soci::into(row_.package.value, row_.package.state), soci::into(row_.priceInCents),
                       soci::into(row_.changedAt.value, row_.changedAt.state),
-                      soci::into(row_.changedBy.value, row_.changedBy.state), soci::use(key_, "chave")))
+                      soci::into(row_.changedBy.value, row_.changedBy.state), soci::into(row_.version),
+                      soci::use(key_, "chave")))
     {
     }
 
@@ -62,22 +70,24 @@ public:
     explicit StatusUpdate(Database& database)
         : statement_((database.Session().prepare
                           << "update agendamento set situacao = :situacao, alterado_em = :momento,"
-                             " alterado_por = :nome where numero = :numero",
+                             " alterado_por = :nome, versao = :versao where numero = :numero",
                       soci::use(status_, "situacao"), soci::use(author_.moment, "momento"),
-                      soci::use(author_.name, "nome"), soci::use(number_, "numero")))
+                      soci::use(author_.name, "nome"), soci::use(version_, "versao"),
+                      soci::use(number_, "numero")))
     {
     }
 
-    void Run(Key number, int status, const Author& author)
+    void Run(const AppointmentState& appointment, int status, const Author& author)
     {
-        number_ = number;
+        number_ = appointment.number;
+        version_ = appointment.version + 1;
         status_ = status;
         author_ = author;
         statement_.execute(true);
     }
 
 private:
-    Key number_ = 0;
+    Key number_ = 0, version_ = 0;
     int status_ = 0;
     Author author_;
     soci::statement statement_;
@@ -103,13 +113,16 @@ std::vector<AppointmentState> FindUnattendedOfPackage(Database& database, Key pa
 
 void WriteStatus(Database& database, const AppointmentState& appointment, int status, const Author& author)
 {
-    database.With<StatusUpdate>(
-        [&](StatusUpdate& update) { update.Run(appointment.number, status, author); });
+    database.With<StatusUpdate>([&](StatusUpdate& update) { update.Run(appointment, status, author); });
     AuditValues before, after;
     before.Add("situacao", appointment.status)
         .Add("alterado_em", appointment.changedAt)
-        .Add("alterado_por", appointment.changedBy);
-    after.Add("situacao", status).Add("alterado_em", author.moment).Add("alterado_por", author.name);
+        .Add("alterado_por", appointment.changedBy)
+        .Add("versao", appointment.version);
+    after.Add("situacao", status)
+        .Add("alterado_em", author.moment)
+        .Add("alterado_por", author.name)
+        .Add("versao", appointment.version + 1);
     AuditChange(database, author, "agendamento", appointment.number, before, after);
 }
 

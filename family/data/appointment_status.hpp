@@ -32,7 +32,10 @@ struct AppointmentState {
     /// Today's price of its service.
     Key priceInCents = 0;
     Nullable<std::string> changedAt, changedBy;
+    Key version = 0;
 };
+
+/// Both lock what they find, in the transaction that is open.
 
 /// Nothing where there is no such appointment.
 std::optional<AppointmentState> FindAppointment(Database& database, Key number);
@@ -40,7 +43,8 @@ std::optional<AppointmentState> FindAppointment(Database& database, Key number);
 /// The appointments of a package that are neither attended nor billed, by start, then number.
 std::vector<AppointmentState> FindUnattendedOfPackage(Database& database, Key package);
 
-/// Writes the status, stamps the row and leaves its line in the audit, in the transaction that is open.
+/// Writes the status, stamps the row, raises its version and leaves its line in the audit, in the transaction
+/// that is open.
 void WriteStatus(Database& database, const AppointmentState& appointment, int status, const Author& author);
 
 } // namespace kova::family

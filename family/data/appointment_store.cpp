@@ -3,6 +3,7 @@
 #include "family/data/audit.hpp"
 #include "family/data/database.hpp"
 #include "family/data/insert_new_row.hpp"
+#include "family/data/insert_row.hpp"
 #include "family/data/update_row.hpp"
 
 namespace kova::family {
@@ -47,6 +48,7 @@ void ReplaceAppointment(Database& database, const AppointmentRow& before, Appoin
     after.incluidoPor = before.incluidoPor;
     after.alteradoEm = author.moment;
     after.alteradoPor = author.name;
+    after.versao = before.versao + 1;
     after.Compose();
     Update(database, after);
     AuditChange(database, author, AppointmentRow::Table, before.numero, ValuesOf(before), ValuesOf(after));
@@ -56,6 +58,13 @@ void RemoveAppointment(Database& database, const AppointmentRow& row, const Auth
 {
     database.With<AppointmentDeletion>([&](AppointmentDeletion& deletion) { deletion.Run(row.numero); });
     AuditRemoval(database, author, AppointmentRow::Table, row.numero, ValuesOf(row));
+}
+
+void RestoreRow(Database& database, AppointmentRow row, const Author& author)
+{
+    ++row.versao;
+    Insert(database, row);
+    AuditRestoration(database, author, AppointmentRow::Table, row.numero, ValuesOf(row));
 }
 
 Key AddPackage(Database& database, Key service, const Author& author)

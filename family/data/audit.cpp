@@ -30,6 +30,7 @@ AuditRow RowOf(const Author& author, const char* table, Key key, const char* ope
     AuditRow row;
     row.momento = author.moment;
     row.usuario = author.code + " - " + author.name;
+    row.posto = author.desk;
     row.tabela = table;
     row.chave = key;
     row.operacao = operation;
@@ -67,7 +68,7 @@ AuditValues& AuditValues::AddWritten(std::string_view column, const std::string&
 void AuditInsertion(Database& database, const Author& author, const char* table, Key key,
                     const AuditValues& after)
 {
-    AuditRow row = RowOf(author, table, key, "inclusao");
+    AuditRow row = RowOf(author, table, key, audit_operation::Insertion);
     row.depois = after.Line();
     Insert(database, row);
 }
@@ -75,7 +76,7 @@ void AuditInsertion(Database& database, const Author& author, const char* table,
 void AuditChange(Database& database, const Author& author, const char* table, Key key,
                  const AuditValues& before, const AuditValues& after)
 {
-    AuditRow row = RowOf(author, table, key, "alteracao");
+    AuditRow row = RowOf(author, table, key, audit_operation::Change);
     row.antes = before.Line();
     row.depois = after.Line();
     Insert(database, row);
@@ -84,8 +85,16 @@ void AuditChange(Database& database, const Author& author, const char* table, Ke
 void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
                   const AuditValues& before)
 {
-    AuditRow row = RowOf(author, table, key, "exclusao");
+    AuditRow row = RowOf(author, table, key, audit_operation::Removal);
     row.antes = before.Line();
+    Insert(database, row);
+}
+
+void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
+                      const AuditValues& after)
+{
+    AuditRow row = RowOf(author, table, key, audit_operation::Restoration);
+    row.depois = after.Line();
     Insert(database, row);
 }
 

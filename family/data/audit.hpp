@@ -25,20 +25,30 @@ private:
     std::string members_;
 };
 
-/// A row of the audit; the engine numbers it. `usuario` is "CODE - NAME".
+/// The values of `operacao`.
+namespace audit_operation {
+inline constexpr const char* Insertion = "inclusao";
+inline constexpr const char* Change = "alteracao";
+inline constexpr const char* Removal = "exclusao";
+/// A row that was gone is there again.
+inline constexpr const char* Restoration = "restauracao";
+} // namespace audit_operation
+
+/// A row of the audit; the engine numbers it. `usuario` is "CODE - NAME", `posto` the computer's name.
 struct AuditRow {
     static constexpr const char* Table = "auditoria";
-    std::string momento, usuario, tabela;
+    std::string momento, usuario, posto, tabela;
     Key chave = 0;
-    /// "inclusao", "alteracao" or "exclusao"
+    /// One of audit_operation.
     std::string operacao;
-    /// The written columns only; `antes` is Null for a new row, `depois` for one that is gone.
+    /// The written columns only; `antes` is Null for a new or restored row, `depois` for one that is gone.
     Nullable<std::string> antes, depois;
 
     template <class Visit> void Columns(Visit visit)
     {
         visit("momento", momento);
         visit("usuario", usuario);
+        visit("posto", posto);
         visit("tabela", tabela);
         visit("chave", chave);
         visit("operacao", operacao);
@@ -55,13 +65,15 @@ template <class Row> AuditValues ValuesOf(Row row)
     return values;
 }
 
-/// Write a line for a new row, for a changed one and for one that is gone, in the transaction that is
-/// open.
+/// Write a line for a new row, for a changed one, for one that is gone and for one that is back, in the
+/// transaction that is open.
 void AuditInsertion(Database& database, const Author& author, const char* table, Key key,
                     const AuditValues& after);
 void AuditChange(Database& database, const Author& author, const char* table, Key key,
                  const AuditValues& before, const AuditValues& after);
 void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
                   const AuditValues& before);
+void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
+                      const AuditValues& after);
 
 } // namespace kova::family

@@ -11,6 +11,8 @@ struct Author {
     std::string name;
     /// "yyyy-mm-dd hh:mm:ss"
     std::string moment;
+    /// Name of the computer; empty where it has none.
+    std::string desk{};
 };
 
 } // namespace kova::family

@@ -2,6 +2,7 @@
 
 #include "family/data/database_failure.hpp"
 #include "family/data/dialect.hpp"
+#include "family/data/row_versions.hpp"
 
 #include <soci/soci.h>
 
@@ -36,6 +37,8 @@ public:
     soci::session& Session() { return session_; }
     const Dialect& GetDialect() const { return dialect_; }
     const std::string& Path() const { return path_; }
+    /// What the session has read over this connection.
+    RowVersions& Versions() { return versions_; }
 
     /// Runs `use` with the kept statement of that class, preparing it at the first use. What the engine
     /// reports comes out as a Failure; the statement that failed is then prepared anew at its next use.
@@ -60,6 +63,7 @@ private:
 
     const Dialect& dialect_;
     std::string path_;
+    RowVersions versions_;
     soci::session session_;
     std::unordered_map<std::type_index, std::unique_ptr<KeptStatement>> kept_;
 };

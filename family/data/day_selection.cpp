@@ -16,7 +16,7 @@ constexpr const char* Columns =
     " coalesce(e.nome, a.especie_do_animal), coalesce(r.codigo, 0), coalesce(r.nome, a.raca_do_animal),"
     " coalesce(n.porte, 0), coalesce(n.cor, a.cor_do_animal), n.observacao, t.numero, t.nome, s.codigo,"
     " s.nome, s.duracao_em_minutos, f.codigo, f.apelido, f.nome, a.observacao, a.transporte_buscar,"
-    " a.transporte_levar, a.situacao, a.incluido_em, a.incluido_por, a.alterado_em, a.alterado_por"
+    " a.transporte_levar, a.situacao, a.incluido_em, a.incluido_por, a.alterado_em, a.alterado_por, a.versao"
     " from agendamento a"
     " join tipo_de_servico t on t.numero = a.numero_do_tipo_de_servico"
     " join servico s on s.codigo = a.codigo_do_servico"

@@ -31,6 +31,7 @@ template <class Text> struct DayRowOf {
     int transporteBuscar = 0, transporteLevar = 0, situacao = 0;
     Text incluidoEm, incluidoPor;
     Nullable<Text> alteradoEm, alteradoPor;
+    long long versao = 0;
 
     /// Every member, in the order of the statement's columns.
     auto Members()
@@ -42,7 +43,7 @@ template <class Text> struct DayRowOf {
                         numeroDoTipoDeServico, nomeDoTipoDeServico, codigoDoServico, nomeDoServico,
                         duracaoEmMinutos, codigoDoFuncionario, apelidoDoFuncionario, nomeDoFuncionario,
                         observacao, transporteBuscar, transporteLevar, situacao, incluidoEm, incluidoPor,
-                        alteradoEm, alteradoPor);
+                        alteradoEm, alteradoPor, versao);
     }
 };
 

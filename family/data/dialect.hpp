@@ -14,9 +14,12 @@ struct Dialect {
     std::string bigInteger;
     /// A text that orders by its bytes, as the folded texts are ordered.
     std::string orderedText;
-    /// Begins a transaction that writes. What it reads cannot be changed by another connection before it
+    /// Begins a transaction that writes. What it has locked cannot be changed by another connection before it
     /// ends: that one waits, or fails.
     std::string beginOfWrite;
+    /// Appended to a selection inside such a transaction: nobody else may change or lock the rows found
+    /// before it ends. A selection of several tables locks the rows of all of them.
+    std::string lockRow;
     /// The function that tells at which character a text holds another, from 1.
     std::string position;
     /// The statements that make the engine add one to the row of contador_de_alteracoes that bears the

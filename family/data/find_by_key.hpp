@@ -22,7 +22,8 @@ public:
             Bind(field);
         });
         statement_.exchange(soci::use(key_, "chave"));
-        statement_.prepare("select " + columns + " from " + Row::Table + " where " + key + " = :chave");
+        statement_.prepare("select " + columns + " from " + Row::Table + " where " + key + " = :chave"
+                           + (LocksRow() ? database.GetDialect().lockRow : ""));
         statement_.define_and_bind();
     }
 
@@ -38,6 +39,13 @@ public:
     }
 
 private:
+    static constexpr bool LocksRow()
+    {
+        if constexpr (requires { Row::LocksRow; })
+            return Row::LocksRow;
+        return false;
+    }
+
     template <class T> void Bind(T& field) { statement_.exchange(soci::into(field)); }
     template <class T> void Bind(Nullable<T>& field)
     {
@@ -49,7 +57,8 @@ private:
     soci::statement statement_;
 };
 
-/// The row with that key; nothing where there is none. Fails as Database::With.
+/// The row with that key; nothing where there is none. A row struct with LocksRow locks what it finds until
+/// the end of the transaction that is open. Fails as Database::With.
 template <class Row> std::optional<Row> FindByKey(Database& database, Key key)
 {
     return database.With<ReadRow<Row>>([&](ReadRow<Row>& reading) { return reading.Run(key); });

@@ -8,6 +8,7 @@ constexpr Migration Steps[] = {
     {1, SchemaOfVersion1},
     {2, SchemaOfVersion2},
     {3, SchemaOfVersion3},
+    {4, SchemaOfVersion4},
 };
 
 void Run(soci::session& session, const Dialect& dialect, const Migration& migration)

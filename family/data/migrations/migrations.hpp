@@ -34,5 +34,6 @@ void Migrate(soci::session& session, const Dialect& dialect, Migrations migratio
 std::vector<std::string> SchemaOfVersion1(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion2(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion3(const Dialect& dialect);
+std::vector<std::string> SchemaOfVersion4(const Dialect& dialect);
 
 } // namespace kova::family

@@ -156,6 +156,24 @@ TEST_F(Confirming, ReportsABrokenCallAndStaysOpen)
     EXPECT_EQ(Lines("release " + Agenda).size(), 1U);
 }
 
+TEST_F(Confirming, ReportsACallThatBreaksBetweenTheWriteAndThePackageAndStaysOpen)
+{
+    for (const std::string& broken : {Agenda + ".RegistroPercenteAUmPacoteDeBanhoETosa", Pacote}) {
+        SCOPED_TRACE(broken);
+        WriteAnswers("Alterar", 0, {{"RegistroPercenteAUmPacoteDeBanhoETosa", true}});
+        script.Fail(broken, Failure(5, "quebrou"));
+        if (broken == Pacote)
+            Answers({Reply::Yes});
+        EXPECT_FALSE(Save(operacao::Alterar));
+        EXPECT_FALSE(ficha->OperacaoConcluida);
+        EXPECT_EQ(Lines("call " + Agenda + ".Alterar(").size(), 1U) << "it is not written again";
+        ASSERT_EQ(Reports().size(), 1U);
+        EXPECT_NE(Reports()[0].find(", frmFichaCompleta, kvcmdSalvarFecharConfirmar_Click, Ponto: 4"),
+                  std::string::npos);
+        EXPECT_EQ(Lines("release " + Agenda).size(), 1U);
+    }
+}
+
 TEST_F(Confirming, ReportsDatesThatWereNeverPicked)
 {
     EXPECT_FALSE(Run(operacao::Adicionar, [this] {

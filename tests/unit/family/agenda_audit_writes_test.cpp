@@ -2,6 +2,8 @@
 
 #include "tests/unit/family/booking_fixture.hpp"
 
+#include "family/business/desk_name.hpp"
+
 namespace kova::family::test {
 
 class WritesAudit : public BookingTest {
@@ -39,9 +41,9 @@ TEST_F(WritesAudit, KeepsAllColumnsOfWhatIsAdded)
             R"("numero_do_tipo_de_servico":4,"codigo_do_servico":2,"codigo_do_funcionario":2,)"
             R"("codigo_do_pacote":null,"observacao":"Laço azul.","transporte_buscar":1,"transporte_levar":0,)"
             R"("situacao":1,"incluido_em":"2026-11-20 09:04:05","incluido_por":"Lia","alterado_em":null,)"
-            R"("alterado_por":null,"texto_de_busca":""})"});
-    EXPECT_EQ(Texts("select momento || ' ' || usuario from auditoria"),
-              std::vector<std::string>{"2026-11-20 09:04:05 7 - Lia"});
+            R"("alterado_por":null,"texto_de_busca":"","versao":1})"});
+    EXPECT_EQ(Texts("select momento || ' ' || usuario || ' ' || posto from auditoria"),
+              std::vector<std::string>{"2026-11-20 09:04:05 7 - Lia " + DeskName()});
 }
 
 TEST_F(WritesAudit, KeepsTheWholeRowBeforeAndAfterAnAlteration)

@@ -51,7 +51,10 @@ protected:
          {Integer(0), Long(99), Long(-4)},
          "NumeroDoTipoDeServico",
          "Selecione o tipo de serviço."},
-        {"CodigoDoServico", {0.0, 999.0, 2.5, 1e300, 4.0}, "CodigoDoServico", "Informe o serviço."},
+        {"CodigoDoServico",
+         {0.0, 999.0, 2.5, 9223372036854775808.0, 1e300, 4.0},
+         "CodigoDoServico",
+         "Informe o serviço."},
         {"CodigoDoServico", {1.0}, "CodigoDoServico", "O serviço informado não é do tipo selecionado."},
         {"DataInicial", {"__/__/____", "", "30/02/2026"}, "DataInicial", "Informe uma data inicial válida."},
         {"HoraInicial", {"24:00", "__:__", "9:7"}, "HoraInicial", "Informe uma hora inicial válida."},
@@ -83,7 +86,7 @@ TEST_F(FieldChecks, OfAFullRecordNameTheFieldsInTheirOrder)
 {
     const std::vector<Step> first = {
         {"CodigoDoCliente",
-         {0.0, 999.0, std::numeric_limits<Double>::infinity()},
+         {0.0, 999.0, 9223372036854775808.0, -1e300, std::numeric_limits<Double>::infinity()},
          "CodigoDoCliente",
          "Informe o cliente."},
         {"CodigoDoCliente", {11.0}, "CodigoDoCliente", "O cliente informado não está ativo."},

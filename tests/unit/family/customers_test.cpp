@@ -140,8 +140,9 @@ TEST_F(CustomerSearch, WithoutAConditionFindsAllWhateverTheirSituation)
 
 TEST_F(CustomerSearch, TakesACodeThatIsNoneAsOneThatNobodyHas)
 {
-    for (const Double code : {-1.0, 10.5, 1e300})
+    for (const Double code : {-1.0, 10.5, 9223372036854775808.0, 1e300})
         EXPECT_EQ(FindCode(code), (List{})) << code;
+    EXPECT_EQ(Find("9223372036854775817"), (List{})) << "nor what would be 9 after the largest number";
 }
 
 TEST_F(CustomerSearch, GivesTypedFields)

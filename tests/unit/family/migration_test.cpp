@@ -1,8 +1,10 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/combo_selection.hpp"
+#include "family/data/appointment_rows.hpp"
 #include "family/data/customer_selection.hpp"
 #include "family/data/data_source.hpp"
+#include "family/data/find_by_key.hpp"
 #include "family/data/insert_row.hpp"
 #include "family/data/rows.hpp"
 
@@ -59,9 +61,10 @@ protected:
 TEST_F(SchemaMigration, MakesEveryRegister)
 {
     const auto database = OpenDatabase(path_);
-    for (const std::string table : {"empresa", "usuario", "tipo_de_servico", "servico", "funcionario",
-                                    "especie", "raca", "cliente", "canal_de_comunicacao", "animal", "feriado",
-                                    "agendamento", "pacote", "pre_venda", "auditoria", "versao_do_esquema"}) {
+    for (const std::string table :
+         {"empresa", "usuario", "tipo_de_servico", "servico", "funcionario", "especie", "raca", "cliente",
+          "canal_de_comunicacao", "animal", "feriado", "agendamento", "pacote", "pre_venda", "auditoria",
+          "versao_do_esquema", "gravacao"}) {
         int found = 0;
         database->Session() << "select count(*) from sqlite_master where type = 'table' and name = :nome",
             soci::use(table), soci::into(found);
@@ -141,6 +144,31 @@ TEST_F(SchemaMigration, FromTheFirstVersionKeepsCustomersAndMakesTheirNamesSearc
     EXPECT_EQ(address, "rua do ipe, 1");
     EXPECT_EQ(SelectCustomers(*database, {"tonio", "", 0, ""}).size(), 1U);
     EXPECT_EQ(SelectSpecies(*database, 0).size(), 1U);
+}
+
+TEST_F(SchemaMigration, GivesAppointmentsAVersionAndOldAuditLinesNoDesk)
+{
+    const std::string path = folder_ / "antigo.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + path, path);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(3));
+        for (const char* statement :
+             {"insert into tipo_de_servico values (4, 'Banho', 'banho', 1)",
+              "insert into servico values (2, 'Banho', 'banho', '', 4, 60, 6000, 0, null, 1)",
+              "insert into funcionario values (2, 'Bia', 'Beatriz', 'beatriz', 1, 1)",
+              "insert into agendamento (numero, data_inicial, hora_inicial, data_final, hora_final,"
+              " tipo_do_agendamento, numero_do_tipo_de_servico, codigo_do_servico, codigo_do_funcionario,"
+              " situacao, incluido_em, incluido_por) values (5, '2026-11-20', '09:00', '2026-11-20', '10:00',"
+              " 1, 4, 2, 2, 1, '2026-11-01 09:00:00', 'Carla')",
+              "insert into auditoria (momento, usuario, tabela, chave, operacao)"
+              " values ('2026-11-01 09:00:00', '1 - Carla', 'agendamento', 5, 'inclusao')"})
+            database.Session() << statement;
+    }
+    const auto database = OpenDatabase(path);
+    EXPECT_EQ(FindByKey<AppointmentRow>(*database, 5)->versao, 1);
+    std::string desk = "?";
+    database->Session() << "select posto from auditoria where chave = 5", soci::into(desk);
+    EXPECT_EQ(desk, "");
 }
 
 TEST_F(SchemaMigration, KeepsReferencesWhole)

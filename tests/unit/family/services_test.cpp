@@ -93,7 +93,7 @@ TEST_F(ServiceSearch, LeavesInactiveServicesOut)
 
 TEST_F(ServiceSearch, TakesACodeThatIsNoneAsOneThatNobodyHas)
 {
-    for (const Double code : {-1.0, 1.5, 1e300, -1e300})
+    for (const Double code : {-1.0, 1.5, 9223372036854775808.0, 1e300, -1e300})
         EXPECT_EQ(Form("", code), (List{})) << code;
 }
 
