@@ -2,6 +2,7 @@
 
 #include "family/data/data_source.hpp"
 #include "family/data/file_checks.hpp"
+#include "family/data/newest_schema.hpp"
 #include "family/data/row_copy.hpp"
 #include "family/data/trial_restore.hpp"
 #include "family/data/unfinished_file.hpp"
@@ -9,15 +10,6 @@
 namespace kova::family {
 
 namespace {
-
-void RequireNewestSchema(Database& source)
-{
-    const int version = StoredVersion(source.Session());
-    if (version != NewestVersion(CurrentMigrations()))
-        throw DatabaseFailure("O banco de dados \"" + source.Path() + "\" é da versão "
-                              + std::to_string(version)
-                              + ". Atualize-o com \"agenda-data migrate\" e copie de novo.");
-}
 
 std::vector<TableCount> CountsOf(const std::vector<TableSum>& sums)
 {
