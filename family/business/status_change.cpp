@@ -4,6 +4,7 @@
 #include "family/business/pre_sale_rules.hpp"
 #include "family/business/write_in_transaction.hpp"
 #include "family/data/appointment_status.hpp"
+#include "family/data/database.hpp"
 
 #include <optional>
 #include <vector>

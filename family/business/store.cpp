@@ -6,8 +6,6 @@
 #include "family/data/shared_database.hpp"
 #include "family/demo/shop.hpp"
 
-#include <filesystem>
-
 namespace kova::family {
 
 std::span<const Method<Store>> Store::Methods()
@@ -39,11 +37,7 @@ std::span<const Property<Store>> Store::Properties()
 
 Value Store::Caminho() const { return Host().DataSource(); }
 
-Value Store::Existe() const
-{
-    std::error_code unreadable;
-    return std::filesystem::exists(std::filesystem::symlink_status(Host().DataSource(), unreadable));
-}
+Value Store::Existe() const { return DataSourceExists(Host().DataSource()); }
 
 Value Store::Verificar(std::span<Argument>)
 {

@@ -21,7 +21,7 @@ public:
 private:
     /// Text: the host's data source.
     Value Caminho() const;
-    /// Boolean: whether anything stands at that path.
+    /// Boolean: whether anything stands at that path; on a server, whether the agenda's tables are there.
     Value Existe() const;
     /// Text: trade name of the first company; "" before Abrir and where none is registered.
     Value NomeFantasia() const { return tradeName_; }
@@ -33,7 +33,7 @@ private:
     /// Lets go of it; it closes when the last component that uses it ends.
     Value Fechar(std::span<Argument>);
     /// Makes the demonstration shop there. Without an argument around today, else around that date,
-    /// "dd/mm/yyyy". Refused where a file is there already.
+    /// "dd/mm/yyyy". Refused where Existe.
     Value CriarDemonstracao(std::span<Argument> arguments);
 
     /// Begins to make, in the background, the copy of the day "dd/mm/yyyy" beside a file, where it is not

@@ -1,18 +1,19 @@
 #pragma once
 
 #include "family/business/write_answer.hpp"
-#include "family/data/write_transaction.hpp"
+#include "family/data/safe_write.hpp"
 
 namespace kova::family {
 
-/// Runs `write`, which answers a WriteAnswer, under the lock of one transaction. What is not answered with
-/// Done, or fails, has changed nothing.
+/// Runs `write`, which answers a WriteAnswer, as WriteSafely does. What is not answered with Done, or fails,
+/// has changed nothing. `write` may run more than once; the last answer counts.
 template <class Write> WriteAnswer InTransaction(Database& database, Write write)
 {
-    WriteTransaction transaction(database);
-    WriteAnswer answer = write();
-    if (answer.IsDone())
-        transaction.Commit();
+    WriteAnswer answer;
+    WriteSafely(database, [&] {
+        answer = write();
+        return answer.IsDone();
+    });
     return answer;
 }
 

@@ -60,6 +60,8 @@ struct BookedService {
 
 struct BookedEmployee {
     static constexpr const char* Table = "funcionario";
+    /// Whoever books an employee waits here for the others who do, and then sees what they have booked.
+    static constexpr bool LocksRow = true;
     Key code = 0;
     std::string nickname;
     /// Appointments that can run at the same time; 0 is unlimited.

@@ -1,173 +1,59 @@
 #include "family/data/data_source.hpp"
 
-#include "family/data/file_checks.hpp"
+#include "family/data/file_source.hpp"
+#include "family/data/server_connection.hpp"
+#include "family/data/server_source.hpp"
 
 #include <filesystem>
 
 namespace kova::family {
 
-namespace {
-
-/// The back end reads its parameters separated by blanks: the path goes in quotes, last.
-std::string Connection(const std::string& path, const std::string& options = {})
+bool DataSourceExists(const std::string& path)
 {
-    return options + "dbname=\"" + path + "\"";
-}
-
-bool HasVersionTable(soci::session& session)
-{
-    int tables = 0;
-    session << "select count(*) from sqlite_master where type = 'table' and name = 'versao_do_esquema'",
-        soci::into(tables);
-    return tables == 1;
-}
-
-const Dialect& ReadingDialect()
-{
-    static const Dialect dialect = [] {
-        Dialect reading = SqliteDialect();
-        reading.settings = {"pragma busy_timeout = 5000", "pragma query_only = on"};
-        return reading;
-    }();
-    return dialect;
-}
-
-/// Leaves nothing behind. A connection without leave to write could not take away the log files that it
-/// makes, so it is only used where they are there already: there one with leave to write would, as the
-/// last to close, carry a dead program's log into the database.
-std::unique_ptr<Database> ConnectForReading(const std::string& path)
-{
-    const bool hasLog = std::filesystem::exists(path + "-wal");
-    return std::make_unique<Database>(ReadingDialect(), Connection(path, hasLog ? "readonly=true " : ""),
-                                      path);
-}
-
-/// Version of the schema; 0 where the tables are another program's.
-int ReadVersion(const std::string& path)
-{
-    const std::unique_ptr<Database> database = ConnectForReading(path);
-    try {
-        return HasVersionTable(database->Session()) ? StoredVersion(database->Session()) : 0;
-    } catch (const soci::soci_error& cause) {
-        throw TranslatedFailure(path, cause);
-    }
-}
-
-std::optional<std::string> CheckVersion(const std::string& path, Migrations migrations)
-{
-    const int version = ReadVersion(path);
-    if (version == 0)
-        return "O arquivo \"" + path + "\" não é um banco de dados da agenda. Escolha outro arquivo.";
-    if (version > NewestVersion(migrations))
-        return "O banco de dados \"" + path + "\" é da versão " + std::to_string(version)
-            + " e este programa conhece até a versão " + std::to_string(NewestVersion(migrations))
-            + ". Atualize o programa. O arquivo não foi alterado.";
-    return std::nullopt;
-}
-
-/// A copy of one moment, complete also while somebody else writes. It gets its name only when it is
-/// whole, and takes the place of one left by an attempt that did not come to its end.
-void Backup(Database& database, int version)
-{
-    const std::string name = BackupName(database.Path(), version);
-    const std::string unfinished = name + ".parcial";
-    std::filesystem::remove(unfinished);
-    database.Session() << "vacuum into :copia", soci::use(unfinished);
-    Harden(unfinished);
-    std::filesystem::rename(unfinished, name);
-}
-
-void BringUpToDate(Database& database, Migrations migrations)
-{
-    try {
-        if (StoredVersion(database.Session()) == NewestVersion(migrations))
-            return;
-        Backup(database, NewestVersion(migrations));
-        Migrate(database.Session(), database.GetDialect(), migrations);
-    } catch (const std::runtime_error& cause) {
-        throw TranslatedFailure(database.Path(), cause);
-    }
-}
-
-/// A database under construction needs no log and no waiting for the disk: nobody sees it before it is
-/// complete.
-const Dialect& BuildingDialect()
-{
-    static const Dialect dialect = [] {
-        Dialect building = SqliteDialect();
-        building.settings = {"pragma journal_mode = off", "pragma synchronous = off",
-                             "pragma foreign_keys = off", "pragma cache_size = -64000"};
-        return building;
-    }();
-    return dialect;
-}
-
-void Build(const std::string& path, const std::function<void(Database&)>& fill)
-{
-    const Dialect& dialect = BuildingDialect();
-    Database database(dialect, Connection(path), path);
-    try {
-        Migrate(database.Session(), dialect, CurrentMigrations());
-        soci::transaction transaction(database.Session());
-        fill(database);
-        transaction.commit();
-        database.Session() << "analyze";
-    } catch (const soci::soci_error& cause) {
-        throw TranslatedFailure(path, cause);
-    }
-}
-
-} // namespace
-
-std::string BackupName(const std::string& path, int version)
-{
-    return path + ".antes-da-versao-" + std::to_string(version) + ".bak";
+    if (IsServer(path))
+        return ExistsOnServer(path);
+    std::error_code unreadable;
+    return std::filesystem::exists(std::filesystem::symlink_status(path, unreadable));
 }
 
 std::optional<std::string> CheckDataSource(const std::string& path, Migrations migrations)
 {
-    try {
-        if (auto refusal = CheckExistingFile(path))
-            return refusal;
-        return CheckVersion(path, migrations);
-    } catch (const Failure& failure) {
-        return failure.Description();
-    }
-}
-
-std::unique_ptr<Database> OpenForReading(const std::string& path)
-{
-    if (const auto refusal = CheckDataSource(path))
-        throw DatabaseFailure(*refusal);
-    return ConnectForReading(path);
+    return IsServer(path) ? CheckServerSource(path, migrations) : CheckFileSource(path, migrations);
 }
 
 std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migrations)
 {
-    if (const auto refusal = CheckDataSource(path, migrations))
-        throw DatabaseFailure(*refusal);
-    auto database = std::make_shared<Database>(SqliteDialect(), Connection(path), path);
-    BringUpToDate(*database, migrations);
-    return database;
+    return IsServer(path) ? OpenOnServer(path, migrations) : OpenFile(path, migrations);
+}
+
+std::unique_ptr<Database> OpenForReading(const std::string& path)
+{
+    return IsServer(path) ? OpenOnServerForReading(path) : OpenFileForReading(path);
 }
 
 void CreateDatabase(const std::string& path, const std::function<void(Database&)>& fill)
 {
-    if (const auto refusal = CheckNewFile(path))
-        throw DatabaseFailure(*refusal);
-    const std::string unfinished = path + ".parcial";
+    if (IsServer(path))
+        CreateOnServer(path, fill);
+    else
+        CreateFile(path, fill);
+}
+
+void NumberOn(Database& database)
+{
+    const std::string& statement = database.GetDialect().numberOn;
+    if (statement.empty())
+        return;
     try {
-        std::filesystem::remove(unfinished);
-        Build(unfinished, fill);
-        Harden(unfinished);
-        std::filesystem::rename(unfinished, path);
-    } catch (const std::filesystem::filesystem_error& cause) {
-        throw TranslatedFailure(path, cause);
-    } catch (...) {
-        std::error_code ignored;
-        std::filesystem::remove(unfinished, ignored);
-        throw;
+        database.Session() << statement;
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(database.Path(), cause);
     }
+}
+
+std::string BackupName(const std::string& path, int version)
+{
+    return path + ".antes-da-versao-" + std::to_string(version) + ".bak";
 }
 
 } // namespace kova::family

@@ -1,8 +1,7 @@
 #include "family/data/database_failure.hpp"
 
+#include <soci/postgresql/soci-postgresql.h>
 #include <soci/soci.h>
-
-#include <string_view>
 
 namespace kova::family {
 
@@ -24,6 +23,49 @@ constexpr Translation Translations[] = {
     {"interrupted", "O trabalho foi interrompido antes do fim; nada foi gravado."},
 };
 
+/// A state of a server, or the class of states that begin with it.
+struct ServerState {
+    std::string_view state;
+    Fault fault;
+    std::string_view cause;
+};
+
+constexpr std::string_view Unreachable = "O servidor não pode ser alcançado. Verifique a rede, e se o "
+                                         "servidor está ligado e o endereço está certo.";
+
+// The first that fits counts.
+constexpr ServerState ServerStates[] = {
+    {"08", Fault::ConnectionLost, Unreachable},
+    {"57P03", Fault::ConnectionLost,
+     "O servidor está iniciando ou encerrando. Aguarde um momento e tente novamente."},
+    {"57P04", Fault::Lasting, "O banco de dados foi apagado no servidor. Fale com quem cuida dele."},
+    {"57P", Fault::ConnectionLost,
+     "O servidor encerrou a conexão, como faz quando é desligado ou reiniciado. Tente novamente."},
+    {"25P03", Fault::ConnectionLost, "O servidor encerrou a conexão, que esperou demais. Tente novamente."},
+    {"53300", Fault::ConnectionLost,
+     "O servidor já tem todas as conexões que aceita. Feche programas que o usam, ou aumente o limite dele."},
+    {"53100", Fault::Lasting,
+     "O disco do servidor está cheio. Libere espaço nele e tente novamente; nada do que estava gravado se"
+     " perdeu."},
+    {"53", Fault::Lasting, "O servidor está sem recursos. Tente novamente mais tarde."},
+    {"40", Fault::Collision, "Outros postos gravavam os mesmos registros ao mesmo tempo. Tente novamente."},
+    {"55P03", Fault::Locked,
+     "Outro posto está gravando o mesmo registro. Aguarde um momento e tente novamente."},
+    {"57014", Fault::Lasting, "O servidor demorou demais e a operação foi interrompida. Tente novamente."},
+    {"28P01", Fault::Lasting,
+     "O servidor não aceitou o usuário ou a senha. Verifique o usuário no endereço e a senha no arquivo de"
+     " senhas (~/.pgpass)."},
+    {"28", Fault::Lasting,
+     "O servidor não aceita este usuário a partir deste computador, ou só com uma conexão protegida (TLS)."
+     " Fale com quem cuida do servidor."},
+    {"3D000", Fault::Lasting,
+     "Esse banco de dados não existe no servidor. Verifique o nome, ou peça que ele seja criado."},
+    {"42501", Fault::Lasting, "O usuário não tem permissão para isso no servidor. Fale com quem cuida dele."},
+    {"25006", Fault::Lasting,
+     "O servidor só aceita leitura, como uma réplica. Informe o endereço do servidor principal."},
+    {"58", Fault::Lasting, "O disco do servidor falhou. Fale com quem cuida dele."},
+};
+
 std::string MessageOf(const std::runtime_error& cause)
 {
     if (const auto* reported = dynamic_cast<const soci::soci_error*>(&cause))
@@ -31,19 +73,36 @@ std::string MessageOf(const std::runtime_error& cause)
     return cause.what();
 }
 
+std::string Opening(const std::string& path) { return "Falha no banco de dados \"" + path + "\".\r\n"; }
+
 } // namespace
 
-Failure DatabaseFailure(std::string text) { return Failure(DatabaseFailureNumber, std::move(text)); }
+StoreFailure DatabaseFailure(std::string text) { return {std::move(text), Fault::Lasting}; }
 
-Failure TranslatedFailure(const std::string& path, const std::runtime_error& cause)
+StoreFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported)
+{
+    for (const ServerState& known : ServerStates) {
+        if (state.starts_with(known.state))
+            return {Opening(path).append(known.cause) + " (" + reported + ")", known.fault};
+    }
+    return DatabaseFailure(Opening(path) + reported);
+}
+
+StoreFailure LostConnection(const std::string& path)
+{
+    return {Opening(path).append(Unreachable), Fault::ConnectionLost};
+}
+
+StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause)
 {
     const std::string message = MessageOf(cause);
-    std::string text = "Falha no banco de dados \"" + path + "\".\r\n";
+    if (const auto* reported = dynamic_cast<const soci::postgresql_soci_error*>(&cause))
+        return ServerFailure(path, reported->sqlstate(), message);
     for (const Translation& translation : Translations) {
         if (message.find(translation.reported) != std::string::npos)
-            return DatabaseFailure(text.append(translation.cause) + " (" + message + ")");
+            return DatabaseFailure(Opening(path).append(translation.cause) + " (" + message + ")");
     }
-    return DatabaseFailure(text + message);
+    return DatabaseFailure(Opening(path) + message);
 }
 
 } // namespace kova::family

@@ -4,16 +4,49 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace kova::family {
 
 /// The number under which every failure of the data store reaches the error screen.
 inline constexpr std::int32_t DatabaseFailureNumber = -2147467259;
 
-/// A failure of the data store; the text is Portuguese, names the path, and says what to do.
-Failure DatabaseFailure(std::string text);
+/// What can be done about a failure of the data store.
+enum class Fault {
+    /// Nothing; the same would fail again.
+    Lasting,
+    /// There is no connection to the server; another one may be had.
+    ConnectionLost,
+    /// Two transactions were in each other's way and this one has been undone; the same may succeed now.
+    Collision,
+    /// Somebody else kept what this one needed for too long.
+    Locked,
+};
 
-/// The same of what the database library reports, told from its message.
-Failure TranslatedFailure(const std::string& path, const std::runtime_error& cause);
+/// A failure of the data store; the text is Portuguese, names the path, and says what to do.
+class StoreFailure : public Failure {
+public:
+    StoreFailure(std::string text, Fault fault)
+        : Failure(DatabaseFailureNumber, std::move(text)), fault_(fault)
+    {
+    }
+
+    Fault GetFault() const { return fault_; }
+
+private:
+    Fault fault_;
+};
+
+/// A lasting one.
+StoreFailure DatabaseFailure(std::string text);
+
+/// What the database library reports, told from the state that the server gave it, or from its message.
+StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause);
+
+/// What a server reports under a state of five characters (SQLSTATE); `reported` is added for those who help.
+StoreFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported);
+
+/// A connection that was lost before and could not be made again.
+StoreFailure LostConnection(const std::string& path);
 
 } // namespace kova::family

@@ -4,6 +4,7 @@
 #include "family/data/file_checks.hpp"
 #include "family/data/newest_schema.hpp"
 #include "family/data/row_copy.hpp"
+#include "family/data/server_connection.hpp"
 #include "family/data/trial_restore.hpp"
 #include "family/data/unfinished_file.hpp"
 
@@ -47,15 +48,13 @@ private:
 
 } // namespace
 
-bool IsOnServer(const std::string& source) { return source.find("://") != std::string::npos; }
-
 std::vector<TableCount> CopyStore(const std::string& source, const std::string& target, const LongWork& work)
 {
     const std::unique_ptr<Database> from = OpenForReading(source);
     RequireNewestSchema(*from);
     std::vector<TableCount> counts;
     const auto fill = [&](Database& to) { FillFrom(*from, to, work, counts); };
-    if (IsOnServer(target)) {
+    if (IsServer(target)) {
         CreateDatabase(target, fill);
         return counts;
     }

@@ -2,17 +2,43 @@
 
 namespace kova::family {
 
-WriteTransaction::WriteTransaction(Database& database) : database_(database)
+namespace {
+
+void Begin(Database& database)
 {
     try {
-        database_.Session() << database_.GetDialect().beginOfWrite;
+        database.Session() << database.GetDialect().beginOfWrite;
     } catch (const soci::soci_error& cause) {
-        throw TranslatedFailure(database_.Path(), cause);
+        throw TranslatedFailure(database.Path(), cause);
     }
+}
+
+/// Where the connection turns out to be lost, nothing has been sent over it yet.
+void BeginOnLiveConnection(Database& database)
+{
+    if (database.IsConnected()) {
+        try {
+            return Begin(database);
+        } catch (const StoreFailure& failure) {
+            if (failure.GetFault() != Fault::ConnectionLost)
+                throw;
+        }
+    }
+    database.Reconnect();
+    Begin(database);
+}
+
+} // namespace
+
+WriteTransaction::WriteTransaction(Database& database) : database_(database)
+{
+    BeginOnLiveConnection(database_);
+    database_.SetInTransaction(true);
 }
 
 WriteTransaction::~WriteTransaction()
 {
+    database_.SetInTransaction(false);
     if (!open_)
         return;
     try {

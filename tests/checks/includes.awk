@@ -2,7 +2,7 @@
 # Exit status 1 where one breaks a rule.
 
 # Project headers that a folder may include (by their first folders), and families of system headers:
-# std, posix, qt, soci, json, gtest, other. "*" is everything.
+# std, posix, qt, soci, libpq, json, gtest, other. "*" is everything.
 function rule(folder, projectFolders, systemFamilies) {
     projectAllowed[folder] = projectFolders
     systemAllowed[folder] = systemFamilies
@@ -14,7 +14,7 @@ BEGIN {
     rule("toolkits/common", "agenda/contracts toolkits/common", "std")
     rule("toolkits/headless", "agenda/contracts toolkits/common toolkits/headless reports", "std")
     rule("toolkits/qt", "agenda/contracts toolkits/common toolkits/qt reports", "std qt")
-    rule("family", "agenda/contracts family", "std posix soci json")
+    rule("family", "agenda/contracts family", "std posix soci libpq json")
     rule("family/presentation", "agenda/contracts family/presentation", "std qt")
     rule("host/components", "agenda/contracts host/components", "std posix")
     rule("host", "*", "*")
@@ -45,9 +45,11 @@ function family_of(header) {
         return "soci"
     if (header ~ /^nlohmann\//)
         return "json"
+    if (header == "libpq-fe.h")
+        return "libpq"
     if (header ~ /^(gtest|gmock)\//)
         return "gtest"
-    if (header ~ /^(sys\/[a-z]+|dlfcn|fcntl|unistd)\.h$/)
+    if (header ~ /^(sys\/[a-z]+|dlfcn|fcntl|netdb|poll|unistd)\.h$/)
         return "posix"
     return "other"
 }

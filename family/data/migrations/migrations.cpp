@@ -1,5 +1,7 @@
 #include "family/data/migrations/migrations.hpp"
 
+#include "family/data/database.hpp"
+
 namespace kova::family {
 
 namespace {
@@ -32,9 +34,24 @@ int StoredVersion(soci::session& session)
     return found == soci::i_ok ? version : 0;
 }
 
-void Migrate(soci::session& session, const Dialect& dialect, Migrations migrations)
+int VersionOf(Database& database)
 {
-    soci::transaction transaction(session);
+    int tables = 0;
+    database.Session() << database.GetDialect().countVersionTables, soci::into(tables);
+    return tables == 1 ? StoredVersion(database.Session()) : 0;
+}
+
+std::optional<std::string> RefusalOfNewer(const std::string& path, int version, Migrations migrations)
+{
+    if (version <= NewestVersion(migrations))
+        return std::nullopt;
+    return "O banco de dados \"" + path + "\" é da versão " + std::to_string(version)
+        + " e este programa conhece até a versão " + std::to_string(NewestVersion(migrations))
+        + ". Atualize o programa. Nada foi alterado.";
+}
+
+void RunMissing(soci::session& session, const Dialect& dialect, Migrations migrations)
+{
     session << "create table if not exists versao_do_esquema (versao integer not null primary key)";
     // A write, although it changes nothing, makes a second program wait here instead of failing later.
     session << "delete from versao_do_esquema where versao < 0";
@@ -43,6 +60,14 @@ void Migrate(soci::session& session, const Dialect& dialect, Migrations migratio
         if (migration.version > stored)
             Run(session, dialect, migration);
     }
+}
+
+void Migrate(soci::session& session, const Dialect& dialect, Migrations migrations)
+{
+    soci::transaction transaction(session);
+    if (!dialect.lockSchema.empty())
+        session << dialect.lockSchema;
+    RunMissing(session, dialect, migrations);
     transaction.commit();
 }
 

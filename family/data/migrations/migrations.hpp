@@ -4,11 +4,14 @@
 
 #include <soci/soci.h>
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace kova::family {
+
+class Database;
 
 /// One step of the schema: the statements that lead from the version before to this one.
 struct Migration {
@@ -26,10 +29,18 @@ int NewestVersion(Migrations migrations);
 
 /// Version of the schema that a connection finds; 0 where there is none.
 int StoredVersion(soci::session& session);
+/// The same where the table of the version may be missing too. Fails with a soci::soci_error.
+int VersionOf(Database& database);
+
+/// Why a program that knows these steps must not touch a schema of that version; nothing where it may.
+std::optional<std::string> RefusalOfNewer(const std::string& path, int version, Migrations migrations);
 
 /// Runs the steps that are missing, in one transaction: all of them or none. Two programs that come at
 /// the same time wait for each other and the second finds nothing to do.
 void Migrate(soci::session& session, const Dialect& dialect, Migrations migrations);
+
+/// The same in the transaction that is open.
+void RunMissing(soci::session& session, const Dialect& dialect, Migrations migrations);
 
 std::vector<std::string> SchemaOfVersion1(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion2(const Dialect& dialect);

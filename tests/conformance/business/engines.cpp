@@ -16,6 +16,7 @@ const std::vector<EngineKind>& Engines()
          .livesInALibrary = false,
          .storesWrites = false},
         {.name = "Sqlite", .make = MakeSqliteEngine},
+        {.name = "Postgresql", .make = MakePostgresqlEngine},
     };
     return engines;
 }

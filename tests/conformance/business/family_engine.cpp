@@ -4,6 +4,7 @@
 #include "host/components/component_service.hpp"
 #include "host/components/server_host.hpp"
 #include "tests/conformance/business/shop_database.hpp"
+#include "tests/support/postgres_server.hpp"
 #include "tests/unit/components/host_fixture.hpp"
 
 namespace kova::conformance {
@@ -31,6 +32,21 @@ private:
     test::TemporaryFolder folder_;
 };
 
+class PostgresqlDatabase : public ShopStore {
+public:
+    std::string DataSource() const override { return database_.Address(); }
+    std::shared_ptr<family::Database> Connect() const override { return family::OpenDatabase(DataSource()); }
+
+private:
+    static std::string Model()
+    {
+        return test::PostgresServer::Shared().Model(
+            "shop", [](const std::string& address) { family::CreateDatabase(address, WriteShop); });
+    }
+
+    test::PostgresDatabase database_{test::PostgresServer::Shared(), Model()};
+};
+
 /// The moment of every write.
 class DeskPlatform : public test::FolderPlatform, private kova::Clock {
 public:
@@ -38,16 +54,6 @@ public:
 
 private:
     DateTime Now() const override { return RequireDateTime(MomentOfWrites); }
-    Double Timer() const override { return 0; }
-};
-
-/// A platform whose clock stands.
-class ClockedPlatform : public test::FolderPlatform, private kova::Clock {
-public:
-    kova::Clock& Clock() override { return *this; }
-
-private:
-    DateTime Now() const override { return {{2026, 11, 20}, {9, 0, 0}}; }
     Double Timer() const override { return 0; }
 };
 
@@ -95,6 +101,11 @@ private:
 std::unique_ptr<Engine> MakeSqliteEngine()
 {
     return std::make_unique<FamilyEngine>(std::make_unique<SqliteFile>());
+}
+
+std::unique_ptr<Engine> MakePostgresqlEngine()
+{
+    return std::make_unique<FamilyEngine>(std::make_unique<PostgresqlDatabase>());
 }
 
 } // namespace kova::conformance

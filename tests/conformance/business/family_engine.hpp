@@ -8,4 +8,7 @@ namespace kova::conformance {
 /// folder.
 std::unique_ptr<Engine> MakeSqliteEngine();
 
+/// The same on a server of the test program's own.
+std::unique_ptr<Engine> MakePostgresqlEngine();
+
 } // namespace kova::conformance

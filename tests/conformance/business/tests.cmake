@@ -1,7 +1,7 @@
 # One suite for the business contract, over everything that offers it.
 if(NOT KOVARIS_CORE_ONLY)
     kovaris_test_program(test_business_conformance conformance/business
-                         scenario host_components family_business)
+                         scenario host_components family_business test_postgres_server)
     target_compile_definitions(test_business_conformance PRIVATE
         FAMILY_LIBRARY="$<TARGET_FILE:KOVA_N_Familia>")
     add_dependencies(test_business_conformance KOVA_N_Familia)

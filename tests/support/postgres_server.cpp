@@ -1,0 +1,246 @@
+#include "tests/support/postgres_server.hpp"
+
+#include <libpq-fe.h>
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <stdexcept>
+#include <thread>
+
+namespace kova::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using Connection = std::unique_ptr<PGconn, decltype(&PQfinish)>;
+using Result = std::unique_ptr<PGresult, decltype(&PQclear)>;
+
+/// The user that runs the server; null where it is the one who runs the tests.
+const passwd* ServerUser()
+{
+    if (geteuid() != 0)
+        return nullptr;
+    const passwd* user = getpwnam("postgres");
+    if (user == nullptr)
+        throw std::runtime_error("the package postgresql is missing: there is no user postgres");
+    return user;
+}
+
+/// Where the packages put the server's programs; the newest version.
+std::string FindPrograms()
+{
+    std::string found;
+    for (const auto& version : fs::directory_iterator("/usr/lib/postgresql")) {
+        const fs::path programs = version.path() / "bin";
+        if (fs::exists(programs / "initdb") && programs.string() > found)
+            found = programs.string();
+    }
+    if (found.empty())
+        throw std::runtime_error("the package postgresql is missing");
+    return found;
+}
+
+/// In the process that becomes a program of the server: another user, silent, and it ends with the tests.
+[[noreturn]] void Become(const passwd* user, const std::string& log, const std::vector<std::string>& words)
+{
+    if (user != nullptr && (setgid(user->pw_gid) != 0 || setuid(user->pw_uid) != 0))
+        _exit(126);
+    prctl(PR_SET_PDEATHSIG, SIGQUIT);
+    const int output = open(log.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
+    dup2(output, STDOUT_FILENO);
+    dup2(output, STDERR_FILENO);
+    std::vector<char*> arguments;
+    for (const std::string& word : words)
+        arguments.push_back(const_cast<char*>(word.c_str()));
+    arguments.push_back(nullptr);
+    execv(arguments[0], arguments.data());
+    _exit(127);
+}
+
+pid_t Launch(const std::string& folder, const std::vector<std::string>& words)
+{
+    const passwd* user = ServerUser();
+    const pid_t child = fork();
+    if (child == 0)
+        Become(user, folder + "/log", words);
+    if (child < 0)
+        throw std::runtime_error("no process could be made");
+    return child;
+}
+
+[[noreturn]] void Fail(const std::string& folder, const std::string& what)
+{
+    std::ifstream log(folder + "/log");
+    throw std::runtime_error(what + "\n" + std::string(std::istreambuf_iterator<char>(log), {}));
+}
+
+/// The processes that a process has made and that still run.
+std::vector<pid_t> ChildrenOf(pid_t process)
+{
+    const std::string id = std::to_string(process);
+    std::ifstream list("/proc/" + id + "/task/" + id + "/children");
+    return {std::istream_iterator<pid_t>(list), {}};
+}
+
+void WaitUntilGone(pid_t process)
+{
+    while (kill(process, 0) == 0)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
+std::string MakeFolder()
+{
+    std::string folder = (fs::temp_directory_path() / "postgres-XXXXXX").string();
+    if (mkdtemp(folder.data()) == nullptr)
+        throw std::runtime_error("no temporary folder could be made");
+    if (const passwd* user = ServerUser();
+        user != nullptr && chown(folder.c_str(), user->pw_uid, user->pw_gid) != 0)
+        throw std::runtime_error("the temporary folder could not be given away");
+    return folder;
+}
+
+} // namespace
+
+PostgresServer& PostgresServer::Shared()
+{
+    static PostgresServer server;
+    return server;
+}
+
+PostgresServer::PostgresServer(Keeps keeps) : programs_(FindPrograms()), folder_(MakeFolder()), keeps_(keeps)
+{
+    // The order of texts must not depend on that of the database, so that is another one than the program's.
+    const pid_t maker =
+        Launch(folder_,
+               {Program("initdb"), "-D", folder_ + "/data", "-U", "postgres", "-A", "trust", "-E", "UTF8",
+                "--no-sync", "--locale=C.UTF-8", "--locale-provider=icu", "--icu-locale=pt-BR"});
+    int status = 0;
+    waitpid(maker, &status, 0);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
+        Fail(folder_, "initdb has failed");
+    Start();
+}
+
+PostgresServer::~PostgresServer()
+{
+    Stop();
+    std::error_code ignored;
+    fs::remove_all(folder_, ignored);
+}
+
+std::string PostgresServer::Program(const std::string& name) const { return programs_ + "/" + name; }
+
+std::string PostgresServer::AddressOf(const std::string& database) const
+{
+    return "postgresql://postgres@/" + database + "?host=" + folder_;
+}
+
+void PostgresServer::Spawn()
+{
+    std::vector<std::string> words = {Program("postgres"), "-D", folder_ + "/data", "-k", folder_, "-h", ""};
+    for (const char* setting : {"max_connections=60", "shared_buffers=16MB", "max_wal_senders=0",
+                                "wal_level=minimal", "autovacuum=off", "log_min_messages=warning"})
+        words.insert(words.end(), {"-c", setting});
+    if (keeps_ == Keeps::WithinMemory)
+        words.insert(words.end(), {"-c", "fsync=off", "-c", "full_page_writes=off"});
+    process_ = Launch(folder_, words);
+}
+
+void PostgresServer::Start()
+{
+    Spawn();
+    while (PQping(AddressOf("postgres").c_str()) != PQPING_OK) {
+        if (waitpid(process_, nullptr, WNOHANG) == process_)
+            Fail(folder_, "the server has ended");
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+}
+
+void PostgresServer::Quit(int signal)
+{
+    if (process_ == 0)
+        return;
+    kill(process_, signal);
+    waitpid(process_, nullptr, 0);
+    process_ = 0;
+}
+
+void PostgresServer::Stop() { Quit(SIGQUIT); }
+
+void PostgresServer::Kill()
+{
+    kill(process_, SIGSTOP);
+    const std::vector<pid_t> children = ChildrenOf(process_);
+    for (const pid_t child : children)
+        kill(child, SIGKILL);
+    Quit(SIGKILL);
+    for (const pid_t child : children)
+        WaitUntilGone(child);
+}
+
+std::string PostgresServer::MakeDatabase(const std::string& like)
+{
+    const std::string name = "loja_" + std::to_string(++databases_);
+    Run("postgres", "create database " + name + " template " + like);
+    return name;
+}
+
+void PostgresServer::DropDatabase(const std::string& name)
+{
+    Run("postgres", "drop database if exists " + name + " with (force)");
+}
+
+std::string PostgresServer::Model(const std::string& name,
+                                  const std::function<void(const std::string& address)>& fill)
+{
+    std::string& model = models_[name];
+    if (model.empty()) {
+        const std::string made = MakeDatabase();
+        fill(AddressOf(made));
+        model = made;
+    }
+    return model;
+}
+
+std::vector<std::string> PostgresServer::Run(const std::string& database, const std::string& statement) const
+{
+    const Connection connection(PQconnectdb(AddressOf(database).c_str()), PQfinish);
+    const Result result(PQexec(connection.get(), statement.c_str()), PQclear);
+    const ExecStatusType status = PQresultStatus(result.get());
+    if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK)
+        throw std::runtime_error(statement + ": " + PQerrorMessage(connection.get()));
+    std::vector<std::string> rows;
+    for (int row = 0; row < PQntuples(result.get()); ++row) {
+        std::string& line = rows.emplace_back();
+        for (int column = 0; column < PQnfields(result.get()); ++column) {
+            const bool isNull = PQgetisnull(result.get(), row, column) != 0;
+            line += (column == 0 ? "" : "|")
+                + std::string(isNull ? "(null)" : PQgetvalue(result.get(), row, column));
+        }
+    }
+    return rows;
+}
+
+PostgresDatabase::~PostgresDatabase()
+{
+    try {
+        server_.DropDatabase(name_);
+    } catch (const std::runtime_error&) {
+        // A server that a test has left dead takes its databases with it.
+        return;
+    }
+}
+
+} // namespace kova::test
