@@ -2,8 +2,8 @@
 
 #include "family/data/database_failure.hpp"
 #include "family/data/iso_text.hpp"
+#include "family/data/server_connection.hpp"
 #include "family/data/store_backup.hpp"
-#include "family/data/store_copy.hpp"
 #include "family/data/unfinished_file.hpp"
 
 #include <algorithm>
@@ -77,7 +77,7 @@ std::string DailyBackupName(const std::string& path, Date day)
 
 bool MakeDailyBackup(const std::string& path, Date day, const LongWork& work)
 {
-    if (IsOnServer(path))
+    if (IsServer(path))
         return false;
     const std::string file = DailyBackupName(path, day);
     try {

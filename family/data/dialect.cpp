@@ -40,6 +40,32 @@ constexpr const char* NumberOn =
     " numbered.s, numbered.k, numbered.t, numbered.s);"
     " end loop; end $$";
 
+std::string SequenceOf(const std::string& table, const std::string& key)
+{
+    return "pg_get_serial_sequence('" + table + "', '" + key + "')";
+}
+
+std::string LastOfSequence(const std::string& table, const std::string& key)
+{
+    return "select coalesce(pg_sequence_last_value(" + SequenceOf(table, key) + "::regclass), 0)";
+}
+
+std::vector<std::string> SetSequence(const std::string& table, const std::string& key, long long last)
+{
+    return {"select setval(" + SequenceOf(table, key) + ", " + std::to_string(last) + ")"};
+}
+
+std::string LastOfFile(const std::string& table, const std::string&)
+{
+    return "select coalesce(max(seq), 0) from sqlite_sequence where name = '" + table + "'";
+}
+
+std::vector<std::string> NumberFileAfter(const std::string& table, const std::string&, long long last)
+{
+    return {"delete from sqlite_sequence where name = '" + table + "'",
+            "insert into sqlite_sequence (name, seq) values ('" + table + "', " + std::to_string(last) + ")"};
+}
+
 constexpr const char* MarkWrite =
     "insert into gravacao (identificador, momento) values (:identificador,"
     " to_char(now() at time zone 'utc', 'YYYY-MM-DD HH24:MI:SS')) on conflict (identificador) do nothing";
@@ -62,12 +88,15 @@ Dialect Postgresql(const char* moreSettings)
         "bigint",
         "text collate \"C\"",
         "begin isolation level read committed",
+        "begin isolation level repeatable read read only",
         " for no key update",
         "strpos",
         CountByTriggerFunction,
         "select count(to_regclass('versao_do_esquema'))",
         "select pg_advisory_xact_lock(20081113)",
         NumberOn,
+        LastOfSequence,
+        SetSequence,
         MarkWrite,
         ForgetMarks,
         {SettingsOfServer, moreSettings},
@@ -85,6 +114,7 @@ const Dialect& SqliteDialect()
         "text",
         // The lock is taken at once: a transaction that begins by reading could not wait for it later.
         "begin immediate",
+        "begin",
         // Nobody else writes while such a transaction is open.
         "",
         "instr",
@@ -92,6 +122,8 @@ const Dialect& SqliteDialect()
         "select count(*) from sqlite_master where type = 'table' and name = 'versao_do_esquema'",
         "",
         "",
+        LastOfFile,
+        NumberFileAfter,
         "",
         "",
         // The wait comes first: switching to the write-ahead log may itself have to wait.

@@ -17,8 +17,10 @@ struct Dialect {
     /// Begins a transaction that writes. What it has locked cannot be changed by another connection before it
     /// ends: that one waits, or fails.
     std::string beginOfWrite;
-    /// Appended to a selection inside such a transaction: nobody else may change or lock the rows found
-    /// before it ends. A selection of several tables locks the rows of all of them.
+    /// Begins a transaction that only reads, and sees one moment from its first selection on.
+    std::string beginOfSnapshot;
+    /// Appended to a selection inside a transaction that writes: nobody else may change or lock the rows
+    /// found before it ends. A selection of several tables locks the rows of all of them.
     std::string lockRow;
     /// The function that tells at which character a text holds another, from 1.
     std::string position;
@@ -33,6 +35,11 @@ struct Dialect {
     /// Run after rows were written with keys of the caller's: the engine then numbers on behind the highest.
     /// Empty where it does so anyway.
     std::string numberOn;
+    /// The selection of the highest number that the engine has given to a row of the table, also one that is
+    /// gone; 0 where it has given none.
+    std::string (*lastGiven)(const std::string& table, const std::string& key);
+    /// The statements after which the engine numbers the table's next row one higher than `last`.
+    std::vector<std::string> (*numberAfter)(const std::string& table, const std::string& key, long long last);
     /// Writes the mark :identificador of a transaction that is about to write, unless it stands there
     /// already; waits for another transaction that is writing the same. Empty where a connection cannot break
     /// between a commit and its answer.

@@ -150,8 +150,7 @@ class Snapshot {
 public:
     explicit Snapshot(Database& database) : session_(database.Session())
     {
-        const bool server = database.GetDialect().backend == PostgresqlDialect().backend;
-        session_ << (server ? "begin isolation level repeatable read read only" : "begin");
+        session_ << database.GetDialect().beginOfSnapshot;
     }
     ~Snapshot()
     {

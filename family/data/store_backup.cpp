@@ -2,6 +2,7 @@
 
 #include "family/data/data_source.hpp"
 #include "family/data/online_copy.hpp"
+#include "family/data/server_connection.hpp"
 #include "family/data/store_copy.hpp"
 #include "family/data/trial_restore.hpp"
 #include "family/data/unfinished_file.hpp"
@@ -53,7 +54,7 @@ void CopyContent(const std::string& file, const std::string& target, const LongW
 
 std::vector<TableCount> BackUpStore(const std::string& source, const std::string& file, const LongWork& work)
 {
-    if (IsOnServer(source))
+    if (IsServer(source))
         return CopyStore(source, file, work);
     const std::unique_ptr<Database> database = OpenForReading(source);
     UnfinishedFile copy(file);
@@ -66,7 +67,7 @@ std::vector<TableCount> BackUpStore(const std::string& source, const std::string
 std::vector<TableCount> RestoreStore(const std::string& file, const std::string& target, const LongWork& work)
 {
     RequireFile(file);
-    if (IsOnServer(target))
+    if (IsServer(target))
         return CopyStore(file, target, work);
     UnfinishedFile restored(target);
     try {

@@ -1,13 +1,17 @@
 #include "family/data/store_check.hpp"
 
 #include "family/data/data_source.hpp"
+#include "family/data/server_connection.hpp"
 
 namespace kova::family {
 
 namespace {
 
+/// A server looks after both itself.
 void FindProblems(soci::session& session, const std::string& path, StoreReport& report)
 {
+    if (IsServer(path))
+        return;
     std::string verdict;
     session << "pragma integrity_check(1)", soci::into(verdict);
     if (verdict != "ok")

@@ -2,22 +2,15 @@
 
 #include "family/data/data_source.hpp"
 #include "family/data/file_checks.hpp"
+#include "family/data/newest_schema.hpp"
 #include "family/data/row_copy.hpp"
+#include "family/data/server_connection.hpp"
 #include "family/data/trial_restore.hpp"
 #include "family/data/unfinished_file.hpp"
 
 namespace kova::family {
 
 namespace {
-
-void RequireNewestSchema(Database& source)
-{
-    const int version = StoredVersion(source.Session());
-    if (version != NewestVersion(CurrentMigrations()))
-        throw DatabaseFailure("O banco de dados \"" + source.Path() + "\" é da versão "
-                              + std::to_string(version)
-                              + ". Atualize-o com \"agenda-data migrate\" e copie de novo.");
-}
 
 std::vector<TableCount> CountsOf(const std::vector<TableSum>& sums)
 {
@@ -55,15 +48,13 @@ private:
 
 } // namespace
 
-bool IsOnServer(const std::string& source) { return source.find("://") != std::string::npos; }
-
 std::vector<TableCount> CopyStore(const std::string& source, const std::string& target, const LongWork& work)
 {
     const std::unique_ptr<Database> from = OpenForReading(source);
     RequireNewestSchema(*from);
     std::vector<TableCount> counts;
     const auto fill = [&](Database& to) { FillFrom(*from, to, work, counts); };
-    if (IsOnServer(target)) {
+    if (IsServer(target)) {
         CreateDatabase(target, fill);
         return counts;
     }

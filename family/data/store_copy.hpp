@@ -13,7 +13,4 @@ namespace kova::family {
 /// rows. The source has to be of the newest schema. Fails with a DatabaseFailure, and leaves nothing then.
 std::vector<TableCount> CopyStore(const std::string& source, const std::string& target, const LongWork& work);
 
-/// Whether a data source is kept by a server; else it is a file.
-bool IsOnServer(const std::string& source);
-
 } // namespace kova::family

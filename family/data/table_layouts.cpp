@@ -25,6 +25,7 @@ constexpr StoredTable Tables[] = {
     {"agendamento", "numero"},
     {"pre_venda", "codigo"},
     {"auditoria", "codigo"},
+    {"gravacao", "identificador", 4, false},
 };
 
 } // namespace

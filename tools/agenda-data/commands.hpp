@@ -16,7 +16,9 @@ extern const Command CopyCommand;
 extern const Command CreateCommand;
 extern const Command DemoCommand;
 extern const Command GenerateCommand;
+extern const Command HistoryCommand;
 extern const Command MigrateCommand;
 extern const Command RestoreCommand;
+extern const Command UndeleteCommand;
 
 } // namespace kova::data

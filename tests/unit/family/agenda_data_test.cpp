@@ -1,5 +1,7 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
+#include "family/business/appointment_writes.hpp"
+#include "family/data/data_source.hpp"
 #include "family/data/migrations/migrations.hpp"
 #include "tools/agenda-data/commands.hpp"
 
@@ -151,6 +153,44 @@ TEST_F(AgendaData, FindsRowsThatBreakARule)
     EXPECT_FALSE(Said("íntegro"));
 }
 
+TEST_F(AgendaData, TellsTheHistoryOfAnAppointmentAndRestoresIt)
+{
+    const std::string file = folder_ / "a.db";
+    Run({"demo", file});
+    int key = 0;
+    OpenDatabase(file)->Session() << "select min(numero) from agendamento where situacao = 1",
+        soci::into(key);
+    AppointmentInput booked;
+    booked.number = key;
+    const std::string number = std::to_string(key);
+    EXPECT_EQ(Run({"history", file, number}), 1);
+    EXPECT_TRUE(Complained("não conhece o agendamento " + number));
+    ASSERT_TRUE(
+        DeleteAppointment(*OpenDatabase(file), booked, {"7", "Lia", "2026-11-20 10:11:12", "BALCAO-1"})
+            .IsDone());
+    EXPECT_EQ(Run({"undelete", file, number, "--user", "Marcos"}), 0);
+    EXPECT_TRUE(Said("Agendamento restaurado: " + number + "\n"));
+    EXPECT_EQ(Run({"undelete", file, number}), 1);
+    EXPECT_TRUE(Complained("agendamento " + number + ": "));
+    EXPECT_EQ(Run({"history", file, number}), 0);
+    EXPECT_TRUE(Said("20/11/2026 10:11:12  Exclusão por 7 - Lia no posto BALCAO-1\n")) << output_.str();
+    EXPECT_TRUE(Said("20/11/2026 09:00:00  Restauração por 0 - Marcos")) << output_.str();
+    EXPECT_TRUE(Said(" -> (vazio)\n")) << output_.str();
+    EXPECT_TRUE(Said(": (vazio) -> ")) << output_.str();
+    EXPECT_EQ(Run({"check", file}), 0);
+}
+
+TEST_F(AgendaData, TellsNoHistoryOfAnOlderSchema)
+{
+    const std::string file = folder_ / "a.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + file, file);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(1));
+    }
+    EXPECT_EQ(Run({"history", file, "3"}), 1);
+    EXPECT_TRUE(Complained("agenda-data migrate")) << error_.str();
+}
+
 TEST_F(AgendaData, RefusesAWrongCommandLine)
 {
     const std::string file = folder_ / "a.db";
@@ -169,6 +209,9 @@ TEST_F(AgendaData, RefusesAWrongCommandLine)
                                                {"restore", file},
                                                {"copy", file},
                                                {"create", file, "--company"},
+                                               {"history", file},
+                                               {"history", file, "x"},
+                                               {"undelete", file, "0"},
                                                {"migrate"}}) {
         EXPECT_EQ(Run(words), 2);
         EXPECT_TRUE(Complained("Uso:"));

@@ -1,0 +1,46 @@
+#include "family/business/appointment_restoration.hpp"
+#include "family/business/desk_name.hpp"
+#include "family/data/data_source.hpp"
+#include "family/data/iso_text.hpp"
+#include "host/computer_user.hpp"
+#include "tools/agenda-data/commands.hpp"
+
+namespace kova::data {
+
+namespace {
+
+/// The code of whoever is not a user of the agenda.
+constexpr const char* NoUser = "0";
+
+family::Author AuthorOf(const Call& call, DateTime now)
+{
+    return {NoUser, call.Option("--user").value_or(host::NameOfThisUser()), family::IsoMoment(now),
+            family::DeskName()};
+}
+
+int Run(const Call& call, Surroundings& surroundings)
+{
+    const long long number = call.Number(1);
+    const std::shared_ptr<family::Database> database = family::OpenDatabase(call.Operand(0));
+    const family::WriteAnswer answer =
+        family::RestoreAppointment(*database, number, AuthorOf(call, surroundings.now));
+    if (!answer.IsDone()) {
+        surroundings.error << "agendamento " << number << ": " << answer.text << "\n";
+        return 1;
+    }
+    surroundings.output << "Agendamento restaurado: " << number << "\n";
+    return 0;
+}
+
+} // namespace
+
+const Command UndeleteCommand{
+    "undelete",
+    {"BANCO", "NÚMERO"},
+    {{"--user", "NOME"}},
+    "restaura um agendamento excluído, com o mesmo número e como estava; NOME fica na auditoria\n"
+    "(padrão: o usuário do computador)",
+    Run,
+};
+
+} // namespace kova::data
