@@ -2,7 +2,7 @@
 
 #include "family/data/data_source.hpp"
 #include "family/data/store_check.hpp"
-#include "family/demo/documents.hpp"
+#include "family/data/documents.hpp"
 #include "family/demo/shop.hpp"
 
 #include <set>
