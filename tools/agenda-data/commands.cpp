@@ -6,9 +6,7 @@ namespace {
 
 /// In the order of the help.
 constexpr const Command* Commands[] = {
-    &DemoCommand,
-    &GenerateCommand,
-    &CheckCommand,
+    &DemoCommand, &GenerateCommand, &CheckCommand, &ImportCommand, &ExportCommand,
 };
 
 void WriteIndented(std::ostream& output, std::string_view text)

@@ -12,6 +12,8 @@ int Run(std::span<const char* const> arguments, DateTime now, std::ostream& outp
 
 extern const Command CheckCommand;
 extern const Command DemoCommand;
+extern const Command ExportCommand;
 extern const Command GenerateCommand;
+extern const Command ImportCommand;
 
 } // namespace kova::data
