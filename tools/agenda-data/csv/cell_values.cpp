@@ -21,7 +21,7 @@ bool AreDigits(std::string_view text)
 std::optional<std::string> WithoutThousands(std::string_view text)
 {
     std::string digits(text.substr(0, text.find('.')));
-    if (digits.size() > 3 && digits.size() < text.size())
+    if (!AreDigits(digits) || (digits.size() > 3 && digits.size() < text.size()))
         return std::nullopt;
     for (std::size_t at = digits.size(); at < text.size(); at += 4) {
         const std::string_view group = text.substr(at + 1, 3);
@@ -29,7 +29,7 @@ std::optional<std::string> WithoutThousands(std::string_view text)
             return std::nullopt;
         digits += group;
     }
-    return AreDigits(digits) ? std::optional(digits) : std::nullopt;
+    return digits;
 }
 
 bool IsWithinLimits(Date date) { return date.year >= 1900 && date.year <= 2999; }

@@ -80,18 +80,26 @@ void AppointmentChecks::Check(AppointmentRecord& record, Line& line)
 void AppointmentChecks::CheckRegistered(const AppointmentRecord& record, Line& line) const
 {
     const Key customer = record.codigoDoCliente.value;
-    if (customer != 0 && customers_.count(customer) == 0)
+    if (customers_.count(customer) > 0)
+        CheckAnimal(record, line);
+    else if (customer != 0)
         line.Refuse(name::Customer, std::to_string(customer), "não há cliente com este código.");
-    if (record.codigoDoAnimal.IsNull())
-        line.Refuse(name::Animal, "deve ser informado quando há código do cliente.");
-    else if (const auto animal = animals_.find(record.codigoDoAnimal.value);
-             record.codigoDoAnimal.value != 0 && (animal == animals_.end() || animal->second != customer))
-        line.Refuse(name::Animal, std::to_string(record.codigoDoAnimal.value),
-                    "o cliente não tem animal com este código.");
     for (const TypedText& text : TypedTexts) {
         if (!(record.*text.member).empty())
             line.Refuse(text.column, record.*text.member, "deve ficar vazio quando há código do cliente.");
     }
+}
+
+void AppointmentChecks::CheckAnimal(const AppointmentRecord& record, Line& line) const
+{
+    if (record.codigoDoAnimal.IsNull()) {
+        line.Refuse(name::Animal, "deve ser informado quando há código do cliente.");
+        return;
+    }
+    const Key code = record.codigoDoAnimal.value;
+    const auto animal = animals_.find(code);
+    if (code != 0 && (animal == animals_.end() || animal->second != record.codigoDoCliente.value))
+        line.Refuse(name::Animal, std::to_string(code), "o cliente não tem animal com este código.");
 }
 
 void AppointmentChecks::CheckSimplified(const AppointmentRecord& record, Line& line) const

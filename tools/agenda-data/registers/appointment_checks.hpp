@@ -26,6 +26,7 @@ public:
 
 private:
     void CheckRegistered(const AppointmentRecord& record, Line& line) const;
+    void CheckAnimal(const AppointmentRecord& record, Line& line) const;
     void CheckSimplified(const AppointmentRecord& record, Line& line) const;
     void CheckService(const AppointmentRecord& record, Line& line) const;
     void CheckEmployee(const AppointmentRecord& record, Line& line) const;
