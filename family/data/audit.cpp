@@ -59,6 +59,11 @@ AuditValues& AuditValues::Add(std::string_view column, const Nullable<Key>& valu
     return AddWritten(column, value.IsNull() ? "null" : std::to_string(value.value));
 }
 
+AuditValues& AuditValues::Add(std::string_view column, const Nullable<int>& value)
+{
+    return AddWritten(column, value.IsNull() ? "null" : std::to_string(value.value));
+}
+
 AuditValues& AuditValues::AddWritten(std::string_view column, const std::string& written)
 {
     members_.append(members_.empty() ? "" : ",").append(Quoted(column)).append(":").append(written);

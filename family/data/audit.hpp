@@ -16,6 +16,7 @@ public:
     AuditValues& Add(std::string_view column, const std::string& value);
     AuditValues& Add(std::string_view column, const Nullable<std::string>& value);
     AuditValues& Add(std::string_view column, const Nullable<Key>& value);
+    AuditValues& Add(std::string_view column, const Nullable<int>& value);
 
     std::string Line() const { return "{" + members_ + "}"; }
 

@@ -1,6 +1,6 @@
 #include "family/data/customer_store.hpp"
 
-#include "family/data/insert_row.hpp"
+#include "family/data/add_row.hpp"
 
 namespace kova::family {
 
@@ -10,6 +10,18 @@ void WriteCustomer(Database& database, CustomerRow customer, const std::vector<C
     Insert(database, customer);
     for (const ChannelRow& channel : channels)
         Insert(database, channel);
+}
+
+Key AddCustomer(Database& database, CustomerRow customer, std::vector<ChannelRow> channels,
+                const Author& author)
+{
+    customer.Compose(channels);
+    const Key key = AddRow(database, std::move(customer), author);
+    for (ChannelRow& channel : channels) {
+        channel.codigoDoCliente = key;
+        InsertNew(database, channel);
+    }
+    return key;
 }
 
 } // namespace kova::family

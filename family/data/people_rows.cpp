@@ -6,14 +6,21 @@ namespace kova::family {
 
 namespace {
 
+/// No separator stands where a part is missing.
+void Append(std::string& text, const char* separator, const std::string& part)
+{
+    if (!part.empty())
+        text.append(text.empty() ? "" : separator).append(part);
+}
+
 std::string ComposeAddress(const CustomerRow& customer)
 {
-    std::string address = customer.logradouro + ", " + customer.numero;
-    for (const std::string* part : {&customer.complemento, &customer.bairro, &customer.cidade}) {
-        if (!part->empty())
-            address += " - " + *part;
-    }
-    return customer.uf.empty() ? address : address + "/" + customer.uf;
+    std::string address = customer.logradouro;
+    Append(address, ", ", customer.numero);
+    for (const std::string* part : {&customer.complemento, &customer.bairro, &customer.cidade})
+        Append(address, " - ", *part);
+    Append(address, "/", customer.uf);
+    return address;
 }
 
 std::string ComposeChannels(const std::vector<ChannelRow>& channels)
@@ -38,8 +45,7 @@ void CustomerRow::Compose(const std::vector<ChannelRow>& channels)
 {
     enderecoCompleto = ComposeAddress(*this);
     enderecoCompletoComCEP = enderecoCompleto;
-    if (!cep.empty())
-        enderecoCompletoComCEP += " - CEP " + ShownPostalCode(cep);
+    Append(enderecoCompletoComCEP, " - ", cep.empty() ? cep : "CEP " + ShownPostalCode(cep));
     tiposECanais = ComposeChannels(channels);
     nomeDeBusca = FoldText(nome);
     // A line break keeps a search from finding a text that runs over two fields.

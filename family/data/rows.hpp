@@ -42,12 +42,14 @@ struct ServiceTypeRow {
     static constexpr const char* Table = "tipo_de_servico";
     Key numero = 0;
     std::string nome, nomeDeBusca;
+    int situacao = 1;
 
     template <class Visit> void Columns(Visit visit)
     {
         visit("numero", numero);
         visit("nome", nome);
         visit("nome_de_busca", nomeDeBusca);
+        visit("situacao", situacao);
     }
 };
 

@@ -6,8 +6,8 @@ namespace {
 
 /// In the order of the help.
 constexpr const Command* Commands[] = {
-    &CreateCommand, &DemoCommand,    &GenerateCommand, &MigrateCommand, &CheckCommand,
-    &BackupCommand, &RestoreCommand, &CopyCommand,     &HistoryCommand, &UndeleteCommand,
+    &CreateCommand, &DemoCommand,   &GenerateCommand, &MigrateCommand, &CheckCommand,   &ImportCommand,
+    &ExportCommand, &BackupCommand, &RestoreCommand,  &CopyCommand,    &HistoryCommand, &UndeleteCommand,
 };
 
 void WriteIndented(std::ostream& output, std::string_view text)

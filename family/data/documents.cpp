@@ -1,4 +1,4 @@
-#include "family/demo/documents.hpp"
+#include "family/data/documents.hpp"
 
 namespace kova::family {
 
@@ -31,6 +31,15 @@ std::string WithCpfCheckDigits(std::string nineDigits) { return WithCheckDigits(
 std::string WithCnpjCheckDigits(std::string twelveDigits)
 {
     return WithCheckDigits(std::move(twelveDigits), 9);
+}
+
+bool HasCheckDigits(const std::string& digits)
+{
+    if (digits.find_first_not_of(digits.substr(0, 1)) == std::string::npos)
+        return false;
+    if (digits.size() == 11)
+        return WithCpfCheckDigits(digits.substr(0, 9)) == digits;
+    return digits.size() == 14 && WithCnpjCheckDigits(digits.substr(0, 12)) == digits;
 }
 
 } // namespace kova::family

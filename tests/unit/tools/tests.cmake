@@ -1,0 +1,3 @@
+if(NOT KOVARIS_CORE_ONLY)
+    kovaris_test_program(test_tools unit/tools agenda_data_commands)
+endif()

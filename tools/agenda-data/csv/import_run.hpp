@@ -1,0 +1,42 @@
+#pragma once
+
+#include "tools/agenda-data/command.hpp"
+#include "tools/agenda-data/csv/register.hpp"
+#include "tools/agenda-data/progress.hpp"
+
+#include <optional>
+
+namespace kova::data {
+
+/// One file on its way into a register. It is read twice, so that nothing has to be kept of its lines.
+class ImportRun {
+public:
+    /// `text` must outlive it.
+    ImportRun(const Register& into, std::string_view text, char separator, Surroundings& surroundings);
+
+    /// Tells each thing that is wrong with the file, by its line.
+    void Check(family::Database& database);
+    /// Writes the lines that Check has found good, first those that bring a code.
+    void Write(family::Database& database);
+
+    long long ProblemCount() const { return problems_.Count(); }
+    long long ProblemLines() const { return problems_.Lines(); }
+    /// Lines with a record in them, the header not counted.
+    long long Records() const { return records_; }
+
+private:
+    /// Calls `use` with each line behind the header.
+    template <class Use> void ForEachLine(const char* what, Use use);
+    void WriteThose(bool withCode, const family::Author& author);
+
+    const Register& register_;
+    std::string_view text_;
+    CsvReader reader_;
+    Surroundings& surroundings_;
+    Problems problems_;
+    std::unique_ptr<Import> import_;
+    std::optional<Header> header_;
+    long long records_ = 0, withoutCode_ = 0;
+};
+
+} // namespace kova::data

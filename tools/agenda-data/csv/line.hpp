@@ -1,0 +1,48 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kova::data {
+
+/// Writes each thing that is wrong as a line of its own, with its line of the file, and counts them.
+class Problems {
+public:
+    explicit Problems(std::ostream& output) : output_(output) { }
+
+    void Add(long long line, std::string_view what);
+
+    long long Count() const { return count_; }
+    /// Lines with at least one; they come in order.
+    long long Lines() const { return lines_; }
+
+private:
+    std::ostream& output_;
+    long long count_ = 0, lines_ = 0, lastLine_ = 0;
+};
+
+/// A record of the file by the columns of its register. Texts are clean: no control characters, no blanks
+/// at the ends; a column that the file does not have is empty.
+class Line {
+public:
+    Line(long long number, std::vector<std::string> cells, Problems& problems)
+        : number_(number), cells_(std::move(cells)), problems_(problems)
+    {
+    }
+
+    long long Number() const { return number_; }
+    const std::string& Cell(std::size_t column) const { return cells_[column]; }
+
+    /// Tells that the line cannot be imported. With a value it is named too.
+    void Refuse(std::string_view column, std::string_view value, std::string_view why);
+    void Refuse(std::string_view column, std::string_view why);
+
+private:
+    long long number_;
+    std::vector<std::string> cells_;
+    Problems& problems_;
+};
+
+} // namespace kova::data

@@ -1,0 +1,29 @@
+#include "tools/agenda-data/csv/register.hpp"
+
+#include "family/data/fold_text.hpp"
+#include "tools/agenda-data/command.hpp"
+
+namespace kova::data {
+
+std::span<const Register* const> Registers()
+{
+    static const Register* const registers[] = {
+        &CustomerRegister, &AnimalRegister,  &ServiceTypeRegister, &ServiceRegister,
+        &EmployeeRegister, &HolidayRegister, &AppointmentRegister,
+    };
+    return registers;
+}
+
+const Register& FindRegister(std::string_view name)
+{
+    const std::string folded = family::FoldText(name);
+    std::string names;
+    for (const Register* one : Registers()) {
+        if (one->name == folded)
+            return *one;
+        names.append(names.empty() ? "" : ", ").append(one->name);
+    }
+    throw UsageError("O cadastro \"" + std::string(name) + "\" não existe. Cadastros: " + names + ".");
+}
+
+} // namespace kova::data

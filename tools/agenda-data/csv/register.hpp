@@ -1,0 +1,60 @@
+#pragma once
+
+#include "agenda/contracts/date_time.hpp"
+#include "family/data/author.hpp"
+#include "tools/agenda-data/csv/header.hpp"
+
+#include <functional>
+#include <memory>
+#include <span>
+
+namespace kova::family {
+class Database;
+}
+
+namespace kova::data {
+
+/// One import into a register: what it has to know of the database is read once, when it is made.
+class Import {
+public:
+    virtual ~Import() = default;
+
+    virtual const std::vector<Title>& Titles() const = 0;
+    /// Whether the line brings its own code.
+    virtual bool HasCode(const Line& line) const = 0;
+    /// Tells the line all that speaks against it. Lines count as there for those after them.
+    virtual void Check(Line& line) = 0;
+    /// Writes a line that Check has found good, with its audit, in the transaction that is open.
+    virtual void Write(Line& line, const family::Author& author) = 0;
+};
+
+using FieldsSink = std::function<void(const std::vector<std::string>& fields)>;
+
+/// A kind of record that goes to and comes from files.
+struct Register {
+    /// In the command line.
+    std::string_view name;
+    std::unique_ptr<Import> (*startImport)(family::Database& database, DateTime now);
+    /// Hands over the names of the columns and then the fields of each record, by its code.
+    void (*exportTo)(family::Database& database, const FieldsSink& sink);
+    /// The table whose rows are counted for the progress.
+    const char* table;
+};
+
+// Each in the file of its name.
+
+extern const Register AnimalRegister;
+extern const Register AppointmentRegister;
+extern const Register CustomerRegister;
+extern const Register EmployeeRegister;
+extern const Register HolidayRegister;
+extern const Register ServiceRegister;
+extern const Register ServiceTypeRegister;
+
+/// All of them, those first that others refer to.
+std::span<const Register* const> Registers();
+
+/// Throws UsageError where there is none of that name; case and accents are of no matter.
+const Register& FindRegister(std::string_view name);
+
+} // namespace kova::data

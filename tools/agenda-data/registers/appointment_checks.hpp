@@ -1,0 +1,47 @@
+#pragma once
+
+#include "family/business/employee_room.hpp"
+#include "family/data/booking_registers.hpp"
+#include "tools/agenda-data/registers/appointment_columns.hpp"
+
+#include <map>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace kova::data {
+
+/// What an appointment of a file has to fit to, read once.
+class AppointmentChecks {
+public:
+    /// Appointments that end after `now` need room.
+    AppointmentChecks(family::Database& database, DateTime now);
+
+    /// Tells the line all that speaks against the record, and fills in what the file may leave out: the end
+    /// date, the kind of record and the type of its service.
+    void Check(AppointmentRecord& record, Line& line);
+    void Complete(AppointmentRecord& record) const;
+
+    /// Today's price of its service.
+    Key PriceOf(const AppointmentRecord& record) const;
+
+private:
+    void CheckRegistered(const AppointmentRecord& record, Line& line) const;
+    void CheckAnimal(const AppointmentRecord& record, Line& line) const;
+    void CheckSimplified(const AppointmentRecord& record, Line& line) const;
+    void CheckService(const AppointmentRecord& record, Line& line) const;
+    void CheckEmployee(const AppointmentRecord& record, Line& line) const;
+    void CheckTimes(const AppointmentRecord& record, Line& line);
+    void CheckRoom(const AppointmentRecord& record, const family::TimeSpan& span, Line& line);
+    void CheckPreSale(const AppointmentRecord& record, Line& line) const;
+
+    family::Database& database_;
+    DateTime now_;
+    std::unordered_set<Key> customers_, types_;
+    /// Each animal's customer.
+    std::unordered_map<Key, Key> animals_;
+    std::unordered_map<Key, family::BookedService> services_;
+    std::unordered_map<Key, family::BookedEmployee> employees_;
+    std::map<Key, family::EmployeeRoom> rooms_;
+};
+
+} // namespace kova::data

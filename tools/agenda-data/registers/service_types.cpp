@@ -1,0 +1,49 @@
+#include "tools/agenda-data/csv/import_of.hpp"
+
+namespace kova::data {
+
+namespace {
+
+using family::ServiceTypeRow;
+using Cols = ColumnsOf<ServiceTypeRow>;
+
+const Columns<ServiceTypeRow>& ServiceTypeColumns()
+{
+    static const Columns<ServiceTypeRow> columns = {
+        Cols::Code("Número", &ServiceTypeRow::numero),
+        Required(Cols::Text("Nome", &ServiceTypeRow::nome, 100)),
+        Cols::OneOf("Situação", &ServiceTypeRow::situacao, ActiveOrNot),
+    };
+    return columns;
+}
+
+class ServiceTypeImport : public ImportOf<ServiceTypeRow> {
+public:
+    ServiceTypeImport(family::Database& database, DateTime) : ImportOf(database, ServiceTypeColumns())
+    {
+        family::SelectRows<ServiceTypeRow>(database,
+                                           [&](const ServiceTypeRow& row) { AddStoredCode(row.numero); });
+    }
+
+private:
+    void CheckRecord(ServiceTypeRow&, Line&) override { }
+
+    void WriteRecord(ServiceTypeRow& row, const family::Author& author) override
+    {
+        row.nomeDeBusca = family::FoldText(row.nome);
+        family::AddRow(GetDatabase(), row, author);
+    }
+};
+
+} // namespace
+
+const Register ServiceTypeRegister{
+    "tipos",
+    StartImport<ServiceTypeImport>,
+    [](family::Database& database, const FieldsSink& sink) {
+        ExportRows(database, ServiceTypeColumns(), sink);
+    },
+    ServiceTypeRow::Table,
+};
+
+} // namespace kova::data
