@@ -94,12 +94,6 @@ std::vector<pid_t> ChildrenOf(pid_t process)
     return {std::istream_iterator<pid_t>(list), {}};
 }
 
-void WaitUntilGone(pid_t process)
-{
-    while (kill(process, 0) == 0)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-}
-
 std::string MakeFolder()
 {
     std::string folder = (fs::temp_directory_path() / "postgres-XXXXXX").string();
@@ -181,13 +175,15 @@ void PostgresServer::Stop() { Quit(SIGQUIT); }
 
 void PostgresServer::Kill()
 {
+    // Those that it leaves behind become this program's, which waits for their end.
+    prctl(PR_SET_CHILD_SUBREAPER, 1);
     kill(process_, SIGSTOP);
     const std::vector<pid_t> children = ChildrenOf(process_);
     for (const pid_t child : children)
         kill(child, SIGKILL);
     Quit(SIGKILL);
     for (const pid_t child : children)
-        WaitUntilGone(child);
+        waitpid(child, nullptr, 0);
 }
 
 std::string PostgresServer::MakeDatabase(const std::string& like)

@@ -25,7 +25,8 @@ public:
     PostgresServer(const PostgresServer&) = delete;
     PostgresServer& operator=(const PostgresServer&) = delete;
 
-    /// Starts a server that was stopped or killed, and waits until it answers.
+    /// Starts a server that was stopped or killed, and waits until it answers. It ends with the thread that
+    /// has started it.
     void Start();
     /// Ends it at once, with every connection, as a shutdown of the computer does.
     void Stop();
