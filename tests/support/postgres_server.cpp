@@ -124,6 +124,8 @@ PostgresServer::PostgresServer(Keeps keeps) : programs_(FindPrograms()), folder_
     waitpid(maker, &status, 0);
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
         Fail(folder_, "initdb has failed");
+    std::ofstream(folder_ + "/data/pg_hba.conf")
+        << "local all com_senha scram-sha-256\nlocal all all trust\n";
     Start();
 }
 
