@@ -113,7 +113,7 @@ PostgresServer& PostgresServer::Shared()
     return server;
 }
 
-PostgresServer::PostgresServer(Keeps keeps) : programs_(FindPrograms()), folder_(MakeFolder()), keeps_(keeps)
+PostgresServer::PostgresServer() : programs_(FindPrograms()), folder_(MakeFolder())
 {
     // The order of texts must not depend on that of the database, so that is another one than the program's.
     const pid_t maker =
@@ -146,11 +146,10 @@ std::string PostgresServer::AddressOf(const std::string& database) const
 void PostgresServer::Spawn()
 {
     std::vector<std::string> words = {Program("postgres"), "-D", folder_ + "/data", "-k", folder_, "-h", ""};
-    for (const char* setting : {"max_connections=60", "shared_buffers=16MB", "max_wal_senders=0",
-                                "wal_level=minimal", "autovacuum=off", "log_min_messages=warning"})
+    for (const char* setting :
+         {"max_connections=60", "shared_buffers=16MB", "max_wal_senders=0", "wal_level=minimal",
+          "autovacuum=off", "log_min_messages=warning", "fsync=off", "full_page_writes=off"})
         words.insert(words.end(), {"-c", setting});
-    if (keeps_ == Keeps::WithinMemory)
-        words.insert(words.end(), {"-c", "fsync=off", "-c", "full_page_writes=off"});
     process_ = Launch(folder_, words);
 }
 

@@ -378,7 +378,7 @@ TEST(ServerAddress, IsToldFromAPath)
 {
     EXPECT_TRUE(IsServer("postgresql:///loja"));
     EXPECT_TRUE(IsServer("postgres://servidor/loja"));
-    EXPECT_FALSE(IsServer("/home/loja/postgresql.db"));
+    EXPECT_FALSE(IsServer("/dados/postgresql.db"));
     EXPECT_FALSE(IsServer(""));
 }
 
