@@ -30,12 +30,19 @@ struct ServerState {
     std::string_view cause;
 };
 
-constexpr std::string_view Unreachable = "O servidor não pode ser alcançado. Verifique a rede, e se o "
-                                         "servidor está ligado e o endereço está certo.";
+constexpr std::string_view Lost =
+    "A conexão com o servidor foi perdida. Verifique a rede e se o servidor está ligado, e tente novamente.";
+
+/// In the place of a state where the client library reports what no server has told.
+constexpr std::string_view NoState = "     ";
 
 // The first that fits counts.
 constexpr ServerState ServerStates[] = {
-    {"08", Fault::ConnectionLost, Unreachable},
+    {"08001", Fault::ConnectionLost,
+     "O servidor não pode ser alcançado. Verifique a rede, e se o servidor está ligado e o endereço está"
+     " certo."},
+    {"08", Fault::ConnectionLost, Lost},
+    {NoState, Fault::ConnectionLost, Lost},
     {"57P03", Fault::ConnectionLost,
      "O servidor está iniciando ou encerrando. Aguarde um momento e tente novamente."},
     {"57P04", Fault::Lasting, "O banco de dados foi apagado no servidor. Fale com quem cuida dele."},
@@ -90,7 +97,7 @@ StoreFailure ServerFailure(const std::string& path, std::string_view state, cons
 
 StoreFailure LostConnection(const std::string& path)
 {
-    return {Opening(path).append(Unreachable), Fault::ConnectionLost};
+    return {Opening(path).append(Lost), Fault::ConnectionLost};
 }
 
 StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause)

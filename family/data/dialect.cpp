@@ -78,7 +78,7 @@ constexpr const char* ForgetMarks =
 constexpr const char* SettingsOfServer =
     "set lock_timeout = '5s'; set idle_in_transaction_session_timeout = '10s';"
     " set tcp_keepalives_idle = 10; set tcp_keepalives_interval = 5; set tcp_keepalives_count = 3;"
-    " set tcp_user_timeout = '15s'";
+    " set tcp_user_timeout = '15s'; set client_min_messages = error";
 
 Dialect Postgresql(const char* moreSettings)
 {

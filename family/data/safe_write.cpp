@@ -95,8 +95,11 @@ private:
         }
     }
 
+    /// Not where there is no connection to be had: the attempt to make one has waited long enough.
     bool IsWorthAnother(const StoreFailure& failure) const
     {
+        if (!database_.IsConnected())
+            return false;
         return mayBeKept_ || failure.GetFault() == Fault::ConnectionLost
             || failure.GetFault() == Fault::Collision;
     }

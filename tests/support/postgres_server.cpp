@@ -94,12 +94,6 @@ std::vector<pid_t> ChildrenOf(pid_t process)
     return {std::istream_iterator<pid_t>(list), {}};
 }
 
-void WaitUntilGone(pid_t process)
-{
-    while (kill(process, 0) == 0)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-}
-
 std::string MakeFolder()
 {
     std::string folder = (fs::temp_directory_path() / "postgres-XXXXXX").string();
@@ -119,7 +113,7 @@ PostgresServer& PostgresServer::Shared()
     return server;
 }
 
-PostgresServer::PostgresServer(Keeps keeps) : programs_(FindPrograms()), folder_(MakeFolder()), keeps_(keeps)
+PostgresServer::PostgresServer() : programs_(FindPrograms()), folder_(MakeFolder())
 {
     // The order of texts must not depend on that of the database, so that is another one than the program's.
     const pid_t maker =
@@ -130,6 +124,8 @@ PostgresServer::PostgresServer(Keeps keeps) : programs_(FindPrograms()), folder_
     waitpid(maker, &status, 0);
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
         Fail(folder_, "initdb has failed");
+    std::ofstream(folder_ + "/data/pg_hba.conf")
+        << "local all com_senha scram-sha-256\nlocal all all trust\n";
     Start();
 }
 
@@ -150,11 +146,10 @@ std::string PostgresServer::AddressOf(const std::string& database) const
 void PostgresServer::Spawn()
 {
     std::vector<std::string> words = {Program("postgres"), "-D", folder_ + "/data", "-k", folder_, "-h", ""};
-    for (const char* setting : {"max_connections=60", "shared_buffers=16MB", "max_wal_senders=0",
-                                "wal_level=minimal", "autovacuum=off", "log_min_messages=warning"})
+    for (const char* setting :
+         {"max_connections=60", "shared_buffers=16MB", "max_wal_senders=0", "wal_level=minimal",
+          "autovacuum=off", "log_min_messages=warning", "fsync=off", "full_page_writes=off"})
         words.insert(words.end(), {"-c", setting});
-    if (keeps_ == Keeps::WithinMemory)
-        words.insert(words.end(), {"-c", "fsync=off", "-c", "full_page_writes=off"});
     process_ = Launch(folder_, words);
 }
 
@@ -181,13 +176,15 @@ void PostgresServer::Stop() { Quit(SIGQUIT); }
 
 void PostgresServer::Kill()
 {
+    // Those that it leaves behind become this program's, which waits for their end.
+    prctl(PR_SET_CHILD_SUBREAPER, 1);
     kill(process_, SIGSTOP);
     const std::vector<pid_t> children = ChildrenOf(process_);
     for (const pid_t child : children)
         kill(child, SIGKILL);
     Quit(SIGKILL);
     for (const pid_t child : children)
-        WaitUntilGone(child);
+        waitpid(child, nullptr, 0);
 }
 
 std::string PostgresServer::MakeDatabase(const std::string& like)

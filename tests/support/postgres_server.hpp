@@ -11,21 +11,19 @@ namespace kova::test {
 
 /// A PostgreSQL server of the test program's own: its data in a temporary folder, reached only through a
 /// socket there, gone with its owner, also where the program is killed. Run by the user "postgres" where the
-/// tests are run by the superuser.
+/// tests are run by the superuser. What it has answered outlasts its processes, but not the computer.
 class PostgresServer {
 public:
-    /// Whether what the server has answered outlasts the computer too; only the server's processes else.
-    enum class Keeps { WithinMemory, OnDisk };
-
     /// The one that the tests of the program share, started at its first need.
     static PostgresServer& Shared();
 
-    explicit PostgresServer(Keeps keeps = Keeps::WithinMemory);
+    PostgresServer();
     ~PostgresServer();
     PostgresServer(const PostgresServer&) = delete;
     PostgresServer& operator=(const PostgresServer&) = delete;
 
-    /// Starts a server that was stopped or killed, and waits until it answers.
+    /// Starts a server that was stopped or killed, and waits until it answers. It ends with the thread that
+    /// has started it.
     void Start();
     /// Ends it at once, with every connection, as a shutdown of the computer does.
     void Stop();
@@ -51,7 +49,6 @@ private:
     void Quit(int signal);
 
     std::string programs_, folder_;
-    Keeps keeps_;
     pid_t process_ = 0;
     int databases_ = 0;
     std::map<std::string, std::string> models_;

@@ -99,7 +99,7 @@ TEST_F(WritesAudit, SaysNothingOfWhatWasRefused)
 
 TEST_F(WritesAudit, IsWrittenWithTheAppointmentOrNeither)
 {
-    Run("create trigger falha before insert on auditoria begin select raise(abort, 'parada de teste'); end");
+    Break("auditoria", "before insert");
     for (const char* member : {"Adicionar", "Alterar", "Excluir"}) {
         const auto before = Contents();
         const auto desk = Over(1, Full(On("01/12/2026")));
@@ -107,7 +107,7 @@ TEST_F(WritesAudit, IsWrittenWithTheAppointmentOrNeither)
         EXPECT_NE(desk->Get("DescricaoDoErro").ToText().find("parada de teste"), std::string::npos);
         EXPECT_EQ(Contents(), before) << member;
     }
-    Run("drop trigger falha");
+    Mend("auditoria");
     EXPECT_EQ(Write(*Full(On("01/12/2026"))), 0);
 }
 

@@ -58,14 +58,13 @@ TEST_F(RepeatedBooking, IsWrittenWholeOrNotAtAll)
     ASSERT_EQ(Write(*Full(On("22/12/2026"))), 0);
     ExpectRefused(*Repeated(On("01/12/2026"), 5, 0), "HoraInicial",
                   "Bia já tem agendamento das 09:00 às 10:00 em 22/12/2026.");
-    Run("create trigger falha before insert on agendamento when new.data_inicial = '2027-01-12'"
-        " begin select raise(abort, 'parada de teste'); end");
+    Break("agendamento", "before insert", "new.data_inicial = '2027-01-12'");
     const auto before = Contents();
     const auto desk = Repeated(On("29/12/2026"), 5, 0);
     EXPECT_EQ(desk->Call("Adicionar"), Value(Integer(1)));
     EXPECT_NE(desk->Get("DescricaoDoErro").ToText().find("parada de teste"), std::string::npos);
     EXPECT_EQ(Contents(), before);
-    Run("drop trigger falha");
+    Mend("agendamento");
     EXPECT_EQ(Write(*desk), 0);
 }
 

@@ -132,17 +132,20 @@ void BookingTest::ExpectFailed(Component& agenda, const char* member, Long numbe
 
 std::vector<std::string> BookingTest::Contents()
 {
-    std::vector<std::string> all = Texts(
-        "select numero || '|' || data_inicial || '|' || hora_inicial || '|' || data_final || '|'"
-        " || hora_final || '|' || tipo_do_agendamento || '|' || coalesce(codigo_do_cliente, '-') || '|'"
-        " || coalesce(codigo_do_animal, '-') || '|' || nome_do_cliente || '|' || canais_do_cliente"
-        " || '|' || nome_do_animal || '|' || sexo_do_animal || '|' || especie_do_animal || '|'"
-        " || raca_do_animal || '|' || cor_do_animal || '|' || numero_do_tipo_de_servico || '|'"
-        " || codigo_do_servico || '|' || codigo_do_funcionario || '|' || coalesce(codigo_do_pacote, '-')"
-        " || '|' || coalesce(observacao, '-') || '|' || transporte_buscar || '|' || transporte_levar"
-        " || '|' || situacao || '|' || incluido_em || '|' || incluido_por || '|'"
-        " || coalesce(alterado_em, '-') || '|' || coalesce(alterado_por, '-') || '|'"
-        " || texto_de_busca from agendamento order by numero");
+    std::vector<std::string> all =
+        Texts("select numero || '|' || data_inicial || '|' || hora_inicial || '|' || data_final || '|'"
+              " || hora_final || '|' || tipo_do_agendamento || '|' || coalesce(cast(codigo_do_cliente as "
+              "text), '-') || '|'"
+              " || coalesce(cast(codigo_do_animal as text), '-') || '|' || nome_do_cliente || '|' || "
+              "canais_do_cliente"
+              " || '|' || nome_do_animal || '|' || sexo_do_animal || '|' || especie_do_animal || '|'"
+              " || raca_do_animal || '|' || cor_do_animal || '|' || numero_do_tipo_de_servico || '|'"
+              " || codigo_do_servico || '|' || codigo_do_funcionario || '|' || "
+              "coalesce(cast(codigo_do_pacote as text), '-')"
+              " || '|' || coalesce(observacao, '-') || '|' || transporte_buscar || '|' || transporte_levar"
+              " || '|' || situacao || '|' || incluido_em || '|' || incluido_por || '|'"
+              " || coalesce(alterado_em, '-') || '|' || coalesce(alterado_por, '-') || '|'"
+              " || texto_de_busca from agendamento order by numero");
     for (const auto& more :
          {PreSales(), Audit(), Texts("select codigo || ' ' || codigo_do_servico from pacote")})
         all.insert(all.end(), more.begin(), more.end());

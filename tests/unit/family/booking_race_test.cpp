@@ -107,7 +107,7 @@ TEST_F(BookingRace, OfManyDesksNeverGoesBeyondTheLimit)
         EXPECT_EQ(answers.other, 0);
         EXPECT_EQ(Count("(select data_inicial from agendamento where numero > 23"
                         " group by data_inicial having count(*) = "
-                        + std::to_string(limit) + ")"),
+                        + std::to_string(limit) + ") as days"),
                   Days);
     }
 }
@@ -179,7 +179,9 @@ TEST_F(CutOffBooking, LeavesNoneOrAllOfItsAppointments)
         const int appointments = Count("agendamento where numero > 23");
         EXPECT_TRUE(appointments == 0 || appointments == 200) << appointments;
         EXPECT_EQ(Count("auditoria"), appointments);
-        EXPECT_EQ(Texts("pragma integrity_check"), std::vector<std::string>{"ok"});
+        if (!TestsRunOnServer()) {
+            EXPECT_EQ(Texts("pragma integrity_check"), std::vector<std::string>{"ok"});
+        }
         EXPECT_TRUE(appointments == 200 || !done);
         EXPECT_TRUE(done || after);
         Run("delete from agendamento where numero > 23");

@@ -1,6 +1,7 @@
 #include "tests/unit/family/desk_fixture.hpp"
 
 #include "family/data/appointment_rows.hpp"
+#include "family/data/data_source.hpp"
 #include "family/data/insert_row.hpp"
 #include "family/data/shared_database.hpp"
 
@@ -34,6 +35,7 @@ DeskTest::DeskTest()
         row.horaFinal = "12:00";
         Insert(database, row);
     }
+    NumberOn(database);
 }
 
 std::unique_ptr<Agenda> DeskTest::Desk(int number, int status)
@@ -50,6 +52,28 @@ std::unique_ptr<Agenda> DeskTest::Desk(int number, int status)
 Integer DeskTest::Change(int number, int status) { return Desk(number, status)->Call("Alterar").ToInteger(); }
 
 soci::session& DeskTest::Session() { return SharedDatabase(host_.DataSource())->Session(); }
+
+void DeskTest::Break(const std::string& table, const std::string& event, const std::string& condition)
+{
+    const std::string trigger = "create trigger falha " + event + " on " + table;
+    if (!TestsRunOnServer()) {
+        Run(trigger + (condition.empty() ? "" : " when " + condition)
+            + " begin select raise(abort, 'parada de teste'); end");
+        return;
+    }
+    Run("create function falha() returns trigger language plpgsql as"
+        " $$ begin raise exception 'parada de teste'; end $$");
+    Run(trigger + " for each row " + (condition.empty() ? "" : "when (" + condition + ")")
+        + " execute function falha()");
+}
+
+void DeskTest::Mend(const std::string& table)
+{
+    if (TestsRunOnServer())
+        Run("drop trigger falha on " + table + "; drop function falha()");
+    else
+        Run("drop trigger falha");
+}
 
 std::vector<std::string> DeskTest::Texts(const std::string& selection)
 {

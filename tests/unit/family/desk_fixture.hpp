@@ -53,6 +53,10 @@ protected:
     soci::session& Session();
     /// Runs a statement on the data.
     void Run(const std::string& statement) { Session() << statement; }
+    /// Makes every write of that kind fail with "parada de teste", until Mend. `event` is like "before
+    /// insert", `condition` one on the row `new`, or empty.
+    void Break(const std::string& table, const std::string& event, const std::string& condition = "");
+    void Mend(const std::string& table);
     /// The rows of a selection of one text column.
     std::vector<std::string> Texts(const std::string& selection);
     int Count(const std::string& table);

@@ -143,14 +143,29 @@ void WriteAppointments(Database& database)
 
 } // namespace
 
-ShopTest::ShopTest() : host_(folder_ / "loja.db")
+bool TestsRunOnServer() { return std::getenv("KOVARIS_TEST_SERVER") != nullptr; }
+
+void MakeShop(const std::string& dataSource)
 {
-    CreateDatabase(host_.DataSource(), [](Database& database) {
+    CreateDatabase(dataSource, [](Database& database) {
         WriteRegisters(database);
         WritePeople(database);
         WriteAppointments(database);
     });
 }
+
+ShopDatabase::ShopDatabase() : dataSource_(folder_ / "loja.db")
+{
+    if (!TestsRunOnServer()) {
+        MakeShop(dataSource_);
+        return;
+    }
+    kova::test::PostgresServer& server = kova::test::PostgresServer::Shared();
+    onServer_.emplace(server, server.Model("shop", MakeShop));
+    dataSource_ = onServer_->Address();
+}
+
+ShopTest::ShopTest() : host_(shop_.DataSource()) { }
 
 ShopTest::~ShopTest() { CloseSharedDatabases(); }
 

@@ -3,11 +3,13 @@
 #include "agenda/contracts/component_server.hpp"
 #include "agenda/contracts/record_set.hpp"
 #include "family/data/database.hpp"
+#include "tests/support/postgres_server.hpp"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,6 +57,25 @@ private:
     std::string dataSource_;
 };
 
+/// Whether the databases of the fixtures lie on a server, which the environment variable KOVARIS_TEST_SERVER
+/// tells; else they are SQLite files.
+bool TestsRunOnServer();
+
+/// Makes the known shop there.
+void MakeShop(const std::string& dataSource);
+
+/// A database with the known shop that goes with its owner.
+class ShopDatabase {
+public:
+    ShopDatabase();
+    const std::string& DataSource() const { return dataSource_; }
+
+private:
+    TemporaryFolder folder_;
+    std::optional<kova::test::PostgresDatabase> onServer_;
+    std::string dataSource_;
+};
+
 /// A shop with eight known appointments on 20/11/2026 and one on 21/11/2026; see shop_fixture.cpp.
 class ShopTest : public testing::Test {
 protected:
@@ -71,6 +92,7 @@ protected:
     RecordSetRef Appointment(int number);
 
     TemporaryFolder folder_;
+    ShopDatabase shop_;
     TestHost host_;
 };
 

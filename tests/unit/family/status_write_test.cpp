@@ -13,16 +13,21 @@ namespace kova::family::test {
 
 class StatusWrite : public DeskTest {
 protected:
-    /// Every write that the table's trigger stops answers 1 with its reason and leaves nothing behind.
-    void ExpectUndone(Component& agenda, const char* member, const std::string& trigger)
+    struct Stop {
+        const char *event, *table, *condition;
+    };
+
+    /// Every write that is stopped there answers 1 with its reason and leaves nothing behind.
+    void ExpectUndone(Component& agenda, const char* member, const Stop& stop)
     {
-        Run("create trigger falha " + trigger + " begin select raise(abort, 'parada de teste'); end");
+        SCOPED_TRACE(std::string(stop.event) + " " + stop.table + " " + stop.condition);
+        Break(stop.table, stop.event, stop.condition);
         const auto before = Everything();
-        EXPECT_EQ(agenda.Call(member), Value(Integer(1))) << trigger;
+        EXPECT_EQ(agenda.Call(member), Value(Integer(1)));
         EXPECT_NE(agenda.Get("DescricaoDoErro").ToText().find("parada de teste"), std::string::npos);
         EXPECT_NE(agenda.Get("NumeroDoErro"), Value(Long(0)));
-        EXPECT_EQ(Everything(), before) << trigger;
-        Run("drop trigger falha");
+        EXPECT_EQ(Everything(), before);
+        Mend(stop.table);
     }
 };
 
@@ -50,14 +55,14 @@ void ChangeRepeatedly(const std::string& path, const std::vector<int>& statuses,
 TEST_F(StatusWrite, IsUndoneWholeWhereverItFailsAndWorksAfterwards)
 {
     const auto agenda = Desk(2, 4);
-    for (const char* trigger : {"after insert on pre_venda", "before update on agendamento",
-                                "before insert on auditoria when new.tabela = 'pre_venda'",
-                                "before insert on auditoria when new.tabela = 'agendamento'"})
-        ExpectUndone(*agenda, "Alterar", trigger);
+    for (const Stop& stop : {Stop{"after insert", "pre_venda", ""}, Stop{"before update", "agendamento", ""},
+                             Stop{"before insert", "auditoria", "new.tabela = 'pre_venda'"},
+                             Stop{"before insert", "auditoria", "new.tabela = 'agendamento'"}})
+        ExpectUndone(*agenda, "Alterar", stop);
     EXPECT_EQ(agenda->Call("Alterar"), Value(Integer(0)));
     agenda->Set("SituacaoNova", Integer(1));
-    for (const char* trigger : {"after update on pre_venda", "after update on agendamento"})
-        ExpectUndone(*agenda, "Alterar", trigger);
+    for (const Stop& stop : {Stop{"after update", "pre_venda", ""}, Stop{"after update", "agendamento", ""}})
+        ExpectUndone(*agenda, "Alterar", stop);
     EXPECT_EQ(agenda->Call("Alterar"), Value(Integer(0)));
     EXPECT_EQ(agenda->Get("DescricaoDoErro"), Value(""));
 }
@@ -65,7 +70,7 @@ TEST_F(StatusWrite, IsUndoneWholeWhereverItFailsAndWorksAfterwards)
 TEST_F(StatusWrite, OfAPackageIsUndoneWholeWhereItsLastAppointmentFails)
 {
     const auto agenda = Desk(21, 1);
-    ExpectUndone(*agenda, Package, "before update on agendamento when new.numero = 23");
+    ExpectUndone(*agenda, Package, {"before update", "agendamento", "new.numero = 23"});
     EXPECT_EQ(agenda->Call(Package), Value(Integer(0)));
     EXPECT_EQ(StatusOf(23), 3);
 }

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "tests/support/postgres_server.hpp"
+#include "tests/unit/family/shop_fixture.hpp"
+
+#include "family/business/appointment_input.hpp"
+#include "family/data/author.hpp"
+#include "family/data/write_transaction.hpp"
+
+namespace kova::family::test {
+
+inline const Author Somebody{"7", "Lia", "2026-11-20 09:04:05"};
+
+/// A bath by Bia at nine for somebody without a register.
+AppointmentInput Bath(const Text& date);
+
+/// What the failure of `action` says; "" where it ends well.
+template <class Action> std::string FailureOf(Action action)
+{
+    try {
+        action();
+    } catch (const Failure& failure) {
+        return failure.Description();
+    }
+    return {};
+}
+
+/// Adds a "+" to an employee's name.
+class EmployeeRename : public KeptStatement {
+public:
+    explicit EmployeeRename(Database& database);
+    void Run(int employee);
+
+private:
+    int employee_ = 0;
+    soci::statement statement_;
+};
+
+/// The known shop on the program's own server.
+class PostgresqlShop : public testing::Test {
+protected:
+    static kova::test::PostgresServer& Server() { return kova::test::PostgresServer::Shared(); }
+    /// Appointments that were added, each with its line in the audit.
+    int Booked() const;
+
+    kova::test::PostgresDatabase shop_{Server(), Server().Model("shop", MakeShop)};
+};
+
+} // namespace kova::family::test
