@@ -19,7 +19,7 @@ struct WindowSize {
 
 /// What the command line asks for.
 struct Options {
-    /// Path of the database; "" is the demonstration shop.
+    /// Path of the database, or its address on a server; "" is the demonstration shop.
     std::string database;
     /// Name of the session's user; "" is the name that the computer knows.
     std::string user;

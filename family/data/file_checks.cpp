@@ -39,7 +39,7 @@ std::optional<std::string> CheckPathText(const std::string& path)
         return "Nenhum banco de dados foi informado. Informe o caminho do arquivo.";
     if (path.find("://") != std::string::npos)
         return "O banco de dados \"" + path
-            + "\" não é de um tipo conhecido. Informe o caminho de um arquivo.";
+            + "\" não é de um tipo conhecido. Informe o caminho de um arquivo ou um endereço postgresql://.";
     if (path.find('"') != std::string::npos)
         return "O caminho " + path + " contém aspas. Use um caminho sem aspas.";
     return std::nullopt;

@@ -1,4 +1,7 @@
-// A receptionist's day on a demonstration shop: the module's real library, the reference components, SQLite.
+// A receptionist's day on a demonstration shop: the module's real library, the reference components, and a
+// database of each engine.
+
+#include "tests/support/postgres_server.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,23 +12,28 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <regex>
 #include <string>
 
 namespace {
 
-class ADayOnSqlite : public testing::Test {
+enum class Engine { Sqlite, Postgresql };
+
+class ADay : public testing::TestWithParam<Engine> {
 protected:
-    ADayOnSqlite()
+    ADay()
     {
+        if (GetParam() == Engine::Postgresql)
+            onServer_.emplace(kova::test::PostgresServer::Shared());
         std::string pattern = (std::filesystem::temp_directory_path() / "dia-XXXXXX").string();
         folder_ = mkdtemp(pattern.data());
         EXPECT_EQ(Call(std::string(AGENDA_DATA) + " demo " + Database() + " --date 20/11/2026"), 0)
             << printed_;
     }
-    ~ADayOnSqlite() override { std::filesystem::remove_all(folder_); }
+    ~ADay() override { std::filesystem::remove_all(folder_); }
 
-    std::string Database() const { return folder_ + "/loja.db"; }
+    std::string Database() const { return onServer_ ? onServer_->Address() : folder_ + "/loja.db"; }
 
     /// Runs a script on the shop; the transcript is in Printed().
     int Run(const std::string& statements)
@@ -57,10 +65,16 @@ private:
     }
 
     std::string folder_;
+    std::optional<kova::test::PostgresDatabase> onServer_;
     std::string printed_;
 };
 
-TEST_F(ADayOnSqlite, OpensAndPagesToTheEnd)
+INSTANTIATE_TEST_SUITE_P(On, ADay, testing::Values(Engine::Sqlite, Engine::Postgresql),
+                         [](const testing::TestParamInfo<Engine>& engine) {
+                             return std::string(engine.param == Engine::Sqlite ? "Sqlite" : "Postgresql");
+                         });
+
+TEST_P(ADay, OpensAndPagesToTheEnd)
 {
     ASSERT_EQ(Run("show frmLista.kvnbBarraDeNavegacao.RecordCount\nbar frmLista.kvnbBarraDeNavegacao 4\n"
                   "show frmLista.kvnbBarraDeNavegacao.LastRecord\nshow frmLista.msfgGrade.Rows\n"),
@@ -73,7 +87,7 @@ TEST_F(ADayOnSqlite, OpensAndPagesToTheEnd)
     EXPECT_EQ(Printed().find("KOVA_A_MsgErro"), std::string::npos) << Printed();
 }
 
-TEST_F(ADayOnSqlite, ShowsOnlyTheChosenStatus)
+TEST_P(ADay, ShowsOnlyTheChosenStatus)
 {
     ASSERT_EQ(Run("show frmLista.kvnbBarraDeNavegacao.RecordCount\n"
                   "choose frmLista.kvcmbSituacao \"Cancelado\"\n"
@@ -88,7 +102,7 @@ TEST_F(ADayOnSqlite, ShowsOnlyTheChosenStatus)
     EXPECT_LT(cancelled, 20);
 }
 
-TEST_F(ADayOnSqlite, FindsATextAndComesBack)
+TEST_P(ADay, FindsATextAndComesBack)
 {
     ASSERT_EQ(Run("show frmLista.kvnbBarraDeNavegacao.RecordCount\n"
                   "type frmLista.kvfndPesquisar \"ZZZ NINGUÉM\"\npress frmLista.kvfndPesquisar\n"
@@ -100,7 +114,7 @@ TEST_F(ADayOnSqlite, FindsATextAndComesBack)
     EXPECT_NE(Printed().find("msfgGrade.Visible = True"), std::string::npos);
 }
 
-TEST_F(ADayOnSqlite, ShowsTheHoveredAppointmentInThePanel)
+TEST_P(ADay, ShowsTheHoveredAppointmentInThePanel)
 {
     ASSERT_EQ(Run("hover frmLista.msfgGrade 3\nshow frmLista.msfgGrade.TextMatrix(3,13)\n"
                   "show frmLista.lblNomeDoAnimal.Caption\nshow frmLista.lblIncluidoOuAlteradoPor.Caption\n"),
@@ -114,7 +128,7 @@ TEST_F(ADayOnSqlite, ShowsTheHoveredAppointmentInThePanel)
         << Printed();
 }
 
-TEST_F(ADayOnSqlite, GoesToTheNextDay)
+TEST_P(ADay, GoesToTheNextDay)
 {
     ASSERT_EQ(Run("click frmLista.kvcmdIrParaDiaPosterior\nshow frmLista.msfgGrade.TextMatrix(1,2)\n"), 0)
         << Printed();
