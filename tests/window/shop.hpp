@@ -35,7 +35,6 @@ protected:
 
     /// Where the database stands.
     const std::filesystem::path& Folder() const { return folder_; }
-    std::string Database() const { return (folder_ / "loja.db").string(); }
 
     Receptionist* receptionist = nullptr;
 

@@ -1,5 +1,7 @@
 #include "tools/agenda-data/csv/import_run.hpp"
 
+#include "family/business/desk_name.hpp"
+#include "family/data/data_source.hpp"
 #include "family/data/iso_text.hpp"
 
 namespace kova::data {
@@ -16,6 +18,7 @@ family::Author ImportAuthor(DateTime now)
     author.code = "0";
     author.name = "agenda-data";
     author.moment = family::IsoMoment(now);
+    author.desk = family::DeskName();
     return author;
 }
 
@@ -67,11 +70,13 @@ void ImportRun::Check(family::Database& database)
 }
 
 /// A code that the engine gives could otherwise be the one that a later line brings.
-void ImportRun::Write(family::Database&)
+void ImportRun::Write(family::Database& database)
 {
     const family::Author author = ImportAuthor(surroundings_.now);
-    if (withoutCode_ < records_)
+    if (withoutCode_ < records_) {
         WriteThose(true, author);
+        family::NumberOn(database);
+    }
     if (withoutCode_ > 0)
         WriteThose(false, author);
 }
