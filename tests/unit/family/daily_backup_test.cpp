@@ -13,13 +13,13 @@ namespace fs = std::filesystem;
 
 class DailyBackup : public ShopTest {
 protected:
-    DailyBackup() : shop_(host_.DataSource()) { }
+    DailyBackup() : shop_(host_.DataSource()), shopFolder_(fs::path(shop_).parent_path()) { }
 
     /// The dates of the copies that are there.
     std::vector<std::string> Days() const
     {
         std::vector<std::string> days;
-        for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+        for (const auto& entry : fs::directory_iterator(shopFolder_)) {
             const std::string name = entry.path().filename().string();
             const std::size_t mark = name.find(".copia-");
             if (mark != std::string::npos)
@@ -30,6 +30,7 @@ protected:
     }
 
     std::string shop_;
+    fs::path shopFolder_;
 };
 
 TEST_F(DailyBackup, IsMadeOnceADay)
@@ -47,15 +48,15 @@ TEST_F(DailyBackup, KeepsTheLastFourteenAndTouchesNoOtherFile)
                                              "outra.db.copia-2026-10-01.bak", "loja.db.copia-2026-10-1.bak",
                                              "loja.db.antes-da-versao-3.bak"};
     for (const std::string& name : others)
-        WriteContent(folder_ / name, "nota");
-    fs::create_directory(folder_ / "loja.db.copia-2026-10-02.bak");
+        WriteContent(shopFolder_ / name, "nota");
+    fs::create_directory(shopFolder_ / "loja.db.copia-2026-10-02.bak");
     for (int day = 1; day <= 17; ++day)
         ASSERT_TRUE(MakeDailyBackup(shop_, {2026, 11, day}, {}));
     for (int day = 1; day <= 17; ++day)
         EXPECT_EQ(fs::exists(DailyBackupName(shop_, {2026, 11, day})), day > 3) << day;
     for (const std::string& name : others)
-        EXPECT_EQ(ContentOf(folder_ / name), "nota") << name;
-    EXPECT_TRUE(fs::is_directory(folder_ / "loja.db.copia-2026-10-02.bak"));
+        EXPECT_EQ(ContentOf(shopFolder_ / name), "nota") << name;
+    EXPECT_TRUE(fs::is_directory(shopFolder_ / "loja.db.copia-2026-10-02.bak"));
 }
 
 TEST_F(DailyBackup, OfTodayStaysAlsoWhereAWrongClockMadeLaterOnes)
