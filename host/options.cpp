@@ -47,6 +47,14 @@ Date ParseDay(const std::string& text)
     return *date;
 }
 
+TimeOfDay ParseStart(const std::string& text)
+{
+    const std::optional<TimeOfDay> time = ParseTime(text);
+    if (!time)
+        Refuse("A hora \"" + text + "\" de --time não é válida. Informe hh:mm, como 08:30.");
+    return *time;
+}
+
 void Apply(Options& options, const std::string& name, const std::string& value)
 {
     if (value.empty())
@@ -57,6 +65,8 @@ void Apply(Options& options, const std::string& name, const std::string& value)
         options.user = value;
     else if (name == "--date")
         options.date = ParseDay(value);
+    else if (name == "--time")
+        options.time = ParseStart(value);
     else if (name == "--picture")
         options.picture = value;
     else if (name == "--size")
@@ -65,8 +75,8 @@ void Apply(Options& options, const std::string& name, const std::string& value)
 
 bool TakesValue(const std::string& name)
 {
-    return name == "--database" || name == "--user" || name == "--date" || name == "--picture"
-        || name == "--size";
+    return name == "--database" || name == "--user" || name == "--date" || name == "--time"
+        || name == "--picture" || name == "--size";
 }
 
 bool ApplySwitch(Options& options, const std::string& name)
@@ -117,6 +127,7 @@ std::string HelpText()
            "                       primeiro uso.\n"
            "  --user NOME          Nome do usuário da sessão, gravado em tudo que for alterado.\n"
            "  --date dd/mm/aaaa    Abre a agenda como se fosse este dia.\n"
+           "  --time hh:mm         Começa como se fosse esta hora; o relógio anda a partir dela.\n"
            "  --picture ARQUIVO    Não abre a janela: desenha a agenda no ARQUIVO (PNG), escreve as\n"
            "                       primeiras linhas do dia e termina.\n"
            "  --size LxA           Tamanho da janela em pontos da tela, como 1366x768.\n"

@@ -25,6 +25,8 @@ struct Options {
     std::string user;
     /// The day shown instead of today's.
     std::optional<Date> date;
+    /// The time of day at which the session begins, instead of the computer's.
+    std::optional<TimeOfDay> time;
     /// File for a picture of the window; "" opens the window.
     std::string picture;
     /// Nothing takes what fits the screen, or the usual size for a picture.

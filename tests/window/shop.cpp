@@ -40,6 +40,7 @@ void Shop::Run()
     options.database = Database();
     options.user = "Maria";
     options.date = Date{2026, 11, 20};
+    options.time = TimeOfDay{9, 0, 0};
     options.size = host::WindowSize{1366, 768};
     EXPECT_EQ(host::RunSession(options, host::Outlet::Window), EXIT_SUCCESS);
 }

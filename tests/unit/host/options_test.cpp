@@ -85,6 +85,18 @@ TEST(Options, RefuseADayThatDoesNotExist)
         ExpectRefusalNames({"--date", day}, day);
 }
 
+TEST(Options, TakeATimeOfDay)
+{
+    EXPECT_EQ(ParseOptions({"--time", "08:30"}).time, (TimeOfDay{8, 30, 0}));
+    EXPECT_FALSE(ParseOptions({}).time.has_value());
+}
+
+TEST(Options, RefuseATimeThatDoesNotExist)
+{
+    for (const char* time : {"24:00", "8h30", "agora", "12:60"})
+        ExpectRefusalNames({"--time", time}, time);
+}
+
 TEST(Options, RefuseASizeThatNoWindowHas)
 {
     for (const char* size :
@@ -95,7 +107,8 @@ TEST(Options, RefuseASizeThatNoWindowHas)
 TEST(Options, HelpNamesEveryOption)
 {
     const std::string help = HelpText();
-    for (const char* name : {"--database", "--user", "--date", "--picture", "--size", "--version", "--help"})
+    for (const char* name :
+         {"--database", "--user", "--date", "--time", "--picture", "--size", "--version", "--help"})
         EXPECT_NE(help.find(name), std::string::npos) << name;
 }
 

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
+#include <thread>
 
 namespace kova::host {
 
@@ -42,6 +44,17 @@ TEST(SessionClock, StaysOnTheGivenDay)
 {
     const SessionClock clock(Date{2026, 3, 25});
     EXPECT_EQ(clock.Now().date, (Date{2026, 3, 25}));
+}
+
+TEST(SessionClock, BeginsAtTheGivenTimeAndRunsOn)
+{
+    EXPECT_EQ(SessionClock({}, TimeOfDay{9, 30, 0}).Now().time.hour, 9);
+    EXPECT_EQ(SessionClock({}, TimeOfDay{9, 30, 0}).Now().time.minute, 30);
+    const SessionClock clock({}, TimeOfDay{23, 59, 59});
+    std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+    const TimeOfDay later = clock.Now().time;
+    EXPECT_EQ(later.hour, 0);
+    EXPECT_EQ(later.minute, 0);
 }
 
 TEST(SessionClock, CountsSecondsSinceMidnightNeverBackWithinADay)
