@@ -2,6 +2,7 @@
 // must neither crash nor hang, must report the failure once with a well-formed place, and must go on to the
 // script's end. Built with the sanitizers, leaks and wild accesses end it too.
 
+#include "host/components/component_library.hpp"
 #include "tools/scenario/runner.hpp"
 
 #include <unistd.h>
@@ -121,6 +122,9 @@ int main(int count, char** words)
     std::ifstream file(words[1], std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
     const Script script = ParseScript(text);
+    // Each run attaches itself to the module, which begins anew then. Loading it thousands of times would
+    // take most of the time.
+    const kova::host::LoadedLibrary module(MODULE_LIBRARY);
     const Outcome plain = RunOnce(script, {});
     if (plain.business == 0) {
         std::printf("the script crosses no border\n");

@@ -5,14 +5,19 @@ if(KOVARIS_CORE_ONLY)
 endif()
 add_executable(fault-sweep ${CMAKE_CURRENT_LIST_DIR}/sweep.cpp)
 target_link_libraries(fault-sweep PRIVATE scenario_runner)
+target_compile_definitions(fault-sweep PRIVATE MODULE_LIBRARY="$<TARGET_FILE:KOVA_A_Agenda>")
 add_dependencies(fault-sweep KOVA_A_Agenda)
+
+# A sweep is thousands of runs. Each writes its settings through to the disk, where memory serves as well; and
+# under the sanitizer most of its time would go into the depth of the stacks kept for each allocation.
+set(sweep_environment "ASAN_OPTIONS=malloc_context_size=3")
+if(IS_DIRECTORY /dev/shm)
+    list(APPEND sweep_environment "TMPDIR=/dev/shm")
+endif()
 file(GLOB_RECURSE swept CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/*.scenario)
 foreach(scenario IN LISTS swept)
     file(RELATIVE_PATH name ${CMAKE_CURRENT_SOURCE_DIR}/scenarios ${scenario})
     string(REGEX REPLACE "\\.scenario$" "" name ${name})
     add_test(NAME Faults.${name} COMMAND fault-sweep ${scenario})
-    # Each run writes its settings through to the disk: thousands of waits, where memory serves as well.
-    if(IS_DIRECTORY /dev/shm)
-        set_tests_properties(Faults.${name} PROPERTIES ENVIRONMENT TMPDIR=/dev/shm)
-    endif()
+    set_tests_properties(Faults.${name} PROPERTIES ENVIRONMENT "${sweep_environment}")
 endforeach()

@@ -12,8 +12,8 @@
 
 namespace kova::window_test {
 
-/// The application on a demonstration shop of its own, on 20/11/2026 from 09:00 on, with the user "Maria". A test tells the
-/// receptionist what to do, runs the application, and looks into the database.
+/// The application on a demonstration shop of its own, on 20/11/2026 from 09:00 on, with the user "Maria". A
+/// test tells the receptionist what to do, runs the application, and looks into the database.
 class Shop : public testing::Test {
 protected:
     Shop();
