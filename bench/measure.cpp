@@ -12,10 +12,25 @@ double Median(std::vector<double> values)
     return *middle;
 }
 
-void PrintLine(const std::string& what, const Comparison& comparison, const std::string& unit, double limit)
+namespace {
+
+void PrintWithRatio(const std::string& what, const Comparison& comparison, const std::string& unit,
+                    double ratio, double limit)
 {
     std::cout << "line\t" << what << '\t' << comparison.measured << '\t' << comparison.floor << '\t' << unit
-              << '\t' << comparison.Ratio() << '\t' << limit << std::endl;
+              << '\t' << ratio << '\t' << limit << std::endl;
+}
+
+} // namespace
+
+void PrintLine(const std::string& what, const Comparison& comparison, const std::string& unit, double limit)
+{
+    PrintWithRatio(what, comparison, unit, comparison.Ratio(), limit);
+}
+
+void PrintRates(const std::string& what, const Comparison& comparison, const std::string& unit, double limit)
+{
+    PrintWithRatio(what, comparison, unit, 1 / comparison.Ratio(), limit);
 }
 
 void PrintNote(const std::string& text) { std::cout << "note\t" << text << std::endl; }

@@ -21,6 +21,10 @@ struct Comparison {
 /// by tabs.
 void PrintLine(const std::string& what, const Comparison& comparison, const std::string& unit, double limit);
 
+/// The same where more is better, as with things done in a second: the ratio is then how many times as much
+/// the floor does.
+void PrintRates(const std::string& what, const Comparison& comparison, const std::string& unit, double limit);
+
 /// Prints a line of counts that stands below the table.
 void PrintNote(const std::string& text);
 

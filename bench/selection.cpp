@@ -3,6 +3,7 @@
 
 #include "bench/data_host.hpp"
 #include "bench/measure.hpp"
+#include "bench/measured_days.hpp"
 #include "bench/raw_database.hpp"
 #include "family/business/agenda.hpp"
 #include "family/data/day_selection.hpp"
@@ -16,54 +17,19 @@ namespace kova::bench {
 namespace {
 
 constexpr int Rounds = 31;
-constexpr int MeasuredDays = 10;
 constexpr double SelectionLimit = 1.3;
 constexpr double SearchLimit = 1.1;
 /// A part of several customers' and animals' names on every day.
 constexpr const char* SearchText = "mar";
 
-/// Days spread evenly over all that have appointments, "yyyy-mm-dd".
-std::vector<std::string> SpreadDays(const RawDatabase& database)
+std::vector<std::string> AllDays(const RawDatabase& database)
 {
-    RawStatement statement(database, "select distinct data_inicial from agendamento order by data_inicial");
+    RawStatement statement(database, AllDaysStatement);
     std::vector<std::string> all;
     while (statement.Step())
         all.emplace_back(statement.TextAt(0));
-    if (all.size() < MeasuredDays)
-        throw std::runtime_error("the database has too few days");
-    std::vector<std::string> spread;
-    for (std::size_t i = 0; i < MeasuredDays; ++i)
-        spread.push_back(all[(2 * i + 1) * all.size() / (2 * MeasuredDays)]);
-    return spread;
+    return all;
 }
-
-/// "dd/mm/yyyy"
-std::string ShownDay(const std::string& day)
-{
-    return day.substr(8, 2) + "/" + day.substr(5, 2) + "/" + day.substr(0, 4);
-}
-
-/// Selects every day into the component's record set. Answers how many rows there were.
-std::int64_t SelectByName(Component& agenda, const std::vector<std::string>& days, const char* text)
-{
-    std::int64_t rows = 0;
-    Integer pageRows = 30;
-    for (const std::string& day : days) {
-        const Value status = agenda.Call(
-            "Selecionar",
-            {Long{1}, ByRef(pageRows), Long{0}, text, ShownDay(day), Long{0}, Long{0}, Double{0}});
-        if (status.ToInteger() != 0)
-            throw std::runtime_error(agenda.Get("DescricaoDoErro").ToText());
-        rows += agenda.Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>()->RecordCount();
-    }
-    return rows;
-}
-
-struct Read {
-    std::int64_t rows = 0;
-    /// Of every column of every row, so that none is left out.
-    std::int64_t checksum = 0;
-};
 
 Read SelectRaw(RawStatement& statement, const std::vector<std::string>& days)
 {
@@ -89,7 +55,7 @@ void Measure(const std::string& path)
         throw std::runtime_error("the floor's settings are not those of the product");
     RawDatabase database(path);
     RawStatement statement(database, family::DayStatement());
-    const std::vector<std::string> days = SpreadDays(database);
+    const std::vector<std::string> days = SpreadDays(AllDays(database));
     DataHost host(path);
     family::Agenda agenda(host);
 

@@ -11,7 +11,7 @@ namespace {
 constexpr int Sunday = 1;
 
 /// Why nobody works on that day; nothing where they do.
-std::optional<Text> ReasonToRest(const Booking& booking, Date date)
+std::optional<Text> ReasonToRest(Booking& booking, Date date)
 {
     if (Weekday(date) == Sunday)
         return "A data " + FormatDate(date) + " é um domingo.";
@@ -20,7 +20,7 @@ std::optional<Text> ReasonToRest(const Booking& booking, Date date)
     return std::nullopt;
 }
 
-bool MovesAway(const Booking& booking, const TimeSpan& span)
+bool MovesAway(Booking& booking, const TimeSpan& span)
 {
     return booking.RuleForFreeDays() == FreeDays::MoveAway && ReasonToRest(booking, span.start.date);
 }

@@ -13,21 +13,26 @@ namespace {
 class HolidaySelection : public KeptStatement {
 public:
     explicit HolidaySelection(Database& database)
-        : statement_(
-            (database.Session().prepare << "select nome, dia, mes, data from feriado order by codigo",
-             soci::into(row_.nome), soci::into(row_.dia.value, row_.dia.state),
-             soci::into(row_.mes.value, row_.mes.state), soci::into(row_.data.value, row_.data.state)))
+        : statement_((database.Session().prepare
+                          << "select nome, dia, mes, data from feriado"
+                             " where data is null or substr(data, 1, 4) = :ano order by codigo",
+                      soci::into(row_.nome), soci::into(row_.dia.value, row_.dia.state),
+                      soci::into(row_.mes.value, row_.mes.state),
+                      soci::into(row_.data.value, row_.data.state), soci::use(year_, "ano")))
     {
     }
 
-    template <class Take> void Run(Take take)
+    template <class Take> void Run(const std::string& year, Take take)
     {
+        year_ = year;
         statement_.execute();
         while (statement_.fetch())
             take(row_);
     }
 
 private:
+    /// "yyyy"
+    std::string year_;
     HolidayRow row_;
     soci::statement statement_;
 };
@@ -43,15 +48,18 @@ std::string DateOf(const HolidayRow& row)
 
 } // namespace
 
-HolidayCalendar::HolidayCalendar(Database& database)
+void HolidayCalendar::Read(int year)
 {
-    database.With<HolidaySelection>([this](HolidaySelection& selection) {
-        selection.Run([this](const HolidayRow& row) { names_.try_emplace(DateOf(row), row.nome); });
+    database_.With<HolidaySelection>([&](HolidaySelection& selection) {
+        selection.Run(IsoDate({year, 1, 1}).substr(0, 4),
+                      [this](const HolidayRow& row) { names_.try_emplace(DateOf(row), row.nome); });
     });
 }
 
-std::optional<std::string> HolidayCalendar::On(Date date) const
+std::optional<std::string> HolidayCalendar::On(Date date)
 {
+    if (years_.insert(date.year).second)
+        Read(date.year);
     const std::string iso = IsoDate(date);
     for (const std::string_view key : {std::string_view(iso), std::string_view(iso).substr(5)}) {
         if (const auto found = names_.find(key); found != names_.end())
