@@ -3,8 +3,10 @@
 #include <libpq-fe.h>
 
 #include <fcntl.h>
+#include <netinet/in.h>
 #include <pwd.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -105,6 +107,32 @@ std::string MakeFolder()
     return folder;
 }
 
+/// Copies a file for the server's user alone.
+void GiveAway(const std::string& from, const std::string& to)
+{
+    fs::copy_file(from, to, fs::copy_options::overwrite_existing);
+    fs::permissions(to, fs::perms::owner_read | fs::perms::owner_write);
+    if (const passwd* user = ServerUser();
+        user != nullptr && chown(to.c_str(), user->pw_uid, user->pw_gid) != 0)
+        throw std::runtime_error("a file could not be given to the server");
+}
+
+/// A port of this computer that nobody listens on now.
+int FreePort()
+{
+    const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof address;
+    const bool had = bind(socket, reinterpret_cast<const sockaddr*>(&address), length) == 0
+        && getsockname(socket, reinterpret_cast<sockaddr*>(&address), &length) == 0;
+    close(socket);
+    if (!had)
+        throw std::runtime_error("no port could be had");
+    return ntohs(address.sin_port);
+}
+
 } // namespace
 
 PostgresServer& PostgresServer::Shared()
@@ -140,12 +168,18 @@ std::string PostgresServer::Program(const std::string& name) const { return prog
 
 std::string PostgresServer::AddressOf(const std::string& database) const
 {
-    return "postgresql://postgres@/" + database + "?host=" + folder_;
+    const std::string address = "postgresql://postgres@/" + database + "?host=" + folder_;
+    return port_ == UsualPort ? address : address + "&port=" + std::to_string(port_);
 }
 
 void PostgresServer::Spawn()
 {
-    std::vector<std::string> words = {Program("postgres"), "-D", folder_ + "/data", "-k", folder_, "-h", ""};
+    std::vector<std::string> words = {Program("postgres"),  "-D", folder_ + "/data", "-k", folder_, "-p",
+                                      std::to_string(port_)};
+    if (port_ == UsualPort)
+        words.insert(words.end(), {"-h", ""});
+    else
+        words.insert(words.end(), {"-h", "localhost", "-c", "ssl=on"});
     for (const char* setting :
          {"max_connections=60", "shared_buffers=16MB", "max_wal_senders=0", "wal_level=minimal",
           "autovacuum=off", "log_min_messages=warning", "fsync=off", "full_page_writes=off"})
@@ -173,6 +207,16 @@ void PostgresServer::Quit(int signal)
 }
 
 void PostgresServer::Stop() { Quit(SIGQUIT); }
+
+void PostgresServer::AnswerOnPort(const std::string& certificate, const std::string& key)
+{
+    Stop();
+    GiveAway(certificate, folder_ + "/data/server.crt");
+    GiveAway(key, folder_ + "/data/server.key");
+    std::ofstream(folder_ + "/data/pg_hba.conf", std::ios::app) << "hostssl all all samehost scram-sha-256\n";
+    port_ = FreePort();
+    Start();
+}
 
 void PostgresServer::Kill()
 {

@@ -29,9 +29,14 @@ public:
     void Stop();
     /// Kills all its processes.
     void Kill();
+    /// Starts it anew so that it answers on a port of "localhost" too, there on protected connections with a
+    /// password only. Takes the files of its certificate and key.
+    void AnswerOnPort(const std::string& certificate, const std::string& key);
 
-    /// The folder of its socket; the port is the usual one.
+    /// The folder of its socket.
     const std::string& Folder() const { return folder_; }
+    /// The usual one, or that of AnswerOnPort.
+    int Port() const { return port_; }
     std::string AddressOf(const std::string& database) const;
 
     /// Name of a new database: empty, or a copy of the one with that name.
@@ -44,12 +49,15 @@ public:
     std::vector<std::string> Run(const std::string& database, const std::string& statement) const;
 
 private:
+    static constexpr int UsualPort = 5432;
+
     std::string Program(const std::string& name) const;
     void Spawn();
     void Quit(int signal);
 
     std::string programs_, folder_;
     pid_t process_ = 0;
+    int port_ = UsualPort;
     int databases_ = 0;
     std::map<std::string, std::string> models_;
 };

@@ -6,10 +6,10 @@ AppointmentBook::AppointmentBook()
 {
     Execute("delete from pre_venda; delete from agendamento; delete from pacote; delete from auditoria");
     Execute("update cliente set apelido = 'Zuza', nome = 'Zulmar Quaresma', situacao = 1,"
-            " nome_de_busca = 'zulmar quaresma', nomes_de_busca = 'zuza' || char(10) || 'zulmar quaresma'"
+            " nome_de_busca = 'zulmar quaresma', nomes_de_busca = 'zuza\nzulmar quaresma'"
             " where codigo = 17");
     Execute("update cliente set apelido = 'Zuzu', nome = 'Zulmira Quaresma', situacao = 1,"
-            " nome_de_busca = 'zulmira quaresma', nomes_de_busca = 'zuzu' || char(10) || 'zulmira quaresma'"
+            " nome_de_busca = 'zulmira quaresma', nomes_de_busca = 'zuzu\nzulmira quaresma'"
             " where codigo = 10");
     Execute("update animal set microchip = '900123000000001' where codigo = 1");
 }

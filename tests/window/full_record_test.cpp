@@ -107,7 +107,8 @@ TEST_F(FullRecord, CancelsAWholePackageButForWhatWasAttended)
     EntersEmployee("J");
     AsksForRepetition();
     receptionist->Types("3").Presses("Ctrl+S").WaitsFor(List).Looks([&] {
-        booked = Query("select data_inicial, situacao, codigo_do_pacote is null from agendamento"
+        booked = Query("select data_inicial, situacao, case when codigo_do_pacote is null then 1 else 0 end "
+                       "from agendamento"
                        " order by data_inicial");
         Execute("update agendamento set situacao = 2 where data_inicial = '2026-12-01'");
     });

@@ -10,7 +10,21 @@
 
 namespace kova::window_test {
 
-Shop::Shop()
+namespace {
+
+void MakeDemonstration(const std::string& dataSource)
+{
+    const std::string make =
+        std::string(AGENDA_DATA) + " demo '" + dataSource + "' --date 20/11/2026 >/dev/null";
+    if (std::system(make.c_str()) != 0)
+        throw std::runtime_error("the demonstration shop was not made");
+}
+
+} // namespace
+
+Place UsualPlace() { return std::getenv("KOVARIS_TEST_SERVER") != nullptr ? Place::Server : Place::File; }
+
+Shop::Shop(Place place)
 {
     std::string pattern = (std::filesystem::temp_directory_path() / "loja-XXXXXX").string();
     folder_ = mkdtemp(pattern.data());
@@ -18,10 +32,12 @@ Shop::Shop()
     std::filesystem::create_directories(Documents());
     setenv("XDG_DATA_HOME", (folder_ / "dados").c_str(), 1);
     setenv("XDG_CONFIG_HOME", (folder_ / "ajustes").c_str(), 1);
-    const std::string make =
-        std::string(AGENDA_DATA) + " demo " + Database() + " --date 20/11/2026 >/dev/null";
-    if (std::system(make.c_str()) != 0)
-        throw std::runtime_error("the demonstration shop was not made");
+    if (place == Place::Server) {
+        test::PostgresServer& server = test::PostgresServer::Shared();
+        onServer_.emplace(server, server.Model("demonstration", MakeDemonstration));
+    } else {
+        MakeDemonstration(File());
+    }
     test::NeedApplication();
     QApplication::setQuitOnLastWindowClosed(true);
     qt::ApplyLook(*qApp);
@@ -47,14 +63,14 @@ void Shop::Run()
 
 std::vector<std::string> Shop::Query(const std::string& statement) const
 {
-    return test::SqliteFile(Database()).Run(statement);
+    return onServer_ ? onServer_->Run(statement) : test::SqliteFile(File()).Run(statement);
 }
 
-void Shop::Execute(const std::string& statement) const { test::SqliteFile(Database()).Run(statement); }
+void Shop::Execute(const std::string& statement) const { Query(statement); }
 
 std::unique_ptr<test::SqliteFile> Shop::OpenedByAnotherProgram() const
 {
-    return std::make_unique<test::SqliteFile>(Database());
+    return std::make_unique<test::SqliteFile>(File());
 }
 
 std::string Shop::Value(const std::string& statement) const

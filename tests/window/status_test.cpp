@@ -22,8 +22,8 @@ TEST_F(Status, ChangedByKeyInTheWindowIsInTheDatabaseWithWhoAndWhen)
     EXPECT_EQ(Value("select substr(alterado_em, 1, 10) from agendamento where numero = " + number),
               "2026-11-20");
     EXPECT_EQ(Value("select count(*) from auditoria where tabela = 'agendamento' and usuario = '1 - Maria' "
-                    "and chave = "
-                    + number),
+                    "and chave = '"
+                    + number + "'"),
               "1");
 }
 

@@ -2,7 +2,15 @@
 # database; keys as the keyboard sends them.
 if(NOT KOVARIS_CORE_ONLY)
     find_package(SQLite3 REQUIRED)
-    kovaris_test_program(test_window window host_application family_business test_qt_application SQLite::SQLite3 Qt6::Test)
+    kovaris_test_program(test_window window host_application family_business test_qt_application
+        test_postgres_server SQLite::SQLite3 Qt6::Test)
     target_compile_definitions(test_window PRIVATE AGENDA_DATA="$<TARGET_FILE:agenda-data>")
     add_dependencies(test_window agenda-data KOVA_A_Agenda KOVA_N_Familia KOVA_A_Familia)
+
+    # All of it again with the shop on a server. Left out is what is about a file: its copies, and who holds it.
+    set(window_about_files "DailyBackup.*"
+        "Status.StaysAsItWasWhereAnotherProgramHoldsTheDatabaseForLongerThanTheWait")
+    list(JOIN window_about_files ":" window_about_files)
+    add_test(NAME test_window.OnServer COMMAND test_window --gtest_filter=-*Postgresql*:${window_about_files})
+    set_tests_properties(test_window.OnServer PROPERTIES ENVIRONMENT KOVARIS_TEST_SERVER=1)
 endif()

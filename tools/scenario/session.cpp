@@ -52,8 +52,9 @@ TemporaryFolder::~TemporaryFolder()
 
 ComponentRef Session::Family::CreateObject(std::string_view className)
 {
-    const bool isBusiness = className.starts_with("KOVA_N_");
-    ComponentService& source = isBusiness && session_.usesDatabase_
+    // Which system the desk runs on is the script's word, as its clock is: a transcript is of no machine.
+    const bool isData = className.starts_with("KOVA_N_") && !className.starts_with("KOVA_N_SO.");
+    ComponentService& source = isData && session_.usesDatabase_
         ? static_cast<ComponentService&>(session_.registered_)
         : session_.script;
     return source.CreateObject(className);

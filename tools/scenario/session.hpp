@@ -66,7 +66,8 @@ public:
     Long Container() const { return container_; }
 
 private:
-    /// Business components from the database's library where there is one, all else from the script.
+    /// Business components from the database's library where there is one, all else, and what the desk's
+    /// system is called, from the script.
     class Family : public ComponentService {
     public:
         explicit Family(Session& session) : session_(session) { }

@@ -1,5 +1,6 @@
 // A server as the data source: what is said where it cannot be used, and how its schema is made.
 
+#include "tests/support/environment_variable.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/business/store.hpp"
@@ -35,18 +36,6 @@ const std::vector<Migration> BrokenVersion = With([](const Dialect&) {
     return std::vector<std::string>{"alter table usuario add column apelido text",
                                     "update tabela_que_nao_existe set x = 1"};
 });
-
-/// Takes an environment variable for a while.
-class Variable {
-public:
-    Variable(const char* name, const std::string& value) : name_(name) { setenv(name, value.c_str(), 1); }
-    ~Variable() { unsetenv(name_); }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-
-private:
-    const char* name_;
-};
 
 /// A server that knows nothing of protected connections.
 class PlainServer {
@@ -172,7 +161,7 @@ TEST_F(PostgresqlSource, WithAPasswordInTheAddressIsRefusedWithoutRepeatingIt)
 TEST_F(PostgresqlSource, TakesThePasswordFromThePasswordFile)
 {
     Server().Run("postgres", "create role com_senha login password 'segredo'");
-    const Variable file("PGPASSFILE", folder_ / "senhas");
+    const kova::test::EnvironmentVariable file("PGPASSFILE", folder_ / "senhas");
     ExpectRefused(AddressFor("com_senha"), "pede uma senha");
     for (const auto& [password, words] : {std::pair("errada", "não aceitou o usuário ou a senha"),
                                           std::pair("segredo", "tabelas da agenda")}) {
@@ -189,7 +178,7 @@ TEST_F(PostgresqlSource, IsFoundByTheNameOfAService)
     CreateEmptyShop();
     WriteContent(folder_ / "servicos",
                  "[loja]\nhost=" + Server().Folder() + "\nuser=postgres\ndbname=" + database_.Name() + "\n");
-    const Variable file("PGSERVICEFILE", folder_ / "servicos");
+    const kova::test::EnvironmentVariable file("PGSERVICEFILE", folder_ / "servicos");
     EXPECT_EQ(CheckDataSource("postgresql:///?service=loja"), std::nullopt);
     EXPECT_TRUE(DataSourceExists("postgres:///?service=loja"));
     EXPECT_NE(CheckDataSource("postgresql:///?service=outra"), std::nullopt);
