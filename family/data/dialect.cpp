@@ -76,7 +76,8 @@ constexpr const char* ForgetMarks =
     "delete from gravacao where momento <"
     " to_char((now() at time zone 'utc') - interval '2 days', 'YYYY-MM-DD HH24:MI:SS')";
 
-/// A desk that has vanished in the middle of a transaction must not hold its locks for long.
+/// A desk that has vanished in the middle of a transaction must not hold its locks for long. Long work
+/// has its own measure: between two of its statements there may be much to do.
 constexpr const char* SettingsOfServer =
     "set lock_timeout = '5s'; set idle_in_transaction_session_timeout = '10s';"
     " set tcp_keepalives_idle = 10; set tcp_keepalives_interval = 5; set tcp_keepalives_count = 3;"
@@ -143,14 +144,16 @@ const Dialect& PostgresqlDialect()
 
 const Dialect& PostgresqlDialectForLongWork()
 {
-    static const Dialect dialect = Postgresql("set statement_timeout = 0");
+    static const Dialect dialect = Postgresql("set statement_timeout = 0;"
+                                              " set idle_in_transaction_session_timeout = '10min'");
     return dialect;
 }
 
 const Dialect& PostgresqlDialectForReading()
 {
     static const Dialect dialect =
-        Postgresql("set statement_timeout = 0; set default_transaction_read_only = on");
+        Postgresql("set statement_timeout = 0; set idle_in_transaction_session_timeout = '10min';"
+                   " set default_transaction_read_only = on");
     return dialect;
 }
 

@@ -58,7 +58,7 @@ void RequireVersion(Database& database, Migrations migrations)
     if (version == 0)
         throw DatabaseFailure("O banco de dados \"" + database.Path()
                               + "\" não tem as tabelas da agenda. Verifique o endereço, ou crie-as com "
-                                "agenda-data.");
+                                "\"agenda-data create\".");
     if (const auto refusal = RefusalOfNewer(database.Path(), version, migrations))
         throw DatabaseFailure(*refusal);
 }
@@ -104,9 +104,10 @@ std::optional<std::string> CheckServerSource(const std::string& address, Migrati
     }
 }
 
-std::shared_ptr<Database> OpenOnServer(const std::string& address, Migrations migrations)
+std::shared_ptr<Database> OpenOnServer(const std::string& address, Migrations migrations,
+                                       const Dialect& dialect)
 {
-    std::shared_ptr<Database> database = ConnectAndCheck(PostgresqlDialect(), address, migrations);
+    std::shared_ptr<Database> database = ConnectAndCheck(dialect, address, migrations);
     if (ReadVersion(*database) < NewestVersion(migrations))
         BringUpToDate(address, migrations);
     ForgetOldMarks(*database);

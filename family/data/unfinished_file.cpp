@@ -69,10 +69,7 @@ int OpenLocked(const std::string& name, int flags)
     return -1;
 }
 
-} // namespace
-
-std::string UnfinishedName(const std::string& path) { return path + ".parcial"; }
-
+/// With the log files that the engine may have put beside it. What cannot be removed stays.
 void RemoveUnfinished(const std::string& path)
 {
     std::error_code ignored;
@@ -80,16 +77,9 @@ void RemoveUnfinished(const std::string& path)
         fs::remove(UnfinishedName(path) + companion, ignored);
 }
 
-void FinishFile(const std::string& path)
-{
-    try {
-        Harden(UnfinishedName(path));
-        RenameWithoutReplacing(UnfinishedName(path), path);
-        HardenFolderOf(path);
-    } catch (const fs::filesystem_error& cause) {
-        throw TranslatedFailure(path, cause);
-    }
-}
+} // namespace
+
+std::string UnfinishedName(const std::string& path) { return path + ".parcial"; }
 
 UnfinishedFile::UnfinishedFile(std::string path) : path_(std::move(path)), name_(UnfinishedName(path_))
 {
@@ -114,7 +104,13 @@ UnfinishedFile::~UnfinishedFile()
 
 void UnfinishedFile::Finish()
 {
-    FinishFile(path_);
+    try {
+        Harden(name_);
+        RenameWithoutReplacing(name_, path_);
+        HardenFolderOf(path_);
+    } catch (const fs::filesystem_error& cause) {
+        throw TranslatedFailure(path_, cause);
+    }
     finished_ = true;
 }
 

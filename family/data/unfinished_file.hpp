@@ -7,14 +7,6 @@ namespace kova::family {
 /// Where a file is made before it gets its name: "PATH.parcial".
 std::string UnfinishedName(const std::string& path);
 
-/// Removes what an attempt has left at that place, with the log files that the engine may have put beside
-/// it. What cannot be removed stays.
-void RemoveUnfinished(const std::string& path);
-
-/// Gives the file made at UnfinishedName its name, once its content and then the name itself are on the
-/// disk. Never replaces a file. Fails with a DatabaseFailure.
-void FinishFile(const std::string& path);
-
 /// The place where one program makes a file, as long as the object lives; what was not finished by then is
 /// removed. Where the program is killed the rest of its attempt stays, which the next attempt removes.
 class UnfinishedFile {
@@ -28,7 +20,8 @@ public:
 
     /// The place.
     const std::string& Name() const { return name_; }
-    /// FinishFile.
+    /// Gives the file its name, once its content and then the name itself are on the disk. Never replaces a
+    /// file. Fails with a DatabaseFailure.
     void Finish();
 
 private:
