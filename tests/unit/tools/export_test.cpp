@@ -1,38 +1,11 @@
+#include "tests/support/small_files.hpp"
 #include "tests/unit/tools/import_fixture.hpp"
-
-#include <sys/resource.h>
-
-#include <csignal>
 
 namespace kova::data::test {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// As long as it lives, no file can grow beyond so many bytes: to whoever writes, the disk is full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        former_ = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &limit_);
-        rlimit small = limit_;
-        small.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &limit_);
-        std::signal(SIGXFSZ, former_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit limit_{};
-    void (*former_)(int) = nullptr;
-};
 
 class Export : public ImportTest {
 protected:
@@ -81,11 +54,11 @@ TEST_F(Export, RefusesAFolderThatCannotBeWritten)
 
 TEST_F(Export, LeavesNothingOnAFullDisk)
 {
-    const std::string demo = File("demonstracao.db"), path = File("saida.csv");
+    const std::string demo = Place("demonstracao"), path = File("saida.csv");
     ASSERT_EQ(Run({"demo", demo}), 0);
     {
         // Enough for what the engine puts beside the database.
-        const FullDisk full(100'000);
+        const kova::test::SmallFiles full(100'000);
         EXPECT_EQ(Run({"export", demo, "agendamentos", path}), 1);
     }
     EXPECT_NE(Error().find("\"" + path + "\" não pode ser gravado. O disco está cheio."), std::string::npos)
