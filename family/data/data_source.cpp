@@ -28,8 +28,7 @@ std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migra
 
 std::shared_ptr<Database> OpenForLongWork(const std::string& path)
 {
-    return IsServer(path) ? OpenOnServer(path, CurrentMigrations(), PostgresqlDialectForLongWork())
-                          : OpenFile(path, CurrentMigrations());
+    return IsServer(path) ? OpenOnServerForLongWork(path) : OpenFile(path, CurrentMigrations());
 }
 
 std::unique_ptr<Database> OpenForReading(const std::string& path)

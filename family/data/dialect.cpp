@@ -144,10 +144,8 @@ const Dialect& PostgresqlDialect()
 
 const Dialect& PostgresqlDialectForLongWork()
 {
-    // A plan that is kept from when a table was small would go through all of it for each of many new rows.
-    static const Dialect dialect =
-        Postgresql("set statement_timeout = 0; set idle_in_transaction_session_timeout = '10min';"
-                   " set plan_cache_mode = force_custom_plan");
+    static const Dialect dialect = Postgresql("set statement_timeout = 0;"
+                                              " set idle_in_transaction_session_timeout = '10min'");
     return dialect;
 }
 

@@ -12,8 +12,8 @@ namespace kova::family {
 /// Whether the agenda's tables are there. False where the server cannot be asked.
 bool ExistsOnServer(const std::string& address);
 std::optional<std::string> CheckServerSource(const std::string& address, Migrations migrations);
-std::shared_ptr<Database> OpenOnServer(const std::string& address, Migrations migrations,
-                                       const Dialect& dialect = PostgresqlDialect());
+std::shared_ptr<Database> OpenOnServer(const std::string& address, Migrations migrations);
+std::shared_ptr<Database> OpenOnServerForLongWork(const std::string& address);
 std::unique_ptr<Database> OpenOnServerForReading(const std::string& address);
 void CreateOnServer(const std::string& address, const std::function<void(Database&)>& fill);
 
