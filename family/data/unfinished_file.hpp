@@ -1,8 +1,13 @@
 #pragma once
 
+#include "family/data/database_failure.hpp"
+
 #include <string>
 
 namespace kova::family {
+
+/// Why a file cannot be made, by the system's number of the cause.
+StoreFailure UnwritableFile(const std::string& path, int cause);
 
 /// Where a file is made before it gets its name: "PATH.parcial".
 std::string UnfinishedName(const std::string& path);
@@ -18,6 +23,8 @@ public:
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
+    /// The name it is to have.
+    const std::string& Path() const { return path_; }
     /// The place.
     const std::string& Name() const { return name_; }
     /// Gives the file its name, once its content and then the name itself are on the disk. Never replaces a

@@ -1,6 +1,8 @@
 #include "tests/support/small_files.hpp"
 #include "tests/unit/tools/import_fixture.hpp"
 
+#include "family/data/unfinished_file.hpp"
+
 namespace kova::data::test {
 
 namespace {
@@ -41,15 +43,19 @@ TEST_F(Export, NeverReplacesAFile)
     EXPECT_NE(Error().find("já existe"), std::string::npos);
 }
 
+TEST_F(Export, IsMadeByOneAtATime)
+{
+    const family::UnfinishedFile other(File("saida.csv"));
+    EXPECT_EQ(ExportTo(File("saida.csv")), 1);
+    EXPECT_NE(Error().find("está sendo feito por outro programa"), std::string::npos) << Error();
+}
+
 TEST_F(Export, RefusesAFolderThatCannotBeWritten)
 {
     EXPECT_EQ(ExportTo(File("pasta/saida.csv")), 1);
-    EXPECT_NE(Error().find("não pode ser gravado. A pasta não existe. Verifique o caminho."),
-              std::string::npos)
-        << Error();
+    EXPECT_NE(Error().find("saida.csv\" não existe. Verifique o caminho."), std::string::npos) << Error();
     EXPECT_EQ(ExportTo("/proc/saida.csv"), 1);
-    EXPECT_NE(Error().find("O arquivo \"/proc/saida.csv\" não pode ser gravado."), std::string::npos)
-        << Error();
+    EXPECT_NE(Error().find("\"/proc/saida.csv\" não "), std::string::npos) << Error();
 }
 
 TEST_F(Export, LeavesNothingOnAFullDisk)
