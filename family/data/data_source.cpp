@@ -26,6 +26,11 @@ std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migra
     return IsServer(path) ? OpenOnServer(path, migrations) : OpenFile(path, migrations);
 }
 
+std::shared_ptr<Database> OpenForLongWork(const std::string& path)
+{
+    return IsServer(path) ? OpenOnServerForLongWork(path) : OpenFile(path, CurrentMigrations());
+}
+
 std::unique_ptr<Database> OpenForReading(const std::string& path)
 {
     return IsServer(path) ? OpenOnServerForReading(path) : OpenFileForReading(path);

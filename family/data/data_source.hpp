@@ -26,6 +26,9 @@ std::optional<std::string> CheckDataSource(const std::string& path,
 /// what the engine reports.
 std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migrations = CurrentMigrations());
 
+/// The same for one write that takes as long as it takes: a server does not end it.
+std::shared_ptr<Database> OpenForLongWork(const std::string& path);
+
 /// Opens an existing database, of this schema or an older one, without leave to write. Fails with the
 /// text of CheckDataSource.
 std::unique_ptr<Database> OpenForReading(const std::string& path);

@@ -6,24 +6,26 @@ namespace {
 
 std::string AddOne(const std::string& table)
 {
-    return "update contador_de_alteracoes set alteracoes = alteracoes + 1 where tabela = '" + table + "';";
+    return "update contador_de_alteracoes set alteracoes = alteracoes + 1 where tabela = '" + table + "'";
 }
 
 std::vector<std::string> CountByTriggers(const std::string& table, const std::string& columns)
 {
     const auto trigger = [&](const std::string& name, const std::string& event) {
         return "create trigger " + table + "_" + name + "_contada after " + event + " on " + table + " begin "
-            + AddOne(table) + " end";
+            + AddOne(table) + "; end";
     };
     return {trigger("inclusao", "insert"), trigger("exclusao", "delete"),
             trigger("alteracao", "update of " + columns)};
 }
 
+/// A row that a transaction writes again and again gets slower each time, so that a transaction counts only
+/// once: the others see its changes at once, when it ends.
 std::vector<std::string> CountByTriggerFunction(const std::string& table, const std::string& columns)
 {
     const std::string function = "conta_alteracao_de_" + table;
     return {"create function " + function + "() returns trigger language plpgsql as $$ begin " + AddOne(table)
-                + " return null; end $$",
+                + " and xmin <> pg_current_xact_id()::xid; return null; end $$",
             "create trigger " + table + "_alteracao_contada after insert or delete or update of " + columns
                 + " on " + table + " for each statement execute function " + function + "()"};
 }
@@ -74,7 +76,8 @@ constexpr const char* ForgetMarks =
     "delete from gravacao where momento <"
     " to_char((now() at time zone 'utc') - interval '2 days', 'YYYY-MM-DD HH24:MI:SS')";
 
-/// A desk that has vanished in the middle of a transaction must not hold its locks for long.
+/// A desk that has vanished in the middle of a transaction must not hold its locks for long. Long work
+/// has its own measure: between two of its statements there may be much to do.
 constexpr const char* SettingsOfServer =
     "set lock_timeout = '5s'; set idle_in_transaction_session_timeout = '10s';"
     " set tcp_keepalives_idle = 10; set tcp_keepalives_interval = 5; set tcp_keepalives_count = 3;"
@@ -141,14 +144,16 @@ const Dialect& PostgresqlDialect()
 
 const Dialect& PostgresqlDialectForLongWork()
 {
-    static const Dialect dialect = Postgresql("set statement_timeout = 0");
+    static const Dialect dialect = Postgresql("set statement_timeout = 0;"
+                                              " set idle_in_transaction_session_timeout = '10min'");
     return dialect;
 }
 
 const Dialect& PostgresqlDialectForReading()
 {
     static const Dialect dialect =
-        Postgresql("set statement_timeout = 0; set default_transaction_read_only = on");
+        Postgresql("set statement_timeout = 0; set idle_in_transaction_session_timeout = '10min';"
+                   " set default_transaction_read_only = on");
     return dialect;
 }
 

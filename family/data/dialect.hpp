@@ -24,8 +24,9 @@ struct Dialect {
     std::string lockRow;
     /// The function that tells at which character a text holds another, from 1.
     std::string position;
-    /// The statements that make the engine add one to the row of contador_de_alteracoes that bears the
-    /// table's name, whenever a row comes or goes or one of these columns is written.
+    /// The statements that make the engine add to the row of contador_de_alteracoes that bears the table's
+    /// name, whenever a row comes or goes or one of these columns is written; at least one in each
+    /// transaction.
     std::vector<std::string> (*countChanges)(const std::string& table, const std::string& columns);
     /// Counts the tables named versao_do_esquema that a connection sees: 0 or 1.
     std::string countVersionTables;

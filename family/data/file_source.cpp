@@ -2,6 +2,7 @@
 
 #include "family/data/data_source.hpp"
 #include "family/data/file_checks.hpp"
+#include "family/data/unfinished_file.hpp"
 #include "family/data/write_transaction.hpp"
 
 #include <filesystem>
@@ -92,21 +93,6 @@ const Dialect& BuildingDialect()
     return dialect;
 }
 
-void Build(const std::string& path, const std::function<void(Database&)>& fill)
-{
-    const Dialect& dialect = BuildingDialect();
-    Database database(dialect, Connection(path), path);
-    try {
-        Migrate(database.Session(), dialect, CurrentMigrations());
-        WriteTransaction transaction(database);
-        fill(database);
-        transaction.Commit();
-        database.Session() << "analyze";
-    } catch (const soci::soci_error& cause) {
-        throw TranslatedFailure(path, cause);
-    }
-}
-
 } // namespace
 
 std::optional<std::string> CheckFileSource(const std::string& path, Migrations migrations)
@@ -136,23 +122,26 @@ std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migration
     return database;
 }
 
+void BuildFile(const std::string& path, const std::function<void(Database&)>& fill)
+{
+    const Dialect& dialect = BuildingDialect();
+    Database database(dialect, Connection(path), path);
+    try {
+        Migrate(database.Session(), dialect, CurrentMigrations());
+        WriteTransaction transaction(database);
+        fill(database);
+        transaction.Commit();
+        database.Session() << "analyze";
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(path, cause);
+    }
+}
+
 void CreateFile(const std::string& path, const std::function<void(Database&)>& fill)
 {
-    if (const auto refusal = CheckNewFile(path))
-        throw DatabaseFailure(*refusal);
-    const std::string unfinished = path + ".parcial";
-    try {
-        std::filesystem::remove(unfinished);
-        Build(unfinished, fill);
-        Harden(unfinished);
-        std::filesystem::rename(unfinished, path);
-    } catch (const std::filesystem::filesystem_error& cause) {
-        throw TranslatedFailure(path, cause);
-    } catch (...) {
-        std::error_code ignored;
-        std::filesystem::remove(unfinished, ignored);
-        throw;
-    }
+    UnfinishedFile file(path);
+    BuildFile(file.Name(), fill);
+    file.Finish();
 }
 
 } // namespace kova::family

@@ -14,4 +14,8 @@ std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migration
 std::unique_ptr<Database> OpenFileForReading(const std::string& path);
 void CreateFile(const std::string& path, const std::function<void(Database&)>& fill);
 
+/// Makes a database with the newest schema and what `fill` writes of the empty file at `path`. Where it
+/// fails, with a DatabaseFailure, the file is of no use.
+void BuildFile(const std::string& path, const std::function<void(Database&)>& fill);
+
 } // namespace kova::family

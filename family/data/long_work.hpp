@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <stdexcept>
 #include <stop_token>
 
 namespace kova::family {
@@ -16,6 +17,12 @@ struct LongWork {
     {
         if (progress)
             progress(done, total);
+    }
+    /// Fails with a runtime_error where a stop is asked for.
+    void RequireGoingOn() const
+    {
+        if (stop.stop_requested())
+            throw std::runtime_error("interrupted");
     }
 };
 

@@ -1,16 +1,16 @@
 #include "family/data/newest_schema.hpp"
 
-#include "family/data/migrations/migrations.hpp"
+#include "family/data/data_source.hpp"
 
 namespace kova::family {
 
-void RequireNewestSchema(Database& database)
+std::unique_ptr<Database> OpenNewestForReading(const std::string& path)
 {
-    const int version = StoredVersion(database.Session());
-    if (version != NewestVersion(CurrentMigrations()))
-        throw DatabaseFailure("O banco de dados \"" + database.Path() + "\" é da versão "
-                              + std::to_string(version)
+    std::unique_ptr<Database> database = OpenForReading(path);
+    if (const int version = VersionOf(*database); version != NewestVersion(CurrentMigrations()))
+        throw DatabaseFailure("O banco de dados \"" + path + "\" é da versão " + std::to_string(version)
                               + ". Atualize-o com \"agenda-data migrate\" e tente novamente.");
+    return database;
 }
 
 } // namespace kova::family

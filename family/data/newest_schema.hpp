@@ -4,8 +4,9 @@
 
 namespace kova::family {
 
-/// Fails with a DatabaseFailure where the connected database is of an older schema than this program's; the
-/// text tells how to bring it up to date.
-void RequireNewestSchema(Database& database);
+/// Opens a database of the newest schema without leave to write. Fails with a DatabaseFailure where it cannot
+/// be opened, or is of an older schema, which a reader must not change; the text tells how to bring it up to
+/// date.
+std::unique_ptr<Database> OpenNewestForReading(const std::string& path);
 
 } // namespace kova::family

@@ -83,12 +83,6 @@ private:
     sqlite_api::sqlite3_backup* copy_;
 };
 
-void RequireGoingOn(const LongWork& work)
-{
-    if (work.stop.stop_requested())
-        throw std::runtime_error("interrupted");
-}
-
 void CopyPages(Database& source, const std::string& path, const LongWork& work)
 {
     CopyTarget target(path);
@@ -98,13 +92,13 @@ void CopyPages(Database& source, const std::string& path, const LongWork& work)
     {
         PageCopy copy(source, target);
         while (copy.Go(work))
-            RequireGoingOn(work);
+            work.RequireGoingOn();
         pages = copy.Pages();
     }
     // The pages say that changes stand in a log beside the file; none do.
     target.Run("pragma journal_mode = delete");
     work.Reach(pages, pages);
-    RequireGoingOn(work);
+    work.RequireGoingOn();
 }
 
 int WhetherToStop(void* stop) { return static_cast<const std::stop_token*>(stop)->stop_requested() ? 1 : 0; }

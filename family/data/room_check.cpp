@@ -1,3 +1,4 @@
+#include "family/data/iso_text.hpp"
 #include "family/data/rule_check.hpp"
 
 #include <set>
@@ -36,8 +37,9 @@ private:
 
 } // namespace
 
-void FindBookingsWithoutRoom(Database& database, std::vector<std::string>& problems)
+void FindBookingsWithoutRoom(Database& database, DateTime now, std::vector<std::string>& problems)
 {
+    const std::string moment = IsoMoment(now);
     Booking booking;
     Running running;
     soci::statement statement =
@@ -47,9 +49,11 @@ void FindBookingsWithoutRoom(Database& database, std::vector<std::string>& probl
                                        " from agendamento a join funcionario f"
                                        " on f.codigo = a.codigo_do_funcionario"
                                        " where a.situacao <> 3 and f.agendamentos_simultaneos > 0"
+                                       " and a.data_final || ' ' || a.hora_final > :agora"
                                        " order by f.codigo, a.data_inicial, a.hora_inicial, a.numero",
          soci::into(booking.number), soci::into(booking.employee), soci::into(booking.nickname),
-         soci::into(booking.start), soci::into(booking.end), soci::into(booking.limit));
+         soci::into(booking.start), soci::into(booking.end), soci::into(booking.limit),
+         soci::use(moment, "agora"));
     statement.execute();
     while (statement.fetch()) {
         if (running.Begin(booking) >= static_cast<std::size_t>(booking.limit))

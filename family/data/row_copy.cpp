@@ -1,9 +1,9 @@
 #include "family/data/row_copy.hpp"
 
 #include "family/data/numbering.hpp"
+#include "family/data/snapshot.hpp"
 
 #include <limits>
-#include <stdexcept>
 
 namespace kova::family {
 
@@ -145,29 +145,6 @@ private:
     soci::statement statement_;
 };
 
-/// Reads see one moment as long as it lives, whatever others write.
-class Snapshot {
-public:
-    explicit Snapshot(Database& database) : session_(database.Session())
-    {
-        session_ << database.GetDialect().beginOfSnapshot;
-    }
-    ~Snapshot()
-    {
-        try {
-            session_ << "rollback";
-        } catch (const soci::soci_error&) {
-            // A lost connection has ended it already.
-            return;
-        }
-    }
-    Snapshot(const Snapshot&) = delete;
-    Snapshot& operator=(const Snapshot&) = delete;
-
-private:
-    soci::session& session_;
-};
-
 /// Tells how far all tables together have come.
 class CopyProgress {
 public:
@@ -175,19 +152,27 @@ public:
     {
         for (const TableCount& count : CountRows(source))
             total_ += count.rows;
+        Tell();
     }
 
     void Advance()
     {
-        if (++done_ % RowsAtOnce != 0)
-            return;
-        work_.Reach(done_, total_);
-        if (work_.stop.stop_requested())
-            throw std::runtime_error("interrupted");
+        if (++done_ % RowsAtOnce == 0)
+            Tell();
     }
-    void End() const { work_.Reach(total_, total_); }
+    void End()
+    {
+        done_ = total_;
+        Tell();
+    }
 
 private:
+    void Tell() const
+    {
+        work_.Reach(done_, total_);
+        work_.RequireGoingOn();
+    }
+
     const LongWork& work_;
     long long done_ = 0, total_ = 0;
 };
@@ -210,13 +195,16 @@ TableSum CopyTable(Database& source, Database& target, const StoredTable& table,
 
 } // namespace
 
-std::vector<TableSum> SumTables(Database& database)
+std::vector<TableSum> SumTables(Database& database, const LongWork& work)
 {
     std::vector<TableSum> sums;
     for (const StoredTable& table : StoredTables()) {
         AnyRow row(database, table);
         SumOfRows sum;
-        TableReading(database, table, row).ForEach([&] { sum.Add(row); });
+        TableReading(database, table, row).ForEach([&] {
+            sum.Add(row);
+            work.RequireGoingOn();
+        });
         sums.push_back({table.name, sum.rows, sum.all});
     }
     return sums;

@@ -87,12 +87,12 @@ void FindBrokenRows(Database& database, std::vector<std::string>& problems)
     }
 }
 
-std::vector<std::string> FindBrokenRules(Database& database)
+std::vector<std::string> FindBrokenRules(Database& database, DateTime now)
 {
     std::vector<std::string> problems;
     FindBrokenRows(database, problems);
     FindBrokenTexts(database, problems);
-    FindBookingsWithoutRoom(database, problems);
+    FindBookingsWithoutRoom(database, now, problems);
     return problems;
 }
 

@@ -58,7 +58,7 @@ void RequireVersion(Database& database, Migrations migrations)
     if (version == 0)
         throw DatabaseFailure("O banco de dados \"" + database.Path()
                               + "\" não tem as tabelas da agenda. Verifique o endereço, ou crie-as com "
-                                "agenda-data.");
+                                "\"agenda-data create\".");
     if (const auto refusal = RefusalOfNewer(database.Path(), version, migrations))
         throw DatabaseFailure(*refusal);
 }
@@ -81,6 +81,16 @@ void BringUpToDate(const std::string& address, Migrations migrations)
 void ForgetOldMarks(Database& database)
 {
     Guarded(database, [&](soci::session& session) { session << database.GetDialect().forgetMarks; });
+}
+
+std::shared_ptr<Database> OpenUpToDate(const Dialect& dialect, const std::string& address,
+                                       Migrations migrations)
+{
+    std::shared_ptr<Database> database = ConnectAndCheck(dialect, address, migrations);
+    if (ReadVersion(*database) < NewestVersion(migrations))
+        BringUpToDate(address, migrations);
+    ForgetOldMarks(*database);
+    return database;
 }
 
 } // namespace
@@ -106,10 +116,16 @@ std::optional<std::string> CheckServerSource(const std::string& address, Migrati
 
 std::shared_ptr<Database> OpenOnServer(const std::string& address, Migrations migrations)
 {
-    std::shared_ptr<Database> database = ConnectAndCheck(PostgresqlDialect(), address, migrations);
-    if (ReadVersion(*database) < NewestVersion(migrations))
-        BringUpToDate(address, migrations);
-    ForgetOldMarks(*database);
+    return OpenUpToDate(PostgresqlDialect(), address, migrations);
+}
+
+std::shared_ptr<Database> OpenOnServerForLongWork(const std::string& address)
+{
+    auto database = OpenUpToDate(PostgresqlDialectForLongWork(), address, CurrentMigrations());
+    // A plan that is kept from when a table was small would go through all of it for each of many new rows.
+    // Where whole tables are filled one after another there are no such plans, and making them anew takes
+    // longer.
+    Guarded(*database, [](soci::session& session) { session << "set plan_cache_mode = force_custom_plan"; });
     return database;
 }
 

@@ -13,6 +13,7 @@ namespace kova::family {
 bool ExistsOnServer(const std::string& address);
 std::optional<std::string> CheckServerSource(const std::string& address, Migrations migrations);
 std::shared_ptr<Database> OpenOnServer(const std::string& address, Migrations migrations);
+std::shared_ptr<Database> OpenOnServerForLongWork(const std::string& address);
 std::unique_ptr<Database> OpenOnServerForReading(const std::string& address);
 void CreateOnServer(const std::string& address, const std::function<void(Database&)>& fill);
 

@@ -1,26 +1,46 @@
 #include "family/data/store_check.hpp"
 
 #include "family/data/data_source.hpp"
-#include "family/data/server_connection.hpp"
 
 namespace kova::family {
 
 namespace {
 
-/// A server looks after both itself.
-void FindProblems(soci::session& session, const std::string& path, StoreReport& report)
+void CheckFile(Database& database, StoreReport& report)
 {
-    if (IsServer(path))
-        return;
     std::string verdict;
-    session << "pragma integrity_check(1)", soci::into(verdict);
+    database.Session() << "pragma integrity_check(1)", soci::into(verdict);
     if (verdict != "ok")
-        report.problems.push_back("O banco de dados \"" + path + "\" está danificado: " + verdict);
-    long long orphans = 0;
-    session << "select count(*) from pragma_foreign_key_check", soci::into(orphans);
-    if (orphans > 0)
-        report.problems.push_back("O banco de dados \"" + path + "\" tem " + std::to_string(orphans)
-                                  + " referências sem registro.");
+        report.problems.push_back("O banco de dados \"" + database.Path() + "\" está danificado: " + verdict);
+}
+
+/// The pages are the server's own matter. A restoration that has failed half-way leaves tables without their
+/// constraints, or with such as the rows were never held against.
+void CheckServer(Database& database, StoreReport& report)
+{
+    std::size_t held = 0;
+    database.Session() << "select count(*) from pg_constraint where contype = 'f' and convalidated"
+                          " and connamespace = current_schema()::regnamespace",
+        soci::into(held);
+    if (held < References().size())
+        report.problems.push_back("O servidor confere só " + std::to_string(held) + " das "
+                                  + std::to_string(References().size())
+                                  + " referências entre as tabelas. Restaure uma cópia em um banco vazio.");
+}
+
+void CheckReferences(Database& database, StoreReport& report)
+{
+    for (const Reference& reference : References()) {
+        const std::string table = reference.table, column = reference.column;
+        long long lost = 0;
+        database.Session() << "select count(*) from " + table + " t where t." + column
+                + " is not null and not exists (select 1 from " + reference.target + " alvo where alvo."
+                + reference.key + " = t." + column + ")",
+            soci::into(lost);
+        if (lost > 0)
+            report.problems.push_back(table + ": " + std::to_string(lost) + " referências sem registro em "
+                                      + column + ".");
+    }
 }
 
 } // namespace
@@ -30,9 +50,9 @@ StoreReport CheckStore(const std::string& path)
     const std::unique_ptr<Database> database = OpenForReading(path);
     StoreReport report;
     try {
-        soci::session& session = database->Session();
-        report.version = StoredVersion(session);
-        FindProblems(session, path, report);
+        report.version = StoredVersion(database->Session());
+        database->GetDialect().IsServer() ? CheckServer(*database, report) : CheckFile(*database, report);
+        CheckReferences(*database, report);
         report.tables = CountRows(*database);
     } catch (const soci::soci_error& cause) {
         throw TranslatedFailure(path, cause);

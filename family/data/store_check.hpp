@@ -15,7 +15,8 @@ struct StoreReport {
     std::vector<std::string> problems;
 };
 
-/// Counts the tables' rows, and checks the file's structure and that every reference leads to a row.
+/// Counts the tables' rows, and checks the file's structure, that a server holds the rows to their
+/// references, and that every reference leads to a row.
 /// Reads only. Fails with the text of CheckDataSource where the database cannot be opened.
 StoreReport CheckStore(const std::string& path);
 

@@ -1,7 +1,7 @@
 #include "family/data/store_copy.hpp"
 
 #include "family/data/data_source.hpp"
-#include "family/data/file_checks.hpp"
+#include "family/data/file_source.hpp"
 #include "family/data/newest_schema.hpp"
 #include "family/data/row_copy.hpp"
 #include "family/data/server_connection.hpp"
@@ -25,7 +25,7 @@ void FillFrom(Database& source, Database& target, const LongWork& work, std::vec
 {
     try {
         const std::vector<TableSum> read = CopyRows(source, target, work);
-        if (SumTables(target) != read)
+        if (SumTables(target, work) != read)
             throw DatabaseFailure("A cópia em \"" + target.Path()
                                   + "\" não ficou igual ao original e foi desfeita. Verifique o disco.");
         counts = CountsOf(read);
@@ -34,36 +34,27 @@ void FillFrom(Database& source, Database& target, const LongWork& work, std::vec
     }
 }
 
-/// Removes the file that was not finished.
-class Unfinished {
-public:
-    explicit Unfinished(const std::string& path) : path_(path) { RemoveUnfinished(path_); }
-    ~Unfinished() { RemoveUnfinished(path_); }
-    Unfinished(const Unfinished&) = delete;
-    Unfinished& operator=(const Unfinished&) = delete;
-
-private:
-    const std::string& path_;
-};
+/// `fill` has told in `counts` what it has written.
+void MakeFile(const std::string& path, const std::function<void(Database&)>& fill,
+              const std::vector<TableCount>& counts, const LongWork& work)
+{
+    UnfinishedFile copy(path);
+    BuildFile(copy.Name(), fill);
+    TrialRestore(copy.Name(), counts, work);
+    copy.Finish();
+}
 
 } // namespace
 
 std::vector<TableCount> CopyStore(const std::string& source, const std::string& target, const LongWork& work)
 {
-    const std::unique_ptr<Database> from = OpenForReading(source);
-    RequireNewestSchema(*from);
+    const std::unique_ptr<Database> from = OpenNewestForReading(source);
     std::vector<TableCount> counts;
     const auto fill = [&](Database& to) { FillFrom(*from, to, work, counts); };
-    if (IsServer(target)) {
+    if (IsServer(target))
         CreateDatabase(target, fill);
-        return counts;
-    }
-    if (const auto refusal = CheckNewFile(target))
-        throw DatabaseFailure(*refusal);
-    const Unfinished guard(target);
-    CreateDatabase(UnfinishedName(target), fill);
-    TrialRestore(UnfinishedName(target), counts, work);
-    FinishFile(target);
+    else
+        MakeFile(target, fill, counts, work);
     return counts;
 }
 

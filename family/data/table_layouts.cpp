@@ -28,9 +28,26 @@ constexpr StoredTable Tables[] = {
     {"gravacao", "identificador", 4, false},
 };
 
+constexpr Reference AllReferences[] = {
+    {"servico", "numero_do_tipo_de_servico", "tipo_de_servico", "numero"},
+    {"raca", "codigo_da_especie", "especie", "codigo"},
+    {"canal_de_comunicacao", "codigo_do_cliente", "cliente", "codigo"},
+    {"animal", "codigo_do_cliente", "cliente", "codigo"},
+    {"animal", "codigo_da_raca", "raca", "codigo"},
+    {"pacote", "codigo_do_servico", "servico", "codigo"},
+    {"agendamento", "codigo_do_cliente", "cliente", "codigo"},
+    {"agendamento", "codigo_do_animal", "animal", "codigo"},
+    {"agendamento", "numero_do_tipo_de_servico", "tipo_de_servico", "numero"},
+    {"agendamento", "codigo_do_servico", "servico", "codigo"},
+    {"agendamento", "codigo_do_funcionario", "funcionario", "codigo"},
+    {"agendamento", "codigo_do_pacote", "pacote", "codigo"},
+};
+
 } // namespace
 
 std::span<const StoredTable> StoredTables() { return Tables; }
+
+std::span<const Reference> References() { return AllReferences; }
 
 std::vector<StoredTable> StoredTables(Database& database)
 {

@@ -25,6 +25,18 @@ std::span<const StoredTable> StoredTables();
 /// Those that the connected database has, which may be of an older schema. Fails with soci::soci_error.
 std::vector<StoredTable> StoredTables(Database& database);
 
+/// A column whose values are keys of another table, where they are not Null.
+struct Reference {
+    const char* table;
+    const char* column;
+    const char* target;
+    /// The target's key.
+    const char* key;
+};
+
+/// All that the engines hold the rows to; those of the oldest schema already.
+std::span<const Reference> References();
+
 struct Column {
     std::string name;
     /// A text; else a whole number.

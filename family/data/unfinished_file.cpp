@@ -1,6 +1,5 @@
 #include "family/data/unfinished_file.hpp"
 
-#include "family/data/database_failure.hpp"
 #include "family/data/file_checks.hpp"
 
 #include <fcntl.h>
@@ -17,6 +16,20 @@ namespace kova::family {
 namespace {
 
 namespace fs = std::filesystem;
+
+std::string AdviceFor(int cause)
+{
+    switch (cause) {
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: return "O disco está cheio. Libere espaço e tente novamente.";
+    case ENOENT: return "A pasta não existe. Verifique o caminho.";
+    case EACCES:
+    case EPERM:
+    case EROFS: return "Verifique as permissões da pasta ou escolha outra.";
+    default: return "Verifique o caminho e tente novamente.";
+    }
+}
 
 [[noreturn]] void FailOn(const char* what, const std::string& path)
 {
@@ -69,10 +82,7 @@ int OpenLocked(const std::string& name, int flags)
     return -1;
 }
 
-} // namespace
-
-std::string UnfinishedName(const std::string& path) { return path + ".parcial"; }
-
+/// With the log files that the engine may have put beside it. What cannot be removed stays.
 void RemoveUnfinished(const std::string& path)
 {
     std::error_code ignored;
@@ -80,16 +90,18 @@ void RemoveUnfinished(const std::string& path)
         fs::remove(UnfinishedName(path) + companion, ignored);
 }
 
-void FinishFile(const std::string& path)
+} // namespace
+
+StoreFailure UnwritableFile(const std::string& path, int cause)
 {
-    try {
-        Harden(UnfinishedName(path));
-        RenameWithoutReplacing(UnfinishedName(path), path);
-        HardenFolderOf(path);
-    } catch (const fs::filesystem_error& cause) {
-        throw TranslatedFailure(path, cause);
-    }
+    if (cause == EEXIST)
+        return DatabaseFailure("O arquivo \"" + path
+                               + "\" já existe. Escolha outro nome ou apague o arquivo.");
+    return DatabaseFailure("O arquivo \"" + path + "\" não pode ser gravado. " + AdviceFor(cause) + " ("
+                           + std::generic_category().message(cause) + ")");
 }
+
+std::string UnfinishedName(const std::string& path) { return path + ".parcial"; }
 
 UnfinishedFile::UnfinishedFile(std::string path) : path_(std::move(path)), name_(UnfinishedName(path_))
 {
@@ -102,7 +114,7 @@ UnfinishedFile::UnfinishedFile(std::string path) : path_(std::move(path)), name_
     if (errno == EWOULDBLOCK)
         throw DatabaseFailure("O arquivo \"" + path_
                               + "\" está sendo feito por outro programa. Espere que ele termine.");
-    throw TranslatedFailure(path_, fs::filesystem_error("open", name_, {errno, std::generic_category()}));
+    throw UnwritableFile(path_, errno);
 }
 
 UnfinishedFile::~UnfinishedFile()
@@ -114,7 +126,13 @@ UnfinishedFile::~UnfinishedFile()
 
 void UnfinishedFile::Finish()
 {
-    FinishFile(path_);
+    try {
+        Harden(name_);
+        RenameWithoutReplacing(name_, path_);
+        HardenFolderOf(path_);
+    } catch (const fs::filesystem_error& cause) {
+        throw UnwritableFile(path_, cause.code().value());
+    }
     finished_ = true;
 }
 

@@ -1,19 +1,16 @@
 #pragma once
 
+#include "family/data/database_failure.hpp"
+
 #include <string>
 
 namespace kova::family {
 
+/// Why a file cannot be made, by the system's number of the cause.
+StoreFailure UnwritableFile(const std::string& path, int cause);
+
 /// Where a file is made before it gets its name: "PATH.parcial".
 std::string UnfinishedName(const std::string& path);
-
-/// Removes what an attempt has left at that place, with the log files that the engine may have put beside
-/// it. What cannot be removed stays.
-void RemoveUnfinished(const std::string& path);
-
-/// Gives the file made at UnfinishedName its name, once its content and then the name itself are on the
-/// disk. Never replaces a file. Fails with a DatabaseFailure.
-void FinishFile(const std::string& path);
 
 /// The place where one program makes a file, as long as the object lives; what was not finished by then is
 /// removed. Where the program is killed the rest of its attempt stays, which the next attempt removes.
@@ -26,9 +23,12 @@ public:
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
+    /// The name it is to have.
+    const std::string& Path() const { return path_; }
     /// The place.
     const std::string& Name() const { return name_; }
-    /// FinishFile.
+    /// Gives the file its name, once its content and then the name itself are on the disk. Never replaces a
+    /// file. Fails with a DatabaseFailure.
     void Finish();
 
 private:

@@ -8,20 +8,21 @@ namespace kova::data {
 
 namespace {
 
-std::vector<std::string> BrokenRules(const std::string& source)
+std::vector<std::string> BrokenRules(const std::string& source, DateTime now)
 {
     const std::unique_ptr<family::Database> database = family::OpenForReading(source);
     try {
-        return family::FindBrokenRules(*database);
+        return family::FindBrokenRules(*database, now);
     } catch (const std::runtime_error& cause) {
         throw family::TranslatedFailure(source, cause);
     }
 }
 
 /// Rows of a file that is damaged would only be told to break rules which nobody broke.
-std::vector<std::string> ProblemsOf(const std::string& source, const family::StoreReport& report)
+std::vector<std::string> ProblemsOf(const std::string& source, DateTime now,
+                                    const family::StoreReport& report)
 {
-    return report.problems.empty() ? BrokenRules(source) : report.problems;
+    return report.problems.empty() ? BrokenRules(source, now) : report.problems;
 }
 
 int Run(const Call& call, Surroundings& surroundings)
@@ -29,7 +30,7 @@ int Run(const Call& call, Surroundings& surroundings)
     const family::StoreReport report = family::CheckStore(call.Operand(0));
     WriteCounts(surroundings.output, report.tables);
     surroundings.output << "versão do esquema: " << report.version << "\n";
-    const std::vector<std::string> problems = ProblemsOf(call.Operand(0), report);
+    const std::vector<std::string> problems = ProblemsOf(call.Operand(0), surroundings.now, report);
     for (const std::string& problem : problems)
         surroundings.error << problem << "\n";
     if (!problems.empty())

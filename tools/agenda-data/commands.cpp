@@ -35,13 +35,17 @@ void WriteHelp(std::ostream& output)
     output << "agenda-data: administração dos dados da agenda\n\nUso:\n";
     for (const Command* command : Commands)
         WriteHelp(*command, output);
-    output << "  agenda-data --help\n"
-              "  agenda-data --version\n"
-              "\n"
-              "BANCO é o caminho de um arquivo. Um arquivo que já existe nunca é substituído.\n"
-              "\n"
-              "Resultado: 0 concluído; 1 os dados não podem ser lidos ou gravados; 2 linha de comando\n"
-              "incorreta.\n";
+    output
+        << "  agenda-data --help\n"
+           "  agenda-data --version\n"
+           "\n"
+           "BANCO é o caminho de um arquivo ou o endereço de um banco em um servidor PostgreSQL, como\n"
+           "postgresql://usuario@servidor/loja ou postgresql:///?service=NOME; a senha fica no arquivo de\n"
+           "senhas (~/.pgpass), nunca no endereço. O banco em um servidor já existe, e está vazio para\n"
+           "o criar. Um arquivo que já existe nunca é substituído.\n"
+           "\n"
+           "Resultado: 0 concluído; 1 os dados não podem ser lidos ou gravados; 2 linha de comando\n"
+           "incorreta.\n";
 }
 
 const Command& FindCommand(std::string_view name)

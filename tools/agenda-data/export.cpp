@@ -1,7 +1,8 @@
+#include "family/data/newest_schema.hpp"
+#include "family/data/snapshot.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/csv/csv_options.hpp"
 #include "tools/agenda-data/csv/csv_writer.hpp"
-#include "tools/agenda-data/csv/current_schema.hpp"
 #include "tools/agenda-data/csv/register.hpp"
 #include "tools/agenda-data/csv/whole_file.hpp"
 #include "tools/agenda-data/progress.hpp"
@@ -78,9 +79,8 @@ private:
 int Run(const Call& call, Surroundings& surroundings)
 {
     const Register& from = FindRegister(call.Operand(1));
-    const auto database = OpenCurrentForReading(call.Operand(0));
-    // One state of the data throughout, whoever writes meanwhile.
-    soci::transaction transaction(database->Session());
+    const auto database = family::OpenNewestForReading(call.Operand(0));
+    const family::Snapshot snapshot(*database);
     ExportRun run(call, surroundings, CountRows(*database, from.table));
     from.exportTo(*database, [&](const std::vector<std::string>& fields) { run.Write(fields); });
     const long long records = run.Finish();

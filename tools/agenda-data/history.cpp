@@ -1,6 +1,5 @@
 #include "family/business/appointment_history.hpp"
 
-#include "family/data/data_source.hpp"
 #include "family/data/newest_schema.hpp"
 #include "tools/agenda-data/commands.hpp"
 
@@ -24,8 +23,7 @@ void Write(const family::HistoryLine& line, std::ostream& output)
 int Run(const Call& call, Surroundings& surroundings)
 {
     const long long number = call.Number(1);
-    const std::unique_ptr<family::Database> database = family::OpenForReading(call.Operand(0));
-    family::RequireNewestSchema(*database);
+    const std::unique_ptr<family::Database> database = family::OpenNewestForReading(call.Operand(0));
     const std::vector<family::HistoryLine> history = family::HistoryOf(*database, number);
     for (const family::HistoryLine& line : history)
         Write(line, surroundings.output);

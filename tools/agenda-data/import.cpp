@@ -1,8 +1,8 @@
 #include "family/data/data_source.hpp"
+#include "family/data/newest_schema.hpp"
 #include "family/data/write_transaction.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/csv/csv_options.hpp"
-#include "tools/agenda-data/csv/current_schema.hpp"
 #include "tools/agenda-data/csv/import_run.hpp"
 #include "tools/agenda-data/csv/text_file.hpp"
 
@@ -24,7 +24,7 @@ int Refuse(const ImportRun& run, Surroundings& surroundings)
 
 int Rehearse(ImportRun& run, const std::string& path, Surroundings& surroundings)
 {
-    run.Check(*OpenCurrentForReading(path));
+    run.Check(*family::OpenNewestForReading(path));
     if (run.ProblemCount() > 0)
         return Refuse(run, surroundings);
     surroundings.output << Counted(run.Records(), "linha pode ser importada", "linhas podem ser importadas")
@@ -34,7 +34,7 @@ int Rehearse(ImportRun& run, const std::string& path, Surroundings& surroundings
 
 int Import(ImportRun& run, const std::string& path, Surroundings& surroundings)
 {
-    const std::shared_ptr<family::Database> database = family::OpenDatabase(path);
+    const std::shared_ptr<family::Database> database = family::OpenForLongWork(path);
     family::WriteTransaction transaction(*database);
     run.Check(*database);
     if (run.ProblemCount() > 0)

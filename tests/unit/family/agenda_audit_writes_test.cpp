@@ -8,17 +8,6 @@ namespace kova::family::test {
 
 class WritesAudit : public BookingTest {
 protected:
-    /// The rows of a table with all their columns, as texts.
-    std::vector<std::string> RowsOf(const std::string& condition)
-    {
-        const std::vector<std::string> columns =
-            Texts("select name from pragma_table_info('agendamento') order by cid");
-        std::string all;
-        for (const std::string& column : columns)
-            all += (all.empty() ? "" : " || '|' || ") + ("coalesce(quote(" + column + "), '')");
-        return Texts("select " + all + " from agendamento where " + condition);
-    }
-
     /// Columns of one line's values.
     std::vector<std::string> KeysOf(const std::string& member)
     {
@@ -73,10 +62,10 @@ TEST_F(WritesAudit, LetsADeletedAppointmentBePutBack)
     ASSERT_EQ(Write(*desk), 0);
     for (const int number : {24, 21, 2}) {
         const std::string condition = "numero = " + std::to_string(number);
-        const auto before = RowsOf(condition);
+        const auto before = RowsOf("agendamento", condition);
         ASSERT_EQ(before.size(), 1U);
         ASSERT_EQ(Write(*Over(number, Simplified(On("01/12/2026"))), "Excluir"), 0);
-        ASSERT_TRUE(RowsOf(condition).empty());
+        ASSERT_TRUE(RowsOf("agendamento", condition).empty());
         std::string columns, values;
         for (const std::string& column : KeysOf("antes")) {
             columns += (columns.empty() ? "" : ", ") + column;
@@ -85,7 +74,7 @@ TEST_F(WritesAudit, LetsADeletedAppointmentBePutBack)
         Run("insert into agendamento (" + columns + ") select " + values
             + " from auditoria where operacao = 'exclusao' and chave = " + std::to_string(number)
             + " and depois is null");
-        EXPECT_EQ(RowsOf(condition), before);
+        EXPECT_EQ(RowsOf("agendamento", condition), before);
     }
 }
 

@@ -1,8 +1,11 @@
+#include "tests/support/data_places.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/appointment_writes.hpp"
 #include "family/data/data_source.hpp"
 #include "family/data/migrations/migrations.hpp"
+#include "family/data/row_copy.hpp"
+#include "family/data/server_connection.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 #include <sstream>
@@ -23,10 +26,25 @@ protected:
         return data::Run(arguments, {{2026, 11, 20}, {9, 0, 0}}, output_, error_);
     }
 
+    static const char* AlreadyThere()
+    {
+        return TestsRunOnServer() ? "já tem as tabelas da agenda" : "já existe";
+    }
+
     bool Said(const std::string& words) const { return output_.str().find(words) != std::string::npos; }
     bool Complained(const std::string& words) const { return error_.str().find(words) != std::string::npos; }
 
+    /// Makes the schema of version 1.
+    static void MakeOldest(const std::string& place)
+    {
+        const Dialect& dialect = TestsRunOnServer() ? PostgresqlDialect() : SqliteDialect();
+        Database database(dialect, TestsRunOnServer() ? ConnectionTo(place) : "dbname=" + place, place);
+        Migrate(database.Session(), dialect, CurrentMigrations().first(1));
+    }
+
     TemporaryFolder folder_;
+    kova::test::DataPlaces places_{folder_.Path()};
+    const std::string a_ = places_.Place("a"), b_ = places_.Place("b");
     std::ostringstream output_, error_;
 };
 
@@ -34,10 +52,10 @@ protected:
 
 TEST_F(AgendaData, MakesAndChecksADemonstration)
 {
-    EXPECT_EQ(Run({"demo", folder_ / "a.db"}), 0);
-    EXPECT_EQ(Run({"demo", folder_ / "b.db", "--date", "20/11/2026"}), 0);
-    EXPECT_EQ(ContentOf(folder_ / "a.db"), ContentOf(folder_ / "b.db"));
-    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 0);
+    EXPECT_EQ(Run({"demo", a_}), 0);
+    EXPECT_EQ(Run({"demo", b_, "--date", "20/11/2026"}), 0);
+    EXPECT_TRUE(SumTables(*OpenForReading(a_)) == SumTables(*OpenForReading(b_)));
+    EXPECT_EQ(Run({"check", a_}), 0);
     EXPECT_TRUE(Said("cliente: 400\n"));
     EXPECT_TRUE(Said("está íntegro"));
     EXPECT_EQ(error_.str(), "");
@@ -45,8 +63,8 @@ TEST_F(AgendaData, MakesAndChecksADemonstration)
 
 TEST_F(AgendaData, GeneratesAsManyAsAskedFor)
 {
-    EXPECT_EQ(Run({"generate", "--customers", "50", folder_ / "a.db", "--appointments", "700"}), 0);
-    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 0);
+    EXPECT_EQ(Run({"generate", "--customers", "50", a_, "--appointments", "700"}), 0);
+    EXPECT_EQ(Run({"check", a_}), 0);
     EXPECT_TRUE(Said("cliente: 50\n"));
     EXPECT_TRUE(Said("agendamento: 700\n"));
 }
@@ -70,92 +88,83 @@ TEST_F(AgendaData, TellsWhatIsWrongWithAFile)
 
 TEST_F(AgendaData, FindsReferencesThatLeadNowhere)
 {
-    Run({"demo", folder_ / "a.db"});
-    {
-        Database database(SqliteDialect(), "dbname=" + folder_ / "a.db", "a");
-        database.Session() << "pragma foreign_keys = off";
-        database.Session() << "delete from raca where codigo = 1";
-    }
-    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 1);
+    Run({"demo", a_});
+    RunUnchecked(a_, "delete from raca where codigo = 1");
+    EXPECT_EQ(Run({"check", a_}), 1);
     EXPECT_TRUE(Complained("referências sem registro"));
 }
 
 TEST_F(AgendaData, BacksUpAndRestores)
 {
-    Run({"demo", folder_ / "a.db"});
-    EXPECT_EQ(Run({"backup", folder_ / "a.db", folder_ / "copia.bak"}), 0);
+    Run({"demo", a_});
+    EXPECT_EQ(Run({"backup", a_, folder_ / "copia.bak"}), 0);
     EXPECT_TRUE(Said("cliente: 400\n"));
     EXPECT_TRUE(Said("Cópia feita e conferida: " + folder_ / "copia.bak"));
     EXPECT_TRUE(Complained("Cópia: 100%"));
-    EXPECT_EQ(Run({"restore", folder_ / "copia.bak", folder_ / "b.db"}), 0);
+    EXPECT_EQ(Run({"restore", folder_ / "copia.bak", b_}), 0);
     EXPECT_TRUE(Said("cliente: 400\n"));
-    EXPECT_EQ(Run({"check", folder_ / "b.db"}), 0);
-    EXPECT_EQ(Run({"restore", folder_ / "copia.bak", folder_ / "a.db"}), 1);
-    EXPECT_TRUE(Complained("já existe"));
+    EXPECT_EQ(Run({"check", b_}), 0);
+    EXPECT_EQ(Run({"restore", folder_ / "copia.bak", a_}), 1);
+    EXPECT_TRUE(Complained(AlreadyThere())) << error_.str();
 }
 
 TEST_F(AgendaData, CreatesAShopThatCanBegin)
 {
-    EXPECT_EQ(Run({"create", folder_ / "a.db", "--company", "Pet Shop Céu", "--user", "Lia"}), 0);
-    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 0);
+    EXPECT_EQ(Run({"create", a_, "--company", "Pet Shop Céu", "--user", "Lia"}), 0);
+    EXPECT_EQ(Run({"check", a_}), 0);
     for (const char* count : {"empresa: 1\n", "usuario: 1\n", "tipo_de_servico: 4\n", "agendamento: 0\n"})
         EXPECT_TRUE(Said(count)) << output_.str();
-    Database database(SqliteDialect(), "dbname=" + folder_ / "a.db", "a");
+    const auto database = OpenForReading(a_);
     std::string company, user, type;
-    database.Session() << "select nome_fantasia from empresa", soci::into(company);
-    database.Session() << "select nome from usuario where codigo = 1", soci::into(user);
-    database.Session() << "select nome from tipo_de_servico where numero = 4", soci::into(type);
+    database->Session() << "select nome_fantasia from empresa", soci::into(company);
+    database->Session() << "select nome from usuario where codigo = 1", soci::into(user);
+    database->Session() << "select nome from tipo_de_servico where numero = 4", soci::into(type);
     EXPECT_EQ(company + ", " + user + ", " + type, "Pet Shop Céu, Lia, Banho e tosa");
-    EXPECT_EQ(Run({"create", folder_ / "a.db"}), 1);
-    EXPECT_TRUE(Complained("já existe"));
+    EXPECT_EQ(Run({"create", a_}), 1);
+    EXPECT_TRUE(Complained(AlreadyThere())) << error_.str();
 }
 
 TEST_F(AgendaData, CreatesAShopWithoutACompanyForWhoeverRunsIt)
 {
-    EXPECT_EQ(Run({"create", folder_ / "a.db"}), 0);
-    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 0);
+    EXPECT_EQ(Run({"create", a_}), 0);
+    EXPECT_EQ(Run({"check", a_}), 0);
     EXPECT_TRUE(Said("empresa: 0\nusuario: 1\n"));
     EXPECT_TRUE(Said("funcionario: 1\n"));
 }
 
 TEST_F(AgendaData, BringsAnOlderShopUpToDate)
 {
-    const std::string file = folder_ / "a.db";
-    {
-        Database database(SqliteDialect(), "dbname=" + file, file);
-        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(1));
-    }
+    MakeOldest(a_);
     const std::string newest = std::to_string(NewestVersion(CurrentMigrations()));
-    EXPECT_EQ(Run({"migrate", file}), 0);
+    EXPECT_EQ(Run({"migrate", a_}), 0);
     EXPECT_TRUE(Said("da versão 1 para a versão " + newest + ".\n")) << output_.str();
-    EXPECT_TRUE(Said(file + ".antes-da-versao-" + newest + ".bak\n")) << output_.str();
-    EXPECT_EQ(Run({"migrate", file}), 0);
+    EXPECT_EQ(Said(a_ + ".antes-da-versao-" + newest + ".bak\n"), !TestsRunOnServer()) << output_.str();
+    EXPECT_EQ(Run({"migrate", a_}), 0);
     EXPECT_TRUE(Said("já está na versão " + newest)) << output_.str();
 }
 
 TEST_F(AgendaData, CopiesAShop)
 {
-    Run({"demo", folder_ / "a.db"});
-    EXPECT_EQ(Run({"copy", folder_ / "a.db", folder_ / "b.db"}), 0);
+    Run({"demo", a_});
+    EXPECT_EQ(Run({"copy", a_, b_}), 0);
     EXPECT_TRUE(Said("agendamento: "));
     EXPECT_TRUE(Complained("Cópia: 100%"));
-    EXPECT_EQ(Run({"check", folder_ / "b.db"}), 0);
+    EXPECT_EQ(Run({"check", b_}), 0);
     EXPECT_TRUE(Said("cliente: 400\n"));
 }
 
 TEST_F(AgendaData, FindsRowsThatBreakARule)
 {
-    Run({"demo", folder_ / "a.db"});
-    Database(SqliteDialect(), "dbname=" + folder_ / "a.db", "a").Session()
-        << "update agendamento set hora_final = hora_inicial where numero = 12";
-    EXPECT_EQ(Run({"check", folder_ / "a.db"}), 1);
+    Run({"demo", a_});
+    OpenDatabase(a_)->Session() << "update agendamento set hora_final = hora_inicial where numero = 12";
+    EXPECT_EQ(Run({"check", a_}), 1);
     EXPECT_EQ(error_.str(), "agendamento 12: o término não é posterior ao início.\n");
     EXPECT_FALSE(Said("íntegro"));
 }
 
 TEST_F(AgendaData, TellsTheHistoryOfAnAppointmentAndRestoresIt)
 {
-    const std::string file = folder_ / "a.db";
+    const std::string file = a_;
     Run({"demo", file});
     int key = 0;
     OpenDatabase(file)->Session() << "select min(numero) from agendamento where situacao = 1",
@@ -180,15 +189,18 @@ TEST_F(AgendaData, TellsTheHistoryOfAnAppointmentAndRestoresIt)
     EXPECT_EQ(Run({"check", file}), 0);
 }
 
-TEST_F(AgendaData, TellsNoHistoryOfAnOlderSchema)
+TEST_F(AgendaData, TellsHowAnOlderShopIsBroughtUpToDate)
 {
-    const std::string file = folder_ / "a.db";
-    {
-        Database database(SqliteDialect(), "dbname=" + file, file);
-        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(1));
+    MakeOldest(a_);
+    WriteContent(folder_ / "tipos.csv", "Nome\nBanho\n");
+    for (const std::vector<std::string>& words :
+         std::vector<std::vector<std::string>>{{"history", a_, "3"},
+                                               {"export", a_, "tipos", folder_ / "saida.csv"},
+                                               {"import", a_, "tipos", folder_ / "tipos.csv", "--dry-run"},
+                                               {"copy", a_, b_}}) {
+        EXPECT_EQ(Run(words), 1);
+        EXPECT_TRUE(Complained("agenda-data migrate")) << words[0] << error_.str();
     }
-    EXPECT_EQ(Run({"history", file, "3"}), 1);
-    EXPECT_TRUE(Complained("agenda-data migrate")) << error_.str();
 }
 
 TEST_F(AgendaData, RefusesAWrongCommandLine)
@@ -223,6 +235,7 @@ TEST_F(AgendaData, ExplainsItself)
 {
     EXPECT_EQ(Run({"--help"}), 0);
     EXPECT_TRUE(Said("Uso:"));
+    EXPECT_TRUE(Said("postgresql://usuario@servidor/loja"));
     EXPECT_EQ(Run({"--version"}), 0);
     EXPECT_TRUE(Said("agenda-data "));
 }

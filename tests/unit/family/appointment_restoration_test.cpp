@@ -2,6 +2,7 @@
 
 #include "family/business/appointment_history.hpp"
 #include "family/business/appointment_restoration.hpp"
+#include "family/data/audit_lines.hpp"
 #include "family/data/shared_database.hpp"
 
 namespace kova::family::test {
@@ -16,11 +17,7 @@ protected:
     /// Every column of a row but for its version.
     std::vector<std::string> RowOf(Key number)
     {
-        std::string all;
-        for (const std::string& column : Texts("select name from pragma_table_info('agendamento')"
-                                               " where name <> 'versao' order by cid"))
-            all += (all.empty() ? "" : " || '|' || ") + ("quote(" + column + ")");
-        return Texts("select " + all + " from agendamento where numero = " + std::to_string(number));
+        return RowsOf("agendamento", "numero = " + std::to_string(number), "versao");
     }
 
     void ExpectRefused(Key number, const std::string& obstacle)
@@ -53,9 +50,10 @@ TEST_F(Restoration, LeavesItsOwnLineInTheAudit)
     OtherDeletes(FullNumber);
     ASSERT_TRUE(Restore(FullNumber).IsDone());
     EXPECT_EQ(HistoryOf(*SharedDatabase(host_.DataSource()), FullNumber).back().operation, "Restauração");
-    EXPECT_EQ(Count("auditoria where chave = 24 and operacao = 'restauracao' and antes is null"
-                    " and json_extract(depois, '$.versao') = 2"),
-              1);
+    const AuditLine line = FindAuditLines(*otherDesk_, "agendamento", FullNumber, 1).front();
+    EXPECT_EQ(line.operation, "restauracao");
+    EXPECT_TRUE(line.before.empty());
+    EXPECT_EQ(line.after.at("versao"), "2");
 }
 
 TEST_F(Restoration, CanBeDoneAgainAfterAnotherDeletion)
@@ -92,7 +90,7 @@ TEST_F(Restoration, IsRefusedWhereTheAppointmentExistsOrNobodyKnowsIt)
 TEST_F(Restoration, IsRefusedWhereWhatItRefersToIsGone)
 {
     OtherDeletes(FullNumber);
-    Run("pragma foreign_keys = off");
+    UncheckReferences(Session());
     struct {
         const char *table, *key, *obstacle;
     } const gone[] = {{"cliente", "codigo = 10", "o cliente 10 não existe mais."},

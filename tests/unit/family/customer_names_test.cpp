@@ -1,4 +1,4 @@
-#include "tests/unit/family/shop_fixture.hpp"
+#include "tests/unit/family/server_fixture.hpp"
 
 #include "agenda/contracts/text.hpp"
 #include "family/data/customer_selection.hpp"
@@ -161,6 +161,27 @@ TEST_F(NamesInMemory, AreReadAgainAfterAFailure)
     EXPECT_THROW(Found("marcia"), Failure);
     database_->Session() << "alter table escondido rename to contador_de_alteracoes";
     EXPECT_EQ(Found("marcia"), 1U);
+}
+
+class ChangesCountedPostgresql : public PostgresqlShop {
+protected:
+    int Counted() const
+    {
+        return std::stoi(shop_.Run("select alteracoes from contador_de_alteracoes").front());
+    }
+};
+
+TEST_F(ChangesCountedPostgresql, OnceInEachTransaction)
+{
+    const int before = Counted();
+    const std::string change = "update cliente set nome_de_busca = nome_de_busca || '+' where codigo = ";
+    shop_.Run("begin; " + change + "10; " + change + "11; commit");
+    EXPECT_EQ(Counted(), before + 1);
+    shop_.Run(change + "10");
+    shop_.Run(change + "11");
+    EXPECT_EQ(Counted(), before + 3);
+    shop_.Run("begin; " + change + "10; rollback");
+    EXPECT_EQ(Counted(), before + 3);
 }
 
 } // namespace kova::family::test

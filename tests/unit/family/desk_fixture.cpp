@@ -4,6 +4,7 @@
 #include "family/data/data_source.hpp"
 #include "family/data/insert_row.hpp"
 #include "family/data/shared_database.hpp"
+#include "family/data/table_layouts.hpp"
 
 namespace kova::family::test {
 
@@ -84,6 +85,17 @@ std::vector<std::string> DeskTest::Texts(const std::string& selection)
     while (statement.fetch())
         texts.push_back(text);
     return texts;
+}
+
+std::vector<std::string> DeskTest::RowsOf(const std::string& table, const std::string& condition,
+                                          const std::string& left)
+{
+    std::string all;
+    for (const Column& column : ColumnsOf(*SharedDatabase(host_.DataSource()), table.c_str())) {
+        if (column.name != left)
+            all += (all.empty() ? "" : " || '|' || ") + ("coalesce(cast(" + column.name + " as text), '-')");
+    }
+    return Texts("select " + all + " from " + table + " where " + condition);
 }
 
 int DeskTest::Count(const std::string& table)

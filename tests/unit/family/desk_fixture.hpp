@@ -60,6 +60,9 @@ protected:
     /// The rows of a selection of one text column.
     std::vector<std::string> Texts(const std::string& selection);
     int Count(const std::string& table);
+    /// The rows of a table for which the condition holds: all columns but for `left`, each as a text.
+    std::vector<std::string> RowsOf(const std::string& table, const std::string& condition,
+                                    const std::string& left = "");
     int StatusOf(int number);
     /// Status and stamps of all appointments, all pre-sales and the audit, to compare before and after.
     std::vector<std::string> Everything();

@@ -9,6 +9,9 @@ namespace kova::family::test {
 
 namespace {
 
+/// Before the shop's first appointment.
+constexpr DateTime Morning{{2026, 11, 20}, {7, 0, 0}};
+
 /// What breaks a rule, and the lines that tell it.
 struct Breach {
     const char* change;
@@ -104,7 +107,7 @@ protected:
 
 TEST_F(RuleCheck, FindsNothingInASoundShop)
 {
-    EXPECT_EQ(FindBrokenRules(*database_), std::vector<std::string>());
+    EXPECT_EQ(FindBrokenRules(*database_, Morning), std::vector<std::string>());
 }
 
 TEST_F(RuleCheck, TellsEachBrokenRuleWithItsRow)
@@ -112,7 +115,7 @@ TEST_F(RuleCheck, TellsEachBrokenRuleWithItsRow)
     for (const Breach& breach : Breaches) {
         soci::transaction transaction(database_->Session());
         database_->Session() << breach.change;
-        EXPECT_EQ(FindBrokenRules(*database_), breach.told) << breach.change;
+        EXPECT_EQ(FindBrokenRules(*database_, Morning), breach.told) << breach.change;
         transaction.rollback();
     }
 }
@@ -121,11 +124,11 @@ TEST_F(RuleCheck, LeavesCancelledAppointmentsAndThoseThatFollowOneAnotherAlone)
 {
     database_->Session() << "update funcionario set agendamentos_simultaneos = 1 where codigo = 1";
     database_->Session() << "update agendamento set hora_final = '10:00' where numero = 1";
-    EXPECT_EQ(FindBrokenRules(*database_), std::vector<std::string>());
+    EXPECT_EQ(FindBrokenRules(*database_, Morning), std::vector<std::string>());
     database_->Session() << "update agendamento set hora_final = '10:01' where numero = 1";
-    EXPECT_EQ(FindBrokenRules(*database_).size(), 1U);
+    EXPECT_EQ(FindBrokenRules(*database_, Morning).size(), 1U);
     database_->Session() << "update agendamento set situacao = 3 where numero = 1";
-    EXPECT_EQ(FindBrokenRules(*database_), std::vector<std::string>());
+    EXPECT_EQ(FindBrokenRules(*database_, Morning), std::vector<std::string>());
 }
 
 TEST_F(RuleCheck, FindsNobodyWithoutRoomOnAnotherDay)
@@ -133,7 +136,14 @@ TEST_F(RuleCheck, FindsNobodyWithoutRoomOnAnotherDay)
     database_->Session() << "update funcionario set agendamentos_simultaneos = 1 where codigo = 1";
     database_->Session() << "update agendamento set data_inicial = '2026-11-21', data_final = '2026-11-22'"
                             " where numero = 3";
-    EXPECT_EQ(FindBrokenRules(*database_), std::vector<std::string>());
+    EXPECT_EQ(FindBrokenRules(*database_, Morning), std::vector<std::string>());
+}
+
+TEST_F(RuleCheck, LeavesWhatIsOverAsItWas)
+{
+    database_->Session() << "update funcionario set agendamentos_simultaneos = 1 where codigo = 1";
+    EXPECT_EQ(FindBrokenRules(*database_, {{2026, 11, 20}, {17, 59, 0}}).size(), 1U);
+    EXPECT_EQ(FindBrokenRules(*database_, {{2026, 11, 20}, {18, 0, 0}}), std::vector<std::string>());
 }
 
 } // namespace kova::family::test

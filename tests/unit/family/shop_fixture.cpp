@@ -8,8 +8,8 @@
 #include "family/data/insert_row.hpp"
 #include "family/data/people_rows.hpp"
 #include "family/data/shared_database.hpp"
+#include "tests/support/data_places.hpp"
 
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
@@ -143,7 +143,7 @@ void WriteAppointments(Database& database)
 
 } // namespace
 
-bool TestsRunOnServer() { return std::getenv("KOVARIS_TEST_SERVER") != nullptr; }
+bool TestsRunOnServer() { return kova::test::TestsRunOnServer(); }
 
 void MakeShop(const std::string& dataSource)
 {
@@ -152,6 +152,19 @@ void MakeShop(const std::string& dataSource)
         WritePeople(database);
         WriteAppointments(database);
     });
+}
+
+void UncheckReferences(soci::session& session)
+{
+    const bool onServer = session.get_backend_name() == "postgresql";
+    session << (onServer ? "set session_replication_role = replica" : "pragma foreign_keys = off");
+}
+
+void RunUnchecked(const std::string& dataSource, const std::string& statement)
+{
+    const std::shared_ptr<Database> database = OpenDatabase(dataSource);
+    UncheckReferences(database->Session());
+    database->Session() << statement;
 }
 
 ShopDatabase::ShopDatabase() : dataSource_(folder_ / "loja.db")

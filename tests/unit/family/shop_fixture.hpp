@@ -64,6 +64,11 @@ bool TestsRunOnServer();
 /// Makes the known shop there.
 void MakeShop(const std::string& dataSource);
 
+/// From now on the connection may write rows that refer to nothing, as another program's could.
+void UncheckReferences(soci::session& session);
+/// Runs a statement on such a connection.
+void RunUnchecked(const std::string& dataSource, const std::string& statement);
+
 /// A database with the known shop that goes with its owner.
 class ShopDatabase {
 public:

@@ -1,4 +1,5 @@
-#include "tests/unit/family/shop_fixture.hpp"
+#include "tests/support/small_files.hpp"
+#include "tests/unit/family/server_fixture.hpp"
 
 #include "family/data/data_source.hpp"
 #include "family/data/insert_new_row.hpp"
@@ -7,7 +8,6 @@
 #include "family/data/trial_restore.hpp"
 #include "family/data/unfinished_file.hpp"
 
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -34,17 +34,6 @@ void Damage(const std::string& path)
     std::string content = ContentOf(path);
     std::fill(content.begin() + static_cast<long>(content.size()) / 3, content.end(), 'x');
     WriteContent(path, content);
-}
-
-/// What `act` fails with; "" where it does not.
-std::string FailureOf(const std::function<void()>& act)
-{
-    try {
-        act();
-    } catch (const Failure& failure) {
-        return failure.Description();
-    }
-    return "";
 }
 
 /// Writes a company and a user in each transaction, until it is told to end.
@@ -77,29 +66,6 @@ private:
     std::shared_ptr<Database> database_;
     std::atomic<long> written_ = 0;
     std::jthread thread_;
-};
-
-/// No file of this process can grow beyond that size.
-class SmallFiles {
-public:
-    explicit SmallFiles(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &former_);
-        formerHandler_ = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small{bytes, former_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallFiles()
-    {
-        setrlimit(RLIMIT_FSIZE, &former_);
-        std::signal(SIGXFSZ, formerHandler_);
-    }
-    SmallFiles(const SmallFiles&) = delete;
-    SmallFiles& operator=(const SmallFiles&) = delete;
-
-private:
-    rlimit former_{};
-    void (*formerHandler_)(int) = nullptr;
 };
 
 } // namespace
@@ -166,11 +132,7 @@ TEST_F(StoreBackup, ThatLacksARowIsNotTakenForACopy)
 
 TEST_F(StoreBackup, WithAReferenceThatLeadsNowhereIsNotTakenForACopy)
 {
-    {
-        Database database(SqliteDialect(), "dbname=" + shop_, shop_);
-        database.Session() << "pragma foreign_keys = off";
-        database.Session() << "delete from raca";
-    }
+    RunUnchecked(shop_, "delete from raca");
     EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find("referências"), std::string::npos);
     EXPECT_TRUE(OtherFiles().empty());
 }
@@ -186,7 +148,7 @@ TEST_F(StoreBackup, NeverReplacesAFileThatCameMeanwhile)
 {
     LongWork work;
     work.progress = [&](long long, long long) { WriteContent(copy_, "nota"); };
-    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, work); }), "");
+    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, work); }).find("já existe"), std::string::npos);
     EXPECT_EQ(ContentOf(copy_), "nota");
     EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
 }
@@ -218,7 +180,8 @@ TEST_F(StoreBackup, ThatIsKilledLeavesNothingUnderItsNameAndStandsInNobodysWay)
 TEST_F(StoreBackup, WithoutRoomFailsAndLeavesNothing)
 {
     OpenDatabase(shop_);
-    const SmallFiles small(fs::file_size(shop_) / 2);
+    // Half of what the shop's tables need.
+    const kova::test::SmallFiles small(60'000);
     EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find(copy_), std::string::npos);
     EXPECT_TRUE(OtherFiles().empty());
 }
@@ -244,6 +207,7 @@ TEST_F(StoreBackup, NeverGivesANumberTwiceAfterItIsRestored)
     {
         const auto database = OpenDatabase(shop_);
         Insert(*database, UserRow{7, "Carla"});
+        NumberOn(*database);
         database->Session() << "delete from usuario where codigo = 7";
     }
     BackUpStore(shop_, copy_, {});
@@ -266,9 +230,12 @@ TEST_F(StoreBackup, ThatIsNoneIsNotRestored)
     const std::string nobody = folder_ / "nenhuma.bak";
     EXPECT_NE(FailureOf([&] { RestoreStore(copy_, folder_ / "a.db", {}); }).find(copy_), std::string::npos);
     EXPECT_NE(FailureOf([&] { RestoreStore(nobody, folder_ / "a.db", {}); }).find(nobody), std::string::npos);
-    Damage(shop_);
-    EXPECT_NE(FailureOf([&] { RestoreStore(shop_, folder_ / "a.db", {}); }), "");
-    EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
+    const std::string damaged = folder_ / "estragada.bak";
+    BackUpStore(shop_, damaged, {});
+    Damage(damaged);
+    EXPECT_NE(FailureOf([&] { RestoreStore(damaged, folder_ / "a.db", {}); }).find("danificado"),
+              std::string::npos);
+    EXPECT_EQ(OtherFiles(), (std::vector<std::string>{"copia.bak", "estragada.bak"}));
 }
 
 TEST_F(StoreBackup, OfAnOlderSchemaIsRestoredAsItIsAndOpens)

@@ -1,6 +1,7 @@
-#include "tests/unit/family/shop_fixture.hpp"
+#include "tests/unit/family/server_fixture.hpp"
 
 #include "family/data/appointment_rows.hpp"
+#include "family/data/audit.hpp"
 #include "family/data/data_source.hpp"
 #include "family/data/find_by_key.hpp"
 #include "family/data/insert_new_row.hpp"
@@ -46,7 +47,7 @@ TEST_F(StoreCopy, HasRowsBeyondOnePageAndTellsHowFarItHasCome)
     work.progress = [&](long long done, long long) { told.push_back(done); };
     CopyStore(shop_, copy_, work);
     EXPECT_EQ(SumsOf(copy_), SumsOf(shop_));
-    EXPECT_EQ(told.size(), 3U);
+    EXPECT_EQ(told.size(), 4U);
 }
 
 TEST_F(StoreCopy, NeverGivesANumberTwice)
@@ -54,6 +55,7 @@ TEST_F(StoreCopy, NeverGivesANumberTwice)
     {
         const auto database = OpenDatabase(shop_);
         Insert(*database, UserRow{7, "Carla"});
+        NumberOn(*database);
         database->Session() << "delete from usuario where codigo = 7";
         database->Session() << "insert into auditoria (momento, usuario, tabela, chave, operacao)"
                                " values ('2026-11-20 09:00:00', 'Carla', 'empresa', 40, 'exclusao')";
@@ -76,11 +78,9 @@ TEST_F(StoreCopy, ReadsOneMoment)
         transaction.commit();
     }
     const std::vector<TableSum> before = SumTables(*desk);
-    bool written = false;
-    work.progress = [&](long long, long long) {
-        if (!written)
+    work.progress = [&](long long done, long long) {
+        if (done == 1000)
             Insert(*desk, ServiceTypeRow{9, "Transporte", "transporte"});
-        written = true;
     };
     CopyStore(shop_, copy_, work);
     EXPECT_EQ(SumsOf(copy_), before);
@@ -96,11 +96,7 @@ TEST_F(StoreCopy, NeverReplacesAFile)
 
 TEST_F(StoreCopy, OfRowsThatReferToNothingIsNotMade)
 {
-    {
-        Database database(SqliteDialect(), "dbname=" + shop_, shop_);
-        database.Session() << "pragma foreign_keys = off";
-        database.Session() << "delete from raca";
-    }
+    RunUnchecked(shop_, "delete from raca");
     EXPECT_THROW(CopyStore(shop_, copy_, {}), Failure);
     EXPECT_FALSE(fs::exists(copy_));
     EXPECT_FALSE(fs::exists(copy_ + ".parcial"));
@@ -132,6 +128,99 @@ TEST_F(StoreCopy, SumsTellOneValueFromAnother)
         transaction.rollback();
         EXPECT_EQ(SumTables(*database), before);
     }
+}
+
+namespace {
+
+/// Rows in every table, more than are read at once, with all that a text can hold.
+void FillEveryTable(const std::string& shop)
+{
+    const auto database = OpenDatabase(shop);
+    soci::transaction transaction(database->Session());
+    for (const std::string text : {"", " ", "Ação \"à vista\" 'já'; \\ %\n\r\n\t", "🐶 ß ǅ \u0301", "NULL"})
+        InsertNew(*database, UserRow{0, text});
+    InsertNew(*database, HolidayRow{0, "Natal", 25, 12, {}});
+    InsertNew(*database, HolidayRow{0, "Carnaval", {}, {}, std::string("2027-02-09")});
+    InsertNew(*database, PackageRow{0, 2, "2026-11-20 09:00:00", "Ana"});
+    InsertNew(*database, PreSaleRow{0, 7, 9'000'000'000'000, 1, "2026-11-20 09:00:00"});
+    for (int line = 0; line < 2500; ++line)
+        Insert(*database,
+               AuditRow{"2026-11-20 09:00:00",
+                        "1 - Zé",
+                        "BALCÃO-1",
+                        "agendamento",
+                        line,
+                        "exclusao",
+                        AuditValues().Add("observacao", std::string("\"Laço\"\n\\")).Line(),
+                        {}});
+    database->Session() << "insert into gravacao (identificador, momento)"
+                           " values ('a1', '2026-11-20 09:00:00')";
+    transaction.commit();
+}
+
+} // namespace
+
+class StoreCopyPostgresql : public testing::Test {
+protected:
+    StoreCopyPostgresql()
+    {
+        MakeShop(file_);
+        FillEveryTable(file_);
+    }
+
+    static std::vector<TableSum> SumsOf(const std::string& path) { return SumTables(*OpenForReading(path)); }
+
+    TemporaryFolder folder_;
+    std::string file_ = folder_ / "loja.db", back_ = folder_ / "volta.db";
+    kova::test::PostgresDatabase server_{kova::test::PostgresServer::Shared()};
+};
+
+TEST_F(StoreCopyPostgresql, ThereAndBackIsEqual)
+{
+    const std::vector<TableSum> before = SumsOf(file_);
+    for (const TableSum& table : before)
+        EXPECT_GT(table.rows, 0) << table.name;
+    CopyStore(file_, server_.Address(), {});
+    EXPECT_EQ(SumsOf(server_.Address()), before);
+    CopyStore(server_.Address(), back_, {});
+    EXPECT_EQ(SumsOf(back_), before);
+}
+
+TEST_F(StoreCopyPostgresql, NeverGivesANumberTwiceThereAndBack)
+{
+    {
+        const auto database = OpenDatabase(file_);
+        Insert(*database, UserRow{30, "Carla"});
+        database->Session() << "delete from usuario where codigo = 30";
+    }
+    CopyStore(file_, server_.Address(), {});
+    EXPECT_EQ(InsertNew(*OpenDatabase(server_.Address()), UserRow{0, "Ana"}), 31);
+    server_.Run("delete from usuario where codigo = 31");
+    CopyStore(server_.Address(), back_, {});
+    EXPECT_EQ(InsertNew(*OpenDatabase(back_), UserRow{0, "Ana"}), 32);
+}
+
+TEST_F(StoreCopyPostgresql, NeverGoesOverAShop)
+{
+    CopyStore(file_, server_.Address(), {});
+    const std::vector<TableSum> before = SumsOf(server_.Address());
+    EXPECT_THROW(CopyStore(file_, server_.Address(), {}), Failure);
+    EXPECT_EQ(SumsOf(server_.Address()), before);
+}
+
+TEST_F(StoreCopyPostgresql, ThatEndsBeforeItsTimeLeavesNothing)
+{
+    for (const std::string& target : {server_.Address(), back_}) {
+        std::stop_source stop;
+        LongWork work{[&](long long done, long long) {
+                          if (done == 2000)
+                              stop.request_stop();
+                      },
+                      stop.get_token()};
+        EXPECT_NE(FailureOf([&] { CopyStore(file_, target, work); }).find("interrompido"), std::string::npos);
+        EXPECT_FALSE(DataSourceExists(target));
+    }
+    EXPECT_TRUE(server_.Run("select 1 from information_schema.tables where table_schema = 'public'").empty());
 }
 
 } // namespace kova::family::test

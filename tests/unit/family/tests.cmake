@@ -4,18 +4,16 @@ if(NOT KOVARIS_CORE_ONLY)
     target_link_libraries(test_family PRIVATE ${CMAKE_DL_LIBS})
     add_dependencies(test_family KOVA_N_Familia)
 
-    # All of it again with the fixtures' data on a server. Left out is what looks into an SQLite file, or does so
-    # in its own statements. StoreCopy.NeverGivesANumberTwice is left out because a copy from a server does not
-    # know yet which numbers were given to rows that are gone.
-    set(about_files "DataSource.*:SchemaMigration.*:StoreComponent.*:AgendaData.*"
+    # All of it again with the fixtures' data on a server. Left out is what is about SQLite files themselves, which
+    # nothing of a server stands for (how they are opened, copied by pages every day, brought up to date, waited for
+    # and searched by their statistics), and what reads the audit by a function of SQLite. The copy in
+    # ThatIsDamagedOnTheDisk would write the damaged pages again: rows are copied, not pages.
+    set(about_files "DataSource.*:SchemaMigration.*:StoreComponent.*:DailyBackup.*"
+        "StoreBackup.ThatIsDamagedOnTheDiskIsNotTakenForACopy"
         "EmployeeRoomRule.OfABigShopIsLookedUpAmongTheEmployeesOwnAppointments"
+        "StatusWrite.TellsThatTheDataAreInUseAndWorksWhenTheyAreFree"
         "WritesAudit.KeepsTheWholeRowBeforeAndAfterAnAlteration"
-        "WritesAudit.LetsADeletedAppointmentBePutBack"
-        "DailyBackup.*:StoreBackup.*:TableLayouts.*"
-        "StoreCopy.NeverGivesANumberTwice:StoreCopy.OfRowsThatReferToNothingIsNotMade"
-        "Restoration.BringsBackEveryColumnUnderTheSameNumber:Restoration.LeavesItsOwnLineInTheAudit"
-        "Restoration.IsRefusedWhereWhatItRefersToIsGone"
-        "StatusWrite.TellsThatTheDataAreInUseAndWorksWhenTheyAreFree")
+        "WritesAudit.LetsADeletedAppointmentBePutBack")
     list(JOIN about_files ":" about_files)
     add_test(NAME test_family.OnServer COMMAND test_family --gtest_filter=-*Postgresql*:${about_files})
     set_tests_properties(test_family.OnServer PROPERTIES ENVIRONMENT KOVARIS_TEST_SERVER=1)

@@ -1,38 +1,13 @@
+#include "tests/support/small_files.hpp"
 #include "tests/unit/tools/import_fixture.hpp"
 
-#include <sys/resource.h>
-
-#include <csignal>
+#include "family/data/unfinished_file.hpp"
 
 namespace kova::data::test {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// As long as it lives, no file can grow beyond so many bytes: to whoever writes, the disk is full.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        former_ = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &limit_);
-        rlimit small = limit_;
-        small.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &limit_);
-        std::signal(SIGXFSZ, former_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit limit_{};
-    void (*former_)(int) = nullptr;
-};
 
 class Export : public ImportTest {
 protected:
@@ -68,24 +43,28 @@ TEST_F(Export, NeverReplacesAFile)
     EXPECT_NE(Error().find("já existe"), std::string::npos);
 }
 
+TEST_F(Export, IsMadeByOneAtATime)
+{
+    const family::UnfinishedFile other(File("saida.csv"));
+    EXPECT_EQ(ExportTo(File("saida.csv")), 1);
+    EXPECT_NE(Error().find("está sendo feito por outro programa"), std::string::npos) << Error();
+}
+
 TEST_F(Export, RefusesAFolderThatCannotBeWritten)
 {
     EXPECT_EQ(ExportTo(File("pasta/saida.csv")), 1);
-    EXPECT_NE(Error().find("não pode ser gravado. A pasta não existe. Verifique o caminho."),
-              std::string::npos)
-        << Error();
+    EXPECT_NE(Error().find("saida.csv\" não existe. Verifique o caminho."), std::string::npos) << Error();
     EXPECT_EQ(ExportTo("/proc/saida.csv"), 1);
-    EXPECT_NE(Error().find("O arquivo \"/proc/saida.csv\" não pode ser gravado."), std::string::npos)
-        << Error();
+    EXPECT_NE(Error().find("\"/proc/saida.csv\" não "), std::string::npos) << Error();
 }
 
 TEST_F(Export, LeavesNothingOnAFullDisk)
 {
-    const std::string demo = File("demonstracao.db"), path = File("saida.csv");
+    const std::string demo = Place("demonstracao"), path = File("saida.csv");
     ASSERT_EQ(Run({"demo", demo}), 0);
     {
         // Enough for what the engine puts beside the database.
-        const FullDisk full(100'000);
+        const kova::test::SmallFiles full(100'000);
         EXPECT_EQ(Run({"export", demo, "agendamentos", path}), 1);
     }
     EXPECT_NE(Error().find("\"" + path + "\" não pode ser gravado. O disco está cheio."), std::string::npos)

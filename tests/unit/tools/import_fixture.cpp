@@ -68,11 +68,16 @@ std::string ImportTest::Exported(const std::string& name, const std::string& dat
 
 std::string ImportTest::Ask(const std::string& query)
 {
-    family::Database database(family::SqliteDialect(), "dbname=" + Database(), "loja");
-    std::string answer;
+    std::string text, answer;
     soci::indicator state = soci::i_null;
-    database.Session() << "select cast((" + query + ") as text)", soci::into(answer, state);
-    return state == soci::i_ok ? answer : "";
+    const auto database = family::OpenForReading(Database());
+    soci::statement statement = (database->Session().prepare << "with resposta (valor) as (" + query
+                                         + ") select cast(valor as text) from resposta",
+                                 soci::into(text, state));
+    statement.execute();
+    for (const char* comma = ""; statement.fetch(); comma = ",")
+        answer += comma + (state == soci::i_ok ? text : "");
+    return answer;
 }
 
 } // namespace kova::data::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/data_places.hpp"
 #include "tests/unit/components/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
@@ -9,8 +10,8 @@
 
 namespace kova::data::test {
 
-/// A folder with a database that has the schema and nothing else, and a program that runs on it on
-/// 20/11/2026 at 09:00.
+/// A folder, a database that has the schema and nothing else, and a program that runs on it on 20/11/2026 at
+/// 09:00. The databases are files in the folder or lie on a server.
 class ImportTest : public testing::Test {
 protected:
     ImportTest();
@@ -29,14 +30,17 @@ protected:
 
     std::string Output() const { return output_.str(); }
     std::string Error() const { return error_.str(); }
-    std::string Database() const { return File("loja.db"); }
+    const std::string& Database() const { return database_; }
+    std::string Place(const std::string& name) { return places_.Place(name); }
     std::string File(const std::string& name) const { return folder_.File(name); }
     void MakeEmptyDatabase(const std::string& path);
-    /// The first column of the first row; "" where there is none.
+    /// The one column of all rows as texts, joined by commas; "" for a Null.
     std::string Ask(const std::string& query);
 
 private:
     kova::test::TemporaryFolder folder_;
+    kova::test::DataPlaces places_{folder_.File("")};
+    const std::string database_ = places_.Place("loja");
     std::ostringstream output_, error_;
     int exports_ = 0;
 };

@@ -1,4 +1,9 @@
+#include "tests/support/small_files.hpp"
 #include "tests/unit/tools/import_fixture.hpp"
+
+#include "family/data/appointment_rows.hpp"
+#include "family/data/data_source.hpp"
+#include "family/data/insert_new_row.hpp"
 
 namespace kova::data::test {
 
@@ -37,8 +42,8 @@ TEST_F(Imports, MakesTheSpeciesAndBreedsOfAnimals)
                      "Rex;canina;maltes;M;Grande;11;;;;\n"),
               0)
         << Error();
-    EXPECT_EQ(Ask("select group_concat(nome) from especie"), "Canina,Felina");
-    EXPECT_EQ(Ask("select group_concat(nome) from raca"), "Sem raça definida,Maltês,Siamês");
+    EXPECT_EQ(Ask("select nome from especie order by codigo"), "Canina,Felina");
+    EXPECT_EQ(Ask("select nome from raca order by codigo"), "Sem raça definida,Maltês,Siamês");
     EXPECT_EQ(Exported("animais"),
               "Código;Código do cliente;Nome;Sexo;Espécie;Raça;Porte;Cor;Microchip;Observação;Situação\r\n"
               "50;10;Paçoca;Fêmea;Canina;Sem raça definida;Médio;;;;Ativo\r\n"
@@ -107,6 +112,26 @@ TEST_F(Imports, GivesCodesThatNoLineBrings)
               "Número;Nome;Situação\r\n1;Um;Ativo\r\n2;Dois;Ativo\r\n3;Novo;Ativo\r\n4;Outro;Ativo\r\n");
 }
 
+TEST_F(Imports, NumberOnBehindTheCodesOfPackages)
+{
+    ImportShop();
+    ASSERT_EQ(Import("agendamentos",
+                     "Data inicial;Hora inicial;Hora final;Código do cliente;Código do animal;"
+                     "Código do serviço;Código do funcionário;Código do pacote\n"
+                     "25/11/2026;10:00;11:00;10;50;2;1;7\n25/11/2026;10:00;11:00;10;50;2;2;9\n"),
+              0)
+        << Error();
+    const std::shared_ptr<family::Database> database = family::OpenDatabase(Database());
+    EXPECT_EQ(family::InsertNew(*database, family::PackageRow{0, 2, "2026-11-20 09:00:00", "Ana"}), 10);
+}
+
+TEST_F(Imports, NumberOnBehindTheirCodes)
+{
+    ASSERT_EQ(Import("tipos", "Número;Nome\n40;Consulta\n4;Banho e tosa\n"), 0) << Error();
+    ASSERT_EQ(Import("tipos", "Nome\nHotel\n"), 0) << Error();
+    EXPECT_EQ(Ask("select numero from tipo_de_servico where nome = 'Hotel'"), "41");
+}
+
 TEST_F(Imports, RehearsesWithoutWriting)
 {
     EXPECT_EQ(Import("tipos", "Nome\nUm\nDois\n", {"--dry-run"}), 0);
@@ -168,8 +193,6 @@ TEST_F(Imports, RefusesFilesThatAreNoTable)
               "agenda-data: \"" + File("pasta") + "\" é uma pasta. Informe o caminho de um arquivo CSV.\n");
     EXPECT_EQ(importing("/dev/null"), 1);
     EXPECT_NE(Error().find("não é um arquivo comum"), std::string::npos);
-    EXPECT_EQ(importing(Database()), 1);
-    EXPECT_NE(Error().find("não é um texto"), std::string::npos);
     EXPECT_EQ(Import("tipos", std::string("N\0o\0m\0e\0", 8)), 1);
     EXPECT_NE(Error().find("não é um texto"), std::string::npos);
     EXPECT_EQ(Import("tipos", ""), 1);
@@ -190,6 +213,26 @@ TEST_F(Imports, NeedsADatabase)
         EXPECT_EQ(Run(words), 1);
         EXPECT_NE(Error().find("não existe"), std::string::npos) << Error();
     }
+}
+
+TEST_F(Imports, OnAFullDiskImportNothing)
+{
+    ImportShop();
+    std::string content = "Nome;Apelido\n";
+    for (int line = 0; line < 5000; ++line)
+        content += "Maria;" + std::string(50, 'x') + "\n";
+    {
+        // Enough for what the engine puts beside the database to begin with.
+        const kova::test::SmallFiles small(400'000);
+        EXPECT_EQ(Import("clientes", content), 1);
+    }
+    EXPECT_NE(Error().find("Falha no banco de dados \"" + Database() + "\".\r\nO disco "), std::string::npos)
+        << Error();
+    EXPECT_EQ(Output(), "");
+    EXPECT_EQ(Run({"check", Database()}), 0) << Error();
+    EXPECT_EQ(Ask("select count(*) from cliente"), "2");
+    EXPECT_EQ(Import("clientes", content), 0) << Error();
+    EXPECT_EQ(Ask("select count(*) from cliente"), "5002");
 }
 
 } // namespace kova::data::test

@@ -1,3 +1,9 @@
 if(NOT KOVARIS_CORE_ONLY)
-    kovaris_test_program(test_tools unit/tools agenda_data_commands)
+    kovaris_test_program(test_tools unit/tools agenda_data_commands test_postgres_server)
+
+    # All of it again with the databases on a server. Left out is what needs none, and the disk that is full: it
+    # is this computer's.
+    set(needing_no_server "CellValues.*:Encodings.*:Csv.*:Imports.OnAFullDiskImportNothing")
+    add_test(NAME test_tools.OnServer COMMAND test_tools --gtest_filter=-*Postgresql*:${needing_no_server})
+    set_tests_properties(test_tools.OnServer PROPERTIES ENVIRONMENT KOVARIS_TEST_SERVER=1)
 endif()

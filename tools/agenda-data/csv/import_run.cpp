@@ -73,12 +73,13 @@ void ImportRun::Check(family::Database& database)
 void ImportRun::Write(family::Database& database)
 {
     const family::Author author = ImportAuthor(surroundings_.now);
-    if (withoutCode_ < records_) {
+    if (withoutCode_ < records_)
         WriteThose(true, author);
-        family::NumberOn(database);
-    }
+    family::NumberOn(database);
     if (withoutCode_ > 0)
         WriteThose(false, author);
+    // Also a line without a code may name another one, as an appointment does its package's.
+    family::NumberOn(database);
 }
 
 void ImportRun::WriteThose(bool withCode, const family::Author& author)

@@ -1,18 +1,19 @@
 #pragma once
 
+#include "family/data/unfinished_file.hpp"
+
 #include <cstdio>
 #include <string>
 #include <string_view>
 
 namespace kova::data {
 
-/// A new file that gets its name only when it is whole. Until then it stands beside it under the name
-/// "PATH.parcial"; what is not finished leaves nothing behind. Everything throws std::runtime_error, in
-/// Portuguese with the path and what to do.
+/// A new file that gets its name only when it is whole; what is not finished leaves nothing behind.
+/// Everything fails with a family::StoreFailure.
 class WholeFile {
 public:
-    /// Refused where anything stands at the path already.
-    explicit WholeFile(std::string path);
+    /// Refused where anything stands at the path already, or another program is making it.
+    explicit WholeFile(const std::string& path);
     ~WholeFile();
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
@@ -22,9 +23,7 @@ public:
     void Finish();
 
 private:
-    [[noreturn]] void Fail(int cause) const;
-
-    std::string path_, unfinished_;
+    family::UnfinishedFile place_;
     std::FILE* file_ = nullptr;
 };
 
