@@ -4,6 +4,7 @@ if(NOT KOVARIS_CORE_ONLY)
     find_package(SQLite3 REQUIRED)
     kovaris_test_program(test_window window host_application family_business test_qt_application
         test_postgres_server SQLite::SQLite3 Qt6::Test)
+    kovaris_precompile(test_window ${CMAKE_CURRENT_LIST_DIR}/shop.hpp <soci/soci.h>)
     target_compile_definitions(test_window PRIVATE AGENDA_DATA="$<TARGET_FILE:agenda-data>")
     add_dependencies(test_window agenda-data KOVA_A_Agenda KOVA_N_Familia KOVA_A_Familia)
 
