@@ -9,9 +9,6 @@ if(NOT KOVARIS_CORE_ONLY)
     add_dependencies(test_window agenda-data KOVA_A_Agenda KOVA_N_Familia KOVA_A_Familia)
 
     # All of it again with the shop on a server. Left out is what is about a file: its copies, and who holds it.
-    set(window_about_files "DailyBackup.*"
+    kovaris_test_on_server(test_window "DailyBackup.*"
         "Status.StaysAsItWasWhereAnotherProgramHoldsTheDatabaseForLongerThanTheWait")
-    list(JOIN window_about_files ":" window_about_files)
-    add_test(NAME test_window.OnServer COMMAND test_window --gtest_filter=-*Postgresql*:${window_about_files})
-    set_tests_properties(test_window.OnServer PROPERTIES ENVIRONMENT KOVARIS_TEST_SERVER=1)
 endif()

@@ -9,13 +9,10 @@ if(NOT KOVARIS_CORE_ONLY)
     # nothing of a server stands for (how they are opened, copied by pages every day, brought up to date, waited for
     # and searched by their statistics), and what reads the audit by a function of SQLite. The copy in
     # ThatIsDamagedOnTheDisk would write the damaged pages again: rows are copied, not pages.
-    set(about_files "DataSource.*:SchemaMigration.*:StoreComponent.*:DailyBackup.*"
+    kovaris_test_on_server(test_family "DataSource.*:SchemaMigration.*:StoreComponent.*:DailyBackup.*"
         "StoreBackup.ThatIsDamagedOnTheDiskIsNotTakenForACopy"
         "EmployeeRoomRule.OfABigShopIsLookedUpAmongTheEmployeesOwnAppointments"
         "StatusWrite.TellsThatTheDataAreInUseAndWorksWhenTheyAreFree"
         "WritesAudit.KeepsTheWholeRowBeforeAndAfterAnAlteration"
         "WritesAudit.LetsADeletedAppointmentBePutBack")
-    list(JOIN about_files ":" about_files)
-    add_test(NAME test_family.OnServer COMMAND test_family --gtest_filter=-*Postgresql*:${about_files})
-    set_tests_properties(test_family.OnServer PROPERTIES ENVIRONMENT KOVARIS_TEST_SERVER=1)
 endif()

@@ -4,7 +4,5 @@ if(NOT KOVARIS_CORE_ONLY)
 
     # All of it again with the databases on a server. Left out is what needs none, and the disk that is full: it
     # is this computer's.
-    set(needing_no_server "CellValues.*:Encodings.*:Csv.*:Imports.OnAFullDiskImportNothing")
-    add_test(NAME test_tools.OnServer COMMAND test_tools --gtest_filter=-*Postgresql*:${needing_no_server})
-    set_tests_properties(test_tools.OnServer PROPERTIES ENVIRONMENT KOVARIS_TEST_SERVER=1)
+    kovaris_test_on_server(test_tools "CellValues.*:Encodings.*:Csv.*:Imports.OnAFullDiskImportNothing")
 endif()
