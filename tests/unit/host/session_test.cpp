@@ -6,7 +6,6 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <thread>
 
 namespace kova::host {
 
@@ -48,13 +47,11 @@ TEST(SessionClock, StaysOnTheGivenDay)
 
 TEST(SessionClock, BeginsAtTheGivenTimeAndRunsOn)
 {
-    EXPECT_EQ(SessionClock({}, TimeOfDay{9, 30, 0}).Now().time.hour, 9);
-    EXPECT_EQ(SessionClock({}, TimeOfDay{9, 30, 0}).Now().time.minute, 30);
-    const SessionClock clock({}, TimeOfDay{23, 59, 59});
-    std::this_thread::sleep_for(std::chrono::milliseconds(1100));
-    const TimeOfDay later = clock.Now().time;
-    EXPECT_EQ(later.hour, 0);
-    EXPECT_EQ(later.minute, 0);
+    const TimeOfDay time = SessionClock({}, TimeOfDay{9, 30, 0}).Now().time;
+    EXPECT_EQ(time.hour, 9);
+    EXPECT_EQ(time.minute, 30);
+    EXPECT_EQ(RunOn({9, 30, 15}, std::chrono::seconds(3645)), (TimeOfDay{10, 31, 0}));
+    EXPECT_EQ(RunOn({23, 59, 59}, std::chrono::seconds(1)), (TimeOfDay{0, 0, 0}));
 }
 
 TEST(SessionClock, CountsSecondsSinceMidnightNeverBackWithinADay)
