@@ -16,9 +16,11 @@ include_directories(${CMAKE_SOURCE_DIR})
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    # It keeps what was compiled with precompiled headers only where it is told not to look at the clock.
+    # It keeps what was compiled with precompiled headers only where it is told not to look at the clock. What was
+    # compiled in one clone serves in another: paths count from the clone's own folder.
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}
+        CCACHE_NOHASHDIR=true ${CCACHE_PROGRAM})
 endif()
 
 # Compiles the headers once that most sources of the target include. Each source includes what it needs all the
