@@ -1,9 +1,8 @@
 # One suite for the widgets' contract, over every toolkit.
 kovaris_test_program(test_widgets_conformance conformance/widgets toolkit_headless)
 if(NOT KOVARIS_CORE_ONLY)
-    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
     file(GLOB qt_bench CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/qt/*.cpp)
     target_sources(test_widgets_conformance PRIVATE ${qt_bench})
     target_compile_definitions(test_widgets_conformance PRIVATE KOVA_QT_BENCH)
-    target_link_libraries(test_widgets_conformance PRIVATE toolkit_qt test_qt_application Qt6::Test)
+    target_link_libraries(test_widgets_conformance PRIVATE screen_hand test_qt_application Qt6::Test)
 endif()

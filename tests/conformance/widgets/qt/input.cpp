@@ -3,6 +3,7 @@
 #include "toolkits/qt/form.hpp"
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/widget_view.hpp"
+#include "tools/hand/hand.hpp"
 
 #include <QPointer>
 #include <QTest>
@@ -18,13 +19,6 @@ qt::WidgetView* ViewOf(Widget& widget)
     return dynamic_cast<qt::WidgetView*>(dynamic_cast<toolkit::WidgetCore&>(widget).GetView());
 }
 
-// Null where no window is on show: nothing can be done there.
-QWindow* Top(QWidget* target)
-{
-    QWidget* top = target ? target->window() : nullptr;
-    return top && top->isVisible() ? top->windowHandle() : nullptr;
-}
-
 QPoint InWindow(QWidget* target, const QPoint& place) { return target->mapTo(target->window(), place); }
 
 } // namespace
@@ -37,8 +31,8 @@ QWidget* WindowOf(Form& form) { return qt::WidgetOfHandle(form.Handle()); }
 
 void ClickOn(QWidget* target, const QPoint& place)
 {
-    if (QWindow* top = Top(target))
-        QTest::mouseClick(top, Qt::LeftButton, Qt::NoModifier, InWindow(target, place));
+    if (QWindow* top = hand::WindowUnder(target))
+        hand::Hand::ClickAt(*top, InWindow(target, place));
 }
 
 void ClickOn(QWidget* target)
@@ -49,23 +43,23 @@ void ClickOn(QWidget* target)
 
 void MoveOver(QWidget* target, const QPoint& place)
 {
-    if (QWindow* top = Top(target))
-        QTest::mouseMove(top, InWindow(target, place));
+    if (QWindow* top = hand::WindowUnder(target))
+        hand::Hand::MoveAt(*top, InWindow(target, place));
 }
 
 void DragOver(QWidget* target, const QPoint& from, const QPoint& to)
 {
-    QWindow* top = Top(target);
+    QWindow* top = hand::WindowUnder(target);
     if (!top)
         return;
-    QTest::mousePress(top, Qt::LeftButton, Qt::NoModifier, InWindow(target, from));
-    QTest::mouseMove(top, InWindow(target, to));
-    QTest::mouseRelease(top, Qt::LeftButton, Qt::NoModifier, InWindow(target, to));
+    hand::Hand::PressAt(*top, InWindow(target, from), Qt::LeftButton);
+    hand::Hand::MoveAt(*top, InWindow(target, to));
+    hand::Hand::ReleaseAt(*top, InWindow(target, to), Qt::LeftButton);
 }
 
 void KeyOn(QWidget* target, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    if (QWindow* top = Top(target))
+    if (QWindow* top = hand::WindowUnder(target))
         QTest::keyClick(top, key, modifiers);
 }
 
@@ -74,7 +68,7 @@ void TypeOnKeys(QWidget* target, const QString& text)
     // A key may close the window.
     const QPointer<QWidget> watched(target);
     for (const QChar character : text) {
-        QWindow* top = Top(watched);
+        QWindow* top = hand::WindowUnder(watched);
         if (!top)
             return;
         const auto key = static_cast<Qt::Key>(character.toUpper().unicode());
