@@ -175,6 +175,8 @@ bool frmFichaSimplificada::PesquisarServico(Integer tipo, Text nome, Double codi
         if (registros->RecordCount() == 1) {
             MostrarServicoEncontrado({kvfCodigoDoServico, kvfNomeDoServico, kvtxtTempoDoServico}, *registros);
             SelecionarTipoDoServico(*this, registros->Field("NumeroDoTipoDeServico").ToDouble());
+            // Filling the box that searched counts as typing into it, which would empty the other one.
+            IgnorarEventoDeCampo = true;
             resultado = true;
             return;
         }
@@ -201,6 +203,7 @@ bool frmFichaSimplificada::EscolherServico(RecordSet& registros)
     if (escolhido) {
         MostrarServicoEscolhido({kvfCodigoDoServico, kvfNomeDoServico, kvtxtTempoDoServico}, *pesquisa);
         SelecionarTipoDoServico(*this, NumeroDoTipoEscolhido(*pesquisa));
+        IgnorarEventoDeCampo = true;
     }
     pesquisa->Formulario->Unload();
     return escolhido;

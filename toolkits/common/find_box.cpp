@@ -3,6 +3,8 @@
 #include "agenda/contracts/utf8.hpp"
 #include "toolkits/common/form.hpp"
 
+#include <utility>
+
 namespace kova::toolkit {
 
 namespace {
@@ -15,6 +17,9 @@ Integer KeyCodeOf(char32_t character)
 }
 
 Integer ShiftOf(char32_t character) { return utf8::ToLower(character) != character ? 1 : 0; }
+
+/// What a filling by code reports: it comes from no key.
+constexpr Integer NoKey = 0;
 
 } // namespace
 
@@ -29,7 +34,7 @@ void FindBoxModel::Text(const kova::Text& value)
 {
     Writing("Text", value);
     typed_ = false;
-    PutText(value);
+    Fill(value);
 }
 
 Long FindBoxModel::Status() const { return Read("Status", status_); }
@@ -60,7 +65,7 @@ void FindBoxModel::ReiniciarPesquisa()
     edit_.Select(0, edit_.Characters().size());
     Tell(Aspect::Content);
     Tell(Aspect::Selection);
-    GetForm().Raise(click_);
+    RaiseClick();
 }
 
 void FindBoxModel::UserPresses()
@@ -107,7 +112,33 @@ void FindBoxModel::Report(Long status)
     status_ = status;
     typed_ = false;
     Tell(Aspect::Content);
-    GetForm().Raise(click_);
+    RaiseClick();
+}
+
+void FindBoxModel::Fill(const kova::Text& text)
+{
+    PutText(text);
+    filled_ = filled_ || (clicks_ > 0 && !text.empty());
+}
+
+// A lookup that fills its own box counts as typing into it, once, when it has ended: a form that guards its
+// boxes against what it writes itself is open to the user's next key.
+void FindBoxModel::RaiseClick()
+{
+    const auto form = GetForm().weak_from_this().lock();
+    struct Running {
+        int& clicks;
+        explicit Running(int& count) : clicks(++count) { }
+        ~Running() { --clicks; }
+    };
+    if (clicks_ == 0)
+        filled_ = false;
+    {
+        const Running running(clicks_);
+        GetForm().Raise(click_);
+    }
+    if (clicks_ == 0 && std::exchange(filled_, false))
+        GetForm().Raise(keyDown_, NoKey, NoKey);
 }
 
 bool FindBoxModel::Admits(char32_t& character)

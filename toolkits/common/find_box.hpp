@@ -41,10 +41,16 @@ protected:
 private:
     void Press();
     void Report(Long status);
+    void RaiseClick();
+    void Fill(const kova::Text& text);
 
     Long status_ = find_status::Clear;
     /// The user has edited the text since code wrote Text or Status, or since the last press.
     bool typed_ = false;
+    /// Clicks of this box on the stack.
+    int clicks_ = 0;
+    /// Code has written a text that is not empty since the outermost of them began.
+    bool filled_ = false;
     Handler click_;
     KeyDownHandler keyDown_;
     Handler lostFocus_;

@@ -20,7 +20,9 @@ inline constexpr Long Clear = 2;
 ///
 /// A press reports a search (Status 1) when Status is 2, or when the user has typed since code last
 /// wrote Text or Status, or since the last press. Otherwise the box empties itself and reports that it
-/// was cleared (Status 2). Writes of Text, Status and DisplayText from code raise nothing.
+/// was cleared (Status 2). Writes of Text, Status and DisplayText from code raise nothing, with one
+/// exception: a text that is not empty, written while the box's own Click runs, is one KeyDown as soon as the
+/// Click has returned.
 /// Enter presses the button where that would search; otherwise it goes on to the next widget.
 class KVFind : public Widget {
 public:
@@ -38,7 +40,8 @@ public:
 
     /// The button was pressed; Status is already what the press reports.
     virtual void OnClick(Handler) = 0;
-    /// The user typed a character: key code and shift state. Once for each character.
+    /// The user typed a character: key code and shift state. Once for each character. Both are 0 where a
+    /// Click has filled the box.
     virtual void OnKeyDown(std::function<void(Integer keyCode, Integer shift)>) = 0;
     virtual void OnLostFocus(Handler) = 0;
 };

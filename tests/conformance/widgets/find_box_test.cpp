@@ -262,6 +262,79 @@ TEST_P(FindBox, MayBeRestartedInsideItsOwnClick)
     EXPECT_EQ(TakeEvents(), (Events{"click 1"}));
 }
 
+TEST_P(FindBox, ReportsOneKeyDownAfterAClickThatFilledIt)
+{
+    User().Type(*box_, "Rex");
+    TakeEvents();
+    box_->OnClick([this] {
+        box_->Text("Re");
+        box_->Text("Rex da Silva");
+        events_.push_back("click");
+    });
+    User().PressFind(*box_);
+    EXPECT_EQ(TakeEvents(), (Events{"click", "key 0"}));
+    EXPECT_EQ(box_->Text(), "Rex da Silva");
+    User().TypeOn(*box_, "x");
+    EXPECT_EQ(TakeEvents(), (Events{"key 88"}));
+}
+
+TEST_P(FindBox, ReportsNoKeyDownWhereItsClickWroteNothingIntoIt)
+{
+    box_->OnClick([this] {
+        box_->Text("");
+        box_->DisplayText("");
+        dialogBox_->Text("Maria");
+    });
+    User().PressFind(*box_);
+    EXPECT_EQ(TakeEvents(), Events());
+}
+
+TEST_P(FindBox, ReportsNoKeyDownOfASiblingThatItsClickFilled)
+{
+    box_->OnClick([this] { dialogBox_->Text("Maria"); });
+    dialogBox_->OnClick([this] { events_.push_back("click"); });
+    User().PressFind(*box_);
+    User().PressFind(*dialogBox_);
+    EXPECT_EQ(TakeEvents(), (Events{"lost", "click"}));
+}
+
+TEST_P(FindBox, ReportsOneKeyDownWhereAClickInsideItsClickFilledIt)
+{
+    box_->OnClick([this] {
+        if (box_->Status() == find_status::Search)
+            box_->ReiniciarPesquisa();
+        else
+            box_->Text("Rex");
+        events_.push_back("click");
+    });
+    User().PressFind(*box_);
+    EXPECT_EQ(TakeEvents(), (Events{"click", "click", "key 0"}));
+}
+
+TEST_P(FindBox, ReportsNoKeyDownWhereItsClickFails)
+{
+    box_->OnClick([this] {
+        box_->Text("Rex");
+        throw Failure(FailureNumber::NoObject);
+    });
+    User().PressFind(*box_);
+    EXPECT_EQ(TakeUnhandled(), (std::vector<std::int32_t>{91}));
+    EXPECT_EQ(TakeEvents(), Events());
+    box_->OnClick([this] { events_.push_back("click"); });
+    User().PressFind(*box_);
+    EXPECT_EQ(TakeEvents(), (Events{"click"}));
+}
+
+TEST_P(FindBox, ReportsNoKeyDownOnAFormThatItsClickUnloads)
+{
+    box_->OnClick([this] {
+        box_->Text("Rex");
+        form_->Unload();
+    });
+    User().PressFind(*box_);
+    EXPECT_EQ(TakeEvents(), Events());
+}
+
 TEST_P(FindBox, OfADialogEndsTheFormerSearchBeforeANewOne)
 {
     User().Type(*dialogBox_, "Rex");
