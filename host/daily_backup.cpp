@@ -1,9 +1,9 @@
 #include "host/daily_backup.hpp"
 
-#include "agenda/contracts/failure.hpp"
 #include "toolkits/qt/system_clock.hpp"
 
 #include <chrono>
+#include <exception>
 
 namespace kova::host {
 
@@ -30,23 +30,39 @@ void DailyBackup::Begin()
 {
     if (store_)
         return;
-    try {
+    Telling([this] {
         store_ = components_.CreateObject("KOVA_N_Dados.clsBanco");
         store_->Call("IniciarCopiaDoDia", {Today()});
         whileRunning_.start();
-    } catch (const Failure& failure) {
-        store_.reset();
-        tell_(failure.Description());
-    }
+    });
 }
 
 void DailyBackup::LookWhetherDone()
 {
-    if (!store_->Get("CopiaDoDiaTerminou").ToBoolean())
-        return;
+    Telling([this] {
+        if (!store_->Get("CopiaDoDiaTerminou").ToBoolean())
+            return;
+        const std::string reason = store_->Get("FalhaDaCopiaDoDia").ToText();
+        End();
+        tell_(reason);
+    });
+}
+
+void DailyBackup::End()
+{
     whileRunning_.stop();
-    tell_(store_->Get("FalhaDaCopiaDoDia").ToText());
     store_.reset();
+}
+
+// A copy that is not made is no reason to end the program: nothing gets past the timers.
+template <class Step> void DailyBackup::Telling(Step step)
+{
+    try {
+        step();
+    } catch (const std::exception& failure) {
+        End();
+        tell_(failure.what());
+    }
 }
 
 } // namespace kova::host

@@ -25,6 +25,9 @@ public:
 
 private:
     void LookWhetherDone();
+    void End();
+    /// Runs a step; a failure of it ends the copy and is told.
+    template <class Step> void Telling(Step step);
 
     ComponentService& components_;
     Tell tell_;
