@@ -2,6 +2,7 @@
 
 #include "host/notice_bar.hpp"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -59,6 +60,13 @@ void MainWindow::Open(std::optional<WindowSize> size)
         showMaximized();
         WaitForPlace();
     }
+}
+
+// The toolkit's own ending would ask every other window, and stay where one of them is busy.
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    QCoreApplication::exit();
 }
 
 void MainWindow::WaitForPlace()

@@ -9,7 +9,7 @@ namespace kova::host {
 class NoticeBar;
 
 /// The application's window: a container that the day's list fills, and a hint in its place where no list
-/// could be opened.
+/// could be opened. Closing it ends the application's event loops, whatever else is on the screen.
 class MainWindow : public QWidget {
 public:
     /// The title is "SHOP - Kovaris", or "Kovaris" where the shop has no name.
@@ -25,6 +25,9 @@ public:
     /// Shows the window at that size; without one filling the screen, and then returns once the desktop has
     /// given it its place, so that what is laid out in it finds the final size.
     void Open(std::optional<WindowSize> size);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void WaitForPlace();

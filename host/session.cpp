@@ -63,7 +63,7 @@ public:
         platform_.Use(components_);
     }
 
-    /// The list goes while its window is still there, and before the libraries.
+    /// The list goes while its window is still there, and the window before the libraries.
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -136,7 +136,9 @@ int Session::RunWindow()
                            "o programa novamente."));
     else
         BackUpDaily();
-    QApplication::exec();
+    // It may have been closed meanwhile, in front of a message about its opening.
+    if (window_->isVisible())
+        QApplication::exec();
     return opened ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
@@ -185,8 +187,11 @@ Session::~Session()
     if (Form* list = List())
         list->Unload();
     agenda_.reset();
-    // The toolkit ends forms from its event loop; what they hold of a library must go before it.
+    // The toolkit ends forms from its event loop; what they hold of a library must go before it. So must
+    // what a library has put into the window.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    window_.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     server_.Libraries().UnloadUnused();
 }
 

@@ -81,6 +81,12 @@ std::int32_t ComponentLibrary::CanUnloadNow() const
     return Code(live_ == 0 && locks_ == 0 ? ServerStatus::Ok : ServerStatus::Busy);
 }
 
+std::shared_ptr<void> ComponentLibrary::Hold()
+{
+    ++live_;
+    return std::shared_ptr<void>(this, [this](void*) { --live_; });
+}
+
 std::int32_t ComponentLibrary::RegisterServer()
 {
     if (!host_)

@@ -70,6 +70,10 @@ public:
     std::int32_t RegisterServer();
     std::int32_t UnregisterServer();
 
+    /// Keeps the library loaded while any copy of it lives, as an object does: for what the library has put
+    /// on the screen and its object does not own.
+    std::shared_ptr<void> Hold();
+
     /// Null where none is attached.
     ServerHost* Host() const { return host_; }
     long LiveObjects() const { return live_; }

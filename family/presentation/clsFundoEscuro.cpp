@@ -22,11 +22,11 @@ void RequireCount(std::span<Argument> arguments, std::size_t count)
 }
 
 /// The window with that handle; null where there is none, or no screen.
-QWidget* WindowOf(const Value& handle)
+QWidget* WindowOf(Long handle)
 {
     if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
         return nullptr;
-    QWidget* widget = QWidget::find(static_cast<WId>(handle.ToLong()));
+    QWidget* widget = QWidget::find(static_cast<WId>(handle));
     return widget ? widget->window() : nullptr;
 }
 
@@ -40,12 +40,12 @@ Value clsFundoEscuro::Call(std::string_view member, std::span<Argument> argument
 {
     if (member == "Aplicar") {
         RequireCount(arguments, 2);
-        if (QWidget* window = WindowOf(arguments[0].Get()))
-            DimmingLayer::Apply(*window);
+        const Long handle = arguments[0].Get().ToLong();
+        if (QWidget* window = WindowOf(handle))
+            DimmingLayer::Apply(*window, handle, hold_());
     } else if (member == "Remover") {
         RequireCount(arguments, 1);
-        if (QWidget* window = WindowOf(arguments[0].Get()))
-            DimmingLayer::Remove(*window);
+        DimmingLayer::Remove(arguments[0].Get().ToLong());
     } else {
         FailOnMember(member);
     }

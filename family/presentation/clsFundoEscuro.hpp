@@ -2,21 +2,33 @@
 
 #include "agenda/contracts/business_services.hpp"
 
+#include <functional>
+#include <memory>
+
 namespace kova::family {
 
 /// KOVA_A_EfeitosDeTela.clsFundoEscuro: the dimming of a window behind a dialog, known by the window's
 /// handle alone, so any object of the class may take away what another one applied.
 ///
 /// Aplicar(handle: Long, option: Integer) dims the window; 0 is the only option. Remover(handle: Long)
-/// ends it. Applying twice dims once; removing what is not there, and a handle without a window, do
-/// nothing. Neither argument is written.
+/// ends it, also where the window was closed meanwhile. Applying twice dims once; removing what is not
+/// there, and a handle without a window, do nothing. Neither argument is written. What is left standing
+/// fades out at the user's next press or key.
 class clsFundoEscuro : public Component {
 public:
+    /// Answers what keeps this code loaded: the dimming outlives the object that applied it.
+    using Holder = std::function<std::shared_ptr<void>()>;
+
+    explicit clsFundoEscuro(Holder hold = [] { return nullptr; }) : hold_(std::move(hold)) { }
+
     /// There is no property: fails with 438.
     Value Get(std::string_view member) override;
     void Set(std::string_view member, const Value& value) override;
     Value Call(std::string_view member, std::span<Argument> arguments) override;
     using Component::Call;
+
+private:
+    Holder hold_;
 };
 
 } // namespace kova::family

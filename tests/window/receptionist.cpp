@@ -167,6 +167,11 @@ Receptionist& Receptionist::WaitsUntil(const std::string& what, std::function<bo
     return Then({"wait until " + what, std::move(ready), [] {}});
 }
 
+Receptionist& Receptionist::Does(const std::string& what, std::function<void()> act)
+{
+    return Then({what, [] { return true; }, std::move(act)});
+}
+
 void Receptionist::Leaves()
 {
     Then({"leave", TakesInput, [] { TopInFront()->close(); }});
@@ -193,13 +198,20 @@ std::string Receptionist::Focused()
     return widget ? widget->FullName() : "";
 }
 
-Widget& Receptionist::Control(const std::string& form, const std::string& name)
+toolkit::FormModel* Receptionist::FormOnShow(const std::string& name)
 {
     for (QWidget* widget : QApplication::allWidgets()) {
         auto* shown = dynamic_cast<qt::FormWidget*>(widget);
-        if (shown && shown->isVisible() && shown->Model().Design().name == form)
-            return static_cast<Form&>(shown->Model()).Control(name);
+        if (shown && shown->isVisible() && shown->Model().Design().name == name)
+            return &shown->Model();
     }
+    return nullptr;
+}
+
+Widget& Receptionist::Control(const std::string& form, const std::string& name)
+{
+    if (toolkit::FormModel* shown = FormOnShow(form))
+        return static_cast<Form&>(*shown).Control(name);
     throw Failure(FailureNumber::NoSuchMember);
 }
 

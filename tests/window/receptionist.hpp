@@ -36,6 +36,8 @@ public:
     Receptionist& Looks(std::function<void()> look);
     /// Goes on once `ready` holds; `what` says for what that was.
     Receptionist& WaitsUntil(const std::string& what, std::function<bool()> ready);
+    /// Acts at once, whether or not a form takes input.
+    Receptionist& Does(const std::string& what, std::function<void()> act);
     /// Closes the application's window.
     void Leaves();
 
@@ -43,6 +45,8 @@ public:
     const std::vector<std::string>& Boxes() const { return boxes_; }
     /// The form in front; null where another window is.
     static toolkit::FormModel* FormInFront();
+    /// The form of that name that is on show; null where there is none.
+    static toolkit::FormModel* FormOnShow(const std::string& name);
     /// The name of the control that has the focus in the form in front.
     static std::string Focused();
     /// The control of that name in a form that is on show. Fails with 438 where there is none.

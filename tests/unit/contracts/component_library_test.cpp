@@ -153,6 +153,17 @@ TEST_F(ComponentLibraryTest, IsBusyWhileItIsLocked)
     EXPECT_EQ(library.CanUnloadNow(), Ok);
 }
 
+TEST_F(ComponentLibraryTest, IsBusyWhileAnybodyHoldsIt)
+{
+    std::shared_ptr<void> held = library.Hold();
+    std::shared_ptr<void> copy = held;
+    held.reset();
+    EXPECT_EQ(library.CanUnloadNow(), 1);
+    EXPECT_EQ(library.LiveObjects(), 1);
+    copy.reset();
+    EXPECT_EQ(library.CanUnloadNow(), 0);
+}
+
 TEST_F(ComponentLibraryTest, RefusesAnotherHostWhileObjectsLive)
 {
     RecordingHost other;
