@@ -27,6 +27,9 @@ struct Options {
     std::optional<Date> date;
     /// The time of day at which the session begins, instead of the computer's.
     std::optional<TimeOfDay> time;
+    /// Seconds that pass on the session's clock in one of the computer's: for those who cannot wait. The
+    /// command line has none for it.
+    double pace = 1;
     /// File for a picture of the window; "" opens the window.
     std::string picture;
     /// Nothing takes what fits the screen, or the usual size for a picture.

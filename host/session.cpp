@@ -54,7 +54,7 @@ public:
         : options_(options),
           outlet_(outlet),
           registry_(RegistryFile().string()),
-          clock_(options.date, options.time),
+          clock_(options.date, options.time, options.pace),
           toolkit_(clock_, DrawnWidth(options, outlet)),
           platform_(clock_, toolkit_),
           server_(registry_, platform_, DatabaseOf(options).string()),

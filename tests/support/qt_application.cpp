@@ -1,5 +1,7 @@
 #include "tests/support/qt_application.hpp"
 
+#include "tests/support/platform_remarks.hpp"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -10,20 +12,9 @@ namespace kova::test {
 
 namespace {
 
-// The offscreen platform has no window manager, and says so.
-bool IsExpected(const QString& text)
-{
-    for (const char* lack : {"propagateSizeHints", "support raise()", "support grabbing the keyboard",
-                             "support setting window masks"}) {
-        if (text.contains(QLatin1String(lack)))
-            return true;
-    }
-    return false;
-}
-
 void FailOnWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
-    if (type != QtDebugMsg && type != QtInfoMsg && !IsExpected(text))
+    if (type != QtDebugMsg && type != QtInfoMsg && !IsRemarkOfThePlatform(text))
         ADD_FAILURE() << "Qt says: " << text.toStdString();
 }
 

@@ -65,6 +65,16 @@ TEST(SessionClock, CountsSecondsSinceMidnightNeverBackWithinADay)
     EXPECT_TRUE(second >= first || second < 1);
 }
 
+TEST(SessionClock, PassesFasterThanTheComputersWhereItsPaceSaysSo)
+{
+    constexpr double thousandfold = 1000;
+    const SessionClock clock({}, TimeOfDay{9, 30, 0}, thousandfold);
+    const auto began = std::chrono::steady_clock::now();
+    while (std::chrono::steady_clock::now() - began < std::chrono::milliseconds(2)) { }
+    EXPECT_GE(clock.Timer(), 9 * 3600 + 30 * 60 + 2);
+    EXPECT_NE(clock.Now().time, (TimeOfDay{9, 30, 0}));
+}
+
 TEST(Folders, FollowTheDesktopsConventions)
 {
     setenv("XDG_DATA_HOME", "/dados", 1);
