@@ -33,7 +33,8 @@ Outcome RunOnce(const Script& script, const RunOptions& options)
 {
     Outcome outcome;
     alarm(SecondsOfARun);
-    Runner runner(script, options, [&](const std::string& line) { outcome.lines.push_back(line); });
+    Runner runner(script, options, MakeScreen(options.toolkit),
+                  [&](const std::string& line) { outcome.lines.push_back(line); });
     // Behind a failure the script may ask for what is not there: such a statement is left out.
     runner.OnWrongStatement([](const ScriptError&) {});
     outcome.ended = runner.Run();

@@ -4,7 +4,7 @@ if(KOVARIS_CORE_ONLY)
     return()
 endif()
 add_executable(fault-sweep ${CMAKE_CURRENT_LIST_DIR}/sweep.cpp)
-target_link_libraries(fault-sweep PRIVATE scenario_runner)
+target_link_libraries(fault-sweep PRIVATE scenario_screens)
 target_compile_definitions(fault-sweep PRIVATE MODULE_LIBRARY="$<TARGET_FILE:KOVA_A_Agenda>")
 add_dependencies(fault-sweep KOVA_A_Agenda)
 

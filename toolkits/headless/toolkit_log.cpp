@@ -1,35 +1,11 @@
-// The lines that tell what forms and boxes did.
+// What forms and boxes did goes into the log.
 
-#include "agenda/contracts/text.hpp"
-#include "toolkits/headless/quoted.hpp"
+#include "toolkits/headless/log_lines.hpp"
 #include "toolkits/headless/toolkit.hpp"
 
 namespace kova::headless {
 
 namespace {
-
-const char* WordFor(MessageKind kind)
-{
-    switch (kind) {
-    case MessageKind::Information: return "information";
-    case MessageKind::Critical: return "critical";
-    case MessageKind::Question: return "question";
-    case MessageKind::Plain: return "plain";
-    }
-    return "";
-}
-
-const char* WordFor(Reply reply)
-{
-    switch (reply) {
-    case Reply::Ok: return "ok";
-    case Reply::Yes: return "yes";
-    case Reply::No: return "no";
-    }
-    return "";
-}
-
-std::string Number(Twips length) { return TextOf(static_cast<Double>(length), '.'); }
 
 Reply Offered(MessageKind kind, Reply reply)
 {
@@ -40,21 +16,6 @@ Reply Offered(MessageKind kind, Reply reply)
 
 } // namespace
 
-Text Quoted(std::string_view text)
-{
-    Text quoted = "\"";
-    for (const char byte : text) {
-        switch (byte) {
-        case '"': quoted += "\\\""; break;
-        case '\\': quoted += "\\\\"; break;
-        case '\r': quoted += "\\r"; break;
-        case '\n': quoted += "\\n"; break;
-        default: quoted += byte;
-        }
-    }
-    return quoted + "\"";
-}
-
 void HeadlessToolkit::Write(std::string line)
 {
     log_.push_back(std::move(line));
@@ -62,60 +23,51 @@ void HeadlessToolkit::Write(std::string line)
         listener_(Text(log_.back()));
 }
 
-void HeadlessToolkit::LogPause(Double seconds) { Write("pause " + TextOf(seconds, '.')); }
+void HeadlessToolkit::LogPause(Double seconds) { Write(lines::Pause(seconds)); }
 
 Reply HeadlessToolkit::AskUser(MessageKind kind, const Text& text, const Text& title)
 {
     const Reply reply = Offered(kind, GetDriver().Answer(kind, text, title));
-    Write(std::string("box ") + WordFor(kind) + " " + Quoted(title) + " " + Quoted(text) + " -> "
-          + WordFor(reply));
+    Write(lines::Box(kind, text, title, reply));
     return reply;
 }
 
 void HeadlessToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys)
 {
-    Write("help " + form.Design().name);
-    for (const toolkit::KeyHelp& line : keys)
-        Write("  " + line.key + ": " + line.purpose);
+    for (std::string& line : lines::Help(form, keys))
+        Write(std::move(line));
 }
 
 void HeadlessToolkit::LogReport(const toolkit::ReportModel& report, const reports::Document& pages)
 {
-    const ReportDesign& design = report.Current();
-    std::string line = "report " + design.name + " modal caption " + Quoted(design.caption) + " width "
-        + Number(design.width) + " margins";
-    for (const Twips margin : {design.leftMargin, design.topMargin, design.rightMargin, design.bottomMargin})
-        line += " " + Number(margin);
-    line += design.orientation == ReportOrientation::Landscape ? " landscape" : " portrait";
-    Write(line + " records " + std::to_string(pages.records) + " pages "
-          + std::to_string(pages.pages.size()));
+    Write(lines::Report(report, pages));
 }
 
 void HeadlessToolkit::UnhandledFailure(const Failure& failure)
 {
     failures_.push_back(failure);
-    Write("unhandled " + std::to_string(failure.Number()) + " " + Quoted(failure.Description()));
+    Write(lines::Unhandled(failure));
 }
 
 void HeadlessToolkit::FormShows(const toolkit::FormModel& form, ShowMode mode)
 {
-    Write("show " + form.Design().name + (mode == ShowMode::Modal ? " modal" : ""));
+    Write(lines::Shows(form, mode));
 }
 
-void HeadlessToolkit::FormHides(const toolkit::FormModel& form) { Write("hide " + form.Design().name); }
+void HeadlessToolkit::FormHides(const toolkit::FormModel& form) { Write(lines::Hides(form)); }
 
-void HeadlessToolkit::FormUnloads(const toolkit::FormModel& form) { Write("unload " + form.Design().name); }
+void HeadlessToolkit::FormUnloads(const toolkit::FormModel& form) { Write(lines::Unloads(form)); }
 
-void HeadlessToolkit::FormRepaints(const toolkit::FormModel& form) { Write("repaint " + form.Design().name); }
+void HeadlessToolkit::FormRepaints(const toolkit::FormModel& form) { Write(lines::Repaints(form)); }
 
-void HeadlessToolkit::CodeFocuses(const toolkit::WidgetCore& widget) { Write("focus " + widget.FullName()); }
+void HeadlessToolkit::CodeFocuses(const toolkit::WidgetCore& widget) { Write(lines::Focuses(widget)); }
 
 void HeadlessToolkit::FormPopsUp(const toolkit::FormModel&, const toolkit::MenuModel& parent, Twips x,
                                  Twips y)
 {
-    Write("popup " + parent.Design().name + " " + Number(x) + " " + Number(y));
+    Write(lines::PopsUp(parent, x, y));
 }
 
-void HeadlessToolkit::KeysAreSent(const Text& keys) { Write("keys " + Quoted(keys)); }
+void HeadlessToolkit::KeysAreSent(const Text& keys) { Write(lines::Keys(keys)); }
 
 } // namespace kova::headless

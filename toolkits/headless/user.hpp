@@ -2,6 +2,7 @@
 
 #include "toolkits/common/combo_box.hpp"
 #include "toolkits/common/grid.hpp"
+#include "toolkits/headless/keys.hpp"
 #include "toolkits/headless/toolkit.hpp"
 
 #include <functional>
@@ -33,6 +34,8 @@ public:
     std::string PressKey(std::string_view form, toolkit::FormKey key);
     /// Presses a key such as "F4" or "Ctrl+1".
     std::string PressShortcut(std::string_view form, std::string_view shortcut);
+    /// Presses a key where the keyboard is: in the active form, at the control that has the focus.
+    std::string Key(const KeyPress& key);
     std::string Focus(std::string_view form, std::string_view control, int index = -1);
     /// Picks a day in the calendar of a date box.
     std::string Pick(std::string_view form, std::string_view control, const Date& date, int index = -1);

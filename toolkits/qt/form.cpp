@@ -152,8 +152,10 @@ std::optional<toolkit::InnerSize> FormWindow::SetParent(Long containerHandle)
     widget_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     widget_->setGeometry(container->rect());
     widget_->followsModel = false;
-    return InnerSizeOf(*container);
+    return InnerOf(*container);
 }
+
+toolkit::InnerSize FormWindow::InnerOf(const QWidget& container) const { return InnerSizeOf(container); }
 
 void FormWindow::FitToContainer()
 {
@@ -162,7 +164,7 @@ void FormWindow::FitToContainer()
     widget_->followsModel = true;
     widget_->setGeometry(container_->rect());
     widget_->followsModel = false;
-    model_.UserResizes(InnerSizeOf(*container_));
+    model_.UserResizes(InnerOf(*container_));
 }
 
 void FormWindow::Update(toolkit::FormAspect aspect)

@@ -57,6 +57,10 @@ public:
     /// Null once the form was unloaded or its container destroyed.
     FormWidget* Window() const { return widget_; }
 
+protected:
+    /// What the form hears of its container's size.
+    virtual toolkit::InnerSize InnerOf(const QWidget& container) const;
+
 private:
     void ShowGeometry();
     void FollowArea();

@@ -70,6 +70,16 @@ QWidget* OwnWindow()
     return nullptr;
 }
 
+/// The window manager's part in a press: the window gets the keyboard.
+void Activate(const QWidget& widget)
+{
+    QWidget* window = widget.window();
+    if (window->isActiveWindow() || window->windowType() == Qt::Popup)
+        return;
+    window->activateWindow();
+    QCoreApplication::processEvents();
+}
+
 /// Lets a key go where the keyboard is by then: the window of the press may be gone.
 void LetGo(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
 {
@@ -156,6 +166,7 @@ std::string Hand::Press(const Spot& spot, Qt::MouseButton button)
     if (std::string reason = WhyNot(spot); !reason.empty())
         return reason;
     QTest::lastMouseTimestamp += QTest::mouseDoubleClickInterval;
+    Activate(*spot.widget);
     MoveAt(*WindowUnder(spot.widget), InWindow(spot));
     // What the mouse passes over may change what lies there.
     if (std::string reason = WhyNot(spot); !reason.empty())
@@ -180,6 +191,28 @@ std::string Hand::Click(const Spot& spot, Qt::MouseButton button)
     if (reason.empty())
         Release(button);
     return reason;
+}
+
+// A mouse that has come to the place above another window is there already: that window, out of sight, takes
+// the move that a press at a new place would tell the window of.
+std::string Hand::Tap(const Spot& spot)
+{
+    static auto* const elsewhere = [] {
+        auto* window = new QWindow;
+        window->setFlags(Qt::Tool | Qt::FramelessWindowHint);
+        window->create();
+        return window;
+    }();
+    if (std::string reason = WhyNot(spot); !reason.empty())
+        return reason;
+    Activate(*spot.widget);
+    QWindow& window = *WindowUnder(spot.widget);
+    const QPoint place = InWindow(spot);
+    const QPoint onScreen = window.mapToGlobal(place);
+    ++QTest::lastMouseTimestamp;
+    Send(*elsewhere, elsewhere->mapFromGlobal(onScreen), Qt::NoButton, QEvent::MouseMove);
+    ClickAt(window, place);
+    return {};
 }
 
 std::string Hand::DoubleClick(const Spot& spot)

@@ -29,6 +29,8 @@ public:
     /// Lets the button go where the mouse is.
     void Release(Qt::MouseButton button = Qt::LeftButton);
     std::string Click(const Spot& spot, Qt::MouseButton button = Qt::LeftButton);
+    /// As a finger taps: pressed and let go without a move over the place before.
+    std::string Tap(const Spot& spot);
     std::string DoubleClick(const Spot& spot);
     std::string Drag(const Spot& from, const Spot& to);
     /// Turns the wheel by that many notches; a part of one is a fine wheel's.

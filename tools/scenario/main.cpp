@@ -29,13 +29,14 @@ void PrintLine(const std::string& line) { std::printf("%s\n", line.c_str()); }
 
 int RunScript(const RunOptions& options, Script script)
 {
-    Runner runner(std::move(script), options, PrintLine);
+    Runner runner(std::move(script), options, MakeScreen(options.toolkit), PrintLine);
     const bool kept = runner.Run();
     if (options.printsCount)
         runner.PrintCount();
     std::fflush(stdout);
     if (!kept)
-        std::fprintf(stderr, "O módulo deixou escapar uma falha de um tratador de evento.\n");
+        std::fprintf(stderr,
+                     "O módulo deixou escapar uma falha de um tratador de evento, ou a tela reclamou.\n");
     return kept ? Done : ModuleBroken;
 }
 
@@ -49,6 +50,9 @@ int RunApart(const RunOptions& options, const Script& script)
     if (child == 0) {
         try {
             std::exit(RunScript(options, script));
+        } catch (const std::invalid_argument& error) {
+            std::fprintf(stderr, "%s\n", error.what());
+            std::exit(ScriptWrong);
         } catch (const std::exception& error) {
             std::fflush(stdout);
             std::fprintf(stderr, "%s\n", error.what());

@@ -36,6 +36,8 @@ RunOptions ParseOptions(const std::vector<std::string>& words)
         const std::string& word = words[at];
         if (word == "--database")
             options.database = ValueOf(words, at);
+        else if (word == "--toolkit")
+            options.toolkit = ValueOf(words, at);
         else if (word == "--widgets")
             options.printsWidgetWrites = true;
         else if (word == "--fail-at")
@@ -65,6 +67,7 @@ std::string HelpText()
            "Executa um roteiro contra o módulo real e imprime tudo o que atravessou as suas fronteiras.\n"
            "\n"
            "  --database FONTE      responde pelos componentes de referência sobre este banco\n"
+           "  --toolkit NOME        headless, sem tela (o usual), ou qt, com mouse e teclas na tela\n"
            "  --widgets             imprime também cada escrita em um controle\n"
            "  --fail-at K           falha injetada na K-ésima chamada de negócio\n"
            "  --fail-widgets-at K   falha injetada no K-ésimo acesso a um controle\n"

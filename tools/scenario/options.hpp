@@ -11,6 +11,8 @@ struct RunOptions {
     std::string file;
     /// Answers of the reference components on this data source; "" answers from the script.
     std::string database;
+    /// The screen that the script plays on.
+    std::string toolkit = "headless";
     bool printsWidgetWrites = false;
     int failAt = 0;
     int failWidgetsAt = 0;

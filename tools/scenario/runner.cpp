@@ -23,24 +23,23 @@ constexpr int ScriptIsWrong = 2;
 
 } // namespace
 
-Runner::Runner(Script script, const RunOptions& options, std::function<void(const std::string&)> line)
+Runner::Runner(Script script, const RunOptions& options, std::unique_ptr<Screen> screen,
+               std::function<void(const std::string&)> line)
     : script_(std::move(script)),
       waiting_(script_.statements.begin(), script_.statements.end()),
       line_(line),
       wrong_(EndOver),
-      session_(options, line),
-      user_(session_.toolkit)
+      session_(options, std::move(screen), line)
 {
-    session_.toolkit.SetDriver(this);
+    session_.screen->SetPlayer(*this);
 }
 
 Runner::~Runner() = default;
 
 bool Runner::Run()
 {
-    while (Next())
-        Execute(Take());
-    return session_.toolkit.UnhandledFailures().empty();
+    session_.screen->Play();
+    return !session_.screen->HasFailed();
 }
 
 void Runner::PrintCount() const
@@ -80,17 +79,23 @@ void Runner::RefuseIf(const std::string& reason)
         line_("refused: " + reason);
 }
 
-void Runner::RunModal(toolkit::FormModel& form)
+bool Runner::Step()
 {
-    while (form.Current().visible && Next())
-        Execute(Take());
-    if (form.Current().visible) {
-        line_("end inside " + form.Design().name);
-        form.UserCloses();
-    }
+    if (!Next())
+        return false;
+    Execute(Take());
+    return true;
 }
 
-Reply Runner::Answer(MessageKind kind, const Text&, const Text&)
+bool Runner::StepInside(toolkit::FormModel& form)
+{
+    if (Step())
+        return true;
+    line_("end inside " + form.Design().name);
+    return false;
+}
+
+Reply Runner::Answer(MessageKind kind)
 {
     const Reply own = kind == MessageKind::Question ? Reply::No : Reply::Ok;
     if (!Next() || Next()->verb != "reply")
@@ -113,7 +118,7 @@ Reply Runner::ReplyOf(const Statement& statement, MessageKind kind) const
     return word == "yes" ? Reply::Yes : word == "no" ? Reply::No : Reply::Ok;
 }
 
-toolkit::MenuModel* Runner::ChooseMenu(toolkit::MenuModel&, const std::vector<toolkit::MenuModel*>& entries)
+toolkit::MenuModel* Runner::ChooseMenu(const std::vector<toolkit::MenuModel*>& entries)
 {
     if (!Next() || Next()->verb != "menu")
         return nullptr;
@@ -145,17 +150,21 @@ toolkit::MenuModel* Runner::EntryOf(const Statement& statement,
     return *found;
 }
 
-void Runner::RunPreview(const toolkit::ReportModel& report, const reports::Document& pages)
+void Runner::PreviewOpens(const toolkit::ReportModel& report, const reports::Document& pages)
 {
     preview_ = {report.Current().name, &pages};
-    while (preview_ && Next())
-        Execute(Take());
-    if (preview_)
-        line_("end inside " + preview_->report);
-    preview_.reset();
 }
 
-void Runner::DuringPause(Double)
+bool Runner::StepInPreview()
+{
+    if (preview_ && !Step()) {
+        line_("end inside " + preview_->report);
+        preview_.reset();
+    }
+    return preview_.has_value();
+}
+
+void Runner::DuringPause()
 {
     while (!duringPause_.empty()) {
         const Statement statement = std::move(duringPause_.front());

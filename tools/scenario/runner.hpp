@@ -1,27 +1,27 @@
 #pragma once
 
-#include "toolkits/headless/driver.hpp"
-#include "toolkits/headless/user.hpp"
 #include "tools/scenario/script.hpp"
 #include "tools/scenario/session.hpp"
 #include "tools/scenario/shown_members.hpp"
 
 #include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
 namespace kova::scenario {
 
 /// Runs one script: takes a statement after the other, in whichever loop the module is running.
-class Runner : public headless::Driver {
+class Runner : public Player {
 public:
     /// Hears of a wrong statement, in whichever loop the module runs; nothing may be thrown from here. The
     /// statement is then left out.
     using WrongStatement = std::function<void(const ScriptError&)>;
 
     /// `line` takes the transcript. Throws host::ComponentError where the module cannot be loaded.
-    Runner(Script script, const RunOptions& options, std::function<void(const std::string&)> line);
+    Runner(Script script, const RunOptions& options, std::unique_ptr<Screen> screen,
+           std::function<void(const std::string&)> line);
     ~Runner() override;
     /// Without one, a wrong statement ends the process with status 2, since it may come in the middle of
     /// the module.
@@ -29,19 +29,21 @@ public:
     Runner(const Runner&) = delete;
     Runner& operator=(const Runner&) = delete;
 
-    /// Runs the script to its end. False where the module broke a rule: a failure came out of a handler.
+    /// Runs the script to its end. False where the module broke a rule: a failure came out of a handler, or
+    /// the screen complained of something.
     bool Run();
     /// Prints how many crossings of each kind the script has made.
     void PrintCount() const;
     int BusinessCrossings() const { return session_.crossings->count; }
     int WidgetCrossings() const { return session_.border.count; }
 
-    void RunModal(toolkit::FormModel& form) override;
-    Reply Answer(MessageKind kind, const Text& text, const Text& title) override;
-    toolkit::MenuModel* ChooseMenu(toolkit::MenuModel& parent,
-                                   const std::vector<toolkit::MenuModel*>& entries) override;
-    void RunPreview(const toolkit::ReportModel& report, const reports::Document& pages) override;
-    void DuringPause(Double seconds) override;
+    bool Step() override;
+    bool StepInside(toolkit::FormModel& form) override;
+    Reply Answer(MessageKind kind) override;
+    toolkit::MenuModel* ChooseMenu(const std::vector<toolkit::MenuModel*>& entries) override;
+    void PreviewOpens(const toolkit::ReportModel& report, const reports::Document& pages) override;
+    bool StepInPreview() override;
+    void DuringPause() override;
 
 private:
     using Act = void (Runner::*)(const Statement&);
@@ -82,6 +84,8 @@ private:
     void Press(const Statement&);
     void Focus(const Statement&);
     void Hover(const Statement&);
+    void Rest(const Statement&);
+    void Key(const Statement&);
     void Select(const Statement&);
     void Bar(const Statement&);
     void Resize(const Statement&);
@@ -95,7 +99,8 @@ private:
     void Show(const Statement&);
     void Note(const Statement&);
     /// The control that a statement names.
-    Place ControlOf(const Statement&) const;
+    ControlName ControlOf(const Statement&) const;
+    Person& User() { return session_.screen->Person(); }
 
     /// The preview that the user looks at.
     struct OpenPreview {
@@ -110,7 +115,6 @@ private:
     std::function<void(const std::string&)> line_;
     WrongStatement wrong_;
     Session session_;
-    headless::User user_;
 };
 
 } // namespace kova::scenario

@@ -60,6 +60,8 @@ const Runner::Verb* Runner::Find(const std::string& verb)
         {"press", {&Runner::Press, When::After}},
         {"focus", {&Runner::Focus, When::After}},
         {"hover", {&Runner::Hover, When::After}},
+        {"rest", {&Runner::Rest, When::After}},
+        {"key", {&Runner::Key, When::After}},
         {"select", {&Runner::Select, When::After}},
         {"bar", {&Runner::Bar, When::After}},
         {"menu", {&Runner::MenuOutsideMenu, When::After}},
@@ -83,13 +85,13 @@ void Runner::SetClock(const Statement& statement)
                 &moment.date.day, &moment.time.hour, &moment.time.minute, &moment.time.second, &end);
     if (end != static_cast<int>(text.size()) || !IsDateAndTime(moment))
         throw ScriptError(statement.line, "'" + text + "' não é AAAA-MM-DD hh:mm:ss");
-    session_.toolkit.Clock().Set(moment);
+    session_.screen->Clock().Set(moment);
 }
 
 void Runner::SetScreen(const Statement& statement)
 {
     statement.ExpectAtMost(1);
-    session_.toolkit.ScreenWidthInPixels(static_cast<int>(statement.Number(0)));
+    session_.screen->WidthInPixels(static_cast<int>(statement.Number(0)));
 }
 
 void Runner::SetContainer(const Statement& statement)
@@ -184,81 +186,95 @@ void Runner::Open(const Statement& statement)
     session_.Open();
 }
 
-Place Runner::ControlOf(const Statement& statement) const
+ControlName Runner::ControlOf(const Statement& statement) const
 {
     Place place = ParsePlace(statement.Word(0), statement.line);
     if (place.control.empty() || !place.member.empty())
         throw ScriptError(statement.line, "'" + statement.Word(0) + "' não é FORMULÁRIO.CONTROLE");
-    return place;
+    return {place.form, place.control, place.controlIndex};
 }
 
 void Runner::Click(const Statement& statement)
 {
     statement.ExpectAtMost(1);
-    const Place at = ControlOf(statement);
-    RefuseIf(user_.Click(at.form, at.control, at.controlIndex));
+    RefuseIf(User().Click(ControlOf(statement)));
 }
 
 void Runner::Choose(const Statement& statement)
 {
     statement.ExpectAtMost(2);
-    const Place at = ControlOf(statement);
+    const ControlName at = ControlOf(statement);
     if (statement.IsQuoted(1))
-        RefuseIf(user_.Choose(at.form, at.control, statement.QuotedText(1), at.controlIndex));
+        RefuseIf(User().Choose(at, statement.QuotedText(1)));
     else
-        RefuseIf(user_.Choose(at.form, at.control, static_cast<int>(statement.Number(1)), at.controlIndex));
+        RefuseIf(User().Choose(at, static_cast<int>(statement.Number(1))));
 }
 
 void Runner::Type(const Statement& statement)
 {
     statement.ExpectAtMost(2);
-    const Place at = ControlOf(statement);
-    RefuseIf(user_.Type(at.form, at.control, statement.QuotedText(1), at.controlIndex));
+    const ControlName at = ControlOf(statement);
+    RefuseIf(User().Type(at, statement.QuotedText(1)));
 }
 
 void Runner::Press(const Statement& statement)
 {
     statement.ExpectAtMost(1);
-    const Place at = ControlOf(statement);
-    RefuseIf(user_.Press(at.form, at.control, at.controlIndex));
+    RefuseIf(User().Press(ControlOf(statement)));
 }
 
 void Runner::Focus(const Statement& statement)
 {
     statement.ExpectAtMost(1);
-    const Place at = ControlOf(statement);
-    RefuseIf(user_.Focus(at.form, at.control, at.controlIndex));
+    RefuseIf(User().Focus(ControlOf(statement)));
 }
 
 void Runner::Hover(const Statement& statement)
 {
     statement.ExpectAtMost(3);
-    const Place at = ControlOf(statement);
+    const ControlName at = ControlOf(statement);
     if (statement.Has(2))
-        RefuseIf(user_.HoverAt(at.form, at.control, static_cast<Twips>(statement.Decimal(1)),
-                               static_cast<Twips>(statement.Decimal(2))));
+        RefuseIf(User().HoverAt(at, static_cast<Twips>(statement.Decimal(1)),
+                                static_cast<Twips>(statement.Decimal(2))));
     else
-        RefuseIf(user_.Hover(at.form, at.control, static_cast<Long>(statement.Number(1))));
+        RefuseIf(User().Hover(at, static_cast<Long>(statement.Number(1))));
+}
+
+void Runner::Rest(const Statement& statement)
+{
+    statement.ExpectAtMost(2);
+    const ControlName at = ControlOf(statement);
+    RefuseIf(User().Rest(at, static_cast<Long>(statement.Number(1))));
+}
+
+void Runner::Key(const Statement& statement)
+{
+    statement.ExpectAtMost(1);
+    const std::string& name = statement.IsQuoted(0) ? statement.QuotedText(0) : statement.Word(0);
+    const auto key = headless::ReadKey(name);
+    if (!key)
+        throw ScriptError(statement.line, "'" + name + "' não é uma tecla");
+    RefuseIf(User().Key(*key));
 }
 
 void Runner::Select(const Statement& statement)
 {
     statement.ExpectAtMost(2);
-    const Place at = ControlOf(statement);
-    RefuseIf(user_.Select(at.form, at.control, static_cast<Long>(statement.Number(1))));
+    const ControlName at = ControlOf(statement);
+    RefuseIf(User().Select(at, static_cast<Long>(statement.Number(1))));
 }
 
 void Runner::Bar(const Statement& statement)
 {
     statement.ExpectAtMost(2);
-    const Place at = ControlOf(statement);
-    RefuseIf(user_.Bar(at.form, at.control, static_cast<int>(statement.Number(1))));
+    const ControlName at = ControlOf(statement);
+    RefuseIf(User().Bar(at, static_cast<int>(statement.Number(1))));
 }
 
 void Runner::Resize(const Statement& statement)
 {
     statement.ExpectAtMost(2);
-    session_.toolkit.ResizeContainer(session_.Container(), static_cast<Twips>(statement.Decimal(0)),
+    session_.screen->ResizeContainer(static_cast<Twips>(statement.Decimal(0)),
                                      static_cast<Twips>(statement.Decimal(1)));
 }
 
@@ -269,13 +285,13 @@ void Runner::Close(const Statement& statement)
     if (!statement.Has(0))
         return RefuseIf("no report preview is open");
     statement.ExpectAtMost(1);
-    RefuseIf(user_.CloseForm(statement.Word(0)));
+    RefuseIf(User().CloseForm(statement.Word(0)));
 }
 
 void Runner::Advance(const Statement& statement)
 {
     statement.ExpectAtMost(1);
-    session_.toolkit.Clock().Advance(statement.Decimal(0));
+    session_.screen->Clock().Advance(statement.Decimal(0));
 }
 
 void Runner::QueueDuringPause(const Statement& statement) { duringPause_.push_back(statement.Behind()); }
@@ -305,9 +321,9 @@ void Runner::Show(const Statement& statement)
 {
     statement.ExpectAtMost(2);
     const Place place = ParsePlace(statement.Word(0), statement.line);
-    const auto lines = statement.Has(1)
-        ? ShowGridRow(session_.toolkit, place, static_cast<Long>(statement.Number(1)), statement.line)
-        : ShowPlace(session_.toolkit, place, statement.line);
+    const auto lines = statement.Has(1) ? ShowGridRow(session_.screen->Toolkit(), place,
+                                                      static_cast<Long>(statement.Number(1)), statement.line)
+                                        : ShowPlace(session_.screen->Toolkit(), place, statement.line);
     for (const std::string& line : lines)
         line_(line);
 }

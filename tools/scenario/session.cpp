@@ -60,8 +60,10 @@ ComponentRef Session::Family::CreateObject(std::string_view className)
     return source.CreateObject(className);
 }
 
-Session::Session(const RunOptions& options, std::function<void(const std::string&)> line)
-    : usesDatabase_(!options.database.empty()),
+Session::Session(const RunOptions& options, std::unique_ptr<Screen> played,
+                 std::function<void(const std::string&)> line)
+    : screen(std::move(played)),
+      usesDatabase_(!options.database.empty()),
       registry_(folder_.Path() + "/componentes.reg"),
       server_(registry_, *this, options.database),
       registered_(registry_, server_.Libraries()),
@@ -74,8 +76,8 @@ Session::Session(const RunOptions& options, std::function<void(const std::string
     border.failAt = options.failWidgetsAt;
     border.printsWrites = options.printsWidgetWrites;
     profile.line = line;
-    toolkit.OnLine(line);
-    toolkit.Observer(&border);
+    screen->OnLine(line);
+    screen->Toolkit().Observer(&border);
     server_.RegisterLibrary(LibraryPath("libKOVA_A_Agenda.so"));
     if (usesDatabase_)
         server_.RegisterLibrary(LibraryPath("libKOVA_N_Familia.so"));
@@ -90,7 +92,8 @@ Session::~Session()
     border.line = silent;
     border.failAt = 0;
     profile.line = silent;
-    toolkit.OnLine(silent);
+    screen->OnLine(silent);
+    toolkit::ToolkitModel& toolkit = screen->Toolkit();
     toolkit.Observer(nullptr);
     agenda_.reset();
     while (auto* form = toolkit.ActiveForm()) {
@@ -101,17 +104,18 @@ Session::~Session()
     for (auto* form = toolkit.FindForm("frmLista"); form && !form->Current().unloaded;
          form = toolkit.FindForm("frmLista"))
         form->Unload();
+    screen->ReleaseForms();
 }
 
 void Session::Open()
 {
-    container_ = toolkit.CreateContainer(containerWidth, containerHeight);
+    const Long container = screen->CreateContainer(containerWidth, containerHeight);
     agenda_ = registered_.CreateObject(ModuleClass);
     if (hasUser)
         agenda_->Set("DadosDoUsuario", std::make_shared<DeskUser>());
     if (hasApplication)
         agenda_->Set("NomeDaAplicacao", application);
-    agenda_->Call("AbrirLista", {MainWindowHandle, container_});
+    agenda_->Call("AbrirLista", {MainWindowHandle, container});
 }
 
 } // namespace kova::scenario

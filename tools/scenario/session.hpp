@@ -3,11 +3,11 @@
 #include "host/components/component_service.hpp"
 #include "host/components/registry.hpp"
 #include "host/components/server_host.hpp"
-#include "toolkits/headless/toolkit.hpp"
 #include "tools/scenario/border_observer.hpp"
 #include "tools/scenario/memory_profile.hpp"
 #include "tools/scenario/observed_components.hpp"
 #include "tools/scenario/options.hpp"
+#include "tools/scenario/screen.hpp"
 #include "tools/scenario/scripted_components.hpp"
 
 #include <memory>
@@ -29,13 +29,14 @@ private:
     std::string path_;
 };
 
-/// A shell in small: the module's real library on the headless toolkit, the family's components from the
-/// script, or the business ones from the reference library on a database. All that crosses the module's
+/// A shell in small: the module's real library on a screen, the family's components from the script, or the
+/// business ones from the reference library on a database. All that crosses the module's
 /// borders becomes a line.
 class Session : public Platform {
 public:
     /// Throws host::ComponentError where a library cannot be loaded.
-    Session(const RunOptions& options, std::function<void(const std::string&)> line);
+    Session(const RunOptions& options, std::unique_ptr<Screen> screen,
+            std::function<void(const std::string&)> line);
     ~Session() override;
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -45,13 +46,13 @@ public:
     bool IsOpen() const { return agenda_ != nullptr; }
 
     ComponentService& Components() override { return observed_; }
-    kova::Toolkit& Toolkit() override { return toolkit; }
-    kova::Clock& Clock() override { return toolkit.Clock(); }
+    kova::Toolkit& Toolkit() override { return screen->Toolkit(); }
+    kova::Clock& Clock() override { return screen->Clock(); }
     kova::Profile& Profile() override { return profile; }
     Text SettingsFolder() const override { return folder_.Path(); }
     Text SettingsTitle() const override { return "KOVA_A_Agenda"; }
 
-    headless::HeadlessToolkit toolkit;
+    std::unique_ptr<Screen> screen;
     MemoryProfile profile;
     ScriptedComponents script;
     std::shared_ptr<CrossingLog> crossings = std::make_shared<CrossingLog>();
@@ -63,7 +64,6 @@ public:
     bool hasUser = false;
     Twips containerWidth = 28800;
     Twips containerHeight = 16200;
-    Long Container() const { return container_; }
 
 private:
     /// Business components from the database's library where there is one, all else, and what the desk's
@@ -85,7 +85,6 @@ private:
     Family family_;
     ObservedComponents observed_;
     ComponentRef agenda_;
-    Long container_ = 0;
 };
 
 } // namespace kova::scenario

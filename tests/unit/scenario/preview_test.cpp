@@ -1,3 +1,4 @@
+#include "toolkits/headless/toolkit.hpp"
 #include "tools/scenario/runner.hpp"
 
 #include <gtest/gtest.h>
@@ -26,15 +27,17 @@ std::vector<std::string> InsidePreview(const std::string& statements)
     Runner* runner = nullptr;
     bool isOpen = false;
     bool wasOpen = false;
-    Runner running(ParseScript("open\n" + statements), {}, [&](const std::string& line) {
-        if (isOpen)
-            lines.push_back(line);
-        if (std::exchange(wasOpen, true))
-            return;
-        isOpen = true;
-        runner->RunPreview(report, pages);
-        isOpen = false;
-    });
+    Runner running(ParseScript("open\n" + statements), {}, MakeHeadlessScreen(),
+                   [&](const std::string& line) {
+                       if (isOpen)
+                           lines.push_back(line);
+                       if (std::exchange(wasOpen, true))
+                           return;
+                       isOpen = true;
+                       runner->PreviewOpens(report, pages);
+                       while (runner->StepInPreview()) { }
+                       isOpen = false;
+                   });
     runner = &running;
     running.Run();
     return lines;

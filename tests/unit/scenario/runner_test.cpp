@@ -1,62 +1,14 @@
 // agenda-scenario as a program: what it prints, and the status it ends with.
 
-#include <gtest/gtest.h>
+#include "tests/unit/scenario/runner_process.hpp"
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include <utility>
 
-#include <array>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
+namespace kova::scenario {
 
 namespace {
 
-struct Result {
-    int status = 0;
-    /// Standard output and standard error, as they came.
-    std::string text;
-};
-
-class TheRunner : public testing::Test {
-protected:
-    TheRunner()
-    {
-        std::string pattern = (std::filesystem::temp_directory_path() / "roteiro-XXXXXX").string();
-        folder_ = mkdtemp(pattern.data());
-    }
-    ~TheRunner() override { std::filesystem::remove_all(folder_); }
-
-    Result Run(const std::string& script, const std::string& options = {})
-    {
-        const std::string file = folder_ + "/teste.scenario";
-        std::ofstream(file) << script;
-        return Call(options + " " + file);
-    }
-
-    static Result Call(const std::string& words)
-    {
-        Result result;
-        FILE* pipe = popen((std::string(RUNNER) + " " + words + " 2>&1").c_str(), "r");
-        std::array<char, 4096> part{};
-        while (const std::size_t read = std::fread(part.data(), 1, part.size(), pipe))
-            result.text.append(part.data(), read);
-        const int status = pclose(pipe);
-        result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        return result;
-    }
-
-    const std::string shop =
-        "records tipos Nome Numero\n\"Consulta\", 1\nend\n"
-        "records gente Apelido Codigo\n\"Ana\", 7\nend\n"
-        "always KOVA_N_TipoDeServ.clsTiposDeServ.SelecionarParaComboBox 0 records tipos\n"
-        "always KOVA_N_Funcionarios.clsFuncionarios.SelecionarParaComboBox 0 records gente\n";
-
-private:
-    std::string folder_;
-};
+using TheRunner = RunnerTest;
 
 TEST_F(TheRunner, EndsWithZeroAtTheScriptsEnd)
 {
@@ -159,3 +111,5 @@ TEST_F(TheRunner, AnswersAWholeNumberAsAStatusAndMembersAsTheyAre)
 }
 
 } // namespace
+
+} // namespace kova::scenario
