@@ -1,5 +1,6 @@
 #include "host/messages.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "host/display.hpp"
 
 #include <QApplication>
@@ -14,7 +15,8 @@ void TellFailure(const std::string& text)
     std::cerr << "Kovaris: " << text << std::endl;
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr || !HasDisplay())
         return;
-    QMessageBox box(QMessageBox::Critical, QStringLiteral("Kovaris"), QString::fromStdString(text));
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Kovaris"),
+                    QString::fromStdString(WithoutDetail(text)));
     box.addButton(QStringLiteral("&Fechar"), QMessageBox::AcceptRole);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.exec();

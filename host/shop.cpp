@@ -1,5 +1,7 @@
 #include "host/shop.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
+
 #include <stdexcept>
 
 namespace kova::host {
@@ -14,9 +16,10 @@ void MakeFolder(const fs::path& folder)
     fs::create_directories(folder, error);
     if (error)
         throw std::runtime_error(
-            "A pasta \"" + folder.string() + "\" não pôde ser criada (" + error.message()
-            + "). Verifique as permissões, ou informe com --database um banco de dados de "
-              "outra pasta.");
+            WithDetail("A pasta \"" + folder.string()
+                           + "\" não pôde ser criada. Verifique as permissões, ou informe com --database um "
+                             "banco de dados de outra pasta.",
+                       error.message()));
 }
 
 /// Calls a method of the data component, which answers 0 or leaves its reason.

@@ -1,5 +1,6 @@
 #include "agenda/shared/trap.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 
 #include <new>
@@ -25,7 +26,8 @@ Failure Current()
     } catch (const std::bad_alloc&) {
         return Failure(FailureNumber::OutOfMemory);
     } catch (const std::exception& error) {
-        return Failure(FailureNumber::InvalidArgument, error.what());
+        const Failure failure(FailureNumber::InvalidArgument);
+        return Failure(failure.Number(), WithDetail(failure.Description(), error.what()));
     }
 }
 

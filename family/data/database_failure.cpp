@@ -1,5 +1,7 @@
 #include "family/data/database_failure.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
+
 #include <soci/postgresql/soci-postgresql.h>
 #include <soci/soci.h>
 
@@ -32,6 +34,9 @@ struct ServerState {
 
 constexpr std::string_view Lost =
     "A conexão com o servidor foi perdida. Verifique a rede e se o servidor está ligado, e tente novamente.";
+
+/// Of what the engine reports and nobody has foreseen.
+constexpr std::string_view Refused = "O banco de dados recusou o pedido. Tente novamente.";
 
 /// In the place of a state where the client library reports what no server has told.
 constexpr std::string_view NoState = "     ";
@@ -90,9 +95,9 @@ StoreFailure ServerFailure(const std::string& path, std::string_view state, cons
 {
     for (const ServerState& known : ServerStates) {
         if (state.starts_with(known.state))
-            return {Opening(path).append(known.cause) + " (" + reported + ")", known.fault};
+            return {WithDetail(Opening(path).append(known.cause), reported), known.fault};
     }
-    return DatabaseFailure(Opening(path) + reported);
+    return DatabaseFailure(WithDetail(Opening(path).append(Refused), reported));
 }
 
 StoreFailure LostConnection(const std::string& path)
@@ -107,9 +112,9 @@ StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error
         return ServerFailure(path, reported->sqlstate(), message);
     for (const Translation& translation : Translations) {
         if (message.find(translation.reported) != std::string::npos)
-            return DatabaseFailure(Opening(path).append(translation.cause) + " (" + message + ")");
+            return DatabaseFailure(WithDetail(Opening(path).append(translation.cause), message));
     }
-    return DatabaseFailure(Opening(path) + message);
+    return DatabaseFailure(WithDetail(Opening(path).append(Refused), message));
 }
 
 } // namespace kova::family

@@ -43,7 +43,7 @@ StoreFailure DatabaseFailure(std::string text);
 /// What the database library reports, told from the state that the server gave it, or from its message.
 StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause);
 
-/// What a server reports under a state of five characters (SQLSTATE); `reported` is added for those who help.
+/// What a server reports under a state of five characters (SQLSTATE); `reported` is its detail.
 StoreFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported);
 
 /// A connection that was lost before and could not be made again.

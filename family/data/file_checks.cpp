@@ -1,5 +1,7 @@
 #include "family/data/file_checks.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -97,8 +99,9 @@ template <class Check> std::optional<std::string> Guarded(const std::string& pat
     try {
         return check(path);
     } catch (const fs::filesystem_error& cause) {
-        return "O caminho \"" + path + "\" não pode ser lido: " + cause.code().message()
-            + ". Verifique o caminho e as permissões.";
+        return WithDetail("O caminho \"" + path
+                              + "\" não pode ser lido. Verifique o caminho e as permissões.",
+                          cause.code().message());
     }
 }
 

@@ -1,5 +1,7 @@
 #include "family/data/server_connection.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
+
 #include <libpq-fe.h>
 
 #include <netdb.h>
@@ -145,10 +147,11 @@ StoreFailure RefusalOfServer(const std::string& address, const std::string& conn
                                 + "\" não foi encontrado pelo nome. Verifique o endereço e a rede.",
                             Fault::ConnectionLost);
     if (reported.find("SSL") != std::string::npos || reported.find("certific") != std::string::npos)
-        return DatabaseFailure(Opening(address)
-                               + "A conexão protegida (TLS) com o servidor não foi possível. Verifique o "
-                                 "certificado e sslmode. ("
-                               + cause.what() + ")");
+        return DatabaseFailure(
+            WithDetail(Opening(address)
+                           + "A conexão protegida (TLS) com o servidor não foi possível. Verifique o "
+                             "certificado e sslmode.",
+                       cause.what()));
     return ServerFailure(address, "08001", cause.what());
 }
 

@@ -1,5 +1,6 @@
 #include "family/data/trial_restore.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "family/data/data_source.hpp"
 #include "family/data/file_checks.hpp"
 #include "family/data/online_copy.hpp"
@@ -24,10 +25,12 @@ void ForgetContent(const std::string& path)
     close(file);
 }
 
-[[noreturn]] void FailTrial(const std::string& path, const std::string& reason)
+[[noreturn]] void FailTrial(const std::string& path, const std::string& reason,
+                            const std::string& detail = {})
 {
-    throw DatabaseFailure("A cópia \"" + path + "\" não passou na prova de restauração: " + reason
-                          + " Verifique o disco e faça outra cópia.");
+    throw DatabaseFailure(WithDetail("A cópia \"" + path + "\" não passou na prova de restauração: " + reason
+                                         + " Verifique o disco e faça outra cópia.",
+                                     detail));
 }
 
 void RequireSound(Database& copy)
@@ -35,7 +38,7 @@ void RequireSound(Database& copy)
     std::string verdict;
     copy.Session() << "pragma integrity_check(1)", soci::into(verdict);
     if (verdict != "ok")
-        FailTrial(copy.Path(), "o arquivo está danificado (" + verdict + ").");
+        FailTrial(copy.Path(), "o arquivo está danificado.", verdict);
     long long orphans = 0;
     copy.Session() << "select count(*) from pragma_foreign_key_check", soci::into(orphans);
     if (orphans > 0)

@@ -1,5 +1,6 @@
 #include "family/data/unfinished_file.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "family/data/file_checks.hpp"
 
 #include <fcntl.h>
@@ -97,8 +98,8 @@ StoreFailure UnwritableFile(const std::string& path, int cause)
     if (cause == EEXIST)
         return DatabaseFailure("O arquivo \"" + path
                                + "\" já existe. Escolha outro nome ou apague o arquivo.");
-    return DatabaseFailure("O arquivo \"" + path + "\" não pode ser gravado. " + AdviceFor(cause) + " ("
-                           + std::generic_category().message(cause) + ")");
+    return DatabaseFailure(WithDetail("O arquivo \"" + path + "\" não pode ser gravado. " + AdviceFor(cause),
+                                      std::generic_category().message(cause)));
 }
 
 std::string UnfinishedName(const std::string& path) { return path + ".parcial"; }

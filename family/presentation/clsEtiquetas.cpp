@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/text.hpp"
 #include "family/presentation/clsMensagem.hpp"
+#include "family/presentation/window_in_front.hpp"
 
 #include <QApplication>
 
@@ -130,7 +131,7 @@ void clsEtiquetas::ShowWindow(PostalAddress address)
     const Text file = SettingsFile();
     const LabelChoice before{profile.Read(Section, SheetKey, "", SettingLength, file),
                              profile.Read(Section, NicknameKey, "", SettingLength, file) == "1"};
-    LabelWindow window(std::move(address), before, *desk_, QApplication::activeWindow());
+    LabelWindow window(std::move(address), before, *desk_, WindowInFront());
     window.exec();
     // A folder that cannot be written only keeps the choice from being remembered.
     if (const LabelChoice now = window.Choice(); now != before) {

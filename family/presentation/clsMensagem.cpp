@@ -1,6 +1,7 @@
 #include "family/presentation/clsMensagem.hpp"
 
 #include "family/presentation/error_window.hpp"
+#include "family/presentation/window_in_front.hpp"
 
 #include <QApplication>
 
@@ -31,7 +32,7 @@ void Show(const ErrorReport& report)
         std::cerr << AsText(report) << std::flush;
         return;
     }
-    ErrorWindow window(report, QApplication::activeWindow());
+    ErrorWindow window(report, WindowInFront());
     window.exec();
 }
 

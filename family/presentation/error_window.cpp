@@ -1,13 +1,17 @@
 #include "family/presentation/error_window.hpp"
 
+#include "family/presentation/failure_words.hpp"
+
 #include <QClipboard>
 #include <QFontInfo>
+#include <QFrame>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
@@ -18,90 +22,154 @@ namespace kova::family {
 namespace {
 
 constexpr int WindowWidth = 560;
-constexpr int LongestFieldInLines = 9;
+constexpr int MarkSize = 40;
+/// What the texts beside the mark and beside the titles of the values have.
+constexpr int WordsWidth = WindowWidth - 48 - MarkSize - 16;
+constexpr int ValuesWidth = WindowWidth - 48 - 80;
+constexpr int MostLinesOfWords = 8;
+constexpr int MostLinesOfAValue = 3;
 
 QString ToQString(const Text& text) { return QString::fromStdString(text); }
 
-/// Lines that the text takes in a field as wide as the window, at least one.
-int LinesOf(const QPlainTextEdit& field)
+/// As the product's boxes have it.
+QPixmap MakeMark(double scale)
 {
-    const QRect area(0, 0, WindowWidth - 80, 10000);
-    const QRect needed =
-        field.fontMetrics().boundingRect(area, Qt::TextWrapAnywhere | Qt::AlignLeft, field.toPlainText());
-    return std::clamp(needed.height() / field.fontMetrics().lineSpacing(), 1, LongestFieldInLines);
+    QPixmap mark(QSize(MarkSize, MarkSize) * scale);
+    mark.setDevicePixelRatio(scale);
+    mark.fill(Qt::transparent);
+    QPainter painter(&mark);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(204, 48, 48));
+    painter.drawEllipse(QRectF(1, 1, MarkSize - 2, MarkSize - 2));
+    painter.setPen(QPen(Qt::white, 3, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(14, 14), QPointF(MarkSize - 14, MarkSize - 14));
+    painter.drawLine(QPointF(MarkSize - 14, 14), QPointF(14, MarkSize - 14));
+    return mark;
 }
 
-int HeightOf(const QPlainTextEdit& field)
+QFont Scaled(QFont font, double factor, bool bold = false)
 {
-    const int frame = 2 * field.frameWidth() + 2 * static_cast<int>(field.document()->documentMargin());
-    return LinesOf(field) * field.fontMetrics().lineSpacing() + frame + 4;
+    font.setPixelSize(static_cast<int>(QFontInfo(font).pixelSize() * factor + 0.5));
+    font.setBold(bold);
+    return font;
+}
+
+/// Lines that a text takes in that width, at least one.
+int LinesOf(const QPlainTextEdit& field, int width)
+{
+    const QRect area(0, 0, width - 2 * static_cast<int>(field.document()->documentMargin()), 10000);
+    const QRect needed =
+        field.fontMetrics().boundingRect(area, Qt::TextWrapAnywhere | Qt::AlignLeft, field.toPlainText());
+    return std::max(
+        1, (needed.height() + field.fontMetrics().lineSpacing() - 1) / field.fontMetrics().lineSpacing());
+}
+
+QLabel* Muted(QLabel* label)
+{
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::WindowText, colours.color(QPalette::PlaceholderText));
+    label->setPalette(colours);
+    return label;
 }
 
 } // namespace
 
 ErrorWindow::ErrorWindow(const ErrorReport& report, QWidget* parent) : QDialog(parent), report_(report)
 {
+    setObjectName(QStringLiteral("falha"));
     setWindowTitle(ToQString(report.application));
     setWindowModality(Qt::ApplicationModal);
     setMinimumWidth(WindowWidth);
-    PaintWhite();
+    setBackgroundRole(QPalette::Base);
 
+    auto* rule = new QFrame(this);
+    rule->setFrameStyle(QFrame::HLine | QFrame::Plain);
+    rule->setForegroundRole(QPalette::Midlight);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 20, 24, 20);
-    layout->setSpacing(6);
+    layout->setSpacing(12);
     layout->addLayout(MakeHeading());
-    layout->addSpacing(8);
-    AddField(*layout, tr("&Número"), report.number, QStringLiteral("number"));
-    AddField(*layout, tr("&Descrição"), report.description, QStringLiteral("description"));
-    AddField(*layout, tr("&Local"), report.place, QStringLiteral("place"));
-    layout->addSpacing(10);
+    layout->addWidget(rule);
+    layout->addLayout(MakeValues());
     layout->addLayout(MakeButtons());
-}
-
-void ErrorWindow::PaintWhite()
-{
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, Qt::white);
-    setPalette(colours);
 }
 
 QLayout* ErrorWindow::MakeHeading()
 {
-    auto* icon = new QLabel(this);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxCritical).pixmap(40, 40));
-    icon->setAccessibleName(tr("Erro"));
+    auto* mark = new QLabel(this);
+    mark->setPixmap(MakeMark(devicePixelRatioF()));
+    mark->setAccessibleName(tr("Erro"));
 
-    auto* text = new QLabel(tr("Ocorreu uma falha e a operação não foi concluída."), this);
-    QFont larger = text->font();
-    larger.setPixelSize(QFontInfo(larger).pixelSize() * 6 / 5);
-    larger.setBold(true);
-    text->setFont(larger);
-    text->setWordWrap(true);
+    auto* title = new QLabel(tr("Ocorreu uma falha."), this);
+    title->setObjectName(QStringLiteral("heading"));
+    title->setFont(Scaled(title->font(), 1.2, true));
 
+    const FailureWords words = WordsFor(report_);
+    QPlainTextEdit* what = MakeText(words.what, QStringLiteral("what"), WordsWidth, MostLinesOfWords);
+    what->setAccessibleName(tr("O que aconteceu"));
+    auto* advice = new QLabel(ToQString(words.look + "\n" + words.act), this);
+    advice->setObjectName(QStringLiteral("advice"));
+    advice->setTextFormat(Qt::PlainText);
+    advice->setWordWrap(true);
+    // Aligned with the text of a field, which has a margin of its own.
+    advice->setContentsMargins(4, 0, 4, 0);
+    title->setContentsMargins(4, 0, 4, 0);
+
+    auto* column = new QVBoxLayout;
+    column->setSpacing(8);
+    for (QWidget* widget :
+         {static_cast<QWidget*>(title), static_cast<QWidget*>(what), static_cast<QWidget*>(advice)})
+        column->addWidget(widget);
     auto* heading = new QHBoxLayout;
-    heading->setSpacing(16);
-    heading->addWidget(icon, 0, Qt::AlignTop);
-    heading->addWidget(text, 1);
+    heading->setSpacing(12);
+    heading->addWidget(mark, 0, Qt::AlignTop);
+    heading->addLayout(column, 1);
     return heading;
 }
 
-void ErrorWindow::AddField(QVBoxLayout& layout, const QString& title, const Text& text,
+QLayout* ErrorWindow::MakeValues()
+{
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(2);
+    grid->setColumnStretch(1, 1);
+    AddValue(*grid, tr("&Número"), report_.number, QStringLiteral("number"));
+    AddValue(*grid, tr("&Descrição"), OwnDescription(report_), QStringLiteral("description"));
+    AddValue(*grid, tr("&Local"), report_.place, QStringLiteral("place"));
+    return grid;
+}
+
+void ErrorWindow::AddValue(QGridLayout& grid, const QString& title, const Text& text,
                            const QString& objectName)
+{
+    QPlainTextEdit* field = MakeText(text, objectName, ValuesWidth, MostLinesOfAValue);
+    field->setAccessibleName(QString(title).remove(QLatin1Char('&')));
+    auto* label = Muted(new QLabel(title, this));
+    label->setFont(Scaled(font(), 0.85));
+    label->setContentsMargins(0, 4, 0, 0);
+    label->setBuddy(field);
+    const int row = grid.rowCount();
+    grid.addWidget(label, row, 0, Qt::AlignTop);
+    grid.addWidget(field, row, 1);
+}
+
+QPlainTextEdit* ErrorWindow::MakeText(const Text& text, const QString& objectName, int width, int mostLines)
 {
     auto* field = new QPlainTextEdit(ToQString(text), this);
     field->setObjectName(objectName);
+    field->setFrameStyle(QFrame::NoFrame);
     field->setReadOnly(true);
     field->setTabChangesFocus(true);
     field->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     field->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     field->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    field->setAccessibleName(QString(title).remove(QLatin1Char('&')));
-    field->setFixedHeight(HeightOf(*field));
-
-    auto* label = new QLabel(title, this);
-    label->setBuddy(field);
-    layout.addWidget(label);
-    layout.addWidget(field);
+    if (mostLines == MostLinesOfAValue)
+        field->setFont(Scaled(font(), 0.85));
+    const int lines = std::min(LinesOf(*field, width), mostLines);
+    field->setFixedHeight(lines * field->fontMetrics().lineSpacing()
+                          + 2 * static_cast<int>(field->document()->documentMargin()) + 2);
+    return field;
 }
 
 QLayout* ErrorWindow::MakeButtons()
@@ -111,7 +179,7 @@ QLayout* ErrorWindow::MakeButtons()
 
     auto* copy = new QPushButton(tr("&Copiar"), this);
     copy->setObjectName(QStringLiteral("copy"));
-    copy->setAccessibleDescription(tr("Copia o número, a descrição e o local da falha"));
+    copy->setAccessibleDescription(tr("Copia o número, a descrição e o local da falha, por inteiro"));
     copy->setAutoDefault(false);
     connect(copy, &QPushButton::clicked, this, &ErrorWindow::CopyReport);
 

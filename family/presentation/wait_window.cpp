@@ -1,9 +1,12 @@
 #include "family/presentation/wait_window.hpp"
 
+#include "family/presentation/window_in_front.hpp"
+
 #include <QApplication>
 #include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace kova::family {
 
@@ -19,9 +22,9 @@ WaitWindow::WaitWindow(const QString& text) : QWidget(nullptr, Qt::Tool | Qt::Fr
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFocusPolicy(Qt::NoFocus);
     setWindowTitle(text);
-    setStyleSheet(QStringLiteral("background: white; color: #494949;"));
+    setBackgroundRole(QPalette::Base);
     AddText(text);
-    PlaceInTheMiddle();
+    PlaceInFront();
     show();
     // The caller works without the event loop: what makes the window appear happens now, and what the user
     // does meanwhile waits.
@@ -34,22 +37,27 @@ void WaitWindow::AddText(const QString& text)
     auto* label = new QLabel(text, this);
     label->setAlignment(Qt::AlignCenter);
     label->setTextFormat(Qt::PlainText);
+    label->setForegroundRole(QPalette::Text);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(MarginX, MarginY, MarginX, MarginY);
     layout->addWidget(label);
 }
 
-void WaitWindow::PlaceInTheMiddle()
+// It belongs to the window that it stands before, without being destroyed by it.
+void WaitWindow::PlaceInFront()
 {
     adjustSize();
-    const QWidget* active = QApplication::activeWindow();
+    const QWidget* front = WindowInFront();
     const QScreen* screen = QGuiApplication::primaryScreen();
     QRect room(QPoint(), size());
-    if (active)
-        room = active->frameGeometry();
+    if (front)
+        room = front->frameGeometry();
     else if (screen)
         room = screen->availableGeometry();
     move(room.center() - rect().center());
+    winId();
+    if (front && front->windowHandle())
+        windowHandle()->setTransientParent(front->windowHandle());
 }
 
 } // namespace kova::family

@@ -4,7 +4,7 @@
 
 namespace kova::family {
 
-/// A line of text on a plate of its own, in the middle of the active window or of the screen. It is on show
+/// A line of text on a plate of its own, in the middle of the window in front or of the screen. It is on show
 /// and painted once it is made, takes no focus, lets later boxes stand in front of it, and is gone with its
 /// object.
 class WaitWindow : public QWidget {
@@ -13,7 +13,7 @@ public:
 
 private:
     void AddText(const QString& text);
-    void PlaceInTheMiddle();
+    void PlaceInFront();
 };
 
 } // namespace kova::family

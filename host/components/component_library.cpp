@@ -1,5 +1,6 @@
 #include "host/components/component_library.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "host/components/component_error.hpp"
 
 #include <dlfcn.h>
@@ -24,7 +25,7 @@ std::string Named(const std::string& path) { return "A biblioteca '" + path + "'
 std::string LoaderReason()
 {
     const char* reason = ::dlerror();
-    return reason ? reason : "motivo desconhecido";
+    return reason ? reason : "";
 }
 
 } // namespace
@@ -39,8 +40,10 @@ LoadedLibrary::LoadedLibrary(const std::string& path) : path_(path)
     handle_ = ::dlopen(path_.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!handle_)
         throw ComponentError(
-            Named(path_) + " não pode ser carregada: " + LoaderReason()
-            + ". O arquivo pode estar danificado ou não ser uma biblioteca; instale-o novamente.");
+            WithDetail(Named(path_)
+                           + " não pode ser carregada. O arquivo pode estar danificado ou não ser uma"
+                             " biblioteca; instale-o novamente.",
+                       LoaderReason()));
     try {
         FindEntryPoints();
     } catch (...) {

@@ -1,5 +1,6 @@
 #include "host/components/component_service.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "host/components/component_error.hpp"
 
 namespace kova::host {
@@ -47,8 +48,12 @@ ComponentRef RegisteredComponents::CreateObject(std::string_view className)
         return RequireObject(factory());
     } catch (const NotRegistered& error) {
         Fail(error.what());
-    } catch (const std::exception& error) {
+    } catch (const ComponentError& error) {
         Fail(NotCreated(name, error.what()));
+    } catch (const Failure& failure) {
+        Fail(NotCreated(name, failure.Description()));
+    } catch (const std::exception& error) {
+        Fail(WithDetail(NotCreated(name, "Feche o programa e abra-o novamente."), error.what()));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "host/components/registry.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "agenda/contracts/utf8.hpp"
 #include "host/components/component_error.hpp"
 #include "host/components/file_replacement.hpp"
@@ -131,8 +132,9 @@ Registry::Lines Registry::ReadLines() const
 {
     const auto content = ReadWholeFile(path_);
     if (!content && errno != ENOENT)
-        throw ComponentError("O arquivo de registro " + Quoted(path_) + " não pôde ser lido: " + Reason()
-                             + ". Verifique as permissões do arquivo.");
+        throw ComponentError(WithDetail("O arquivo de registro " + Quoted(path_)
+                                            + " não pôde ser lido. Verifique as permissões do arquivo.",
+                                        Reason()));
     Lines lines;
     const std::string_view text = content ? std::string_view(*content) : std::string_view();
     for (std::size_t begin = 0; begin < text.size();) {
@@ -149,8 +151,10 @@ void Registry::WriteLines(const Lines& lines) const
     for (const std::string& line : lines)
         content.append(line).append("\n");
     if (!ReplaceWholeFile(path_, content))
-        throw ComponentError("O arquivo de registro " + Quoted(path_) + " não pôde ser gravado: " + Reason()
-                             + ". Verifique as permissões da pasta e o espaço em disco.");
+        throw ComponentError(
+            WithDetail("O arquivo de registro " + Quoted(path_)
+                           + " não pôde ser gravado. Verifique as permissões da pasta e o espaço em disco.",
+                       Reason()));
 }
 
 /// Reads, changes and writes the lines while no other program does. `change` answers whether there is
@@ -165,9 +169,10 @@ template <class Change> void Registry::ChangeLocked(Change change)
     while (lock.IsOpen() && locked != 0 && errno == EINTR)
         locked = ::flock(lock.Get(), LOCK_EX);
     if (locked != 0)
-        throw ComponentError("O arquivo de registro " + Quoted(path_)
-                             + " não pôde ser bloqueado para gravação: " + Reason()
-                             + ". Verifique as permissões da pasta.");
+        throw ComponentError(
+            WithDetail("O arquivo de registro " + Quoted(path_)
+                           + " não pôde ser bloqueado para gravação. Verifique as permissões da pasta.",
+                       Reason()));
     Lines lines = ReadLines();
     if (change(lines))
         WriteLines(lines);

@@ -1,9 +1,11 @@
 // The trap of a procedure and the report it makes.
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "agenda/shared/modLerGravarEmArquivoIni.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 #include "agenda/shared/trap.hpp"
 #include "tests/unit/agenda/module_fixture.hpp"
+#include "toolkits/headless/quoted.hpp"
 
 #include <new>
 #include <stdexcept>
@@ -59,7 +61,9 @@ TEST_F(TheTrap, GivesFailuresOfTheLanguageANumber)
     Trap(", frmLista, Algo, Ponto: ", Ponto, [] { throw std::bad_alloc(); });
     EXPECT_NE(Reports().back().find("Long& 7,"), std::string::npos) << Reports().back();
     Trap(", frmLista, Algo, Ponto: ", Ponto, [] { throw std::out_of_range("fora"); });
-    EXPECT_NE(Reports().back().find("Long& 5, Text& \"fora\""), std::string::npos) << Reports().back();
+    const Text described = WithDetail(Failure(FailureNumber::InvalidArgument).Description(), "fora");
+    EXPECT_NE(Reports().back().find("Long& 5, Text& " + headless::Quoted(described)), std::string::npos)
+        << Reports().back();
 }
 
 TEST_F(TheTrap, PassesTheNumberOfAnotherMakerOnUnchanged)

@@ -108,7 +108,7 @@ TEST_F(LibraryCacheTest, SaysThatAFileIsNoLibrary)
     const std::string path = folder.File("texto.so");
     WriteFile(path, "isto não é uma biblioteca\n");
     const std::string error = ErrorOf([&] { libraries.Load(path); });
-    EXPECT_TRUE(Contains(error, "'" + path + "' não pode ser carregada: ")) << error;
+    EXPECT_TRUE(Contains(error, "'" + path + "' não pode ser carregada. ")) << error;
     EXPECT_TRUE(Contains(error, "file too short") || Contains(error, "invalid ELF header")) << error;
     EXPECT_FALSE(libraries.IsLoaded(path));
 }

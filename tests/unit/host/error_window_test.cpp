@@ -1,9 +1,13 @@
+#include "agenda/contracts/failure_detail.hpp"
 #include "family/presentation/clsMensagem.hpp"
 #include "family/presentation/error_window.hpp"
+#include "family/presentation/failure_words.hpp"
+#include "family/presentation/window_in_front.hpp"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -39,6 +43,22 @@ protected:
     }
 
     inline static std::unique_ptr<QApplication> application_;
+    static Text LabelOf(const ErrorWindow& window, const char* name)
+    {
+        return window.findChild<QLabel*>(name)->text().toStdString();
+    }
+    /// All that can be read in the window.
+    static Text AllOf(const ErrorWindow& window)
+    {
+        Text all;
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            all += label->text().toStdString() + "\n";
+        for (const QPlainTextEdit* field : window.findChildren<QPlainTextEdit*>())
+            all += field->toPlainText().toStdString() + "\n";
+        return all;
+    }
+    static bool Says(const Text& text, const Text& part) { return text.find(part) != Text::npos; }
+
     const ErrorReport report_{"-2147467259", "Não há conexão.\nTente de novo.",
                               "kovaris, frmLista, GerarLista, Ponto: 1", "Kovaris"};
 };
@@ -62,6 +82,96 @@ TEST_F(ErrorScreen, ShowsNumberDescriptionAndPlaceInFullUnderTheApplicationsName
     EXPECT_EQ(FieldOf(window, "number"), report_.number);
     EXPECT_EQ(FieldOf(window, "description"), report_.description);
     EXPECT_EQ(FieldOf(window, "place"), report_.place);
+}
+
+TEST_F(ErrorScreen, SaysThatAFailureOccurredAndNotWhatBecameOfTheWork)
+{
+    const ErrorWindow window(report_);
+    EXPECT_EQ(LabelOf(window, "heading"), "Ocorreu uma falha.");
+    EXPECT_FALSE(Says(AllOf(window), "não foi concluída"));
+    EXPECT_TRUE(Says(LabelOf(window, "advice"), "Confira se o que você estava fazendo foi concluído"));
+    EXPECT_TRUE(Says(LabelOf(window, "advice"), "Copiar"));
+}
+
+TEST_F(ErrorScreen, ShowsTheWordsOfAnEngineOnlyToThoseWhoCopyThem)
+{
+    const Text told = "O disco está cheio. Libere espaço.";
+    const ErrorReport report{"-2147467259", WithDetail(told, "database or disk is full"), "kovaris",
+                             "Kovaris"};
+    ErrorWindow window(report);
+    EXPECT_EQ(FieldOf(window, "what"), told);
+    EXPECT_EQ(FieldOf(window, "description"), told);
+    EXPECT_FALSE(Says(AllOf(window), "full")) << AllOf(window);
+    window.findChild<QPushButton*>("copy")->click();
+    EXPECT_TRUE(Says(QGuiApplication::clipboard()->text().toStdString(), "database or disk is full"));
+}
+
+TEST_F(ErrorScreen, TellsANumberOfTheFamilyInWordsOfTheFrontDesk)
+{
+    for (const auto number : {FailureNumber::InvalidArgument,
+                              FailureNumber::Overflow,
+                              FailureNumber::OutOfMemory,
+                              FailureNumber::IndexOutOfRange,
+                              FailureNumber::DivisionByZero,
+                              FailureNumber::TypeMismatch,
+                              FailureNumber::NoObject,
+                              FailureNumber::UseOfNull,
+                              FailureNumber::BadPropertyValue,
+                              FailureNumber::BadListRow,
+                              FailureNumber::ClassCannotBeCreated,
+                              FailureNumber::NoSuchMember,
+                              FailureNumber::WrongArgumentCount,
+                              FailureNumber::BadRecordSetValue,
+                              FailureNumber::NoCurrentRow,
+                              FailureNumber::NoSuchField,
+                              FailureNumber::RecordSetClosed,
+                              FailureNumber::RecordSetOpen,
+                              FailureNumber::RecordSetWithoutFields,
+                              FailureNumber::BadGridRow,
+                              FailureNumber::BadGridColumn,
+                              FailureNumber::LastFreeGridRow,
+                              FailureNumber::BadFieldValue}) {
+        const Failure failure(number);
+        const FailureWords words =
+            WordsFor({std::to_string(failure.Number()), failure.Description(), "kovaris", "Kovaris"});
+        EXPECT_NE(words.what, failure.Description());
+        EXPECT_TRUE(words.what.ends_with('.')) << words.what;
+        for (const char* jargon : {"Null", "objeto", "propriedade", "procedimento", "matriz", "conjunto"})
+            EXPECT_FALSE(Says(words.what, jargon)) << words.what;
+    }
+}
+
+TEST_F(ErrorScreen, TellsWhatTheFailureItselfSaysWhereThatIsMoreThanItsNumber)
+{
+    const auto what = [](const char* number, const Text& description) {
+        return WordsFor({number, description, "kovaris", "Kovaris"}).what;
+    };
+    EXPECT_EQ(what("5", "A quantidade vai de 0 a 999."), "A quantidade vai de 0 a 999.");
+    EXPECT_EQ(what("7001", "Banco fora do ar"), "Banco fora do ar");
+    EXPECT_EQ(what("7001", ""), "O programa encontrou uma situação que não esperava.");
+    EXPECT_EQ(what("não", WithDetail("", "oops")), "O programa encontrou uma situação que não esperava.");
+    EXPECT_EQ(what("438", "clsX não aceita a propriedade ou método 'Y'."),
+              "Duas partes do programa não combinam entre si.");
+}
+
+TEST_F(ErrorScreen, StandsInFrontOfAWindowAlsoWhileTheUserIsInAnotherProgram)
+{
+    EXPECT_EQ(WindowInFront(), nullptr);
+    QWidget main;
+    QWidget plate(nullptr, Qt::Tool);
+    QWidget modeless(nullptr, Qt::Dialog);
+    for (QWidget* window : {&modeless, &plate, &main})
+        window->show();
+    ASSERT_EQ(QApplication::activeWindow(), nullptr);
+    EXPECT_EQ(WindowInFront(), &main);
+    QDialog modal(&main);
+    modal.setModal(true);
+    modal.show();
+    main.activateWindow();
+    EXPECT_EQ(WindowInFront(), &modal);
+    modal.hide();
+    main.hide();
+    EXPECT_EQ(WindowInFront(), &modeless);
 }
 
 TEST_F(ErrorScreen, KeepsAWindowOfASaneSizeForALongTextAndStillHoldsAllOfIt)

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -63,6 +64,18 @@ TEST_F(WaitMessage, ShowsTheLastTextAlone)
     message.Call("Exibir", {Text("um")});
     message.Call("Exibir", {Text("dois")});
     EXPECT_EQ(Shown(), QStringList{"dois"});
+}
+
+TEST_F(WaitMessage, BelongsToTheWindowInFrontAndLetsItGoFirst)
+{
+    auto main = std::make_unique<QWidget>();
+    main->setGeometry(300, 200, 400, 300);
+    main->show();
+    const WaitWindow window("Aguarde");
+    EXPECT_EQ(window.windowHandle()->transientParent(), main->windowHandle());
+    EXPECT_LE((window.frameGeometry().center() - main->frameGeometry().center()).manhattanLength(), 2);
+    main.reset();
+    EXPECT_EQ(window.windowHandle()->transientParent(), nullptr);
 }
 
 TEST_F(WaitMessage, TakesNoFocus)
