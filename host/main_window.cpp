@@ -1,5 +1,6 @@
 #include "host/main_window.hpp"
 
+#include "host/icon.hpp"
 #include "host/notice_bar.hpp"
 
 #include <QCloseEvent>
@@ -16,19 +17,30 @@ namespace {
 
 /// What is left of a screen of 1024 by 768 beside the desktop's bars and the window's frame.
 constexpr QSize SmallestWindow(1000, 680);
+/// What the desktop's frame around a window takes, at most.
+constexpr QSize Frame(16, 48);
 /// How long a desktop may take to give the window its place.
 constexpr qint64 LongestWaitMilliseconds = 400;
 constexpr int EventSliceMilliseconds = 10;
 
+QString TitleOf(const MainWindow::Heading& heading)
+{
+    QStringList parts;
+    if (!heading.shop.isEmpty() || heading.isDemonstration)
+        parts += heading.isDemonstration ? (heading.shop + QStringLiteral(" (demonstração)")).trimmed()
+                                         : heading.shop;
+    if (!heading.user.isEmpty())
+        parts += heading.user;
+    return (parts << QStringLiteral("Kovaris")).join(QStringLiteral(" - "));
+}
+
 } // namespace
 
-MainWindow::MainWindow(const QString& shop) : container_(new QWidget(this)), notice_(new NoticeBar(this))
+MainWindow::MainWindow(const Heading& heading) : container_(new QWidget(this)), notice_(new NoticeBar(this))
 {
-    setWindowTitle(shop.isEmpty() ? QStringLiteral("Kovaris") : shop + QStringLiteral(" - Kovaris"));
-    setMinimumSize(SmallestWindow);
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, Qt::white);
-    setPalette(colours);
+    setWindowTitle(TitleOf(heading));
+    setWindowIcon(ApplicationIcon());
+    setBackgroundRole(QPalette::Base);
 
     container_->setObjectName(QStringLiteral("container"));
     auto* layout = new QVBoxLayout(this);
@@ -50,8 +62,16 @@ void MainWindow::ShowHint(const QString& text)
     layout->addWidget(hint);
 }
 
+void MainWindow::FitToScreen()
+{
+    setMinimumSize(SmallestWindow.boundedTo(screen()->availableSize() - Frame));
+}
+
 void MainWindow::Open(std::optional<WindowSize> size)
 {
+    winId();
+    FitToScreen();
+    connect(windowHandle(), &QWindow::screenChanged, this, [this] { FitToScreen(); });
     if (size) {
         resize(size->width, size->height);
         show();

@@ -12,8 +12,14 @@ class NoticeBar;
 /// could be opened. Closing it ends the application's event loops, whatever else is on the screen.
 class MainWindow : public QWidget {
 public:
-    /// The title is "SHOP - Kovaris", or "Kovaris" where the shop has no name.
-    explicit MainWindow(const QString& shop);
+    /// What the title tells: whose data is open, whether it is a demonstration, and who works with it.
+    struct Heading {
+        QString shop;
+        bool isDemonstration = false;
+        QString user;
+    };
+
+    explicit MainWindow(const Heading& heading);
 
     QWidget& Container() { return *container_; }
 
@@ -31,6 +37,8 @@ protected:
 
 private:
     void WaitForPlace();
+    /// However small the screen is or however large it draws: no edge of the window has to lie beyond it.
+    void FitToScreen();
 
     QWidget* container_;
     NoticeBar* notice_;

@@ -9,9 +9,9 @@ namespace {
 
 constexpr std::string_view Advice = " Use --help para ver as opções.";
 
-/// The screens are made for windows that are at least this large, and pictures beyond the other limit
-/// would take gigabytes.
-constexpr WindowSize SmallestSize{1024, 768};
+/// What a screen that is drawn twice as large leaves of 1600 by 960; pictures beyond the other limit would
+/// take gigabytes.
+constexpr WindowSize SmallestSize{800, 480};
 constexpr WindowSize LargestSize{7680, 4320};
 
 [[noreturn]] void Refuse(const std::string& reason) { throw BadOptions(reason + std::string(Advice)); }
@@ -33,7 +33,7 @@ WindowSize ParseSize(const std::string& text)
     if (size.width < SmallestSize.width || size.height < SmallestSize.height || size.width > LargestSize.width
         || size.height > LargestSize.height) {
         Refuse("O tamanho \"" + text
-               + "\" de --size não é válido. Informe LARGURAxALTURA entre 1024x768 e 7680x4320, como "
+               + "\" de --size não é válido. Informe LARGURAxALTURA entre 800x480 e 7680x4320, como "
                  "1366x768.");
     }
     return size;

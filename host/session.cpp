@@ -1,5 +1,6 @@
 #include "host/session.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "host/component_setup.hpp"
 #include "host/components/component_service.hpp"
 #include "host/computer_user.hpp"
@@ -72,6 +73,7 @@ public:
 
 private:
     void OpenList();
+    std::string NameOfUser() const { return options_.user.empty() ? NameOfThisUser() : options_.user; }
     /// The day's list; null where none was made.
     Form* List() const { return toolkit_.FindForm("frmLista"); }
     bool ListShowsADay() const;
@@ -99,7 +101,9 @@ int Session::Run()
     SetUpComponents(registry_, server_, ProgramFolder());
     const Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
-    window_ = std::make_unique<MainWindow>(QString::fromStdString(shop.tradeName));
+    window_ = std::make_unique<MainWindow>(MainWindow::Heading{QString::fromStdString(shop.tradeName),
+                                                               options_.database.empty(),
+                                                               QString::fromStdString(NameOfUser())});
     OpenList();
     if (options_.firstPaint)
         return PaintWindow();
@@ -111,8 +115,7 @@ int Session::Run()
 void Session::OpenList()
 {
     agenda_ = components_.CreateObject("KOVA_A_Agenda.clsAgenda");
-    const std::string user = options_.user.empty() ? NameOfThisUser() : options_.user;
-    agenda_->Set("DadosDoUsuario", Value(std::make_shared<SessionUser>(OnlyUser, user)));
+    agenda_->Set("DadosDoUsuario", Value(std::make_shared<SessionUser>(OnlyUser, NameOfUser())));
     agenda_->Set("NomeDaAplicacao", "Kovaris");
     toolkit_.RegisterTopWindow(window_.get());
     window_->Open(SizeOf(options_, outlet_));
@@ -147,7 +150,7 @@ void Session::BackUpDaily()
     backup_ = std::make_unique<DailyBackup>(components_, [this](const std::string& reason) {
         window_->ShowNotice(reason.empty() ? QString()
                                            : QStringLiteral("A cópia de segurança de hoje não foi feita. ")
-                                    + QString::fromStdString(reason));
+                                    + QString::fromStdString(WithoutDetail(reason)));
     });
     AfterFirstPaint(*window_, [this] { backup_->Begin(); });
 }

@@ -100,8 +100,14 @@ TEST(Options, RefuseATimeThatDoesNotExist)
 TEST(Options, RefuseASizeThatNoWindowHas)
 {
     for (const char* size :
-         {"1366", "x768", "1366x", "800x600", "1366x768x2", "-1366x768", "99999x768", "1366X768"})
+         {"1366", "x768", "1366x", "799x600", "800x479", "1366x768x2", "-1366x768", "99999x768", "1366X768"})
         ExpectRefusalNames({"--size", size}, size);
+}
+
+TEST(Options, TakeTheSizeOfAScreenThatIsDrawnTwiceAsLarge)
+{
+    EXPECT_EQ(ParseOptions({"--size", "960x540"}).size, (WindowSize{960, 540}));
+    EXPECT_EQ(ParseOptions({"--size", "800x480"}).size, (WindowSize{800, 480}));
 }
 
 TEST(Options, HelpNamesEveryOption)

@@ -1,0 +1,71 @@
+#include "host/main_window.hpp"
+
+#include <QApplication>
+#include <QIcon>
+#include <QScreen>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace kova::host {
+
+namespace {
+
+class TheMainWindow : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        static int count = 1;
+        static char name[] = "test_host";
+        static char* words[] = {name, nullptr};
+        application_ = std::make_unique<QApplication>(count, words);
+    }
+    static void TearDownTestSuite() { application_.reset(); }
+
+    static std::string TitleOf(const MainWindow::Heading& heading)
+    {
+        return MainWindow(heading).windowTitle().toStdString();
+    }
+
+    inline static std::unique_ptr<QApplication> application_;
+};
+
+} // namespace
+
+TEST_F(TheMainWindow, TellsTheShopAndTheUserInItsTitle)
+{
+    EXPECT_EQ(TitleOf({"Pet Shop Céu", false, "Maria"}), "Pet Shop Céu - Maria - Kovaris");
+    EXPECT_EQ(TitleOf({"", false, "Maria"}), "Maria - Kovaris");
+    EXPECT_EQ(TitleOf({"", false, ""}), "Kovaris");
+}
+
+TEST_F(TheMainWindow, SaysThatADemonstrationIsOne)
+{
+    EXPECT_EQ(TitleOf({"Amigo Fiel", true, "Maria"}), "Amigo Fiel (demonstração) - Maria - Kovaris");
+    EXPECT_EQ(TitleOf({"", true, ""}), "(demonstração) - Kovaris");
+}
+
+TEST_F(TheMainWindow, HasAnIconThatIsNotEmptyInAnySize)
+{
+    const QIcon icon = MainWindow({"", false, ""}).windowIcon();
+    for (const int size : {16, 32, 256}) {
+        const QImage picture = icon.pixmap(QSize(size, size), 1.0).toImage();
+        EXPECT_EQ(picture.size(), QSize(size, size));
+        EXPECT_EQ(qAlpha(picture.pixel(0, 0)), 0);
+        EXPECT_EQ(qAlpha(picture.pixel(size / 2, size / 2)), 255);
+    }
+}
+
+TEST_F(TheMainWindow, NeverHasToBeLargerThanItsScreen)
+{
+    MainWindow window({"", false, ""});
+    window.Open(WindowSize{1366, 768});
+    const QSize room = window.screen()->availableSize();
+    ASSERT_LT(room.width(), 1000) << "the platform's screen is not small";
+    EXPECT_LT(window.minimumWidth(), room.width());
+    EXPECT_LT(window.minimumHeight(), room.height());
+    EXPECT_EQ(window.minimumHeight(), 680);
+}
+
+} // namespace kova::host
