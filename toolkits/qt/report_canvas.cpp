@@ -80,7 +80,7 @@ void ReportCanvas::ShowPage(std::size_t page)
 
 void ReportCanvas::Zoom(double zoom)
 {
-    fitsWidth_ = false;
+    fit_ = Fit::Nothing;
     ChangeZoom(zoom);
 }
 
@@ -114,9 +114,17 @@ void ReportCanvas::ZoomOut()
 
 void ReportCanvas::FitWidth()
 {
-    fitsWidth_ = true;
+    fit_ = Fit::Width;
     const double room = viewport()->width() - 2 * Gap;
     ChangeZoom(room * TwipsOfPixel / static_cast<double>(document_.paperWidth));
+}
+
+void ReportCanvas::FitPage()
+{
+    fit_ = Fit::Page;
+    const double width = (viewport()->width() - 2 * Gap) / static_cast<double>(document_.paperWidth);
+    const double height = (viewport()->height() - 2 * Gap) / static_cast<double>(document_.paperHeight);
+    ChangeZoom(std::min(width, height) * TwipsOfPixel);
 }
 
 void ReportCanvas::Mark(std::vector<ReportMatch> matches, std::size_t current)
@@ -166,10 +174,11 @@ void ReportCanvas::scrollContentsBy(int, int)
 
 void ReportCanvas::resizeEvent(QResizeEvent*)
 {
-    if (fitsWidth_)
-        FitWidth();
-    else
-        FollowSize();
+    switch (fit_) {
+    case Fit::Width: return FitWidth();
+    case Fit::Page: return FitPage();
+    case Fit::Nothing: return FollowSize();
+    }
 }
 
 void ReportCanvas::wheelEvent(QWheelEvent* event)

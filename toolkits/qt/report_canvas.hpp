@@ -28,6 +28,8 @@ public:
     void ZoomOut();
     /// As wide as the window; stays so when the window changes, until another size is chosen.
     void FitWidth();
+    /// So that the page in view is seen whole; stays so in the same way.
+    void FitPage();
 
     /// Marks texts; `current`, which counts in `matches`, stands out and comes into view.
     void Mark(std::vector<ReportMatch> matches, std::size_t current);
@@ -56,7 +58,9 @@ private:
     const reports::Document& document_;
     std::size_t page_ = 0;
     double zoom_ = 1;
-    bool fitsWidth_ = true;
+    /// What the window's size decides.
+    enum class Fit { Nothing, Width, Page };
+    Fit fit_ = Fit::Width;
     /// While code moves the pages: what comes into view is then known.
     bool isMoving_ = false;
     std::vector<ReportMatch> matches_;

@@ -2,6 +2,7 @@
 
 #include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/help_window.hpp"
+#include "toolkits/qt/report_name.hpp"
 #include "toolkits/qt/report_output.hpp"
 #include "toolkits/qt/theme.hpp"
 
@@ -38,14 +39,10 @@ QString DocumentsFolder()
     return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
-/// A title as a file's name.
-QString FileName(const QString& title)
+/// A card is one record on an upright sheet; its reader looks for the whole of it.
+bool IsCard(const reports::Document& document)
 {
-    QString name;
-    for (const QChar character : title)
-        name += QStringLiteral("/\\:*?\"<>|").contains(character) ? QChar(u' ') : character;
-    name = name.simplified();
-    return (name.isEmpty() ? QStringLiteral("Relatório") : name) + QStringLiteral(".pdf");
+    return document.records == 1 && document.paperHeight > document.paperWidth;
 }
 
 class BusyCursor {
@@ -70,6 +67,7 @@ const std::vector<ReportPreview::Command>& ReportPreview::Commands()
         {"Ctrl+-", "Diminuir", &Preview::ZoomOut},
         {"Ctrl+0", "Tamanho do papel", &Preview::PaperSize},
         {"Ctrl+L", "Ajustar à largura", &Preview::FitWidth},
+        {"Ctrl+I", "Página inteira", &Preview::FitPage},
         {"Ctrl+P", "Imprimir", &Preview::PrintPages},
         {"Ctrl+S", "Salvar em PDF", &Preview::SavePdf},
         {"Ctrl+F", "Localizar um texto", &Preview::GoToSearch},
@@ -81,8 +79,8 @@ const std::vector<ReportPreview::Command>& ReportPreview::Commands()
     return commands;
 }
 
-ReportPreview::ReportPreview(const reports::Document& document, ReportDesk& desk, QWidget* over)
-    : QDialog(over), document_(document), desk_(desk), canvas_(new ReportCanvas(document, this))
+ReportPreview::ReportPreview(const reports::Document& document, ReportDesk& desk, Date day, QWidget* over)
+    : QDialog(over), document_(document), desk_(desk), day_(day), canvas_(new ReportCanvas(document, this))
 {
     setObjectName(QStringLiteral("visualizacao"));
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint
@@ -95,6 +93,8 @@ ReportPreview::ReportPreview(const reports::Document& document, ReportDesk& desk
     MakeBars(*column);
     column->addWidget(canvas_);
     canvas_->changed = [this] { FollowCanvas(); };
+    if (IsCard(document))
+        canvas_->FitPage();
     FollowCanvas();
     canvas_->setFocus();
 }
@@ -221,7 +221,7 @@ void ReportPreview::PrintPages()
 QString ReportPreview::ProposedPath() const
 {
     const QString folder = LastFolder().isEmpty() ? DocumentsFolder() : LastFolder();
-    return QDir(folder).filePath(FileName(windowTitle()));
+    return QDir(folder).filePath(FileNameOfReport(windowTitle(), day_));
 }
 
 void ReportPreview::SavePdf()

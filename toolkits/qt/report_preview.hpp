@@ -1,5 +1,6 @@
 #pragma once
 
+#include "agenda/contracts/date_time.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/report_canvas.hpp"
 #include "toolkits/qt/report_desk.hpp"
@@ -20,7 +21,8 @@ class FlatButton;
 /// and desk must outlive it.
 class ReportPreview : public QDialog {
 public:
-    ReportPreview(const reports::Document& document, ReportDesk& desk, QWidget* over);
+    /// `day` is the one that the report is about; the file's name carries it.
+    ReportPreview(const reports::Document& document, ReportDesk& desk, Date day, QWidget* over);
 
     const ReportCanvas& Canvas() const { return *canvas_; }
 
@@ -56,6 +58,7 @@ private:
     void ZoomOut() { canvas_->ZoomOut(); }
     void PaperSize() { canvas_->Zoom(1); }
     void FitWidth() { canvas_->FitWidth(); }
+    void FitPage() { canvas_->FitPage(); }
     void PrintPages();
     void SavePdf();
     void GoToSearch();
@@ -70,6 +73,7 @@ private:
 
     const reports::Document& document_;
     ReportDesk& desk_;
+    Date day_;
     ReportCanvas* canvas_;
     QBoxLayout* bars_ = nullptr;
     QLineEdit* search_ = nullptr;

@@ -1,5 +1,6 @@
 #include "toolkits/qt/toolkit.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "reports/layout.hpp"
 #include "toolkits/qt/check_box.hpp"
 #include "toolkits/qt/combo_box.hpp"
@@ -20,6 +21,7 @@
 #include "toolkits/qt/option_button.hpp"
 #include "toolkits/qt/picture_box.hpp"
 #include "toolkits/qt/report_metrics.hpp"
+#include "toolkits/qt/report_name.hpp"
 #include "toolkits/qt/report_preview.hpp"
 #include "toolkits/qt/shape.hpp"
 #include "toolkits/qt/text_box.hpp"
@@ -160,7 +162,8 @@ Long QtToolkit::HandleOf(const toolkit::WidgetCore& widget)
 
 void QtToolkit::UnhandledFailure(const Failure& failure)
 {
-    AskUser(MessageKind::Critical, failure.Description(), QCoreApplication::applicationName().toStdString());
+    AskUser(MessageKind::Critical, WithoutDetail(failure.Description()),
+            QCoreApplication::applicationName().toStdString());
 }
 
 Reply QtToolkit::AskUser(MessageKind kind, const Text& text, const Text& title)
@@ -175,10 +178,11 @@ void QtToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector<toolk
 
 void QtToolkit::RunPreview(const toolkit::ReportModel& report)
 {
+    const Date day = DayOfReport(report.Data(), Today());
     const reports::Document pages =
         reports::LayOut({report.Current(), report.Data(), clock_.Now()}, QtReportMetrics());
     ReportDesk desk;
-    ReportPreview preview(pages, desk, WindowBelow(nullptr));
+    ReportPreview preview(pages, desk, day, WindowBelow(nullptr));
     if (report.Current().windowState == ReportWindowState::Maximized)
         preview.setWindowState(Qt::WindowMaximized);
     preview.exec();

@@ -49,7 +49,7 @@ protected:
 private:
     const reports::Document document_ = LaidOut(NumberedList(30));
     ScriptedDesk desk_;
-    ReportPreview window_{document_, desk_, nullptr};
+    ReportPreview window_{document_, desk_, Date{2026, 11, 20}, nullptr};
 };
 
 } // namespace kova::qt::test

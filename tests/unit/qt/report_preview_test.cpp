@@ -4,6 +4,7 @@
 #include "tests/unit/qt/report_preview_fixture.hpp"
 
 #include "agenda/contracts/record_set.hpp"
+#include "toolkits/qt/theme.hpp"
 
 #include <QApplication>
 #include <QFile>
@@ -133,7 +134,7 @@ TEST_F(Preview, SavesAPdfAndSaysSo)
     Press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(QFile::exists(Desk().path));
     EXPECT_EQ(Label("situacao"), "Salvo em dia.pdf");
-    EXPECT_TRUE(Desk().proposal.endsWith(QStringLiteral("/Imprimir agendamentos.pdf")))
+    EXPECT_TRUE(Desk().proposal.endsWith(QStringLiteral("/Imprimir agendamentos 2026-11-20.pdf")))
         << Desk().proposal.toStdString();
     EXPECT_EQ(Desk().told, "");
 }
@@ -233,7 +234,37 @@ TEST_F(Preview, BreaksItsBarIntoTwoRowsOnANarrowScreen)
     EXPECT_EQ(rowsAt(1024), 1U);
 }
 
+TEST_F(Preview, ShowsAWholePageByKeyUntilAnotherSizeIsChosen)
+{
+    Press(Qt::Key_I, Qt::ControlModifier);
+    const auto heightOfPage = [&] { return Canvas().Zoom() * 11906 / 15; };
+    EXPECT_LE(heightOfPage(), Canvas().viewport()->height());
+    Window().resize(1000, 500);
+    Settle();
+    EXPECT_LE(heightOfPage(), Canvas().viewport()->height());
+    Press(Qt::Key_L, Qt::ControlModifier);
+    const double wide = Canvas().Zoom();
+    Window().resize(1000, 700);
+    Settle();
+    EXPECT_EQ(Canvas().Zoom(), wide);
+}
+
 class ModalPreview : public QtTest { };
+
+TEST_F(ModalPreview, OpensACardAsAWholePageAndAListAsWideAsTheWindow)
+{
+    for (const ReportDesign* layout : AllLayouts()) {
+        const reports::Document document = LaidOut(FilledReport(*layout, Filling::Short, 1));
+        ReportDesk desk;
+        ReportPreview window(document, desk, Date{2026, 11, 20}, nullptr);
+        window.show();
+        Settle();
+        const double height =
+            window.Canvas().Zoom() * static_cast<double>(document.paperHeight) / TwipsOfPixel;
+        EXPECT_EQ(height <= window.Canvas().viewport()->height(), !IsList(*layout)) << layout->name;
+        EXPECT_EQ(document.pages.size(), 1U);
+    }
+}
 
 TEST_F(ModalPreview, ShowsTheCaptionMaximisedAndLetsGoOfTheDataWhenClosed)
 {

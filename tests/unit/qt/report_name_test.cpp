@@ -1,0 +1,46 @@
+#include "toolkits/qt/report_name.hpp"
+
+#include "agenda/contracts/record_set.hpp"
+
+#include <gtest/gtest.h>
+
+namespace kova::qt::test {
+
+namespace {
+
+constexpr Date Today{2026, 3, 18};
+
+std::string NameOf(const char* title)
+{
+    return FileNameOfReport(QString::fromUtf8(title), Date{2026, 11, 3}).toStdString();
+}
+
+} // namespace
+
+TEST(ReportName, IsTheTitleWithTheDay)
+{
+    EXPECT_EQ(NameOf("Imprimir agendamentos"), "Imprimir agendamentos 2026-11-03.pdf");
+    EXPECT_EQ(NameOf(" a/b: c?  "), "a b c 2026-11-03.pdf");
+    EXPECT_EQ(NameOf(""), "Relatório 2026-11-03.pdf");
+}
+
+TEST(ReportName, CarriesTheDayOfTheRecords)
+{
+    MemoryRecordSet day({"Numero", "Cliente", "DataInicial", "DataFinal"},
+                        {{Long{7}, "Zé", "20/11/2026", "21/11/2026"}, {Long{8}, "Ana", "22/11/2026", ""}});
+    day.MoveLast();
+    EXPECT_EQ(DayOfReport(&day, Today), (Date{2026, 11, 20}));
+    MemoryRecordSet card({"Nome", "DataEHoraInicial"}, {{"Zé", "09:00 20/11/2026"}});
+    EXPECT_EQ(DayOfReport(&card, Today), (Date{2026, 11, 20}));
+}
+
+TEST(ReportName, CarriesTodayWhereTheRecordsTellNoDay)
+{
+    MemoryRecordSet none({"DataInicial"}, {});
+    MemoryRecordSet other({"Numero", "Nome", "Data"}, {{Long{20112026}, "x20/11/2026", "31/02/2026"}});
+    EXPECT_EQ(DayOfReport(nullptr, Today), Today);
+    EXPECT_EQ(DayOfReport(&none, Today), Today);
+    EXPECT_EQ(DayOfReport(&other, Today), Today);
+}
+
+} // namespace kova::qt::test
