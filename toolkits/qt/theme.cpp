@@ -1,8 +1,9 @@
 #include "toolkits/qt/theme.hpp"
 
+#include "toolkits/qt/flat_style.hpp"
+
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
 
 #include <algorithm>
 #include <array>
@@ -137,7 +138,7 @@ double Contrast(const QColor& a, const QColor& b)
 
 void ApplyLook(QApplication& application)
 {
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    application.setStyle(new FlatStyle);
     application.setPalette(LightPalette());
     application.setFont(MakeFont("Arial", 9.75));
 }

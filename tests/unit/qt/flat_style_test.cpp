@@ -1,0 +1,65 @@
+// The look of the buttons that no form draws.
+
+#include "tests/unit/qt/support.hpp"
+#include "toolkits/qt/theme.hpp"
+
+#include <QDialog>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <set>
+
+namespace kova::qt::test {
+namespace {
+
+class PlainButtons : public QtTest {
+protected:
+    PlainButtons()
+    {
+        auto* column = new QVBoxLayout(&window_);
+        for (QPushButton* button : {offered_, other_}) {
+            button->setAutoDefault(false);
+            column->addWidget(button);
+        }
+        offered_->setDefault(true);
+        window_.show();
+        offered_->clearFocus();
+        other_->clearFocus();
+        Settle();
+    }
+
+    /// The colours beside the text, from just below the upper edge to just above the lower one.
+    static std::set<QRgb> GroundOf(QPushButton* button)
+    {
+        const QImage picture = Picture(button);
+        std::set<QRgb> colours;
+        for (int y = 4; y < picture.height() - 4; ++y)
+            colours.insert(picture.pixel(6, y));
+        return colours;
+    }
+
+    QDialog window_;
+    QPushButton* offered_ = new QPushButton(QStringLiteral("OK"), &window_);
+    QPushButton* other_ = new QPushButton(QStringLiteral("Não"), &window_);
+};
+
+TEST_F(PlainButtons, AreFlat)
+{
+    EXPECT_EQ(GroundOf(other_), std::set<QRgb>{look::Paper.rgb()});
+    EXPECT_EQ(GroundOf(offered_), std::set<QRgb>{look::Accent.rgb()});
+}
+
+TEST_F(PlainButtons, ShowTheFocus)
+{
+    window_.activateWindow();
+    Settle();
+    const QImage before = Picture(other_);
+    other_->setFocus();
+    Settle();
+    EXPECT_NE(Picture(other_), before);
+}
+
+TEST_F(PlainButtons, AreAsHighAsThoseOfTheForms) { EXPECT_EQ(other_->sizeHint().height(), 34); }
+
+} // namespace
+} // namespace kova::qt::test

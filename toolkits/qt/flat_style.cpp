@@ -1,0 +1,100 @@
+#include "toolkits/qt/flat_style.hpp"
+
+#include "toolkits/qt/painting.hpp"
+#include "toolkits/qt/theme.hpp"
+
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOptionButton>
+
+namespace kova::qt {
+
+namespace {
+
+constexpr QSize SmallestButton(96, 34);
+
+const QStyleOptionButton* ButtonOf(const QStyleOption* option)
+{
+    return qstyleoption_cast<const QStyleOptionButton*>(option);
+}
+
+bool IsOffered(const QStyleOptionButton& button)
+{
+    return button.features & QStyleOptionButton::DefaultButton;
+}
+
+QColor GroundOf(const QStyleOption& option, bool isOffered)
+{
+    const bool isDown = option.state & QStyle::State_Sunken;
+    const bool isUnderMouse = option.state & QStyle::State_MouseOver;
+    if (!(option.state & QStyle::State_Enabled))
+        return look::LockedPaper;
+    if (isOffered)
+        return isDown ? look::Accent.darker(125) : isUnderMouse ? look::Accent.darker(112) : look::Accent;
+    return isDown ? look::AccentTint.darker(108) : isUnderMouse ? look::AccentTint : look::Paper;
+}
+
+void PaintButton(QPainter& painter, const QStyleOption& option, bool isOffered)
+{
+    const QColor ground = GroundOf(option, isOffered);
+    PaintPlate(painter, option.rect, ground, look::CornerRadius);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(isOffered ? ground : look::Border, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), look::CornerRadius,
+                            look::CornerRadius);
+    painter.restore();
+    if (option.state & QStyle::State_HasFocus)
+        PaintFocusRing(painter, option.rect, ground);
+}
+
+} // namespace
+
+FlatStyle::FlatStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) { }
+
+void FlatStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    const QStyleOptionButton* button = ButtonOf(option);
+    if (element == CE_PushButtonBevel && button)
+        return PaintButton(*painter, *button, IsOffered(*button));
+    if (element != CE_PushButtonLabel || !button || !IsOffered(*button))
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionButton offered = *button;
+    offered.palette.setColor(QPalette::Active, QPalette::ButtonText, look::Paper);
+    offered.palette.setColor(QPalette::Inactive, QPalette::ButtonText, look::Paper);
+    QProxyStyle::drawControl(element, &offered, painter, widget);
+}
+
+void FlatStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    const bool isButton = widget && widget->inherits("QPushButton");
+    if (element == PE_PanelButtonTool && widget && widget->inherits("QToolButton")
+        && !(option->state & State_AutoRaise))
+        return PaintButton(*painter, *option, false);
+    // The ring is drawn with the plate.
+    if (element != PE_FrameFocusRect || !isButton)
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+QSize FlatStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                  const QWidget* widget) const
+{
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const QStyleOptionButton* button = ButtonOf(option);
+    // A button with nothing but an icon, as in a row of them, stays as small as it is.
+    return type == CT_PushButton && button && !button->text.isEmpty() ? usual.expandedTo(SmallestButton)
+                                                                      : usual;
+}
+
+int FlatStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* answer) const
+{
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+} // namespace kova::qt
