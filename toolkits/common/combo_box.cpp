@@ -83,6 +83,7 @@ void ComboBoxModel::AddItem(const kova::Text& text)
 void ComboBoxModel::Clear()
 {
     Calling("Clear");
+    ShowList(false);
     rows_.clear();
     text_.clear();
     row_ = -1;
@@ -98,27 +99,11 @@ void ComboBoxModel::Select(int row)
     GetForm().Raise(click_);
 }
 
-bool ComboBoxModel::UserOpensList()
+void ComboBoxModel::RaiseLostFocus()
 {
-    bool opens = false;
-    ByUser([this, &opens] {
-        if (!FocusForPress())
-            return;
-        GetForm().Raise(dropDown_);
-        opens = TakesInput();
-    });
-    return opens;
+    ShowList(false);
+    GetForm().Raise(lostFocus_);
 }
-
-void ComboBoxModel::UserChooses(Integer row)
-{
-    ByUser([this, row] {
-        if (row >= 0 && row < static_cast<int>(rows_.size()))
-            Select(row);
-    });
-}
-
-void ComboBoxModel::RaiseLostFocus() { GetForm().Raise(lostFocus_); }
 
 void ComboBoxModel::DropHandlers()
 {

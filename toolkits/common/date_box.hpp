@@ -32,6 +32,7 @@ public:
 
 protected:
     void Edited() override;
+    bool ShowsValue() const override { return ShownDate().has_value(); }
 
 private:
     Handler change_;

@@ -48,6 +48,18 @@ void EditCore::UserSelects(std::size_t anchor, std::size_t caret)
 
 void EditCore::UserSelectsAll() { UserSelects(0, edit_.Characters().size()); }
 
+void EditCore::Entered(Entry entry)
+{
+    if (entry == Entry::Key)
+        SelectAll();
+}
+
+void EditCore::SelectAll()
+{
+    edit_.Select(0, edit_.Characters().size());
+    Tell(Aspect::Selection);
+}
+
 void EditCore::SelectToStart()
 {
     edit_.Select(edit_.Selection().caret, 0);

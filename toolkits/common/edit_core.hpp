@@ -28,11 +28,14 @@ public:
     void UserSelectsAll();
 
     bool IsFocusable() const override { return true; }
+    /// Entered by key or code, a box is selected whole: typing replaces what it holds.
+    void Entered(Entry entry) override;
     void SelectToStart() override;
     /// False where the box shows a value only.
     virtual bool AllowsTyping() const { return true; }
 
 protected:
+    void SelectAll();
     /// A write from code; the caret goes to the end where the widget has the focus, else to the start.
     void PutText(const Text& text);
 
@@ -70,16 +73,24 @@ private:
     bool IsStillOpen() const;
 };
 
-/// A box with a mask such as "__/__/____": digits fill its blanks from the left.
+/// A box with a mask such as "__/__/____": digits fill its blanks from the left. A digit behind the last one
+/// of a full mask begins it anew.
 class MaskEditCore : public EditCore {
 public:
     MaskEditCore(FormModel& form, const ControlDesign& design, std::string_view mask);
+
+    /// Nobody points at one digit of such a box: the press that enters it selects it too.
+    void Entered(Entry entry) override;
+    /// Whether the box shows a complete text that means nothing, such as "31/02/2026".
+    bool ShowsNonsense() const;
 
 protected:
     /// A write from code: "" gives the empty mask, any other text is shown as it stands.
     void PutMasked(const Text& text);
     /// After the user's edit changed the text.
     virtual void Edited() { }
+    /// Whether the text on show is a value of the box.
+    virtual bool ShowsValue() const = 0;
 
     void Type(char32_t character) override;
     void Erase(bool forward) override;

@@ -133,7 +133,7 @@ public:
     void Raise(const std::function<void(Parameters...)>& handler, Arguments&&... arguments);
     /// Raises LostFocus of the widget that has the focus, then GotFocus of this one; null is none.
     /// Gives way to a move that a LostFocus handler makes.
-    void MoveFocus(WidgetCore* target);
+    void MoveFocus(WidgetCore* target, Entry entry = Entry::Key);
     void FocusNext(bool forward);
     /// Takes the focus away from a widget that can no longer hold it.
     void ReviewFocus();

@@ -1,7 +1,6 @@
 // The focus: who has it, who gets it next, and the keys that act on the form.
 
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/common/edit_core.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/common/toolkit.hpp"
@@ -10,7 +9,7 @@
 
 namespace kova::toolkit {
 
-void FormModel::MoveFocus(WidgetCore* target)
+void FormModel::MoveFocus(WidgetCore* target, Entry entry)
 {
     if (target == focused_ || state_.unloaded)
         return;
@@ -27,6 +26,7 @@ void FormModel::MoveFocus(WidgetCore* target)
         return;
     focused_ = target;
     lastFocused_ = target;
+    target->Entered(entry);
     if (View* view = target->GetView())
         view->TakeFocus();
     target->RaiseGotFocus();
@@ -62,12 +62,8 @@ bool FormModel::UserPressesShortcut(std::string_view shortcut)
             if (auto* button = dynamic_cast<CommandButtonModel*>(widget.get()))
                 return PressByShortcut(*button);
             MoveFocus(widget.get());
-            if (widget->KindOfWidget() == WidgetKind::OptionButton && widget->HasFocus()) {
+            if (widget->KindOfWidget() == WidgetKind::OptionButton && widget->HasFocus())
                 widget->TakesEnter();
-                return;
-            }
-            if (auto* edit = dynamic_cast<EditCore*>(widget.get()); edit && widget->HasFocus())
-                edit->UserSelectsAll();
             return;
         }
     });
@@ -82,7 +78,7 @@ void FormModel::PressByShortcut(CommandButtonModel& button)
     button.UserPresses();
     const bool focusUnmoved = !focused_ || focused_ == &button;
     if (from && focusUnmoved && !state_.unloaded && from->CanHoldFocus())
-        MoveFocus(from);
+        MoveFocus(from, Entry::Return);
 }
 
 WidgetCore* FormModel::NextStop(bool forward) const
@@ -111,7 +107,7 @@ void FormModel::FocusNext(bool forward)
 void FormModel::UserPressesKey(FormKey key)
 {
     ByUser([this, key] {
-        if (!Refusal().empty())
+        if (!Refusal().empty() || (focused_ && focused_->TakesKey(key)))
             return;
         switch (key) {
         case FormKey::Tab: return FocusNext(true);

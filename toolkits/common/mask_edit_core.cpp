@@ -17,6 +17,17 @@ MaskEditCore::MaskEditCore(FormModel& form, const ControlDesign& design, std::st
     edit_.Put(design.text.empty() ? ToText(mask_) : design.text);
 }
 
+void MaskEditCore::Entered(Entry entry)
+{
+    if (entry != Entry::Return)
+        SelectAll();
+}
+
+bool MaskEditCore::ShowsNonsense() const
+{
+    return edit_.Characters().find(U'_') == std::u32string::npos && !ShowsValue();
+}
+
 void MaskEditCore::PutMasked(const Text& text) { PutText(text.empty() ? ToText(mask_) : text); }
 
 bool MaskEditCore::FitsMask(std::u32string_view characters) const
@@ -72,9 +83,11 @@ void MaskEditCore::Type(char32_t character)
         return;
     std::size_t caret = 0;
     std::u32string characters = Editable(caret);
-    const std::size_t position = SkipSeparators(std::min(caret, FirstBlank(characters)));
-    if (position == mask_.size())
-        return;
+    std::size_t position = SkipSeparators(std::min(caret, FirstBlank(characters)));
+    if (position == mask_.size()) {
+        characters = mask_;
+        position = SkipSeparators(0);
+    }
     characters[position] = character;
     Change(std::move(characters), SkipSeparators(position + 1));
 }

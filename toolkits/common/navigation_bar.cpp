@@ -44,11 +44,49 @@ void NavigationBarModel::Refresh()
 void NavigationBarModel::UserPresses(int button)
 {
     ByUser([this, button] {
-        if (!Offers(button) || !FocusForPress())
+        if (!Offers(button))
+            return;
+        Reach(button);
+        if (!FocusForPress())
             return;
         auto number = static_cast<Integer>(button);
         GetForm().Raise(click_, number);
     });
+}
+
+void NavigationBarModel::Reach(int button)
+{
+    reached_ = button;
+    Tell(Aspect::Selection);
+}
+
+void NavigationBarModel::UserWalks(bool right)
+{
+    ByUser([this, right] {
+        const int step = right ? 1 : -1;
+        int button = (reached_ == 0 ? CurrentButton() : reached_) + step;
+        while (button >= FirstPage && button <= LastPage && !Offers(button))
+            button += step;
+        if (Offers(button))
+            Reach(button);
+    });
+}
+
+bool NavigationBarModel::TakesEnter()
+{
+    UserPresses(CurrentButton());
+    return true;
+}
+
+int NavigationBarModel::CurrentButton() const
+{
+    if (reached_ != 0)
+        return Offers(reached_) ? reached_ : 0;
+    for (const int button : {FirstPage, PreviousPage, NextPage, LastPage}) {
+        if (Offers(button))
+            return button;
+    }
+    return 0;
 }
 
 bool NavigationBarModel::Offers(int button) const

@@ -26,12 +26,18 @@ public:
 
     /// The user pressed a button, 1 to 4; one that is not offered does nothing.
     void UserPresses(int button);
+    /// The user walked to the next button on offer, to the left or to the right.
+    void UserWalks(bool right);
 
     /// As of the last Refresh: whether the bar offers a button, and its text "1 - 15 de 42".
     bool Offers(int button) const;
     Text ShownText() const;
+    /// The button that Enter presses: the one pressed or reached last, as long as it is offered; 0 is none.
+    /// At first it is the first one on offer.
+    int CurrentButton() const;
 
     bool IsFocusable() const override { return true; }
+    bool TakesEnter() override;
     void DropHandlers() override { click_ = nullptr; }
 
 private:
@@ -42,8 +48,12 @@ private:
         Double pageSize = 0;
     };
 
+    void Reach(int button);
+
     Numbers written_;
     Numbers shown_;
+    /// The button pressed or walked to last; 0 where none was.
+    int reached_ = 0;
     ClickHandler click_;
 };
 

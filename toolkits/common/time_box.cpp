@@ -1,6 +1,7 @@
 #include "toolkits/common/time_box.hpp"
 
 #include "agenda/contracts/date_time.hpp"
+#include "agenda/contracts/text.hpp"
 #include "toolkits/common/form.hpp"
 
 namespace kova::toolkit {
@@ -16,6 +17,11 @@ void TimeBoxModel::Text(const kova::Text& value)
 {
     Writing("Text", value);
     PutMasked(value);
+}
+
+bool TimeBoxModel::ShowsValue() const
+{
+    return Length(ShownText()) == EmptyTimeMask.size() && ParseTime(ShownText());
 }
 
 void TimeBoxModel::RaiseLostFocus() { GetForm().Raise(lostFocus_); }

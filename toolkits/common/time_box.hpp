@@ -17,6 +17,9 @@ public:
     void RaiseLostFocus() override;
     void DropHandlers() override { lostFocus_ = nullptr; }
 
+protected:
+    bool ShowsValue() const override;
+
 private:
     Handler lostFocus_;
 };

@@ -58,6 +58,8 @@ public:
     /// what they hold.
     virtual std::unique_ptr<View> MakeView(WidgetCore& widget) = 0;
     virtual const TextMeasure& Measure() const = 0;
+    /// The desk's seconds since midnight, with their fraction: what tells keys of one word apart.
+    virtual Double Seconds() const = 0;
     /// The handle of a panel's window, never 0.
     virtual Long HandleOf(const WidgetCore& widget) = 0;
     /// A failure came out of a handler that the user had started: the program goes on.

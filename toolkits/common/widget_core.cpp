@@ -52,9 +52,9 @@ bool WidgetCore::CanHoldFocus() const { return IsFocusable() && IsOnShow() && Is
 
 bool WidgetCore::HasFocus() const { return form_.Focused() == this; }
 
-void WidgetCore::UserFocuses()
+void WidgetCore::UserFocuses(Entry entry)
 {
-    ByUser([this] { form_.MoveFocus(IsFocusable() ? this : form_.Focused()); });
+    ByUser([this, entry] { form_.MoveFocus(IsFocusable() ? this : form_.Focused(), entry); });
 }
 
 void WidgetCore::MoveTo(Twips WidgetState::*member, Twips value, bool mayBeNegative)
@@ -109,7 +109,7 @@ void WidgetCore::ToFront() { Tell(Aspect::Order); }
 
 bool WidgetCore::FocusForPress()
 {
-    form_.MoveFocus(this);
+    form_.MoveFocus(this, Entry::Press);
     return TakesInput();
 }
 

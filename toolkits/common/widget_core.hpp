@@ -14,6 +14,7 @@
 namespace kova::toolkit {
 
 class FormModel;
+enum class FormKey;
 
 /// What every widget holds.
 struct WidgetState {
@@ -26,6 +27,16 @@ struct WidgetState {
     bool tabStop = true;
     Text toolTipText;
     Text tag;
+};
+
+/// How the focus comes to a widget.
+enum class Entry {
+    /// By Tab, Enter, a key of its own or code.
+    Key,
+    /// By a press of the mouse.
+    Press,
+    /// After a press elsewhere that was not meant to take it away.
+    Return,
 };
 
 /// The part of a widget's model that does not depend on its kind: state, place among the others, focus,
@@ -71,16 +82,21 @@ public:
     bool CanHoldFocus() const;
     bool HasFocus() const;
 
-    /// The user moved the focus here, by mouse or key.
-    void UserFocuses();
+    /// The user moved the focus here.
+    void UserFocuses(Entry entry = Entry::Press);
 
     void AttachView(std::unique_ptr<View> view) { view_ = std::move(view); }
     View* GetView() const { return view_.get(); }
 
     /// Enter while the widget has the focus; false leaves it to the form.
     virtual bool TakesEnter() { return false; }
+    /// Tab, Enter or Escape while the widget has the focus and something of its own open; false leaves the
+    /// key to the form.
+    virtual bool TakesKey(FormKey) { return false; }
     /// What "+({HOME})" does: selects from the caret back to the start. Only boxes have a caret.
     virtual void SelectToStart() { }
+    /// The focus has just come, before any event of that: what the widget selects of itself then.
+    virtual void Entered(Entry) { }
     /// The focus has moved away or here: the widget's own event, where its kind has one.
     virtual void RaiseLostFocus() { }
     virtual void RaiseGotFocus() { }

@@ -29,6 +29,7 @@ public:
     ~HeadlessToolkit() override;
 
     FrozenClock& Clock() { return clock_; }
+    Double Seconds() const override { return clock_.Timer(); }
     void ScreenWidthInPixels(int pixels) { screenWidth_ = pixels; }
 
     /// A window of the host with that inner size; answers its handle.

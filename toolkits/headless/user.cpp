@@ -63,12 +63,15 @@ std::string User::ChooseRow(std::string_view form, std::string_view combo, int i
     auto* box = Reach<toolkit::ComboBoxModel>(form, combo, index, refusal);
     if (!box)
         return refusal;
-    if (!box->UserOpensList())
-        return box->Refusal();
+    box->UserOpensList();
+    if (auto reason = box->Refusal(); !reason.empty())
+        return reason;
     // The rows are those that the list has once it is open.
     const std::size_t row = find(box->ShownRows(), refusal);
-    if (row >= box->ShownRows().size())
+    if (row >= box->ShownRows().size()) {
+        box->UserLeavesList();
         return box->FullName() + " has no row " + refusal;
+    }
     box->UserChooses(static_cast<Integer>(row));
     return {};
 }

@@ -12,6 +12,7 @@ public:
 
 protected:
     void ShowContent() override;
+    void ShowSelection() override;
 };
 
 } // namespace kova::qt

@@ -6,11 +6,14 @@
 
 #include <QAccessible>
 #include <QGuiApplication>
+#include <QHash>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,7 +25,7 @@ namespace {
 constexpr int Inset = 8;
 constexpr int EndWidth = 28;
 constexpr int RowHeight = 28;
-constexpr int MostRowsShown = 12;
+constexpr int MostRowsShown = toolkit::ComboBoxModel::RowsOfPage;
 
 // A row of the open list: its text at the same inset as in the field.
 class RowPainter : public QStyledItemDelegate {
@@ -73,17 +76,16 @@ void ComboField::CloseList()
     update();
 }
 
-void ComboField::OpenList()
+void ComboField::ShowList(const QStringList& rows, int marked)
 {
-    if (list_ || !isEnabled())
-        return;
-    const QPointer<ComboField> self(this);
-    const bool opens = !aboutToOpen || aboutToOpen();
-    if (!self || !opens || !rows)
-        return;
-    const QStringList texts = rows();
-    MakeList(texts);
-    PlaceList(static_cast<int>(texts.size()));
+    if (!list_) {
+        MakeList(rows);
+        PlaceList(static_cast<int>(rows.size()));
+    }
+    if (list_->currentRow() != marked)
+        list_->setCurrentRow(marked);
+    if (list_->currentItem())
+        list_->scrollToItem(list_->currentItem());
 }
 
 void ComboField::MakeList(const QStringList& texts)
@@ -105,10 +107,11 @@ void ComboField::MakeList(const QStringList& texts)
     list_->addItems(texts);
     for (int row = 0; row < list_->count(); ++row)
         list_->item(row)->setSizeHint(QSize(0, RowHeight));
-    list_->setCurrentRow(currentRow ? currentRow() : -1);
     list_->installEventFilter(this);
-    connect(list_, &QListWidget::itemEntered, list_,
-            [list = list_.data()](QListWidgetItem* item) { list->setCurrentItem(item); });
+    connect(list_, &QListWidget::itemEntered, this, [this](QListWidgetItem* item) {
+        if (list_ && pointed)
+            pointed(list_->row(item));
+    });
     connect(list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
         if (list_)
             TakeListRow(list_->row(item));
@@ -129,8 +132,6 @@ void ComboField::PlaceList(int count)
     popup_->setGeometry(area);
     popup_->show();
     list_->setFocus();
-    if (list_->currentItem())
-        list_->scrollToItem(list_->currentItem());
     update();
 }
 
@@ -141,59 +142,46 @@ void ComboField::TakeListRow(int row)
         chosen(row);
 }
 
-bool ComboField::OpensByKey(const QKeyEvent& event) const
+bool ComboField::TakesKey(const QKeyEvent& event)
 {
-    const bool alt = event.modifiers() & Qt::AltModifier;
-    return event.key() == Qt::Key_F4 || event.key() == Qt::Key_Space
-        || (alt && (event.key() == Qt::Key_Down || event.key() == Qt::Key_Up));
-}
-
-void ComboField::Step(int row)
-{
-    const int count = rows ? static_cast<int>(rows().size()) : 0;
-    const int now = currentRow ? currentRow() : -1;
-    const int wanted = std::clamp(row, 0, std::max(0, count - 1));
-    if (count > 0 && wanted != now && chosen)
-        chosen(wanted);
-}
-
-void ComboField::FindByLetter(const QString& letter)
-{
-    const QStringList texts = rows ? rows() : QStringList();
-    const auto count = static_cast<int>(texts.size());
-    const int now = currentRow ? currentRow() : -1;
-    for (int step = 1; step <= count; ++step) {
-        const int row = (std::max(now, -1) + step) % count;
-        if (texts.at(row).startsWith(letter, Qt::CaseInsensitive))
-            return Step(row);
+    using toolkit::ComboKey;
+    static const QHash<int, ComboKey> keys{
+        {Qt::Key_F4, ComboKey::Open},           {Qt::Key_Up, ComboKey::Up},
+        {Qt::Key_Down, ComboKey::Down},         {Qt::Key_PageUp, ComboKey::PageUp},
+        {Qt::Key_PageDown, ComboKey::PageDown}, {Qt::Key_Home, ComboKey::Home},
+        {Qt::Key_End, ComboKey::End},           {Qt::Key_Return, ComboKey::Take},
+        {Qt::Key_Enter, ComboKey::Take},        {Qt::Key_Tab, ComboKey::Take},
+        {Qt::Key_Escape, ComboKey::Leave}};
+    const bool commands = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool arrow = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+    if (arrow && event.modifiers() & Qt::AltModifier) {
+        if (keyPressed)
+            keyPressed(ComboKey::Open);
+        return true;
     }
+    if (const auto key = keys.constFind(event.key()); key != keys.constEnd() && !commands) {
+        if (keyPressed)
+            keyPressed(*key);
+        return true;
+    }
+    const QString letters = event.text();
+    if (commands || letters.isEmpty() || !letters.at(0).isPrint())
+        return false;
+    if (typed)
+        typed(letters);
+    return true;
 }
 
 void ComboField::keyPressEvent(QKeyEvent* event)
 {
-    if (OpensByKey(*event))
-        return OpenList();
-    const int now = currentRow ? currentRow() : -1;
-    switch (event->key()) {
-    case Qt::Key_Down: return Step(now + 1);
-    case Qt::Key_Up: return Step(now - 1);
-    case Qt::Key_Home: return Step(0);
-    case Qt::Key_End: return Step(rows ? static_cast<int>(rows().size()) - 1 : 0);
-    case Qt::Key_PageDown: return Step(now + MostRowsShown);
-    case Qt::Key_PageUp: return Step(now - MostRowsShown);
-    default: break;
-    }
-    const QString letter = event->text();
-    if (!letter.isEmpty() && letter.at(0).isPrint() && !(event->modifiers() & Qt::ControlModifier))
-        FindByLetter(letter);
-    else
+    if (!TakesKey(*event))
         QWidget::keyPressEvent(event);
 }
 
 void ComboField::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton)
-        OpenList();
+    if (event->button() == Qt::LeftButton && !list_ && pressed)
+        pressed();
 }
 
 // Turning the wheel over a filter by chance must not start a search.
@@ -218,21 +206,27 @@ bool ComboField::eventFilter(QObject* watched, QEvent* event)
         list_ = nullptr;
         popup_ = nullptr;
         update();
+        if (left)
+            left();
         return false;
     }
     if (watched != list_ || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
-    const auto* key = static_cast<QKeyEvent*>(event);
-    const bool alt = key->modifiers() & Qt::AltModifier;
-    if (key->key() == Qt::Key_Escape || key->key() == Qt::Key_F4 || (alt && key->key() == Qt::Key_Up)) {
-        CloseList();
-        return true;
-    }
-    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter || key->key() == Qt::Key_Tab) {
-        TakeListRow(list_->currentRow());
-        return true;
-    }
-    return false;
+    // The list's own keys and letters would walk behind the model.
+    TakesKey(*static_cast<QKeyEvent*>(event));
+    return true;
+}
+
+QRectF ComboField::TextArea() const { return QRectF(rect()).adjusted(Inset, 0, -EndWidth, 0); }
+
+// A text that does not fit is read in a tool tip, where the field has none of its own.
+bool ComboField::event(QEvent* event)
+{
+    const bool isCut = QFontMetricsF(font()).horizontalAdvance(text_) > TextArea().width();
+    if (event->type() != QEvent::ToolTip || !isCut || !toolTip().isEmpty())
+        return QWidget::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_, this);
+    return true;
 }
 
 void ComboField::paintEvent(QPaintEvent*)
@@ -240,7 +234,7 @@ void ComboField::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const FieldState state{isEnabled(), false, underMouse(), hasFocus() || list_};
     PaintField(painter, rect(), state, look::Paper);
-    const QRectF area = QRectF(rect()).adjusted(Inset, 0, -EndWidth, 0);
+    const QRectF area = TextArea();
     painter.setFont(font());
     // What a disabled box shows is still to be read.
     painter.setPen(look::Ink);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkits/common/combo_box.hpp"
+
 #include <QListWidget>
 #include <QPointer>
 #include <QStringList>
@@ -9,9 +11,8 @@
 
 namespace kova::qt {
 
-/// A closed choice: the text on show, a chevron and a list that drops down. Full use by keys: Alt+Down,
-/// F4 or Space open the list, arrows, Home, End and first letters choose. It decides nothing: it asks
-/// for rows and tells what the user does.
+/// A closed choice: the text on show, a chevron and a list that drops down. It decides nothing: it shows the
+/// list that it is told to show, and tells what the user does, by mouse, keys and letters.
 class ComboField : public QWidget {
 public:
     explicit ComboField(QWidget* parent);
@@ -19,19 +20,24 @@ public:
 
     void SetShownText(const QString& text);
     QString ShownText() const { return text_; }
+    /// Opens the list, where it is closed, and marks a row; -1 is none.
+    void ShowList(const QStringList& rows, int marked);
     void CloseList();
     bool IsListOpen() const { return list_ != nullptr; }
     /// The open list; null where it is closed.
     QListWidget* List() const;
 
-    /// The user is about to open the list: the rows may still change inside. False keeps it shut.
-    std::function<bool()> aboutToOpen;
-    std::function<QStringList()> rows;
-    std::function<int()> currentRow;
-    /// The user took a row, by mouse or key.
+    /// The user pressed the closed field.
+    std::function<void()> pressed;
+    /// The user took a row of the list, points at one, or left it.
     std::function<void(int row)> chosen;
+    std::function<void(int row)> pointed;
+    std::function<void()> left;
+    std::function<void(toolkit::ComboKey key)> keyPressed;
+    std::function<void(const QString& letters)> typed;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -45,13 +51,11 @@ protected:
     bool focusNextPrevChild(bool) override { return false; }
 
 private:
-    void OpenList();
+    QRectF TextArea() const;
     void MakeList(const QStringList& texts);
     void PlaceList(int count);
     void TakeListRow(int row);
-    void Step(int row);
-    void FindByLetter(const QString& letter);
-    bool OpensByKey(const QKeyEvent& event) const;
+    bool TakesKey(const QKeyEvent& event);
 
     QString text_;
     QPointer<QWidget> popup_;

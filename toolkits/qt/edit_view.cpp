@@ -86,9 +86,11 @@ void EditView::ShowLook()
     Shown().SetLocked(locked);
     Shown().SetPaper(ToColor(design.backColor, locked ? look::LockedPaper : look::Paper));
     QPalette palette = editor_->palette();
-    palette.setColor(QPalette::Text, ToColor(design.foreColor, look::Ink));
+    palette.setColor(QPalette::Text, Ink());
     editor_->setPalette(palette);
 }
+
+QColor EditView::Ink() const { return ToColor(Core().Design().foreColor, look::Ink); }
 
 void EditView::ShowToolTip()
 {

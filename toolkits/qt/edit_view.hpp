@@ -23,6 +23,7 @@ protected:
     void ShowLook() override;
     void ShowToolTip() override;
 
+    virtual QColor Ink() const;
     /// A key that the kind takes before the text does.
     virtual bool TakesKey(const QKeyEvent&) { return false; }
     virtual void Paste(const QString& text);

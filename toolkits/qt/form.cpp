@@ -1,6 +1,5 @@
 #include "toolkits/qt/form.hpp"
 
-#include "toolkits/common/edit_core.hpp"
 #include "toolkits/common/menu.hpp"
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/label.hpp"
@@ -50,16 +49,6 @@ Qt::WindowFlags FlagsOf(const FormDesign& design)
     return flags;
 }
 
-// Whether a key only goes from field to field. Enter in a find box or on a button may have run a
-// handler that put the focus and the selection where it wants them.
-bool WalksOn(toolkit::FormKey key, const toolkit::WidgetCore* from)
-{
-    if (key != toolkit::FormKey::Enter)
-        return key != toolkit::FormKey::Escape;
-    return from && from->KindOfWidget() != WidgetKind::KVFind
-        && dynamic_cast<const toolkit::EditCore*>(from) != nullptr;
-}
-
 toolkit::InnerSize InnerSizeOf(const QWidget& widget)
 {
     return {ToTwips(widget.width()), ToTwips(widget.height())};
@@ -81,14 +70,7 @@ FormWidget::FormWidget(toolkit::FormModel& model) : PlainPanel(nullptr), model_(
 
 bool FormWidget::Forward(toolkit::FormKey key)
 {
-    const QPointer<FormWidget> self(this);
-    const toolkit::WidgetCore* before = model_.Focused();
     model_.UserPressesKey(key);
-    if (self && WalksOn(key, before) && model_.Focused() != before) {
-        // Entering a field by key selects it whole: typing replaces it.
-        if (auto* edit = dynamic_cast<toolkit::EditCore*>(model_.Focused()))
-            edit->UserSelectsAll();
-    }
     return true;
 }
 

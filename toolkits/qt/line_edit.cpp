@@ -1,12 +1,17 @@
 #include "toolkits/qt/line_edit.hpp"
 
 #include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/widget_view.hpp"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QToolTip>
+
+#include <utility>
 
 namespace kova::qt {
 
@@ -30,7 +35,20 @@ bool LineEdit::event(QEvent* event)
         if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
             return false;
     }
+    if (event->type() == QEvent::ToolTip && ShowsCutText()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), ToolTipOf(text().toStdString()),
+                           this);
+        return true;
+    }
     return QLineEdit::event(event);
+}
+
+// A text that does not fit is read in a tool tip, where the field has none of its own.
+bool LineEdit::ShowsCutText() const
+{
+    constexpr int margins = 4;
+    const bool hasTip = !toolTip().isEmpty() || (parentWidget() && !parentWidget()->toolTip().isEmpty());
+    return !hasTip && fontMetrics().horizontalAdvance(text()) > width() - margins;
 }
 
 void LineEdit::keyPressEvent(QKeyEvent* event)
@@ -42,6 +60,37 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
     if (filterKey && filterKey(*event))
         return;
     QLineEdit::keyPressEvent(event);
+}
+
+void LineEdit::focusInEvent(QFocusEvent* event)
+{
+    isEntered_ = keepsAtFirstPress_ && event->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(event);
+}
+
+void LineEdit::EnterByPress()
+{
+    setFocus(Qt::MouseFocusReason);
+    isEntered_ = false;
+}
+
+void LineEdit::mousePressEvent(QMouseEvent* event)
+{
+    isFirstPress_ = std::exchange(isEntered_, false) && event->button() == Qt::LeftButton;
+    if (!isFirstPress_)
+        QLineEdit::mousePressEvent(event);
+}
+
+void LineEdit::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!isFirstPress_)
+        QLineEdit::mouseMoveEvent(event);
+}
+
+void LineEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!std::exchange(isFirstPress_, false))
+        QLineEdit::mouseReleaseEvent(event);
 }
 
 void LineEdit::Cut()

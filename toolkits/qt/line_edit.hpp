@@ -12,6 +12,11 @@ class LineEdit : public QLineEdit {
 public:
     explicit LineEdit(QWidget* parent);
 
+    /// The press that brings the focus leaves what is selected then; the mouse selects from the next one on.
+    void KeepSelectionAtFirstPress() { keepsAtFirstPress_ = true; }
+    /// Takes the focus for a press beside the text.
+    void EnterByPress();
+
     /// Asked first about each key; true keeps it from the editor.
     std::function<bool(QKeyEvent&)> filterKey;
     /// What "Colar" and Ctrl+V do instead of inserting; empty leaves it to the editor.
@@ -24,13 +29,24 @@ public:
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
+    bool ShowsCutText() const;
     void Cut();
     void Paste();
+
+    bool keepsAtFirstPress_ = false;
+    /// A press has brought the focus and has not come itself yet.
+    bool isEntered_ = false;
+    /// The press that brought the focus has not been let go.
+    bool isFirstPress_ = false;
 };
 
 } // namespace kova::qt

@@ -4,24 +4,20 @@
 
 namespace kova::qt {
 
-/// A box with a mask: a pasted text fills the mask anew with its digits.
+/// A box with a mask: a pasted text fills the mask anew with its digits, and a text that means nothing is
+/// red.
 class MaskView : public EditView {
 public:
-    using EditView::EditView;
+    MaskView(QtToolkit& toolkit, toolkit::MaskEditCore& model, QWidget* parent);
 
 protected:
-    void Paste(const QString& text) override
-    {
-        QString digits;
-        for (const QChar character : text) {
-            if (character.isDigit())
-                digits.append(character);
-        }
-        if (digits.isEmpty())
-            return;
-        GetModel().UserSelectsAll();
-        TypeAll(digits);
-    }
+    void ShowContent() override;
+    QColor Ink() const override;
+    void Paste(const QString& text) override;
+
+private:
+    toolkit::MaskEditCore& model_;
+    bool isNonsense_ = false;
 };
 
 } // namespace kova::qt

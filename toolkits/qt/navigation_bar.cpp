@@ -1,9 +1,11 @@
 #include "toolkits/qt/navigation_bar.hpp"
 
 #include "toolkits/qt/input_gate.hpp"
+#include "toolkits/qt/painting.hpp"
 #include "toolkits/qt/theme.hpp"
 
 #include <QKeyEvent>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -46,57 +48,66 @@ NavigationWindow::NavigationWindow(QWidget* parent) : PlainPanel(parent), number
     }
 }
 
-void NavigationWindow::Show(const QString& text, const std::array<bool, 4>& offered)
+void NavigationWindow::Show(const QString& text, const std::array<bool, 4>& offered, int current)
 {
     numbers_->setFont(font());
     numbers_->setText(text);
-    for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const bool hadFocus = buttons_.at(i)->hasFocus();
-        if (hadFocus && !offered.at(i))
-            setFocus(Qt::OtherFocusReason);
+    const bool holdsFocus = HoldsFocus();
+    current_ = current;
+    // A button that goes out of use must not hand the focus to a neighbour of Qt's choice.
+    if (holdsFocus)
+        setFocus(Qt::OtherFocusReason);
+    for (std::size_t i = 0; i < buttons_.size(); ++i)
         buttons_.at(i)->setEnabled(offered.at(i));
-    }
-    if (hasFocus())
-        FocusButton();
+    if (holdsFocus)
+        FocusCurrent();
 }
 
-// The bar's focus stands on the first button on offer, or on the bar itself where none is.
-void NavigationWindow::FocusButton()
+void NavigationWindow::Reach(int current)
 {
-    for (FlatButton* button : buttons_) {
-        if (button->hasFocus())
-            return;
-    }
-    const auto offered = std::find_if(buttons_.begin(), buttons_.end(),
-                                      [](const FlatButton* button) { return button->isEnabled(); });
-    if (offered != buttons_.end())
-        (*offered)->setFocus(Qt::OtherFocusReason);
+    current_ = current;
+    if (HoldsFocus())
+        FocusCurrent();
 }
 
-void NavigationWindow::focusInEvent(QFocusEvent*) { FocusButton(); }
+bool NavigationWindow::HoldsFocus() const
+{
+    const auto hasFocus = [](const FlatButton* button) { return button->hasFocus(); };
+    return QWidget::hasFocus() || std::any_of(buttons_.begin(), buttons_.end(), hasFocus);
+}
+
+// Where the button that was reached is not on offer, the focus waits on the bar itself for its return.
+void NavigationWindow::FocusCurrent()
+{
+    QWidget* target = this;
+    if (current_ > 0 && Button(current_).isEnabled())
+        target = &Button(current_);
+    target->setFocus(Qt::OtherFocusReason);
+    update();
+}
+
+void NavigationWindow::focusInEvent(QFocusEvent*)
+{
+    if (current_ > 0 && Button(current_).isEnabled())
+        Button(current_).setFocus(Qt::OtherFocusReason);
+    update();
+}
 
 void NavigationWindow::keyPressEvent(QKeyEvent* event)
 {
-    const auto focused = std::find_if(buttons_.begin(), buttons_.end(),
-                                      [](const FlatButton* button) { return button->hasFocus(); });
-    const auto at = static_cast<int>(focused - buttons_.begin());
-    switch (event->key()) {
-    case Qt::Key_Left: return Walk(at, -1);
-    case Qt::Key_Right: return Walk(at, 1);
-    default: event->ignore();
-    }
+    const bool right = event->key() == Qt::Key_Right;
+    if (!right && event->key() != Qt::Key_Left)
+        event->ignore();
+    else if (walked)
+        walked(right);
 }
 
-void NavigationWindow::Walk(int from, int step)
+void NavigationWindow::paintEvent(QPaintEvent*)
 {
-    const auto count = static_cast<int>(buttons_.size());
-    for (int at = from + step; at >= 0 && at < count; at += step) {
-        FlatButton* button = buttons_.at(static_cast<std::size_t>(at));
-        if (button->isEnabled()) {
-            button->setFocus(Qt::OtherFocusReason);
-            return;
-        }
-    }
+    if (!QWidget::hasFocus())
+        return;
+    QPainter painter(this);
+    PaintFocusRing(painter, numbers_->geometry(), look::Paper);
 }
 
 void NavigationWindow::resizeEvent(QResizeEvent*)
@@ -117,6 +128,7 @@ NavigationBarView::NavigationBarView(QtToolkit& toolkit, toolkit::NavigationBarM
     if (Shown().accessibleName().isEmpty())
         Shown().setAccessibleName(QStringLiteral("Páginas da lista"));
     Shown().pressed = [this](int button) { GetModel().UserPresses(button); };
+    Shown().walked = [this](bool right) { GetModel().UserWalks(right); };
     WatchFocus(&Shown());
 }
 
@@ -135,8 +147,10 @@ void NavigationBarView::ShowContent()
     for (int button = 1; button <= 4; ++button)
         offered.at(static_cast<std::size_t>(button - 1)) = GetModel().Offers(button);
     const QString text = FromText(GetModel().ShownText());
-    Shown().Show(text, offered);
+    Shown().Show(text, offered, GetModel().CurrentButton());
     Shown().setAccessibleDescription(text);
 }
+
+void NavigationBarView::ShowSelection() { Shown().Reach(GetModel().CurrentButton()); }
 
 } // namespace kova::qt

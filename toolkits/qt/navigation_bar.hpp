@@ -18,23 +18,28 @@ class NavigationWindow : public PlainPanel {
 public:
     explicit NavigationWindow(QWidget* parent);
 
-    void Show(const QString& text, const std::array<bool, 4>& offered);
+    /// `current` is the button that has the bar's focus, 0 is none.
+    void Show(const QString& text, const std::array<bool, 4>& offered, int current);
     FlatButton& Button(int number) const { return *buttons_.at(static_cast<std::size_t>(number - 1)); }
     QLabel& Numbers() const { return *numbers_; }
-    void FocusButton();
+    void Reach(int current);
+    bool HoldsFocus() const;
 
     /// The user pressed a button, 1 to 4.
     std::function<void(int button)> pressed;
+    std::function<void(bool right)> walked;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
-    void Walk(int from, int step);
+    void FocusCurrent();
 
     std::array<FlatButton*, 4> buttons_{};
+    int current_ = 0;
     QLabel* numbers_;
 };
 
@@ -45,6 +50,7 @@ public:
 
 protected:
     void ShowContent() override;
+    void ShowSelection() override;
 };
 
 } // namespace kova::qt

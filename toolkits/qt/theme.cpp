@@ -25,6 +25,7 @@ const QColor BorderUnderMouse(160, 168, 178);
 const QColor Accent(38, 110, 224);
 const QColor AccentTint(232, 240, 254);
 const QColor Rule(226, 229, 233);
+const QColor Refusal(196, 32, 32);
 } // namespace look
 
 namespace {

@@ -48,6 +48,8 @@ extern const QColor BorderUnderMouse;
 extern const QColor Accent;
 extern const QColor AccentTint;
 extern const QColor Rule;
+/// A text that cannot stand.
+extern const QColor Refusal;
 inline constexpr double CornerRadius = 4.0;
 } // namespace look
 

@@ -26,6 +26,7 @@ public:
     /// The window over which another one opens: the active one, else the host's main window. May be null.
     QWidget* WindowBelow(const QWidget* except) const;
     Date Today() const { return clock_.Now().date; }
+    Double Seconds() const override { return clock_.Timer(); }
 
     void ProcessPendingEvents() override;
     Twips ScreenWidth() const override;

@@ -1,6 +1,5 @@
 #include "toolkits/qt/widget_view.hpp"
 
-#include "toolkits/common/edit_core.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/form.hpp"
@@ -41,24 +40,21 @@ public:
         if (event->type() != QEvent::FocusIn || core_.HasFocus())
             return false;
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason
-            || reason == Qt::TabFocusReason)
-            Forward(reason);
+        if (reason == Qt::MouseFocusReason)
+            Forward(toolkit::Entry::Press);
+        else if (reason == Qt::ShortcutFocusReason || reason == Qt::TabFocusReason)
+            Forward(toolkit::Entry::Key);
         return false;
     }
 
 private:
-    // Qt has moved its focus already, which a form that takes no input has not wanted. A mnemonic enters a
-    // field as Tab does: its text is selected.
-    void Forward(Qt::FocusReason reason)
+    // Qt has moved its focus already, which a form that takes no input has not wanted.
+    void Forward(toolkit::Entry entry)
     {
         toolkit::WidgetCore& core = core_;
-        core.UserFocuses();
-        auto* edit = dynamic_cast<toolkit::EditCore*>(&core);
+        core.UserFocuses(entry);
         if (!core.HasFocus())
             ShowFocusOf(core.GetForm());
-        else if (edit && reason == Qt::ShortcutFocusReason)
-            edit->UserSelectsAll();
     }
 
     toolkit::WidgetCore& core_;
@@ -203,10 +199,21 @@ QString AccessibleNameOf(const toolkit::WidgetCore& core)
 QString ToolTipOf(const Text& text)
 {
     constexpr int longestLine = 60;
-    const QString plain = Lines(text);
-    if (plain.size() <= longestLine)
-        return plain;
-    return QStringLiteral("<p>") + plain.toHtmlEscaped() + QStringLiteral("</p>");
+    QString lines;
+    qsizetype length = 0;
+    for (const QString& line : Lines(text).split(QLatin1Char('\n'))) {
+        if (!lines.isEmpty())
+            lines += QLatin1Char('\n');
+        length = 0;
+        for (const QString& word : line.split(QLatin1Char(' '))) {
+            const bool breaks = length > 0 && length + 1 + word.size() > longestLine;
+            if (length > 0)
+                lines += breaks ? QLatin1Char('\n') : QLatin1Char(' ');
+            lines += word;
+            length = breaks ? word.size() : length + word.size() + (length > 0 ? 1 : 0);
+        }
+    }
+    return lines;
 }
 
 } // namespace kova::qt

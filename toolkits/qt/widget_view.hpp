@@ -74,7 +74,7 @@ void ShowFocusOf(const toolkit::FormModel& form);
 /// its tool tip.
 QString AccessibleNameOf(const toolkit::WidgetCore& core);
 
-/// A tool tip as Qt shows it: long ones break into lines.
+/// A tool tip as Qt shows it: long ones break into lines, without marks that a screen reader would read.
 QString ToolTipOf(const Text& text);
 
 } // namespace kova::qt

@@ -121,6 +121,54 @@ TEST_P(NavigationBar, TellsWhichButtonWasPressedAndChangesNoNumber)
     EXPECT_EQ(User().BarText(*bar_), "16 - 30 de 45");
 }
 
+TEST_P(NavigationBar, KeepsTheFocusOnTheButtonThatWasPressed)
+{
+    Write(1, 15, 42);
+    bar_->Refresh();
+    User().PressBar(*bar_, 3);
+    Write(16, 30, 42);
+    bar_->Refresh();
+    EXPECT_EQ(User().ButtonWithFocus(*bar_), 3);
+    TakeEvents();
+    User().Key(*form_, FormKey::Enter);
+    EXPECT_EQ(TakeEvents(), (Events{"click 3"}));
+}
+
+TEST_P(NavigationBar, ComesBackToItsButtonWhenThatIsOfferedAgain)
+{
+    Write(16, 30, 42);
+    bar_->Refresh();
+    User().PressBar(*bar_, 3);
+    Write(0, 0, 0);
+    bar_->Refresh();
+    EXPECT_EQ(User().ButtonWithFocus(*bar_), 0);
+    EXPECT_EQ(Focused(), "kvnb");
+    Write(31, 42, 42);
+    bar_->Refresh();
+    TakeEvents();
+    User().Key(*form_, FormKey::Enter);
+    EXPECT_EQ(TakeEvents(), Events());
+    User().WalkBar(*bar_, false);
+    EXPECT_EQ(User().ButtonWithFocus(*bar_), 2);
+    Write(16, 30, 42);
+    bar_->Refresh();
+    User().WalkBar(*bar_, true);
+    EXPECT_EQ(User().ButtonWithFocus(*bar_), 3);
+}
+
+TEST_P(NavigationBar, StartsAtTheFirstButtonOnOfferAndStaysInsideByArrowKeys)
+{
+    Write(1, 15, 42);
+    bar_->Refresh();
+    bar_->SetFocus();
+    EXPECT_EQ(User().ButtonWithFocus(*bar_), 3);
+    User().WalkBar(*bar_, false);
+    EXPECT_EQ(User().ButtonWithFocus(*bar_), 3);
+    User().WalkBar(*bar_, true);
+    User().WalkBar(*bar_, true);
+    EXPECT_EQ(User().ButtonWithFocus(*bar_), 4);
+}
+
 TEST_P(NavigationBar, TakesNoPressOfAButtonThatIsNotOffered)
 {
     Write(1, 15, 42);

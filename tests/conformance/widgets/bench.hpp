@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
+#include "toolkits/common/combo_box.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/grid.hpp"
 
@@ -60,6 +61,8 @@ public:
     virtual void PressBySpace(Widget& button) = 0;
     virtual void PressFind(KVFind& box) = 0;
     virtual void PressBar(KVNavigationBar& bar, int button) = 0;
+    /// An arrow key at a bar that has the focus.
+    virtual void WalkBar(KVNavigationBar& bar, bool right) = 0;
     virtual void Key(Form& form, toolkit::FormKey key) = 0;
     /// A key such as "F4" or "Ctrl+1".
     virtual void Shortcut(Form& form, const std::string& key) = 0;
@@ -79,8 +82,11 @@ public:
     virtual void Choose(KVComboBox& combo, int row) = 0;
     /// Opens the list and leaves it without choosing; answers the rows seen, none where it did not open.
     virtual std::vector<std::string> LookAtList(KVComboBox& combo) = 0;
-    /// Chooses by an arrow key, one row up or down.
-    virtual void StepTo(KVComboBox& combo, int row) = 0;
+    /// A key, or letters, at a combo that has the focus: its field, or its list where that is open.
+    virtual void ComboKey(KVComboBox& combo, toolkit::ComboKey key) = 0;
+    virtual void TypeLetters(KVComboBox& combo, const std::string& letters) = 0;
+    /// The desk's clock goes on.
+    virtual void PassTime(Double seconds) = 0;
     virtual void Pick(KVDTPicker& box, Date date) = 0;
     virtual void HoverAt(MSFlexGrid& grid, Twips x, Twips y) = 0;
     virtual void ClickAt(MSFlexGrid& grid, Twips x, Twips y) = 0;
@@ -98,6 +104,12 @@ public:
     /// Text of a box, combo, label or button as it is drawn.
     virtual std::string ShownText(Widget& widget) = 0;
     virtual std::string SelectedText(Widget& box) = 0;
+    /// Whether a date or time box shows its text as one that cannot stand.
+    virtual bool ShowsNonsense(Widget& box) = 0;
+    /// The marked row of a combo's open list, "none" where none is marked, "shut" where it is not open.
+    virtual std::string MarkedRow(KVComboBox& combo) = 0;
+    /// The button of a bar that has the focus; 0 where none has.
+    virtual int ButtonWithFocus(KVNavigationBar& bar) = 0;
     /// Whether the button of a find box shows the magnifier; else it shows the cross.
     virtual bool ShowsMagnifier(KVFind& box) = 0;
     virtual bool Offers(KVNavigationBar& bar, int button) = 0;

@@ -2,6 +2,8 @@
 
 namespace kova::conformance {
 
+using Key = toolkit::ComboKey;
+
 class ComboBox : public WidgetsTest {
 protected:
     void SetUp() override
@@ -221,14 +223,185 @@ TEST_P(ComboBox, DoesNotOpenWhereDropDownShutsIt)
     EXPECT_EQ(combo_->ListIndex(), -1);
 }
 
-TEST_P(ComboBox, RaisesClickWhereAnArrowKeyChooses)
+TEST_P(ComboBox, OpensItsListByAnArrowKeyAndRaisesClickForTheRowTakenOnly)
 {
     Fill();
     combo_->ListIndex(1);
+    combo_->SetFocus();
     TakeEvents();
-    User().StepTo(*combo_, 2);
-    User().StepTo(*combo_, 1);
-    EXPECT_EQ(TakeEvents(), (Events{"click 2 'Ave'", "click 1 'Felina'"}));
+    User().ComboKey(*combo_, Key::Down);
+    EXPECT_EQ(User().MarkedRow(*combo_), "1");
+    User().ComboKey(*combo_, Key::Down);
+    User().ComboKey(*combo_, Key::Down);
+    User().ComboKey(*combo_, Key::Down);
+    User().ComboKey(*combo_, Key::Up);
+    EXPECT_EQ(User().MarkedRow(*combo_), "2");
+    EXPECT_EQ(TakeEvents(), (Events{"drop"}));
+    EXPECT_EQ(combo_->ListIndex(), 1);
+    User().ComboKey(*combo_, Key::Take);
+    EXPECT_EQ(TakeEvents(), (Events{"click 2 'Ave'"}));
+    EXPECT_EQ(User().MarkedRow(*combo_), "shut");
+    EXPECT_EQ(Focused(), "kvcmb");
+}
+
+TEST_P(ComboBox, OpensItsListByEveryKeyThatWalksInIt)
+{
+    Fill();
+    combo_->SetFocus();
+    for (const Key key : {Key::Up, Key::PageUp, Key::PageDown, Key::Home, Key::End, Key::Open}) {
+        TakeEvents();
+        User().ComboKey(*combo_, key);
+        EXPECT_EQ(TakeEvents(), (Events{"drop"}));
+        EXPECT_EQ(User().MarkedRow(*combo_), "none");
+        User().ComboKey(*combo_, Key::Leave);
+    }
+    EXPECT_EQ(TakeEvents(), Events());
+}
+
+TEST_P(ComboBox, WalksToTheEndsOfItsListAndByPages)
+{
+    for (int row = 0; row < 30; ++row)
+        combo_->AddItem("Linha");
+    combo_->SetFocus();
+    User().ComboKey(*combo_, Key::Open);
+    const std::vector<std::pair<Key, const char*>> walk{
+        {Key::End, "29"}, {Key::PageUp, "17"}, {Key::PageUp, "5"},    {Key::PageUp, "0"},
+        {Key::Up, "0"},   {Key::Down, "1"},    {Key::PageDown, "13"}, {Key::Home, "0"},
+    };
+    for (const auto& [key, row] : walk) {
+        User().ComboKey(*combo_, key);
+        EXPECT_EQ(User().MarkedRow(*combo_), row);
+    }
+}
+
+TEST_P(ComboBox, KeepsItsRowWhereTheListIsLeftByEscape)
+{
+    Fill();
+    combo_->ListIndex(1);
+    combo_->SetFocus();
+    TakeEvents();
+    User().ComboKey(*combo_, Key::Open);
+    User().ComboKey(*combo_, Key::End);
+    User().ComboKey(*combo_, Key::Leave);
+    EXPECT_EQ(TakeEvents(), (Events{"drop"}));
+    EXPECT_EQ(combo_->ListIndex(), 1);
+    User().ComboKey(*combo_, Key::Open);
+    EXPECT_EQ(User().MarkedRow(*combo_), "1");
+}
+
+TEST_P(ComboBox, TakesNothingByEnterWhereNoRowIsMarked)
+{
+    Fill();
+    combo_->SetFocus();
+    TakeEvents();
+    User().ComboKey(*combo_, Key::Open);
+    User().ComboKey(*combo_, Key::Take);
+    EXPECT_EQ(TakeEvents(), (Events{"drop"}));
+    EXPECT_EQ(User().MarkedRow(*combo_), "shut");
+}
+
+TEST_P(ComboBox, DoesNotOpenWhereThereAreNoRows)
+{
+    EXPECT_EQ(User().LookAtList(*combo_), Events());
+    combo_->SetFocus();
+    User().ComboKey(*combo_, Key::Down);
+    EXPECT_EQ(User().MarkedRow(*combo_), "shut");
+    EXPECT_EQ(TakeEvents(), (Events{"drop", "drop"}));
+    Fill();
+    User().ComboKey(*combo_, Key::Down);
+    EXPECT_EQ(User().MarkedRow(*combo_), "none");
+}
+
+TEST_P(ComboBox, ClosesItsListWhereItLosesTheFocusOrItsRows)
+{
+    Fill();
+    combo_->SetFocus();
+    User().ComboKey(*combo_, Key::Open);
+    Get<KVTextBox>("kvtxt").SetFocus();
+    EXPECT_EQ(User().MarkedRow(*combo_), "shut");
+    combo_->SetFocus();
+    User().ComboKey(*combo_, Key::Open);
+    combo_->Clear();
+    EXPECT_EQ(User().MarkedRow(*combo_), "shut");
+}
+
+TEST_P(ComboBox, TakesLettersOfOneSecondAsOneText)
+{
+    for (const char* breed : {"Labrador", "Pastor", "Poodle", "Pug"})
+        combo_->AddItem(breed);
+    combo_->SetFocus();
+    User().TypeLetters(*combo_, "poodle");
+    EXPECT_EQ(TakeEvents(), (Events{"click 1 'Pastor'", "click 2 'Poodle'"}));
+    User().PassTime(1.1);
+    User().TypeLetters(*combo_, "l");
+    EXPECT_EQ(combo_->Text(), "Labrador");
+}
+
+TEST_P(ComboBox, LooksForLettersAtTheBeginningsFirstAndThenInside)
+{
+    for (const char* service : {"Tosa e banho", "Banho", "Hidratação"})
+        combo_->AddItem(service);
+    combo_->SetFocus();
+    User().TypeLetters(*combo_, "ban");
+    EXPECT_EQ(combo_->ListIndex(), 1);
+    User().PassTime(2);
+    User().TypeLetters(*combo_, "e b");
+    EXPECT_EQ(combo_->ListIndex(), 0);
+    User().PassTime(2);
+    User().TypeLetters(*combo_, "ÇÃO");
+    EXPECT_EQ(combo_->ListIndex(), 2);
+    User().PassTime(2);
+    User().TypeLetters(*combo_, "hidratacao");
+    EXPECT_EQ(combo_->ListIndex(), 2);
+}
+
+TEST_P(ComboBox, KeepsItsRowWhereNoRowHoldsTheLetters)
+{
+    Fill();
+    combo_->ListIndex(2);
+    combo_->SetFocus();
+    TakeEvents();
+    User().TypeLetters(*combo_, "xf");
+    EXPECT_EQ(TakeEvents(), Events());
+    EXPECT_EQ(User().ShownText(*combo_), "Ave");
+}
+
+TEST_P(ComboBox, GoesAlongTheRowsThatBeginWithALetterTypedAgain)
+{
+    Fill();
+    combo_->SetFocus();
+    TakeEvents();
+    for (int round = 0; round < 3; ++round) {
+        User().TypeLetters(*combo_, "f");
+        User().PassTime(2);
+    }
+    EXPECT_EQ(TakeEvents(), (Events{"click 1 'Felina'", "click 3 'Felina'", "click 1 'Felina'"}));
+}
+
+TEST_P(ComboBox, MarksTheRowOfTheLettersInItsOpenList)
+{
+    Fill();
+    combo_->SetFocus();
+    User().ComboKey(*combo_, Key::Open);
+    TakeEvents();
+    User().TypeLetters(*combo_, "av");
+    EXPECT_EQ(User().MarkedRow(*combo_), "2");
+    EXPECT_EQ(TakeEvents(), Events());
+    User().ComboKey(*combo_, Key::Take);
+    EXPECT_EQ(TakeEvents(), (Events{"click 2 'Ave'"}));
+}
+
+TEST_P(ComboBox, OpensItsListByTheSpaceBarUnlessAWordIsBeingTyped)
+{
+    combo_->AddItem("Banho");
+    combo_->AddItem("Banho e tosa");
+    combo_->SetFocus();
+    User().TypeLetters(*combo_, "banho e");
+    EXPECT_EQ(combo_->ListIndex(), 1);
+    EXPECT_EQ(User().MarkedRow(*combo_), "shut");
+    User().PassTime(2);
+    User().TypeLetters(*combo_, " ");
+    EXPECT_EQ(User().MarkedRow(*combo_), "1");
 }
 
 TEST_P(ComboBox, RaisesLostFocusWhereTheUserGoesOn)

@@ -209,6 +209,80 @@ TEST_P(FocusOrder, SelectsBackToTheStartByTheKeysSent)
     EXPECT_EQ(FailureOf([this] { Kit().SendKeys("{TAB}"); }), 5);
 }
 
+class EnteredBox : public WidgetsTest {
+protected:
+    void SetUp() override
+    {
+        Has(WidgetKind::KVTextBox, "a").text = "Maria";
+        Has(WidgetKind::KVFind, "b").text = "Rex";
+        Has(WidgetKind::KVTextBox, "c").shortcut = "F6";
+        Has(WidgetKind::KVCommandButton, "d").shortcut = "F7";
+        Open();
+        a_ = &Get<KVTextBox>("a");
+        b_ = &Get<KVFind>("b");
+        Get<KVTextBox>("c").Text("José");
+    }
+
+    KVTextBox* a_ = nullptr;
+    KVFind* b_ = nullptr;
+};
+KOVA_ON_EVERY_BENCH(EnteredBox);
+
+TEST_P(EnteredBox, IsSelectedWholeWhereItComesByTabOrIsTheFirstOfItsForm)
+{
+    EXPECT_EQ(User().SelectedText(*a_), "Maria");
+    User().Key(*form_, FormKey::Tab);
+    EXPECT_EQ(User().SelectedText(*b_), "Rex");
+    User().TypeOn(*b_, "Bob");
+    EXPECT_EQ(b_->Text(), "Bob");
+    User().Key(*form_, FormKey::BackTab);
+    EXPECT_EQ(User().SelectedText(*a_), "Maria");
+}
+
+TEST_P(EnteredBox, IsSelectedWholeByCodeByItsKeyAndByEnter)
+{
+    b_->SetFocus();
+    EXPECT_EQ(User().SelectedText(*b_), "Rex");
+    User().Shortcut(*form_, "F6");
+    EXPECT_EQ(User().SelectedText(Get<KVTextBox>("c")), "José");
+    a_->SetFocus();
+    b_->Status(find_status::Found);
+    User().Key(*form_, FormKey::Enter);
+    EXPECT_EQ(Focused(), "b");
+    EXPECT_EQ(User().SelectedText(*b_), "Rex");
+}
+
+TEST_P(EnteredBox, IsNotSelectedByAPressOfTheMouse)
+{
+    User().Focus(*b_);
+    EXPECT_EQ(Focused(), "b");
+    EXPECT_EQ(User().SelectedText(*b_), "");
+}
+
+TEST_P(EnteredBox, KeepsItsCaretWhereAButtonWasPressedByKey)
+{
+    User().Focus(*b_);
+    User().PasteAtEnd(*b_, "");
+    User().Shortcut(*form_, "F7");
+    EXPECT_EQ(Focused(), "b");
+    User().TypeOn(*b_, "y");
+    EXPECT_EQ(b_->Text(), "Rexy");
+}
+
+TEST_P(EnteredBox, LeavesWhatItsHandlersSelectOrWrite)
+{
+    a_->OnLostFocus([this] { b_->Text("Bob da Silva"); });
+    User().Key(*form_, FormKey::Tab);
+    EXPECT_EQ(User().SelectedText(*b_), "Bob da Silva");
+    b_->OnLostFocus([this] {
+        b_->SetFocus();
+        b_->Text("Rex");
+    });
+    User().Key(*form_, FormKey::Tab);
+    EXPECT_EQ(Focused(), "b");
+    EXPECT_EQ(User().SelectedText(*b_), "");
+}
+
 class DefaultButton : public WidgetsTest { };
 KOVA_ON_EVERY_BENCH(DefaultButton);
 

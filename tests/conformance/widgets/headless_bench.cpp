@@ -102,6 +102,10 @@ public:
     }
     void PressFind(KVFind& box) override { user_.Press(FormOf(box), NameOf(box)); }
     void PressBar(KVNavigationBar& bar, int button) override { user_.Bar(FormOf(bar), NameOf(bar), button); }
+    void WalkBar(KVNavigationBar& bar, bool right) override
+    {
+        dynamic_cast<toolkit::NavigationBarModel&>(bar).UserWalks(right);
+    }
     void Key(Form& form, toolkit::FormKey key) override { user_.PressKey(form.Name(), key); }
     void Shortcut(Form& form, const std::string& key) override { user_.PressShortcut(form.Name(), key); }
     void CloseWindow(Form& form) override { user_.CloseForm(form.Name()); }
@@ -128,6 +132,8 @@ public:
     }
     void PasteAtEnd(Widget& box, const std::string& text) override
     {
+        const std::size_t end = toolkit::ToCharacters(Edit(box).ShownText()).size();
+        Edit(box).UserSelects(end, end);
         Edit(box).UserEdits(Edit(box).ShownText() + text);
     }
 
@@ -139,13 +145,20 @@ public:
         if (model.UserOpensList()) {
             for (const auto& row : model.ShownRows())
                 rows.push_back(row.text);
+            model.UserPressesKey(toolkit::ComboKey::Leave);
         }
         return rows;
     }
-    void StepTo(KVComboBox& combo, int row) override
+    void ComboKey(KVComboBox& combo, toolkit::ComboKey key) override
     {
-        dynamic_cast<toolkit::ComboBoxModel&>(combo).UserChooses(static_cast<Integer>(row));
+        dynamic_cast<toolkit::ComboBoxModel&>(combo).UserPressesKey(key);
     }
+    void TypeLetters(KVComboBox& combo, const std::string& letters) override
+    {
+        for (const char32_t letter : toolkit::ToCharacters(letters))
+            dynamic_cast<toolkit::ComboBoxModel&>(combo).UserTypes(letter);
+    }
+    void PassTime(Double seconds) override { toolkit_.Clock().Advance(seconds); }
     void Pick(KVDTPicker& box, Date date) override { user_.Pick(FormOf(box), NameOf(box), date); }
 
     void HoverAt(MSFlexGrid& grid, Twips x, Twips y) override
@@ -186,6 +199,22 @@ public:
         const auto selection = Edit(box).ShownSelection();
         const auto [first, last] = std::minmax(selection.anchor, selection.caret);
         return toolkit::ToText(toolkit::ToCharacters(Edit(box).ShownText()).substr(first, last - first));
+    }
+    bool ShowsNonsense(Widget& box) override
+    {
+        return dynamic_cast<toolkit::MaskEditCore&>(box).ShowsNonsense();
+    }
+    std::string MarkedRow(KVComboBox& combo) override
+    {
+        const auto& model = dynamic_cast<toolkit::ComboBoxModel&>(combo);
+        if (!model.IsListOpen())
+            return "shut";
+        return model.MarkedRow() < 0 ? "none" : std::to_string(model.MarkedRow());
+    }
+    int ButtonWithFocus(KVNavigationBar& bar) override
+    {
+        const auto& model = dynamic_cast<toolkit::NavigationBarModel&>(bar);
+        return model.HasFocus() ? model.CurrentButton() : 0;
     }
     bool ShowsMagnifier(KVFind& box) override
     {

@@ -65,9 +65,60 @@ TEST_P(DateBox, RaisesChangeOnceWhereTypingCompletesADate)
     EXPECT_EQ(TakeEvents(), Events());
     User().TypeOn(*box_, "6");
     EXPECT_EQ(TakeEvents(), (Events{"change 20/11/2026"}));
-    User().TypeOn(*box_, "9");
-    EXPECT_EQ(TakeEvents(), Events());
     EXPECT_EQ(box_->Text(), "20/11/2026");
+}
+
+TEST_P(DateBox, IsBegunAnewByADigitBehindACompleteText)
+{
+    Enter();
+    User().Type(*box_, "31022026");
+    User().TypeOn(*box_, "2");
+    EXPECT_EQ(box_->Text(), "2_/__/____");
+    EXPECT_EQ(TakeEvents(), Events());
+    User().TypeOn(*box_, "8022026");
+    EXPECT_EQ(TakeEvents(), (Events{"change 28/02/2026"}));
+}
+
+TEST_P(DateBox, IsSelectedByThePressThatEntersIt)
+{
+    box_->Text("20/11/2026");
+    Enter();
+    EXPECT_EQ(User().SelectedText(*box_), "20/11/2026");
+    User().TypeOn(*box_, "03122026");
+    EXPECT_EQ(box_->Text(), "03/12/2026");
+    EXPECT_EQ(TakeEvents(), (Events{"change 03/12/2026"}));
+}
+
+TEST_P(DateBox, IsPointedAtByTheNextPress)
+{
+    box_->Text("20/11/2026");
+    Enter();
+    User().Focus(*box_);
+    EXPECT_EQ(TakeEvents(), Events());
+    EXPECT_EQ(Focused(), "kvdtp");
+}
+
+TEST_P(DateBox, TakesNoMoreOfAPastedTextThanItsMaskHolds)
+{
+    Enter();
+    User().PasteAtEnd(*box_, "20/11/2026 10:15");
+    EXPECT_EQ(box_->Text(), "20/11/2026");
+}
+
+TEST_P(DateBox, TellsACompleteTextThatIsNoDate)
+{
+    const std::vector<std::pair<const char*, bool>> texts{
+        {"", false},          {"31/02/2026", true}, {"28/02/2026", false}, {"31/02/____", false},
+        {"01/01/3000", true}, {"31/12/1899", true}, {"amanhã", true},
+    };
+    for (const auto& [text, isNonsense] : texts) {
+        box_->Text(text);
+        EXPECT_EQ(User().ShowsNonsense(*box_), isNonsense) << text;
+    }
+    User().Type(*box_, "31022026");
+    EXPECT_TRUE(User().ShowsNonsense(*box_));
+    User().Backspace(*box_);
+    EXPECT_FALSE(User().ShowsNonsense(*box_));
 }
 
 TEST_P(DateBox, RaisesNoChangeForAnImpossibleDate)
@@ -194,9 +245,33 @@ TEST_P(TimeBox, FillsItsMaskFromTheLeft)
 {
     User().Type(*box_, "0:8h3");
     EXPECT_EQ(box_->Text(), "08:3_");
-    User().TypeOn(*box_, "05");
+    User().TypeOn(*box_, "0");
     EXPECT_EQ(box_->Text(), "08:30");
     EXPECT_EQ(User().ShownText(*box_), "08:30");
+    User().TypeOn(*box_, "1");
+    EXPECT_EQ(box_->Text(), "1_:__");
+}
+
+TEST_P(TimeBox, IsTypedAnewWhereALostFocusTakesTheFocusBack)
+{
+    User().Type(*box_, "0700");
+    box_->OnLostFocus([this] { box_->SetFocus(); });
+    User().Key(*form_, FormKey::Tab);
+    EXPECT_EQ(Focused(), "kvtim");
+    EXPECT_EQ(User().SelectedText(*box_), "07:00");
+    User().TypeOn(*box_, "1630");
+    EXPECT_EQ(box_->Text(), "16:30");
+}
+
+TEST_P(TimeBox, TellsACompleteTextThatIsNoTime)
+{
+    const std::vector<std::pair<const char*, bool>> texts{
+        {"", false}, {"25:00", true}, {"23:59", false}, {"24:00", true}, {"25:0_", false}, {"8:30", true},
+    };
+    for (const auto& [text, isNonsense] : texts) {
+        box_->Text(text);
+        EXPECT_EQ(User().ShowsNonsense(*box_), isNonsense) << text;
+    }
 }
 
 TEST_P(TimeBox, LosesDigitsByBackspaceAndKeepsItsMask)

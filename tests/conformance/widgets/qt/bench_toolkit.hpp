@@ -5,11 +5,15 @@
 
 namespace kova::conformance {
 
-/// A clock that stands still.
+/// A clock that stands still until it is told to go on.
 class BenchClock final : public Clock {
 public:
     DateTime Now() const override { return {{2026, 11, 20}, {10, 15, 0}}; }
-    Double Timer() const override { return 36900; }
+    Double Timer() const override { return timer_; }
+    void Advance(Double seconds) { timer_ += seconds; }
+
+private:
+    Double timer_ = 36900;
 };
 
 /// The toolkit with a person who acts, as the script says, inside the event loops of modal forms, menus

@@ -49,6 +49,10 @@ public:
     }
     void PressFind(KVFind& box) override;
     void PressBar(KVNavigationBar& bar, int button) override { ClickOn(&BarOf(bar).Button(button)); }
+    void WalkBar(KVNavigationBar& bar, bool right) override
+    {
+        KeyOn(WindowOf(bar), right ? Qt::Key_Right : Qt::Key_Left);
+    }
     void Key(Form& form, FormKey key) override;
     void Shortcut(Form& form, const std::string& key) override;
     void CloseWindow(Form& form) override { WindowOf(form)->close(); }
@@ -74,7 +78,9 @@ public:
 
     void Choose(KVComboBox& combo, int row) override;
     std::vector<std::string> LookAtList(KVComboBox& combo) override;
-    void StepTo(KVComboBox& combo, int row) override;
+    void ComboKey(KVComboBox& combo, toolkit::ComboKey key) override;
+    void TypeLetters(KVComboBox& combo, const std::string& letters) override;
+    void PassTime(Double seconds) override { clock_.Advance(seconds); }
     void Pick(KVDTPicker& box, Date date) override;
 
     void HoverAt(MSFlexGrid& grid, Twips x, Twips y) override { MoveOver(WindowOf(grid), PixelOf(x, y)); }
@@ -89,6 +95,12 @@ public:
     std::string Focused(Form& form) override;
     std::string ShownText(Widget& widget) override;
     std::string SelectedText(Widget& box) override { return qt::ToText(EditorOf(box).selectedText()); }
+    bool ShowsNonsense(Widget& box) override
+    {
+        return EditorOf(box).palette().color(QPalette::Text) == qt::look::Refusal;
+    }
+    std::string MarkedRow(KVComboBox& combo) override;
+    int ButtonWithFocus(KVNavigationBar& bar) override;
     bool ShowsMagnifier(KVFind& box) override { return FrameOf(box).EndIcon() == "lupa"; }
     bool Offers(KVNavigationBar& bar, int button) override { return BarOf(bar).Button(button).isEnabled(); }
     std::string BarText(KVNavigationBar& bar) override { return qt::ToText(BarOf(bar).Numbers().text()); }
@@ -217,10 +229,46 @@ std::vector<std::string> QtBench::LookAtList(KVComboBox& combo)
     return rows;
 }
 
-void QtBench::StepTo(KVComboBox& combo, int row)
+void QtBench::ComboKey(KVComboBox& combo, toolkit::ComboKey key)
 {
-    combo.SetFocus();
-    KeyInside(combo, row > combo.ListIndex() ? Qt::Key_Down : Qt::Key_Up);
+    using toolkit::ComboKey;
+    static const std::map<ComboKey, Qt::Key> keys = {
+        {ComboKey::Open, Qt::Key_F4},           {ComboKey::Up, Qt::Key_Up},
+        {ComboKey::Down, Qt::Key_Down},         {ComboKey::PageUp, Qt::Key_PageUp},
+        {ComboKey::PageDown, Qt::Key_PageDown}, {ComboKey::Home, Qt::Key_Home},
+        {ComboKey::End, Qt::Key_End},           {ComboKey::Take, Qt::Key_Return},
+        {ComboKey::Leave, Qt::Key_Escape}};
+    if (QListWidget* list = FieldOf(combo).List())
+        KeyOn(list, keys.at(key));
+    else
+        KeyInside(combo, keys.at(key));
+}
+
+void QtBench::TypeLetters(KVComboBox& combo, const std::string& letters)
+{
+    for (const QChar letter : qt::FromText(letters)) {
+        if (QListWidget* list = FieldOf(combo).List())
+            TypeOnKeys(list, letter);
+        else if (Reached(combo))
+            TypeOnKeys(WindowOf(combo), letter);
+    }
+}
+
+std::string QtBench::MarkedRow(KVComboBox& combo)
+{
+    const QListWidget* list = FieldOf(combo).List();
+    if (!list)
+        return "shut";
+    return list->currentRow() < 0 ? "none" : std::to_string(list->currentRow());
+}
+
+int QtBench::ButtonWithFocus(KVNavigationBar& bar)
+{
+    for (const int button : {1, 2, 3, 4}) {
+        if (BarOf(bar).window()->focusWidget() == &BarOf(bar).Button(button))
+            return button;
+    }
+    return 0;
 }
 
 void QtBench::Pick(KVDTPicker& box, Date date)
