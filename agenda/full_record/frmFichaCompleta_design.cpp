@@ -81,7 +81,8 @@ std::vector<ControlDesign> Cliente()
     return {
         SecaoDaFicha("lblCliente", "Cliente*", TopoDoCliente),
         RotuloDaFicha("lblCodigoDoCliente", "&Codigo", "kvfCodigoDoCliente", Margem, PrimeiraLinhaDoCliente),
-        CampoDeCodigo("kvfCodigoDoCliente", Margem, PrimeiraLinhaDoCliente, larguraDoCodigo),
+        ComNomeAcessivel(CampoDeCodigo("kvfCodigoDoCliente", Margem, PrimeiraLinhaDoCliente, larguraDoCodigo),
+                         "Código do cliente"),
         RotuloDaFicha("lblApelidoOuNomeFantasiaDoCliente", "&Apelido ou nome fantasia",
                       "kvfApelidoOuNomeFantasiaDoCliente", esquerdaDoApelido, PrimeiraLinhaDoCliente),
         CampoDaFicha(Kind::KVFind, "kvfApelidoOuNomeFantasiaDoCliente", esquerdaDoApelido,
@@ -116,7 +117,8 @@ std::vector<ControlDesign> Animal()
     return {
         SecaoDaFicha("lblAnimal", "Animal*", TopoDoAnimal),
         RotuloDaFicha("lblNomeDoAnimal", "N&ome", "kvcmbAnimal", Margem, LinhaDoAnimal),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbAnimal", Margem, LinhaDoAnimal, larguraDoNome),
+        ComNomeAcessivel(CampoDaFicha(Kind::KVComboBox, "kvcmbAnimal", Margem, LinhaDoAnimal, larguraDoNome),
+                         "Nome do animal"),
         ComNomeAcessivel(pesquisa, "Animal"),
         RotuloDaFicha("lblSexoDoAnimal", "Sexo", "kvtxtSexoDoAnimal", esquerdaDoSexo, LinhaDoAnimal),
         CampoSomenteLeitura("kvtxtSexoDoAnimal", esquerdaDoSexo, LinhaDoAnimal, larguraDoSexo, 50),
@@ -138,14 +140,19 @@ std::vector<ControlDesign> Servico()
     return {
         SecaoDaFicha("lblServico", "Serviço*", TopoDoServico),
         RotuloDaFicha("lblTipoDoServico", "&Tipo", "kvcmbTiposDeServicos", Margem, PrimeiraLinhaDoServico),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbTiposDeServicos", Margem, PrimeiraLinhaDoServico, larguraDoTipo),
+        ComNomeAcessivel(CampoDaFicha(Kind::KVComboBox, "kvcmbTiposDeServicos", Margem,
+                                      PrimeiraLinhaDoServico, larguraDoTipo),
+                         "Tipo de serviço"),
         RotuloDaFicha("lblCodigoDoServico", "Codi&go", "kvfCodigoDoServico", EsquerdaDeReagendar,
                       PrimeiraLinhaDoServico),
-        CampoDeCodigo("kvfCodigoDoServico", EsquerdaDeReagendar, PrimeiraLinhaDoServico, larguraDoCodigo),
+        ComNomeAcessivel(
+            CampoDeCodigo("kvfCodigoDoServico", EsquerdaDeReagendar, PrimeiraLinhaDoServico, larguraDoCodigo),
+            "Código do serviço"),
         RotuloDaFicha("lblNomeDoServico", "No&me", "kvfNomeDoServico", esquerdaDoNome,
                       PrimeiraLinhaDoServico),
-        CampoDaFicha(Kind::KVFind, "kvfNomeDoServico", esquerdaDoNome, PrimeiraLinhaDoServico,
-                     BordaDireita - esquerdaDoNome),
+        ComNomeAcessivel(CampoDaFicha(Kind::KVFind, "kvfNomeDoServico", esquerdaDoNome,
+                                      PrimeiraLinhaDoServico, BordaDireita - esquerdaDoNome),
+                         "Nome do serviço"),
     };
 }
 

@@ -50,7 +50,8 @@ std::vector<ControlDesign> Animal()
     return {
         SecaoDaFicha("lblAnimal", "Animal*", TopoDoAnimal),
         RotuloDaFicha("lblNomeDoAnimal", "N&ome", "kvtxtNomeDoAnimal", Margem, linha),
-        CampoDeTexto("kvtxtNomeDoAnimal", Margem, linha, SegundaColuna - Vao - Margem, 100),
+        ComNomeAcessivel(CampoDeTexto("kvtxtNomeDoAnimal", Margem, linha, SegundaColuna - Vao - Margem, 100),
+                         "Nome do animal"),
         RotuloDaFicha("lblSexoDoAnimal", "Se&xo", "kvcmbSexoDoAnimal", SegundaColuna, linha),
         CampoDaFicha(Kind::KVComboBox, "kvcmbSexoDoAnimal", SegundaColuna, linha,
                      TerceiraColuna - Vao - SegundaColuna),
@@ -71,11 +72,17 @@ std::vector<ControlDesign> Servico()
     return {
         SecaoDaFicha("lblServico", "Serviço*", TopoDoServico),
         RotuloDaFicha("lblTipoDoServico", "&Tipo", "kvcmbTiposDeServicos", Margem, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbTiposDeServicos", Margem, linha, SegundaColuna - Vao - Margem),
+        ComNomeAcessivel(CampoDaFicha(Kind::KVComboBox, "kvcmbTiposDeServicos", Margem, linha,
+                                      SegundaColuna - Vao - Margem),
+                         "Tipo de serviço"),
         RotuloDaFicha("lblCodigoDoServico", "Codi&go", "kvfCodigoDoServico", SegundaColuna, linha),
-        CampoDeCodigo("kvfCodigoDoServico", SegundaColuna, linha, TerceiraColuna - Vao - SegundaColuna),
+        ComNomeAcessivel(
+            CampoDeCodigo("kvfCodigoDoServico", SegundaColuna, linha, TerceiraColuna - Vao - SegundaColuna),
+            "Código do serviço"),
         RotuloDaFicha("lblNomeDoServico", "No&me", "kvfNomeDoServico", TerceiraColuna, linha),
-        CampoDaFicha(Kind::KVFind, "kvfNomeDoServico", TerceiraColuna, linha, BordaDireita - TerceiraColuna),
+        ComNomeAcessivel(CampoDaFicha(Kind::KVFind, "kvfNomeDoServico", TerceiraColuna, linha,
+                                      BordaDireita - TerceiraColuna),
+                         "Nome do serviço"),
     };
 }
 

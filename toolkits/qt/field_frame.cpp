@@ -49,13 +49,13 @@ void FieldFrame::SetLocked(bool locked)
 QRectF FieldFrame::EndArea() const
 {
     const int end = std::min(EndWidth, height());
-    return endIcon_.empty() ? QRectF() : QRectF(width() - end, 0, end, height());
+    return !HasEnd() ? QRectF() : QRectF(width() - end, 0, end, height());
 }
 
 void FieldFrame::PlaceEditor()
 {
     const int inset = std::min(Inset, width() / 8);
-    const int end = endIcon_.empty() ? inset : static_cast<int>(EndArea().width());
+    const int end = !HasEnd() ? inset : static_cast<int>(EndArea().width());
     editor_->setGeometry(inset - 2, 2, std::max(0, width() - inset - end + 4), std::max(0, height() - 4));
 }
 
@@ -64,15 +64,14 @@ void FieldFrame::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const FieldState state{isEnabled(), locked_, underMouse(), editor_->hasFocus()};
     PaintField(painter, rect(), state, paper_);
-    if (endIcon_.empty())
+    if (!HasEnd())
         return;
     const QRectF area = EndArea();
-    if (overEnd_ && isEnabled())
+    if (overEnd_)
         PaintPlate(painter, area.adjusted(1, 3, -3, -3), look::AccentTint, look::CornerRadius);
     const double size = std::min(18.0, area.height() - 6);
     const QPointF corner = area.center() - QPointF(size / 2 + 1, size / 2);
-    PaintIcon(painter, endIcon_, QRectF(corner, QSizeF(size, size)),
-              isEnabled() ? look::MutedInk : look::DisabledInk);
+    PaintIcon(painter, endIcon_, QRectF(corner, QSizeF(size, size)), look::MutedInk);
 }
 
 void FieldFrame::resizeEvent(QResizeEvent*) { PlaceEditor(); }
@@ -94,7 +93,7 @@ void FieldFrame::mousePressEvent(QMouseEvent* event)
             endPressed();
         return;
     }
-    editor_->setFocus(Qt::MouseFocusReason);
+    editor_->EnterByPress();
 }
 
 void FieldFrame::mouseMoveEvent(QMouseEvent* event)
@@ -110,8 +109,10 @@ void FieldFrame::mouseMoveEvent(QMouseEvent* event)
 void FieldFrame::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
+    if (event->type() == QEvent::EnabledChange) {
+        PlaceEditor();
         update();
+    }
 }
 
 bool FieldFrame::eventFilter(QObject* watched, QEvent* event)

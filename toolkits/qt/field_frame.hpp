@@ -39,6 +39,8 @@ protected:
     bool focusNextPrevChild(bool) override { return false; }
 
 private:
+    /// A field that takes no input offers no button.
+    bool HasEnd() const { return !endIcon_.empty() && isEnabled(); }
     QRectF EndArea() const;
     void PlaceEditor();
 

@@ -15,6 +15,7 @@ namespace {
 
 constexpr double Size = 16;
 constexpr double Gap = 7;
+constexpr double RingWidth = 3;
 
 } // namespace
 
@@ -55,13 +56,19 @@ void Toggle::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     const double size = std::min({Size, height() - 2.0, width() - 2.0});
     const double left = text().isEmpty() ? (width() - size) / 2 : 1;
-    const QRectF square(left, (height() - size) / 2, size, size);
+    QRectF square(left, (height() - size) / 2, size, size);
+    // A box of a mark's own size has room for the ring only inside.
+    const bool isBare = text().isEmpty();
+    if (isBare && hasFocus())
+        square.adjust(RingWidth, RingWidth, -RingWidth, -RingWidth);
     if (mark_ == Mark::Box)
         PaintBox(painter, square);
     else
         PaintCircle(painter, square);
     if (hasFocus())
-        PaintFocusRing(painter, text().isEmpty() ? square.adjusted(-3, -3, 3, 3) : QRectF(rect()),
+        PaintFocusRing(painter,
+                       isBare ? square.adjusted(-RingWidth - 1, -RingWidth - 1, RingWidth + 1, RingWidth + 1)
+                              : QRectF(rect()),
                        look::Paper);
     painter.setPen(isEnabled() ? look::Ink : look::DisabledInk);
     painter.setFont(font());

@@ -17,6 +17,7 @@ public:
     /// 0 clear, 1 marked, 2 greyed.
     void SetValue(int value);
     int Value() const { return value_; }
+    bool IsOption() const { return mark_ == Mark::Circle; }
 
     /// The user pressed it.
     std::function<void()> pressed;

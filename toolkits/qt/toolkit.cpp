@@ -6,6 +6,7 @@
 #include "toolkits/qt/combo_box.hpp"
 #include "toolkits/qt/command_button.hpp"
 #include "toolkits/qt/date_box.hpp"
+#include "toolkits/qt/field_accessible.hpp"
 #include "toolkits/qt/find_box.hpp"
 #include "toolkits/qt/form.hpp"
 #include "toolkits/qt/grid.hpp"
@@ -70,6 +71,8 @@ QtToolkit::QtToolkit(const Clock& clock)
     : clock_(clock), measure_(std::make_unique<QtTextMeasure>()), gate_(std::make_unique<InputGate>(nullptr))
 {
     ApplyLook(*qApp);
+    // Asked in the reverse order: the grids before what any widget gets.
+    InstallFieldAccessibility();
     InstallGridAccessibility();
     qApp->installEventFilter(gate_.get());
 }
