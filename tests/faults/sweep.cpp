@@ -1,6 +1,9 @@
-// Runs a script once for each crossing of the module's borders, with a failure injected there. The module
-// must neither crash nor hang, must report the failure once with a well-formed place, and must go on to the
+// Runs scripts once for each crossing of the module's borders, with a failure injected there. The module must
+// neither crash nor hang, must report the failure once with a well-formed place, and must go on to the
 // script's end. Built with the sanitizers, leaks and wild accesses end it too.
+//   fault-sweep [--toolkit NAME] [--every N] SCENARIO...
+// --every takes a sample: each N-th crossing, counted on from script to script, so that no place is left out
+// in all of them.
 
 #include "host/components/component_library.hpp"
 #include "tools/scenario/runner.hpp"
@@ -9,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <regex>
@@ -84,57 +88,105 @@ std::string FaultOf(const Outcome& outcome)
     return {};
 }
 
+struct Order {
+    std::vector<std::string> scripts;
+    std::string toolkit = "headless";
+    int every = 1;
+};
+
 class Sweep {
 public:
-    explicit Sweep(const Script& script) : script_(script) { }
+    explicit Sweep(const Order& order) : order_(order) { }
 
-    /// Injects into every crossing of one kind, one after the other.
-    void Over(int RunOptions::*kind, const char* word, int last)
+    void Over(const std::string& file)
+    {
+        std::ifstream stream(file, std::ios::binary);
+        const std::string text{std::istreambuf_iterator<char>(stream), {}};
+        const Script script = ParseScript(text);
+        const Outcome plain = RunOnce(script, Usual());
+        if (plain.business == 0 || !plain.ended) {
+            ++faults_;
+            std::printf("%s: %s\n", file.c_str(),
+                        plain.ended ? "the script crosses no border" : "it fails by itself");
+            return;
+        }
+        business_ += plain.business;
+        widgets_ += plain.widgets;
+        Inject(file, script, &RunOptions::failAt, "business", plain.business);
+        Inject(file, script, &RunOptions::failWidgetsAt, "widget", plain.widgets);
+    }
+
+    void Tell() const
+    {
+        std::printf("%d injections, %d faults (%d business crossings, %d widget accesses)\n", injections_,
+                    faults_, business_, widgets_);
+    }
+    bool IsClean() const { return faults_ == 0; }
+
+private:
+    RunOptions Usual() const
+    {
+        RunOptions options;
+        options.toolkit = order_.toolkit;
+        return options;
+    }
+
+    /// Into every crossing of one kind that the order takes, one after the other.
+    void Inject(const std::string& file, const Script& script, int RunOptions::*kind, const char* word,
+                int last)
     {
         for (int at = 1; at <= last; ++at) {
-            RunOptions options;
+            if (++counted_ % order_.every != 0)
+                continue;
+            RunOptions options = Usual();
             options.*kind = at;
-            const std::string fault = FaultOf(RunOnce(script_, options));
+            const std::string fault = FaultOf(RunOnce(script, options));
             ++injections_;
             if (!fault.empty()) {
                 ++faults_;
-                std::printf("%s crossing %d: %s\n", word, at, fault.c_str());
+                std::printf("%s: %s crossing %d: %s\n", file.c_str(), word, at, fault.c_str());
             }
         }
     }
 
-    int Injections() const { return injections_; }
-    int Faults() const { return faults_; }
-
-private:
-    const Script& script_;
+    const Order& order_;
+    int counted_ = 0;
+    int business_ = 0;
+    int widgets_ = 0;
     int injections_ = 0;
     int faults_ = 0;
 };
+
+Order ReadOrder(const std::vector<std::string>& words)
+{
+    Order order;
+    for (std::size_t at = 0; at < words.size(); ++at) {
+        const bool hasValue = at + 1 < words.size();
+        if (words[at] == "--toolkit" && hasValue)
+            order.toolkit = words[++at];
+        else if (words[at] == "--every" && hasValue)
+            order.every = std::max(1, std::atoi(words[++at].c_str()));
+        else
+            order.scripts.push_back(words[at]);
+    }
+    return order;
+}
 
 } // namespace
 
 int main(int count, char** words)
 {
-    if (count != 2) {
-        std::fprintf(stderr, "usage: fault-sweep SCENARIO\n");
+    const Order order = ReadOrder({words + 1, words + count});
+    if (order.scripts.empty()) {
+        std::fprintf(stderr, "usage: fault-sweep [--toolkit NAME] [--every N] SCENARIO...\n");
         return 2;
     }
-    std::ifstream file(words[1], std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(file), {}};
-    const Script script = ParseScript(text);
     // Each run attaches itself to the module, which begins anew then. Loading it thousands of times would
     // take most of the time.
     const kova::host::LoadedLibrary module(MODULE_LIBRARY);
-    const Outcome plain = RunOnce(script, {});
-    if (plain.business == 0) {
-        std::printf("the script crosses no border\n");
-        return 1;
-    }
-    Sweep sweep(script);
-    sweep.Over(&RunOptions::failAt, "business", plain.business);
-    sweep.Over(&RunOptions::failWidgetsAt, "widget", plain.widgets);
-    std::printf("%d injections, %d faults (%d business crossings, %d widget accesses)\n", sweep.Injections(),
-                sweep.Faults(), plain.business, plain.widgets);
-    return sweep.Faults() == 0 ? 0 : 1;
+    Sweep sweep(order);
+    for (const std::string& file : order.scripts)
+        sweep.Over(file);
+    sweep.Tell();
+    return sweep.IsClean() ? 0 : 1;
 }
