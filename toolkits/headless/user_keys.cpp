@@ -4,6 +4,7 @@
 #include "toolkits/common/combo_box.hpp"
 #include "toolkits/common/command_button.hpp"
 #include "toolkits/common/edit_core.hpp"
+#include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/common/option_button.hpp"
 #include "toolkits/headless/keys.hpp"
 #include "toolkits/headless/user.hpp"
@@ -49,18 +50,28 @@ void KeyInBox(toolkit::EditCore& box, const KeyPress& key)
 
 void KeyInCombo(toolkit::ComboBoxModel& combo, const KeyPress& key)
 {
-    const auto last = static_cast<int>(combo.ShownRows().size()) - 1;
-    constexpr int page = 12;
-    const int now = combo.ShownRow();
-    const std::map<std::string_view, int> reached{
-        {"Down", now + 1}, {"Up", now - 1},        {"Home", 0},
-        {"End", last},     {"PgDown", now + page}, {"PgUp", now - page}};
-    const auto found = reached.find(key.name);
-    if (found == reached.end() || key.alt || last < 0)
+    using toolkit::ComboKey;
+    static const std::map<std::string_view, ComboKey> keys{
+        {"F4", ComboKey::Open},     {"Up", ComboKey::Up},           {"Down", ComboKey::Down},
+        {"PgUp", ComboKey::PageUp}, {"PgDown", ComboKey::PageDown}, {"Home", ComboKey::Home},
+        {"End", ComboKey::End},     {"Return", ComboKey::Take},     {"Tab", ComboKey::Take},
+        {"Esc", ComboKey::Leave}};
+    if (key.alt && (key.name == "Up" || key.name == "Down"))
+        return combo.UserPressesKey(ComboKey::Open);
+    if (key.ctrl || key.alt)
         return;
-    const int row = std::clamp(found->second, 0, last);
-    if (row != now)
-        combo.UserChooses(static_cast<Integer>(row));
+    if (const auto found = keys.find(key.name); found != keys.end())
+        combo.UserPressesKey(found->second);
+    else if (key.character || key.name == "Space")
+        combo.UserTypes(key.character ? key.character : U' ');
+}
+
+void KeyInBar(toolkit::NavigationBarModel& bar, const KeyPress& key)
+{
+    if (key.name == "Left" || key.name == "Right")
+        bar.UserWalks(key.name == "Right");
+    else if (key.name == "Space")
+        bar.UserPresses(bar.CurrentButton());
 }
 
 void KeyInGrid(toolkit::GridModel& grid, const KeyPress& key)
@@ -83,6 +94,8 @@ void KeyInControl(toolkit::WidgetCore& focused, const KeyPress& key)
         return KeyInCombo(*combo, key);
     if (auto* grid = dynamic_cast<toolkit::GridModel*>(&focused))
         return KeyInGrid(*grid, key);
+    if (auto* bar = dynamic_cast<toolkit::NavigationBarModel*>(&focused))
+        return KeyInBar(*bar, key);
     if (key.name != "Space")
         return;
     if (auto* button = dynamic_cast<toolkit::CommandButtonModel*>(&focused))
@@ -107,6 +120,12 @@ std::string User::Key(const KeyPress& key)
         return "no form is open";
     if (auto refusal = form->Refusal(); !refusal.empty())
         return refusal;
+    // An open list has the keyboard for itself.
+    auto* combo = dynamic_cast<toolkit::ComboBoxModel*>(form->Focused());
+    if (combo && combo->IsListOpen()) {
+        KeyInCombo(*combo, key);
+        return {};
+    }
     const bool isFunctionKey = key.name.size() > 1 && key.name[0] == 'F' && key.name[1] <= '9';
     const bool mayBeShortcut = isFunctionKey || key.ctrl || key.alt;
     if (mayBeShortcut && form->UserPressesShortcut(key.Chord()))

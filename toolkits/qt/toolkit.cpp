@@ -181,9 +181,12 @@ void QtToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector<toolk
 
 void QtToolkit::RunPreview(const toolkit::ReportModel& report)
 {
+    ShowPreview(report, reports::LayOut({report.Current(), report.Data(), clock_.Now()}, QtReportMetrics()));
+}
+
+void QtToolkit::ShowPreview(const toolkit::ReportModel& report, const reports::Document& pages)
+{
     const Date day = DayOfReport(report.Data(), Today());
-    const reports::Document pages =
-        reports::LayOut({report.Current(), report.Data(), clock_.Now()}, QtReportMetrics());
     ReportDesk desk;
     ReportPreview preview(pages, desk, day, WindowBelow(nullptr));
     if (report.Current().windowState == ReportWindowState::Maximized)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reports/pages.hpp"
 #include "toolkits/common/toolkit.hpp"
 
 #include <QPointer>
@@ -44,6 +45,8 @@ protected:
     Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
     void ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys) override;
     void RunPreview(const toolkit::ReportModel& report) override;
+    /// Shows a report that has been laid out, until the user has closed it.
+    void ShowPreview(const toolkit::ReportModel& report, const reports::Document& pages);
     void ScheduleRelease() override;
 
 private:

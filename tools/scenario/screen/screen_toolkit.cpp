@@ -3,8 +3,6 @@
 #include "reports/layout.hpp"
 #include "toolkits/common/menu.hpp"
 #include "toolkits/headless/log_lines.hpp"
-#include "toolkits/qt/report_desk.hpp"
-#include "toolkits/qt/report_preview.hpp"
 #include "toolkits/qt/theme.hpp"
 #include "tools/scenario/screen/container_window.hpp"
 
@@ -169,16 +167,13 @@ void ScreenToolkit::RunPreview(const toolkit::ReportModel& report)
     const reports::Document pages =
         reports::LayOut({report.Current(), report.Data(), clock_.Now()}, reportMetrics_);
     line_(lines::Report(report, pages));
-    qt::ReportDesk desk;
-    qt::ReportPreview preview(pages, desk, WindowBelow(nullptr));
-    if (report.Current().windowState == ReportWindowState::Maximized)
-        preview.setWindowState(Qt::WindowMaximized);
     player_->PreviewOpens(report, pages);
-    const Pump::Turn turn(pump_, [this, &preview] {
-        if (!player_->StepInPreview())
-            hand_.CloseWindow(preview);
+    const Pump::Turn turn(pump_, [this] {
+        QWidget* preview = QApplication::activeModalWidget();
+        if (preview && !player_->StepInPreview())
+            hand_.CloseWindow(*preview);
     });
-    preview.exec();
+    ShowPreview(report, pages);
 }
 
 void ScreenToolkit::UnhandledFailure(const Failure& failure)
