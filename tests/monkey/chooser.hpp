@@ -1,0 +1,63 @@
+#pragma once
+
+#include "tests/monkey/act.hpp"
+#include "tests/monkey/words.hpp"
+
+#include <optional>
+
+class QWidget;
+
+namespace kova::monkey {
+
+/// Where a session's acts come from.
+class Source {
+public:
+    virtual ~Source() = default;
+    /// The next act; nothing once the user has had enough. Asked when it can begin, so what is on the screen
+    /// now may decide.
+    virtual std::optional<Act> Next() = 0;
+};
+
+/// A list told beforehand.
+class Replay : public Source {
+public:
+    explicit Replay(std::vector<Act> acts) : acts_(std::move(acts)) { }
+    std::optional<Act> Next() override;
+
+private:
+    std::vector<Act> acts_;
+    std::size_t next_ = 0;
+};
+
+/// Chooses at random among what a user could do with what is in front: mostly what makes sense there.
+class Chooser : public Source {
+public:
+    Chooser(std::uint64_t seed, int count, Words words)
+        : chance_(seed), left_(count), words_(std::move(words))
+    {
+    }
+    std::optional<Act> Next() override;
+
+private:
+    Act Choose();
+    Act InPopup();
+    Act InBox();
+    Act InFileDialog();
+    Act InForm();
+    Act InOtherWindow();
+    Act AtTarget();
+    Act AtControl(const std::string& name, QWidget& widget);
+    Act Keys();
+    Act Typing();
+    Act Somewhere(Verb verb, const std::string& target);
+    Act At(Verb verb, const std::string& target, int x, int y) const;
+    Act Key(const std::string& keys) const;
+    Act Type(const std::string& text) const;
+    Act Seldom();
+
+    Chance chance_;
+    int left_;
+    Words words_;
+};
+
+} // namespace kova::monkey

@@ -1,0 +1,139 @@
+#include "tests/monkey/rules.hpp"
+
+#include "agenda/list/frmLista_columns.hpp"
+#include "tests/monkey/finding.hpp"
+#include "tests/monkey/screen.hpp"
+#include "toolkits/common/label.hpp"
+#include "toolkits/common/toolkit.hpp"
+#include "toolkits/qt/grid_canvas.hpp"
+
+#include <QApplication>
+#include <QPlainTextEdit>
+
+#include <array>
+
+namespace kova::monkey {
+
+namespace {
+
+namespace colunas = agenda::colunas;
+
+constexpr std::array RowButtons{"kvcmdMarcarAgendamentoComoAgendado",
+                                "kvcmdMarcarAgendamentoComoAtendido",
+                                "kvcmdMarcarAgendamentoComoCancelado",
+                                "kvcmdMarcarAgendamentoComoAtendidoEGeradoPreVenda",
+                                "kvcmdDetalhar",
+                                "kvcmdAlterar",
+                                "kvcmdExcluir",
+                                "kvcmdImprimirFicha"};
+
+toolkit::FormModel* List() { return FormOnShow("frmLista"); }
+
+const qt::GridCanvas* GridOf(const toolkit::FormModel& list)
+{
+    return dynamic_cast<const qt::GridCanvas*>(ControlOnShow(list, "msfgGrade"));
+}
+
+QString FieldOf(const QWidget& window, const char* name)
+{
+    const auto* field = window.findChild<QPlainTextEdit*>(QString::fromLatin1(name));
+    return field ? field->toPlainText() : QString();
+}
+
+Text CaptionOf(const toolkit::FormModel& form, const char* name)
+{
+    const auto* label = dynamic_cast<const toolkit::LabelModel*>(form.Find(name));
+    return label ? label->ShownCaption() : Text();
+}
+
+} // namespace
+
+void Rules::Look()
+{
+    LookForFailures();
+    const toolkit::FormModel* form = FormInFront();
+    const bool isCalm =
+        form && form->Design().name == "frmLista" && IsSettled() && !form->GetToolkit().IsInsideEvent();
+    calm_ = isCalm ? calm_ + 1 : 0;
+    constexpr int turnsOfTheEventLoop = 3;
+    if (calm_ == turnsOfTheEventLoop) {
+        LookAtRowButtons();
+        LookAtPanel();
+    }
+}
+
+// The error window, and the box for what no handler of the module has caught.
+void Rules::LookForFailures()
+{
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (!modal)
+        return;
+    const QString number = FieldOf(*modal, "number");
+    if (!number.isEmpty())
+        TellFinding("error " + number.toStdString() + " at " + FieldOf(*modal, "place").toStdString(),
+                    FieldOf(*modal, "description").toStdString());
+    const QMessageBox* box = BoxInFront();
+    if (box && box->windowTitle() == QCoreApplication::applicationName())
+        TellFinding("unhandled failure", box->text().toStdString());
+}
+
+void Rules::LookAtRowButtons()
+{
+    const toolkit::FormModel* list = List();
+    const qt::GridCanvas* grid = list ? GridOf(*list) : nullptr;
+    const QRect row = grid ? grid->RowArea(grid->Model().Cursor().row) : QRect();
+    std::size_t onShow = 0;
+    for (const char* name : RowButtons) {
+        const QWidget* button = list ? ControlOnShow(*list, name) : nullptr;
+        if (!button)
+            continue;
+        ++onShow;
+        if (row.isEmpty())
+            TellFinding("row buttons without a row",
+                        std::string(name) + " is on show, the selected row is not");
+        const int away = button->mapToGlobal(QPoint()).y() - grid->mapToGlobal(row.topLeft()).y();
+        if (std::abs(away) > 2)
+            TellFinding("row buttons on another row",
+                        std::string(name) + " stands " + std::to_string(away)
+                            + " pixels from the selected row " + std::to_string(grid->Model().Cursor().row));
+    }
+    if (onShow != 0 && onShow != RowButtons.size())
+        TellFinding("some row buttons only", std::to_string(onShow) + " are on show");
+}
+
+// A row is selected where its buttons are on show.
+void Rules::LookAtPanel()
+{
+    const toolkit::FormModel* list = List();
+    const qt::GridCanvas* grid = list ? GridOf(*list) : nullptr;
+    if (!grid || !ControlOnShow(*list, "picPainel") || !ControlOnShow(*list, RowButtons.front()))
+        return;
+    const Long row = grid->Model().Cursor().row;
+    for (const auto& [label, column] : {std::pair{"lblNomeDoAnimal", colunas::NomeDoAnimal},
+                                        {"lblInicioDoServico", colunas::HoraInicial},
+                                        {"lblNomeDoServico", colunas::NomeDoServico},
+                                        {"lblNomeDoFuncionario", colunas::ApelidoDoFuncionario},
+                                        {"lblObservacaoDoAgendamento", colunas::Observacao}}) {
+        const Text told = CaptionOf(*list, label);
+        const Text& stored = grid->Model().CellText(row, column);
+        if (told != stored)
+            TellFinding("the panel tells another appointment",
+                        std::string(label) + " says \"" + told + "\", row " + std::to_string(row) + " \""
+                            + stored + "\"");
+    }
+}
+
+void Rules::LookAtHome()
+{
+    const toolkit::FormModel* list = List();
+    if (!list)
+        TellFinding("no list", "the list is not on show");
+    if (ControlOnShow(*list, "picMensagem"))
+        TellFinding("a plate is left", "the list takes input, and its wait plate stands");
+    for (const toolkit::FormModel* form : list->GetToolkit().ShownForms()) {
+        if (form != list)
+            TellFinding("a form is left", form->Design().name + " is on show beside the list");
+    }
+}
+
+} // namespace kova::monkey

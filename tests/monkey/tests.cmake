@@ -1,0 +1,37 @@
+# A receptionist that never tires, on the real window. Its time grows with what is looked for: a few seconds show that
+# it works, minutes under the sanitizers find what breaks.
+if(NOT KOVARIS_CORE_ONLY)
+    find_package(SQLite3 REQUIRED)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+    set(KOVARIS_MONKEY_SECONDS 0 CACHE STRING "Seconds that each of the monkey's four runs takes; 0 is no run")
+
+    set(monkey_folder ${CMAKE_CURRENT_LIST_DIR})
+    file(GLOB sources CONFIGURE_DEPENDS ${monkey_folder}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "_test\\.cpp$")
+    add_executable(monkey ${sources})
+    target_link_libraries(monkey PRIVATE host_application family_business SQLite::SQLite3 Qt6::Test)
+    target_compile_definitions(monkey PRIVATE AGENDA_DATA="$<TARGET_FILE:agenda-data>")
+    kovaris_precompile(monkey ${monkey_folder}/player.hpp <soci/soci.h>)
+    add_dependencies(monkey agenda-data KOVA_A_Agenda KOVA_N_Familia KOVA_A_Familia)
+
+    set(seeds 1000 2000 3000 4000)
+    if(NOT KOVARIS_MONKEY_SECONDS)
+        set(seeds)
+    endif()
+    foreach(seed IN LISTS seeds)
+        add_test(NAME monkey.Seed${seed} COMMAND monkey --seed ${seed} --seconds ${KOVARIS_MONKEY_SECONDS})
+        set_tests_properties(monkey.Seed${seed} PROPERTIES LABELS monkey COST ${cost_of_long_tests} TIMEOUT 0)
+    endforeach()
+
+    # What was found once stays mended.
+    file(GLOB kept CONFIGURE_DEPENDS ${monkey_folder}/kept/*.actions)
+    foreach(actions IN LISTS kept)
+        get_filename_component(name ${actions} NAME_WE)
+        add_test(NAME monkey.Kept.${name} COMMAND monkey --replay ${actions})
+        set_tests_properties(monkey.Kept.${name} PROPERTIES LABELS monkey)
+    endforeach()
+
+    add_executable(test_monkey ${monkey_folder}/shorten_test.cpp ${monkey_folder}/act.cpp ${monkey_folder}/shorten.cpp)
+    target_link_libraries(test_monkey PRIVATE test_main)
+    gtest_discover_tests(test_monkey DISCOVERY_TIMEOUT 60)
+endif()
