@@ -150,4 +150,10 @@ void FormModel::DropHandlers()
     unload_ = nullptr;
 }
 
+void FormModel::LetGo()
+{
+    DropHandlers();
+    owner_.reset();
+}
+
 } // namespace kova::toolkit

@@ -106,6 +106,7 @@ void ToolkitModel::Retire(std::unique_ptr<FormModel> form) noexcept
 {
     Remove(forms_, *form);
     Remove(shown_, *form);
+    form->LetGo();
     retired_.push_back(std::move(form));
     if (eventDepth_ == 0)
         ScheduleRelease();

@@ -140,6 +140,21 @@ TEST_F(FormLife, MayBeUnloadedAndDroppedInsideAHandlerOfItsOwn)
     EXPECT_EQ(user_.Click("frm", "kvcmd"), "frm does not exist");
 }
 
+// What a library has given it must go before the library, and the form itself may have to wait.
+TEST_F(FormLife, LetsGoOfItsHandlersAndItsOwnerAsSoonAsNobodyHoldsIt)
+{
+    Has(WidgetKind::KVCommandButton, "kvcmd");
+    Open();
+    const auto held = std::make_shared<int>(1);
+    form_->OnLoad([held] {});
+    form_->OnUnload([held](bool&) {});
+    Get<KVCommandButton>("kvcmd").OnClick([held] {});
+    form_->Owner(std::shared_ptr<int>(new int(1), [held](const int* owner) { delete owner; }));
+    const toolkit::EventScope event(toolkit_);
+    form_.reset();
+    EXPECT_EQ(held.use_count(), 1);
+}
+
 TEST_F(FormLife, MayBeDroppedInsideItsLostFocus)
 {
     Has(WidgetKind::KVTextBox, "kvtxt");
