@@ -237,6 +237,7 @@ FormDesign Desenhar()
                       .width = LarguraInterna + Moldura,
                       .height = AlturaInterna + MolduraETitulo,
                       .backColor = colours::White,
+                      .guardsTyping = true,
                       .controls = Cabecalho()};
     Append(design.controls, Cliente());
     Append(design.controls, Animal());

@@ -85,6 +85,7 @@ FormDesign Desenhar()
                       .width = LarguraInterna + Moldura,
                       .height = AlturaInterna + MolduraETitulo,
                       .backColor = colours::White,
+                      .guardsTyping = true,
                       .controls = Agendamento()};
     design.controls.push_back(SecaoDaFicha("lblDatas", "Datas*", TopoDasDatas));
     for (int linha = 0; linha < static_cast<int>(frmSelecionarDatas::Linhas); ++linha)

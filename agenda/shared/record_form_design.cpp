@@ -109,10 +109,14 @@ std::vector<ControlDesign> RodapeDaFicha(Twips topo)
     salvar.backColor = 16617293;
     salvar.fontColor = colours::White;
     salvar.shortcut = "Ctrl+S";
+    // In a detail view this one leaves, and the other leads into the alteration.
+    salvar.isCancel = true;
+    salvar.cancelCaption = "Fechar";
     ControlDesign cancelar = Botao("kvcmdCancelarAlterar", "Cancelar", esquerdaDoSegundo, topo);
     cancelar.backColor = colours::White;
     cancelar.fontColor = 4210752;
     cancelar.isCancel = true;
+    cancelar.cancelCaption = "Cancelar";
     return {
         {.kind = Kind::Label,
          .name = "lblObservacaoDeCamposObrigatorios",

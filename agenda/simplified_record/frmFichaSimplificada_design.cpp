@@ -137,6 +137,7 @@ FormDesign Desenhar()
                       .width = LarguraInterna + Moldura,
                       .height = AlturaInterna + MolduraETitulo,
                       .backColor = colours::White,
+                      .guardsTyping = true,
                       .controls = {CabecalhoDaFicha("Agendamento simplificado")}};
     for (const auto& parte : {Cliente(), Animal(), Servico(), Horario(), ObservacaoESituacao(),
                               RodapeDaFicha(TopoDosBotoes), DesenhoDaPlacaDeEspera()})

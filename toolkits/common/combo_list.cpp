@@ -36,8 +36,10 @@ void ComboBoxModel::Mark(int row)
 void ComboBoxModel::Take(int row)
 {
     ShowList(false);
-    if (row >= 0 && row < static_cast<int>(rows_.size()))
-        Select(row);
+    if (row < 0 || row >= static_cast<int>(rows_.size()))
+        return;
+    GetForm().NoteTyping();
+    Select(row);
 }
 
 bool ComboBoxModel::UserOpensList()

@@ -42,6 +42,17 @@ void CommandButtonModel::UserPresses()
     });
 }
 
+void CommandButtonModel::UserPressesInPlace()
+{
+    ByUser([this] { GetForm().Raise(click_); });
+}
+
+bool CommandButtonModel::LeavesForm() const
+{
+    const ControlDesign& design = Design();
+    return design.isCancel && (design.cancelCaption.empty() || design.cancelCaption == caption_);
+}
+
 bool CommandButtonModel::TakesEnter()
 {
     UserPresses();

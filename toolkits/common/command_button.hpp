@@ -18,9 +18,12 @@ public:
     void OnClick(Handler handler) override { click_ = std::move(handler); }
     void OnLostFocus(Handler handler) override { lostFocus_ = std::move(handler); }
 
-    /// The user pressed the button: it takes the focus first, and is not pressed where the LostFocus of
-    /// the widget before it hides or disables it.
+    /// The user pressed the button: it takes the focus first, and is not pressed where the LostFocus of the
+    /// widget before it holds the press up, see WidgetCore::FocusForPress.
     void UserPresses();
+    /// Escape: a press that moves no focus.
+    void UserPressesInPlace();
+    bool LeavesForm() const override;
 
     const Text& ShownCaption() const { return caption_; }
 

@@ -26,6 +26,7 @@ void DateBoxModel::UserPicks(const Date& date)
         const kova::Text text = FormatDate(date);
         if (text == ShownText())
             return;
+        GetForm().NoteTyping();
         PutText(text);
         GetForm().Raise(change_);
     });

@@ -1,36 +1,38 @@
 #include "toolkits/common/edit_core.hpp"
 
+#include "toolkits/common/form.hpp"
+
 namespace kova::toolkit {
+
+void EditCore::Edit(const std::function<void()>& act)
+{
+    ByUser([this, &act] {
+        if (!AllowsTyping())
+            return;
+        GetForm().NoteTyping();
+        act();
+    });
+}
 
 void EditCore::UserTypes(char32_t character)
 {
-    ByUser([this, character] {
-        if (AllowsTyping())
-            Type(character);
-    });
+    Edit([this, character] { Type(character); });
 }
 
 void EditCore::UserErases()
 {
-    ByUser([this] {
-        if (AllowsTyping())
-            Erase(false);
-    });
+    Edit([this] { Erase(false); });
 }
 
 void EditCore::UserErasesForward()
 {
-    ByUser([this] {
-        if (AllowsTyping())
-            Erase(true);
-    });
+    Edit([this] { Erase(true); });
 }
 
 void EditCore::UserEdits(const Text& text)
 {
+    Edit([this, &text] { Replace(text); });
     ByUser([this, &text] {
-        if (AllowsTyping())
-            Replace(text);
         if (edit_.AsText() != text)
             Tell(Aspect::Content);
     });

@@ -34,6 +34,10 @@ public:
     /// False where the box shows a value only.
     virtual bool AllowsTyping() const { return true; }
 
+private:
+    /// Does what the user wants of the text, where the box takes it.
+    void Edit(const std::function<void()>& act);
+
 protected:
     void SelectAll();
     /// A write from code; the caret goes to the end where the widget has the focus, else to the start.

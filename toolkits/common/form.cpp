@@ -4,6 +4,7 @@
 #include "toolkits/common/toolkit.hpp"
 
 #include <algorithm>
+#include <new>
 
 namespace kova::toolkit {
 
@@ -140,6 +141,10 @@ void FormModel::ByUser(const std::function<void()>& action)
         action();
     } catch (const Failure& failure) {
         toolkit_.UnhandledFailure(failure);
+    } catch (const std::bad_alloc&) {
+        toolkit_.UnhandledFailure(Failure(FailureNumber::OutOfMemory));
+    } catch (const std::exception& exception) {
+        toolkit_.UnhandledFailure(Failure(FailureNumber::InvalidArgument, exception.what()));
     }
 }
 

@@ -22,7 +22,8 @@ enum class FormKey {
     /// In a find box its own rule; on a button, option or check box a press; on a grid a click of the
     /// current row; elsewhere the form's default button, or the next widget where there is none.
     Enter,
-    /// The form's cancel button, where there is one.
+    /// The form's cancel button, where there is one, without a move of the focus. A form that guards what was
+    /// typed into it moves the focus there first.
     Escape,
 };
 
@@ -135,6 +136,8 @@ public:
     /// Gives way to a move that a LostFocus handler makes.
     void MoveFocus(WidgetCore* target, Entry entry = Entry::Key);
     void FocusNext(bool forward);
+    /// The user has changed what a widget holds.
+    void NoteTyping() { typedSinceShown_ = true; }
     /// Takes the focus away from a widget that can no longer hold it.
     void ReviewFocus();
     /// A window or view over the shape of a user action: see WidgetCore::ByUser.
@@ -170,7 +173,9 @@ private:
     void LetGo();
     void PressEnter();
     void PressEscape();
-    bool PressButton(bool ControlDesign::*role);
+    bool PressDefault();
+    CommandButtonModel* CancelButton() const;
+    void FocusFirst();
     void PressByShortcut(CommandButtonModel& button);
     WidgetCore* NextStop(bool forward) const;
 
@@ -181,6 +186,9 @@ private:
     bool shownOnce_ = false;
     bool unloading_ = false;
     bool hasOwner_ = false;
+    bool typedSinceShown_ = false;
+    /// The first Escape has been pressed; the next one leaves, wherever the focus stands.
+    bool escapeWarned_ = false;
     std::weak_ptr<void> owner_;
     std::vector<std::unique_ptr<WidgetCore>> widgets_;
     WidgetCore* focused_ = nullptr;

@@ -16,6 +16,7 @@ void FormModel::MoveFocus(WidgetCore* target, Entry entry)
     const EventScope scope(toolkit_);
     const auto self = weak_from_this().lock();
     const unsigned move = ++focusMoves_;
+    escapeWarned_ = false;
     if (WidgetCore* former = focused_) {
         lastFocused_ = former;
         focused_ = nullptr;
@@ -113,7 +114,7 @@ void FormModel::UserPressesKey(FormKey key)
         case FormKey::Tab: return FocusNext(true);
         case FormKey::BackTab: return FocusNext(false);
         case FormKey::Enter: return PressEnter();
-        case FormKey::Escape: PressButton(&ControlDesign::isCancel); return;
+        case FormKey::Escape: return PressEscape();
         }
     });
 }
@@ -122,20 +123,57 @@ void FormModel::PressEnter()
 {
     if (focused_ && focused_->TakesEnter())
         return;
-    if (!PressButton(&ControlDesign::isDefault))
+    if (!PressDefault())
         FocusNext(true);
 }
 
-bool FormModel::PressButton(bool ControlDesign::*role)
+bool FormModel::PressDefault()
 {
     for (const auto& widget : widgets_) {
         auto* button = dynamic_cast<CommandButtonModel*>(widget.get());
-        if (button && button->Design().*role && button->TakesInput()) {
+        if (button && button->Design().isDefault && button->TakesInput()) {
             button->UserPresses();
             return true;
         }
     }
     return false;
+}
+
+CommandButtonModel* FormModel::CancelButton() const
+{
+    for (const auto& widget : widgets_) {
+        auto* button = dynamic_cast<CommandButtonModel*>(widget.get());
+        if (button && button->LeavesForm() && button->TakesInput())
+            return button;
+    }
+    return nullptr;
+}
+
+// Nobody is held in a form: the second Escape leaves even where the field that was left took the focus back.
+void FormModel::PressEscape()
+{
+    CommandButtonModel* cancel = CancelButton();
+    if (!cancel)
+        return;
+    const bool warns = design_.guardsTyping && typedSinceShown_ && !escapeWarned_ && focused_ != cancel;
+    if (!warns)
+        return cancel->UserPressesInPlace();
+    MoveFocus(cancel);
+    escapeWarned_ = true;
+}
+
+// Where there is nothing to enter, only to confirm, Enter confirms nothing by chance.
+void FormModel::FocusFirst()
+{
+    const bool hasField = std::any_of(widgets_.begin(), widgets_.end(), [](const auto& widget) {
+        return widget->State().tabStop && widget->CanHoldFocus()
+            && widget->KindOfWidget() != WidgetKind::KVCommandButton;
+    });
+    CommandButtonModel* cancel = hasField ? nullptr : CancelButton();
+    if (cancel)
+        MoveFocus(cancel);
+    else
+        FocusNext(true);
 }
 
 } // namespace kova::toolkit

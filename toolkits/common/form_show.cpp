@@ -39,6 +39,8 @@ void FormModel::Show(ShowMode mode)
 void FormModel::ShowNow(ShowMode mode)
 {
     const bool appears = !state_.visible;
+    if (appears)
+        typedSinceShown_ = escapeWarned_ = false;
     state_.visible = true;
     toolkit_.Shown(*this);
     try {
@@ -61,7 +63,7 @@ void FormModel::RaiseShown(ShowMode mode, bool appears)
     if (appears && state_.visible)
         Raise(activate_);
     if (appears && state_.visible && !focused_)
-        FocusNext(true);
+        FocusFirst();
 }
 
 void FormModel::ShowModal()

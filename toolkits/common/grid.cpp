@@ -70,6 +70,7 @@ void GridModel::Shape(Long rows, Long cols)
     }
     ClampCursor();
     TouchAll();
+    RowsChanged();
 }
 
 void GridModel::ClampCursor()
@@ -174,6 +175,7 @@ void GridModel::TextMatrix(Long row, Long col, const Text& text)
     CheckCell(row, col);
     cells_.Write(row, col, text);
     Touch(row, row);
+    RowsChanged();
 }
 
 void GridModel::Clear()
@@ -181,6 +183,7 @@ void GridModel::Clear()
     Calling("Clear");
     cells_.Clear();
     TouchAll();
+    RowsChanged();
 }
 
 void GridModel::SelectionMode(Integer value)

@@ -137,16 +137,26 @@ public:
 
     // What the user does. Places are twips inside the grid.
 
-    /// Button 0 none, 1 left, 2 right; shift as a bit set.
+    /// Button 0 none, 1 left, 2 right; shift as a bit set. From now on the grid knows where the mouse rests:
+    /// where the rows under it change, MouseMove comes from a place outside the rows and then from there, as
+    /// soon as the form takes input. The place is kept also where the form takes none now.
     void UserMovesMouse(Integer button, Integer shift, Twips x, Twips y);
-    /// A click: takes the focus, makes the cell current, raises Click. Outside the cells it only takes
-    /// the focus. In a fixed row the cursor stays, and Row is 0 for the length of the event; in a fixed
-    /// column the first free cell of the row becomes current.
+    /// The mouse moved on over something that covers the grid, such as the buttons of a row. No event.
+    void UserMovesAbove(Twips x, Twips y);
+    /// The mouse left the grid: MouseMove comes from a place outside the rows.
+    void UserLeaves();
+    /// The left button went down: takes the focus and makes the cell current, in a fixed column the first
+    /// free cell of the row. Outside the cells it only takes the focus; in a fixed row the cursor stays.
+    void UserPresses(Twips x, Twips y);
+    /// It went up: Click, where that is over the cell on which it went down. In a fixed row Row is 0 for the
+    /// length of the event.
+    void UserReleases(Twips x, Twips y);
+    /// Both at one place.
     void UserClicks(Twips x, Twips y);
     /// The mouse moved with the left button down: the selection reaches to that cell.
     void UserDrags(Twips x, Twips y);
     /// A key: the row reached becomes current and is scrolled into view, then MouseMove comes from its
-    /// middle.
+    /// middle, and comes again where the rows change.
     void UserKey(GridKey key);
     /// Return or the space bar: a click on the current row.
     void UserPressesRow();
@@ -185,9 +195,14 @@ public:
     GridChange TakeChange();
 
     bool IsFocusable() const override { return true; }
+    bool TellPointer() override;
+    void ForgetPointer() override { pointer_ = {}; }
     bool TakesEnter() override;
     void RaiseLostFocus() override;
     void DropHandlers() override;
+
+protected:
+    void VisibilityChanged() override { RowsChanged(); }
 
 private:
     struct ColumnData {
@@ -210,7 +225,23 @@ private:
     void Announce();
     template <class T> void WriteLook(std::string_view member, T GridLook::*field, T value);
     MemberAccess AccessToCell(std::string_view member, Long row, Long col) const;
-    void ClickCell(GridCell cell);
+    /// Who stands at a row, by the mouse or by keys. What changes under him he is told.
+    struct Pointer {
+        enum class Kind { Nobody, Mouse, Keys };
+        Kind kind = Kind::Nobody;
+        /// Place of the mouse.
+        Twips x = 0;
+        Twips y = 0;
+        /// Row that the keys have reached.
+        Long row = 0;
+        /// Something has changed since he was told last.
+        bool isUntold = false;
+    };
+
+    void RowsChanged();
+    void MarkUntold();
+    void RaiseMouseMoveAt(Twips x, Twips y);
+    void WalkTo(Long row);
     void ClickHeader();
     Long RowReached(GridKey key) const;
     Long WindowHeight() const { return static_cast<Long>(state_.height); }
@@ -227,6 +258,9 @@ private:
     Integer selectionMode_ = 0;
     bool redraw_ = true;
     GridChange change_;
+    Pointer pointer_;
+    /// Where the left button went down, if the press was not lost.
+    std::optional<GridCell> pressed_;
     Handler click_;
     Handler selChange_;
     MouseMoveHandler mouseMove_;

@@ -71,6 +71,7 @@ void GridModel::RowHeight(Long row, Long height)
     CheckRow(row);
     rows_.Size(row, height);
     TouchAll();
+    RowsChanged();
 }
 
 void GridModel::TopRow(Long row)
@@ -78,6 +79,7 @@ void GridModel::TopRow(Long row)
     Writing("TopRow", row);
     rows_.First(row, WindowHeight());
     TouchAll();
+    RowsChanged();
 }
 
 } // namespace kova::toolkit

@@ -4,34 +4,44 @@
 #include "toolkits/common/grid.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace kova::toolkit {
 
-void GridModel::UserMovesMouse(Integer button, Integer shift, Twips x, Twips y)
+void GridModel::UserPresses(Twips x, Twips y)
 {
-    ByUser([=, this] { GetForm().Raise(mouseMove_, button, shift, x, y); });
-}
-
-void GridModel::UserClicks(Twips x, Twips y)
-{
+    pressed_.reset();
     ByUser([this, x, y] {
         if (!FocusForPress())
             return;
         const auto cell = HitTest(x, y);
         if (!cell)
             return;
+        pressed_ = cell;
         if (cell->row < rows_.Fixed())
-            ClickHeader();
-        else
-            ClickCell({cell->row, std::max(cell->col, columns_.Fixed())});
+            return;
+        const GridCell free{cell->row, std::max(cell->col, columns_.Fixed())};
+        Select(free, free);
     });
 }
 
-void GridModel::ClickCell(GridCell cell)
+void GridModel::UserReleases(Twips x, Twips y)
 {
-    Select(cell, cell);
-    if (TakesInput())
-        GetForm().Raise(click_);
+    const auto pressed = std::exchange(pressed_, std::nullopt);
+    ByUser([&] {
+        if (!pressed || HitTest(x, y) != pressed)
+            return;
+        if (pressed->row < rows_.Fixed())
+            ClickHeader();
+        else
+            GetForm().Raise(click_);
+    });
+}
+
+void GridModel::UserClicks(Twips x, Twips y)
+{
+    UserPresses(x, y);
+    UserReleases(x, y);
 }
 
 void GridModel::ClickHeader()
@@ -85,18 +95,23 @@ Twips GridModel::MiddleOfFirstColumn() const
 void GridModel::UserKey(GridKey key)
 {
     ByUser([this, key] {
-        if (rows_.Count() <= rows_.Fixed())
-            return;
-        const GridCell reached{RowReached(key), cursor_.col};
-        rows_.BringIntoView(reached.row, WindowHeight());
-        TouchAll();
-        Select(reached, reached);
-        if (!TakesInput() || reached.row >= rows_.Count())
-            return;
-        const auto middle =
-            static_cast<Twips>(rows_.Start(reached.row)) + static_cast<Twips>(rows_.Size(reached.row)) / 2;
-        GetForm().Raise(mouseMove_, Integer{0}, Integer{0}, MiddleOfFirstColumn(), middle);
+        if (rows_.Count() > rows_.Fixed())
+            WalkTo(RowReached(key));
     });
+}
+
+void GridModel::WalkTo(Long row)
+{
+    const GridCell reached{row, cursor_.col};
+    pointer_ = {.kind = Pointer::Kind::Keys, .row = row};
+    rows_.BringIntoView(reached.row, WindowHeight());
+    TouchAll();
+    Select(reached, reached);
+    if (!TakesInput() || reached.row >= rows_.Count())
+        return;
+    const auto middle =
+        static_cast<Twips>(rows_.Start(reached.row)) + static_cast<Twips>(rows_.Size(reached.row)) / 2;
+    RaiseMouseMoveAt(MiddleOfFirstColumn(), middle);
 }
 
 void GridModel::UserPressesRow()
@@ -119,8 +134,10 @@ void GridModel::UserScrolls(Long topRow, Long leftCol)
         const GridCell before{rows_.First(), columns_.First()};
         rows_.First(topRow, WindowHeight());
         columns_.First(leftCol, WindowWidth());
-        if (!(before == GridCell{rows_.First(), columns_.First()}))
-            TouchAll();
+        if (before == GridCell{rows_.First(), columns_.First()})
+            return;
+        TouchAll();
+        RowsChanged();
     });
 }
 

@@ -97,9 +97,35 @@ bool ToolkitModel::IsShutOut(const FormModel& form) const
 
 void ToolkitModel::LeaveEvent() noexcept
 {
+    // While the event still counts, so that no form dies meanwhile.
+    if (eventDepth_ == 1 && pointerIsUntold_)
+        TellPointer();
     --eventDepth_;
-    if (eventDepth_ == 0 && !retired_.empty())
+    if (eventDepth_ > 0)
+        return;
+    if (!retired_.empty())
         ScheduleRelease();
+    EventsEnded();
+}
+
+void ToolkitModel::TellPointer()
+{
+    pointerIsUntold_ = false;
+    const auto forms = shown_;
+    for (const FormModel* form : forms) {
+        for (const auto& widget : form->Widgets()) {
+            if (!form->Current().unloaded && !widget->TellPointer())
+                pointerIsUntold_ = true;
+        }
+    }
+}
+
+void ToolkitModel::ForgetPointer()
+{
+    for (const FormModel* form : forms_) {
+        for (const auto& widget : form->Widgets())
+            widget->ForgetPointer();
+    }
 }
 
 void ToolkitModel::Retire(std::unique_ptr<FormModel> form) noexcept
@@ -135,6 +161,12 @@ void ToolkitModel::Activated(FormModel& form)
 }
 
 void ToolkitModel::Hidden(FormModel& form) { Remove(shown_, form); }
+
+void ToolkitModel::PushModal(FormModel& form)
+{
+    ++interruptions_;
+    modal_.push_back(&form);
+}
 
 void ToolkitModel::PopModal(FormModel& form) { Remove(modal_, form); }
 

@@ -50,6 +50,14 @@ public:
     void PauseEnds() override { --pauses_; }
     /// Whether an event is on the stack.
     bool IsInsideEvent() const { return eventDepth_ > 0; }
+    /// Counts what has come between the user and a form: boxes, menus, previews and modal forms.
+    unsigned Interruptions() const { return interruptions_; }
+
+    /// What lies under the pointer has changed: its form is told when the outermost event ends, or at the end
+    /// of a later one where it takes no input then.
+    void PointerIsUntold() { pointerIsUntold_ = true; }
+    /// The pointer only passed by: what changes where it was is told to nobody.
+    void ForgetPointer();
 
     // What a screen toolkit gives.
 
@@ -91,6 +99,8 @@ protected:
     /// Forms wait for their end and no event is on the stack. Calls ReleaseRetired at once; a toolkit
     /// whose views may still be on the stack then does it from its event loop instead.
     virtual void ScheduleRelease() { ReleaseRetired(); }
+    /// The outermost event has ended.
+    virtual void EventsEnded() { }
     /// Destroys the forms that nobody holds any more; does nothing while an event is on the stack. A
     /// toolkit calls it in its destructor, as long as windows and views can still be destroyed.
     void ReleaseRetired();
@@ -103,7 +113,11 @@ private:
     /// While a message box, a menu or a preview is open.
     class Closed {
     public:
-        explicit Closed(ToolkitModel& toolkit) : toolkit_(toolkit) { ++toolkit_.closedDepth_; }
+        explicit Closed(ToolkitModel& toolkit) : toolkit_(toolkit)
+        {
+            ++toolkit_.closedDepth_;
+            ++toolkit_.interruptions_;
+        }
         ~Closed() { --toolkit_.closedDepth_; }
         Closed(const Closed&) = delete;
         Closed& operator=(const Closed&) = delete;
@@ -114,18 +128,21 @@ private:
 
     void EnterEvent() { ++eventDepth_; }
     void LeaveEvent() noexcept;
+    void TellPointer();
     void Retire(std::unique_ptr<FormModel> form) noexcept;
     void Shown(FormModel& form);
     void Activated(FormModel& form);
     void Hidden(FormModel& form);
-    void PushModal(FormModel& form) { modal_.push_back(&form); }
+    void PushModal(FormModel& form);
     void PopModal(FormModel& form);
 
     AccessObserver* observer_ = nullptr;
     int eventDepth_ = 0;
     int closedDepth_ = 0;
     int pauses_ = 0;
+    unsigned interruptions_ = 0;
     unsigned shows_ = 0;
+    bool pointerIsUntold_ = false;
     std::vector<FormModel*> forms_;
     std::vector<FormModel*> shown_;
     std::vector<FormModel*> modal_;

@@ -73,6 +73,7 @@ void WidgetCore::ShowSelf(bool visible)
         return;
     state_.visible = visible;
     Tell(Aspect::Visible);
+    VisibilityChanged();
     form_.ReviewFocus();
 }
 
@@ -109,8 +110,12 @@ void WidgetCore::ToFront() { Tell(Aspect::Order); }
 
 bool WidgetCore::FocusForPress()
 {
+    const WidgetCore* const left = form_.Focused();
+    const unsigned interruptions = form_.GetToolkit().Interruptions();
     form_.MoveFocus(this, Entry::Press);
-    return TakesInput();
+    const bool isHeldUp = left && left != this
+        && (form_.Focused() == left || form_.GetToolkit().Interruptions() != interruptions);
+    return TakesInput() && (!isHeldUp || LeavesForm());
 }
 
 AccessObserver* WidgetCore::Observer() const { return form_.GetToolkit().Observer(); }

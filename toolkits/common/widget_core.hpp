@@ -100,6 +100,13 @@ public:
     /// The focus has moved away or here: the widget's own event, where its kind has one.
     virtual void RaiseLostFocus() { }
     virtual void RaiseGotFocus() { }
+    /// Whether this is the form's cancel button now.
+    virtual bool LeavesForm() const { return false; }
+    /// Tells the form what has changed under the pointer; false where the form takes no input now, so that it
+    /// has to be asked again.
+    virtual bool TellPointer() { return true; }
+    /// The pointer is not followed any more.
+    virtual void ForgetPointer() { }
     /// Forgets all handlers; called when the form is unloaded.
     virtual void DropHandlers() { }
     /// Called once after all widgets of the form exist.
@@ -117,13 +124,17 @@ protected:
 
     void MoveTo(Twips WidgetState::*member, Twips value, bool mayBeNegative);
     void ShowSelf(bool visible);
+    /// The widget's own flag has changed.
+    virtual void VisibilityChanged() { }
     void EnableSelf(bool enabled);
     void StopTab(bool stop);
     void WriteToolTip(const Text& text);
     void WriteTag(const Text& text) { state_.tag = text; }
     void FocusByCode();
     void ToFront();
-    /// A press takes the focus first; false where the widget cannot be pressed any more after that.
+    /// A press takes the focus first. False where the press is lost: the widget cannot be pressed any more
+    /// after that, or the LostFocus of the widget before it has taken the focus back, or asked or told
+    /// something in a box. Nothing of the latter holds up a press of the cancel button.
     bool FocusForPress();
 
     AccessObserver* Observer() const;

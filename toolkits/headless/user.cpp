@@ -206,6 +206,13 @@ User::Point User::MiddleOf(toolkit::GridModel& grid, Long row, std::string& refu
 
 std::string User::Hover(std::string_view form, std::string_view grid, Long row)
 {
+    const std::string refusal = Rest(form, grid, row);
+    toolkit_.ForgetPointer();
+    return refusal;
+}
+
+std::string User::Rest(std::string_view form, std::string_view grid, Long row)
+{
     std::string refusal;
     auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal);
     if (!model)
@@ -216,11 +223,26 @@ std::string User::Hover(std::string_view form, std::string_view grid, Long row)
     return refusal;
 }
 
-std::string User::HoverAt(std::string_view form, std::string_view grid, Twips x, Twips y)
+std::string User::Leave(std::string_view form, std::string_view grid)
+{
+    std::string refusal;
+    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+        model->UserLeaves();
+    return refusal;
+}
+
+std::string User::RestAt(std::string_view form, std::string_view grid, Twips x, Twips y)
 {
     std::string refusal;
     if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
         model->UserMovesMouse(0, 0, x, y);
+    return refusal;
+}
+
+std::string User::HoverAt(std::string_view form, std::string_view grid, Twips x, Twips y)
+{
+    const std::string refusal = RestAt(form, grid, x, y);
+    toolkit_.ForgetPointer();
     return refusal;
 }
 
@@ -244,11 +266,14 @@ std::string User::ClickAt(std::string_view form, std::string_view grid, Twips x,
     return refusal;
 }
 
-std::string User::DragTo(std::string_view form, std::string_view grid, Twips x, Twips y)
+std::string User::Drag(std::string_view form, std::string_view grid, Twips x, Twips y, Twips toX, Twips toY)
 {
     std::string refusal;
-    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
-        model->UserDrags(x, y);
+    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal)) {
+        model->UserPresses(x, y);
+        model->UserDrags(toX, toY);
+        model->UserReleases(toX, toY);
+    }
     return refusal;
 }
 

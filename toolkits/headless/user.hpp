@@ -39,14 +39,21 @@ public:
     std::string Focus(std::string_view form, std::string_view control, int index = -1);
     /// Picks a day in the calendar of a date box.
     std::string Pick(std::string_view form, std::string_view control, const Date& date, int index = -1);
-    /// Moves the mouse to the middle of a row, scrolled into view where it is not.
+    /// Moves the mouse over the middle of a row, scrolled into view where it is not, and on: what changes
+    /// there later is told to nobody.
     std::string Hover(std::string_view form, std::string_view grid, Long row);
     /// Places are twips inside the grid.
     std::string HoverAt(std::string_view form, std::string_view grid, Twips x, Twips y);
+    /// Moves the mouse to the middle of a row, where it stays.
+    std::string Rest(std::string_view form, std::string_view grid, Long row);
+    std::string RestAt(std::string_view form, std::string_view grid, Twips x, Twips y);
+    /// Moves the mouse away from the grid and what covers it.
+    std::string Leave(std::string_view form, std::string_view grid);
     /// Clicks the middle of a row.
     std::string Select(std::string_view form, std::string_view grid, Long row);
     std::string ClickAt(std::string_view form, std::string_view grid, Twips x, Twips y);
-    std::string DragTo(std::string_view form, std::string_view grid, Twips x, Twips y);
+    /// Presses at one place, moves to another one with the button down and releases it there.
+    std::string Drag(std::string_view form, std::string_view grid, Twips x, Twips y, Twips toX, Twips toY);
     std::string GridKey(std::string_view form, std::string_view grid, toolkit::GridKey key);
     /// Presses a button of a navigation bar, 1 to 4.
     std::string Bar(std::string_view form, std::string_view bar, int button);

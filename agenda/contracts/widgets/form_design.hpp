@@ -64,7 +64,10 @@ struct ControlDesign {
     Colour highlightColor = -1;
     Colour fontColor = -1;
     bool isDefault = false;
+    /// What Escape presses. Where a caption is named, the button is the form's cancel button while it shows
+    /// that one: a button may lead into the record in one mode and out of it in another.
     bool isCancel = false;
+    std::string cancelCaption = {};
 
     /// The key that presses a button, chooses an option or puts the focus on a box from anywhere in the form,
     /// such as "F4", "Ctrl+1" or "Alt+Left"; "" is none. F1 lists the keys of a form that has any.
@@ -89,6 +92,9 @@ struct FormDesign {
     /// A bordered window of its own; a form without a border is shown inside a container or as a plate.
     bool bordered = true;
     bool resizable = false;
+    /// What is typed into the form is lost when it is left: once something is, the first Escape only moves to
+    /// the cancel button, and the second presses it.
+    bool guardsTyping = false;
     /// In tab order.
     std::vector<ControlDesign> controls = {};
 };

@@ -321,7 +321,7 @@ TEST_F(Grid, ExtendsTheSelectionByDragging)
     Shape(8, 3);
     user_.Select("frm", "msfg", 2);
     Listen();
-    user_.DragTo("frm", "msfg", 100, 240 * 4 + 10);
+    user_.Drag("frm", "msfg", 100, 240 * 2 + 10, 100, 240 * 4 + 10);
     EXPECT_EQ(TakeEvents(), (Events{"sel 2,0:4,0"}));
     EXPECT_EQ(grid_->Row(), 2);
     EXPECT_EQ(grid_->RowSel(), 4);
