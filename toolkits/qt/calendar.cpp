@@ -1,5 +1,6 @@
 #include "toolkits/qt/calendar.hpp"
 
+#include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/icons.hpp"
 #include "toolkits/qt/painting.hpp"
 #include "toolkits/qt/theme.hpp"
@@ -57,7 +58,6 @@ QRectF TodayArea()
 CalendarPopup::CalendarPopup(QWidget* parent, Date today, std::function<void(Date)> choose)
     : QWidget(parent, Qt::Popup), today_(today), current_(today), choose_(std::move(choose))
 {
-    setAttribute(Qt::WA_DeleteOnClose);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Calendário"));
@@ -179,6 +179,13 @@ void CalendarPopup::mouseMoveEvent(QMouseEvent* event)
         hover_ = hit;
         update();
     }
+}
+
+// By a day, by Escape, or by Qt itself for a press elsewhere.
+void CalendarPopup::closeEvent(QCloseEvent* event)
+{
+    QWidget::closeEvent(event);
+    Bury(*this);
 }
 
 void CalendarPopup::leaveEvent(QEvent*)

@@ -1,5 +1,6 @@
 #include "toolkits/qt/combo_field.hpp"
 
+#include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/icons.hpp"
 #include "toolkits/qt/painting.hpp"
 #include "toolkits/qt/theme.hpp"
@@ -70,7 +71,7 @@ void ComboField::CloseList()
     list_ = nullptr;
     if (popup_) {
         popup_->removeEventFilter(this);
-        popup_->close();
+        Bury(*popup_);
     }
     popup_ = nullptr;
     update();
@@ -91,7 +92,6 @@ void ComboField::ShowList(const QStringList& rows, int marked)
 void ComboField::MakeList(const QStringList& texts)
 {
     popup_ = new QWidget(this, Qt::Popup);
-    popup_->setAttribute(Qt::WA_DeleteOnClose);
     popup_->installEventFilter(this);
     auto* layout = new QVBoxLayout(popup_);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -202,10 +202,9 @@ void ComboField::changeEvent(QEvent* event)
 
 bool ComboField::eventFilter(QObject* watched, QEvent* event)
 {
+    // Qt itself closes it for a press elsewhere.
     if (watched == popup_ && event->type() == QEvent::Hide) {
-        list_ = nullptr;
-        popup_ = nullptr;
-        update();
+        CloseList();
         if (left)
             left();
         return false;

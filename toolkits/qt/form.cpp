@@ -1,6 +1,7 @@
 #include "toolkits/qt/form.hpp"
 
 #include "toolkits/common/menu.hpp"
+#include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/label.hpp"
 #include "toolkits/qt/theme.hpp"
@@ -117,7 +118,12 @@ FormWindow::FormWindow(QtToolkit& toolkit, toolkit::FormModel& model)
     ShowGeometry();
 }
 
-FormWindow::~FormWindow() { Remove(); }
+// No event is on the stack when a form dies.
+FormWindow::~FormWindow()
+{
+    containerWatch_.reset();
+    delete widget_.data();
+}
 
 Long FormWindow::Handle() const { return handle_; }
 
@@ -271,9 +277,7 @@ void FormWindow::Remove()
     if (!widget_)
         return;
     widget_->followsModel = true;
-    widget_->hide();
-    // A handler of one of its widgets may be on the stack.
-    widget_->deleteLater();
+    Bury(*widget_);
 }
 
 void FormWindow::RunModal()

@@ -19,6 +19,13 @@ public:
     /// Repaints what changed, and nothing else.
     void Apply(const toolkit::GridChange& change);
 
+    /// The mouse is at a place of the grid while the form takes no input.
+    void MouseIsAt(const QPointF& place);
+    /// The mouse is over what covers the grid at that place.
+    void MouseIsAbove(const QPointF& place);
+    /// The mouse left the grid and what covers it.
+    void MouseLeaves();
+
     const toolkit::GridModel& Model() const { return model_; }
     /// Place of a row across the whole grid, in pixels; empty where it is not on show.
     QRect RowArea(Long row) const;

@@ -80,7 +80,7 @@ void GridCanvas::mousePressEvent(QMouseEvent* event)
         return;
     draggedEdge_ = EdgeAt(event->position());
     if (!draggedEdge_)
-        model_.UserClicks(ToTwips(event->position().x()), ToTwips(event->position().y()));
+        model_.UserPresses(ToTwips(event->position().x()), ToTwips(event->position().y()));
 }
 
 void GridCanvas::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
@@ -97,7 +97,27 @@ void GridCanvas::mouseMoveEvent(QMouseEvent* event)
                           ToTwips(place.y()));
 }
 
-void GridCanvas::mouseReleaseEvent(QMouseEvent*) { draggedEdge_.reset(); }
+void GridCanvas::MouseIsAt(const QPointF& place)
+{
+    model_.UserMovesMouse(0, 0, ToTwips(place.x()), ToTwips(place.y()));
+}
+
+void GridCanvas::MouseIsAbove(const QPointF& place)
+{
+    model_.UserMovesAbove(ToTwips(place.x()), ToTwips(place.y()));
+}
+
+void GridCanvas::MouseLeaves() { model_.UserLeaves(); }
+
+void GridCanvas::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    const bool resized = draggedEdge_.has_value();
+    draggedEdge_.reset();
+    if (!resized)
+        model_.UserReleases(ToTwips(event->position().x()), ToTwips(event->position().y()));
+}
 
 // The column whose right edge in the header is under the mouse.
 std::optional<Long> GridCanvas::EdgeAt(const QPointF& place) const

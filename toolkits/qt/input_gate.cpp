@@ -1,9 +1,15 @@
 #include "toolkits/qt/input_gate.hpp"
 
 #include "toolkits/qt/form.hpp"
+#include "toolkits/qt/grid_canvas.hpp"
+#include "toolkits/qt/toolkit.hpp"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QTimer>
+
+#include <utility>
 
 namespace kova::qt {
 
@@ -26,6 +32,11 @@ bool IsInput(QEvent::Type type)
     case QEvent::Shortcut: return true;
     default: return false;
     }
+}
+
+bool IsPress(QEvent::Type type)
+{
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
 }
 
 // Characters are for the box that has the focus; so is Shift with them.
@@ -58,19 +69,118 @@ FormWidget* FormAround(QWidget* widget)
     return nullptr;
 }
 
+InputGate::InputGate(QtToolkit& toolkit) : QObject(nullptr), toolkit_(toolkit) { }
+
+InputGate::~InputGate() = default;
+
 bool InputGate::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!IsInput(event->type()) || !watched->isWidgetType())
+    if (!watched->isWidgetType())
         return false;
     auto* target = static_cast<QWidget*>(watched);
+    if (event->type() == QEvent::MouseMove || event->type() == QEvent::Leave)
+        FollowMouse(*target, *event);
+    if (IsPress(event->type()) && EndsAPressElsewhere(*target, *static_cast<QMouseEvent*>(event)))
+        return true;
+    if (!IsInput(event->type()))
+        return false;
     FormWidget* form = FormAround(target);
     if (!form)
         return false;
     // The release belongs to a press that was let through; held back, a button would stay down.
     const bool ends = event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease;
-    if (!ends && !form->Model().Refusal().empty())
+    if (!ends && !form->Model().Refusal().empty()) {
+        if (event->type() == QEvent::KeyPress)
+            KeepKey(*static_cast<QKeyEvent*>(event));
         return true;
+    }
     return event->type() == QEvent::KeyPress && TakesKey(*form, *target, *static_cast<QKeyEvent*>(event));
+}
+
+// The second press of a double press at the place of a window that the first one has closed would fall
+// through onto what lies beneath.
+bool InputGate::EndsAPressElsewhere(const QWidget& target, const QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton)
+        return false;
+    const QPoint place = event.globalPosition().toPoint();
+    const auto milliseconds = static_cast<unsigned long>(event.timestamp());
+    const bool isSoon =
+        milliseconds - press_.milliseconds < static_cast<unsigned long>(QApplication::doubleClickInterval());
+    const bool isThere = (place - press_.place).manhattanLength() <= QApplication::startDragDistance();
+    const bool isGone = press_.isAny && (!press_.window || !press_.window->isVisible());
+    if (isGone && isSoon && isThere)
+        return true;
+    press_ = {target.window(), place, milliseconds, true};
+    return false;
+}
+
+// A grid hears of moves above itself from its own canvas. What covers it there, a row's buttons, belongs to
+// it.
+void InputGate::FollowMouse(QWidget& target, const QEvent& event)
+{
+    if (auto* canvas = dynamic_cast<GridCanvas*>(&target); canvas && event.type() == QEvent::MouseMove) {
+        pointed_ = canvas;
+        if (FormWidget* form = FormAround(canvas); form && !form->Model().Refusal().empty())
+            canvas->MouseIsAt(static_cast<const QMouseEvent&>(event).position());
+        return;
+    }
+    auto* pointed = static_cast<GridCanvas*>(pointed_.data());
+    if (!pointed)
+        return;
+    if (event.type() == QEvent::Leave) {
+        const bool leavesWindow = target.isWindow() && target.window() == pointed->window();
+        if (!leavesWindow || toolkit_.IsInsideEvent())
+            return;
+    } else {
+        const QPointF place = pointed->mapFromGlobal(static_cast<const QMouseEvent&>(event).globalPosition());
+        const bool isAbove =
+            FormAround(&target) == FormAround(pointed) && QRectF(pointed->rect()).contains(place);
+        if (isAbove)
+            return pointed->MouseIsAbove(place);
+        if (target.window() != pointed->window())
+            return;
+    }
+    pointed_ = nullptr;
+    pointed->MouseLeaves();
+}
+
+// Only for as long as a pause lasts: who types into a box or a form means that one.
+void InputGate::KeepKey(const QKeyEvent& event)
+{
+    if (!toolkit_.IsPausing() || event.isAutoRepeat())
+        return;
+    if (kept_.empty())
+        interruptions_ = toolkit_.Interruptions();
+    kept_.emplace_back(event.clone());
+}
+
+void InputGate::EventsEnded()
+{
+    if (!kept_.empty() && !delivering_)
+        QTimer::singleShot(0, this, [this] { DeliverKeptKeys(); });
+}
+
+void InputGate::DeliverKeptKeys()
+{
+    if (delivering_ || toolkit_.IsPausing())
+        return;
+    delivering_ = true;
+    auto keys = std::exchange(kept_, {});
+    for (const auto& key : keys) {
+        QWidget* focus = QApplication::focusWidget();
+        const FormWidget* form = FormAround(focus);
+        if (toolkit_.Interruptions() != interruptions_ || !form || !form->Model().Refusal().empty())
+            break;
+        const QPointer<QWidget> target = focus;
+        QCoreApplication::sendEvent(target, key.get());
+        if (target) {
+            QKeyEvent release(QEvent::KeyRelease, key->key(), key->modifiers(), key->text());
+            QCoreApplication::sendEvent(target, &release);
+        }
+    }
+    delivering_ = false;
+    EventsEnded();
 }
 
 bool InputGate::TakesKey(FormWidget& form, QWidget& target, const QKeyEvent& event)

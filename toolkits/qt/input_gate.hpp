@@ -1,24 +1,58 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
+#include <QPointer>
+
+#include <memory>
+#include <vector>
 
 class QKeyEvent;
+class QMouseEvent;
 class QWidget;
 
 namespace kova::qt {
 
 class FormWidget;
+class GridCanvas;
+class QtToolkit;
 
-/// Stands before all forms of the process: keeps input away from forms that take none, and hands the
-/// keys of the form as a whole (Tab, Enter, Escape) to its model.
+/// Stands before all forms of the process: keeps input away from forms that take none, hands the keys of the
+/// form as a whole (Tab, Enter, Escape) to its model, keeps the keys of a pause for later, and follows the
+/// mouse.
 class InputGate : public QObject {
 public:
-    explicit InputGate(QObject* parent) : QObject(parent) { }
+    explicit InputGate(QtToolkit& toolkit);
+    ~InputGate() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// The outermost event has ended: keys that were kept are delivered where their form takes input again.
+    void EventsEnded();
 
 private:
+    /// The last press of the left button, in whichever window.
+    struct Press {
+        QPointer<QWidget> window;
+        QPoint place;
+        unsigned long milliseconds = 0;
+        bool isAny = false;
+    };
+
     bool TakesKey(FormWidget& form, QWidget& target, const QKeyEvent& event);
+    /// Whether a press goes on with a double press that began in a window that is gone meanwhile.
+    bool EndsAPressElsewhere(const QWidget& target, const QMouseEvent& event);
+    void FollowMouse(QWidget& target, const QEvent& event);
+    void KeepKey(const QKeyEvent& event);
+    void DeliverKeptKeys();
+
+    QtToolkit& toolkit_;
+    Press press_;
+    /// The grid that the mouse was over last.
+    QPointer<QWidget> pointed_;
+    std::vector<std::unique_ptr<QKeyEvent>> kept_;
+    /// Of the toolkit, when the first of the kept keys came.
+    unsigned interruptions_ = 0;
+    bool delivering_ = false;
 };
 
 /// Marks a widget that presses itself by Enter, such as a button inside a bar.

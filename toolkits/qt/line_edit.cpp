@@ -1,5 +1,6 @@
 #include "toolkits/qt/line_edit.hpp"
 
+#include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/theme.hpp"
 #include "toolkits/qt/widget_view.hpp"
 
@@ -117,7 +118,7 @@ void LineEdit::contextMenuEvent(QContextMenuEvent* event)
 {
     const bool editable = !isReadOnly() && isEnabled();
     auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu, &QMenu::aboutToHide, menu, [menu] { Bury(*menu); });
     const auto add = [&](const char* text, bool enabled, auto action) {
         menu->addAction(QString::fromUtf8(text), this, action)->setEnabled(enabled);
     };

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "reports/layout.hpp"
+#include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/check_box.hpp"
 #include "toolkits/qt/combo_box.hpp"
 #include "toolkits/qt/command_button.hpp"
@@ -30,8 +31,8 @@
 #include "toolkits/qt/theme.hpp"
 #include "toolkits/qt/time_box.hpp"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QEventLoop>
 #include <QPainterPath>
 #include <QRegion>
 #include <QScreen>
@@ -68,16 +69,22 @@ QRegion RoundRect(const QSize& size, int ellipseWidth, int ellipseHeight)
 } // namespace
 
 QtToolkit::QtToolkit(const Clock& clock)
-    : clock_(clock), measure_(std::make_unique<QtTextMeasure>()), gate_(std::make_unique<InputGate>(nullptr))
+    : clock_(clock), measure_(std::make_unique<QtTextMeasure>()), gate_(std::make_unique<InputGate>(*this))
 {
     ApplyLook(*qApp);
+    BurialsWaitFor(this);
     // Asked in the reverse order: the grids before what any widget gets.
     InstallFieldAccessibility();
     InstallGridAccessibility();
     qApp->installEventFilter(gate_.get());
 }
 
-QtToolkit::~QtToolkit() = default;
+// Forms that wait for their end go while windows and views can still be destroyed.
+QtToolkit::~QtToolkit()
+{
+    ReleaseRetired();
+    BurialsWaitFor(nullptr);
+}
 
 QWidget* QtToolkit::WindowBelow(const QWidget* except) const
 {
@@ -90,14 +97,11 @@ QWidget* QtToolkit::WindowBelow(const QWidget* except) const
 void QtToolkit::ProcessPendingEvents()
 {
     constexpr int longestWaitMilliseconds = 10;
-    auto* dispatcher = QAbstractEventDispatcher::instance();
-    if (!dispatcher || dispatcher->processEvents(QEventLoop::AllEvents))
+    QEventLoop loop;
+    if (loop.processEvents(QEventLoop::AllEvents) || !IsPausing())
         return;
-    QTimer wake;
-    wake.setTimerType(Qt::PreciseTimer);
-    wake.setSingleShot(true);
-    wake.start(longestWaitMilliseconds);
-    dispatcher->processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    QTimer::singleShot(longestWaitMilliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 Twips QtToolkit::ScreenWidth() const
@@ -198,6 +202,13 @@ void QtToolkit::ShowPreview(const toolkit::ReportModel& report, const reports::D
 void QtToolkit::ScheduleRelease()
 {
     QTimer::singleShot(0, gate_.get(), [this] { ReleaseRetired(); });
+}
+
+void QtToolkit::EventsEnded()
+{
+    ScheduleBurials();
+    if (gate_)
+        gate_->EventsEnded();
 }
 
 } // namespace kova::qt

@@ -12,6 +12,8 @@ class QWidget;
 
 namespace kova::qt {
 
+class InputGate;
+
 /// Handles for the host: see handles.hpp.
 Long HandleOf(QWidget& widget);
 
@@ -48,12 +50,13 @@ protected:
     /// Shows a report that has been laid out, until the user has closed it.
     void ShowPreview(const toolkit::ReportModel& report, const reports::Document& pages);
     void ScheduleRelease() override;
+    void EventsEnded() override;
 
 private:
     const Clock& clock_;
     QPointer<QWidget> topWindow_;
     std::unique_ptr<toolkit::TextMeasure> measure_;
-    std::unique_ptr<QObject> gate_;
+    std::unique_ptr<InputGate> gate_;
 };
 
 } // namespace kova::qt

@@ -88,7 +88,10 @@ public:
     /// The desk's clock goes on.
     virtual void PassTime(Double seconds) = 0;
     virtual void Pick(KVDTPicker& box, Date date) = 0;
+    /// Moves the mouse there, where it stays.
     virtual void HoverAt(MSFlexGrid& grid, Twips x, Twips y) = 0;
+    /// Moves the mouse from the grid to another widget, which does not cover it.
+    virtual void MoveAway(MSFlexGrid& grid, Widget& other) = 0;
     virtual void ClickAt(MSFlexGrid& grid, Twips x, Twips y) = 0;
     /// Presses at one place and moves to another one with the button down.
     virtual void Drag(MSFlexGrid& grid, Twips x, Twips y, Twips toX, Twips toY) = 0;

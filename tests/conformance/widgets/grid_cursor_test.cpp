@@ -150,7 +150,21 @@ TEST_P(GridCursor, IsClickedWhereTheGridIsScrolled)
 TEST_P(GridCursor, StretchesTheSelectionWhereTheUserDrags)
 {
     User().Drag(*grid_, 2250, 675, 5250, 1575);
-    EXPECT_EQ(TakeEvents(), (Events{"click 1,1 1,1", "sel 1,1 3,3"}));
+    EXPECT_EQ(TakeEvents(), (Events{"sel 1,1 3,3"}));
+}
+
+TEST_P(GridCursor, IsNotClickedWhereTheButtonIsReleasedOverAnotherCell)
+{
+    User().Drag(*grid_, 2250, 675, 5250, 675);
+    User().Drag(*grid_, 2250, 675, 2250, 8000);
+    for (const std::string& event : TakeEvents())
+        EXPECT_FALSE(event.starts_with("click")) << event;
+}
+
+TEST_P(GridCursor, IsClickedWhereTheButtonIsReleasedOverTheSameCell)
+{
+    User().Drag(*grid_, 2250, 675, 2300, 700);
+    EXPECT_EQ(TakeEvents(), (Events{"click 1,1 1,1"}));
 }
 
 TEST_P(GridCursor, TakesNothingFromTheUserWhileTheGridIsDisabled)

@@ -163,16 +163,16 @@ public:
 
     void HoverAt(MSFlexGrid& grid, Twips x, Twips y) override
     {
-        user_.HoverAt(FormOf(grid), NameOf(grid), x, y);
+        user_.RestAt(FormOf(grid), NameOf(grid), x, y);
     }
+    void MoveAway(MSFlexGrid& grid, Widget&) override { user_.Leave(FormOf(grid), NameOf(grid)); }
     void ClickAt(MSFlexGrid& grid, Twips x, Twips y) override
     {
         user_.ClickAt(FormOf(grid), NameOf(grid), x, y);
     }
     void Drag(MSFlexGrid& grid, Twips x, Twips y, Twips toX, Twips toY) override
     {
-        user_.ClickAt(FormOf(grid), NameOf(grid), x, y);
-        user_.DragTo(FormOf(grid), NameOf(grid), toX, toY);
+        user_.Drag(FormOf(grid), NameOf(grid), x, y, toX, toY);
     }
     void GridKey(MSFlexGrid& grid, toolkit::GridKey key) override
     {

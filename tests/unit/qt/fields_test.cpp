@@ -160,7 +160,6 @@ TEST_F(Fields, CalendarStartsAtTodayAndChoosesWithoutLosingTheFocus)
 TEST_F(Fields, CalendarStaysInsideItsRange)
 {
     CalendarPopup calendar(nullptr, {2026, 3, 18}, nullptr);
-    calendar.setAttribute(Qt::WA_DeleteOnClose, false);
     calendar.Open(QRect(0, 0, 10, 10), {1900, 1, 1});
     Press(&calendar, Qt::Key_Left);
     EXPECT_EQ(calendar.Current(), (Date{1900, 1, 1}));

@@ -84,6 +84,10 @@ public:
     void Pick(KVDTPicker& box, Date date) override;
 
     void HoverAt(MSFlexGrid& grid, Twips x, Twips y) override { MoveOver(WindowOf(grid), PixelOf(x, y)); }
+    void MoveAway(MSFlexGrid&, Widget& other) override
+    {
+        MoveOver(WindowOf(other), WindowOf(other)->rect().center());
+    }
     void ClickAt(MSFlexGrid& grid, Twips x, Twips y) override { ClickOn(WindowOf(grid), PixelOf(x, y)); }
     void Drag(MSFlexGrid& grid, Twips x, Twips y, Twips toX, Twips toY) override
     {
