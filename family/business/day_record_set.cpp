@@ -4,6 +4,8 @@
 #include "family/business/shown_values.hpp"
 #include "family/data/iso_text.hpp"
 
+#include <algorithm>
+
 namespace kova::family {
 
 namespace {
@@ -68,11 +70,24 @@ constexpr KeptField<DayRowOf> Fields[] = {
     {"UsuarioDaAlteracao", [](const DayRow& row) { return TextOrNull(row.alteradoPor); }},
 };
 
+/// The list keeps its page number when a filter or another day leaves fewer pages: it then stands on the last
+/// one.
+class DayOfAppointments : public KeptRecordSet<DayRowOf> {
+public:
+    using KeptRecordSet::AbsolutePage;
+    using KeptRecordSet::KeptRecordSet;
+
+    void AbsolutePage(Long page) override
+    {
+        KeptRecordSet::AbsolutePage(RecordCount() == 0 ? page : std::min(page, PageCount()));
+    }
+};
+
 } // namespace
 
 std::shared_ptr<PagedRecordSet> DayRecordSet(DayRows day)
 {
-    return std::make_shared<KeptRecordSet<DayRowOf>>(Fields, std::move(day));
+    return std::make_shared<DayOfAppointments>(Fields, std::move(day));
 }
 
 } // namespace kova::family

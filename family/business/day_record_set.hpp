@@ -5,7 +5,8 @@
 
 namespace kova::family {
 
-/// A day's appointments with the 37 fields that the screens read.
+/// A day's appointments with the 37 fields that the screens read. A page beyond the last is taken as the
+/// last.
 std::shared_ptr<PagedRecordSet> DayRecordSet(DayRows day);
 
 } // namespace kova::family

@@ -49,6 +49,8 @@ struct EngineKind {
     bool livesInALibrary = true;
     /// Stores what is written, so that the next selection finds it.
     bool storesWrites = true;
+    /// A page of appointments beyond the last is the last one; else it fails.
+    bool endsOnTheLastPage = true;
 };
 
 /// Every engine there is. A new one is added here and in a file of its own.

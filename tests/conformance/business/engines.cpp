@@ -14,7 +14,8 @@ const std::vector<EngineKind>& Engines()
          .checksNames = false,
          .keepsFormerResult = false,
          .livesInALibrary = false,
-         .storesWrites = false},
+         .storesWrites = false,
+         .endsOnTheLastPage = false},
         {.name = "Sqlite", .make = MakeSqliteEngine},
         {.name = "Postgresql", .make = MakePostgresqlEngine},
     };

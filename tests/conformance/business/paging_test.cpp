@@ -39,11 +39,37 @@ TEST_P(Paging, RefusesAPageThatIsNotThereAndStaysWhereItWas)
 {
     const RecordSetRef day = PagedDay(*agenda_, 3);
     day->AbsolutePage(2);
-    for (const Long page : {0, -1, 4, 32767})
+    for (const Long page : {0, -1})
         EXPECT_EQ(NumberOfFailure([&] { day->AbsolutePage(page); }), 3001) << page;
     EXPECT_EQ(day->AbsolutePage(), 2);
     EXPECT_EQ(NumberOfFailure([&] { day->PageSize(0); }), 3001);
     EXPECT_EQ(day->PageSize(), 3);
+}
+
+class PagingBeyondTheEnd : public Paging { };
+KOVA_OVER_ENGINES(PagingBeyondTheEnd, EnginesWithout(&EngineKind::endsOnTheLastPage));
+
+TEST_P(PagingBeyondTheEnd, FailsAndStaysWhereItWas)
+{
+    const RecordSetRef day = PagedDay(*agenda_, 3);
+    day->AbsolutePage(2);
+    for (const Long page : {4, 32767})
+        EXPECT_EQ(NumberOfFailure([&] { day->AbsolutePage(page); }), 3001) << page;
+    EXPECT_EQ(day->AbsolutePage(), 2);
+}
+
+class PagingToTheEnd : public Paging { };
+KOVA_OVER_ENGINES(PagingToTheEnd, EnginesWith(&EngineKind::endsOnTheLastPage));
+
+TEST_P(PagingToTheEnd, TakesAPageBeyondTheLastAsTheLast)
+{
+    const RecordSetRef day = PagedDay(*agenda_, 3);
+    for (const Long page : {4, 32767}) {
+        day->AbsolutePage(1);
+        day->AbsolutePage(page);
+        EXPECT_EQ(day->AbsolutePage(), 3) << page;
+        EXPECT_EQ(NumbersOf(*Page(*agenda_, 3)), (std::vector<int>{7})) << page;
+    }
 }
 
 TEST_P(Paging, OfNothingFoundHasNoPage)

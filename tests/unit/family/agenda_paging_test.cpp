@@ -41,6 +41,30 @@ TEST_F(AgendaPaging, CutsTheDayIntoPages)
     EXPECT_EQ(day->AbsolutePage(), 3);
 }
 
+TEST_F(AgendaPaging, TakesAPageBeyondTheLastAsTheLast)
+{
+    SelectPaged(3);
+    ResultOf(agenda_)->AbsolutePage(9);
+    EXPECT_EQ(ResultOf(agenda_)->AbsolutePage(), 3);
+    EXPECT_EQ(NumbersOf(*Page(3)), (std::vector<int>{6, 7}));
+}
+
+TEST_F(AgendaPaging, RefusesAPageBelowTheFirstAndAnyOfAnEmptyDay)
+{
+    const auto numberOfFailure = [&](Long page) -> Long {
+        try {
+            ResultOf(agenda_)->AbsolutePage(page);
+            return 0;
+        } catch (const Failure& failure) {
+            return failure.Number();
+        }
+    };
+    SelectPaged(3);
+    EXPECT_EQ(numberOfFailure(0), 3001);
+    SelectPaged(3, "01/01/2020");
+    EXPECT_EQ(numberOfFailure(1), 3021);
+}
+
 TEST_F(AgendaPaging, CountsAPageSizeBelowOneAsOne)
 {
     SelectPaged(0);
