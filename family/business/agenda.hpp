@@ -34,7 +34,8 @@ private:
     /// it. Without an argument the status is cancelled.
     Value AlterarSituacaoDoAgendamentoNoPacoteDeBanhoETosa(std::span<Argument> arguments);
 
-    /// Runs a write for the session's user and keeps its answer for the members that are read after it.
+    /// Runs a write for the session's user and keeps its answer for the members that are read after it. One
+    /// that has left nothing for a cause that passes answers 2 of the field "Gravacao".
     Integer Write(std::string_view member, const std::function<WriteAnswer(const Author&)>& write);
 
     // The answer of the last write; "" and False where it was done, or has failed technically.

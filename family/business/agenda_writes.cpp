@@ -6,12 +6,32 @@
 
 namespace kova::family {
 
+namespace {
+
+/// A screen that finds no field of that name shows the text and stays open, with all that was typed.
+constexpr const char* NoField = "Gravacao";
+
+/// What fails for a cause that passes has left nothing behind, and is worth another press.
+WriteAnswer AnswerOrNothing(const std::function<WriteAnswer()>& write)
+{
+    try {
+        return write();
+    } catch (const StoreFailure& failure) {
+        if (!IsPassing(failure.GetFault()))
+            throw;
+        return WriteAnswer::InvalidField(NoField, "Nada foi gravado.\r\n" + failure.Cause());
+    }
+}
+
+} // namespace
+
 Integer Agenda::Write(std::string_view member, const std::function<WriteAnswer(const Author&)>& write)
 {
     answer_ = {};
     bool answered = false;
     const Integer failed = Attempt(member, [&] {
-        answer_ = write(CurrentAuthor(user_, Host().GetPlatform().Clock()));
+        const Author author = CurrentAuthor(user_, Host().GetPlatform().Clock());
+        answer_ = AnswerOrNothing([&] { return write(author); });
         answered = true;
     });
     return answered ? answer_.status : failed;

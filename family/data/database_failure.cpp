@@ -11,18 +11,25 @@ namespace {
 
 struct Translation {
     std::string_view reported;
+    Fault fault;
     std::string_view cause;
 };
 
 constexpr Translation Translations[] = {
-    {"is full", "O disco está cheio. Libere espaço e tente novamente; nada do que estava gravado se perdeu."},
-    {"is locked", "O banco de dados está em uso por outro programa. Feche-o e tente novamente."},
-    {"readonly", "O banco de dados não aceita gravação. Verifique as permissões do arquivo e da pasta."},
-    {"not a database", "O arquivo não é um banco de dados. Escolha outro arquivo."},
-    {"malformed", "O banco de dados está danificado. Restaure a cópia de segurança mais recente."},
-    {"unable to open", "O arquivo não pode ser aberto. Verifique o caminho e as permissões da pasta."},
-    {"I/O error", "O disco não respondeu à leitura ou à gravação. Verifique o disco e tente novamente."},
-    {"interrupted", "O trabalho foi interrompido antes do fim; nada foi gravado."},
+    {"is full", Fault::Shortage,
+     "O disco está cheio. Libere espaço e tente novamente; nada do que estava gravado se perdeu."},
+    {"is locked", Fault::Locked,
+     "O banco de dados está em uso por outro programa. Feche-o e tente novamente."},
+    {"readonly", Fault::Lasting,
+     "O banco de dados não aceita gravação. Verifique as permissões do arquivo e da pasta."},
+    {"not a database", Fault::Lasting, "O arquivo não é um banco de dados. Escolha outro arquivo."},
+    {"malformed", Fault::Lasting,
+     "O banco de dados está danificado. Restaure a cópia de segurança mais recente."},
+    {"unable to open", Fault::Lasting,
+     "O arquivo não pode ser aberto. Verifique o caminho e as permissões da pasta."},
+    {"I/O error", Fault::Lasting,
+     "O disco não respondeu à leitura ou à gravação. Verifique o disco e tente novamente."},
+    {"interrupted", Fault::Lasting, "O trabalho foi interrompido antes do fim; nada foi gravado."},
 };
 
 /// A state of a server, or the class of states that begin with it.
@@ -56,14 +63,14 @@ constexpr ServerState ServerStates[] = {
     {"25P03", Fault::ConnectionLost, "O servidor encerrou a conexão, que esperou demais. Tente novamente."},
     {"53300", Fault::ConnectionLost,
      "O servidor já tem todas as conexões que aceita. Feche programas que o usam, ou aumente o limite dele."},
-    {"53100", Fault::Lasting,
+    {"53100", Fault::Shortage,
      "O disco do servidor está cheio. Libere espaço nele e tente novamente; nada do que estava gravado se"
      " perdeu."},
-    {"53", Fault::Lasting, "O servidor está sem recursos. Tente novamente mais tarde."},
+    {"53", Fault::Shortage, "O servidor está sem recursos. Tente novamente mais tarde."},
     {"40", Fault::Collision, "Outros postos gravavam os mesmos registros ao mesmo tempo. Tente novamente."},
     {"55P03", Fault::Locked,
      "Outro posto está gravando o mesmo registro. Aguarde um momento e tente novamente."},
-    {"57014", Fault::Lasting, "O servidor demorou demais e a operação foi interrompida. Tente novamente."},
+    {"57014", Fault::Shortage, "O servidor demorou demais e a operação foi interrompida. Tente novamente."},
     {"28P01", Fault::Lasting,
      "O servidor não aceitou o usuário ou a senha. Verifique o usuário no endereço e a senha no arquivo de"
      " senhas (~/.pgpass)."},
@@ -89,20 +96,34 @@ std::string Opening(const std::string& path) { return "Falha no banco de dados \
 
 } // namespace
 
+bool IsPassing(Fault fault)
+{
+    switch (fault) {
+    case Fault::ConnectionLost:
+    case Fault::Collision:
+    case Fault::Locked:
+    case Fault::Shortage: return true;
+    case Fault::Lasting:
+    case Fault::InDoubt: break;
+    }
+    return false;
+}
+
 StoreFailure DatabaseFailure(std::string text) { return {std::move(text), Fault::Lasting}; }
 
 StoreFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported)
 {
     for (const ServerState& known : ServerStates) {
         if (state.starts_with(known.state))
-            return {WithDetail(Opening(path).append(known.cause), reported), known.fault};
+            return {WithDetail(Opening(path).append(known.cause), reported), known.fault,
+                    std::string(known.cause)};
     }
     return DatabaseFailure(WithDetail(Opening(path).append(Refused), reported));
 }
 
 StoreFailure LostConnection(const std::string& path)
 {
-    return {Opening(path).append(Lost), Fault::ConnectionLost};
+    return {Opening(path).append(Lost), Fault::ConnectionLost, std::string(Lost)};
 }
 
 StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause)
@@ -112,7 +133,8 @@ StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error
         return ServerFailure(path, reported->sqlstate(), message);
     for (const Translation& translation : Translations) {
         if (message.find(translation.reported) != std::string::npos)
-            return DatabaseFailure(WithDetail(Opening(path).append(translation.cause), message));
+            return {WithDetail(Opening(path).append(translation.cause), message), translation.fault,
+                    std::string(translation.cause)};
     }
     return DatabaseFailure(WithDetail(Opening(path).append(Refused), message));
 }

@@ -21,20 +21,31 @@ enum class Fault {
     Collision,
     /// Somebody else kept what this one needed for too long.
     Locked,
+    /// A full disk, or a server that has no room or no time for now.
+    Shortage,
+    /// The connection was lost during a commit: nobody can tell whether the write was kept.
+    InDoubt,
 };
+
+/// Whether the same may succeed later although nobody changes it. Of a write that fails so, nothing remains.
+bool IsPassing(Fault fault);
 
 /// A failure of the data store; the text is Portuguese, names the path, and says what to do.
 class StoreFailure : public Failure {
 public:
-    StoreFailure(std::string text, Fault fault)
-        : Failure(DatabaseFailureNumber, std::move(text)), fault_(fault)
+    /// `cause` is the part of the text that is for everybody: without the path and the engine's own words.
+    StoreFailure(std::string text, Fault fault, std::string cause = {})
+        : Failure(DatabaseFailureNumber, std::move(text)), fault_(fault), cause_(std::move(cause))
     {
     }
 
     Fault GetFault() const { return fault_; }
+    /// What has happened and what to do, for everybody; the whole text where nothing shorter is known.
+    const std::string& Cause() const { return cause_.empty() ? Description() : cause_; }
 
 private:
     Fault fault_;
+    std::string cause_;
 };
 
 /// A lasting one.

@@ -111,10 +111,10 @@ private:
             return {failure.Description()
                         + "\r\nNão foi possível saber se a gravação foi concluída. Quando o servidor voltar, "
                           "atualize a lista e confira antes de gravar de novo.",
-                    failure.GetFault()};
-        if (failure.GetFault() == Fault::Lasting)
+                    Fault::InDoubt};
+        if (!IsPassing(failure.GetFault()))
             return failure;
-        return {failure.Description() + "\r\nNada foi gravado.", failure.GetFault()};
+        return {failure.Description() + "\r\nNada foi gravado.", failure.GetFault(), failure.Cause()};
     }
 
     Database& database_;

@@ -142,10 +142,11 @@ StoreFailure RefusalOfServer(const std::string& address, const std::string& conn
               "PGPASSFILE indicar), que só o seu usuário pode ler.");
     if (const std::string state = StateIn(reported); !state.empty())
         return ServerFailure(address, state, cause.what());
-    if (const char* host = PQhost(asked.get()); host != nullptr && IsUnknownHost(host))
-        return StoreFailure(Opening(address) + "O servidor \"" + host
-                                + "\" não foi encontrado pelo nome. Verifique o endereço e a rede.",
-                            Fault::ConnectionLost);
+    if (const char* host = PQhost(asked.get()); host != nullptr && IsUnknownHost(host)) {
+        const std::string unknown = std::string("O servidor \"") + host
+            + "\" não foi encontrado pelo nome. Verifique o endereço e a rede.";
+        return {Opening(address) + unknown, Fault::ConnectionLost, unknown};
+    }
     if (reported.find("SSL") != std::string::npos || reported.find("certific") != std::string::npos)
         return DatabaseFailure(
             WithDetail(Opening(address)

@@ -382,6 +382,9 @@ TEST(ServerReport, IsToldByItsState)
     EXPECT_EQ(ServerFailure("x", "40001", "").GetFault(), Fault::Collision);
     EXPECT_EQ(ServerFailure("x", "57P01", "").GetFault(), Fault::ConnectionLost);
     EXPECT_EQ(ServerFailure("x", "22012", "").GetFault(), Fault::Lasting);
+    for (const char* state : {"53100", "53200", "57014"})
+        EXPECT_EQ(ServerFailure("x", state, "").GetFault(), Fault::Shortage) << state;
+    EXPECT_EQ(ServerFailure("x", "53300", "").GetFault(), Fault::ConnectionLost);
 }
 
 } // namespace kova::family::test

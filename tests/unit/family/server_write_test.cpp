@@ -1,12 +1,14 @@
 // Writes and reads over a connection that breaks, and transactions in each other's way.
 
 #include "tests/support/postgres_relay.hpp"
+#include "tests/unit/family/desk_fixture.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/business/appointment_writes.hpp"
 #include "family/business/company_selection.hpp"
 #include "family/data/data_source.hpp"
 #include "family/data/safe_write.hpp"
+#include "family/data/shared_database.hpp"
 
 #include <barrier>
 #include <thread>
@@ -109,6 +111,47 @@ TEST_F(PostgresqlBehindARelay, TellsThatNothingWasWrittenAndGoesOnWhenTheServerI
     EXPECT_EQ(SelectTradeNames(*database_), TradeNames);
     EXPECT_TRUE(Book().IsDone());
     EXPECT_EQ(Booked(), 1);
+}
+
+/// The component that a status button uses, behind the relay.
+class PostgresqlDeskBehindARelay : public PostgresqlBehindARelay {
+protected:
+    PostgresqlDeskBehindARelay()
+    {
+        agenda_.Set("AtualizarSomenteOCampoSituacao", true);
+        agenda_.Set("SituacaoAtual", Integer(1));
+        agenda_.Set("SituacaoNova", Integer(2));
+        agenda_.Set("NumeroDeLancamento", Double(2));
+        agenda_.Set("DadosDoUsuario", std::make_shared<DeskUser>("Lia"));
+    }
+    ~PostgresqlDeskBehindARelay() override { CloseSharedDatabases(); }
+
+    Text Told(const char* member) { return agenda_.Get(member).ToText(); }
+
+    DeskHost desk_{relay_.AddressOf(shop_.Name())};
+    Agenda agenda_{desk_};
+};
+
+TEST_F(PostgresqlDeskBehindARelay, AsksToTryAgainWhereTheConnectionWasLostBeforeTheCommitWasSent)
+{
+    EXPECT_EQ(agenda_.Call("Selecionar", DayArguments("20/11/2026")), Value(Integer(0)));
+    relay_.Refuse();
+    EXPECT_EQ(agenda_.Call("Alterar"), Value(Integer(2)));
+    EXPECT_EQ(Told("NomeDoCampoValidado"), "Gravacao");
+    EXPECT_TRUE(
+        Told("DescricaoDaFalha").starts_with("Nada foi gravado.\r\nO servidor não pode ser alcançado."))
+        << Told("DescricaoDaFalha");
+    EXPECT_FALSE(Holds(Told("DescricaoDaFalha"), "postgresql")) << Told("DescricaoDaFalha");
+    relay_.Admit();
+    EXPECT_EQ(agenda_.Call("Alterar"), Value(Integer(0)));
+}
+
+TEST_F(PostgresqlDeskBehindARelay, FailsWhereNobodyCanTellWhetherAnythingWasKept)
+{
+    relay_.BreakEach(Breaks::BeforeCommit, 100);
+    EXPECT_EQ(agenda_.Call("Alterar"), Value(Integer(1)));
+    EXPECT_EQ(Told("NomeDoCampoValidado"), "");
+    EXPECT_TRUE(Holds(Told("DescricaoDoErro"), "Não foi possível saber se a gravação foi concluída"));
 }
 
 TEST_F(PostgresqlShop, IsReadAndWrittenAfterARestartOfTheServer)

@@ -83,8 +83,9 @@ TEST_F(StatusWrite, TellsThatTheDataAreInUseAndWorksWhenTheyAreFree)
     const std::shared_ptr<Database> other = OpenDatabase(host_.DataSource());
     {
         WriteTransaction writing(*other);
-        EXPECT_EQ(agenda->Call("Alterar"), Value(Integer(1)));
-        EXPECT_NE(agenda->Get("DescricaoDoErro").ToText().find("em uso por outro programa"),
+        EXPECT_EQ(agenda->Call("Alterar"), Value(Integer(2)));
+        EXPECT_EQ(agenda->Get("NomeDoCampoValidado"), Value("Gravacao"));
+        EXPECT_NE(agenda->Get("DescricaoDaFalha").ToText().find("em uso por outro programa"),
                   std::string::npos);
         EXPECT_EQ(Everything(), before);
     }

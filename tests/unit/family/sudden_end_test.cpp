@@ -135,7 +135,7 @@ void BookOnAndOn(const std::string& dataSource, int round, int told)
             if (AddAppointments(*database, Series("01/12/2026", remark), Somebody).IsDone())
                 Tell(told, series);
         } catch (const StoreFailure& failure) {
-            if (failure.GetFault() != Fault::ConnectionLost)
+            if (failure.GetFault() != Fault::ConnectionLost && failure.GetFault() != Fault::InDoubt)
                 throw;
         }
     }
