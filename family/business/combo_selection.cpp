@@ -1,5 +1,10 @@
 #include "family/business/combo_selection.hpp"
 
+#include "family/data/fold_text.hpp"
+
+#include <algorithm>
+#include <utility>
+
 namespace kova::family {
 
 namespace {
@@ -53,12 +58,13 @@ struct ServiceTypesByName : ComboSelection {
     }
 };
 
-struct EmployeesByName : ComboSelection {
-    explicit EmployeesByName(Database& database)
+/// Shown by their nicknames, of which the register keeps no searchable form.
+struct EmployeesByCode : ComboSelection {
+    explicit EmployeesByCode(Database& database)
         : ComboSelection(database,
                          "select apelido, codigo from funcionario"
                          " where situacao = 1 and (:chave = 0 or codigo = :chave)"
-                         " order by nome_de_busca, codigo")
+                         " order by codigo")
     {
     }
 };
@@ -92,6 +98,21 @@ struct AnimalsByName : ComboSelection {
     }
 };
 
+/// In the order of what is read, without regard to case and accents; rows that read alike stay as they come.
+std::vector<ComboRow> ByShownText(std::vector<ComboRow> rows)
+{
+    std::vector<std::pair<std::string, ComboRow>> keyed;
+    keyed.reserve(rows.size());
+    for (ComboRow& row : rows) {
+        std::string read = FoldText(row.text);
+        keyed.emplace_back(std::move(read), std::move(row));
+    }
+    std::ranges::stable_sort(keyed, {}, &std::pair<std::string, ComboRow>::first);
+    for (std::size_t at = 0; at < rows.size(); ++at)
+        rows[at] = std::move(keyed[at].second);
+    return rows;
+}
+
 template <class Selection, class... Keys> std::vector<ComboRow> Run(Database& database, Keys... keys)
 {
     return database.With<Selection>([&](Selection& selection) { return selection.Run(keys...); });
@@ -106,7 +127,7 @@ std::vector<ComboRow> SelectServiceTypes(Database& database, long long key)
 
 std::vector<ComboRow> SelectEmployees(Database& database, long long key)
 {
-    return Run<EmployeesByName>(database, key);
+    return ByShownText(Run<EmployeesByCode>(database, key));
 }
 
 std::vector<ComboRow> SelectSpecies(Database& database, long long key)

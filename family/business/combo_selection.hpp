@@ -13,7 +13,7 @@ struct ComboRow {
     long long key = 0;
 };
 
-/// The active rows by name, then key. `key` 0 is all, another only that one.
+/// The active rows by the name that is shown, then key. `key` 0 is all, another only that one.
 std::vector<ComboRow> SelectServiceTypes(Database& database, long long key);
 std::vector<ComboRow> SelectEmployees(Database& database, long long key);
 std::vector<ComboRow> SelectSpecies(Database& database, long long key);

@@ -46,6 +46,19 @@ TEST_F(Registers, GiveTheActiveEmployeesByName)
               (std::vector<std::string>{"Bia=2", "Zeca=1"}));
 }
 
+TEST_F(Registers, GiveTheEmployeesInTheOrderOfTheNicknamesThatAreShown)
+{
+    Database& database = *SharedDatabase(host_.DataSource());
+    Insert(database, EmployeeRow{11, "ângela", "Zulmira Prado", "zulmira prado", 1, 1});
+    Insert(database, EmployeeRow{12, "Ana", "Yara Lopes", "yara lopes", 1, 1});
+    Insert(database, EmployeeRow{10, "ANA", "Zilda Reis", "zilda reis", 1, 1});
+    Double all = 0;
+    Employees employees(host_);
+    ASSERT_EQ(employees.Call("SelecionarParaComboBox", {ByRef(all)}), Value(Integer(0)));
+    EXPECT_EQ(RowsOf(*ResultOf(employees), "Apelido", "Codigo"),
+              (std::vector<std::string>{"ANA=10", "Ana=12", "ângela=11", "Bia=2", "Zeca=1"}));
+}
+
 TEST_F(Registers, GiveKeysAsLongs)
 {
     Double all = 0;
