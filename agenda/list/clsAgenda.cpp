@@ -15,6 +15,14 @@ namespace {
                   "KOVA_A_Agenda.clsAgenda não aceita a propriedade ou método '" + Text(member) + "'.");
 }
 
+/// A dropped reference is taken as it is: the first write then says that there is no user.
+ObjectRef UserIn(const Value& value)
+{
+    if (value.IsEmpty())
+        return nullptr;
+    return value.GetType() == ValueType::Object ? value.HeldObject() : value.ToObject();
+}
+
 } // namespace
 
 Value clsAgenda::Get(std::string_view member) { FailOnMember(member); }
@@ -22,7 +30,7 @@ Value clsAgenda::Get(std::string_view member) { FailOnMember(member); }
 void clsAgenda::Set(std::string_view member, const Value& value)
 {
     if (member == "DadosDoUsuario")
-        Principal().DadosDoUsuario = value.IsEmpty() ? nullptr : value.ToObject();
+        Principal().DadosDoUsuario = UserIn(value);
     else if (member == "NomeDaAplicacao")
         Principal().NomeDaAplicacao = value.ToText();
     else

@@ -120,6 +120,8 @@ public:
     /// The window or its container got another inner size: Resize, once the form has been shown.
     void UserResizes(InnerSize inner);
     void UserMoves(Twips left, Twips top);
+    /// The container has been closed or destroyed: the form in it is unloaded.
+    void ContainerEnds();
     void UserPressesKey(FormKey key);
     /// A key that is not a character, such as "F4" or "Ctrl+1": presses the button, chooses the option or
     /// enters the box that has it, where the user can act on it, or shows the form's keys. A button leaves

@@ -130,6 +130,11 @@ bool FormModel::UnloadNow()
     return true;
 }
 
+void FormModel::ContainerEnds()
+{
+    ByUser([this] { UnloadNow(); });
+}
+
 bool FormModel::IsKeptByHandler()
 {
     struct Unloading {

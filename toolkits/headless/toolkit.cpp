@@ -30,6 +30,18 @@ void HeadlessToolkit::ResizeContainer(Long handle, Twips width, Twips height)
         form->UserResizes({width, height});
 }
 
+void HeadlessToolkit::DestroyContainer(Long handle)
+{
+    const auto found = containers_.find(handle);
+    if (found == containers_.end())
+        throw Failure(FailureNumber::InvalidArgument);
+    const auto forms = found->second.forms;
+    containers_.erase(found);
+    const toolkit::EventScope scope(*this);
+    for (toolkit::FormModel* form : forms)
+        form->ContainerEnds();
+}
+
 std::optional<toolkit::InnerSize> HeadlessToolkit::JoinContainer(Long handle, toolkit::FormModel& form)
 {
     const auto found = containers_.find(handle);

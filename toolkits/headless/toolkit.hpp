@@ -37,6 +37,8 @@ public:
     /// Gives a container another inner size, and the forms in it their Resize. Fails with 5 where there is
     /// no such container.
     void ResizeContainer(Long handle, Twips width, Twips height);
+    /// Closes a container, and with it the forms in it. Fails with 5 where there is no such container.
+    void DestroyContainer(Long handle);
 
     /// The driver of the tests, in use until SetDriver names another one.
     QueueDriver& Queue() { return queue_; }

@@ -134,6 +134,8 @@ std::optional<toolkit::InnerSize> FormWindow::SetParent(Long containerHandle)
         return std::nullopt;
     container_ = container;
     containerWatch_ = std::make_unique<ResizeWatch>(*container, [this] { FitToContainer(); });
+    QObject::connect(container, &QObject::destroyed, containerWatch_.get(),
+                     [this] { model_.ContainerEnds(); });
     widget_->followsModel = true;
     widget_->setParent(container, Qt::Widget);
     widget_->setMinimumSize(0, 0);

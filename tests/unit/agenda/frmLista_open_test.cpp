@@ -300,6 +300,30 @@ TEST_F(OpeningTheList, ForgetsAListThatItsShellHasClosed)
     EXPECT_EQ(script.LiveObjects(), 0);
 }
 
+TEST_F(OpeningTheList, EndsWithItsContainer)
+{
+    std::weak_ptr<frmLista> lista = Open();
+    toolkit.ClearLog();
+    toolkit.DestroyContainer(container);
+    EXPECT_EQ(Logged("unload"), std::vector<std::string>{"unload frmLista"});
+    EXPECT_TRUE(Principal().ListasAbertas.empty());
+    EXPECT_EQ(Principal().FormularioDaLista, nullptr);
+    EXPECT_TRUE(lista.expired());
+    EXPECT_EQ(script.LiveObjects(), 0);
+    EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(OpeningTheList, TakesAUserThatHasBeenDropped)
+{
+    clsAgenda agenda;
+    agenda.Set("DadosDoUsuario", std::make_shared<scenario::NamedObject>("<user>"));
+    agenda.Set("DadosDoUsuario", ObjectRef());
+    EXPECT_EQ(Principal().DadosDoUsuario, nullptr);
+    agenda.Set("DadosDoUsuario", std::make_shared<scenario::NamedObject>("<user>"));
+    agenda.Set("DadosDoUsuario", Value());
+    EXPECT_EQ(Principal().DadosDoUsuario, nullptr);
+}
+
 TEST_F(OpeningTheList, OffersOneMethodAndTwoWriteOnlyProperties)
 {
     clsAgenda agenda;
