@@ -175,6 +175,8 @@ private:
 
     Integer PreencherGrade();
     void PreencherLinha(Long linha, const RecordSet& pagina);
+    /// None for a number that no status has, however large.
+    Picture FiguraDaSituacao(Double situacao) const;
     void msfgGrade_SelChange();
     void msfgGrade_MouseMove(Integer Button, Integer Shift, Twips X, Twips Y);
     void PosicionarBotoesDaLinha();
@@ -205,8 +207,9 @@ private:
     Integer UltimaSituacao() const;
     Integer UltimaSituacaoSemPreVenda() const;
     void CopiarSituacoes(KVComboBox& destino, Integer ultima);
-    void CopiarTiposDeServicos(KVComboBox& destino, KVComboBox& comboALimpar);
-    void CopiarFuncionarios(KVComboBox& destino);
+    // Each of these two goes on from the checkpoint at which it begins, step by step.
+    void CopiarTiposDeServicos(KVComboBox& destino, KVComboBox& comboALimpar, Integer& Ponto);
+    void CopiarFuncionarios(KVComboBox& destino, Integer& Ponto);
     /// Adds the filter's rows from `primeira` to `ultima` to another combo.
     void CopiarLinhas(KVComboBox& fonte, KVComboBox& destino, Integer primeira, Integer ultima);
     void Escolher(KVComboBox& combo, Integer linha);

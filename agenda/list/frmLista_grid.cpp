@@ -156,18 +156,25 @@ void frmLista::PreencherLinha(Long linha, const RecordSet& pagina)
     msfgGrade.Row(linha);
     msfgGrade.Col(colunas::FiguraDaSituacao);
     msfgGrade.CellPictureAlignment(grid_alignment::CentreMiddle);
-    switch (pagina.Field("Situacao").ToInteger()) {
-    case 1: msfgGrade.CellPicture(imgEtiqueta_Situacao_Agendado.Picture()); break;
-    case 2: msfgGrade.CellPicture(imgEtiqueta_Situacao_Atendido.Picture()); break;
-    case 3: msfgGrade.CellPicture(imgEtiqueta_Situacao_Cancelado.Picture()); break;
-    case 4: msfgGrade.CellPicture(imgEtiqueta_Situacao_Atendido_Gerado_PreVenda.Picture()); break;
-    default: msfgGrade.CellPicture(Picture{}); break;
-    }
+    msfgGrade.CellPicture(FiguraDaSituacao(pagina.Field("Situacao").ToDouble()));
 
     // e. Who included and changed it, and when.
     for (Long coluna = colunas::DataEHoraDaInclusao; coluna <= colunas::UsuarioDaAlteracao; ++coluna)
         msfgGrade.TextMatrix(linha, coluna,
                              TextoDaColuna(pagina, ColunasDaGrade()[static_cast<std::size_t>(coluna)]));
+}
+
+Picture frmLista::FiguraDaSituacao(Double situacao) const
+{
+    if (situacao == 1)
+        return imgEtiqueta_Situacao_Agendado.Picture();
+    if (situacao == 2)
+        return imgEtiqueta_Situacao_Atendido.Picture();
+    if (situacao == 3)
+        return imgEtiqueta_Situacao_Cancelado.Picture();
+    if (situacao == 4)
+        return imgEtiqueta_Situacao_Atendido_Gerado_PreVenda.Picture();
+    return {};
 }
 
 void frmLista::msfgGrade_SelChange()

@@ -130,28 +130,30 @@ void frmLista::ExibirListaVazia()
 void frmLista::PreencherBarraDeNavegacao(Integer Modo, Long total, Integer& Ponto)
 {
     auto& barra = kvnbBarraDeNavegacao;
-    const Double linhas = msfgGrade.Rows() - 1;
-    const Double primeiro = barra.FirstRecord();
-    const Double ultimo = barra.LastRecord();
+    const auto linhas = [this] { return Double{msfgGrade.Rows() - 1.0}; };
     switch (Modo) {
     case 1:
         Ponto = 7;
         barra.FirstRecord(1);
-        barra.LastRecord(linhas);
+        barra.LastRecord(linhas());
         break;
-    case 2:
+    case 2: {
         Ponto = 8;
-        barra.FirstRecord(primeiro - linhas);
-        barra.LastRecord(ultimo - (ultimo - primeiro) - 1);
+        const Double primeiro = barra.FirstRecord();
+        barra.FirstRecord(primeiro - linhas());
+        barra.LastRecord(primeiro - 1);
         break;
-    case 3:
+    }
+    case 3: {
         Ponto = 9;
+        const Double ultimo = barra.LastRecord();
         barra.FirstRecord(ultimo + 1);
-        barra.LastRecord(ultimo + linhas);
+        barra.LastRecord(ultimo + linhas());
         break;
+    }
     case 4:
         Ponto = 10;
-        barra.FirstRecord(total - linhas + 1);
+        barra.FirstRecord(total - linhas() + 1);
         barra.LastRecord(total);
         break;
     default: {

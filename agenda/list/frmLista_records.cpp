@@ -58,10 +58,10 @@ void frmLista::mnuAdicionarAgendamentoCompleto_Click()
         CopiarSituacoes(ficha.kvcmbSituacao, UltimaSituacao());
 
         Ponto = 3;
-        CopiarTiposDeServicos(ficha.kvcmbTiposDeServicos, ficha.kvcmbTiposDeServicos);
+        CopiarTiposDeServicos(ficha.kvcmbTiposDeServicos, ficha.kvcmbTiposDeServicos, Ponto);
 
         Ponto = 6;
-        CopiarFuncionarios(ficha.kvcmbFuncionarios);
+        CopiarFuncionarios(ficha.kvcmbFuncionarios, Ponto);
 
         Ponto = 8;
         ficha.MontarExibirFormulario(operacao::Adicionar);
@@ -89,10 +89,10 @@ void frmLista::mnuAdicionarAgendamentoSimplificado_Click()
         CopiarSituacoes(ficha.kvcmbSituacao, UltimaSituacaoSemPreVenda());
 
         Ponto = 6;
-        CopiarTiposDeServicos(ficha.kvcmbTiposDeServicos, ficha.kvcmbTiposDeServicos);
+        CopiarTiposDeServicos(ficha.kvcmbTiposDeServicos, ficha.kvcmbTiposDeServicos, Ponto);
 
         Ponto = 9;
-        CopiarFuncionarios(ficha.kvcmbFuncionarios);
+        CopiarFuncionarios(ficha.kvcmbFuncionarios, Ponto);
 
         Ponto = 11;
         ficha.MontarExibirFormulario(operacao::Adicionar);
@@ -153,10 +153,11 @@ void frmLista::AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Intege
     CopiarTiposDeServicos(ficha->kvcmbTiposDeServicos,
                           limpaAOutra
                               ? InstanciaImplicita(Principal().FichaCompletaImplicita).kvcmbTiposDeServicos
-                              : ficha->kvcmbTiposDeServicos);
+                              : ficha->kvcmbTiposDeServicos,
+                          Ponto);
 
     Ponto = 7;
-    CopiarFuncionarios(ficha->kvcmbFuncionarios);
+    CopiarFuncionarios(ficha->kvcmbFuncionarios, Ponto);
 
     // 3. The form reads the row itself and runs until it is closed.
     Ponto = 9;
@@ -198,23 +199,26 @@ void frmLista::CopiarSituacoes(KVComboBox& destino, Integer ultima)
     Escolher(kvcmbSituacao, escolhida);
 }
 
-void frmLista::CopiarTiposDeServicos(KVComboBox& destino, KVComboBox& comboALimpar)
+void frmLista::CopiarTiposDeServicos(KVComboBox& destino, KVComboBox& comboALimpar, Integer& Ponto)
 {
     comboALimpar.Clear();
     const Integer escolhido = kvcmbTiposDeServicos.ListIndex();
     destino.AddItem(TodosOsTipos);
     destino.ItemData(destino.NewIndex(), 0);
+    ++Ponto;
     CopiarLinhas(kvcmbTiposDeServicos, destino, 1, Checked(kvcmbTiposDeServicos.ListCount() - 1));
     // The filter chosen on the list is what the record starts with.
+    ++Ponto;
     Escolher(destino, escolhido);
     Escolher(kvcmbTiposDeServicos, escolhido);
 }
 
-void frmLista::CopiarFuncionarios(KVComboBox& destino)
+void frmLista::CopiarFuncionarios(KVComboBox& destino, Integer& Ponto)
 {
     destino.Clear();
     const Integer escolhido = kvcmbFuncionarios.ListIndex();
     CopiarLinhas(kvcmbFuncionarios, destino, 1, Checked(kvcmbFuncionarios.ListCount() - 1));
+    ++Ponto;
     IgnorarClick = true;
     // One less, as "(Funcionários)" stays behind.
     if (escolhido != 0)

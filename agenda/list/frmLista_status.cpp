@@ -69,7 +69,7 @@ void frmLista::MarcarAgendamento(Integer SituacaoNova, Integer& Ponto)
     msfgGrade.Enabled(false);
 
     // 2. The row has that status already.
-    if (RoundToInteger(NumeroDaCelula(colunas::Situacao)) == SituacaoNova) {
+    if (NumeroDaCelula(colunas::Situacao) == SituacaoNova) {
         msfgGrade.Enabled(true);
         return;
     }
@@ -115,12 +115,10 @@ bool frmLista::AlterarSituacaoDoAgendamento(Integer SituacaoNova, Integer Situac
     Integer Ponto = 0;
     bool resultado = false;
     Trap(", frmLista, AlterarSituacaoDoAgendamento, Ponto: ", Ponto, [&] {
+        Ponto = 1;
         if (!objAgendaDaLista)
             throw Failure(FailureNumber::NoObject);
         Component& agenda = *objAgendaDaLista;
-        const Long linha = msfgGrade.RowSel();
-
-        Ponto = 1;
         agenda.Set("AtualizarSomenteOCampoSituacao", true);
 
         Ponto = 2;
@@ -138,7 +136,7 @@ bool frmLista::AlterarSituacaoDoAgendamento(Integer SituacaoNova, Integer Situac
             Ponto = 7;
             agenda.Set("CodigoDoFuncionario", RoundToLong(NumeroDaCelula(colunas::CodigoDoFuncionario)));
             Ponto = 8;
-            agenda.Set("DataInicial", msfgGrade.TextMatrix(linha, colunas::DataInicial));
+            agenda.Set("DataInicial", msfgGrade.TextMatrix(msfgGrade.RowSel(), colunas::DataInicial));
         }
 
         Ponto = 9;

@@ -87,6 +87,20 @@ TEST_F(TheGrid, WritesEachFieldIntoItsColumn)
     EXPECT_EQ(grade.TextMatrix(1, 38), "") << "Null";
 }
 
+TEST_F(TheGrid, GivesNoPictureToANumberThatNoStatusHasHoweverLarge)
+{
+    const auto lista = OpenWith({Appointment(1, {{"Situacao", Long{99999}}}),
+                                 Appointment(2, {{"Situacao", Double{3e12}}}), Appointment(3)});
+    EXPECT_TRUE(Reports().empty());
+    auto& grade = lista->msfgGrade;
+    EXPECT_EQ(grade.TextMatrix(1, 33), "99999");
+    EXPECT_EQ(grade.TextMatrix(2, 37), "") << "the row is filled to its end";
+    const auto& shown = dynamic_cast<toolkit::GridModel&>(grade);
+    EXPECT_EQ(shown.PictureOfCell(1, 34), "");
+    EXPECT_EQ(shown.PictureOfCell(2, 34), "");
+    EXPECT_NE(shown.PictureOfCell(3, 34), "");
+}
+
 TEST_F(TheGrid, ReportsANullWhereNoneMayBe)
 {
     const auto lista = OpenWith({Appointment(1), Appointment(2, {{"NomeDoAnimal", Null{}}})});

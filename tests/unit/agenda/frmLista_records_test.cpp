@@ -241,7 +241,7 @@ TEST_F(RecordCommands, AFailureBeforeTheFormLeavesTheGridDisabledAndIsReported)
     EXPECT_EQ(user.Click("frmLista", "kvcmdAlterar"), "");
     EXPECT_FALSE(lista->msfgGrade.Enabled());
     ASSERT_EQ(Reports().size(), 1U);
-    EXPECT_NE(Reports()[0].find(", frmLista, kvcmdAlterar_Click, Ponto: 7"), std::string::npos)
+    EXPECT_NE(Reports()[0].find(", frmLista, kvcmdAlterar_Click, Ponto: 8"), std::string::npos)
         << Reports()[0];
 }
 

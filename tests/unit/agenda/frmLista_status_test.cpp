@@ -211,6 +211,8 @@ TEST_F(Marking, LeavesTheGridDisabledWhereItFailsBeforeTheWriteHasEnded)
     Mark("Atendido");
     ASSERT_EQ(Reports().size(), 1U);
     EXPECT_NE(Reports()[0].find("Long& 6,"), std::string::npos) << Reports()[0];
+    EXPECT_NE(Reports()[0].find(", kvcmdMarcarAgendamentoComoAtendido_Click, Ponto: 2"), std::string::npos)
+        << Reports()[0];
     EXPECT_FALSE(lista->msfgGrade.Enabled());
 }
 
