@@ -126,7 +126,14 @@ Integer frmLista::ImprimirFicha(const FichaImpressa& ficha, Integer& Ponto)
     VincularFicha(ficha, *relatorio, *registro);
 
     Ponto = 10;
-    ExibirRelatorio(*relatorio, ficha.titulo, LarguraDaFicha);
+    EscreverNomeDoAplicativo(*relatorio);
+
+    Ponto = 11;
+    relatorio->Caption(ficha.titulo);
+    DarMargens(*relatorio);
+    relatorio->Width(LarguraDaFicha);
+    relatorio->WindowState(ReportWindowState::Maximized);
+    VisualizarRelatorio(*relatorio);
     return 0;
 }
 

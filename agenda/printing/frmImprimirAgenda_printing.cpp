@@ -153,8 +153,15 @@ void frmImprimirAgenda::ImprimirAgendamentos(const RecordSetRef& agendamentos, c
     Vincular(*relatorio, lista->vinculos);
 
     Ponto = 11;
+    EscreverNomeDoAplicativo(*relatorio);
+
+    Ponto = 12;
+    relatorio->Caption("Imprimir agendamentos");
+    relatorio->WindowState(ReportWindowState::Maximized);
+    relatorio->Width(LarguraDoRelatorio);
+    DarMargens(*relatorio);
     relatorio->Orientation(ReportOrientation::Landscape);
-    ExibirRelatorio(*relatorio, "Imprimir agendamentos", LarguraDoRelatorio);
+    VisualizarRelatorio(*relatorio);
 }
 
 Text frmImprimirAgenda::Subtitulo() const

@@ -52,16 +52,21 @@ void Vincular(Report& relatorio, std::span<const Vinculo> vinculos)
         detalhes.TextBox(caixa).DataField(campo);
 }
 
-void ExibirRelatorio(Report& relatorio, const char* titulo, Twips largura)
+void EscreverNomeDoAplicativo(Report& relatorio)
 {
     relatorio.Section(secoes::Rodape).Label("lblTituloDoAplicativo").Caption(Principal().NomeDaAplicacao);
-    relatorio.Caption(titulo);
-    relatorio.WindowState(ReportWindowState::Maximized);
-    relatorio.Width(largura);
+}
+
+void DarMargens(Report& relatorio)
+{
     relatorio.LeftMargin(Margem);
     relatorio.TopMargin(Margem);
     relatorio.RightMargin(Margem);
     relatorio.BottomMargin(Margem);
+}
+
+void VisualizarRelatorio(Report& relatorio)
+{
     relatorio.Refresh();
     relatorio.ShowModal();
 }

@@ -31,9 +31,13 @@ ReportRef InstanciaDoRelatorio(ReportRef& instancia, const ReportDesign& desenho
 /// Ties the text boxes of the details to their fields.
 void Vincular(Report& relatorio, std::span<const Vinculo> vinculos);
 
-/// The application's name at the foot of each page, the title and size of the window, the width in twips and
-/// the margins; then the preview, until the user closes it. It leaves the report as designed, so all of it is
-/// set anew for every preview.
-void ExibirRelatorio(Report& relatorio, const char* titulo, Twips largura);
+// The preview leaves a report as designed, so the window and the paper are set anew for every one: each kind
+// of report in an order of its own, which is fixed so.
+
+/// The application's name at the foot of each page.
+void EscreverNomeDoAplicativo(Report& relatorio);
+void DarMargens(Report& relatorio);
+/// Until the user closes it.
+void VisualizarRelatorio(Report& relatorio);
 
 } // namespace kova::agenda

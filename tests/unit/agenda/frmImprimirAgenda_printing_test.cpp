@@ -2,6 +2,7 @@
 
 #include "agenda/printing/frmImprimirAgenda.hpp"
 #include "tests/unit/agenda/printing_fixture.hpp"
+#include "tests/unit/agenda/widget_log.hpp"
 
 namespace kova::agenda {
 
@@ -45,6 +46,28 @@ protected:
 
     std::shared_ptr<frmLista> lista;
 };
+
+TEST_F(PrintedList, GetsItsWindowAndPaperInThisOrder)
+{
+    WidgetLog widgets;
+    for (const auto& [entry, report] :
+         {std::pair{Lista, "drListaDeAgendamentos"},
+          std::pair{ListaParaTransporte, "drListaDeAgendamentosParaTransporte"}}) {
+        const std::string name = report;
+        Look();
+        toolkit.Observer(&widgets);
+        Print(entry);
+        toolkit.Observer(nullptr);
+        const Strings written = widgets.Of(name + ".");
+        const auto window =
+            std::find(written.begin(), written.end(), name + ".Caption Text \"Imprimir agendamentos\"");
+        EXPECT_EQ(Strings(window + 1, written.end()),
+                  (Strings{name + ".WindowState Integer 2", name + ".Width Double 10145",
+                           name + ".LeftMargin Double 850", name + ".TopMargin Double 850",
+                           name + ".RightMargin Double 850", name + ".BottomMargin Double 850",
+                           name + ".Orientation Integer 2", name + ".Refresh Empty", name + ".Show Long 1"}));
+    }
+}
 
 TEST_F(PrintedList, ComesFromASelectionOfItsOwn)
 {

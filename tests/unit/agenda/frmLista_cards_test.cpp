@@ -1,6 +1,9 @@
 // What is printed of one row: the two cards and the address label.
 
 #include "tests/unit/agenda/printing_fixture.hpp"
+#include "tests/unit/agenda/widget_log.hpp"
+
+#include <array>
 
 namespace kova::agenda {
 
@@ -45,6 +48,30 @@ TEST_F(Cards, TheMenuOpensBelowTheButtonOfTheRow)
     EXPECT_EQ(Logged("popup"),
               Strings{"popup mnuImprimirFicha " + twips(lista->kvcmdImprimirFicha.Left()) + " "
                       + twips(lista->kvcmdImprimirFicha.Top() + lista->kvcmdImprimirFicha.Height())});
+}
+
+TEST_F(Cards, GetTheirWindowAndPaperInThisOrder)
+{
+    OpenOn();
+    WidgetLog widgets;
+    for (const auto& [entry, report, title] :
+         {std::array{ParaTransporte, "drFichaDoAgendamentoParaTransporte", "transporte"},
+          std::array{ParaInspecao, "drFichaDoAgendamentoParaInspecaoDoAnimal", "inspeção do animal"}}) {
+        const std::string name = report;
+        Look();
+        toolkit.Observer(&widgets);
+        Print(entry);
+        toolkit.Observer(nullptr);
+        const Strings written = widgets.Of(name + ".");
+        const auto window =
+            std::find(written.begin(), written.end(),
+                      name + ".Caption Text \"Imprimir ficha do agendamento para " + title + "\"");
+        EXPECT_EQ(Strings(window + 1, written.end()),
+                  (Strings{name + ".LeftMargin Double 850", name + ".TopMargin Double 850",
+                           name + ".RightMargin Double 850", name + ".BottomMargin Double 850",
+                           name + ".Width Double 10125", name + ".WindowState Integer 2",
+                           name + ".Refresh Empty", name + ".Show Long 1"}));
+    }
 }
 
 TEST_F(Cards, ForTransportShowsTheRowsCells)
