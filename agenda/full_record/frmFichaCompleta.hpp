@@ -187,6 +187,7 @@ private:
     void EsvaziarClienteDoAnimal();
     void kvfNomeDoAnimal_KeyDown();
     void optAgendarPor_Click(Integer Index);
+    void PararComTab(bool porCliente);
 
     // Service and times.
     void kvcmbTiposDeServicos_Click();

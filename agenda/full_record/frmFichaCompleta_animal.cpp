@@ -37,7 +37,7 @@ Integer frmFichaCompleta::PreencherComboboxAnimal(Double Codigo)
     Trap(", frmFichaCompleta, PreencherComboboxAnimal, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
-        const ComponentRef objAnimais = CreateObject("KOVA_N_ClientAnim.clsAnimais");
+        ComponentRef objAnimais = CreateObject("KOVA_N_ClientAnim.clsAnimais");
 
         Ponto = 2;
         Double codigo = Codigo;
@@ -53,6 +53,7 @@ Integer frmFichaCompleta::PreencherComboboxAnimal(Double Codigo)
 
         Ponto = 4;
         const auto registros = objAnimais->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>();
+        objAnimais.reset();
         const bool vazio = registros->RecordCount() == 0;
         kvcmbAnimal.Clear();
         for (; !registros->Eof(); registros->MoveNext()) {
@@ -92,7 +93,7 @@ void frmFichaCompleta::CarregarAnimal(Integer& Ponto)
 {
     Ponto = 1;
     ExibirOcultarpicMensagem(true);
-    const ComponentRef objAnimais = CreateObject("KOVA_N_ClientAnim.clsAnimais");
+    ComponentRef objAnimais = CreateObject("KOVA_N_ClientAnim.clsAnimais");
 
     Ponto = 2;
     const Integer situacao =
@@ -104,9 +105,12 @@ void frmFichaCompleta::CarregarAnimal(Integer& Ponto)
 
     Ponto = 3;
     switch (situacao) {
-    case selecao_do_animal::Concluida:
-        ExibirAnimal(*objAnimais->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>());
+    case selecao_do_animal::Concluida: {
+        const auto registros = objAnimais->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>();
+        objAnimais.reset();
+        ExibirAnimal(*registros);
         break;
+    }
     case selecao_do_animal::FalhaTecnica: MensagemDeErroDoObjeto(*objAnimais); break;
     case selecao_do_animal::Recusada: ExibirInformacao(objAnimais->Get("DescricaoDaFalha").ToText()); break;
     case selecao_do_animal::Impedida: ExibirCritica(objAnimais->Get("DescricaoDaFalha").ToText()); break;

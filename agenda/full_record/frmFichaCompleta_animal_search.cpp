@@ -26,14 +26,9 @@ void frmFichaCompleta::optAgendarPor_Click(Integer Index)
 
         Ponto = 2;
         const bool porCliente = Index == PorDadosDoCliente;
-        for (KVFind* caixa : CaixasDoCliente()) {
-            caixa->TabStop(porCliente);
+        PararComTab(porCliente);
+        for (KVFind* caixa : CaixasDoCliente())
             caixa->Enabled(porCliente);
-        }
-        kvfNomeDoAnimal.TabStop(!porCliente);
-        // The way back leaves the animals' combo without its stop.
-        if (!porCliente)
-            kvcmbAnimal.TabStop(false);
 
         // Either way the combo stays shut until a customer is found.
         Ponto = 3;
@@ -46,6 +41,19 @@ void frmFichaCompleta::optAgendarPor_Click(Integer Index)
             kvfNomeDoAnimal.Text("");
         }
     });
+}
+
+// The animal's search passes through a stop on the way back, and the animals' combo does not get its own
+// again.
+void frmFichaCompleta::PararComTab(bool porCliente)
+{
+    for (KVFind* caixa : CaixasDoCliente())
+        caixa->TabStop(porCliente);
+    if (!porCliente)
+        kvcmbAnimal.TabStop(false);
+    kvfNomeDoAnimal.TabStop(true);
+    if (porCliente)
+        kvfNomeDoAnimal.TabStop(false);
 }
 
 void frmFichaCompleta::kvfNomeDoAnimal_Click()

@@ -140,7 +140,7 @@ bool frmFichaCompleta::GravarAgendamento(Integer& Ponto)
     EnviarFicha(*this, *objAgenda);
 
     Ponto = 3;
-    const Integer resultado = Gravar(*objAgenda, TipoDeOperacao);
+    const Integer resultado = Gravar(*objAgenda, TipoDeOperacao).ToInteger();
 
     Ponto = 4;
     switch (resultado) {

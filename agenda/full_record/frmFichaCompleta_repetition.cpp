@@ -113,6 +113,7 @@ void frmFichaCompleta::kvcmbReagendarPor_Click()
         // 2. What it shows, and its first row.
         Ponto = 2;
         const auto datas = frmSelecionarDatas::Criar();
+        datas->Formulario->Load();
         datas->kvtxtApelidoDoCliente.Text(kvfApelidoOuNomeFantasiaDoCliente.Text());
         datas->kvtxtNomeDoAnimal.Text(kvcmbAnimal.Text());
         datas->kvtxtNomeDoServico.Text(kvfNomeDoServico.Text());

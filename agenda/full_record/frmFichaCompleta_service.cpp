@@ -169,7 +169,7 @@ bool frmFichaCompleta::AceitarServicoEncontrado(const RecordSet& registros)
 {
     IgnorarEventoDeCampo = true;
     MostrarServicoEncontrado(Servico(), registros);
-    SelecionarTipoDoServico(*this, registros.Field("NumeroDoTipoDeServico").ToDouble());
+    SelecionarTipoEncontrado(*this, registros);
     IgnorarEventoDeCampo = true;
     return true;
 }
@@ -185,9 +185,7 @@ bool frmFichaCompleta::EscolherServico(RecordSet& registros)
     if (escolhido) {
         IgnorarEventoDeCampo = true;
         MostrarServicoEscolhido(Servico(), *pesquisa);
-        const MSFlexGrid& grade = pesquisa->msfgGrade;
-        SelecionarTipoDoServico(
-            *this, Val(grade.TextMatrix(grade.RowSel(), colunas_de_servicos::NumeroDoTipoDeServico)));
+        SelecionarTipoEscolhido(*this, *pesquisa);
         IgnorarEventoDeCampo = true;
     }
     pesquisa->Formulario->Unload();

@@ -19,6 +19,20 @@ Text CelulaEscolhida(const frmPesquisaDeServicos& pesquisa, Long coluna)
     return pesquisa.msfgGrade.TextMatrix(pesquisa.msfgGrade.RowSel(), coluna);
 }
 
+bool PesquisouTodosOsTipos(const FichaDeAgendamento& ficha)
+{
+    return ficha.kvcmbTiposDeServicos.ListIndex() == 0;
+}
+
+void SelecionarTipo(FichaDeAgendamento& ficha, Double NumeroDoTipoDeServico)
+{
+    const Integer linha = LinhaDoItemData(ficha.kvcmbTiposDeServicos, NumeroDoTipoDeServico);
+    if (linha == -1)
+        return;
+    ficha.IgnorarEventoDeCampo = true;
+    ficha.kvcmbTiposDeServicos.ListIndex(linha);
+}
+
 } // namespace
 
 Text MensagemDeServicoNaoEncontrado(const Text& Nome, Double Codigo, const Text& tipo)
@@ -46,20 +60,16 @@ void MostrarServicoEscolhido(const CaixasDoServico& caixas, const frmPesquisaDeS
     caixas.kvtxtTempoDoServico.Text(CelulaEscolhida(pesquisa, colunas_de_servicos::TempoDeExecucao));
 }
 
-Double NumeroDoTipoEscolhido(const frmPesquisaDeServicos& pesquisa)
+void SelecionarTipoEncontrado(FichaDeAgendamento& ficha, const RecordSet& registros)
 {
-    return Val(CelulaEscolhida(pesquisa, colunas_de_servicos::NumeroDoTipoDeServico));
+    if (PesquisouTodosOsTipos(ficha))
+        SelecionarTipo(ficha, registros.Field("NumeroDoTipoDeServico").ToDouble());
 }
 
-void SelecionarTipoDoServico(FichaDeAgendamento& ficha, Double NumeroDoTipoDeServico)
+void SelecionarTipoEscolhido(FichaDeAgendamento& ficha, const frmPesquisaDeServicos& pesquisa)
 {
-    if (ficha.kvcmbTiposDeServicos.ListIndex() != 0)
-        return;
-    const Integer linha = LinhaDoItemData(ficha.kvcmbTiposDeServicos, NumeroDoTipoDeServico);
-    if (linha == -1)
-        return;
-    ficha.IgnorarEventoDeCampo = true;
-    ficha.kvcmbTiposDeServicos.ListIndex(linha);
+    if (PesquisouTodosOsTipos(ficha))
+        SelecionarTipo(ficha, Val(CelulaEscolhida(pesquisa, colunas_de_servicos::NumeroDoTipoDeServico)));
 }
 
 std::shared_ptr<frmPesquisaDeServicos> AbrirPesquisaDeServicos(RecordSet& registros)

@@ -23,12 +23,11 @@ Text MensagemDeServicoNaoEncontrado(const Text& Nome, Double Codigo, const Text&
 void MostrarServicoEncontrado(const CaixasDoServico& caixas, const RecordSet& registros);
 /// The service of the row that was chosen in the dialog.
 void MostrarServicoEscolhido(const CaixasDoServico& caixas, const frmPesquisaDeServicos& pesquisa);
-/// Its type.
-Double NumeroDoTipoEscolhido(const frmPesquisaDeServicos& pesquisa);
 
-/// The type follows from the service where all types were searched, which is row 0. The form's guard is set
-/// for the combo's Click then; a type that the combo does not have changes nothing.
-void SelecionarTipoDoServico(FichaDeAgendamento& ficha, Double NumeroDoTipoDeServico);
+// The type follows from the service where all types were searched, which is row 0; only then it is read. The
+// form's guard is set for the combo's Click; a type that the combo does not have changes nothing.
+void SelecionarTipoEncontrado(FichaDeAgendamento& ficha, const RecordSet& registros);
+void SelecionarTipoEscolhido(FichaDeAgendamento& ficha, const frmPesquisaDeServicos& pesquisa);
 
 /// A dialog with the services to choose from, loaded and not yet shown; it does not fill its types.
 std::shared_ptr<frmPesquisaDeServicos> AbrirPesquisaDeServicos(RecordSet& registros);

@@ -8,12 +8,12 @@
 
 namespace kova::agenda {
 
-Integer Gravar(Component& agenda, Integer tipoDeOperacao)
+Value Gravar(Component& agenda, Integer tipoDeOperacao)
 {
     switch (tipoDeOperacao) {
-    case operacao::Adicionar: return agenda.Call("Adicionar").ToInteger();
-    case operacao::Alterar: return agenda.Call("Alterar").ToInteger();
-    case operacao::Excluir: return agenda.Call("Excluir").ToInteger();
+    case operacao::Adicionar: return agenda.Call("Adicionar");
+    case operacao::Alterar: return agenda.Call("Alterar");
+    case operacao::Excluir: return agenda.Call("Excluir");
     default: return resultado_da_gravacao::Concluida;
     }
 }

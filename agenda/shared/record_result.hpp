@@ -9,9 +9,9 @@ namespace kova::agenda {
 
 // What both record forms do with a write and its answer. Failures go up to the caller.
 
-/// Calls Adicionar, Alterar or Excluir, by the form's operation; see `resultado_da_gravacao` for the answer.
-/// A detail view writes nothing and answers Concluida.
-Integer Gravar(Component& agenda, Integer tipoDeOperacao);
+/// Calls Adicionar, Alterar or Excluir, by the form's operation; see `resultado_da_gravacao` for the answer,
+/// which comes as the component gave it. A detail view writes nothing and answers Concluida.
+Value Gravar(Component& agenda, Integer tipoDeOperacao);
 
 /// A technical failure goes to the error screen, a refusal of the whole record into a critical box. Any other
 /// result says nothing.

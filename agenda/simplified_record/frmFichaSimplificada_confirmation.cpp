@@ -37,7 +37,7 @@ void frmFichaSimplificada::kvcmdSalvarFecharConfirmar_Click()
         EscreverAgendamento(*objAgenda);
 
         Ponto = 4;
-        const Integer resultado = Gravar(*objAgenda, TipoDeOperacao);
+        const Integer resultado = Gravar(*objAgenda, TipoDeOperacao).ToInteger();
 
         Ponto = 5;
         if (resultado == resultado_da_gravacao::CampoRecusado) {

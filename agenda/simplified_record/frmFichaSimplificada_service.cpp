@@ -174,7 +174,7 @@ bool frmFichaSimplificada::PesquisarServico(Integer tipo, Text nome, Double codi
         Ponto = 4;
         if (registros->RecordCount() == 1) {
             MostrarServicoEncontrado({kvfCodigoDoServico, kvfNomeDoServico, kvtxtTempoDoServico}, *registros);
-            SelecionarTipoDoServico(*this, registros->Field("NumeroDoTipoDeServico").ToDouble());
+            SelecionarTipoEncontrado(*this, *registros);
             // Filling the box that searched counts as typing into it, which would empty the other one.
             IgnorarEventoDeCampo = true;
             resultado = true;
@@ -202,7 +202,7 @@ bool frmFichaSimplificada::EscolherServico(RecordSet& registros)
     const bool escolhido = pesquisa->RegistroSelecionado;
     if (escolhido) {
         MostrarServicoEscolhido({kvfCodigoDoServico, kvfNomeDoServico, kvtxtTempoDoServico}, *pesquisa);
-        SelecionarTipoDoServico(*this, NumeroDoTipoEscolhido(*pesquisa));
+        SelecionarTipoEscolhido(*this, *pesquisa);
         IgnorarEventoDeCampo = true;
     }
     pesquisa->Formulario->Unload();

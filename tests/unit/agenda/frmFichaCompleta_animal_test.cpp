@@ -1,6 +1,7 @@
 // The animal: chosen among the customer's, or searched to find the customer.
 
 #include "tests/unit/agenda/frmFichaCompleta_fixture.hpp"
+#include "tests/unit/agenda/widget_log.hpp"
 
 namespace kova::agenda {
 
@@ -137,6 +138,67 @@ TEST_F(FichaCompletaAnimal, ReportsAnyOtherFailureInItsOwnWords)
         ChooseRex();
         ASSERT_EQ(Reports().size(), 1U);
         EXPECT_NE(Reports()[0].find(R"(Long& 380, Text& "Valor inválido")"), std::string::npos);
+    });
+}
+
+TEST_F(FichaCompletaAnimal, ObjectIsReleasedOnceItsRecordSetIsHeld)
+{
+    std::size_t ofTheList = 0, ofTheDetails = 0;
+    WidgetLog widgets;
+    Add([&, this] {
+        AnswerCustomers({Customer(12, "Zé")});
+        toolkit.Observer(&widgets);
+        widgets.Before("frmFichaCompleta.kvcmbAnimal.AddItem", [&, this] {
+            ofTheList = Lines("release KOVA_N_ClientAnim.clsAnimais").size();
+            widgets.Before("frmFichaCompleta.kvtxtSexoDoAnimal.Text", [&, this] {
+                ofTheDetails = Lines("release KOVA_N_ClientAnim.clsAnimais").size();
+            });
+        });
+        Search("kvfCodigoDoCliente", "12");
+        toolkit.Observer(nullptr);
+    });
+    EXPECT_EQ(ofTheList, 1U);
+    EXPECT_EQ(ofTheDetails, 2U);
+}
+
+TEST_F(FichaCompletaAnimal, TheChoiceOfTheSearchSaysWhereTabStopsBeforeWhatIsOpen)
+{
+    WidgetLog widgets;
+    const auto stops = [&](const char* option, Integer index) {
+        widgets.Clear();
+        EXPECT_EQ(user.Click(Form, option, index), "");
+        Strings written;
+        for (const std::string& line : widgets.Of("frmFichaCompleta.")) {
+            const std::string member = line.substr(std::string("frmFichaCompleta.").size());
+            if (member.find(".TabStop ") != std::string::npos
+                || member.find(".Enabled ") != std::string::npos)
+                written.push_back(member);
+        }
+        return written;
+    };
+    Add([&, this] {
+        toolkit.Observer(&widgets);
+        EXPECT_EQ(
+            stops("optAgendarPor", 2),
+            (Strings{"kvfApelidoOuNomeFantasiaDoCliente.TabStop Boolean False",
+                     "kvfNomeOuRazaoSocialDoCliente.TabStop Boolean False",
+                     "kvfCodigoDoCliente.TabStop Boolean False", "kvfEnderecoDoCliente.TabStop Boolean False",
+                     "kvcmbAnimal.TabStop Boolean False", "kvfNomeDoAnimal.TabStop Boolean True",
+                     "kvfApelidoOuNomeFantasiaDoCliente.Enabled Boolean False",
+                     "kvfNomeOuRazaoSocialDoCliente.Enabled Boolean False",
+                     "kvfCodigoDoCliente.Enabled Boolean False", "kvfEnderecoDoCliente.Enabled Boolean False",
+                     "kvcmbAnimal.Enabled Boolean False", "kvfNomeDoAnimal.Enabled Boolean True"}));
+        EXPECT_EQ(
+            stops("optAgendarPor", 1),
+            (Strings{"kvfApelidoOuNomeFantasiaDoCliente.TabStop Boolean True",
+                     "kvfNomeOuRazaoSocialDoCliente.TabStop Boolean True",
+                     "kvfCodigoDoCliente.TabStop Boolean True", "kvfEnderecoDoCliente.TabStop Boolean True",
+                     "kvfNomeDoAnimal.TabStop Boolean True", "kvfNomeDoAnimal.TabStop Boolean False",
+                     "kvfApelidoOuNomeFantasiaDoCliente.Enabled Boolean True",
+                     "kvfNomeOuRazaoSocialDoCliente.Enabled Boolean True",
+                     "kvfCodigoDoCliente.Enabled Boolean True", "kvfEnderecoDoCliente.Enabled Boolean True",
+                     "kvcmbAnimal.Enabled Boolean False", "kvfNomeDoAnimal.Enabled Boolean False"}));
+        toolkit.Observer(nullptr);
     });
 }
 

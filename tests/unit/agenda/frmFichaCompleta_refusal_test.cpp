@@ -172,6 +172,16 @@ TEST_F(Refused, DoesNotLookAtTheSecondAnswer)
     EXPECT_TRUE(Reports().empty());
 }
 
+TEST_F(Refused, DoesNotEvenConvertTheSecondAnswer)
+{
+    RefuseTheSunday("Adicionar");
+    script.Answer(Agenda + ".Adicionar", {.result = Null{}});
+    Answers({Reply::Yes});
+    EXPECT_TRUE(Save());
+    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(Reports().empty());
+}
+
 TEST_F(Refused, OffersToCancelThePackageWhereItAlters)
 {
     const std::string question =

@@ -1,6 +1,7 @@
 // The repeated booking: the controls, and the date selection's coming and going.
 
 #include "tests/unit/agenda/frmFichaCompleta_saving_fixture.hpp"
+#include "tests/unit/agenda/widget_log.hpp"
 #include "toolkits/common/number_box.hpp"
 
 namespace kova::agenda {
@@ -130,6 +131,21 @@ TEST_F(Repetition, HandsWhatIsBookedToTheDateSelection)
         });
         EXPECT_EQ(ficha->Formulario->Height(), height);
     });
+}
+
+TEST_F(Repetition, LoadsTheDateSelectionBeforeItFillsIt)
+{
+    int loaded = -1;
+    WidgetLog widgets;
+    widgets.Before("frmSelecionarDatas.kvtxtApelidoDoCliente.Text",
+                   [&, this] { loaded = static_cast<int>(Lines("create KOVA_N_SO").size()); });
+    Run(operacao::Adicionar, [&, this] {
+        lines.clear();
+        toolkit.Observer(&widgets);
+        PickDates([this] { CancelDates(); });
+        toolkit.Observer(nullptr);
+    });
+    EXPECT_EQ(loaded, 1);
 }
 
 TEST_F(Repetition, IsOffAgainWhereTheDateSelectionIsCancelled)

@@ -164,6 +164,19 @@ TEST_F(FichaCompletaService, AChosenTypeIsNotChangedByTheService)
     });
 }
 
+TEST_F(FichaCompletaService, WithAChosenTypeItsOwnTypeIsNotRead)
+{
+    Add([this] {
+        ChooseType("Consulta");
+        script.Answer(Servicos + ".Selecionar",
+                      {.records = {{"Codigo", "Nome", "TempoDeExecucao"}, {{Double{8}, "Banho", "01:30"}}}});
+        Search(Codigo, "8");
+        EXPECT_EQ(ServiceTexts(), (Strings{"Consulta", "8", "Banho", "01:30"}));
+        EXPECT_TRUE(Reports().empty());
+        EXPECT_EQ(Focused(), "kvtimHoraInicial");
+    });
+}
+
 TEST_F(FichaCompletaService, NeedsThreeCharactersButForItsCode)
 {
     Add([this] {

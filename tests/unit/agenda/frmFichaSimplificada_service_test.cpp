@@ -144,6 +144,20 @@ TEST_F(TheServiceOfTheSimplifiedForm, BringsItsTypeWhereAllWereSearched)
         0);
 }
 
+TEST_F(TheServiceOfTheSimplifiedForm, HasItsTypeReadOnlyWhereAllWereSearched)
+{
+    script.Always(
+        Servicos,
+        {.records = {{"Codigo", "Nome", "TempoDeExecucao"}, {{Double{8}, "Banho completo", "01:30"}}}});
+    Adding([&] {
+        Search("kvfNomeDoServico", "banho");
+        EXPECT_EQ(ficha->kvfNomeDoServico.Text(), "Banho completo");
+        EXPECT_EQ(ficha->kvcmbTiposDeServicos.ListIndex(), 3);
+    });
+    EXPECT_TRUE(Reports().empty());
+    EXPECT_EQ(Logged("focus"), (Strings{"focus frmFichaSimplificada.kvtimHoraInicial"}));
+}
+
 TEST_F(TheServiceOfTheSimplifiedForm, WantsThreeCharactersOfAName)
 {
     Box();
