@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -21,22 +22,41 @@ namespace kova::qt {
 
 namespace {
 
-class ResizeWatch : public QObject {
+class ContainerWatch : public QObject {
 public:
-    ResizeWatch(QWidget& watched, std::function<void()> resized) : resized_(std::move(resized))
+    ContainerWatch(QWidget& watched, std::function<void()> resized, std::function<void()> ended)
+        : watched_(&watched), resized_(std::move(resized)), ended_(std::move(ended))
     {
         watched.installEventFilter(this);
+        connect(&watched, &QObject::destroyed, this, [this] { End(); });
     }
 
     bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == QEvent::Resize)
             resized_();
+        else if (event->type() == QEvent::Close)
+            // The container itself has not said yet whether it closes.
+            QTimer::singleShot(0, this, [this] { EndWhereClosed(); });
         return false;
     }
 
 private:
-    std::function<void()> resized_;
+    void EndWhereClosed()
+    {
+        if (watched_ && !watched_->isVisible())
+            End();
+    }
+
+    // The end of the form is the end of its watch too.
+    void End()
+    {
+        const auto ended = ended_;
+        ended();
+    }
+
+    QPointer<QWidget> watched_;
+    std::function<void()> resized_, ended_;
 };
 
 Qt::WindowFlags FlagsOf(const FormDesign& design)
@@ -133,9 +153,8 @@ std::optional<toolkit::InnerSize> FormWindow::SetParent(Long containerHandle)
     if (!container || !widget_)
         return std::nullopt;
     container_ = container;
-    containerWatch_ = std::make_unique<ResizeWatch>(*container, [this] { FitToContainer(); });
-    QObject::connect(container, &QObject::destroyed, containerWatch_.get(),
-                     [this] { model_.ContainerEnds(); });
+    containerWatch_ = std::make_unique<ContainerWatch>(
+        *container, [this] { FitToContainer(); }, [this] { model_.ContainerEnds(); });
     widget_->followsModel = true;
     widget_->setParent(container, Qt::Widget);
     widget_->setMinimumSize(0, 0);

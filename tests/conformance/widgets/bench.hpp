@@ -50,6 +50,9 @@ public:
     virtual kova::Toolkit& Kit() = 0;
     virtual Long MakeContainer(Twips width, Twips height) = 0;
     virtual void ResizeContainer(Long handle, Twips width, Twips height) = 0;
+    /// The host closes the container, or destroys it.
+    virtual void CloseContainer(Long handle) = 0;
+    virtual void DestroyContainer(Long handle) = 0;
     /// Lets everything that waits happen.
     virtual void Settle() = 0;
     Script& TheScript() { return script_; }

@@ -86,6 +86,8 @@ public:
     {
         toolkit_.ResizeContainer(handle, width, height);
     }
+    void CloseContainer(Long handle) override { toolkit_.DestroyContainer(handle); }
+    void DestroyContainer(Long handle) override { toolkit_.DestroyContainer(handle); }
     void Settle() override
     {
         toolkit_.ProcessPendingEvents();

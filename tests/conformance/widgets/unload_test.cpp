@@ -71,6 +71,25 @@ TEST_P(Unloading, IsWhatTheWindowsCloseButtonDoes)
     EXPECT_FALSE(window->IsLoaded() || window->Visible());
 }
 
+TEST_P(Unloading, IsWhatTheEndOfItsContainerDoes)
+{
+    for (const bool closed : {true, false}) {
+        const Long container = User().MakeContainer(9000, 7500);
+        const FormRef inside = MakeWindow("frmDentro");
+        inside->SetParent(container);
+        inside->OnUnload([this](bool&) { events_.push_back("unload"); });
+        inside->Show(ShowMode::Modeless);
+        if (closed)
+            User().CloseContainer(container);
+        else
+            User().DestroyContainer(container);
+        User().Settle();
+        EXPECT_EQ(TakeEvents(), (Events{"unload"})) << closed;
+        EXPECT_FALSE(inside->IsLoaded() || inside->Visible()) << closed;
+    }
+    EXPECT_TRUE(form_->IsLoaded()) << "in another container";
+}
+
 TEST_P(Unloading, DoesNothingInsideItsOwnUnload)
 {
     form_->OnUnload([this](bool&) {

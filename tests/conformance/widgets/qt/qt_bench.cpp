@@ -38,6 +38,8 @@ public:
     kova::Toolkit& Kit() override { return toolkit_; }
     Long MakeContainer(Twips width, Twips height) override;
     void ResizeContainer(Long handle, Twips width, Twips height) override;
+    void CloseContainer(Long handle) override { containers_.at(handle)->close(); }
+    void DestroyContainer(Long handle) override { containers_.erase(handle); }
     void Settle() override;
 
     void Press(Widget& button) override { ClickOn(WindowOf(button)); }
