@@ -103,7 +103,11 @@ void WidgetCore::FocusByCode()
     if (!CanHoldFocus())
         return;
     form_.GetToolkit().CodeFocuses(*this);
+    const bool stays = HasFocus();
     form_.MoveFocus(this);
+    // Code that sends the user back to where he is asks him to type it anew.
+    if (stays && HasFocus())
+        Entered(Entry::Key);
 }
 
 void WidgetCore::ToFront() { Tell(Aspect::Order); }

@@ -356,6 +356,7 @@ TEST_F(FichaCompletaAnimal, SearchLetsTheUserPickAmongSeveralOwners)
         Search(Pesquisa, "Rex");
         EXPECT_EQ(CustomerTexts(), Strings(5));
         EXPECT_EQ(Focused(), Pesquisa);
+        EXPECT_EQ(SelectedIn(Pesquisa), 3U);
     });
 }
 

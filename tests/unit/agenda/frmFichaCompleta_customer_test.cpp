@@ -298,6 +298,8 @@ TEST_F(FichaCompletaCustomer, IsNotChosenWhereThePickerIsClosed)
             });
             Search(Apelido, "Zec");
             EXPECT_EQ(Find(Apelido).Text(), "Zec");
+            EXPECT_EQ(SelectedIn(Apelido), 3U) << "the next key replaces it";
+            EXPECT_EQ(Logged("keys"), Strings()) << "by the focus alone";
             ExpectEmptyButFor(Apelido);
             EXPECT_EQ(toolkit.FindForm("frmPesquisaDeClientes"), nullptr);
         }

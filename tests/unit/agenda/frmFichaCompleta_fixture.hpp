@@ -2,7 +2,9 @@
 
 #include "agenda/full_record/frmFichaCompleta.hpp"
 #include "tests/unit/agenda/module_fixture.hpp"
+#include "toolkits/common/edit_core.hpp"
 
+#include <algorithm>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -138,6 +140,13 @@ protected:
     {
         const auto* widget = toolkit.FindForm(Form)->Focused();
         return widget ? widget->FullName().substr(std::string(Form).size() + 1) : "";
+    }
+    /// How many characters of a box are selected.
+    std::size_t SelectedIn(const char* box)
+    {
+        const auto* edit = dynamic_cast<toolkit::EditCore*>(toolkit.FindForm(Form)->Find(box));
+        const auto selection = edit->ShownSelection();
+        return std::max(selection.anchor, selection.caret) - std::min(selection.anchor, selection.caret);
     }
     static std::string Box(const char* kind, const std::string& text, const char* reply = "ok")
     {
