@@ -139,6 +139,20 @@ void Hand::ClickAt(QWindow& window, const QPoint& place, Qt::MouseButton button)
         QTestPrivate::qtestMouseButtons.setFlag(button, false);
 }
 
+// A mouse that has come to the place above another window is there already: that window, out of sight, takes
+// the move that a press at a new place would tell the window of.
+void Hand::TapAt(QWindow& window, const QPoint& place)
+{
+    static auto* const elsewhere = [] {
+        auto* unseen = new QWindow;
+        unseen->setFlags(Qt::Tool | Qt::FramelessWindowHint);
+        unseen->create();
+        return unseen;
+    }();
+    MoveAt(*elsewhere, elsewhere->mapFromGlobal(window.mapToGlobal(place)));
+    ClickAt(window, place);
+}
+
 void Hand::WheelAt(QWindow& window, const QPoint& place, double notches)
 {
     const QPoint onScreen = window.mapToGlobal(place);
@@ -193,25 +207,12 @@ std::string Hand::Click(const Spot& spot, Qt::MouseButton button)
     return reason;
 }
 
-// A mouse that has come to the place above another window is there already: that window, out of sight, takes
-// the move that a press at a new place would tell the window of.
 std::string Hand::Tap(const Spot& spot)
 {
-    static auto* const elsewhere = [] {
-        auto* window = new QWindow;
-        window->setFlags(Qt::Tool | Qt::FramelessWindowHint);
-        window->create();
-        return window;
-    }();
     if (std::string reason = WhyNot(spot); !reason.empty())
         return reason;
     Activate(*spot.widget);
-    QWindow& window = *WindowUnder(spot.widget);
-    const QPoint place = InWindow(spot);
-    const QPoint onScreen = window.mapToGlobal(place);
-    ++QTest::lastMouseTimestamp;
-    Send(*elsewhere, elsewhere->mapFromGlobal(onScreen), Qt::NoButton, QEvent::MouseMove);
-    ClickAt(window, place);
+    TapAt(*WindowUnder(spot.widget), InWindow(spot));
     return {};
 }
 

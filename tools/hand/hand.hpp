@@ -70,6 +70,8 @@ public:
     static void ReleaseAt(QWindow& window, const QPoint& place, Qt::MouseButton button);
     /// Press and release, far enough in time from the last press to be no double click.
     static void ClickAt(QWindow& window, const QPoint& place, Qt::MouseButton button = Qt::LeftButton);
+    /// A press and a release of which the window hears without a move before.
+    static void TapAt(QWindow& window, const QPoint& place);
     static void WheelAt(QWindow& window, const QPoint& place, double notches);
     /// The window that a key reaches: the open list or menu, else the one with the keyboard. On a desktop the
     /// window manager gives the keyboard back when a dialog goes; where there is none, the innermost modal

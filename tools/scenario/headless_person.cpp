@@ -4,6 +4,45 @@
 
 namespace kova::scenario {
 
+namespace {
+
+struct Point {
+    Twips x = 0;
+    Twips y = 0;
+};
+
+/// Where a control's corner lies in its form.
+Point CornerOf(const toolkit::WidgetCore& control)
+{
+    Point corner;
+    for (const toolkit::WidgetCore* widget = &control; widget; widget = widget->Container()) {
+        corner.x += widget->State().left;
+        corner.y += widget->State().top;
+    }
+    return corner;
+}
+
+} // namespace
+
+// A mouse in another form has not left this one's window by its grid's edge.
+void HeadlessPerson::MoveMouse(const ControlName& at)
+{
+    const toolkit::FormModel* form = resting_ ? toolkit_.FindForm(resting_->form) : nullptr;
+    auto* grid = form ? dynamic_cast<toolkit::GridModel*>(form->Find(resting_->control, -1)) : nullptr;
+    const toolkit::WidgetCore* target =
+        form && form == toolkit_.FindForm(at.form) ? form->Find(at.control, at.index) : nullptr;
+    if (!grid || !target || !target->Refusal().empty())
+        return;
+    const Point corner = CornerOf(*grid);
+    const Point goal = CornerOf(*target);
+    const Twips x = goal.x + target->State().width / 2 - corner.x;
+    const Twips y = goal.y + target->State().height / 2 - corner.y;
+    if (x >= 0 && y >= 0 && x < grid->State().width && y < grid->State().height)
+        return grid->UserMovesAbove(x, y);
+    user_.Leave(resting_->form, resting_->control);
+    resting_.reset();
+}
+
 std::string HeadlessPerson::Click(const ControlName& at)
 {
     return user_.Click(at.form, at.control, at.index);
@@ -11,16 +50,19 @@ std::string HeadlessPerson::Click(const ControlName& at)
 
 std::string HeadlessPerson::Choose(const ControlName& at, int row)
 {
+    MoveMouse(at);
     return user_.Choose(at.form, at.control, row, at.index);
 }
 
 std::string HeadlessPerson::Choose(const ControlName& at, std::string_view text)
 {
+    MoveMouse(at);
     return user_.Choose(at.form, at.control, text, at.index);
 }
 
 std::string HeadlessPerson::Type(const ControlName& at, std::string_view text)
 {
+    MoveMouse(at);
     return user_.Type(at.form, at.control, text, at.index);
 }
 
@@ -32,6 +74,7 @@ std::string HeadlessPerson::Press(const ControlName& at)
 // A text is selected as if Tab had come there.
 std::string HeadlessPerson::Focus(const ControlName& at)
 {
+    MoveMouse(at);
     const toolkit::EventScope scope(toolkit_);
     std::string refusal = user_.Focus(at.form, at.control, at.index);
     const toolkit::FormModel* form = toolkit_.FindForm(at.form);
@@ -43,17 +86,22 @@ std::string HeadlessPerson::Focus(const ControlName& at)
 
 std::string HeadlessPerson::Hover(const ControlName& at, Long row)
 {
+    resting_.reset();
     return user_.Hover(at.form, at.control, row);
 }
 
 std::string HeadlessPerson::HoverAt(const ControlName& at, Twips x, Twips y)
 {
+    resting_.reset();
     return user_.HoverAt(at.form, at.control, x, y);
 }
 
 std::string HeadlessPerson::Rest(const ControlName& at, Long row)
 {
-    return user_.Hover(at.form, at.control, row);
+    std::string refusal = user_.Rest(at.form, at.control, row);
+    if (refusal.empty())
+        resting_ = at;
+    return refusal;
 }
 
 std::string HeadlessPerson::Select(const ControlName& at, Long row)
@@ -63,6 +111,7 @@ std::string HeadlessPerson::Select(const ControlName& at, Long row)
 
 std::string HeadlessPerson::Bar(const ControlName& at, int button)
 {
+    MoveMouse(at);
     return user_.Bar(at.form, at.control, button);
 }
 

@@ -3,6 +3,8 @@
 #include "toolkits/headless/user.hpp"
 #include "tools/scenario/person.hpp"
 
+#include <optional>
+
 namespace kova::scenario {
 
 /// A person before the toolkit without a screen.
@@ -25,8 +27,13 @@ public:
     std::string CloseForm(const std::string& form) override;
 
 private:
+    /// The mouse goes to a control on its way to a press: off the grid on which it rests, or on above it.
+    void MoveMouse(const ControlName& at);
+
     headless::HeadlessToolkit& toolkit_;
     headless::User user_;
+    /// The grid on which the mouse rests.
+    std::optional<ControlName> resting_;
 };
 
 } // namespace kova::scenario

@@ -54,7 +54,7 @@ void ScreenPerson::PressInVain(const toolkit::WidgetCore& widget)
     const QPoint place = target->mapTo(target->window(), target->rect().center());
     const QWidget* top = target->window()->childAt(place);
     if (top && (top == target || target->isAncestorOf(top)))
-        Hand::ClickAt(*window, place);
+        Hand::TapAt(*window, place);
 }
 
 std::string ScreenPerson::Click(const ControlName& at)
@@ -190,6 +190,7 @@ Spot ScreenPerson::SpotOfRow(toolkit::GridModel& grid, Long row, std::string& re
 std::string ScreenPerson::Hover(const ControlName& at, Long row)
 {
     const std::string refusal = Rest(at, row);
+    toolkit_.ForgetPointer();
     return refusal;
 }
 
@@ -207,7 +208,10 @@ std::string ScreenPerson::HoverAt(const ControlName& at, Twips x, Twips y)
 {
     std::string refusal;
     auto* grid = Reach<toolkit::GridModel>(at, refusal);
-    return grid ? hand_.MoveTo(hand::PlaceInGrid(*hand::WidgetOf(*grid), x, y)) : refusal;
+    if (grid)
+        refusal = hand_.MoveTo(hand::PlaceInGrid(*hand::WidgetOf(*grid), x, y));
+    toolkit_.ForgetPointer();
+    return refusal;
 }
 
 std::string ScreenPerson::Select(const ControlName& at, Long row)
