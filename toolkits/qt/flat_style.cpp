@@ -12,6 +12,7 @@ namespace kova::qt {
 namespace {
 
 constexpr QSize SmallestButton(96, 34);
+constexpr QSize RoomBesideText(16, 0);
 
 const QStyleOptionButton* ButtonOf(const QStyleOption* option)
 {
@@ -49,6 +50,27 @@ void PaintButton(QPainter& painter, const QStyleOption& option, bool isOffered)
         PaintFocusRing(painter, option.rect, ground);
 }
 
+FieldState StateOf(const QStyleOption& option)
+{
+    return {.enabled = (option.state & QStyle::State_Enabled) != 0,
+            .underMouse = (option.state & QStyle::State_MouseOver) != 0,
+            .focused = (option.state & QStyle::State_HasFocus) != 0};
+}
+
+/// The mark of a list or of a step, pointing up or down.
+void PaintChevron(QPainter& painter, const QRectF& area, bool isUp, bool isEnabled)
+{
+    constexpr double reach = 3.5;
+    const double tip = isUp ? -reach / 2 : reach / 2;
+    const QPointF centre = area.center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(isEnabled ? look::MutedInk : look::DisabledInk, 1.5, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(centre + QPointF(-reach, -tip), centre + QPointF(0, tip));
+    painter.drawLine(centre + QPointF(0, tip), centre + QPointF(reach, -tip));
+    painter.restore();
+}
+
 } // namespace
 
 FlatStyle::FlatStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) { }
@@ -74,9 +96,29 @@ void FlatStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     if (element == PE_PanelButtonTool && widget && widget->inherits("QToolButton")
         && !(option->state & State_AutoRaise))
         return PaintButton(*painter, *option, false);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element == PE_PanelLineEdit && frame && frame->lineWidth > 0)
+        return PaintField(*painter, option->rect, StateOf(*option), look::Paper);
     // The ring is drawn with the plate.
     if (element != PE_FrameFocusRect || !isButton)
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void FlatStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const
+{
+    const bool isEnabled = option->state & State_Enabled;
+    const auto place = [&](SubControl part) { return QRectF(subControlRect(control, option, part, widget)); };
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control == CC_ComboBox && combo && !combo->editable) {
+        PaintField(*painter, option->rect, StateOf(*option), look::Paper);
+        return PaintChevron(*painter, place(SC_ComboBoxArrow), false, isEnabled);
+    }
+    if (control != CC_SpinBox)
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    PaintField(*painter, option->rect, StateOf(*option), look::Paper);
+    PaintChevron(*painter, place(SC_SpinBoxUp), true, isEnabled);
+    PaintChevron(*painter, place(SC_SpinBoxDown), false, isEnabled);
 }
 
 QSize FlatStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
@@ -85,8 +127,9 @@ QSize FlatStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
     const QStyleOptionButton* button = ButtonOf(option);
     // A button with nothing but an icon, as in a row of them, stays as small as it is.
-    return type == CT_PushButton && button && !button->text.isEmpty() ? usual.expandedTo(SmallestButton)
-                                                                      : usual;
+    return type == CT_PushButton && button && !button->text.isEmpty()
+        ? (usual + RoomBesideText).expandedTo(SmallestButton)
+        : usual;
 }
 
 int FlatStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -4,8 +4,9 @@
 
 namespace kova::qt {
 
-/// Draws the plain buttons of boxes, of the help, of the error and label windows and of the desktop's own
-/// dialogs as flat as those of the forms: whatever library of the process makes them, they are asked here.
+/// Draws the plain buttons and fields of boxes, of the help, of the error and label windows and of the
+/// desktop's own dialogs as flat as those of the forms: whatever library of the process makes them, they are
+/// asked here.
 class FlatStyle : public QProxyStyle {
 public:
     /// On the toolkit's own style, the same on every desktop.
@@ -15,6 +16,8 @@ public:
                      const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -3,8 +3,11 @@
 #include "tests/unit/qt/support.hpp"
 #include "toolkits/qt/theme.hpp"
 
+#include <QComboBox>
 #include <QDialog>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <set>
@@ -47,6 +50,22 @@ TEST_F(PlainButtons, AreFlat)
 {
     EXPECT_EQ(GroundOf(other_), std::set<QRgb>{look::Paper.rgb()});
     EXPECT_EQ(GroundOf(offered_), std::set<QRgb>{look::Accent.rgb()});
+}
+
+TEST_F(PlainButtons, StandBesideFieldsThatAreFlatToo)
+{
+    QComboBox list;
+    list.addItem(QStringLiteral("A4"));
+    QSpinBox number;
+    QLineEdit text;
+    for (QWidget* field :
+         {static_cast<QWidget*>(&list), static_cast<QWidget*>(&number), static_cast<QWidget*>(&text)}) {
+        field->resize(200, 30);
+        const QImage picture = Picture(field);
+        EXPECT_EQ(picture.pixel(100, 0), look::Border.rgb()) << field->metaObject()->className();
+        for (int y = 2; y < 28; ++y)
+            EXPECT_EQ(picture.pixel(150, y), look::Paper.rgb()) << field->metaObject()->className();
+    }
 }
 
 TEST_F(PlainButtons, ShowTheFocus)
