@@ -22,6 +22,8 @@ protected:
     void ShowSelection() override;
     void ShowLook() override;
     void ShowToolTip() override;
+    /// A shut box can still be pointed at: its text is selected with the mouse and copied.
+    void OpenWindow(bool open) override { Shown().SetOpen(open); }
 
     virtual QColor Ink() const;
     /// A key that the kind takes before the text does.

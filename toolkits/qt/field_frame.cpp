@@ -42,7 +42,16 @@ void FieldFrame::SetPaper(const QColor& paper)
 void FieldFrame::SetLocked(bool locked)
 {
     locked_ = locked;
-    editor_->setReadOnly(locked);
+    editor_->setReadOnly(locked_ || !open_);
+    update();
+}
+
+void FieldFrame::SetOpen(bool open)
+{
+    open_ = open;
+    editor_->setReadOnly(locked_ || !open_);
+    editor_->setFocusPolicy(open_ ? Qt::StrongFocus : Qt::NoFocus);
+    PlaceEditor();
     update();
 }
 
@@ -62,7 +71,7 @@ void FieldFrame::PlaceEditor()
 void FieldFrame::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const FieldState state{isEnabled(), locked_, underMouse(), editor_->hasFocus()};
+    const FieldState state{IsOpen(), locked_, underMouse(), editor_->hasFocus()};
     PaintField(painter, rect(), state, paper_);
     if (!HasEnd())
         return;
@@ -93,7 +102,8 @@ void FieldFrame::mousePressEvent(QMouseEvent* event)
             endPressed();
         return;
     }
-    editor_->EnterByPress();
+    if (open_)
+        editor_->EnterByPress();
 }
 
 void FieldFrame::mouseMoveEvent(QMouseEvent* event)

@@ -23,6 +23,8 @@ public:
     const std::string& EndIcon() const { return endIcon_; }
     void SetPaper(const QColor& paper);
     void SetLocked(bool locked);
+    /// A shut field takes neither the focus nor typing; the mouse still selects its text.
+    void SetOpen(bool open);
 
     /// The user pressed the end button.
     std::function<void()> endPressed;
@@ -40,7 +42,8 @@ protected:
 
 private:
     /// A field that takes no input offers no button.
-    bool HasEnd() const { return !endIcon_.empty() && isEnabled(); }
+    bool HasEnd() const { return !endIcon_.empty() && IsOpen(); }
+    bool IsOpen() const { return open_ && isEnabled(); }
     QRectF EndArea() const;
     void PlaceEditor();
 
@@ -48,6 +51,7 @@ private:
     std::string endIcon_;
     QColor paper_;
     bool locked_ = false;
+    bool open_ = true;
     bool overEnd_ = false;
 };
 

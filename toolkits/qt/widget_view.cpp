@@ -136,8 +136,10 @@ void WidgetView::ShowEnabled()
 {
     if (!core_.State().enabled)
         LeaveFocus();
-    widget_->setEnabled(core_.State().enabled);
+    OpenWindow(core_.State().enabled);
 }
+
+void WidgetView::OpenWindow(bool open) { widget_->setEnabled(open); }
 
 // A widget that goes away leaves the focus to its window, not to a neighbour of Qt's choice.
 void WidgetView::LeaveFocus()

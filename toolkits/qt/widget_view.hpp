@@ -32,6 +32,8 @@ protected:
     virtual void ShowLook() { }
     virtual void ShowGeometry();
     virtual void ShowToolTip();
+    /// Opens the widget to the user's input, or shuts it.
+    virtual void OpenWindow(bool open);
 
     /// Tells the model when the user moves the focus to this Qt widget.
     void WatchFocus(QWidget* widget);

@@ -8,6 +8,8 @@
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QHelpEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
 #include <QToolTip>
 
 namespace kova::qt::test {
@@ -116,6 +118,31 @@ TEST_F(AccessibleFields, ATextThatDoesNotFitIsReadInAToolTip)
     HoverLong(FocusWindowOf(text));
     EXPECT_EQ(QToolTip::text(), "Rua das Flores, 10, apartamento 203, Jardim das Oliveiras");
     QToolTip::hideText();
+}
+
+TEST_F(AccessibleFields, TheTextOfAShutBoxIsSelectedWithTheMouseAndNotTypedIn)
+{
+    auto& text = Get<KVTextBox>("first");
+    text.Text("Rua das Flores");
+    text.Enabled(false);
+    Get<KVFind>("kvf").SetFocus();
+    auto* editor = dynamic_cast<QLineEdit*>(FocusWindowOf(text));
+    const QPoint middle(10, editor->height() / 2);
+    const QPointF place(middle);
+    QMouseEvent twice(QEvent::MouseButtonDblClick, place, editor->mapToGlobal(place), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    ClickAt(editor, middle);
+    QCoreApplication::sendEvent(editor, &twice);
+    EXPECT_EQ(editor->selectedText(), "Rua");
+    EXPECT_TRUE(CoreOf(Get<KVFind>("kvf")).HasFocus());
+    EXPECT_FALSE(editor->hasFocus());
+    Type(editor, "x");
+    Press(editor, Qt::Key_Backspace);
+    EXPECT_EQ(text.Text(), "Rua das Flores");
+    EXPECT_EQ(editor->text(), "Rua das Flores");
+    text.Enabled(true);
+    Type(editor, "x");
+    EXPECT_NE(text.Text(), "Rua das Flores");
 }
 
 TEST_F(AccessibleFields, AFindBoxThatTakesNoInputShowsNoButton)
