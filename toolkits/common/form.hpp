@@ -170,8 +170,8 @@ private:
     bool UnloadNow();
     bool IsKeptByHandler();
     void DropHandlers();
-    /// Nobody holds the form any more. What a library has given it goes at once, as the library may, while the
-    /// form may have to wait.
+    /// Nobody holds the form any more. What a library has given it goes at once, as the library may, while
+    /// the form may have to wait.
     void LetGo();
     void PressEnter();
     void PressEscape();
