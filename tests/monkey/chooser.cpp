@@ -9,6 +9,9 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <cstdlib>
+#include <regex>
+
 namespace kova::monkey {
 
 namespace {
@@ -38,8 +41,16 @@ std::optional<Act> Chooser::Next()
     if (left_-- <= 0)
         return std::nullopt;
     Act act = Choose();
+    while (IsLeftOut(act))
+        act = Choose();
     act.hasty = chance_.InHundred(12);
     return act;
+}
+
+bool Chooser::IsLeftOut(const Act& act)
+{
+    const char* leftOut = std::getenv(LeaveOutVariable);
+    return leftOut && std::regex_search(ToLine(act), std::regex(leftOut));
 }
 
 Act Chooser::Choose()

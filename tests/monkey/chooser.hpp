@@ -38,8 +38,12 @@ public:
     }
     std::optional<Act> Next() override;
 
+    /// The environment may name acts by a regular expression that are not chosen.
+    static constexpr const char* LeaveOutVariable = "MONKEY_LEAVE_OUT";
+
 private:
     Act Choose();
+    static bool IsLeftOut(const Act& act);
     Act InPopup();
     Act InBox();
     Act InFileDialog();

@@ -198,7 +198,7 @@ void Player::StepHome()
     const toolkit::FormModel* form = FormInFront();
     if (!IsSettled()) {
         if (++waited_ > LongestWaitForHomeInTurns)
-            TellFinding("no input taken", WhatIsInFront());
+            EndWithFinding("no input taken", WhatIsInFront());
         return;
     }
     waited_ = 0;
@@ -208,14 +208,14 @@ void Player::StepHome()
         return Rules::LookAtHome();
     }
     if (++stepsHome_ > MostStepsHome)
-        TellFinding("locked out", WhatIsInFront());
+        EndWithFinding("locked out", WhatIsInFront());
     Strike(BoxInFront() && stepsHome_ % 3 == 0 ? "S" : "Esc");
 }
 
 void Player::Leave()
 {
     if (++waited_ > LongestWaitForHomeInTurns)
-        TellFinding("the window does not close", WhatIsInFront());
+        EndWithFinding("the window does not close", WhatIsInFront());
     if (waited_ == 1)
         MainWindow()->close();
 }

@@ -89,8 +89,8 @@ void Rules::LookAtRowButtons()
             continue;
         ++onShow;
         if (row.isEmpty())
-            TellFinding("row buttons without a row",
-                        std::string(name) + " is on show, the selected row is not");
+            return TellFinding("row buttons without a row",
+                               std::string(name) + " is on show, the selected row is not");
         const int away = button->mapToGlobal(QPoint()).y() - grid->mapToGlobal(row.topLeft()).y();
         if (std::abs(away) > 2)
             TellFinding("row buttons on another row",
@@ -127,7 +127,7 @@ void Rules::LookAtHome()
 {
     const toolkit::FormModel* list = List();
     if (!list)
-        TellFinding("no list", "the list is not on show");
+        EndWithFinding("no list", "the list is not on show");
     if (ControlOnShow(*list, "picMensagem"))
         TellFinding("a plate is left", "the list takes input, and its wait plate stands");
     for (const toolkit::FormModel* form : list->GetToolkit().ShownForms()) {

@@ -1,6 +1,7 @@
 #include "tests/monkey/session.hpp"
 
 #include "host/session.hpp"
+#include "tests/monkey/failure_ear.hpp"
 #include "tests/monkey/finding.hpp"
 #include "tests/monkey/player.hpp"
 #include "tests/monkey/screen.hpp"
@@ -55,7 +56,7 @@ private:
             end_.wait_for(lock, patience, [this] { return ends_; });
         } while (!ends_ && player.Turns() != turns);
         if (!ends_)
-            TellFinding("hangs", "the event loop turns no more");
+            EndWithFinding("hangs", "the event loop turns no more");
     }
 
     std::mutex mutex_;
@@ -91,7 +92,7 @@ int Run(const host::Options& options)
     try {
         return host::RunSession(options, host::Outlet::Window);
     } catch (const std::exception& failure) {
-        TellFinding("the session throws", failure.what());
+        EndWithFinding("the session throws", failure.what());
     }
 }
 
@@ -116,6 +117,7 @@ int RunSession(const SessionPlan& plan)
     OtherDesk otherDesk(database);
     Player player(*source, otherDesk, (plan.folder / LogName).string());
     const Watchdog watchdog(player);
+    const FailureEar ear;
     return Run(OptionsFor(database));
 }
 

@@ -31,7 +31,8 @@ if(NOT KOVARIS_CORE_ONLY)
         set_tests_properties(monkey.Kept.${name} PROPERTIES LABELS monkey)
     endforeach()
 
-    add_executable(test_monkey ${monkey_folder}/shorten_test.cpp ${monkey_folder}/act.cpp ${monkey_folder}/shorten.cpp)
+    add_executable(test_monkey ${monkey_folder}/monkey_test.cpp ${monkey_folder}/act.cpp
+                   ${monkey_folder}/failure_ear.cpp ${monkey_folder}/finding.cpp ${monkey_folder}/shorten.cpp)
     target_link_libraries(test_monkey PRIVATE test_main)
     gtest_discover_tests(test_monkey DISCOVERY_TIMEOUT 60)
 endif()

@@ -1,3 +1,4 @@
+#include "tests/monkey/failure_ear.hpp"
 #include "tests/monkey/shorten.hpp"
 
 #include <gtest/gtest.h>
@@ -70,6 +71,15 @@ TEST(Act, RefusesALineThatTellsNoAct)
 {
     EXPECT_THROW(FromLine("sing"), BadAct);
     EXPECT_THROW(FromLine("press frmLista.kvcmdAlterar 500"), BadAct);
+}
+
+TEST(FailureEar, TellsNumberAndPlaceOfAFailureOnceItIsReportedWhole)
+{
+    const std::string said =
+        "Kovaris\nNúmero: 13\nDescrição: Tipos incompatíveis\nLocal: frmLista, GerarLista, Ponto: 1";
+    EXPECT_EQ(FailureReportedIn(said), "");
+    EXPECT_EQ(FailureReportedIn(said + "\n"), "error 13 at frmLista, GerarLista, Ponto: 1");
+    EXPECT_EQ(FailureReportedIn("QStandardPaths: XDG_RUNTIME_DIR not set\n"), "");
 }
 
 } // namespace kova::monkey

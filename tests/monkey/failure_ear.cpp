@@ -1,0 +1,48 @@
+#include "tests/monkey/failure_ear.hpp"
+
+#include "tests/monkey/finding.hpp"
+
+#include <iostream>
+#include <regex>
+
+namespace kova::monkey {
+
+FailureEar::FailureEar() : before_(std::cerr.rdbuf(this)) { }
+
+FailureEar::~FailureEar() { std::cerr.rdbuf(before_); }
+
+FailureEar::int_type FailureEar::overflow(int_type character)
+{
+    Hear(std::string(1, traits_type::to_char_type(character)));
+    return character;
+}
+
+std::streamsize FailureEar::xsputn(const char* text, std::streamsize length)
+{
+    Hear(std::string(text, static_cast<std::size_t>(length)));
+    return length;
+}
+
+void FailureEar::Hear(const std::string& text)
+{
+    before_->sputn(text.data(), static_cast<std::streamsize>(text.size()));
+    heard_ += text;
+    const std::string failure = FailureReportedIn(heard_);
+    if (!failure.empty()) {
+        std::cerr.rdbuf(before_);
+        TellFinding(failure, "as reported");
+    }
+}
+
+std::string FailureReportedIn(const std::string& text)
+{
+    static const std::regex number("Número: (-?[0-9]+)");
+    static const std::regex place("Local: ([^\\n]+)\\n");
+    std::smatch foundNumber;
+    std::smatch foundPlace;
+    if (!std::regex_search(text, foundNumber, number) || !std::regex_search(text, foundPlace, place))
+        return "";
+    return "error " + foundNumber[1].str() + " at " + foundPlace[1].str();
+}
+
+} // namespace kova::monkey
