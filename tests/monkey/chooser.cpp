@@ -53,8 +53,23 @@ bool Chooser::IsLeftOut(const Act& act)
     return leftOut && std::regex_search(ToLine(act), std::regex(leftOut));
 }
 
+// The screens behind the list are reached by plans.
+std::optional<Act> Chooser::NextOfPlan()
+{
+    const toolkit::FormModel* form = FormInFront();
+    if (plan_.empty() && form && form->Design().name == "frmLista" && chance_.InHundred(15))
+        plan_ = PlanSomething(chance_, words_);
+    if (plan_.empty() || !chance_.InHundred(85))
+        return std::nullopt;
+    const Act act = plan_.front();
+    plan_.pop_front();
+    return act;
+}
+
 Act Chooser::Choose()
 {
+    if (const auto planned = NextOfPlan())
+        return *planned;
     if (chance_.InHundred(4))
         return Seldom();
     if (QApplication::activePopupWidget())
@@ -216,7 +231,7 @@ Act Chooser::Typing()
                 .text = chance_.OneOf<std::string>({"m", "7", "é "})};
     if (Holds(focus, "kvdtp"))
         return Type(Words::DateDigits(chance_));
-    if (Holds(focus, "kvtm") || Holds(focus, "Hora"))
+    if (Holds(focus, "kvtim"))
         return Type(Words::TimeDigits(chance_));
     return Type(words_.Any(chance_));
 }

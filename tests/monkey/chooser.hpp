@@ -1,7 +1,6 @@
 #pragma once
 
-#include "tests/monkey/act.hpp"
-#include "tests/monkey/words.hpp"
+#include "tests/monkey/plans.hpp"
 
 #include <optional>
 
@@ -29,7 +28,8 @@ private:
     std::size_t next_ = 0;
 };
 
-/// Chooses at random among what a user could do with what is in front: mostly what makes sense there.
+/// Chooses at random among what a user could do with what is in front, mostly what makes sense there, and
+/// follows plans through, with something else in between now and then.
 class Chooser : public Source {
 public:
     Chooser(std::uint64_t seed, int count, Words words)
@@ -43,6 +43,7 @@ public:
 
 private:
     Act Choose();
+    std::optional<Act> NextOfPlan();
     static bool IsLeftOut(const Act& act);
     Act InPopup();
     Act InBox();
@@ -62,6 +63,8 @@ private:
     Chance chance_;
     int left_;
     Words words_;
+    /// What is left of what the user has set out to do.
+    std::deque<Act> plan_;
 };
 
 } // namespace kova::monkey

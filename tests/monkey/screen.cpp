@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMap>
 
 namespace kova::monkey {
@@ -156,6 +157,11 @@ std::vector<std::pair<std::string, QWidget*>> Targets()
         const QString kind = QString::fromLatin1(child->metaObject()->className());
         const int number = counts[kind]++;
         if (!child->isEnabled() || qobject_cast<QLabel*>(child) || dynamic_cast<qt::FormWidget*>(child))
+            continue;
+        // The line of a box is reached by the box.
+        const QWidget* parent = child->parentWidget();
+        if (qobject_cast<QLineEdit*>(child) && parent
+            && parent->objectName().startsWith(QLatin1String("frm")))
             continue;
         const QString name = child->objectName();
         const bool isNamed = !name.isEmpty() && !name.startsWith(QLatin1String("qt_")) && !name.contains(' ');
