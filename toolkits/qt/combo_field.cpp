@@ -221,9 +221,7 @@ QRectF ComboField::TextArea() const { return QRectF(rect()).adjusted(Inset, 0, -
 // A text that does not fit is read in a tool tip, where the field has none of its own.
 bool ComboField::event(QEvent* event)
 {
-    const auto isCut = [this] {
-        return QFontMetricsF(font()).horizontalAdvance(text_) > TextArea().width();
-    };
+    const auto isCut = [this] { return QFontMetricsF(font()).horizontalAdvance(text_) > TextArea().width(); };
     if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !isCut())
         return QWidget::event(event);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text_, this);
