@@ -80,6 +80,18 @@ void Activate(const QWidget& widget)
     QCoreApplication::processEvents();
 }
 
+/// A window of nobody's, out of sight.
+QWindow& Unseen()
+{
+    static auto* const unseen = [] {
+        auto* window = new QWindow;
+        window->setFlags(Qt::Tool | Qt::FramelessWindowHint);
+        window->create();
+        return window;
+    }();
+    return *unseen;
+}
+
 /// Lets a key go where the keyboard is by then: the window of the press may be gone.
 void LetGo(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers)
 {
@@ -139,18 +151,18 @@ void Hand::ClickAt(QWindow& window, const QPoint& place, Qt::MouseButton button)
         QTestPrivate::qtestMouseButtons.setFlag(button, false);
 }
 
-// A mouse that has come to the place above another window is there already: that window, out of sight, takes
-// the move that a press at a new place would tell the window of.
+// A mouse that has come to the place above another window is there already: that window takes the move that a
+// press at a new place would tell the window of.
 void Hand::TapAt(QWindow& window, const QPoint& place)
 {
-    static auto* const elsewhere = [] {
-        auto* unseen = new QWindow;
-        unseen->setFlags(Qt::Tool | Qt::FramelessWindowHint);
-        unseen->create();
-        return unseen;
-    }();
-    MoveAt(*elsewhere, elsewhere->mapFromGlobal(window.mapToGlobal(place)));
+    MoveAt(Unseen(), Unseen().mapFromGlobal(window.mapToGlobal(place)));
     ClickAt(window, place);
+}
+
+void Hand::PassOn()
+{
+    constexpr QPoint farAway(-10000, -10000);
+    MoveAt(Unseen(), farAway);
 }
 
 void Hand::WheelAt(QWindow& window, const QPoint& place, double notches)

@@ -24,6 +24,8 @@ namespace kova::hand {
 class Hand {
 public:
     std::string MoveTo(const Spot& spot);
+    /// Moves out of all windows, of which none hears.
+    static void PassOn();
     /// Moves there and presses; far enough in time from the last press to be no double click.
     std::string Press(const Spot& spot, Qt::MouseButton button = Qt::LeftButton);
     /// Lets the button go where the mouse is.

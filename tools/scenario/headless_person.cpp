@@ -1,6 +1,10 @@
 #include "tools/scenario/headless_person.hpp"
 
-#include "toolkits/common/edit_core.hpp"
+#include "toolkits/common/check_box.hpp"
+#include "toolkits/common/command_button.hpp"
+#include "toolkits/common/find_box.hpp"
+#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/option_button.hpp"
 
 namespace kova::scenario {
 
@@ -22,16 +26,34 @@ Point CornerOf(const toolkit::WidgetCore& control)
     return corner;
 }
 
+template <class Model> bool Is(const toolkit::WidgetCore& widget)
+{
+    return dynamic_cast<const Model*>(&widget) != nullptr;
+}
+
+bool CanBePressed(const toolkit::WidgetCore& widget)
+{
+    return Is<toolkit::CommandButtonModel>(widget) || Is<toolkit::CheckBoxModel>(widget)
+        || Is<toolkit::OptionButtonModel>(widget);
+}
+
+bool CanBeTypedIn(const toolkit::WidgetCore& widget)
+{
+    const auto* box = dynamic_cast<const toolkit::EditCore*>(&widget);
+    return box && box->AllowsTyping();
+}
+
 } // namespace
 
 // A mouse in another form has not left this one's window by its grid's edge.
-void HeadlessPerson::MoveMouse(const ControlName& at)
+void HeadlessPerson::MoveMouse(const ControlName& at,
+                               const std::function<bool(const toolkit::WidgetCore&)>& fits)
 {
     const toolkit::FormModel* form = resting_ ? toolkit_.FindForm(resting_->form) : nullptr;
     auto* grid = form ? dynamic_cast<toolkit::GridModel*>(form->Find(resting_->control, -1)) : nullptr;
     const toolkit::WidgetCore* target =
         form && form == toolkit_.FindForm(at.form) ? form->Find(at.control, at.index) : nullptr;
-    if (!grid || !target || !target->Refusal().empty())
+    if (!grid || !target || !target->Refusal().empty() || !fits(*target))
         return;
     const Point corner = CornerOf(*grid);
     const Point goal = CornerOf(*target);
@@ -45,36 +67,38 @@ void HeadlessPerson::MoveMouse(const ControlName& at)
 
 std::string HeadlessPerson::Click(const ControlName& at)
 {
+    MoveMouse(at, &CanBePressed);
     return user_.Click(at.form, at.control, at.index);
 }
 
 std::string HeadlessPerson::Choose(const ControlName& at, int row)
 {
-    MoveMouse(at);
+    MoveMouse(at, &Is<toolkit::ComboBoxModel>);
     return user_.Choose(at.form, at.control, row, at.index);
 }
 
 std::string HeadlessPerson::Choose(const ControlName& at, std::string_view text)
 {
-    MoveMouse(at);
+    MoveMouse(at, &Is<toolkit::ComboBoxModel>);
     return user_.Choose(at.form, at.control, text, at.index);
 }
 
 std::string HeadlessPerson::Type(const ControlName& at, std::string_view text)
 {
-    MoveMouse(at);
+    MoveMouse(at, &CanBeTypedIn);
     return user_.Type(at.form, at.control, text, at.index);
 }
 
 std::string HeadlessPerson::Press(const ControlName& at)
 {
+    MoveMouse(at, &Is<toolkit::FindBoxModel>);
     return user_.Press(at.form, at.control, at.index);
 }
 
 // A text is selected as if Tab had come there.
 std::string HeadlessPerson::Focus(const ControlName& at)
 {
-    MoveMouse(at);
+    MoveMouse(at, &Is<toolkit::EditCore>);
     const toolkit::EventScope scope(toolkit_);
     std::string refusal = user_.Focus(at.form, at.control, at.index);
     const toolkit::FormModel* form = toolkit_.FindForm(at.form);
@@ -111,7 +135,10 @@ std::string HeadlessPerson::Select(const ControlName& at, Long row)
 
 std::string HeadlessPerson::Bar(const ControlName& at, int button)
 {
-    MoveMouse(at);
+    MoveMouse(at, [button](const toolkit::WidgetCore& widget) {
+        const auto* bar = dynamic_cast<const toolkit::NavigationBarModel*>(&widget);
+        return bar && bar->Offers(button);
+    });
     return user_.Bar(at.form, at.control, button);
 }
 

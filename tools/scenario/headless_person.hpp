@@ -3,6 +3,7 @@
 #include "toolkits/headless/user.hpp"
 #include "tools/scenario/person.hpp"
 
+#include <functional>
 #include <optional>
 
 namespace kova::scenario {
@@ -28,7 +29,8 @@ public:
 
 private:
     /// The mouse goes to a control on its way to a press: off the grid on which it rests, or on above it.
-    void MoveMouse(const ControlName& at);
+    /// Nothing moves where the user cannot press it, or it does not fit what is to be done.
+    void MoveMouse(const ControlName& at, const std::function<bool(const toolkit::WidgetCore&)>& fits);
 
     headless::HeadlessToolkit& toolkit_;
     headless::User user_;

@@ -187,10 +187,16 @@ Spot ScreenPerson::SpotOfRow(toolkit::GridModel& grid, Long row, std::string& re
     return spot;
 }
 
+void ScreenPerson::PassOn()
+{
+    Hand::PassOn();
+    toolkit_.ForgetPointer();
+}
+
 std::string ScreenPerson::Hover(const ControlName& at, Long row)
 {
     const std::string refusal = Rest(at, row);
-    toolkit_.ForgetPointer();
+    PassOn();
     return refusal;
 }
 
@@ -210,7 +216,7 @@ std::string ScreenPerson::HoverAt(const ControlName& at, Twips x, Twips y)
     auto* grid = Reach<toolkit::GridModel>(at, refusal);
     if (grid)
         refusal = hand_.MoveTo(hand::PlaceInGrid(*hand::WidgetOf(*grid), x, y));
-    toolkit_.ForgetPointer();
+    PassOn();
     return refusal;
 }
 

@@ -42,6 +42,8 @@ private:
     void PressInVain(const toolkit::WidgetCore& widget);
     /// Where the mouse meets that row, on show after the call.
     hand::Spot SpotOfRow(toolkit::GridModel& grid, Long row, std::string& refusal);
+    /// The mouse is gone: nobody is told of what changes where it was.
+    void PassOn();
     std::string FocusByTab(toolkit::WidgetCore& widget);
 
     qt::QtToolkit& toolkit_;
