@@ -21,3 +21,17 @@ foreach(scenario IN LISTS swept)
     add_test(NAME Faults.${name} COMMAND fault-sweep ${scenario})
     set_tests_properties(Faults.${name} PROPERTIES ENVIRONMENT "${sweep_environment}")
 endforeach()
+
+# On the real screen a sample of all crossings, in two halves: a run takes longer there. The whole, on demand:
+# fault-sweep --toolkit qt SCENARIO...
+set(sample 997)
+list(LENGTH swept scripts)
+math(EXPR middle "${scripts} / 2")
+list(SUBLIST swept 0 ${middle} first_half)
+list(SUBLIST swept ${middle} -1 second_half)
+foreach(half IN ITEMS first second)
+    add_test(NAME FaultsOnScreen.${half}Half
+             COMMAND fault-sweep --toolkit qt --every ${sample} ${${half}_half})
+    set_tests_properties(FaultsOnScreen.${half}Half PROPERTIES
+        ENVIRONMENT "${sweep_environment};QT_QPA_PLATFORM=offscreen" COST ${cost_of_long_tests})
+endforeach()
