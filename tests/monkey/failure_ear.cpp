@@ -2,6 +2,8 @@
 
 #include "tests/monkey/finding.hpp"
 
+#include <algorithm>
+#include <array>
 #include <iostream>
 #include <regex>
 
@@ -28,10 +30,13 @@ void FailureEar::Hear(const std::string& text)
     before_->sputn(text.data(), static_cast<std::streamsize>(text.size()));
     heard_ += text;
     const std::string failure = FailureReportedIn(heard_);
-    if (!failure.empty()) {
-        std::cerr.rdbuf(before_);
+    if (failure.empty())
+        return;
+    heard_.clear();
+    std::cerr.rdbuf(before_);
+    if (!IsToldByDesign(failure))
         TellFinding(failure, "as reported");
-    }
+    std::cerr.rdbuf(this);
 }
 
 std::string FailureReportedIn(const std::string& text)
@@ -43,6 +48,20 @@ std::string FailureReportedIn(const std::string& text)
     if (!std::regex_search(text, foundNumber, number) || !std::regex_search(text, foundPlace, place))
         return "";
     return "error " + foundNumber[1].str() + " at " + foundPlace[1].str();
+}
+
+bool IsToldByDesign(const std::string& failure)
+{
+    static const std::array told{
+        // A customer who is not registered has no code, which the transport card needs.
+        std::regex("^error -2147217887 at .*ImprimirFichaDoAgendamentoParaTransporte"),
+        // A day typed by half behind one that has loaded the list stays in its box, and the list has no such
+        // day.
+        std::regex("^error 13 at KOVA_N_Agenda.clsAgenda, Selecionar"),
+        std::regex("^error 13 at .*kvcmdIrParaDia(Anterior|Posterior)_Click, Ponto: 1$"),
+    };
+    return std::ranges::any_of(told,
+                               [&](const std::regex& known) { return std::regex_search(failure, known); });
 }
 
 } // namespace kova::monkey

@@ -79,6 +79,9 @@ TEST(FailureEar, TellsNumberAndPlaceOfAFailureOnceItIsReportedWhole)
         "Kovaris\nNúmero: 13\nDescrição: Tipos incompatíveis\nLocal: frmLista, GerarLista, Ponto: 1";
     EXPECT_EQ(FailureReportedIn(said), "");
     EXPECT_EQ(FailureReportedIn(said + "\n"), "error 13 at frmLista, GerarLista, Ponto: 1");
+    EXPECT_FALSE(IsToldByDesign("error 13 at frmLista, GerarLista, Ponto: 1"));
+    EXPECT_TRUE(
+        IsToldByDesign("error 13 at KOVA_A_Agenda, frmLista, kvcmdIrParaDiaAnterior_Click, Ponto: 1"));
     EXPECT_EQ(FailureReportedIn("QStandardPaths: XDG_RUNTIME_DIR not set\n"), "");
 }
 

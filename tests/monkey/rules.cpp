@@ -1,6 +1,7 @@
 #include "tests/monkey/rules.hpp"
 
 #include "agenda/list/frmLista_columns.hpp"
+#include "tests/monkey/failure_ear.hpp"
 #include "tests/monkey/finding.hpp"
 #include "tests/monkey/screen.hpp"
 #include "toolkits/common/label.hpp"
@@ -69,9 +70,10 @@ void Rules::LookForFailures()
     if (!modal)
         return;
     const QString number = FieldOf(*modal, "number");
-    if (!number.isEmpty())
-        TellFinding("error " + number.toStdString() + " at " + FieldOf(*modal, "place").toStdString(),
-                    FieldOf(*modal, "description").toStdString());
+    const std::string failure =
+        "error " + number.toStdString() + " at " + FieldOf(*modal, "place").toStdString();
+    if (!number.isEmpty() && !IsToldByDesign(failure))
+        TellFinding(failure, FieldOf(*modal, "description").toStdString());
     const QMessageBox* box = BoxInFront();
     if (box && box->windowTitle() == QCoreApplication::applicationName())
         TellFinding("unhandled failure", box->text().toStdString());

@@ -16,7 +16,10 @@ AppointmentBook::AppointmentBook()
 
 void AppointmentBook::OpensNewRecord()
 {
-    receptionist->WaitsFor(List).Presses("F2").Picks("Agendamento completo").WaitsFor(Record);
+    receptionist->WaitsFor(List)
+        .Clicks(List, "kvcmdAdicionar")
+        .PicksByMouse("Agendamento completo")
+        .WaitsFor(Record);
 }
 
 void AppointmentBook::EntersCustomerAndAnimal()
@@ -41,11 +44,13 @@ void AppointmentBook::EntersEmployee(const std::string& letter)
 
 void AppointmentBook::AsksForRepetition()
 {
-    // Behind a customer or service found, the first change of the combo passes unnoticed.
-    receptionist->Presses("Alt+B").Presses("Tab").Presses("Up").Presses("Down").Presses("Up").Presses("Tab");
+    receptionist->Presses("Alt+B").Presses("Tab").Types("S").Presses("Tab");
 }
 
-void AppointmentBook::SavesAndLeaves() { receptionist->Presses("Ctrl+S").WaitsFor(List).Leaves(); }
+void AppointmentBook::SavesAndLeaves(const char* form)
+{
+    receptionist->Clicks(form, "kvcmdSalvarFecharConfirmar").WaitsFor(List).Leaves();
+}
 
 std::vector<std::string> AppointmentBook::Appointments() const
 {

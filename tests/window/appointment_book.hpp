@@ -4,7 +4,7 @@
 
 namespace kova::window_test {
 
-/// A shop whose appointment book is empty, and how a receptionist fills the full record in it by keyboard.
+/// A shop whose appointment book is empty, and how a receptionist fills the full record in it.
 ///
 /// Registered customers that a test may count on:
 /// - 17 "Zulmar Quaresma" and 10 "Zulmira Quaresma", the only ones with "quaresma" in their name, in that
@@ -30,7 +30,8 @@ protected:
     void EntersEmployee(const std::string& letter);
     /// "Reagendar" on "Sim"; the number of repetitions has the focus.
     void AsksForRepetition();
-    void SavesAndLeaves();
+    /// By mouse, in that form.
+    void SavesAndLeaves(const char* form = Record);
 
     /// "date start|date end|customer|animal|service|employee", a row for each appointment, by their start.
     std::vector<std::string> Appointments() const;

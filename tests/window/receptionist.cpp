@@ -1,6 +1,7 @@
 #include "tests/window/receptionist.hpp"
 
 #include "toolkits/common/toolkit.hpp"
+#include "toolkits/qt/calendar.hpp"
 
 #include <QApplication>
 #include <QKeySequence>
@@ -87,6 +88,34 @@ std::string WhatIsInFront()
     return form->Design().name + ", focus " + Receptionist::Focused() + " " + form->Refusal();
 }
 
+QWidget& ControlOf(const std::string& form, const std::string& control)
+{
+    QWidget* widget = hand::ControlOnScreen(form, control);
+    if (!widget)
+        throw Failure(FailureNumber::NoSuchMember);
+    return *widget;
+}
+
+bool IsInFront(const std::string& form)
+{
+    const toolkit::FormModel* front = Receptionist::FormInFront();
+    return front && front->Design().name == form;
+}
+
+/// Where a day stands on the sheet of a month that begins on a Sunday.
+QPoint PlaceOfDay(const qt::CalendarPopup& calendar, int day)
+{
+    constexpr int daysPerWeek = 7;
+    constexpr int weeks = 6;
+    constexpr QMargins besidesTheDays(10, 10 + 34 + 24, 10, 38 + 10);
+    const QRect days = calendar.rect().marginsRemoved(besidesTheDays);
+    const QSize cell(days.width() / daysPerWeek, days.height() / weeks);
+    const int column = (day - 1) % daysPerWeek;
+    const int week = (day - 1) / daysPerWeek;
+    return days.topLeft()
+        + QPoint(column * cell.width() + cell.width() / 2, week * cell.height() + cell.height() / 2);
+}
+
 QMessageBox* OpenBox() { return dynamic_cast<QMessageBox*>(QApplication::activeModalWidget()); }
 QMenu* OpenMenu() { return dynamic_cast<QMenu*>(QApplication::activePopupWidget()); }
 
@@ -119,6 +148,89 @@ Receptionist& Receptionist::Types(const std::string& text)
                  }});
 }
 
+Receptionist& Receptionist::ThenAt(const std::string& what, const std::string& form,
+                                   std::function<hand::Spot()> place,
+                                   std::function<std::string(const hand::Spot&)> act)
+{
+    const auto ready = [this, form, place] {
+        return FrontIsIdle() && IsInFront(form) && hand::WhyNot(place()).empty();
+    };
+    return Then({what, ready, [this, place, act] {
+                     handling_.push_back(FormInFront());
+                     act(place());
+                     handling_.pop_back();
+                 }});
+}
+
+Receptionist& Receptionist::Clicks(const std::string& form, const std::string& control)
+{
+    return ThenAt(
+        "click on " + form + "." + control, form, [=] { return hand::Spot(&ControlOf(form, control)); },
+        [this](const hand::Spot& spot) { return hand_.Click(spot); });
+}
+
+Receptionist& Receptionist::ClicksEnd(const std::string& form, const std::string& box)
+{
+    return ThenAt(
+        "click on the end of " + form + "." + box, form,
+        [=] { return hand::EndButtonOf(ControlOf(form, box)); },
+        [this](const hand::Spot& spot) { return hand_.Click(spot); });
+}
+
+Receptionist& Receptionist::Chooses(const std::string& form, const std::string& combo, int row)
+{
+    Clicks(form, combo);
+    return Then({"choose row " + std::to_string(row) + " of " + combo,
+                 [] { return hand::Hand::OpenList() != nullptr; },
+                 [this, row] { hand_.Pick(*hand::Hand::OpenList(), row); }});
+}
+
+Receptionist& Receptionist::InList(const std::string& keys)
+{
+    return Then({"press " + keys + " in a list", [] { return hand::Hand::OpenList() != nullptr; },
+                 [keys] { SendKeys(keys); }});
+}
+
+Receptionist& Receptionist::PicksDay(const std::string& form, const std::string& box, int day)
+{
+    ClicksEnd(form, box);
+    const auto calendar = [] { return dynamic_cast<qt::CalendarPopup*>(QApplication::activePopupWidget()); };
+    return Then(
+        {"pick day " + std::to_string(day), [calendar] { return calendar() != nullptr; },
+         [this, calendar, day] { hand_.Click(hand::Spot(calendar(), PlaceOfDay(*calendar(), day))); }});
+}
+
+Receptionist& Receptionist::Hovers(const std::string& form, const std::string& grid, int row)
+{
+    return ThenAt(
+        "hover row " + std::to_string(row), form, [=] { return hand::RowOf(ControlOf(form, grid), row); },
+        [this](const hand::Spot& spot) { return hand_.MoveTo(spot); });
+}
+
+Receptionist& Receptionist::ClicksRow(const std::string& form, const std::string& grid, int row)
+{
+    return ThenAt(
+        "click on row " + std::to_string(row), form, [=] { return hand::RowOf(ControlOf(form, grid), row); },
+        [this](const hand::Spot& spot) { return hand_.Click(spot); });
+}
+
+Receptionist& Receptionist::DoubleClicksRow(const std::string& form, const std::string& grid, int row)
+{
+    return ThenAt(
+        "double click on row " + std::to_string(row), form,
+        [=] { return hand::RowOf(ControlOf(form, grid), row); },
+        [this](const hand::Spot& spot) {
+            const QPoint onScreen = spot.widget->mapToGlobal(spot.place);
+            hand_.Click(spot);
+            // The first press may have closed the window.
+            if (QWindow* beneath = TopInFront()->windowHandle()) {
+                hand::Hand::PressAt(*beneath, beneath->mapFromGlobal(onScreen), Qt::LeftButton);
+                hand::Hand::ReleaseAt(*beneath, beneath->mapFromGlobal(onScreen), Qt::LeftButton);
+            }
+            return std::string();
+        });
+}
+
 Receptionist& Receptionist::WaitsFor(const std::string& form)
 {
     const auto inFront = [this, form] { return FrontIsIdle() && FormInFront()->Design().name == form; };
@@ -134,6 +246,22 @@ Receptionist& Receptionist::Answers(const std::string& key)
                      boxes_.push_back(OpenBox()->text().toStdString());
                      SendKeys(key);
                  }});
+}
+
+Receptionist& Receptionist::AnswersByMouse(Reply reply)
+{
+    return Then({"answer by mouse", [this] { return OpenBox() && OpenBox() != answered_; },
+                 [this, reply] {
+                     answered_ = OpenBox();
+                     boxes_.push_back(OpenBox()->text().toStdString());
+                     hand_.Answer(*OpenBox(), reply);
+                 }});
+}
+
+Receptionist& Receptionist::PicksByMouse(const std::string& entry)
+{
+    return Then({"press the entry " + entry, [] { return OpenMenu() != nullptr; },
+                 [this, entry] { hand_.Pick(*OpenMenu(), QString::fromStdString(entry)); }});
 }
 
 Receptionist& Receptionist::Picks(const std::string& entry)

@@ -61,7 +61,7 @@ TEST_F(Repetition, ByTheUnitChosenBehindTheNumberBooksFortnights)
 {
     EntersFirstVisit();
     // Letters do not get into the number.
-    receptionist->Types("x2y").Presses("Tab").Presses("Down");
+    receptionist->Types("x2y").Presses("Tab").TakesNextRow();
     SavesAndLeaves();
     Run();
     EXPECT_EQ(Query("select data_inicial from agendamento order by data_inicial"),
@@ -72,13 +72,14 @@ TEST_F(Repetition, OnTwelveTypedDatesBooksTwelveVisitsAtOnce)
 {
     Rows shown;
     EntersFirstVisit();
-    receptionist->Presses("Tab").Presses("End").WaitsFor("frmSelecionarDatas").Looks([&] {
+    receptionist->Presses("Tab").Presses("Down").InList("End").InList("Return");
+    receptionist->WaitsFor("frmSelecionarDatas").Looks([&] {
         for (const char* name : {"kvtxtApelidoDoCliente", "kvtxtNomeDoAnimal", "kvtxtTempoDoServico"})
             shown.push_back(As<KVTextBox>(Receptionist::Control("frmSelecionarDatas", name))->Text());
     });
     for (const Visit& visit : Visits)
         receptionist->Types(visit.date).Presses("Tab").Types(visit.time).Presses("Tab");
-    SavesAndLeaves();
+    SavesAndLeaves("frmSelecionarDatas");
     Run();
     Rows expected;
     for (const Visit& visit : Visits)

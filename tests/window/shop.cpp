@@ -12,6 +12,9 @@ namespace kova::window_test {
 
 namespace {
 
+/// A pause of a second takes a tenth of one.
+constexpr double Pace = 10;
+
 void MakeDemonstration(const std::string& dataSource)
 {
     const std::string make =
@@ -57,6 +60,7 @@ void Shop::Run()
     options.user = "Maria";
     options.date = Date{2026, 11, 20};
     options.time = TimeOfDay{9, 0, 0};
+    options.pace = Pace;
     options.size = host::WindowSize{1366, 768};
     EXPECT_EQ(host::RunSession(options, host::Outlet::Window), EXIT_SUCCESS);
 }

@@ -32,7 +32,7 @@ protected:
         receptionist->WaitsFor("frmLista").Presses("F2").Picks("Agendamento Simplificado").WaitsFor(Form);
         receptionist->Types("João d'Ávila \"Zé\"").Presses("Tab").Types("Celular 1234").Presses("Tab");
         receptionist->Types("Rex").Presses("Tab").Types("m").Presses("Tab");
-        receptionist->Presses("Down").Presses("Tab").Presses("Down").Presses("Tab").Types("Preto");
+        receptionist->TakesNextRow().Presses("Tab").TakesNextRow().Presses("Tab").Types("Preto");
         // The type stays "(Todos)": it follows from the service.
         receptionist->Presses("Tab").Presses("Tab").Presses("Tab").Types("banho comp").Presses("Return");
         receptionist->WaitsFor(Form).Types("1500");
@@ -42,7 +42,7 @@ protected:
     void ChooseEmployee()
     {
         receptionist->Looks([] { Receptionist::Control(Form, "kvcmbFuncionarios").SetFocus(); });
-        receptionist->Presses("Down").Presses("Tab").Types("Muito bravo");
+        receptionist->TakesNextRow().Presses("Tab").Types("Muito bravo");
     }
     void BookAndSave()
     {
