@@ -83,7 +83,7 @@ TEST_F(SimplifiedRecord, IsDetailedAlteredAndDeletedByKeyboardAlone)
         As<KVCommandButton>(Receptionist::Control(Form, "kvcmdCancelarAlterar"))->SetFocus();
     });
     // The detail's second button is "Alterar": the form stays and is changed.
-    receptionist->Presses("Escape").WaitsFor(Form).Looks(
+    receptionist->Presses("Return").WaitsFor(Form).Looks(
         [&] { altered = As<KVTheme>(Receptionist::Control(Form, "KVTheme"))->Caption(); });
     receptionist->Presses("Ctrl+A").Types("Maria do Carmo").Presses("Ctrl+S").WaitsFor("frmLista");
     receptionist->Looks([&] {
@@ -111,7 +111,8 @@ TEST_F(SimplifiedRecord, IsRefusedForAnEmployeeWhoBecameInactiveMeanwhileAndKeep
         name = NameInTheForm();
         focus = Receptionist::Focused();
     });
-    receptionist->Presses("Escape").WaitsFor("frmLista").Leaves();
+    // What was typed is guarded: the first Escape only leads to "Cancelar".
+    receptionist->Presses("Escape").Presses("Escape").WaitsFor("frmLista").Leaves();
     Run();
     EXPECT_EQ(receptionist->Boxes(), (std::vector<std::string>{"Selecione o(a) funcionário(a)."}));
     EXPECT_EQ(name, "João d'Ávila \"Zé\"");
@@ -153,7 +154,7 @@ TEST_F(SimplifiedRecord, IsRefusedWithATimeThatIsNone)
     Book();
     receptionist->Looks([] { Receptionist::Control(Form, "kvtimHoraInicial").SetFocus(); });
     receptionist->Presses("Ctrl+A").Types("2400").Presses("Tab").Presses("Ctrl+S").Answers("Return");
-    receptionist->WaitsFor(Form).Presses("Escape").WaitsFor("frmLista").Leaves();
+    receptionist->WaitsFor(Form).Presses("Escape").Presses("Escape").WaitsFor("frmLista").Leaves();
     Run();
     EXPECT_EQ(receptionist->Boxes(), (std::vector<std::string>{"Informe uma hora inicial válida."}));
     EXPECT_EQ(Value("select count(*) from agendamento where data_inicial = '2026-11-20'"), "0");
