@@ -109,14 +109,12 @@ TEST_F(ListByMouse, CancelsTheRowUnderTheMouseBehindAnotherDayByKey)
     EXPECT_EQ(Value("select data_inicial from agendamento where numero = " + chosen_), "2026-11-21");
 }
 
-TEST_F(ListByMouse, ChoosesTheRowUnderTheMouseBehindAPageByKey)
+TEST_F(ListByMouse, ChoosesTheRowUnderTheMouseBehindDaysByKey)
 {
     RestsOnTheThirdRow();
-    receptionist->Presses("Ctrl+End");
+    receptionist->Presses("Alt+Right");
     FindsThirdRowChosen();
-    receptionist->Presses("Ctrl+Home");
-    FindsThirdRowChosen();
-    receptionist->Presses("F5");
+    receptionist->Presses("Alt+Left");
     FindsThirdRowChosen();
     receptionist->Leaves();
     Run();
