@@ -121,8 +121,10 @@ QMenu* OpenMenu() { return dynamic_cast<QMenu*>(QApplication::activePopupWidget(
 
 } // namespace
 
+// The mouse comes from outside: where it rests on the place of its next move, no move would be told.
 Receptionist::Receptionist()
 {
+    hand::Hand::PassOn();
     waiting_.start();
     Arm();
 }
