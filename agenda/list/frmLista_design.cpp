@@ -334,6 +334,8 @@ FormDesign Desenhar()
                       .backColor = colours::White,
                       .bordered = false,
                       .resizable = true,
+                      .leastWidth = 10290,
+                      .leastHeight = 5400,
                       .controls = {}};
     Append(design.controls, CabecalhoEFiltros());
     Append(design.controls, GradeEBotoesDaLinha());

@@ -43,6 +43,8 @@ FormDesign Desenhar()
                       .height = AlturaDaPesquisa,
                       .backColor = colours::White,
                       .resizable = true,
+                      .leastWidth = MenorLarguraDaPesquisa,
+                      .leastHeight = MenorAlturaDaPesquisa,
                       .controls = DesenhoComumDaPesquisa("Pesquisa de serviços", "Serviços encontrados")};
     for (const auto& parte : {Campos(), DesenhoDaPlacaDeEspera()})
         design.controls.insert(design.controls.end(), parte.begin(), parte.end());

@@ -49,6 +49,9 @@ ControlDesign RotuloDaPesquisa(const std::string& nome, const std::string& legen
 /// Size of both dialogs, frame included: all columns and the scroll bar fit, on a screen of 1024 by 768 too.
 inline constexpr Twips LarguraDaPesquisa = 14500;
 inline constexpr Twips AlturaDaPesquisa = 9900;
+/// What the box of the search, the headline, two rows and the button take.
+inline constexpr Twips MenorLarguraDaPesquisa = 8100;
+inline constexpr Twips MenorAlturaDaPesquisa = 4800;
 /// Left edge of grid and fields.
 inline constexpr Twips MargemDaPesquisa = 390;
 /// Search fields stand between their labels and the grid.

@@ -70,14 +70,19 @@ Qt::WindowFlags FlagsOf(const FormDesign& design)
     return flags;
 }
 
-toolkit::InnerSize InnerSizeOf(const QWidget& widget)
+// What a window, or its container, that the model does not size leaves the form.
+toolkit::InnerSize InnerSizeOf(const FormDesign& design, const QWidget& widget)
 {
-    return {ToTwips(widget.width()), ToTwips(widget.height())};
+    const QSize inner = InnerSizeWithin(design, widget.size());
+    return {ToTwips(inner.width()), ToTwips(inner.height())};
 }
+
+QSize SizeOf(toolkit::InnerSize inner) { return QSize(Pixels(inner.width), Pixels(inner.height)); }
 
 } // namespace
 
-FormWidget::FormWidget(toolkit::FormModel& model) : PlainPanel(nullptr), model_(model)
+FormWidget::FormWidget(toolkit::FormModel& model)
+    : PlainPanel(nullptr), model_(model), area_(new FormArea(model.Design(), this))
 {
     const FormDesign& design = model.Design();
     setWindowFlags(FlagsOf(design));
@@ -115,8 +120,13 @@ void FormWidget::closeEvent(QCloseEvent* event)
 
 void FormWidget::resizeEvent(QResizeEvent*)
 {
-    if (!followsModel && isVisible())
-        model_.UserResizes(InnerSizeOf(*this));
+    area_->setGeometry(rect());
+    // A form that gives its own size keeps it whatever a desktop makes of its window.
+    if (followsModel || !isVisible() || !model_.Design().resizable)
+        return;
+    const toolkit::InnerSize inner = InnerSizeOf(model_.Design(), *this);
+    area_->Hold(SizeOf(inner));
+    model_.UserResizes(inner);
 }
 
 void FormWidget::moveEvent(QMoveEvent*)
@@ -161,10 +171,15 @@ std::optional<toolkit::InnerSize> FormWindow::SetParent(Long containerHandle)
     widget_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     widget_->setGeometry(container->rect());
     widget_->followsModel = false;
-    return InnerOf(*container);
+    const toolkit::InnerSize inner = InnerOf(*container);
+    widget_->Area().Hold(SizeOf(inner));
+    return inner;
 }
 
-toolkit::InnerSize FormWindow::InnerOf(const QWidget& container) const { return InnerSizeOf(container); }
+toolkit::InnerSize FormWindow::InnerOf(const QWidget& container) const
+{
+    return InnerSizeOf(model_.Design(), container);
+}
 
 void FormWindow::FitToContainer()
 {
@@ -173,7 +188,9 @@ void FormWindow::FitToContainer()
     widget_->followsModel = true;
     widget_->setGeometry(container_->rect());
     widget_->followsModel = false;
-    model_.UserResizes(InnerOf(*container_));
+    const toolkit::InnerSize inner = InnerOf(*container_);
+    widget_->Area().Hold(SizeOf(inner));
+    model_.UserResizes(inner);
 }
 
 void FormWindow::Update(toolkit::FormAspect aspect)
@@ -192,8 +209,9 @@ void FormWindow::ShowGeometry()
 {
     if (!widget_ || container_)
         return;
-    const toolkit::InnerSize inner = model_.Inner();
-    const QSize size(Pixels(inner.width), Pixels(inner.height));
+    widget_->Area().Hold(SizeOf(model_.Inner()));
+    const QSize size =
+        widget_->Area().SizeWithin(RoomFor(model_.Design(), placed_ ? widget_ : WindowBelow()));
     const QPoint place(Pixels(model_.Current().left), Pixels(model_.Current().top));
     widget_->followsModel = true;
     if (model_.Design().resizable)
@@ -218,6 +236,23 @@ void FormWindow::FollowArea()
     }
 }
 
+// A form whose size is the user's takes what the screen has; any other one scrolls.
+void FormWindow::FitToScreen()
+{
+    ShowGeometry();
+    const FormDesign& design = model_.Design();
+    const QSize room = RoomFor(design, WindowBelow());
+    const QSize wanted = SizeOf(model_.Inner());
+    if (!design.resizable || wanted == wanted.boundedTo(room))
+        return;
+    widget_->followsModel = true;
+    widget_->resize(wanted.boundedTo(room));
+    widget_->followsModel = false;
+    const toolkit::InnerSize inner = InnerSizeOf(design, *widget_);
+    widget_->Area().Hold(SizeOf(inner));
+    model_.UserResizes(inner);
+}
+
 void FormWindow::CentreOver(const QWidget* other)
 {
     const QScreen* screen = other ? other->screen() : QGuiApplication::primaryScreen();
@@ -225,8 +260,10 @@ void FormWindow::CentreOver(const QWidget* other)
     const QPoint centre = other ? other->frameGeometry().center() : room.center();
     QRect area(QPoint(), widget_->size());
     area.moveCenter(centre);
-    area.moveLeft(std::clamp(area.left(), room.left(), std::max(room.left(), room.right() - area.width())));
-    area.moveTop(std::clamp(area.top(), room.top(), std::max(room.top(), room.bottom() - area.height())));
+    // The frame is counted in the least that every desktop has.
+    const QSize outer = area.size() + (room.size() - RoomFor(model_.Design(), other));
+    area.moveLeft(std::clamp(area.left(), room.left(), std::max(room.left(), room.right() - outer.width())));
+    area.moveTop(std::clamp(area.top(), room.top(), std::max(room.top(), room.bottom() - outer.height())));
     widget_->followsModel = true;
     widget_->move(area.topLeft());
     widget_->followsModel = false;
@@ -269,8 +306,10 @@ void FormWindow::Appear()
 {
     if (!container_ && !widget_->isVisible()) {
         QWidget* below = WindowBelow();
-        if (!placed_)
+        if (!placed_) {
+            FitToScreen();
             CentreOver(below);
+        }
         placed_ = true;
         widget_->winId();
         if (below && below->windowHandle())
@@ -341,7 +380,7 @@ toolkit::MenuModel* FormWindow::PopupMenu(toolkit::MenuModel&,
         action->setEnabled(entry->State().enabled);
         entryOf.insert(action, entry);
     }
-    const QPoint place = widget_->mapToGlobal(QPoint(Pixels(x), Pixels(y)));
+    const QPoint place = widget_->Area().ToScreen(QPoint(Pixels(x), Pixels(y)));
     return entryOf.value(menu.exec(place));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkits/common/form.hpp"
+#include "toolkits/qt/form_area.hpp"
 #include "toolkits/qt/plain_panel.hpp"
 
 #include <QEventLoop>
@@ -18,6 +19,7 @@ public:
     explicit FormWidget(toolkit::FormModel& model);
 
     toolkit::FormModel& Model() const { return model_; }
+    FormArea& Area() const { return *area_; }
     /// Hands a key to the model; always true.
     bool Forward(toolkit::FormKey key);
     /// Hands a key such as "F4" to the model; false where it means nothing to the form.
@@ -35,6 +37,7 @@ protected:
 
 private:
     toolkit::FormModel& model_;
+    FormArea* area_;
 };
 
 class FormWindow : public toolkit::FormWindow {
@@ -66,6 +69,7 @@ private:
     void FollowArea();
     void Appear();
     void FitToContainer();
+    void FitToScreen();
     void CentreOver(const QWidget* other);
     void LinkBuddies() const;
     QWidget* WindowBelow() const;

@@ -56,7 +56,8 @@ QWidget* ParentOf(const toolkit::WidgetCore& core)
         const auto* view = dynamic_cast<WidgetView*>(core.Container()->GetView());
         return view ? view->Window() : nullptr;
     }
-    return static_cast<const FormWindow&>(core.GetForm().Window()).Window();
+    const FormWidget* form = static_cast<const FormWindow&>(core.GetForm().Window()).Window();
+    return form ? form->Area().PlaneOf(core.Design()) : nullptr;
 }
 
 QRegion RoundRect(const QSize& size, int ellipseWidth, int ellipseHeight)

@@ -115,6 +115,7 @@ void WidgetView::TakeFocus()
 {
     if (widget_ && FocusWindow())
         FocusWindow()->setFocus(Qt::OtherFocusReason);
+    RevealInForm(widget_);
 }
 
 void WidgetView::WatchFocus(QWidget* widget) { new FocusWatch(widget, core_); }

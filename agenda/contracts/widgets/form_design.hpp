@@ -95,6 +95,10 @@ struct FormDesign {
     /// What is typed into the form is lost when it is left: once something is, the first Escape only moves to
     /// the cancel button, and the second presses it.
     bool guardsTyping = false;
+    /// The least inner area of a form that takes the size of its container or of its user; below it a screen
+    /// scrolls. 0 is any.
+    Twips leastWidth = 0;
+    Twips leastHeight = 0;
     /// In tab order.
     std::vector<ControlDesign> controls = {};
 };
