@@ -120,6 +120,22 @@ TEST_F(ListByMouse, ChoosesTheRowUnderTheMouseBehindDaysByKey)
     Run();
 }
 
+TEST_F(ListByMouse, ChoosesTheRowUnderTheMouseBehindAPageByKey)
+{
+    Rows chosen;
+    RestsOnTheThirdRow();
+    for (const char* key : {"Ctrl+End", "Ctrl+Home", "F5"}) {
+        receptionist->Presses(key);
+        FindsThirdRowChosen();
+        receptionist->Looks([&] { chosen.push_back(chosen_); });
+    }
+    receptionist->Leaves();
+    Run();
+    ASSERT_EQ(chosen.size(), 3U);
+    EXPECT_NE(chosen[0], chosen[1]);
+    EXPECT_EQ(chosen[1], chosen[2]);
+}
+
 TEST_F(ListByMouse, AttendsTheRowOfThePencilBehindASave)
 {
     std::string altered;

@@ -32,6 +32,11 @@ void DateBoxModel::UserPicks(const Date& date)
     });
 }
 
+void DateBoxModel::UserRepeats()
+{
+    ByUser([this] { Edited(); });
+}
+
 std::optional<Date> DateBoxModel::ShownDate() const
 {
     if (Length(ShownText()) != EmptyDateMask.size())

@@ -20,6 +20,8 @@ public:
     /// The user chose a day in the calendar: Change where the text changes. A day outside the box's
     /// range is ignored.
     void UserPicks(const Date& date);
+    /// The user asks for the same day again: Change, where a day is on show.
+    void UserRepeats();
     /// The day on show, where the text is a complete and valid date.
     std::optional<Date> ShownDate() const;
 

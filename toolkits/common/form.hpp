@@ -140,6 +140,8 @@ public:
     void FocusNext(bool forward);
     /// The user has changed what a widget holds.
     void NoteTyping() { typedSinceShown_ = true; }
+    /// Runs a press by key of a widget; the focus goes back to where it was, unless a handler has moved it.
+    void PressKeepingFocus(WidgetCore& pressed, const std::function<void()>& press);
     /// Takes the focus away from a widget that can no longer hold it.
     void ReviewFocus();
     /// A window or view over the shape of a user action: see WidgetCore::ByUser.
@@ -178,7 +180,10 @@ private:
     bool PressDefault();
     CommandButtonModel* CancelButton() const;
     void FocusFirst();
-    void PressByShortcut(CommandButtonModel& button);
+    bool PressShortcut(std::string_view shortcut);
+    bool ActByShortcut(WidgetCore& widget);
+    bool RepeatDate(std::string_view key);
+    bool TurnPage(std::string_view key);
     WidgetCore* NextStop(bool forward) const;
 
     ToolkitModel& toolkit_;

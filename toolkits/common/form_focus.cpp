@@ -1,7 +1,11 @@
 // The focus: who has it, who gets it next, and the keys that act on the form.
 
 #include "toolkits/common/command_button.hpp"
+#include "toolkits/common/date_box.hpp"
+#include "toolkits/common/edit_core.hpp"
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/grid.hpp"
+#include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/common/toolkit.hpp"
 
@@ -45,39 +49,76 @@ bool FormModel::UserPressesShortcut(std::string_view shortcut)
 {
     bool means = false;
     ByUser([&] {
-        if (!Refusal().empty())
-            return;
-        if (shortcut == HelpKey) {
-            const std::vector<KeyHelp> keys = KeysOf(*this);
-            means = !keys.empty();
-            if (means)
-                toolkit_.TellKeys(*this, keys);
-            return;
-        }
-        for (const auto& widget : widgets_) {
-            if (widget->Design().shortcut != shortcut)
-                continue;
-            means = true;
-            if (!widget->TakesInput())
-                return;
-            if (auto* button = dynamic_cast<CommandButtonModel*>(widget.get()))
-                return PressByShortcut(*button);
-            MoveFocus(widget.get());
-            if (widget->KindOfWidget() == WidgetKind::OptionButton && widget->HasFocus())
-                widget->TakesEnter();
-            return;
-        }
+        if (Refusal().empty())
+            means = PressShortcut(shortcut);
     });
     return means;
 }
 
+bool FormModel::PressShortcut(std::string_view shortcut)
+{
+    if (shortcut == HelpKey) {
+        const std::vector<KeyHelp> keys = KeysOf(*this);
+        if (!keys.empty())
+            toolkit_.TellKeys(*this, keys);
+        return !keys.empty();
+    }
+    for (const auto& widget : widgets_) {
+        if (widget->Design().shortcut == shortcut)
+            return ActByShortcut(*widget);
+    }
+    return RepeatDate(shortcut) || TurnPage(shortcut);
+}
+
+bool FormModel::ActByShortcut(WidgetCore& widget)
+{
+    if (!widget.TakesInput())
+        return true;
+    if (auto* button = dynamic_cast<CommandButtonModel*>(&widget)) {
+        PressKeepingFocus(widget, [button] { button->UserPresses(); });
+        return true;
+    }
+    MoveFocus(&widget);
+    if (widget.KindOfWidget() == WidgetKind::OptionButton && widget.HasFocus())
+        widget.TakesEnter();
+    return true;
+}
+
+bool FormModel::RepeatDate(std::string_view key)
+{
+    for (const auto& widget : widgets_) {
+        auto* box = dynamic_cast<DateBoxModel*>(widget.get());
+        if (box && box->Design().repeatKey == key) {
+            box->UserRepeats();
+            return true;
+        }
+    }
+    return false;
+}
+
+// In a box these keys move the caret.
+bool FormModel::TurnPage(std::string_view key)
+{
+    const bool toFirst = key == FirstPageKey;
+    if ((!toFirst && key != LastPageKey) || dynamic_cast<EditCore*>(focused_))
+        return false;
+    for (const auto& widget : widgets_) {
+        auto* grid = dynamic_cast<GridModel*>(widget.get());
+        if (grid && grid->PageBar()) {
+            grid->UserTurnsTo(toFirst ? NavigationBarModel::FirstPage : NavigationBarModel::LastPage);
+            return true;
+        }
+    }
+    return false;
+}
+
 // Whoever walks the rows by key goes on from the same row.
-void FormModel::PressByShortcut(CommandButtonModel& button)
+void FormModel::PressKeepingFocus(WidgetCore& pressed, const std::function<void()>& press)
 {
     WidgetCore* from = focused_;
     const auto self = weak_from_this().lock();
-    button.UserPresses();
-    const bool focusUnmoved = !focused_ || focused_ == &button;
+    press();
+    const bool focusUnmoved = !focused_ || focused_ == &pressed;
     if (from && focusUnmoved && !state_.unloaded && from->CanHoldFocus())
         MoveFocus(from, Entry::Return);
 }

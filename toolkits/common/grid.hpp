@@ -11,6 +11,9 @@
 
 namespace kova::toolkit {
 
+class CommandButtonModel;
+class NavigationBarModel;
+
 /// What has to be painted anew.
 struct GridChange {
     /// Everything: shape, widths, scrolling, look.
@@ -156,10 +159,15 @@ public:
     /// The mouse moved with the left button down: the selection reaches to that cell.
     void UserDrags(Twips x, Twips y);
     /// A key: the row reached becomes current and is scrolled into view, then MouseMove comes from its
-    /// middle, and comes again where the rows change.
+    /// middle, and comes again where the rows change. Page Down at the last row and Page Up at the first one
+    /// turn the page, where the design names a bar that offers it.
     void UserKey(GridKey key);
-    /// Return or the space bar: a click on the current row.
+    /// The space bar, and Return where the design names no button of the row: a click on the current row.
     void UserPressesRow();
+    /// Presses that button of the design's navigation bar, from anywhere in the form; false where it is not
+    /// offered. With the focus here, the keys go on at the new page's first row, after the previous and the
+    /// last page at its last row; where the mouse rests on a row, the first and the last page leave it there.
+    bool UserTurnsTo(int button);
     /// Scroll bars and wheel; values beyond the ends are cut. No event.
     void UserScrolls(Long topRow, Long leftCol);
     /// Dragging a header edge; ignored unless AllowUserResizing lets the user.
@@ -193,6 +201,14 @@ public:
     /// What changed since the last call; the view takes it when Aspect::Content comes (once per change
     /// not yet taken, never while Redraw is false).
     GridChange TakeChange();
+
+    /// Whether the design's navigation bar offers that button; false where it names none.
+    bool OffersPage(int button) const;
+    /// Whether a click on a row means anything.
+    bool HasClick() const { return static_cast<bool>(click_); }
+    /// What the design names; null where it names none.
+    NavigationBarModel* PageBar() const;
+    CommandButtonModel* RowButton() const;
 
     bool IsFocusable() const override { return true; }
     bool TellPointer() override;
@@ -240,6 +256,7 @@ private:
 
     void RowsChanged();
     void MarkUntold();
+    bool MouseRests() const;
     void RaiseMouseMoveAt(Twips x, Twips y);
     void WalkTo(Long row);
     void ClickHeader();
@@ -247,6 +264,8 @@ private:
     Long WindowHeight() const { return static_cast<Long>(state_.height); }
     Long WindowWidth() const { return static_cast<Long>(state_.width); }
     Twips MiddleOfFirstColumn() const;
+    bool TurnsPage(GridKey key);
+    bool PressesRowButton();
 
     GridAxis rows_{DefaultRowHeight};
     GridAxis columns_{DefaultColumnWidth};

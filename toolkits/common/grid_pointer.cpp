@@ -48,6 +48,11 @@ void GridModel::UserLeaves()
     const EventScope scope(GetForm().GetToolkit());
 }
 
+bool GridModel::MouseRests() const
+{
+    return pointer_.kind == Pointer::Kind::Mouse && HitTest(pointer_.x, pointer_.y);
+}
+
 void GridModel::RowsChanged()
 {
     if (pointer_.kind != Pointer::Kind::Nobody)
@@ -76,7 +81,7 @@ bool GridModel::TellPointer()
             return;
         if (pointer_.kind == Pointer::Kind::Keys)
             WalkTo(std::clamp<Long>(pointer_.row, rows_.Fixed(), rows_.Count() - 1));
-        else if (HitTest(pointer_.x, pointer_.y))
+        else if (MouseRests())
             RaiseMouseMoveAt(pointer_.x, pointer_.y);
     });
     // The form's own writes meanwhile are no news.

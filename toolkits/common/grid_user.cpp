@@ -95,7 +95,7 @@ Twips GridModel::MiddleOfFirstColumn() const
 void GridModel::UserKey(GridKey key)
 {
     ByUser([this, key] {
-        if (rows_.Count() > rows_.Fixed())
+        if (rows_.Count() > rows_.Fixed() && !TurnsPage(key))
             WalkTo(RowReached(key));
     });
 }
@@ -124,7 +124,8 @@ void GridModel::UserPressesRow()
 
 bool GridModel::TakesEnter()
 {
-    UserPressesRow();
+    if (!PressesRowButton())
+        UserPressesRow();
     return true;
 }
 

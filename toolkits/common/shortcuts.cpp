@@ -1,7 +1,12 @@
 #include "toolkits/common/shortcuts.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "toolkits/common/command_button.hpp"
+#include "toolkits/common/date_box.hpp"
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/grid.hpp"
+#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/option_button.hpp"
 
 #include <array>
 #include <utility>
@@ -17,12 +22,69 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 4> NamesOnSc
     {"Del", "Delete"},
 }};
 
-bool HasGrid(const FormModel& form)
+using Keys = std::vector<KeyHelp>;
+
+Text ShownCaptionOf(const WidgetCore& widget)
 {
-    for (const auto& widget : form.Widgets())
-        if (widget->KindOfWidget() == WidgetKind::MSFlexGrid)
-            return true;
-    return false;
+    if (const auto* button = dynamic_cast<const CommandButtonModel*>(&widget))
+        return Trim(button->ShownCaption());
+    if (const auto* option = dynamic_cast<const OptionButtonModel*>(&widget))
+        return Trim(option->ShownCaption());
+    return Trim(widget.Design().caption);
+}
+
+void AddShortcuts(const FormModel& form, Keys& keys)
+{
+    for (const auto& widget : form.Widgets()) {
+        if (!widget->Design().shortcut.empty() && widget->TakesInput())
+            keys.push_back({KeyName(widget->Design().shortcut), PurposeOf(*widget)});
+    }
+}
+
+void AddPages(const GridModel& grid, Keys& keys)
+{
+    if (grid.OffersPage(NavigationBarModel::NextPage)) {
+        keys.push_back({"PgDn", "Na última linha, ir para a próxima página"});
+        keys.push_back({"Ctrl+End", "Ir para a última página"});
+    }
+    if (grid.OffersPage(NavigationBarModel::PreviousPage)) {
+        keys.push_back({"PgUp", "Na primeira linha, ir para a página anterior"});
+        keys.push_back({"Ctrl+Home", "Ir para a primeira página"});
+    }
+}
+
+void AddRows(const FormModel& form, Keys& keys)
+{
+    for (const auto& widget : form.Widgets()) {
+        const auto* grid = dynamic_cast<const GridModel*>(widget.get());
+        if (!grid || !grid->TakesInput() || grid->RowAxis().Count() <= grid->RowAxis().Fixed())
+            continue;
+        keys.push_back({"↑ ↓", "Ir de linha em linha na lista"});
+        if (const CommandButtonModel* button = grid->RowButton())
+            keys.push_back({"Enter", PurposeOf(*button) + " a linha"});
+        else if (grid->HasClick())
+            keys.push_back({"Enter", "Escolher a linha"});
+        AddPages(*grid, keys);
+    }
+}
+
+void AddRepetition(const FormModel& form, Keys& keys)
+{
+    for (const auto& widget : form.Widgets()) {
+        const auto* box = dynamic_cast<const DateBoxModel*>(widget.get());
+        if (box && !box->Design().repeatKey.empty() && box->TakesInput() && box->ShownDate())
+            keys.push_back({KeyName(box->Design().repeatKey), "Atualizar a lista"});
+    }
+}
+
+template <class Chosen> void AddButton(const FormModel& form, const char* key, Chosen isChosen, Keys& keys)
+{
+    for (const auto& widget : form.Widgets()) {
+        if (isChosen(*widget) && widget->TakesInput()) {
+            keys.push_back({key, PurposeOf(*widget)});
+            return;
+        }
+    }
 }
 
 } // namespace
@@ -41,21 +103,26 @@ Text KeyName(std::string_view shortcut)
 Text PurposeOf(const WidgetCore& widget)
 {
     const ControlDesign& design = widget.Design();
+    const Text caption = ShownCaptionOf(widget);
+    if (!caption.empty() && caption != Trim(design.caption))
+        return caption;
     if (!design.accessibleName.empty())
         return design.accessibleName;
-    return design.toolTipText.empty() ? Trim(design.caption) : design.toolTipText;
+    return widget.State().toolTipText.empty() ? caption : widget.State().toolTipText;
 }
 
 std::vector<KeyHelp> KeysOf(const FormModel& form)
 {
-    std::vector<KeyHelp> keys;
-    for (const auto& widget : form.Widgets())
-        if (!widget->Design().shortcut.empty())
-            keys.push_back({KeyName(widget->Design().shortcut), PurposeOf(*widget)});
+    Keys keys;
+    AddShortcuts(form, keys);
+    AddRows(form, keys);
+    AddRepetition(form, keys);
+    AddButton(
+        form, "Enter", [](const WidgetCore& widget) { return widget.Design().isDefault; }, keys);
+    AddButton(
+        form, "Esc", [](const WidgetCore& widget) { return widget.LeavesForm(); }, keys);
     if (keys.empty())
         return keys;
-    if (HasGrid(form))
-        keys.push_back({"↑ ↓", "Ir de linha em linha na lista"});
     keys.push_back({"Tab", "Ir para o próximo campo"});
     keys.push_back({Text(HelpKey), "Mostrar esta ajuda"});
     return keys;

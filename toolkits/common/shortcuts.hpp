@@ -13,11 +13,15 @@ class WidgetCore;
 /// The key that opens the help of a form.
 inline constexpr std::string_view HelpKey = "F1";
 
+/// The keys that lead to the first and to the last page of a form whose grid has a bar of pages.
+inline constexpr std::string_view FirstPageKey = "Ctrl+Home";
+inline constexpr std::string_view LastPageKey = "Ctrl+End";
+
 /// A key as its name on the screen, such as "Alt+←" for "Alt+Left".
 Text KeyName(std::string_view shortcut);
 
-/// What a control is for, as help and assistive tools say it: its accessible name, else the tool tip of its
-/// design, else its caption.
+/// What a control is for, as help and assistive tools say it: the caption that code has given it, else its
+/// accessible name, its tool tip, the caption of its design.
 Text PurposeOf(const WidgetCore& widget);
 
 /// A line of a form's help: a key and what it does.
@@ -26,8 +30,8 @@ struct KeyHelp {
     Text purpose;
 };
 
-/// The keys of a form's controls in the order of the design, then those that every form has. Empty where no
-/// control has a key.
+/// What can be pressed here and now: the keys of the controls that take input in the order of the design,
+/// then those of the rows and of the form. Empty where only Tab would be left.
 std::vector<KeyHelp> KeysOf(const FormModel& form);
 
 } // namespace kova::toolkit

@@ -1,15 +1,24 @@
 #include "toolkits/qt/date_box.hpp"
 
+#include "toolkits/common/form.hpp"
 #include "toolkits/qt/toolkit.hpp"
 
 #include <QKeyEvent>
+
+#include <algorithm>
 
 namespace kova::qt {
 
 DateBoxView::DateBoxView(QtToolkit& toolkit, toolkit::DateBoxModel& model, QWidget* parent)
     : MaskView(toolkit, model, parent), model_(model)
 {
-    Shown().SetEndIcon("calendario", QStringLiteral("Abre o calendário com F4"));
+    // Where F4 is the key of a control of the form, the box never sees it.
+    const auto& controls = model.GetForm().Design().controls;
+    const bool isTaken = std::any_of(controls.begin(), controls.end(),
+                                     [](const ControlDesign& control) { return control.shortcut == "F4"; });
+    Shown().SetEndIcon("calendario",
+                       isTaken ? QStringLiteral("Abre o calendário com Alt+↓")
+                               : QStringLiteral("Abre o calendário com F4"));
     Shown().endPressed = [this] { OpenCalendar(); };
     Editor()->setInputMethodHints(Qt::ImhDate);
 }

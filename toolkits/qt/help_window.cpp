@@ -7,6 +7,9 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace kova::qt {
@@ -41,6 +44,27 @@ QGridLayout* TableOf(const std::vector<toolkit::KeyHelp>& keys)
     return table;
 }
 
+// As large as its lines, and no larger than the screen leaves beside the window's frame and button; then it
+// scrolls by the arrow keys.
+QScrollArea* ScrolledTable(const std::vector<toolkit::KeyHelp>& keys, const QWidget& window)
+{
+    constexpr int aroundTable = 150;
+    auto* lines = new QWidget;
+    lines->setLayout(TableOf(keys));
+    lines->layout()->setContentsMargins(0, 0, 0, 0);
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(lines);
+    area->viewport()->setAutoFillBackground(false);
+    lines->setAutoFillBackground(false);
+    const QSize room = window.screen()->availableGeometry().size() - QSize(aroundTable, aroundTable);
+    const QSize wanted = lines->sizeHint();
+    const int bar = wanted.height() > room.height() ? area->verticalScrollBar()->sizeHint().width() : 0;
+    area->setMinimumSize((wanted + QSize(bar, 0)).boundedTo(room));
+    return area;
+}
+
 } // namespace
 
 void ShowHelpWindow(QWidget* over, const Text& formCaption, const std::vector<toolkit::KeyHelp>& keys)
@@ -52,13 +76,17 @@ void ShowHelpWindow(QWidget* over, const Text& formCaption, const std::vector<to
     auto* column = new QVBoxLayout(&window);
     column->setContentsMargins(24, 20, 24, 16);
     column->setSpacing(18);
-    column->addLayout(TableOf(keys));
+    QScrollArea* table = ScrolledTable(keys, window);
+    column->addWidget(table, 1);
     auto* buttons = new QDialogButtonBox;
     QPushButton* close = buttons->addButton(QStringLiteral("Fechar"), QDialogButtonBox::RejectRole);
     close->setDefault(true);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
     column->addWidget(buttons);
-    close->setFocus();
+    // The arrow keys and Page Down are for the lines; Enter and Escape close wherever the focus is.
+    const bool scrolls = table->widget()->sizeHint().height() > table->minimumHeight();
+    table->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
+    (scrolls ? static_cast<QWidget*>(table) : close)->setFocus();
     window.exec();
 }
 

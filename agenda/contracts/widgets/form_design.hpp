@@ -72,6 +72,9 @@ struct ControlDesign {
     /// The key that presses a button, chooses an option or puts the focus on a box from anywhere in the form,
     /// such as "F4", "Ctrl+1" or "Alt+Left"; "" is none. F1 lists the keys of a form that has any.
     std::string shortcut = {};
+    /// Date boxes: the key that raises `Change` with the date as it stands, from anywhere in the form; "" is
+    /// none.
+    std::string repeatKey = {};
 
     /// Images.
     std::string picture = {};
@@ -81,6 +84,10 @@ struct ControlDesign {
     bool cellLimit = true;
     /// Grids: SelectionMode until code writes it.
     Integer selectionMode = 0;
+    /// Grids: the navigation bar of the form that Page Down at the last row, Page Up at the first one,
+    /// Ctrl+Home and Ctrl+End press, and the button that Enter on a row presses; "" is none.
+    std::string pageBar = {};
+    std::string rowButton = {};
 };
 
 struct FormDesign {

@@ -9,6 +9,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSpinBox>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -58,6 +59,8 @@ LabelWindow::LabelWindow(PostalAddress address, const LabelChoice& choice, Label
     rows->addLayout(MakeButtons());
     // Behind the fields, although it is made with the sheet's side.
     setTabOrder(nickname_, view_);
+    auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    connect(help, &QShortcut::activated, this, [this] { ShowWindowKeys(this, Keys()); });
     FollowSheet();
     copies_->setFocus();
     copies_->selectAll();
@@ -180,6 +183,22 @@ QLayout* LabelWindow::MakeButtons()
     Button(*row, "imprimir", QStringLiteral("&Imprimir"), &LabelWindow::Print)->setDefault(true);
     Button(*row, "fechar", QStringLiteral("Fec&har"), &LabelWindow::reject);
     return row;
+}
+
+std::vector<WindowKey> LabelWindow::Keys() const
+{
+    std::vector<WindowKey> keys{{QStringLiteral("Enter"), QStringLiteral("Imprimir")},
+                                {QStringLiteral("Alt+S"), QStringLiteral("Salvar em PDF")},
+                                {QStringLiteral("← → ↑ ↓"),
+                                 QStringLiteral("Na folha desenhada, escolher a primeira etiqueta livre")}};
+    if (before_->isEnabled())
+        keys.push_back({QStringLiteral("PgUp"), before_->accessibleName()});
+    if (after_->isEnabled())
+        keys.push_back({QStringLiteral("PgDn"), after_->accessibleName()});
+    keys.push_back({QStringLiteral("Tab"), QStringLiteral("Ir para o próximo campo")});
+    keys.push_back({QStringLiteral("Esc"), QStringLiteral("Fechar")});
+    keys.push_back({QStringLiteral("F1"), QStringLiteral("Mostrar esta ajuda")});
+    return keys;
 }
 
 LabelChoice LabelWindow::Choice() const { return {run_.sheet->key, nickname_->isChecked()}; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "family/presentation/labels/label_desk.hpp"
+#include "family/presentation/labels/label_keys.hpp"
 #include "family/presentation/labels/label_output.hpp"
 #include "family/presentation/labels/label_pages.hpp"
 #include "family/presentation/labels/label_painter.hpp"
@@ -29,7 +30,8 @@ struct LabelChoice {
 };
 
 /// The window that prints an address on label sheets: which sheets, the first free label on the first one,
-/// how many labels; how they will come out; printer or PDF. Escape closes.
+/// how many labels; how they will come out; printer or PDF. Escape closes, F1
+/// lists the keys.
 class LabelWindow : public QDialog {
 public:
     /// The desk must outlive it.
@@ -53,6 +55,8 @@ private:
     void Refresh();
     void ShowSheet(int sheet);
     QString Summary() const;
+    /// What can be pressed now.
+    std::vector<WindowKey> Keys() const;
     void Print();
     void SavePdf();
     QString ProposedPath() const;

@@ -255,9 +255,16 @@ TEST_F(Marking, TakesAKeyForEachStatusOnTheRowThatTheArrowsReached)
     }
 }
 
-TEST_F(Marking, ListsTheKeysOfAllCommandsOnF1)
+TEST_F(Marking, ListsTheKeysOfTheRowsCommandsOnF1OnceARowIsReached)
 {
-    const auto lista = OpenOn({{}});
+    script.Always(Selecionar, {.records = Table({Appointment(1)})});
+    const auto lista = Open();
+    toolkit.ClearLog();
+    EXPECT_EQ(user.PressShortcut("frmLista", "F1"), "");
+    EXPECT_GT(toolkit.Log().size(), 1U);
+    for (const std::string& line : toolkit.Log())
+        EXPECT_EQ(line.find("Excluir"), std::string::npos);
+    EXPECT_EQ(user.Hover("frmLista", "msfgGrade", 1), "");
     toolkit.ClearLog();
     EXPECT_EQ(user.PressShortcut("frmLista", "F1"), "");
     const std::vector<std::string> expected{
@@ -277,6 +284,8 @@ TEST_F(Marking, ListsTheKeysOfAllCommandsOnF1)
         "  F8: Excluir",
         "  F9: Imprimir fichas ou etiqueta",
         "  ↑ ↓: Ir de linha em linha na lista",
+        "  Enter: Detalhar a linha",
+        "  F5: Atualizar a lista",
         "  Tab: Ir para o próximo campo",
         "  F1: Mostrar esta ajuda",
     };

@@ -7,10 +7,12 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
@@ -78,6 +80,34 @@ protected:
     ScriptedDesk desk_{toolkit, "Kova"};
     LabelWindow window_{Jose(), {"A4-2x7", false}, desk_};
 };
+
+TEST_F(LabelWindowTest, ListsTheKeysThatWorkNowOnF1)
+{
+    const auto keys = [this] {
+        // As a window manager does when the list of keys has closed.
+        QApplication::setActiveWindow(&window_);
+        std::vector<std::string> shown;
+        QTimer::singleShot(0, qApp, [&shown] {
+            auto* list = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(list, nullptr);
+            for (const QLabel* label : list->findChildren<QLabel*>())
+                shown.push_back(label->text().toStdString());
+            QTest::keyClick(list, Qt::Key_Escape);
+        });
+        Press(Qt::Key_F1);
+        return shown;
+    };
+    const std::vector<std::string> first = keys();
+    ASSERT_GE(first.size(), 2U);
+    EXPECT_EQ(first[0], "Enter");
+    EXPECT_EQ(first[1], "Imprimir");
+    EXPECT_EQ(std::ranges::count(first, "PgDn"), 0);
+    The<QSpinBox>("quantidade").setValue(999);
+    const std::vector<std::string> many = keys();
+    EXPECT_EQ(std::ranges::count(many, "PgDn"), 1);
+    EXPECT_EQ(std::ranges::count(many, "PgUp"), 0);
+    EXPECT_TRUE(window_.isVisible());
+}
 
 TEST_F(LabelWindowTest, OpensOnOneLabelAtTheSheetsBeginning)
 {
