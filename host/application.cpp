@@ -27,6 +27,14 @@ Outlet ChooseOutlet(const Options& options)
     return HasDisplay() ? Outlet::Window : Outlet::PictureForWantOfDisplay;
 }
 
+/// The look that was asked for, else the desktop's. A picture is drawn light.
+qt::Look ChooseLook(const Options& options, Outlet outlet, const QApplication& application)
+{
+    if (options.look)
+        return *options.look == LookChoice::Dark ? qt::Look::Dark : qt::Look::Light;
+    return outlet == Outlet::Window ? qt::LookOfDesktop(application) : qt::Look::Light;
+}
+
 /// Remarks of the toolkit that nobody can act on: about every window drawn into memory, and about a folder
 /// that it makes itself where the desktop names none.
 void LeaveOutRemarks(QtMsgType, const QMessageLogContext&, const QString& message)
@@ -73,7 +81,7 @@ int RunApplication(char* programName, const Options& options)
     QApplication::setApplicationName(QStringLiteral("kovaris"));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("kovaris"));
-    qt::ApplyLook(application);
+    qt::ApplyLook(application, ChooseLook(options, outlet, application));
     SpeakPortuguese(application);
     return RunTelling(options, outlet);
 }

@@ -55,6 +55,15 @@ TimeOfDay ParseStart(const std::string& text)
     return *time;
 }
 
+LookChoice ParseLook(const std::string& text)
+{
+    if (text == "claro")
+        return LookChoice::Light;
+    if (text == "escuro")
+        return LookChoice::Dark;
+    Refuse("A aparência \"" + text + "\" de --look não existe. Informe claro ou escuro.");
+}
+
 void Apply(Options& options, const std::string& name, const std::string& value)
 {
     if (value.empty())
@@ -71,12 +80,14 @@ void Apply(Options& options, const std::string& name, const std::string& value)
         options.picture = value;
     else if (name == "--size")
         options.size = ParseSize(value);
+    else if (name == "--look")
+        options.look = ParseLook(value);
 }
 
 bool TakesValue(const std::string& name)
 {
     return name == "--database" || name == "--user" || name == "--date" || name == "--time"
-        || name == "--picture" || name == "--size";
+        || name == "--picture" || name == "--size" || name == "--look";
 }
 
 bool ApplySwitch(Options& options, const std::string& name)
@@ -131,6 +142,7 @@ std::string HelpText()
            "  --picture ARQUIVO    Não abre a janela: desenha a agenda no ARQUIVO (PNG), escreve as\n"
            "                       primeiras linhas do dia e termina.\n"
            "  --size LxA           Tamanho da janela em pontos da tela, como 1366x768.\n"
+           "  --look ESCOLHA       Aparência: claro ou escuro. Sem esta opção vale a do computador.\n"
            "  --first-paint        Escreve \"desenhado\" quando o dia aparece na janela e termina: serve\n"
            "                       para medir o início do programa.\n"
            "  --version            Mostra a versão.\n"

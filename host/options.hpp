@@ -17,6 +17,8 @@ struct WindowSize {
     bool operator==(const WindowSize&) const = default;
 };
 
+enum class LookChoice { Light, Dark };
+
 /// What the command line asks for.
 struct Options {
     /// Path of the database, or its address on a server; "" is the demonstration shop.
@@ -34,6 +36,8 @@ struct Options {
     std::string picture;
     /// Nothing takes what fits the screen, or the usual size for a picture.
     std::optional<WindowSize> size;
+    /// Nothing takes the desktop's look.
+    std::optional<LookChoice> look;
     /// Ends as soon as the day has been painted: for those who measure the start.
     bool firstPaint = false;
     bool showVersion = false;

@@ -259,7 +259,7 @@ void CalendarPopup::PaintDay(QPainter& painter, int position) const
 void CalendarPopup::PaintFoot(QPainter& painter) const
 {
     const QRectF area = TodayArea();
-    PaintPlate(painter, area, hover_.spot == Spot::Today ? look::AccentTint : QColor(244, 246, 248),
+    PaintPlate(painter, area, hover_.spot == Spot::Today ? look::AccentTint : look::Plate,
                look::CornerRadius);
     painter.setPen(look::Accent);
     painter.setFont(MakeFont("Arial", 9.75, true));

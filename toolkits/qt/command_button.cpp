@@ -24,11 +24,12 @@ void CommandButtonView::ShowContent()
 void CommandButtonView::ShowLook()
 {
     const ControlDesign& design = Core().Design();
-    const QColor ground = ToColor(design.backColor, QColor(240, 242, 245));
+    const QColor ground = GroundColor(design.backColor, look::Plate);
+    const QColor highlight = GroundColor(design.highlightColor, ground.darker(106));
     const bool captioned = !FromText(design.caption).trimmed().isEmpty();
     const bool light = Contrast(ground, look::Paper) < 1.05;
-    Shown().SetColours({ground, ToColor(design.highlightColor, ground.darker(106)),
-                        ToColor(design.fontColor, look::Ink), captioned && !light ? look::Paper : look::Ink});
+    const QColor onHighlight = captioned && !light ? look::Paper : look::Ink;
+    Shown().SetColours({ground, highlight, InkColor(design.fontColor, look::Ink, ground), onHighlight});
     Shown().SetIconName(design.icon);
     Shown().SetBordered(light);
 }

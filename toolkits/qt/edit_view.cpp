@@ -84,13 +84,17 @@ void EditView::ShowLook()
     const ControlDesign& design = Core().Design();
     const bool locked = !GetModel().AllowsTyping();
     Shown().SetLocked(locked);
-    Shown().SetPaper(ToColor(design.backColor, locked ? look::LockedPaper : look::Paper));
+    Shown().SetPaper(GroundColor(design.backColor, locked ? look::LockedPaper : look::Paper));
     QPalette palette = editor_->palette();
     palette.setColor(QPalette::Text, Ink());
     editor_->setPalette(palette);
 }
 
-QColor EditView::Ink() const { return ToColor(Core().Design().foreColor, look::Ink); }
+QColor EditView::Ink() const
+{
+    const ControlDesign& design = Core().Design();
+    return InkColor(design.foreColor, look::Ink, GroundColor(design.backColor, look::Paper));
+}
 
 void EditView::ShowToolTip()
 {

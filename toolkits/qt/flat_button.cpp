@@ -75,7 +75,7 @@ void FlatButton::leaveEvent(QEvent* event)
 QColor FlatButton::Ground() const
 {
     if (!isEnabled())
-        return QColor(240, 241, 243);
+        return look::DisabledPlate;
     if (isDown())
         return colours_.highlight.darker(112);
     return underMouse() ? colours_.highlight : colours_.ground;
@@ -87,7 +87,9 @@ QColor FlatButton::InkOn(const QColor& ground) const
         return look::DisabledInk;
     // A white text on a light ground is meant for icons of dark buttons: the ink reads better.
     const QColor& wanted = underMouse() || isDown() ? colours_.highlightText : colours_.text;
-    return Contrast(wanted, ground) >= 1.9 ? wanted : look::Ink;
+    if (Contrast(wanted, ground) >= (CurrentLook() == Look::Dark ? LeastTextContrast : 1.9))
+        return wanted;
+    return Contrast(look::Ink, ground) >= Contrast(look::Paper, ground) ? look::Ink : look::Paper;
 }
 
 void FlatButton::paintEvent(QPaintEvent*)

@@ -105,7 +105,7 @@ bool FormWidget::ForwardShortcut(const QString& key) { return model_.UserPresses
 void FormWidget::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.fillRect(event->rect(), ToColor(model_.Design().backColor, look::Paper));
+    painter.fillRect(event->rect(), GroundColor(model_.Design().backColor, look::Paper));
     if (isWindow() && !model_.Design().bordered) {
         painter.setPen(QPen(look::Border, 1));
         painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));

@@ -25,7 +25,7 @@ constexpr int CellPadding = 6;
 // the window's neighbours are, so that buttons laid over a row cover it to the pixel.
 int PixelOf(Twips origin, Long edge) { return Pixels(origin + static_cast<Twips>(edge)) - Pixels(origin); }
 
-QColor CellColor(Colour colour) { return ToColor(colour, look::Ink); }
+QColor CellGround(Colour colour) { return GroundColor(colour, look::Ink); }
 
 } // namespace
 
@@ -123,7 +123,7 @@ void GridCanvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     const QRect dirty = event->rect();
-    const QColor ground = ToColor(model_.Look().backColorBkg, look::Paper);
+    const QColor ground = GroundColor(model_.Look().backColorBkg, look::Paper);
     // Half-filled cells are never shown.
     if (!model_.IsPainted()) {
         painter.fillRect(dirty, ground);
@@ -155,23 +155,44 @@ void GridCanvas::PaintRow(QPainter& painter, const Span& row, const std::vector<
         if (area.intersects(dirty))
             PaintCell(painter, row.index, column.index, area);
     }
-    const bool current =
-        hasFocus() && row.index == model_.Cursor().row && row.index >= model_.RowAxis().Fixed();
-    if (current && !columns.empty())
-        painter.fillRect(QRect(columns.front().start, row.start, 3, row.length), look::Accent);
+    if (!columns.empty())
+        PaintMark(painter, row, columns.front().start, columns.back().start + columns.back().length);
+}
+
+bool GridCanvas::IsChosen(Long row) const
+{
+    const bool choosesRows = model_.Design().selectionMode == 1;
+    return choosesRows && row == model_.Cursor().row && row >= model_.RowAxis().Fixed();
+}
+
+// The form decides the colours of rows, so that the current one may be the palest. Where a click chooses the
+// row, a frame tells it from the others, elsewhere a bar while the keys are here.
+void GridCanvas::PaintMark(QPainter& painter, const Span& row, int left, int right)
+{
+    const bool isCursor = row.index == model_.Cursor().row && row.index >= model_.RowAxis().Fixed();
+    if (isCursor && hasFocus())
+        painter.fillRect(QRect(left, row.start, 3, row.length), look::Accent);
+    if (!IsChosen(row.index))
+        return;
+    painter.setPen(QPen(look::Accent, 2));
+    painter.setBrush(Qt::NoBrush);
+    const int end = std::min(right, vertical_->isVisibleTo(this) ? vertical_->x() : width());
+    painter.drawRect(QRect(left + 1, row.start + 1, end - left - 2, row.length - 2));
 }
 
 void GridCanvas::PaintCell(QPainter& painter, Long row, Long col, const QRect& area)
 {
-    painter.fillRect(area, CellColor(model_.BackColorOf(row, col)));
+    const QColor ground = CellGround(model_.BackColorOf(row, col));
+    painter.fillRect(area, ground);
     const toolkit::CellLook& look = model_.LookOfCell(row, col);
     if (look.picture != 0)
         PaintCellPicture(painter, look, model_.PictureOfCell(row, col), area);
     const Text& text = model_.CellText(row, col);
     if (!text.empty()) {
-        painter.setPen(CellColor(model_.ForeColorOf(row, col)));
+        painter.setPen(InkColor(model_.ForeColorOf(row, col), look::Ink, ground));
         const QRect inside = area.adjusted(CellPadding, 1, -CellPadding, -1);
-        text_.Paint(painter, text, inside, AlignmentOf(col, text), look.bold, model_.Look().wordWrap);
+        text_.Paint(painter, text, inside, AlignmentOf(col, text), look.bold || IsChosen(row),
+                    model_.Look().wordWrap);
     }
     PaintLines(painter, row, col, area);
 }
@@ -193,7 +214,7 @@ void GridCanvas::PaintLines(QPainter& painter, Long row, Long col, const QRect& 
     const toolkit::GridLook& look = model_.Look();
     if ((fixed ? look.gridLinesFixed : look.gridLines) == 0)
         return;
-    const QColor color = CellColor(fixed ? look.gridColorFixed : look.gridColor);
+    const QColor color = CellGround(fixed ? look.gridColorFixed : look.gridColor);
     const int width = std::max<int>(1, look.gridLineWidth);
     painter.fillRect(QRect(area.left(), area.bottom() - width + 1, area.width(), width), color);
     painter.fillRect(QRect(area.right() - width + 1, area.top(), width, area.height()), color);

@@ -58,6 +58,8 @@ private:
     std::vector<Span> ColumnsOnShow() const;
     std::vector<Span> RowsOnShow() const;
     void PaintRow(QPainter& painter, const Span& row, const std::vector<Span>& columns, const QRect& dirty);
+    bool IsChosen(Long row) const;
+    void PaintMark(QPainter& painter, const Span& row, int left, int right);
     void PaintCell(QPainter& painter, Long row, Long col, const QRect& area);
     void PaintCellPicture(QPainter& painter, const toolkit::CellLook& look, const Text& name,
                           const QRect& area);

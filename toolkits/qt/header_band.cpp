@@ -19,7 +19,7 @@ constexpr double SmallPoints = 8.25;
 void HeaderWindow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), ToColor(model_.Design().backColor, QColor(248, 249, 251)));
+    painter.fillRect(rect(), GroundColor(model_.Design().backColor, look::Band));
     painter.fillRect(QRectF(0, height() - 1, width(), 1), look::Rule);
     const QFont small = MakeFont("Arial", SmallPoints);
     const QFontMetricsF metrics(small);

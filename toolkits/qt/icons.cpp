@@ -16,19 +16,25 @@ namespace kova::qt {
 
 namespace {
 
+/// A colour that says what a button does, in the light look and in the dark one.
+struct Tint {
+    QColor onLight;
+    QColor onDark;
+};
+
+const Tint Blue{{38, 110, 224}, {112, 170, 255}};
+const Tint Green{{26, 138, 70}, {92, 201, 134}};
+const Tint Red{{204, 48, 48}, {245, 122, 122}};
+const Tint Violet{{120, 66, 186}, {190, 152, 245}};
+const Tint Slate{{64, 70, 78}, {203, 209, 217}};
+
 // Drawn on a square of 24 units with a pen of 1.8. M and L go to a point, C is a cubic curve, Z closes;
 // O is a circle (centre, radius) and R a rectangle (place, size, corner radius).
 struct IconDrawing {
     std::string_view name;
     const char* outline;
-    QColor tint;
+    Tint tint;
 };
-
-const QColor Blue(38, 110, 224);
-const QColor Green(26, 138, 70);
-const QColor Red(204, 48, 48);
-const QColor Violet(120, 66, 186);
-const QColor Slate(64, 70, 78);
 
 const std::array<IconDrawing, 17>& Drawings()
 {
@@ -172,7 +178,9 @@ bool HasIcon(std::string_view name) { return FindDrawing(name) != nullptr; }
 QColor IconTint(std::string_view name)
 {
     const IconDrawing* drawing = FindDrawing(name);
-    return drawing ? drawing->tint : look::Ink;
+    if (!drawing)
+        return look::Ink;
+    return CurrentLook() == Look::Dark ? drawing->tint.onDark : drawing->tint.onLight;
 }
 
 void PaintIcon(QPainter& painter, std::string_view name, const QRectF& square, const QColor& color)

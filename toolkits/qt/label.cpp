@@ -41,9 +41,17 @@ void LabelView::ShowContent()
 void LabelView::ShowLook()
 {
     QPalette palette = Shown().palette();
-    palette.setColor(QPalette::WindowText, ToColor(GetModel().ShownForeColor(), look::Ink));
-    palette.setColor(QPalette::Window, ToColor(Core().Design().backColor, look::Paper));
+    const QColor ground = GroundColor(Core().Design().backColor, GroundBehind());
+    palette.setColor(QPalette::WindowText, InkColor(GetModel().ShownForeColor(), look::Ink, ground));
+    palette.setColor(QPalette::Window, ground);
     Shown().setPalette(palette);
+}
+
+QColor LabelView::GroundBehind() const
+{
+    const toolkit::WidgetCore* container = Core().Container();
+    const Colour colour = container ? container->Design().backColor : Core().GetForm().Design().backColor;
+    return GroundColor(colour, look::Paper);
 }
 
 void LabelView::LinkBuddy()

@@ -16,6 +16,9 @@ public:
 protected:
     void ShowContent() override;
     void ShowLook() override;
+
+private:
+    QColor GroundBehind() const;
 };
 
 } // namespace kova::qt

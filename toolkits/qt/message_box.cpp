@@ -23,7 +23,7 @@ QPixmap MarkOf(MessageKind kind, double scale)
     QPainter painter(&mark);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(critical ? QColor(204, 48, 48) : look::Accent);
+    painter.setBrush(critical ? look::Danger : look::Accent);
     painter.drawEllipse(QRectF(1, 1, IconSize - 2, IconSize - 2));
     if (critical) {
         PaintIcon(painter, "limpar", QRectF(8, 8, IconSize - 16, IconSize - 16), look::Paper);

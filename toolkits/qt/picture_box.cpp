@@ -35,6 +35,6 @@ void PanelWindow::paintEvent(QPaintEvent*)
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius_, radius_);
 }
 
-void PictureBoxView::ShowLook() { Shown().SetGround(ToColor(Core().Design().backColor, look::Paper)); }
+void PictureBoxView::ShowLook() { Shown().SetGround(GroundColor(Core().Design().backColor, look::Paper)); }
 
 } // namespace kova::qt

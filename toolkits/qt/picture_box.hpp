@@ -17,7 +17,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QColor ground_ = Qt::white;
+    QColor ground_;
     double radius_ = 0;
 };
 

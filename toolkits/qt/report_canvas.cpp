@@ -18,8 +18,6 @@ namespace {
 
 constexpr double Gap = 16;
 constexpr std::array Steps{0.25, 0.5, 0.75, 1.0, 1.25, 1.5, 2.0, 3.0, 4.0};
-const QColor Ground(225, 228, 232);
-const QColor Edge(188, 193, 200);
 const QColor MarkColor(255, 235, 130);
 const QColor CurrentMarkColor(255, 178, 64);
 
@@ -215,7 +213,7 @@ void ReportCanvas::PaintMarks(QPainter& painter, std::size_t page) const
 void ReportCanvas::PaintSheet(QPainter& painter, std::size_t page) const
 {
     const QRectF place = PlaceOf(page);
-    painter.fillRect(place.adjusted(-1, -1, 1, 1), Edge);
+    painter.fillRect(place.adjusted(-1, -1, 1, 1), look::DeskEdge);
     painter.fillRect(place, Qt::white);
     painter.save();
     painter.setClipRect(place);
@@ -230,7 +228,7 @@ void ReportCanvas::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.fillRect(event->rect(), Ground);
+    painter.fillRect(event->rect(), look::Desk);
     const double step = PageSize().height() + Gap;
     auto page = static_cast<std::size_t>(std::max(0.0, (verticalScrollBar()->value() - Gap) / step));
     for (; page < document_.pages.size() && PlaceOf(page).top() < viewport()->height(); ++page)

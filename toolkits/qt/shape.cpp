@@ -17,13 +17,13 @@ void ShapeWindow::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const ControlDesign& design = model_.Design();
-    const QColor line = ToColor(design.foreColor, look::Rule);
+    const QColor line = GroundColor(design.foreColor, look::Rule);
     if (model_.IsRule()) {
-        painter.fillRect(rect(), ToColor(design.backColor, line));
+        painter.fillRect(rect(), GroundColor(design.backColor, line));
         return;
     }
     if (design.backColor != -1)
-        painter.fillRect(rect(), ToColor(design.backColor, look::Paper));
+        painter.fillRect(rect(), GroundColor(design.backColor, look::Paper));
     painter.setPen(QPen(line, 1));
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }

@@ -72,7 +72,7 @@ QRegion RoundRect(const QSize& size, int ellipseWidth, int ellipseHeight)
 QtToolkit::QtToolkit(const Clock& clock)
     : clock_(clock), measure_(std::make_unique<QtTextMeasure>()), gate_(std::make_unique<InputGate>(*this))
 {
-    ApplyLook(*qApp);
+    ApplyLook(*qApp, CurrentLook());
     BurialsWaitFor(this);
     // Asked in the reverse order: the grids before what any widget gets.
     InstallFieldAccessibility();

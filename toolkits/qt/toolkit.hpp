@@ -17,7 +17,8 @@ class InputGate;
 /// Handles for the host: see handles.hpp.
 Long HandleOf(QWidget& widget);
 
-/// The toolkit on Qt's widgets. A QApplication must exist; it gets the product's look. One per process.
+/// The toolkit on Qt's widgets. A QApplication must exist; it gets the product's look, the
+/// light one where none was chosen with ApplyLook. One per process.
 class QtToolkit : public toolkit::ToolkitModel {
 public:
     /// The clock gives the calendars their "today" and must outlive the toolkit.

@@ -14,10 +14,9 @@ namespace {
 
 constexpr int Frame = 6;
 constexpr double CornerTwips = 120.0;
-const QColor Ground(236, 238, 241);
+// The sheet is white paper in every look; what it lies on and the mark of the first label are the look's.
 const QColor Used(214, 218, 223);
 const QColor Edge(206, 210, 216);
-const QColor Accent(38, 110, 224);
 
 QRectF ToRect(const reports::Box& box)
 {
@@ -75,7 +74,7 @@ QPointF LabelSheetView::Corner() const
 void LabelSheetView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), Ground);
+    painter.fillRect(rect(), palette().color(QPalette::Window).darker(105));
     if (!pages_)
         return;
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
@@ -98,7 +97,8 @@ void LabelSheetView::PaintPlace(QPainter& painter, int position) const
 {
     const bool isFirst = sheet_ == 0 && position == run_.first;
     const bool isUsed = sheet_ == 0 && position < run_.first;
-    painter.setPen(isFirst ? Pen(Accent, hasFocus() ? 2.5 : 1.5) : Pen(Edge, 1));
+    painter.setPen(isFirst ? Pen(palette().color(QPalette::Highlight), hasFocus() ? 2.5 : 1.5)
+                           : Pen(Edge, 1));
     painter.setBrush(isUsed ? Used : QColor(Qt::white));
     painter.drawRoundedRect(ToRect(BoxOfLabel(*run_.sheet, position)), CornerTwips, CornerTwips);
 }

@@ -32,6 +32,7 @@ TEST(Options, AreTheDemonstrationShopInAWindowWithoutArguments)
     EXPECT_EQ(options.user, "");
     EXPECT_EQ(options.picture, "");
     EXPECT_FALSE(options.date.has_value());
+    EXPECT_FALSE(options.look.has_value());
     EXPECT_FALSE(options.size.has_value());
     EXPECT_FALSE(options.firstPaint);
     EXPECT_FALSE(options.showHelp);
@@ -110,11 +111,18 @@ TEST(Options, TakeTheSizeOfAScreenThatIsDrawnTwiceAsLarge)
     EXPECT_EQ(ParseOptions({"--size", "800x480"}).size, (WindowSize{800, 480}));
 }
 
+TEST(Options, ChooseALook)
+{
+    EXPECT_EQ(ParseOptions({"--look", "escuro"}).look, LookChoice::Dark);
+    EXPECT_EQ(ParseOptions({"--look=claro"}).look, LookChoice::Light);
+    ExpectRefusalNames({"--look", "azul"}, "azul");
+}
+
 TEST(Options, HelpNamesEveryOption)
 {
     const std::string help = HelpText();
     for (const char* name :
-         {"--database", "--user", "--date", "--time", "--picture", "--size", "--version", "--help"})
+         {"--database", "--user", "--date", "--time", "--picture", "--size", "--look", "--version", "--help"})
         EXPECT_NE(help.find(name), std::string::npos) << name;
 }
 
