@@ -71,7 +71,7 @@ constexpr KeptField<DayRowOf> Fields[] = {
 };
 
 /// The list keeps its page number when a filter or another day leaves fewer pages: it then stands on the last
-/// one.
+/// one. Its bar goes on counting from the kept number, so that it leads to pages before the first.
 class DayOfAppointments : public KeptRecordSet<DayRowOf> {
 public:
     using KeptRecordSet::AbsolutePage;
@@ -79,7 +79,7 @@ public:
 
     void AbsolutePage(Long page) override
     {
-        KeptRecordSet::AbsolutePage(RecordCount() == 0 ? page : std::min(page, PageCount()));
+        KeptRecordSet::AbsolutePage(RecordCount() == 0 ? page : std::clamp(page, Long{1}, PageCount()));
     }
 };
 

@@ -6,7 +6,7 @@
 namespace kova::family {
 
 /// A day's appointments with the 37 fields that the screens read. A page beyond the last is taken as the
-/// last.
+/// last, one below the first as the first.
 std::shared_ptr<PagedRecordSet> DayRecordSet(DayRows day);
 
 } // namespace kova::family

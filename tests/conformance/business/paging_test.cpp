@@ -35,13 +35,9 @@ TEST_P(Paging, GoesToTheFirstRowOfAPage)
     EXPECT_EQ(day->AbsolutePage(), -2);
 }
 
-TEST_P(Paging, RefusesAPageThatIsNotThereAndStaysWhereItWas)
+TEST_P(Paging, RefusesASizeBelowOneAndKeepsItsOwn)
 {
     const RecordSetRef day = PagedDay(*agenda_, 3);
-    day->AbsolutePage(2);
-    for (const Long page : {0, -1})
-        EXPECT_EQ(NumberOfFailure([&] { day->AbsolutePage(page); }), 3001) << page;
-    EXPECT_EQ(day->AbsolutePage(), 2);
     EXPECT_EQ(NumberOfFailure([&] { day->PageSize(0); }), 3001);
     EXPECT_EQ(day->PageSize(), 3);
 }
@@ -53,7 +49,7 @@ TEST_P(PagingBeyondTheEnd, FailsAndStaysWhereItWas)
 {
     const RecordSetRef day = PagedDay(*agenda_, 3);
     day->AbsolutePage(2);
-    for (const Long page : {4, 32767})
+    for (const Long page : {0, -1, 4, 32767})
         EXPECT_EQ(NumberOfFailure([&] { day->AbsolutePage(page); }), 3001) << page;
     EXPECT_EQ(day->AbsolutePage(), 2);
 }
@@ -69,6 +65,16 @@ TEST_P(PagingToTheEnd, TakesAPageBeyondTheLastAsTheLast)
         day->AbsolutePage(page);
         EXPECT_EQ(day->AbsolutePage(), 3) << page;
         EXPECT_EQ(NumbersOf(*Page(*agenda_, 3)), (std::vector<int>{7})) << page;
+    }
+}
+
+TEST_P(PagingToTheEnd, TakesAPageBelowTheFirstAsTheFirst)
+{
+    const RecordSetRef day = PagedDay(*agenda_, 3);
+    for (const Long page : {0, -1}) {
+        day->AbsolutePage(2);
+        day->AbsolutePage(page);
+        EXPECT_EQ(day->AbsolutePage(), 1) << page;
     }
 }
 

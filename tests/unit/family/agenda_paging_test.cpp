@@ -49,7 +49,7 @@ TEST_F(AgendaPaging, TakesAPageBeyondTheLastAsTheLast)
     EXPECT_EQ(NumbersOf(*Page(3)), (std::vector<int>{6, 7}));
 }
 
-TEST_F(AgendaPaging, RefusesAPageBelowTheFirstAndAnyOfAnEmptyDay)
+TEST_F(AgendaPaging, TakesAPageBelowTheFirstAsTheFirstAndRefusesAnyOfAnEmptyDay)
 {
     const auto numberOfFailure = [&](Long page) -> Long {
         try {
@@ -60,7 +60,8 @@ TEST_F(AgendaPaging, RefusesAPageBelowTheFirstAndAnyOfAnEmptyDay)
         }
     };
     SelectPaged(3);
-    EXPECT_EQ(numberOfFailure(0), 3001);
+    EXPECT_EQ(numberOfFailure(0), 0);
+    EXPECT_EQ(ResultOf(agenda_)->AbsolutePage(), 1);
     SelectPaged(3, "01/01/2020");
     EXPECT_EQ(numberOfFailure(1), 3021);
 }
