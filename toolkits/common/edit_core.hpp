@@ -67,6 +67,8 @@ protected:
     }
     /// After the user's edit changed the text.
     virtual void Edited() { }
+    /// How many characters the user may fill the box with; 0 is no limit.
+    virtual std::size_t MostCharacters() const;
 
     void Type(char32_t character) override;
     void Erase(bool forward) override;

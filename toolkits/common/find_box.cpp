@@ -18,6 +18,9 @@ Integer KeyCodeOf(char32_t character)
 
 Integer ShiftOf(char32_t character) { return utf8::ToLower(character) != character ? 1 : 0; }
 
+/// No column that is searched holds more. A whole document pasted by mistake would be typed for minutes.
+constexpr std::size_t MostCharactersToFind = 255;
+
 /// What a filling by code reports: it comes from no key.
 constexpr Integer NoKey = 0;
 
@@ -153,6 +156,12 @@ void FindBoxModel::Edited()
 {
     typed_ = true;
     Tell(Aspect::Content);
+}
+
+std::size_t FindBoxModel::MostCharacters() const
+{
+    const std::size_t designed = FreeEditCore::MostCharacters();
+    return designed == 0 ? MostCharactersToFind : designed;
 }
 
 void FindBoxModel::RaiseLostFocus() { GetForm().Raise(lostFocus_); }

@@ -37,6 +37,7 @@ public:
 protected:
     bool Admits(char32_t& character) override;
     void Edited() override;
+    std::size_t MostCharacters() const override;
 
 private:
     void Press();

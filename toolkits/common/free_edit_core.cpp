@@ -4,9 +4,14 @@
 
 namespace kova::toolkit {
 
+std::size_t FreeEditCore::MostCharacters() const
+{
+    return static_cast<std::size_t>(std::max(Design().maxLength, 0));
+}
+
 bool FreeEditCore::HasRoom() const
 {
-    const auto limit = static_cast<std::size_t>(std::max(Design().maxLength, 0));
+    const std::size_t limit = MostCharacters();
     const std::size_t kept = edit_.Characters().size() - (edit_.Last() - edit_.First());
     return limit == 0 || kept < limit;
 }
@@ -46,7 +51,7 @@ void FreeEditCore::Replace(const Text& text)
     edit_.Select(prefix, before.size() - suffix);
     if (after.size() == prefix + suffix && edit_.HasSelection())
         Erase(false);
-    for (std::size_t at = prefix; at < after.size() - suffix && IsStillOpen(); ++at)
+    for (std::size_t at = prefix; at < after.size() - suffix && IsStillOpen() && HasRoom(); ++at)
         Type(after[at]);
 }
 

@@ -124,6 +124,27 @@ TEST_F(FindBox, TakesPastedTextCharacterByCharacter)
     EXPECT_EQ(box_->Text(), "xzy");
 }
 
+TEST_F(FindBox, TakesOfALongPasteWhatASearchCanUse)
+{
+    std::string pasted;
+    for (int i = 0; i < 14'000; ++i)
+        pasted += "é ";
+    auto& box = ModelOf<toolkit::FindBoxModel>("kvf");
+    box.UserEdits(pasted);
+    EXPECT_EQ(TakeEvents().size(), 255U);
+    EXPECT_EQ(toolkit::ToCharacters(box_->Text()), toolkit::ToCharacters(pasted).substr(0, 255));
+    user_.Type("frm", "kvf", "x");
+    EXPECT_EQ(toolkit::ToCharacters(box_->Text()).size(), 1U);
+    EXPECT_EQ(box_->Text(), "x");
+}
+
+TEST_F(FindBox, IsFilledByCodeWithoutLimit)
+{
+    const std::string text(300, 'a');
+    box_->Text(text);
+    EXPECT_EQ(box_->Text(), text);
+}
+
 TEST_F(FindBox, RaisesNothingForWritesFromCode)
 {
     box_->Text("x");
