@@ -20,6 +20,7 @@ public:
     void PrintList();
     void PrintRow();
     void Filter();
+    void WalkByKeys();
 
 private:
     void Press(const std::string& target, int x = Middle, int y = Middle)
@@ -228,19 +229,35 @@ void Plan::Filter()
     Press("@popup", chance_.Between(50, 950), chance_.Between(50, 950));
 }
 
+/// Over the pages to a row, without the mouse, and what a key does with it.
+void Plan::WalkByKeys()
+{
+    Key("F7");
+    const int steps = chance_.Between(2, 9);
+    for (int i = 0; i < steps; ++i)
+        Key(chance_.OneOf<std::string>({"Down", "Down", "Up", "Home", "End", "PgDown", "PgDown", "PgUp",
+                                        "Ctrl+Home", "Ctrl+End", "F5", "Alt+Right", "Alt+Left"}));
+    Key(chance_.OneOf<std::string>(
+        {"Return", "Space", "Ctrl+1", "Ctrl+2", "Ctrl+3", "Ctrl+4", "F4", "F6", "F8"}));
+    Answer();
+    Key(chance_.OneOf<std::string>({"F5", "PgDown", "Esc", "F1", "Down"}));
+    Key("Esc");
+}
+
 } // namespace
 
 std::deque<Act> PlanSomething(Chance& chance, const Words& words)
 {
     Plan plan(chance, words);
-    switch (chance.ByWeight({25, 15, 20, 15, 8, 8, 9})) {
+    switch (chance.ByWeight({23, 14, 18, 14, 7, 7, 8, 9})) {
     case 0: plan.BookRegistered(); break;
     case 1: plan.BookSimplified(); break;
     case 2: plan.ChangeRow(); break;
     case 3: plan.MarkRow(); break;
     case 4: plan.PrintList(); break;
     case 5: plan.PrintRow(); break;
-    default: plan.Filter();
+    case 6: plan.Filter(); break;
+    default: plan.WalkByKeys();
     }
     return plan.Take();
 }
