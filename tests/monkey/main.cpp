@@ -1,6 +1,6 @@
 // A receptionist that never tires: acts at random but plausibly in the application's real window, by mouse
 // and keys, on a demonstration shop, until something breaks. What breaks is shortened to the fewest acts and
-// written to a file.
+// written to a file and told.
 //
 //   monkey [--seed S] [--actions N] [--seconds T] [--keep FOLDER] [--shorten-seconds T]
 //   monkey --replay FILE [--shorten]
@@ -74,6 +74,8 @@ int ShortenAndKeep(Trials& trials, const Verdict& verdict, const std::string& fi
     const auto acts = Shortened(trials, verdict, seconds);
     WriteActs(file, verdict.defect, acts);
     std::cout << verdict.acts.size() << " acts shortened to " << acts.size() << ": " << file << std::endl;
+    for (const Act& act : acts)
+        std::cout << ToLine(act) << std::endl;
     return EXIT_FAILURE;
 }
 
@@ -82,15 +84,20 @@ int RunAtRandom(Trials& trials, const Options& options)
     const int actions = Number(options, "actions", 250);
     const int secondsToShorten = Number(options, "shorten-seconds", 300);
     const auto isOver = Passed(Number(options, "seconds", 0));
-    int seed = Number(options, "seed", 1);
+    const int first = Number(options, "seed", 1);
+    int seed = first;
+    std::size_t acts = 0;
     do {
         const Verdict verdict = trials.Random(static_cast<std::uint64_t>(seed), actions);
         std::cout << "seed " << seed << ": " << verdict.acts.size() << " acts" << std::endl;
         const std::string file = Value(options, "keep", ".") + "/seed-" + std::to_string(seed) + ".actions";
         if (!verdict.defect.empty())
             return ShortenAndKeep(trials, verdict, file, secondsToShorten);
+        acts += verdict.acts.size();
         ++seed;
     } while (!isOver());
+    std::cout << "seeds " << first << " to " << seed - 1 << ": " << acts << " acts, nothing found"
+              << std::endl;
     return EXIT_SUCCESS;
 }
 

@@ -1,9 +1,8 @@
-# A receptionist that never tires, on the real window. Its time grows with what is looked for: a few seconds show that
-# it works, minutes under the sanitizers find what breaks.
+# A receptionist that never tires, on the real window. tests/monkey/run lets it loose for as long as
+# one likes; the tests here only repeat what it has found.
 if(NOT KOVARIS_CORE_ONLY)
     find_package(SQLite3 REQUIRED)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
-    set(KOVARIS_MONKEY_SECONDS 0 CACHE STRING "Seconds that each of the monkey's four runs takes; 0 is no run")
 
     set(monkey_folder ${CMAKE_CURRENT_LIST_DIR})
     file(GLOB sources CONFIGURE_DEPENDS ${monkey_folder}/*.cpp)
@@ -13,15 +12,6 @@ if(NOT KOVARIS_CORE_ONLY)
     target_compile_definitions(monkey PRIVATE AGENDA_DATA="$<TARGET_FILE:agenda-data>")
     kovaris_precompile(monkey ${monkey_folder}/player.hpp <soci/soci.h>)
     add_dependencies(monkey agenda-data KOVA_A_Agenda KOVA_N_Familia KOVA_A_Familia)
-
-    set(seeds 1000 2000 3000 4000)
-    if(NOT KOVARIS_MONKEY_SECONDS)
-        set(seeds)
-    endif()
-    foreach(seed IN LISTS seeds)
-        add_test(NAME monkey.Seed${seed} COMMAND monkey --seed ${seed} --seconds ${KOVARIS_MONKEY_SECONDS})
-        set_tests_properties(monkey.Seed${seed} PROPERTIES LABELS monkey COST ${cost_of_long_tests} TIMEOUT 0)
-    endforeach()
 
     # What was found once stays mended.
     file(GLOB kept CONFIGURE_DEPENDS ${monkey_folder}/kept/*.actions)
