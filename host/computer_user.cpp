@@ -5,15 +5,16 @@
 
 namespace kova::host {
 
-std::string NameOfThisUser()
+std::string NameOfAccount(const passwd* account)
 {
-    const passwd* entry = getpwuid(getuid());
-    if (entry == nullptr || entry->pw_name == nullptr || *entry->pw_name == '\0')
+    if (account == nullptr || account->pw_name == nullptr || *account->pw_name == '\0')
         return "Recepção";
     // The full name stands before the first comma; many accounts have none.
-    const std::string full = entry->pw_gecos == nullptr ? "" : entry->pw_gecos;
+    const std::string full = account->pw_gecos == nullptr ? "" : account->pw_gecos;
     const std::string name = full.substr(0, full.find(','));
-    return name.empty() ? entry->pw_name : name;
+    return name.empty() ? account->pw_name : name;
 }
+
+std::string NameOfThisUser() { return NameOfAccount(getpwuid(getuid())); }
 
 } // namespace kova::host
