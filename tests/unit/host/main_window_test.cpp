@@ -1,7 +1,9 @@
 #include "host/main_window.hpp"
+#include "host/notice_bar.hpp"
 
 #include <QApplication>
 #include <QIcon>
+#include <QLayout>
 #include <QScreen>
 
 #include <gtest/gtest.h>
@@ -55,6 +57,21 @@ TEST_F(TheMainWindow, HasAnIconThatIsNotEmptyInAnySize)
         EXPECT_EQ(qAlpha(picture.pixel(0, 0)), 0);
         EXPECT_EQ(qAlpha(picture.pixel(size / 2, size / 2)), 255);
     }
+}
+
+TEST_F(TheMainWindow, TellsANoticeOnItsOwnGroundInAsManyLinesAsItNeeds)
+{
+    NoticeBar bar(nullptr);
+    EXPECT_TRUE(bar.isHidden());
+    bar.Show(QStringLiteral("A cópia do dia não foi feita."));
+    EXPECT_FALSE(bar.isHidden());
+    bar.resize(600, 60);
+    EXPECT_EQ(bar.grab().toImage().pixelColor(2, 2), QColor(255, 244, 204));
+    const int oneLine = bar.layout()->heightForWidth(600);
+    bar.Show(QStringLiteral("A cópia do dia não foi feita porque o disco está cheio. ").repeated(5));
+    EXPECT_GT(bar.layout()->heightForWidth(600), oneLine);
+    bar.Show(QString());
+    EXPECT_TRUE(bar.isHidden());
 }
 
 TEST_F(TheMainWindow, NeverHasToBeLargerThanItsScreen)

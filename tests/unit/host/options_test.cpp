@@ -86,6 +86,12 @@ TEST(Options, RefuseADayThatDoesNotExist)
         ExpectRefusalNames({"--date", day}, day);
 }
 
+TEST(Options, TakeADayFromTheFirstYearToTheLast)
+{
+    EXPECT_EQ(ParseOptions({"--date", "01/01/1900"}).date, (Date{1900, 1, 1}));
+    EXPECT_EQ(ParseOptions({"--date", "31/12/2999"}).date, (Date{2999, 12, 31}));
+}
+
 TEST(Options, TakeATimeOfDay)
 {
     EXPECT_EQ(ParseOptions({"--time", "08:30"}).time, (TimeOfDay{8, 30, 0}));
@@ -100,8 +106,8 @@ TEST(Options, RefuseATimeThatDoesNotExist)
 
 TEST(Options, RefuseASizeThatNoWindowHas)
 {
-    for (const char* size :
-         {"1366", "x768", "1366x", "799x600", "800x479", "1366x768x2", "-1366x768", "99999x768", "1366X768"})
+    for (const char* size : {"1366", "x768", "1366x", "799x600", "800x479", "1366x768x2", "-1366x768",
+                             "99999x768", "1366X768", "7681x768", "1366x4321", "1366x768 "})
         ExpectRefusalNames({"--size", size}, size);
 }
 
@@ -109,6 +115,7 @@ TEST(Options, TakeTheSizeOfAScreenThatIsDrawnTwiceAsLarge)
 {
     EXPECT_EQ(ParseOptions({"--size", "960x540"}).size, (WindowSize{960, 540}));
     EXPECT_EQ(ParseOptions({"--size", "800x480"}).size, (WindowSize{800, 480}));
+    EXPECT_EQ(ParseOptions({"--size", "7680x4320"}).size, (WindowSize{7680, 4320}));
 }
 
 TEST(Options, ChooseALook)
