@@ -4,6 +4,7 @@
 #include "toolkits/qt/combo_field.hpp"
 #include "toolkits/qt/field_frame.hpp"
 #include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/widget_view.hpp"
 
 #include <QAccessible>
 #include <QCoreApplication>
@@ -108,6 +109,17 @@ TEST_F(AccessibleFields, ADescriptionHasNoMarks)
         EXPECT_LE(line.size(), 60);
 }
 
+TEST(ToolTips, BreakWhereALineWouldPassSixtyCharacters)
+{
+    const std::string thirty(30, 'a');
+    EXPECT_EQ(ToolTipOf(thirty + " " + std::string(29, 'b')).toStdString(),
+              thirty + " " + std::string(29, 'b'));
+    EXPECT_EQ(ToolTipOf(thirty + " " + std::string(30, 'b')).toStdString(),
+              thirty + "\n" + std::string(30, 'b'));
+    EXPECT_EQ(ToolTipOf(std::string(70, 'c') + " d").toStdString(), std::string(70, 'c') + "\nd");
+    EXPECT_EQ(ToolTipOf("um\r\ndois").toStdString(), "um\ndois");
+}
+
 TEST_F(AccessibleFields, ATextThatDoesNotFitIsReadInAToolTip)
 {
     auto& text = Get<KVTextBox>("kvtxt");
@@ -170,6 +182,40 @@ TEST_F(AccessibleFields, ACheckBoxWithoutACaptionShowsTheFocus)
         EXPECT_EQ(after.pixelColor(edge), look::Accent);
         EXPECT_EQ(after.pixelColor(gap), look::Paper);
     }
+}
+
+/// What a button is called, by its design, its caption and its tool tip.
+class AccessibleButtons : public QtTest {
+protected:
+    QString NameOf(const char* caption, const char* accessibleName, const char* toolTip)
+    {
+        ControlDesign design = Design(WidgetKind::KVCommandButton, "kvcmd", 0, 0, 1500, 510);
+        design.caption = caption;
+        design.accessibleName = accessibleName;
+        design.toolTipText = toolTip;
+        form_ = Show({design});
+        return QAccessible::queryAccessibleInterface(WindowOf(form_->Control("kvcmd")))
+            ->text(QAccessible::Name);
+    }
+
+    FormRef form_;
+};
+
+TEST_F(AccessibleButtons, AreCalledByTheirCaption)
+{
+    EXPECT_EQ(NameOf("Imprimir", "", ""), QStringLiteral("Imprimir"));
+    EXPECT_EQ(NameOf("Imprimir", "", "Imprime a lista"), QStringLiteral("Imprimir"));
+}
+
+TEST_F(AccessibleButtons, OfAnIconAreCalledByTheirToolTip)
+{
+    EXPECT_EQ(NameOf(" ", "", "Cancela o agendamento"), QStringLiteral("Cancela o agendamento"));
+}
+
+TEST_F(AccessibleButtons, KeepTheNameOfTheirDesign)
+{
+    EXPECT_EQ(NameOf("Sim", "Reagendar: sim", "Marca outro"), QStringLiteral("Reagendar: sim"));
+    EXPECT_EQ(NameOf("", "Cliente: pesquisar", "Pesquisa"), QStringLiteral("Cliente: pesquisar"));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "tests/unit/qt/support.hpp"
+#include "toolkits/qt/theme.hpp"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -68,6 +69,36 @@ TEST_F(Messages, HaveOneOkOtherwise)
         });
         EXPECT_EQ(toolkit_.MessageBox(kind, "Pronto.", ""), Reply::Ok);
     }
+}
+
+TEST_F(Messages, CarryTheMarkOfTheirKind)
+{
+    const auto mark = [&](MessageKind kind) {
+        QImage image;
+        Then([&](QMessageBox& box) {
+            image = box.iconPixmap().toImage();
+            box.close();
+        });
+        toolkit_.MessageBox(kind, "Pronto.", "");
+        return image;
+    };
+    const auto inkOf = [](const QImage& image) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += image.pixelColor(x, y) == look::Paper ? 1 : 0;
+        return count;
+    };
+    const auto ground = [](const QImage& image) { return image.pixelColor(image.width() / 2, 3); };
+    EXPECT_TRUE(mark(MessageKind::Plain).isNull());
+    const QImage information = mark(MessageKind::Information);
+    const QImage question = mark(MessageKind::Question);
+    const QImage critical = mark(MessageKind::Critical);
+    ASSERT_FALSE(information.isNull() || question.isNull() || critical.isNull());
+    EXPECT_EQ(ground(information), look::Accent);
+    EXPECT_EQ(ground(question), look::Accent);
+    EXPECT_EQ(ground(critical), look::Danger);
+    EXPECT_GT(inkOf(question), inkOf(information)) << "a question mark is wider than an i";
 }
 
 TEST_F(Messages, KeepTheUserOutOfTheForms)

@@ -257,6 +257,13 @@ TEST_F(SecondPress, CountsWhereItComesLater)
     EXPECT_EQ(pressed_, 1);
 }
 
+TEST_F(SecondPress, CountsOnceADoublePressIsOver)
+{
+    ShowAbove();
+    PressAt(Below(), Begin + QApplication::doubleClickInterval());
+    EXPECT_EQ(pressed_, 1);
+}
+
 TEST_F(SecondPress, CountsAtAnotherPlace)
 {
     ShowAbove();

@@ -115,6 +115,35 @@ TEST_F(Preview, FindsTextsWithoutRegardToCaseAndAccents)
     EXPECT_EQ(Label("achados"), "Nenhum texto encontrado");
 }
 
+TEST_F(Preview, MarksWhatIsFoundWhereItStandsAndTheCurrentOneMore)
+{
+    const QColor marked(255, 235, 130);
+    const QColor current(255, 178, 64);
+    const auto count = [&](const QColor& color) {
+        const QImage image = Picture(Canvas().viewport());
+        int pixels = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                pixels += image.pixelColor(x, y) == color ? 1 : 0;
+        return pixels;
+    };
+    EXPECT_EQ(count(marked) + count(current), 0);
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type(Search(), QStringLiteral("ANIMAL-17"));
+    ASSERT_EQ(Canvas().CurrentPage(), 2u);
+    EXPECT_GT(count(current), 0);
+    EXPECT_EQ(count(marked), 0);
+    Press(Qt::Key_PageUp);
+    Press(Qt::Key_PageUp);
+    ASSERT_EQ(Canvas().CurrentPage(), 0u);
+    EXPECT_EQ(count(current) + count(marked), 0) << "on another page";
+    Search()->clear();
+    Type(Search(), QStringLiteral("acao"));
+    ASSERT_NE(Label("achados"), "1 de 1");
+    EXPECT_GT(count(current), 0);
+    EXPECT_GT(count(marked), count(current));
+}
+
 TEST_F(Preview, EscapeLeavesTheSearchAndThenTheWindow)
 {
     Press(Qt::Key_F, Qt::ControlModifier);
