@@ -110,7 +110,8 @@ void ReportPreview::FollowCanvas()
         button->setEnabled(page > 0);
     for (FlatButton* button : forwardButtons_)
         button->setEnabled(page + 1 < pages);
-    if (hadFocus && focusWidget() && !focusWidget()->isEnabled())
+    // A button that goes out of use has lost the focus to nobody.
+    if (hadFocus && !focusWidget())
         canvas_->setFocus();
 }
 

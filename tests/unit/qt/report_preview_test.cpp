@@ -144,6 +144,19 @@ TEST_F(Preview, MarksWhatIsFoundWhereItStandsAndTheCurrentOneMore)
     EXPECT_GT(count(marked), count(current));
 }
 
+TEST_F(Preview, HandsTheFocusOfAButtonThatGoesOutOfUseToThePages)
+{
+    Button("End")->setFocus();
+    Click("End");
+    EXPECT_EQ(Window().focusWidget(), &Canvas());
+    Button("Home")->setFocus();
+    Click("Home");
+    EXPECT_EQ(Window().focusWidget(), &Canvas());
+    Search()->setFocus();
+    Press(Qt::Key_PageDown);
+    EXPECT_EQ(Window().focusWidget(), Search());
+}
+
 TEST_F(Preview, EscapeLeavesTheSearchAndThenTheWindow)
 {
     Press(Qt::Key_F, Qt::ControlModifier);
