@@ -67,6 +67,24 @@ TEST_F(Toggles, TellThreeValuesApart)
     }
 }
 
+TEST_F(Toggles, AreFilledWhereTheyAreMarked)
+{
+    for (const Toggle::Mark mark : {Toggle::Mark::Box, Toggle::Mark::Circle}) {
+        Toggle toggle(nullptr, mark);
+        toggle.setText(QStringLiteral("Sim"));
+        toggle.resize(90, 24);
+        const auto filled = [&](int value) {
+            toggle.SetValue(value);
+            // Beside the sign in the box, and in the middle of the circle.
+            const QPoint place = mark == Toggle::Mark::Box ? QPoint(12, 17) : QPoint(9, 12);
+            const QColor ink = Picture(&toggle).pixelColor(place);
+            return Contrast(ink, look::Paper) > 2;
+        };
+        EXPECT_FALSE(filled(0));
+        EXPECT_TRUE(filled(1));
+    }
+}
+
 TEST_F(Toggles, ShowTheFocusAndWhetherTheyCanBeUsed)
 {
     const QImage focused = Picture(&Middle());
