@@ -176,6 +176,7 @@ TEST_F(Calendar, EndsWithTheDaysThatTheAgendaKnows)
 
 TEST_F(Calendar, ShowsTheCurrentDayTodayAndWhatIsUnderTheMouse)
 {
+    EXPECT_TRUE(sheet_->hasMouseTracking());
     const QPoint current = DayAt(2, 3);
     const QPoint today = DayAt(2, 5);
     const QPoint other = DayAt(1, 1);

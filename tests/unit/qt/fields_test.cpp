@@ -201,6 +201,18 @@ TEST_F(Fields, TextBoxStopsAtItsLimitPastesAndUndoes)
     EXPECT_EQ(text.Text(), "ab");
 }
 
+TEST_F(Fields, TextBoxCountsASignOfTwoUnitsAsOne)
+{
+    auto& text = Get<KVTextBox>("kvtxtNome");
+    auto* editor = Editor<KVTextBox>("kvtxtNome");
+    text.Text("a😀");
+    text.SetFocus();
+    Press(editor, Qt::Key_End);
+    EXPECT_EQ(dynamic_cast<QLineEdit&>(*editor).cursorPosition(), 3);
+    Press(editor, Qt::Key_Backspace);
+    EXPECT_EQ(text.Text(), "a");
+}
+
 TEST_F(Fields, LockedTextBoxTakesNoTyping)
 {
     auto& text = Get<KVTextBox>("kvtxtTravado");

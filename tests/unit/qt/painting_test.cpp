@@ -249,6 +249,15 @@ TEST_F(Drawings, ARuleIsFilledAndAFrameIsAnOutline)
     EXPECT_NE(middle("frame"), middle("filled"));
 }
 
+TEST_F(Drawings, ALabelHasAGroundWhereItsDesignGivesItOne)
+{
+    ControlDesign filled = Design(WidgetKind::Label, "filled", 0, 0, 900, 450);
+    filled.backColor = colours::Red;
+    FormRef form = Show({filled, Design(WidgetKind::Label, "bare", 0, 600, 900, 450)});
+    EXPECT_EQ(Picture(WindowOf(form->Control("filled"))).pixelColor(20, 20), QColor(Qt::red));
+    EXPECT_FALSE(WindowOf(form->Control("bare"))->autoFillBackground());
+}
+
 TEST_F(Drawings, ABandEndsWithARule)
 {
     FormRef form = Show({Design(WidgetKind::KVTheme, "band", 0, 0, 6000, 900)});
