@@ -20,9 +20,9 @@ public:
     void Apply(const toolkit::GridChange& change);
 
     /// The mouse is at a place of the grid while the form takes no input.
-    void MouseIsAt(const QPointF& place);
+    void MouseIsAt(const QPointF& pixel);
     /// The mouse is over what covers the grid at that place.
-    void MouseIsAbove(const QPointF& place);
+    void MouseIsAbove(const QPointF& pixel);
     /// The mouse left the grid and what covers it.
     void MouseLeaves();
 

@@ -35,6 +35,16 @@ Integer ShiftOf(Qt::KeyboardModifiers modifiers)
     return static_cast<Integer>(shift);
 }
 
+/// Where a mouse points that stands on a pixel: at its middle. Its edge may be the border of two rows, which
+/// the form and the grid give to different ones.
+struct Place {
+    explicit Place(const QPointF& pixel) : x(ToTwips(pixel.x() + half)), y(ToTwips(pixel.y() + half)) { }
+
+    static constexpr double half = 0.5;
+    Twips x;
+    Twips y;
+};
+
 std::optional<GridKey> KeyOf(int key)
 {
     switch (key) {
@@ -62,7 +72,8 @@ bool GridCanvas::event(QEvent* event)
 // A cell whose text may be cut tells it whole.
 void GridCanvas::ShowWholeText(const QHelpEvent& event)
 {
-    const auto cell = model_.HitTest(ToTwips(event.pos().x()), ToTwips(event.pos().y()));
+    const Place place(event.pos());
+    const auto cell = model_.HitTest(place.x, place.y);
     if (!cell || model_.IsFixed(cell->row, cell->col))
         return QToolTip::hideText();
     const QRect area = CellArea(cell->row, cell->col);
@@ -79,32 +90,35 @@ void GridCanvas::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton)
         return;
     draggedEdge_ = EdgeAt(event->position());
+    const Place place(event->position());
     if (!draggedEdge_)
-        model_.UserPresses(ToTwips(event->position().x()), ToTwips(event->position().y()));
+        model_.UserPresses(place.x, place.y);
 }
 
 void GridCanvas::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
 void GridCanvas::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPointF place = event->position();
+    const QPointF pixel = event->position();
     if (draggedEdge_)
-        return DragEdge(place);
+        return DragEdge(pixel);
+    const Place place(pixel);
     if (event->buttons() & Qt::LeftButton)
-        model_.UserDrags(ToTwips(place.x()), ToTwips(place.y()));
-    setCursor(EdgeAt(place) ? Qt::SplitHCursor : Qt::ArrowCursor);
-    model_.UserMovesMouse(ButtonOf(event->buttons()), ShiftOf(event->modifiers()), ToTwips(place.x()),
-                          ToTwips(place.y()));
+        model_.UserDrags(place.x, place.y);
+    setCursor(EdgeAt(pixel) ? Qt::SplitHCursor : Qt::ArrowCursor);
+    model_.UserMovesMouse(ButtonOf(event->buttons()), ShiftOf(event->modifiers()), place.x, place.y);
 }
 
-void GridCanvas::MouseIsAt(const QPointF& place)
+void GridCanvas::MouseIsAt(const QPointF& pixel)
 {
-    model_.UserMovesMouse(0, 0, ToTwips(place.x()), ToTwips(place.y()));
+    const Place place(pixel);
+    model_.UserMovesMouse(0, 0, place.x, place.y);
 }
 
-void GridCanvas::MouseIsAbove(const QPointF& place)
+void GridCanvas::MouseIsAbove(const QPointF& pixel)
 {
-    model_.UserMovesAbove(ToTwips(place.x()), ToTwips(place.y()));
+    const Place place(pixel);
+    model_.UserMovesAbove(place.x, place.y);
 }
 
 void GridCanvas::MouseLeaves() { model_.UserLeaves(); }
@@ -115,8 +129,9 @@ void GridCanvas::mouseReleaseEvent(QMouseEvent* event)
         return;
     const bool resized = draggedEdge_.has_value();
     draggedEdge_.reset();
+    const Place place(event->position());
     if (!resized)
-        model_.UserReleases(ToTwips(event->position().x()), ToTwips(event->position().y()));
+        model_.UserReleases(place.x, place.y);
 }
 
 // The column whose right edge in the header is under the mouse.

@@ -179,12 +179,13 @@ TEST_P(GridCursor, TakesNothingFromTheUserWhileTheGridIsDisabled)
     EXPECT_EQ(TakeEvents(), (Events{"sel 4,1 4,1"}));
 }
 
+// A mouse points at the middles of pixels.
 TEST_P(GridCursor, StaysWhereTheUserHovers)
 {
     HearMoves();
-    User().HoverAt(*grid_, 1800, 1200);
-    User().HoverAt(*grid_, 8850, 4350);
-    EXPECT_EQ(TakeEvents(), (Events{"move 0 0 1800,1200", "move 0 0 8850,4350"}));
+    User().HoverAt(*grid_, 1807.5, 1207.5);
+    User().HoverAt(*grid_, 8857.5, 4357.5);
+    EXPECT_EQ(TakeEvents(), (Events{"move 0 0 1807,1207", "move 0 0 8857,4357"}));
     EXPECT_EQ(Cursor(), "1,1 1,1");
 }
 

@@ -5,7 +5,10 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QRegion>
+#include <QTest>
 #include <QWheelEvent>
+
+#include <cmath>
 
 namespace kova::qt::test {
 namespace {
@@ -201,7 +204,7 @@ TEST_F(Grid, PaintsNothingNewWhileRedrawIsFalse)
     EXPECT_GT(Ink(Cell(1, 2)), 20);
 }
 
-TEST_F(Grid, TellsMouseMovesInTwips)
+TEST_F(Grid, TellsMouseMovesInTwipsAtTheMiddleOfAPixel)
 {
     Twips x = 0;
     Twips y = 0;
@@ -210,8 +213,23 @@ TEST_F(Grid, TellsMouseMovesInTwips)
         y = atY;
     });
     MoveMouse(&Canvas(), QPoint(20, 100));
-    EXPECT_FLOAT_EQ(x, 300);
-    EXPECT_FLOAT_EQ(y, 1500);
+    EXPECT_FLOAT_EQ(x, 307.5);
+    EXPECT_FLOAT_EQ(y, 1507.5);
+}
+
+// The list's header is no whole number of pixels high, and the list reckons the row under the mouse by
+// itself.
+TEST_F(Grid, SelectsAtEachPixelTheRowThatTheListReckonsUnderTheMouse)
+{
+    grid_->RowHeight(0, 700);
+    long reckoned = 0;
+    grid_->OnMouseMove([&](Integer, Integer, Twips, Twips y) { reckoned = std::lrint((y + 150) / 570 - 1); });
+    for (int y = 47; y < 47 + 5 * 38; ++y) {
+        MoveMouse(&Canvas(), QPoint(20, y));
+        QTest::mousePress(&Canvas(), Qt::LeftButton, {}, QPoint(20, y));
+        QTest::mouseRelease(&Canvas(), Qt::LeftButton, {}, QPoint(20, y));
+        EXPECT_EQ(grid_->Row(), reckoned) << y;
+    }
 }
 
 TEST_F(Grid, MovesTheCursorByArrowKeysAndPressesByEnter)

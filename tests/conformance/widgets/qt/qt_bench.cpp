@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <cmath>
 #include <map>
 
 namespace kova::conformance {
@@ -29,7 +30,12 @@ namespace {
 
 using toolkit::FormKey;
 
-QPoint PixelOf(Twips x, Twips y) { return QPoint(qt::Pixels(x), qt::Pixels(y)); }
+/// The pixel that holds the place.
+QPoint PixelOf(Twips x, Twips y)
+{
+    const auto pixel = [](Twips place) { return static_cast<int>(std::floor(place / qt::TwipsOfPixel)); };
+    return QPoint(pixel(x), pixel(y));
+}
 
 class QtBench final : public Bench {
 public:
