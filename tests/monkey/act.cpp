@@ -16,7 +16,8 @@ struct Grammar {
     bool hasText;
 };
 
-constexpr std::array<Grammar, 13> Words{{
+constexpr std::array<Grammar, 14> Words{{
+    {Verb::Screen, "screen", false, 3, true},
     {Verb::Press, "press", true, 2, false},
     {Verb::DoublePress, "double", true, 2, false},
     {Verb::RightPress, "right", true, 2, false},

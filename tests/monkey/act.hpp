@@ -9,6 +9,10 @@ namespace kova::monkey {
 
 /// What a user can do in one go.
 enum class Verb {
+    /// Sits down at a screen of that size, at so many percent and with a "light" or "dark" look: before
+    /// anything
+    /// else.
+    Screen,
     Press,
     DoublePress,
     RightPress,

@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 #include <regex>
+#include <utility>
 
 namespace kova::monkey {
 
@@ -38,6 +39,8 @@ std::optional<Act> Replay::Next()
 
 std::optional<Act> Chooser::Next()
 {
+    if (first_)
+        return std::exchange(first_, std::nullopt);
     if (left_-- <= 0)
         return std::nullopt;
     Act act = Choose();
@@ -53,13 +56,20 @@ bool Chooser::IsLeftOut(const Act& act)
     return leftOut && std::regex_search(ToLine(act), std::regex(leftOut));
 }
 
+// Half of them without a slip, so that some come to their end.
+void Chooser::BeginPlan()
+{
+    isCareful_ = chance_.InHundred(50);
+    plan_ = PlanSomething(chance_, words_, isCareful_);
+}
+
 // The screens behind the list are reached by plans.
 std::optional<Act> Chooser::NextOfPlan()
 {
     const toolkit::FormModel* form = FormInFront();
     if (plan_.empty() && form && form->Design().name == "frmLista" && chance_.InHundred(15))
-        plan_ = PlanSomething(chance_, words_);
-    if (plan_.empty() || !chance_.InHundred(85))
+        BeginPlan();
+    if (plan_.empty() || !chance_.InHundred(isCareful_ ? 99 : 85))
         return std::nullopt;
     const Act act = plan_.front();
     plan_.pop_front();

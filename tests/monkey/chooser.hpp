@@ -32,8 +32,9 @@ private:
 /// follows plans through, with something else in between now and then.
 class Chooser : public Source {
 public:
-    Chooser(std::uint64_t seed, int count, Words words)
-        : chance_(seed), left_(count), words_(std::move(words))
+    /// `first` comes before the acts chosen.
+    Chooser(std::uint64_t seed, int count, Words words, Act first)
+        : first_(std::move(first)), chance_(seed), left_(count), words_(std::move(words))
     {
     }
     std::optional<Act> Next() override;
@@ -44,6 +45,7 @@ public:
 private:
     Act Choose();
     std::optional<Act> NextOfPlan();
+    void BeginPlan();
     static bool IsLeftOut(const Act& act);
     Act InPopup();
     Act InBox();
@@ -60,11 +62,13 @@ private:
     Act Type(const std::string& text) const;
     Act Seldom();
 
+    std::optional<Act> first_;
     Chance chance_;
     int left_;
     Words words_;
     /// What is left of what the user has set out to do.
     std::deque<Act> plan_;
+    bool isCareful_ = false;
 };
 
 } // namespace kova::monkey

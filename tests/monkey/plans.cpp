@@ -9,7 +9,10 @@ constexpr int Middle = 500;
 /// Acts put down one by one.
 class Plan {
 public:
-    Plan(Chance& chance, const Words& words) : chance_(chance), words_(words) { }
+    Plan(Chance& chance, const Words& words, bool isCareful)
+        : chance_(chance), words_(words), isCareful_(isCareful)
+    {
+    }
 
     std::deque<Act> Take() { return std::move(acts_); }
 
@@ -38,7 +41,7 @@ private:
     void Choose(const std::string& combo)
     {
         Press(combo);
-        Press("@popup", Middle, chance_.Between(20, 980));
+        Press("@popup", Middle, chance_.Between(isCareful_ ? 200 : 20, 980));
     }
     /// Of a menu with that many entries.
     void Pick(int entries) { Press("@popup", Middle, (2 * chance_.Between(1, entries) - 1) * 500 / entries); }
@@ -58,6 +61,7 @@ private:
 
     Chance& chance_;
     const Words& words_;
+    bool isCareful_;
     std::deque<Act> acts_;
 };
 
@@ -93,10 +97,11 @@ void Plan::FindCustomer()
 
 void Plan::FindService(const std::string& form)
 {
-    if (chance_.InHundred(40))
+    if (!isCareful_ && chance_.InHundred(40))
         Choose(form + ".kvcmbTiposDeServicos");
     TypeInto(form + ".kvfNomeDoServico",
-             chance_.OneOf<std::string>({"banho", "tosa", "c", "vac", "pacote", "tesoura"}));
+             isCareful_ ? "banho"
+                        : chance_.OneOf<std::string>({"banho", "tosa", "c", "vac", "pacote", "tesoura"}));
     Key("Return");
     acts_.push_back({.verb = chance_.InHundred(50) ? Verb::DoublePress : Verb::Press,
                      .target = "frmPesquisaDeServicos.msfgGrade",
@@ -105,8 +110,10 @@ void Plan::FindService(const std::string& form)
 
 void Plan::EnterTimes(const std::string& form)
 {
-    TypeInto(form + ".kvdtpDataInicial", Words::DateDigits(chance_));
-    TypeInto(form + ".kvtimHoraInicial", Words::TimeDigits(chance_));
+    TypeInto(form + ".kvdtpDataInicial",
+             isCareful_ ? Words::FreeDateDigits(chance_) : Words::DateDigits(chance_));
+    TypeInto(form + ".kvtimHoraInicial",
+             isCareful_ ? Words::OpenTimeDigits(chance_) : Words::TimeDigits(chance_));
     Choose(form + ".kvcmbFuncionarios");
     Answer();
 }
@@ -246,9 +253,9 @@ void Plan::WalkByKeys()
 
 } // namespace
 
-std::deque<Act> PlanSomething(Chance& chance, const Words& words)
+std::deque<Act> PlanSomething(Chance& chance, const Words& words, bool isCareful)
 {
-    Plan plan(chance, words);
+    Plan plan(chance, words, isCareful);
     switch (chance.ByWeight({23, 14, 18, 14, 7, 7, 8, 9})) {
     case 0: plan.BookRegistered(); break;
     case 1: plan.BookSimplified(); break;

@@ -107,6 +107,7 @@ void Player::Begin(const Act& act)
 void Player::Do(const Act& act)
 {
     switch (act.verb) {
+    case Verb::Screen: return;
     case Verb::Press: return PressAt(act, Qt::LeftButton, 1);
     case Verb::DoublePress: return PressAt(act, Qt::LeftButton, 2);
     case Verb::RightPress: return PressAt(act, Qt::RightButton, 1);

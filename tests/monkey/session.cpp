@@ -1,6 +1,7 @@
 #include "tests/monkey/session.hpp"
 
 #include "host/session.hpp"
+#include "tests/monkey/chooser.hpp"
 #include "tests/monkey/failure_ear.hpp"
 #include "tests/monkey/finding.hpp"
 #include "tests/monkey/player.hpp"
@@ -10,9 +11,12 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <condition_variable>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
 #include <mutex>
 #include <thread>
@@ -71,8 +75,39 @@ void LiveIn(const std::filesystem::path& folder)
     setenv("HOME", folder.c_str(), 1);
     setenv("XDG_DATA_HOME", (folder / "dados").c_str(), 1);
     setenv("XDG_CONFIG_HOME", (folder / "ajustes").c_str(), 1);
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
     std::filesystem::current_path(folder);
+}
+
+/// Screens that shops have, and one that is too small for everything.
+Act ScreenOfSeed(std::uint64_t seed)
+{
+    struct Kind {
+        int width;
+        int height;
+        int percent;
+        const char* look;
+    };
+    static constexpr std::array kinds{Kind{1366, 768, 100, "light"}, Kind{1920, 1080, 100, "dark"},
+                                      Kind{1366, 768, 125, "light"}, Kind{1024, 768, 100, "light"},
+                                      Kind{1920, 1080, 175, "dark"}, Kind{800, 600, 100, "light"}};
+    const Kind& kind = kinds[seed % kinds.size()];
+    return {.verb = Verb::Screen, .numbers = {kind.width, kind.height, kind.percent}, .text = kind.look};
+}
+
+Act ScreenOf(const SessionPlan& plan)
+{
+    const std::vector<Act> acts = plan.replay.value_or(std::vector{ScreenOfSeed(plan.seed)});
+    const auto found = std::ranges::find(acts, Verb::Screen, &Act::verb);
+    return found == acts.end() ? ScreenOfSeed(0) : *found;
+}
+
+/// Before the application begins. A platform that the environment names has a screen of its own.
+void SitDownAt(const Act& screen)
+{
+    std::ofstream("telas.json") << R"({"screens": [{"name": "tela", "x": 0, "y": 0, "width": )"
+                                << screen.numbers[0] << R"(, "height": )" << screen.numbers[1] << "}]}";
+    setenv("QT_QPA_PLATFORM", "offscreen:configfile=telas.json", 0);
+    setenv("QT_SCALE_FACTOR", std::to_string(screen.numbers[2] / 100.0).c_str(), 0);
 }
 
 host::Options OptionsFor(const std::string& database)
@@ -83,7 +118,6 @@ host::Options OptionsFor(const std::string& database)
     options.date = Date{2026, 11, 20};
     options.time = TimeOfDay{9, 0, 0};
     options.pace = Pace;
-    options.size = host::WindowSize{1366, 768};
     return options;
 }
 
@@ -101,19 +135,21 @@ int Run(const host::Options& options)
 int RunSession(const SessionPlan& plan)
 {
     LiveIn(plan.folder);
+    const Act screen = ScreenOf(plan);
+    SitDownAt(screen);
     const std::string database = (plan.folder / DatabaseName).string();
     std::unique_ptr<Source> source;
     if (plan.replay)
         source = std::make_unique<Replay>(*plan.replay);
     else
-        source = std::make_unique<Chooser>(plan.seed, plan.acts, Words(NamesIn(database)));
+        source = std::make_unique<Chooser>(plan.seed, plan.acts, Words(NamesIn(database)), screen);
     int count = 1;
     char name[] = "kovaris";
     char* words[] = {name, nullptr};
     QApplication application(count, words);
     QApplication::setApplicationName(QStringLiteral("kovaris"));
     qInstallMessageHandler(&TellWarning);
-    qt::ApplyLook(application);
+    qt::ApplyLook(application, screen.text == "dark" ? qt::Look::Dark : qt::Look::Light);
     OtherDesk otherDesk(database);
     Player player(*source, otherDesk, (plan.folder / LogName).string());
     const Watchdog watchdog(player);

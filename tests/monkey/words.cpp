@@ -41,6 +41,17 @@ std::string Words::DateDigits(Chance& chance)
     return Digits(chance.Between(1, 30), 2) + Digits(chance.Between(10, 12), 2) + "2026";
 }
 
+std::string Words::FreeDateDigits(Chance& chance)
+{
+    const int monday = chance.OneOf<int>({7, 14});
+    return Digits(monday + chance.Between(0, 4), 2) + "122026";
+}
+
+std::string Words::OpenTimeDigits(Chance& chance)
+{
+    return Digits(chance.Between(8, 16), 2) + Digits(chance.Between(0, 3) * 15, 2);
+}
+
 std::string Words::TimeDigits(Chance& chance)
 {
     if (chance.InHundred(20))

@@ -19,6 +19,9 @@ public:
     /// Digits as they are typed over the mask of a date, mostly of a day near 20/11/2026.
     static std::string DateDigits(Chance& chance);
     static std::string TimeDigits(Chance& chance);
+    /// Of a working day that has hardly an appointment yet, and of a time at which the shop is open.
+    static std::string FreeDateDigits(Chance& chance);
+    static std::string OpenTimeDigits(Chance& chance);
 
 private:
     std::vector<std::string> names_;
