@@ -72,6 +72,8 @@ TEST_F(LineEdits, OfferTheirKeysToTheFieldFirst)
     Type(&editor_, QStringLiteral("ab"));
     EXPECT_EQ(seen, (std::vector<int>{Qt::Key_A, Qt::Key_B}));
     EXPECT_EQ(editor_.text(), QStringLiteral("b"));
+    Press(&editor_, Qt::Key_Tab);
+    EXPECT_EQ(seen.back(), Qt::Key_Tab) << "Qt's own walk through the window comes after";
 }
 
 TEST_F(LineEdits, KeepASelectionAtThePressThatBringsTheFocus)
