@@ -131,7 +131,8 @@ void clsEtiquetas::ShowWindow(PostalAddress address)
     const Text file = SettingsFile();
     const LabelChoice before{profile.Read(Section, SheetKey, "", SettingLength, file),
                              profile.Read(Section, NicknameKey, "", SettingLength, file) == "1"};
-    LabelWindow window(std::move(address), before, *desk_, WindowInFront());
+    const Date today = host_.GetPlatform().Clock().Now().date;
+    LabelWindow window(std::move(address), before, *desk_, today, WindowInFront());
     window.exec();
     // A folder that cannot be written only keeps the choice from being remembered.
     if (const LabelChoice now = window.Choice(); now != before) {

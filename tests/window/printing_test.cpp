@@ -76,8 +76,8 @@ TEST_F(Printing, AnAddressLabelGoesFromTheRowIntoAPdf)
     Run();
     EXPECT_EQ(receptionist->Boxes(), Rows{});
     const std::string label = "Zulmar Quaresma Rua do Ipê, 7 - Fundos Céu Azul Vale Sereno/SP CEP 00456-789";
-    const Rows pages = test::PdfPages(
-        QString::fromStdString((Documents() / "Etiqueta de endereço - Zulmar Quaresma.pdf").string()));
+    const Rows pages = test::PdfPages(QString::fromStdString(
+        (Documents() / "Etiqueta de endereço - Zulmar Quaresma 2026-11-20.pdf").string()));
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages.front(), label + " " + label + " " + label);
 }

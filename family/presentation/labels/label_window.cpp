@@ -42,8 +42,9 @@ QSpinBox* NumberBox(const char* name, int most)
 
 } // namespace
 
-LabelWindow::LabelWindow(PostalAddress address, const LabelChoice& choice, LabelDesk& desk, QWidget* parent)
-    : QDialog(parent), address_(std::move(address)), desk_(desk)
+LabelWindow::LabelWindow(PostalAddress address, const LabelChoice& choice, LabelDesk& desk, Date day,
+                         QWidget* parent)
+    : QDialog(parent), address_(std::move(address)), desk_(desk), day_(day)
 {
     setObjectName(QStringLiteral("etiqueta"));
     setWindowTitle(QStringLiteral("Etiqueta de endereço"));

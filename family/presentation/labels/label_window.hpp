@@ -34,8 +34,9 @@ struct LabelChoice {
 /// lists the keys.
 class LabelWindow : public QDialog {
 public:
-    /// The desk must outlive it.
-    LabelWindow(PostalAddress address, const LabelChoice& choice, LabelDesk& desk, QWidget* parent = nullptr);
+    /// The desk must outlive it. The name of a file carries the day.
+    LabelWindow(PostalAddress address, const LabelChoice& choice, LabelDesk& desk, Date day,
+                QWidget* parent = nullptr);
 
     LabelChoice Choice() const;
     const LabelJob& Job() const { return job_; }
@@ -63,6 +64,7 @@ private:
 
     PostalAddress address_;
     LabelDesk& desk_;
+    const Date day_;
     LabelMetrics metrics_;
     LabelRun run_;
     LabelJob job_;

@@ -27,13 +27,17 @@ QString DocumentsFolder()
     return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
-/// A title as a file's name.
-QString FileName(const QString& title)
+/// A title and a day as a file's name.
+QString FileName(const QString& title, Date day)
 {
     QString name;
     for (const QChar character : title)
         name += QStringLiteral("/\\:*?\"<>|").contains(character) ? QChar(u' ') : character;
-    return name.simplified() + QStringLiteral(".pdf");
+    return QStringLiteral("%1 %2-%3-%4.pdf")
+        .arg(name.simplified())
+        .arg(day.year, 4, 10, QLatin1Char('0'))
+        .arg(day.month, 2, 10, QLatin1Char('0'))
+        .arg(day.day, 2, 10, QLatin1Char('0'));
 }
 
 class BusyCursor {
@@ -69,7 +73,7 @@ void LabelWindow::Print()
 QString LabelWindow::ProposedPath() const
 {
     const QString folder = LastFolder().isEmpty() ? DocumentsFolder() : LastFolder();
-    return QDir(folder).filePath(FileName(QString::fromStdString(job_.pages.title)));
+    return QDir(folder).filePath(FileName(QString::fromStdString(job_.pages.title), day_));
 }
 
 void LabelWindow::SavePdf()

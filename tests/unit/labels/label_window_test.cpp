@@ -78,7 +78,7 @@ protected:
     }
 
     ScriptedDesk desk_{toolkit, "Kova"};
-    LabelWindow window_{Jose(), {"A4-2x7", false}, desk_};
+    LabelWindow window_{Jose(), {"A4-2x7", false}, desk_, {2026, 3, 9}};
 };
 
 TEST_F(LabelWindowTest, ListsTheKeysThatWorkNowOnF1)
@@ -229,7 +229,7 @@ TEST_F(LabelWindowTest, RemembersWhatWasChosen)
     The<QComboBox>("folha").setCurrentIndex(3);
     The<QCheckBox>("apelido").setChecked(true);
     EXPECT_EQ(window_.Choice(), (LabelChoice{"A4-3x11", true}));
-    const LabelWindow again(Jose(), window_.Choice(), desk_);
+    const LabelWindow again(Jose(), window_.Choice(), desk_, {2026, 3, 9});
     EXPECT_EQ(again.Choice(), window_.Choice());
 }
 
@@ -238,7 +238,8 @@ TEST_F(LabelWindowTest, SavesAPdf)
     desk_.path = File("e.pdf");
     The<QSpinBox>("quantidade").setValue(2);
     Press(Qt::Key_S, Qt::AltModifier);
-    EXPECT_TRUE(desk_.proposal.endsWith(QStringLiteral("/Etiqueta de endereço - José Antônio Peçanha.pdf")))
+    EXPECT_TRUE(desk_.proposal.endsWith(
+        QStringLiteral("/Etiqueta de endereço - José Antônio Peçanha 2026-03-09.pdf")))
         << desk_.proposal.toStdString();
     EXPECT_EQ(TextOf(File("e.pdf")).size(), 2 * std::string(LabelText).size() + 1);
     EXPECT_EQ(Shown("situacao"), "Salvo em e.pdf");
