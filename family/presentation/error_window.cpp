@@ -1,6 +1,7 @@
 #include "family/presentation/error_window.hpp"
 
 #include "family/presentation/failure_words.hpp"
+#include "family/presentation/scrolled_body.hpp"
 
 #include <QClipboard>
 #include <QFontInfo>
@@ -21,11 +22,11 @@ namespace kova::family {
 
 namespace {
 
-constexpr int WindowWidth = 560;
+constexpr int MostWidth = 560;
 constexpr int MarkSize = 40;
-/// What the texts beside the mark and beside the titles of the values have.
-constexpr int WordsWidth = WindowWidth - 48 - MarkSize - 16;
-constexpr int ValuesWidth = WindowWidth - 48 - 80;
+/// What the window takes of its width beside the texts at the mark and at the titles of the values.
+constexpr int BesideWords = 48 + MarkSize + 16;
+constexpr int BesideValues = 48 + 80;
 constexpr int MostLinesOfWords = 8;
 constexpr int MostLinesOfAValue = 3;
 
@@ -80,19 +81,25 @@ ErrorWindow::ErrorWindow(const ErrorReport& report, QWidget* parent) : QDialog(p
     setObjectName(QStringLiteral("falha"));
     setWindowTitle(ToQString(report.application));
     setWindowModality(Qt::ApplicationModal);
-    setMinimumWidth(WindowWidth);
+    setMinimumWidth(std::min(MostWidth, RoomOnScreen(*this).width()));
     setBackgroundRole(QPalette::Base);
 
     auto* rule = new QFrame(this);
     rule->setFrameStyle(QFrame::HLine | QFrame::Plain);
     rule->setForegroundRole(QPalette::Midlight);
+    auto* content = new QVBoxLayout;
+    content->setSpacing(12);
+    content->addLayout(MakeHeading());
+    content->addWidget(rule);
+    content->addLayout(MakeValues());
+    content->addStretch(1);
+    auto* body = new ScrolledBody(content, this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 20, 24, 20);
     layout->setSpacing(12);
-    layout->addLayout(MakeHeading());
-    layout->addWidget(rule);
-    layout->addLayout(MakeValues());
+    layout->addWidget(body, 1);
     layout->addLayout(MakeButtons());
+    FitToScreen(*this, *body);
 }
 
 QLayout* ErrorWindow::MakeHeading()
@@ -106,7 +113,8 @@ QLayout* ErrorWindow::MakeHeading()
     title->setFont(Scaled(title->font(), 1.2, true));
 
     const FailureWords words = WordsFor(report_);
-    QPlainTextEdit* what = MakeText(words.what, QStringLiteral("what"), WordsWidth, MostLinesOfWords);
+    QPlainTextEdit* what =
+        MakeText(words.what, QStringLiteral("what"), minimumWidth() - BesideWords, MostLinesOfWords);
     what->setAccessibleName(tr("O que aconteceu"));
     auto* advice = new QLabel(ToQString(words.look + "\n" + words.act), this);
     advice->setObjectName(QStringLiteral("advice"));
@@ -143,7 +151,7 @@ QLayout* ErrorWindow::MakeValues()
 void ErrorWindow::AddValue(QGridLayout& grid, const QString& title, const Text& text,
                            const QString& objectName)
 {
-    QPlainTextEdit* field = MakeText(text, objectName, ValuesWidth, MostLinesOfAValue);
+    QPlainTextEdit* field = MakeText(text, objectName, minimumWidth() - BesideValues, MostLinesOfAValue);
     field->setAccessibleName(QString(title).remove(QLatin1Char('&')));
     auto* label = Muted(new QLabel(title, this));
     label->setFont(Scaled(font(), 0.85));

@@ -85,6 +85,12 @@ void LabelSheetView::paintEvent(QPaintEvent*)
         Qt::white);
     PaintPlaces(painter);
     PaintLabels(painter, pages_->pages[static_cast<std::size_t>(sheet_)]);
+    painter.resetTransform();
+    if (!hasFocus())
+        return;
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 void LabelSheetView::PaintPlaces(QPainter& painter) const

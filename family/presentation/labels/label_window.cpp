@@ -2,6 +2,7 @@
 
 #include "family/presentation/labels/label_picture.hpp"
 #include "family/presentation/labels/label_sheet_view.hpp"
+#include "family/presentation/scrolled_body.hpp"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -53,10 +54,11 @@ LabelWindow::LabelWindow(PostalAddress address, const LabelChoice& choice, Label
     columns->setSpacing(20);
     columns->addLayout(MakeFields(choice));
     columns->addLayout(MakeSheetSide(), 1);
+    auto* body = new ScrolledBody(columns, this);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(16, 14, 16, 14);
     rows->setSpacing(12);
-    rows->addLayout(columns, 1);
+    rows->addWidget(body, 1);
     rows->addLayout(MakeButtons());
     // Behind the fields, although it is made with the sheet's side.
     setTabOrder(nickname_, view_);
@@ -65,6 +67,7 @@ LabelWindow::LabelWindow(PostalAddress address, const LabelChoice& choice, Label
     FollowSheet();
     copies_->setFocus();
     copies_->selectAll();
+    FitToScreen(*this, *body);
 }
 
 QLayout* LabelWindow::MakeFields(const LabelChoice& choice)

@@ -183,6 +183,18 @@ TEST_F(ErrorScreen, KeepsAWindowOfASaneSizeForALongTextAndStillHoldsAllOfIt)
     EXPECT_EQ(FieldOf(window, "description"), longReport.description);
 }
 
+TEST_F(ErrorScreen, KeepsItsButtonsInSightOnASmallScreen)
+{
+    ErrorWindow window(report_);
+    window.resize(window.minimumWidth(), 160);
+    window.show();
+    EXPECT_EQ(window.height(), 160);
+    for (const char* name : {"copy", "close"}) {
+        const auto* button = window.findChild<QPushButton*>(name);
+        EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << name;
+    }
+}
+
 TEST_F(ErrorScreen, CopiesAllFourTexts)
 {
     ErrorWindow window(report_);

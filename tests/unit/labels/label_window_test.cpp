@@ -2,6 +2,7 @@
 
 #include "family/presentation/labels/label_sheet_view.hpp"
 #include "family/presentation/labels/label_window.hpp"
+#include "family/presentation/scrolled_body.hpp"
 #include "tests/unit/labels/label_fixture.hpp"
 
 #include <QApplication>
@@ -10,10 +11,13 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -107,6 +111,48 @@ TEST_F(LabelWindowTest, ListsTheKeysThatWorkNowOnF1)
     EXPECT_EQ(std::ranges::count(many, "PgDn"), 1);
     EXPECT_EQ(std::ranges::count(many, "PgUp"), 0);
     EXPECT_TRUE(window_.isVisible());
+}
+
+TEST_F(LabelWindowTest, KeepsItsButtonsInSightOnASmallScreen)
+{
+    window_.resize(400, 300);
+    EXPECT_EQ(window_.size(), QSize(400, 300));
+    for (const char* name : {"salvar", "imprimir", "fechar"}) {
+        QPushButton& button = The<QPushButton>(name);
+        EXPECT_EQ(button.visibleRegion().boundingRect(), button.rect()) << name;
+    }
+    auto& nickname = The<QCheckBox>("apelido");
+    nickname.setFocus();
+    Press(Qt::Key_Tab);
+    EXPECT_FALSE(View().visibleRegion().isEmpty());
+}
+
+TEST_F(LabelWindowTest, ShowsThatTheSheetHasTheFocus)
+{
+    const QPoint edge(0, View().height() / 2);
+    const QColor before = View().grab().toImage().pixelColor(edge);
+    View().setFocus();
+    EXPECT_NE(View().grab().toImage().pixelColor(edge), before);
+}
+
+TEST_F(LabelTest, LetsContentThatIsLargerThanTheScreenScroll)
+{
+    QDialog window;
+    auto* content = new QVBoxLayout;
+    auto* large = new QWidget;
+    large->setMinimumSize(3000, 3000);
+    content->addWidget(large);
+    auto* body = new ScrolledBody(content, &window);
+    auto* rows = new QVBoxLayout(&window);
+    rows->addWidget(body);
+    auto* close = new QPushButton(QStringLiteral("Fechar"));
+    rows->addWidget(close);
+    FitToScreen(window, *body);
+    window.show();
+    EXPECT_EQ(window.size(), RoomOnScreen(window));
+    EXPECT_TRUE(window.screen()->availableGeometry().contains(QRect(QPoint(), window.frameSize())));
+    EXPECT_EQ(close->visibleRegion().boundingRect(), close->rect());
+    EXPECT_GT(body->verticalScrollBar()->maximum(), 0);
 }
 
 TEST_F(LabelWindowTest, OpensOnOneLabelAtTheSheetsBeginning)
