@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* LineEnd = "\r\n";
 constexpr const char* ChangedMeanwhile = "Este agendamento foi alterado depois que você o abriu.";
-constexpr const char* LookAgain = "Vá a outro dia e volte para ver o agendamento como está agora.";
+constexpr const char* LookAgain = "Atualize a lista (F5) para ver o agendamento como está agora.";
 
 Text Quoted(const std::string& value) { return value.empty() ? "(vazio)" : "\"" + value + "\""; }
 

@@ -24,7 +24,7 @@ constexpr std::string_view Again = "Tente novamente.";
 constexpr std::string_view CheckInput = "Confira o que foi informado e tente novamente.";
 constexpr std::string_view CheckRegister =
     "Confira se o agendamento e os cadastros dele estão completos e tente novamente.";
-constexpr std::string_view Reload = "Atualize a lista (vá a outro dia e volte) e tente novamente.";
+constexpr std::string_view Reload = "Atualize a lista (F5) e tente novamente.";
 constexpr std::string_view Reopen = "Feche o programa e abra-o novamente.";
 
 constexpr KnownFailure Known[] = {

@@ -67,7 +67,7 @@ TEST_F(TwoDesks, OnTheSameFieldAreToldWhatEachHasTypedAndCanSaveAfterLookingAgai
             "Este agendamento foi alterado depois que você o abriu. Nada do que você mudou foi gravado.\n\n"
             "Observação: Marcos (posto BALCAO-2) gravou \"Sem laço.\" em 20/11/2026 às 09:30; você informou"
             " \"Laço verde\".\n\n"
-            "Vá a outro dia e volte para ver o agendamento como está agora. Depois refaça as suas"
+            "Atualize a lista (F5) para ver o agendamento como está agora. Depois refaça as suas"
             " mudanças.",
             HolidayQuestion}));
     EXPECT_EQ(afterTheRefusal, "Sem laço.|0|Marcos");

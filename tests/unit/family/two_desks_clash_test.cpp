@@ -21,7 +21,7 @@ TEST_F(ClashOfTwoDesks, TellsWhoWhenWhereAndWhatAndRepeatsWhatWasTyped)
         " (vazio).\r\n"
         "\r\nVocê também informou:\r\n"
         "Levar: \"Sim\"\r\n"
-        "\r\nVá a outro dia e volte para ver o agendamento como está agora. Depois refaça as suas"
+        "\r\nAtualize a lista (F5) para ver o agendamento como está agora. Depois refaça as suas"
         " mudanças.");
 }
 
@@ -158,7 +158,7 @@ TEST_P(FieldsThatBothChange, AreNamedWithBothValues)
     const std::string expected =
         std::string(GetParam().stored) + " em 20/11/2026 às 09:30; você informou " + GetParam().typed + ".";
     const Text text = Refused(*form);
-    EXPECT_NE(text.find("\r\n\r\n" + expected + "\r\n\r\nVá"), std::string::npos) << text;
+    EXPECT_NE(text.find("\r\n\r\n" + expected + "\r\n\r\nAtualize"), std::string::npos) << text;
 }
 
 INSTANTIATE_TEST_SUITE_P(OfEach, FieldsThatBothChange, testing::ValuesIn(FieldsOfBoth),
@@ -185,7 +185,7 @@ TEST_F(ClashOfTwoDesks, IsToldWithoutNamesWhereTheAuditHasAGap)
     EXPECT_EQ(
         Refused(*Form(FullNumber)),
         "Este agendamento foi alterado depois que você o abriu. Nada foi gravado, e não há registro do que"
-        " mudou.\r\n\r\nVá a outro dia e volte para ver o agendamento como está agora.");
+        " mudou.\r\n\r\nAtualize a lista (F5) para ver o agendamento como está agora.");
 }
 
 TEST_F(ClashOfTwoDesks, OnAnAppointmentThatIsGoneSaysOnlyThat)
@@ -209,7 +209,7 @@ TEST_F(ClashOfTwoDesks, KeepsADeletionBack)
               "Este agendamento foi alterado depois que você o abriu. Nada foi excluído.\r\n\r\n"
               "Marcos (posto BALCAO-2), em 20/11/2026 às 09:30: Situação\r\n"
               "Marcos (posto BALCAO-2), em 20/11/2026 às 09:30: Observação, Levar\r\n"
-              "\r\nVá a outro dia e volte para ver o agendamento como está agora.");
+              "\r\nAtualize a lista (F5) para ver o agendamento como está agora.");
     Shows();
     EXPECT_EQ(Write(*Form(FullNumber), "Excluir"), 0);
 }
