@@ -92,6 +92,10 @@ QWidget* QtToolkit::WindowBelow(const QWidget* except) const
     QWidget* active = QApplication::activeWindow();
     if (active && active != except && active->isVisible())
         return active;
+    // The user is in another program.
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal && modal != except && modal->isVisible())
+        return modal;
     return topWindow_ ? topWindow_->window() : nullptr;
 }
 

@@ -2,6 +2,7 @@
 #include "toolkits/qt/theme.hpp"
 
 #include <QApplication>
+#include <QDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -99,6 +100,20 @@ TEST_F(Messages, CarryTheMarkOfTheirKind)
     EXPECT_EQ(ground(question), look::Accent);
     EXPECT_EQ(ground(critical), look::Danger);
     EXPECT_GT(inkOf(question), inkOf(information)) << "a question mark is wider than an i";
+}
+
+TEST_F(Messages, StandOverAModalWindowAlsoWhileTheUserIsInAnotherProgram)
+{
+    FormRef form = Show({});
+    QDialog modal;
+    modal.setModal(true);
+    modal.show();
+    QApplication::setActiveWindow(nullptr);
+    Then([&modal](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &modal);
+        box.close();
+    });
+    toolkit_.MessageBox(MessageKind::Plain, "Pronto.", "");
 }
 
 TEST_F(Messages, KeepTheUserOutOfTheForms)
