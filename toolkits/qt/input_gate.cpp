@@ -92,6 +92,8 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event)
     if (!ends && !form->Model().Refusal().empty()) {
         if (event->type() == QEvent::KeyPress)
             KeepKey(*static_cast<QKeyEvent*>(event));
+        if (event->type() == QEvent::Shortcut)
+            KeepMnemonic(*static_cast<QShortcutEvent*>(event), *target);
         return true;
     }
     return event->type() == QEvent::KeyPress && TakesKey(*form, *target, *static_cast<QKeyEvent*>(event));
@@ -148,11 +150,23 @@ void InputGate::FollowMouse(QWidget& target, const QEvent& event)
 // Only for as long as a pause lasts: who types into a box or a form means that one.
 void InputGate::KeepKey(const QKeyEvent& event)
 {
-    if (!toolkit_.IsPausing() || event.isAutoRepeat())
+    if (!event.isAutoRepeat())
+        Keep({std::unique_ptr<QEvent>(event.clone()), nullptr});
+}
+
+// Qt has found out whose it is; the key alone would not lead there again.
+void InputGate::KeepMnemonic(const QShortcutEvent& event, QWidget& widget)
+{
+    Keep({std::unique_ptr<QEvent>(event.clone()), &widget});
+}
+
+void InputGate::Keep(KeptKey key)
+{
+    if (!toolkit_.IsPausing())
         return;
     if (kept_.empty())
         interruptions_ = toolkit_.Interruptions();
-    kept_.emplace_back(event.clone());
+    kept_.push_back(std::move(key));
 }
 
 void InputGate::EventsEnded()
@@ -167,20 +181,27 @@ void InputGate::DeliverKeptKeys()
         return;
     delivering_ = true;
     auto keys = std::exchange(kept_, {});
-    for (const auto& key : keys) {
-        QWidget* focus = QApplication::focusWidget();
-        const FormWidget* form = FormAround(focus);
+    for (const KeptKey& key : keys) {
+        const bool isMnemonic = key.event->type() == QEvent::Shortcut;
+        QWidget* target = isMnemonic ? key.widget.data() : QApplication::focusWidget();
+        const FormWidget* form = FormAround(target);
         if (toolkit_.Interruptions() != interruptions_ || !form || !form->Model().Refusal().empty())
             break;
-        const QPointer<QWidget> target = focus;
-        QCoreApplication::sendEvent(target, key.get());
-        if (target) {
-            QKeyEvent release(QEvent::KeyRelease, key->key(), key->modifiers(), key->text());
-            QCoreApplication::sendEvent(target, &release);
-        }
+        Deliver(key, *target);
     }
     delivering_ = false;
     EventsEnded();
+}
+
+void InputGate::Deliver(const KeptKey& key, QWidget& target)
+{
+    const QPointer<QWidget> living(&target);
+    QCoreApplication::sendEvent(&target, key.event.get());
+    if (!living || key.event->type() != QEvent::KeyPress)
+        return;
+    const auto& press = static_cast<const QKeyEvent&>(*key.event);
+    QKeyEvent release(QEvent::KeyRelease, press.key(), press.modifiers(), press.text());
+    QCoreApplication::sendEvent(&target, &release);
 }
 
 bool InputGate::TakesKey(FormWidget& form, QWidget& target, const QKeyEvent& event)

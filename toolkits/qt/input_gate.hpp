@@ -9,6 +9,7 @@
 
 class QKeyEvent;
 class QMouseEvent;
+class QShortcutEvent;
 class QWidget;
 
 namespace kova::qt {
@@ -42,14 +43,23 @@ private:
     /// Whether a press goes on with a double press that began in a window that is gone meanwhile.
     bool EndsAPressElsewhere(const QWidget& target, const QMouseEvent& event);
     void FollowMouse(QWidget& target, const QEvent& event);
+    /// A key for whatever has the focus then, or a mnemonic of that widget.
+    struct KeptKey {
+        std::unique_ptr<QEvent> event;
+        QPointer<QWidget> widget;
+    };
+
     void KeepKey(const QKeyEvent& event);
+    void KeepMnemonic(const QShortcutEvent& event, QWidget& widget);
+    void Keep(KeptKey key);
     void DeliverKeptKeys();
+    static void Deliver(const KeptKey& key, QWidget& target);
 
     QtToolkit& toolkit_;
     Press press_;
     /// The grid that the mouse was over last.
     QPointer<QWidget> pointed_;
-    std::vector<std::unique_ptr<QKeyEvent>> kept_;
+    std::vector<KeptKey> kept_;
     /// Of the toolkit, when the first of the kept keys came.
     unsigned interruptions_ = 0;
     bool delivering_ = false;

@@ -22,7 +22,10 @@ class NestedLoop : public QtTest {
 protected:
     void SetUp() override
     {
-        form_ = Show({Design(WidgetKind::KVComboBox, "kvcmb", 0, 0, 3000, 510),
+        ControlDesign label = Design(WidgetKind::Label, "lbl", 3300, 1200, 3000, 300);
+        label.caption = "&Nome";
+        label.labelOf = "kvtxt";
+        form_ = Show({label, Design(WidgetKind::KVComboBox, "kvcmb", 0, 0, 3000, 510),
                       Design(WidgetKind::KVDTPicker, "kvdtp", 0, 600, 3000, 510),
                       Design(WidgetKind::KVTextBox, "kvtxt", 0, 1200, 3000, 510),
                       Design(WidgetKind::KVCommandButton, "kvcmd", 0, 1800, 3000, 510)});
@@ -169,6 +172,46 @@ TEST_F(KeysOfAPause, AreDeliveredInTheirOrderWhenTheFormTakesInputAgain)
     EXPECT_EQ(box_->Text(), "");
     Settle();
     EXPECT_EQ(box_->Text(), "ana");
+}
+
+TEST_F(KeysOfAPause, LeadToTheFieldOfTheirMnemonic)
+{
+    combo_->SetFocus();
+    QWidget* window = WindowOf(*box_)->window();
+    QApplication::setActiveWindow(window);
+    WaitInAnEvent([&] {
+        QTest::sendKeyEvent(QTest::Click, window->windowHandle(), Qt::Key_N, QStringLiteral("n"),
+                            Qt::AltModifier);
+        TypeNow("ana");
+    });
+    EXPECT_TRUE(CoreOf(*combo_).HasFocus());
+    Settle();
+    EXPECT_TRUE(CoreOf(*box_).HasFocus());
+    EXPECT_EQ(box_->Text(), "ana");
+}
+
+TEST_F(KeysOfAPause, LeadToTheFieldOfTheirMnemonicAlsoBehindAnOpenList)
+{
+    QWidget* window = WindowOf(*box_)->window();
+    QApplication::setActiveWindow(window);
+    combo_->OnClick([&] {
+        Wait([&] {
+            QTest::sendKeyEvent(QTest::Press, window->windowHandle(), Qt::Key_Alt, QString(),
+                                Qt::AltModifier);
+            QTest::sendKeyEvent(QTest::Click, window->windowHandle(), Qt::Key_N, QStringLiteral("n"),
+                                Qt::AltModifier);
+            QTest::sendKeyEvent(QTest::Release, window->windowHandle(), Qt::Key_Alt, QString(),
+                                Qt::NoModifier);
+        });
+    });
+    combo_->SetFocus();
+    QListWidget* list = OpenList();
+    QTest::sendKeyEvent(QTest::Click, list->window()->windowHandle(), Qt::Key_Down, QString(),
+                        Qt::NoModifier);
+    QTest::sendKeyEvent(QTest::Click, list->window()->windowHandle(), Qt::Key_Return, QString(),
+                        Qt::NoModifier);
+    Settle();
+    EXPECT_TRUE(CoreOf(*box_).HasFocus());
 }
 
 TEST_F(KeysOfAPause, AreDroppedWhereABoxHasComeUpMeanwhile)
