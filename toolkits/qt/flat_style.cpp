@@ -50,6 +50,37 @@ void PaintButton(QPainter& painter, const QStyleOption& option, bool isOffered)
         PaintFocusRing(painter, option.rect, ground);
 }
 
+void PaintCheckBox(QPainter& painter, const QStyleOption& option)
+{
+    const bool isEnabled = option.state & QStyle::State_Enabled;
+    const bool isChecked = option.state & QStyle::State_On;
+    const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QColor edge = isEnabled ? look::MutedInk : look::DisabledInk;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(isChecked && isEnabled ? look::Accent : edge, 1));
+    painter.setBrush(!isChecked ? look::Paper : isEnabled ? look::Accent : look::DisabledInk);
+    painter.drawRoundedRect(box, look::CornerRadius - 1, look::CornerRadius - 1);
+    if (isChecked) {
+        painter.setPen(QPen(look::Paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const auto at = [&box](double x, double y) {
+            return box.topLeft() + QPointF(box.width() * x, box.height() * y);
+        };
+        painter.drawPolyline(QPolygonF({at(0.24, 0.52), at(0.43, 0.72), at(0.77, 0.3)}));
+    }
+    painter.restore();
+}
+
+/// Around lists and menus, which else would not stand out from what lies below them.
+void PaintFrame(QPainter& painter, const QRect& area)
+{
+    painter.save();
+    painter.setPen(QPen(look::BorderUnderMouse, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(area.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
 FieldState StateOf(const QStyleOption& option)
 {
     return {.enabled = (option.state & QStyle::State_Enabled) != 0,
@@ -99,6 +130,12 @@ void FlatStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (element == PE_PanelLineEdit && frame && frame->lineWidth > 0)
         return PaintField(*painter, option->rect, StateOf(*option), look::Paper);
+    if (element == PE_IndicatorCheckBox)
+        return PaintCheckBox(*painter, *option);
+    if (element == PE_PanelMenu)
+        painter->fillRect(option->rect, look::Paper);
+    if (element == PE_Frame || element == PE_FrameMenu || element == PE_PanelMenu)
+        return PaintFrame(*painter, option->rect);
     // The ring is drawn with the plate.
     if (element != PE_FrameFocusRect || !isButton)
         QProxyStyle::drawPrimitive(element, option, painter, widget);

@@ -167,11 +167,16 @@ QPalette PaletteOf(const Colours& colours)
 }
 
 // Greys and tints are told from colours that mean something by how far their parts lie apart.
+int SpreadOf(const QColor& color)
+{
+    const auto [low, high] = std::minmax({color.red(), color.green(), color.blue()});
+    return high - low;
+}
+
 bool IsColourful(const QColor& color)
 {
     constexpr int leastSpread = 60;
-    const auto [low, high] = std::minmax({color.red(), color.green(), color.blue()});
-    return high - low >= leastSpread;
+    return SpreadOf(color) >= leastSpread;
 }
 
 QColor WithLightness(const QColor& color, float lightness)
@@ -188,7 +193,10 @@ QColor DarkGround(const QColor& color)
     constexpr float step = 0.6F;
     if (IsColourful(color))
         return WithLightness(color, std::min(color.lightnessF(), lightest));
-    const QColor dark = WithLightness(color, paper + (1.0F - color.lightnessF()) * step);
+    // A grey goes with the paper's own tint.
+    constexpr int mostSpreadOfGrey = 4;
+    const QColor& hue = SpreadOf(color) <= mostSpreadOfGrey ? look::Paper : color;
+    const QColor dark = WithLightness(hue, paper + (1.0F - color.lightnessF()) * step);
     return color == Qt::white ? look::Paper : dark;
 }
 

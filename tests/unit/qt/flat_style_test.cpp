@@ -3,9 +3,13 @@
 #include "tests/unit/qt/support.hpp"
 #include "toolkits/qt/theme.hpp"
 
+#include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -65,6 +69,42 @@ TEST_F(PlainButtons, StandBesideFieldsThatAreFlatToo)
         EXPECT_EQ(picture.pixel(100, 0), look::Border.rgb()) << field->metaObject()->className();
         for (int y = 2; y < 28; ++y)
             EXPECT_EQ(picture.pixel(150, y), look::Paper.rgb()) << field->metaObject()->className();
+    }
+}
+
+TEST_F(PlainButtons, StandBesideListsAndMenusWithAFrame)
+{
+    for (const Look chosen : {Look::Dark, Look::Light}) {
+        ApplyLook(*qApp, chosen);
+        QListWidget list;
+        list.resize(100, 60);
+        EXPECT_EQ(Picture(&list).pixel(50, 0), look::BorderUnderMouse.rgb());
+        QMenu menu;
+        menu.addAction(QStringLiteral("Agendamento completo"));
+        menu.resize(menu.sizeHint());
+        EXPECT_EQ(Picture(&menu).pixel(50, 0), look::BorderUnderMouse.rgb());
+    }
+}
+
+TEST_F(PlainButtons, StandBesideCheckBoxesThatAreSeen)
+{
+    for (const Look chosen : {Look::Dark, Look::Light}) {
+        ApplyLook(*qApp, chosen);
+        QCheckBox box(QStringLiteral("Imprimir"));
+        box.resize(box.sizeHint());
+        const int middle = box.height() / 2;
+        const auto inks = [&] {
+            const QImage picture = Picture(&box);
+            double best = 1;
+            for (int x = 0; x < 20; ++x)
+                best = std::max(best, Contrast(picture.pixelColor(x, middle), look::Paper));
+            return best;
+        };
+        EXPECT_GE(inks(), 3.0);
+        const QImage open = Picture(&box);
+        box.setChecked(true);
+        EXPECT_GE(inks(), 3.0);
+        EXPECT_NE(Picture(&box), open);
     }
 }
 

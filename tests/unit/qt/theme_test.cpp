@@ -110,6 +110,12 @@ TEST_F(DarkLook, KeepsTheOrderOfGrounds)
     EXPECT_LT(lightness(Rgb(217, 217, 217)), 0.5F);
 }
 
+TEST_F(DarkLook, GivesGreysTheTintOfThePaper)
+{
+    for (const Colour grey : {Rgb(242, 242, 242), Rgb(246, 245, 245), Rgb(217, 217, 217)})
+        EXPECT_NEAR(GroundColor(grey, look::Paper).hslHue(), look::Paper.hslHue(), 6) << grey;
+}
+
 TEST_F(DarkLook, KeepsTheHueOfWhatMeansSomething)
 {
     const QColor blue = GroundColor(16617293, look::Plate);
