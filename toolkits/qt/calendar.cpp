@@ -5,12 +5,10 @@
 #include "toolkits/qt/painting.hpp"
 #include "toolkits/qt/theme.hpp"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QScreen>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -72,11 +70,12 @@ QSize CalendarPopup::sizeHint() const
 void CalendarPopup::Open(const QRect& fieldOnScreen, Date current)
 {
     MoveTo(current);
-    const QScreen* screen = QGuiApplication::screenAt(fieldOnScreen.center());
-    const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const QRect room = RoomForPopup(fieldOnScreen);
     QPoint place(fieldOnScreen.left(), fieldOnScreen.bottom() + 3);
     if (place.y() + height() > room.bottom())
         place.setY(fieldOnScreen.top() - height() - 2);
+    // Where there is room neither below nor above, it covers the field.
+    place.setY(std::clamp(place.y(), room.top(), std::max(room.top(), room.bottom() - height())));
     place.setX(std::clamp(place.x(), room.left(), std::max(room.left(), room.right() - width())));
     move(place);
     show();

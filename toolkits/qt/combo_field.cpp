@@ -6,12 +6,10 @@
 #include "toolkits/qt/theme.hpp"
 
 #include <QAccessible>
-#include <QGuiApplication>
 #include <QHash>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -26,6 +24,8 @@ namespace {
 constexpr int Inset = 8;
 constexpr int EndWidth = 28;
 constexpr int RowHeight = 28;
+/// Of the bar beside the marked row.
+constexpr int MarkWidth = 3;
 constexpr int MostRowsShown = toolkit::ComboBoxModel::RowsOfPage;
 
 // A row of the open list: its text at the same inset as in the field.
@@ -37,6 +37,9 @@ public:
     {
         const bool current = option.state & QStyle::State_Selected;
         painter->fillRect(option.rect, current ? look::AccentTint : look::Paper);
+        if (current)
+            painter->fillRect(QRect(option.rect.topLeft(), QSize(MarkWidth, option.rect.height())),
+                              look::Accent);
         painter->setPen(look::Ink);
         painter->setFont(option.font);
         const QRect area = option.rect.adjusted(Inset - 1, 0, -4, 0);
@@ -106,7 +109,8 @@ void ComboField::MakeList(const QStringList& texts)
     list_->setUniformItemSizes(true);
     list_->addItems(texts);
     for (int row = 0; row < list_->count(); ++row)
-        list_->item(row)->setSizeHint(QSize(0, RowHeight));
+        list_->item(row)->setSizeHint(
+            QSize(list_->fontMetrics().horizontalAdvance(texts.at(row)), RowHeight));
     list_->installEventFilter(this);
     connect(list_, &QListWidget::itemEntered, this, [this](QListWidgetItem* item) {
         if (list_ && pointed)
@@ -121,14 +125,15 @@ void ComboField::MakeList(const QStringList& texts)
 void ComboField::PlaceList(int count)
 {
     const QRect field(mapToGlobal(QPoint(0, 0)), size());
-    const QScreen* screen = QGuiApplication::screenAt(field.center());
-    const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const QRect room = RoomForPopup(field);
     const int height = std::clamp(count, 1, MostRowsShown) * RowHeight + 2 * list_->frameWidth();
     const int wanted = list_->sizeHintForColumn(0) + 2 * Inset + (count > MostRowsShown ? 16 : 0);
     const int width = std::clamp(wanted, field.width(), std::max(field.width(), 420));
     QRect area(field.left(), field.bottom() + 3, width, height);
     if (area.bottom() > room.bottom())
         area.moveBottom(field.top() - 3);
+    area.moveTop(std::clamp(area.top(), room.top(), std::max(room.top(), room.bottom() - height)));
+    area.moveLeft(std::clamp(area.left(), room.left(), std::max(room.left(), room.right() - width)));
     popup_->setGeometry(area);
     popup_->show();
     list_->setFocus();

@@ -48,7 +48,7 @@ QGridLayout* TableOf(const std::vector<toolkit::KeyHelp>& keys)
 // scrolls by the arrow keys.
 QScrollArea* ScrolledTable(const std::vector<toolkit::KeyHelp>& keys, const QWidget& window)
 {
-    constexpr int aroundTable = 150;
+    constexpr QSize aroundTable(72, 150);
     auto* lines = new QWidget;
     lines->setLayout(TableOf(keys));
     lines->layout()->setContentsMargins(0, 0, 0, 0);
@@ -58,7 +58,7 @@ QScrollArea* ScrolledTable(const std::vector<toolkit::KeyHelp>& keys, const QWid
     area->setWidget(lines);
     area->viewport()->setAutoFillBackground(false);
     lines->setAutoFillBackground(false);
-    const QSize room = window.screen()->availableGeometry().size() - QSize(aroundTable, aroundTable);
+    const QSize room = window.screen()->availableGeometry().size() - aroundTable;
     const QSize wanted = lines->sizeHint();
     const int bar = wanted.height() > room.height() ? area->verticalScrollBar()->sizeHint().width() : 0;
     area->setMinimumSize((wanted + QSize(bar, 0)).boundedTo(room));

@@ -3,7 +3,9 @@
 #include "toolkits/qt/kept_picture.hpp"
 #include "toolkits/qt/theme.hpp"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 
 namespace kova::qt {
 
@@ -56,6 +58,14 @@ void PaintPlate(QPainter& painter, const QRectF& area, const QColor& color, doub
                   inside.setBrush(color);
                   inside.drawRoundedRect(place, radius * scale, radius * scale);
               });
+}
+
+QRect RoomForPopup(const QRect& fieldOnScreen)
+{
+    constexpr int edge = 1;
+    const QScreen* screen = QGuiApplication::screenAt(fieldOnScreen.center());
+    const QRect room = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    return room.adjusted(edge, edge, -edge, -edge);
 }
 
 } // namespace kova::qt

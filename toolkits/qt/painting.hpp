@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QRect>
 #include <QRectF>
 
 class QPainter;
@@ -21,6 +22,9 @@ void PaintField(QPainter& painter, const QRectF& area, const FieldState& state, 
 
 /// The ring inside a control's edge that shows the keyboard's focus on any ground.
 void PaintFocusRing(QPainter& painter, const QRectF& area, const QColor& ground);
+
+/// What a popup at a field may take: all of the field's screen but for a narrow edge.
+QRect RoomForPopup(const QRect& fieldOnScreen);
 
 /// A filled rounded plate.
 void PaintPlate(QPainter& painter, const QRectF& area, const QColor& color, double radius);

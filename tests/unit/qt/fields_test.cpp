@@ -4,6 +4,7 @@
 #include "toolkits/qt/date_box.hpp"
 #include "toolkits/qt/field_frame.hpp"
 #include "toolkits/qt/navigation_bar.hpp"
+#include "toolkits/qt/theme.hpp"
 
 #include <QApplication>
 #include <QClipboard>
@@ -11,6 +12,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QScreen>
 
 namespace kova::qt::test {
 namespace {
@@ -166,6 +168,37 @@ TEST_F(Fields, CalendarStaysInsideItsRange)
     calendar.Open(QRect(0, 0, 10, 10), {2024, 1, 31});
     Press(&calendar, Qt::Key_PageDown);
     EXPECT_EQ(calendar.Current(), (Date{2024, 2, 29}));
+}
+
+TEST_F(Fields, CalendarAndListStayOnTheScreenWhereverTheirFieldIs)
+{
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    CalendarPopup calendar(nullptr, {2026, 3, 18}, nullptr);
+    calendar.Open(QRect(room.right() - 60, 100, 60, room.height() - 200), {2026, 3, 18});
+    const auto isOnScreen = [&room](const QRect& area) { return room.intersected(area) == area; };
+    EXPECT_TRUE(isOnScreen(calendar.geometry())) << calendar.x() << " " << calendar.y();
+    ComboField field(nullptr);
+    field.setGeometry(room.right() - 60, 100, 60, room.height() - 200);
+    field.show();
+    field.ShowList(QStringList(12, QString(60, QLatin1Char('m'))), 0);
+    const QRect list = field.List()->window()->geometry();
+    EXPECT_TRUE(isOnScreen(list)) << list.x() << " " << list.y() << " " << list.width() << " "
+                                  << list.height();
+}
+
+TEST_F(Fields, ListsMarkTheirRowByMoreThanAShade)
+{
+    auto& combo = Get<KVComboBox>("kvcmbSituacao");
+    combo.AddItem("Agendado");
+    combo.AddItem("Atendido");
+    combo.ListIndex(1);
+    auto& field = static_cast<ComboField&>(*WindowOf(combo));
+    combo.SetFocus();
+    Press(&field, Qt::Key_F4);
+    const QImage rows = Picture(field.List()->viewport());
+    EXPECT_NE(rows.pixel(1, 14), look::Accent.rgb());
+    EXPECT_EQ(rows.pixel(1, 42), look::Accent.rgb());
+    Press(field.List(), Qt::Key_Escape);
 }
 
 TEST_F(Fields, TimeFillsItsMaskFromTheLeft)
