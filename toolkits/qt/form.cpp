@@ -79,6 +79,25 @@ toolkit::InnerSize InnerSizeOf(const FormDesign& design, const QWidget& widget)
 
 QSize SizeOf(toolkit::InnerSize inner) { return QSize(Pixels(inner.width), Pixels(inner.height)); }
 
+// The room below a panel goes with the form's height, also where the form leaves the panel where it was.
+void PlacePanels(const toolkit::FormModel& model)
+{
+    for (const auto& core : model.Widgets()) {
+        if (core->KindOfWidget() == WidgetKind::PictureBox && core->GetView())
+            core->GetView()->Update(toolkit::Aspect::Geometry);
+    }
+}
+
+// The form has got that inner area from its container or its user.
+void Take(FormWidget& widget, toolkit::InnerSize inner)
+{
+    const QPointer<FormWidget> living(&widget);
+    widget.Area().Hold(SizeOf(inner));
+    widget.Model().UserResizes(inner);
+    if (living)
+        PlacePanels(widget.Model());
+}
+
 } // namespace
 
 FormWidget::FormWidget(toolkit::FormModel& model)
@@ -124,9 +143,7 @@ void FormWidget::resizeEvent(QResizeEvent*)
     // A form that gives its own size keeps it whatever a desktop makes of its window.
     if (followsModel || !isVisible() || !model_.Design().resizable)
         return;
-    const toolkit::InnerSize inner = InnerSizeOf(model_.Design(), *this);
-    area_->Hold(SizeOf(inner));
-    model_.UserResizes(inner);
+    Take(*this, InnerSizeOf(model_.Design(), *this));
 }
 
 void FormWidget::moveEvent(QMoveEvent*)
@@ -188,9 +205,7 @@ void FormWindow::FitToContainer()
     widget_->followsModel = true;
     widget_->setGeometry(container_->rect());
     widget_->followsModel = false;
-    const toolkit::InnerSize inner = InnerOf(*container_);
-    widget_->Area().Hold(SizeOf(inner));
-    model_.UserResizes(inner);
+    Take(*widget_, InnerOf(*container_));
 }
 
 void FormWindow::Update(toolkit::FormAspect aspect)
@@ -248,9 +263,7 @@ void FormWindow::FitToScreen()
     widget_->followsModel = true;
     widget_->resize(wanted.boundedTo(room));
     widget_->followsModel = false;
-    const toolkit::InnerSize inner = InnerSizeOf(design, *widget_);
-    widget_->Area().Hold(SizeOf(inner));
-    model_.UserResizes(inner);
+    Take(*widget_, InnerSizeOf(design, *widget_));
 }
 
 void FormWindow::CentreOver(const QWidget* other)
@@ -298,6 +311,7 @@ void FormWindow::Show(ShowMode mode)
     if (!container_ && !widget_->isVisible())
         widget_->setWindowModality(mode == ShowMode::Modal ? Qt::ApplicationModal : Qt::NonModal);
     vanished_ = !container_ && !model_.IsOnScreen();
+    PlacePanels(model_);
     if (!vanished_)
         Appear();
 }

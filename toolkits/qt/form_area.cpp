@@ -60,6 +60,18 @@ int ValueFor(const QScrollBar& bar, int start, int end, int seen)
     return std::min(value, start);
 }
 
+// Where the last button of that row ends, in pixels, and a margin.
+int ButtonsEndOf(const FormDesign& design, Twips footTop)
+{
+    constexpr int margin = 12;
+    int end = 0;
+    for (const ControlDesign& control : design.controls) {
+        if (control.kind == WidgetKind::KVCommandButton && LiesOnForm(control) && control.top >= footTop)
+            end = std::max(end, Pixels(control.left + control.width) + margin);
+    }
+    return end;
+}
+
 } // namespace
 
 Twips FootTopOf(const FormDesign& design)
@@ -80,7 +92,12 @@ Twips FootTopOf(const FormDesign& design)
 
 QSize InnerSizeWithin(const FormDesign& design, const QSize& given)
 {
-    return given.expandedTo(QSize(Pixels(design.leastWidth), Pixels(design.leastHeight)));
+    const QSize least(Pixels(design.leastWidth), Pixels(design.leastHeight));
+    bool tall = given.height() < least.height();
+    const bool wide = given.width() - (tall ? BarThickness : 0) < least.width();
+    tall = given.height() - (wide ? BarThickness : 0) < least.height();
+    const QSize bars(tall ? BarThickness : 0, wide ? BarThickness : 0);
+    return (given - bars).expandedTo(least);
 }
 
 QSize RoomFor(const FormDesign& design, const QWidget* near)
@@ -106,6 +123,7 @@ void RevealInForm(QWidget* control)
 FormArea::FormArea(const FormDesign& design, QWidget* window)
     : QWidget(window),
       footTop_(Pixels(FootTopOf(design))),
+      buttonsEnd_(ButtonsEndOf(design, FootTopOf(design))),
       body_(new QWidget(this)),
       bodyPlane_(new QWidget(body_)),
       foot_(new QWidget(this)),
@@ -168,7 +186,8 @@ void FormArea::MovePlanes()
 {
     const QSize plane = inner_.expandedTo(body_->size());
     bodyPlane_->setGeometry(QRect(QPoint(-horizontal_->value(), -vertical_->value()), plane));
-    footPlane_->setGeometry(QRect(QPoint(-horizontal_->value(), -footTop_), plane));
+    const int beyond = std::max(0, std::min(buttonsEnd_, inner_.width()) - foot_->width());
+    footPlane_->setGeometry(QRect(QPoint(-beyond, -footTop_), plane));
 }
 
 void FormArea::Reveal(const QWidget& control)
@@ -178,15 +197,13 @@ void FormArea::Reveal(const QWidget& control)
     // A label stands above its field; what is left of it and below is only for the look.
     constexpr int label = 26;
     constexpr int margin = 12;
-    const QWidget* plane = bodyPlane_->isAncestorOf(&control) ? bodyPlane_ : footPlane_;
-    if (!plane->isAncestorOf(&control))
+    if (!bodyPlane_->isAncestorOf(&control))
         return;
-    const QRect area(control.mapTo(plane, QPoint(0, 0)), control.size());
+    const QRect area(control.mapTo(bodyPlane_, QPoint(0, 0)), control.size());
     horizontal_->setValue(
         ValueFor(*horizontal_, area.left() - margin, area.right() + 1 + margin, body_->width()));
-    if (plane == bodyPlane_)
-        vertical_->setValue(
-            ValueFor(*vertical_, area.top() - label, area.bottom() + 1 + margin, body_->height()));
+    vertical_->setValue(
+        ValueFor(*vertical_, area.top() - label, area.bottom() + 1 + margin, body_->height()));
 }
 
 void FormArea::paintEvent(QPaintEvent*)

@@ -10,7 +10,8 @@ class QScrollBar;
 namespace kova::qt {
 
 /// What a window shows of its form. The form keeps its inner size however little room the window has: what
-/// does not fit scrolls, but for the row of buttons that ends the form, which stays at the lower edge.
+/// does not fit scrolls, but for the row of buttons that ends the form: it stays at the lower edge, and its
+/// buttons are seen.
 ///
 /// Two planes, each as large as the form, hold the controls at the form's own coordinates: one scrolls, of
 /// the other only the row of buttons is seen.
@@ -43,6 +44,7 @@ private:
 
     /// Where the row of buttons begins; 0 is none.
     const int footTop_;
+    const int buttonsEnd_;
     QSize inner_;
     QWidget* body_;
     QWidget* bodyPlane_;
@@ -56,7 +58,8 @@ private:
 /// all other controls lie wholly above or in that row. 0 where there is no such row.
 Twips FootTopOf(const FormDesign& design);
 
-/// The inner size of a window that its container or its user has given that size.
+/// The inner size of a window that its container or its user has given that size: all of it, less the scroll
+/// bars that the form's least size takes.
 QSize InnerSizeWithin(const FormDesign& design, const QSize& given);
 
 /// The largest inner size of a form's window on the screen of `near`, or on the first one where that is null.

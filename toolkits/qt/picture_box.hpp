@@ -21,6 +21,8 @@ private:
     double radius_ = 0;
 };
 
+/// Where a panel on the form reaches below the form's lower edge, its lines stand closer, as close as they
+/// can be read, and it lies a little higher.
 class PictureBoxView : public ViewOf<toolkit::PictureBoxModel, PanelWindow> {
 public:
     PictureBoxView(QtToolkit& toolkit, toolkit::PictureBoxModel& model, QWidget* parent)
@@ -28,8 +30,18 @@ public:
     {
     }
 
+    int TopInside(int top) const override;
+
 protected:
     void ShowLook() override;
+    void ShowGeometry() override;
+
+private:
+    /// Pixels that are missing below.
+    int Missing() const;
+
+    /// What is taken from the panel's height.
+    int squeezed_ = 0;
 };
 
 } // namespace kova::qt

@@ -31,10 +31,8 @@ void ShapeWindow::paintEvent(QPaintEvent*)
 // A rule is never thinner than one pixel.
 void ShapeView::ShowGeometry()
 {
-    const toolkit::WidgetState& state = Core().State();
-    QRect area = PixelRect(state.left, state.top, state.width, state.height);
-    area.setSize(QSize(std::max(1, area.width()), std::max(1, area.height())));
-    Shown().setGeometry(area);
+    WidgetView::ShowGeometry();
+    Shown().resize(Shown().size().expandedTo(QSize(1, 1)));
 }
 
 } // namespace kova::qt

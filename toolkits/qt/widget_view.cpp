@@ -123,7 +123,11 @@ void WidgetView::WatchFocus(QWidget* widget) { new FocusWatch(widget, core_); }
 void WidgetView::ShowGeometry()
 {
     const toolkit::WidgetState& state = core_.State();
-    widget_->setGeometry(PixelRect(state.left, state.top, state.width, state.height));
+    QRect area = PixelRect(state.left, state.top, state.width, state.height);
+    const toolkit::WidgetCore* panel = core_.Container();
+    if (const auto* view = panel ? dynamic_cast<const WidgetView*>(panel->GetView()) : nullptr)
+        area.moveTop(view->TopInside(area.top()));
+    widget_->setGeometry(area);
 }
 
 void WidgetView::ShowVisible()

@@ -25,6 +25,8 @@ public:
     QWidget* Window() const { return widget_; }
     /// Where children of a panel go and what a label's mnemonic reaches.
     virtual QWidget* FocusWindow() const { return widget_; }
+    /// Where a child of a panel is drawn that lies that far below the panel's upper edge, in pixels.
+    virtual int TopInside(int top) const { return top; }
 
 protected:
     virtual void ShowContent() { }

@@ -145,6 +145,25 @@ TEST_F(LargeForms, ScrollAcrossWhereTheyAreTooWide)
     Press(FocusWindowOf(near), Qt::Key_Backtab);
     EXPECT_TRUE(IsSeen(far));
     EXPECT_LE(WidgetOf(form)->width(), Room().width());
+    EXPECT_TRUE(IsSeen(Bind<KVCommandButton>(form, "kvcmdCancelar")));
+}
+
+TEST_F(LargeForms, KeepButtonsInSightAtTheFarEndOfTheirRow)
+{
+    FormDesign design = Tall();
+    design.width = ToTwips(Room().width() + 400);
+    design.controls[2].left = design.width - 3900;
+    design.controls[3].left = design.width - 2100;
+    FormRef form = Open(design);
+    auto& save = Bind<KVCommandButton>(form, "kvcmdSalvar");
+    auto& low = Bind<KVTextBox>(form, "kvtxtBaixo");
+    EXPECT_TRUE(IsSeen(save));
+    EXPECT_TRUE(IsSeen(Bind<KVCommandButton>(form, "kvcmdCancelar")));
+    low.SetFocus();
+    EXPECT_TRUE(IsSeen(low));
+    save.SetFocus();
+    EXPECT_TRUE(IsSeen(low));
+    EXPECT_TRUE(IsSeen(save));
 }
 
 TEST_F(LargeForms, TakeWhatTheScreenHasWhereTheUserGivesTheirSize)
@@ -179,6 +198,82 @@ TEST_F(LargeForms, ScrollInAContainerBelowTheirLeastSize)
     Settle();
     EXPECT_EQ(form->ScaleWidth(), 10500);
     EXPECT_TRUE(IsSeen(Bind<KVTextBox>(form, "kvtxtCima")));
+}
+
+TEST_F(LargeForms, GiveWayToTheScrollBarOfTheirLeastSize)
+{
+    QWidget container;
+    container.resize(400, 300);
+    container.show();
+    FormDesign design = Form({});
+    design.leastWidth = 4500;
+    design.leastHeight = 9000;
+    FormRef form = toolkit_.CreateForm(design);
+    form->SetParent(HandleOf(container));
+    form->Show(ShowMode::Modeless);
+    EXPECT_GT(form->ScaleWidth(), 4500);
+    EXPECT_LT(form->ScaleWidth(), 6000);
+    EXPECT_FALSE(WidgetOf(form)->findChildren<QScrollBar*>()[1]->isVisible());
+    design.leastWidth = 9000;
+    design.leastHeight = 3000;
+    FormRef wide = toolkit_.CreateForm(design);
+    wide->SetParent(HandleOf(container));
+    EXPECT_EQ(wide->ScaleWidth(), 9000);
+    EXPECT_LT(wide->ScaleHeight(), 4500);
+}
+
+/// A panel with four lines at the lower edge of a form that takes the room of its container.
+class PanelAtTheEdge : public LargeForms {
+protected:
+    static constexpr int RoomBelow = 50;
+
+    PanelAtTheEdge()
+    {
+        container_.resize(500, 400);
+        container_.show();
+        ControlDesign panel =
+            Design(WidgetKind::PictureBox, "picPainel", 0, ToTwips(400 - RoomBelow), 6000, ToTwips(75));
+        std::vector<ControlDesign> controls{panel};
+        for (int line = 0; line < Lines; ++line) {
+            ControlDesign label = Design(WidgetKind::Label, "lbl", 0, ToTwips(3 + 17 * line), 0, 0);
+            label.index = line;
+            label.container = "picPainel";
+            label.caption = "Serviço";
+            label.autoSize = true;
+            label.fontSize = 9;
+            controls.push_back(label);
+        }
+        form_ = toolkit_.CreateForm(Form(controls));
+        form_->SetParent(HandleOf(container_));
+        form_->Show(ShowMode::Modeless);
+        Settle();
+    }
+    QWidget* Line(int index) { return WindowOf(form_->Control("lbl", index)); }
+
+    static constexpr int Lines = 4;
+    QWidget container_;
+    FormRef form_;
+};
+
+TEST_F(PanelAtTheEdge, DrawsItsLinesCloserSoThatAllAreSeen)
+{
+    for (int line = 0; line < Lines; ++line) {
+        EXPECT_EQ(Line(line)->visibleRegion().boundingRect(), Line(line)->rect()) << line;
+        if (line > 0) {
+            EXPECT_GE(Line(line)->y(), Line(line - 1)->y() + 13);
+        }
+    }
+    EXPECT_EQ(form_->Control("picPainel").Top(), ToTwips(400 - RoomBelow));
+    EXPECT_EQ(form_->Control("picPainel").Height(), ToTwips(75));
+}
+
+TEST_F(PanelAtTheEdge, DrawsThemAsDesignedOnceThereIsRoom)
+{
+    container_.resize(500, 500);
+    Settle();
+    EXPECT_EQ(WindowOf(form_->Control("picPainel"))->geometry(), QRect(0, 400 - RoomBelow, 400, 75));
+    for (int line = 0; line < Lines; ++line)
+        EXPECT_EQ(Line(line)->y(), 3 + 17 * line);
 }
 
 TEST(FormFoot, BeginsAboveTheButtonsThatEndTheForm)
