@@ -98,9 +98,11 @@ bool ToolkitModel::IsShutOut(const FormModel& form) const
 void ToolkitModel::LeaveEvent() noexcept
 {
     // While the event still counts, so that no form dies meanwhile.
-    if (eventDepth_ == 1 && pointerIsUntold_)
+    if (eventDepth_ == idleDepths_.back() + 1 && pointerIsUntold_)
         TellPointer();
     --eventDepth_;
+    if (eventDepth_ == idleDepths_.back())
+        InputAwaited();
     if (eventDepth_ > 0)
         return;
     if (!retired_.empty())
@@ -166,8 +168,13 @@ void ToolkitModel::PushModal(FormModel& form)
 {
     ++interruptions_;
     modal_.push_back(&form);
+    idleDepths_.push_back(eventDepth_);
 }
 
-void ToolkitModel::PopModal(FormModel& form) { Remove(modal_, form); }
+void ToolkitModel::PopModal(FormModel& form)
+{
+    Remove(modal_, form);
+    idleDepths_.pop_back();
+}
 
 } // namespace kova::toolkit

@@ -101,6 +101,9 @@ protected:
     virtual void ScheduleRelease() { ReleaseRetired(); }
     /// The outermost event has ended.
     virtual void EventsEnded() { }
+    /// The innermost modal form, or where there is none any form, handles no event any more: the user's next
+    /// key is for it. The event that shows a modal form is still on the stack then.
+    virtual void InputAwaited() { }
     /// Destroys the forms that nobody holds any more; does nothing while an event is on the stack. A
     /// toolkit calls it in its destructor, as long as windows and views can still be destroyed.
     void ReleaseRetired();
@@ -138,6 +141,8 @@ private:
 
     AccessObserver* observer_ = nullptr;
     int eventDepth_ = 0;
+    /// How many events were on the stack when each of the modal forms was shown.
+    std::vector<int> idleDepths_{0};
     int closedDepth_ = 0;
     int pauses_ = 0;
     unsigned interruptions_ = 0;

@@ -169,7 +169,7 @@ void InputGate::Keep(KeptKey key)
     kept_.push_back(std::move(key));
 }
 
-void InputGate::EventsEnded()
+void InputGate::InputAwaited()
 {
     if (!kept_.empty() && !delivering_)
         QTimer::singleShot(0, this, [this] { DeliverKeptKeys(); });
@@ -190,7 +190,7 @@ void InputGate::DeliverKeptKeys()
         Deliver(key, *target);
     }
     delivering_ = false;
-    EventsEnded();
+    InputAwaited();
 }
 
 void InputGate::Deliver(const KeptKey& key, QWidget& target)

@@ -27,8 +27,8 @@ public:
     ~InputGate() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
-    /// The outermost event has ended: keys that were kept are delivered where their form takes input again.
-    void EventsEnded();
+    /// A form waits for input again: keys that were kept are delivered where it is theirs.
+    void InputAwaited();
 
 private:
     /// The last press of the left button, in whichever window.

@@ -209,11 +209,12 @@ void QtToolkit::ScheduleRelease()
     QTimer::singleShot(0, gate_.get(), [this] { ReleaseRetired(); });
 }
 
-void QtToolkit::EventsEnded()
+void QtToolkit::EventsEnded() { ScheduleBurials(); }
+
+void QtToolkit::InputAwaited()
 {
-    ScheduleBurials();
     if (gate_)
-        gate_->EventsEnded();
+        gate_->InputAwaited();
 }
 
 } // namespace kova::qt

@@ -52,6 +52,7 @@ protected:
     void ShowPreview(const toolkit::ReportModel& report, const reports::Document& pages);
     void ScheduleRelease() override;
     void EventsEnded() override;
+    void InputAwaited() override;
 
 private:
     const Clock& clock_;

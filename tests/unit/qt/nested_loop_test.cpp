@@ -214,6 +214,41 @@ TEST_F(KeysOfAPause, LeadToTheFieldOfTheirMnemonicAlsoBehindAnOpenList)
     EXPECT_TRUE(CoreOf(*box_).HasFocus());
 }
 
+// The record is such a form: the handler of a button of the list shows it and waits for its end.
+TEST_F(KeysOfAPause, AreDeliveredToAModalFormThatAHandlerShows)
+{
+    FormRef record = toolkit_.CreateForm(Form({Design(WidgetKind::KVComboBox, "kvcmb", 0, 0, 3000, 510),
+                                               Design(WidgetKind::KVTextBox, "kvtxt", 0, 600, 3000, 510)}));
+    auto& animal = Bind<KVComboBox>(record, "kvcmb");
+    auto& name = Bind<KVTextBox>(record, "kvtxt");
+    animal.AddItem("Rex");
+    animal.OnClick([&] {
+        record->Enabled(false);
+        toolkit_.PauseBegins(1);
+        QTimer::singleShot(0, qApp, [&] {
+            QTest::sendKeyEvent(QTest::Click, WindowOf(name)->window()->windowHandle(), Qt::Key_B,
+                                QStringLiteral("b"), Qt::NoModifier);
+        });
+        toolkit_.ProcessPendingEvents();
+        toolkit_.PauseEnds();
+        record->Enabled(true);
+    });
+    Text typed;
+    auto& button = Bind<KVCommandButton>(form_, "kvcmd");
+    button.OnClick([&] {
+        QTimer::singleShot(0, qApp, [&] {
+            name.SetFocus();
+            dynamic_cast<toolkit::ComboBoxModel&>(animal).UserChooses(0);
+            Settle();
+            typed = name.Text();
+            record->Hide();
+        });
+        record->Show(ShowMode::Modal);
+    });
+    ClickAt(WindowOf(button), QPoint(10, 10));
+    EXPECT_EQ(typed, "b");
+}
+
 TEST_F(KeysOfAPause, AreDroppedWhereABoxHasComeUpMeanwhile)
 {
     WaitInAnEvent([this] { TypeNow("ana"); },
