@@ -1,4 +1,5 @@
 #include "host/daily_backup.hpp"
+#include "tests/unit/host/with_application.hpp"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -45,17 +46,8 @@ private:
     const StoreScript& script_;
 };
 
-class CopyOfTheDay : public testing::Test {
+class CopyOfTheDay : public WithApplication {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int count = 1;
-        static char name[] = "test_host";
-        static char* words[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(count, words);
-    }
-    static void TearDownTestSuite() { application_.reset(); }
-
     /// What is told of one copy; waits for it.
     std::string Told()
     {
@@ -70,8 +62,6 @@ protected:
         loop.exec();
         return told;
     }
-
-    inline static std::unique_ptr<QApplication> application_;
     StoreScript script_;
     OneStore service_{script_};
 };

@@ -1,5 +1,6 @@
 #include "family/presentation/clsFundoEscuro.hpp"
 #include "family/presentation/dimming_layer.hpp"
+#include "tests/unit/host/with_application.hpp"
 
 #include <QApplication>
 #include <QDialog>
@@ -72,17 +73,8 @@ bool Stays(QObject* object)
     return !watched.isNull();
 }
 
-class Dimming : public testing::Test {
+class Dimming : public host::WithApplication {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int count = 1;
-        static char name[] = "test_host";
-        static char* words[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(count, words);
-    }
-    static void TearDownTestSuite() { application_.reset(); }
-
     Dimming()
     {
         window_.resize(400, 300);
@@ -101,8 +93,6 @@ protected:
         }
         return layers;
     }
-
-    inline static std::unique_ptr<QApplication> application_;
     Window window_;
 };
 

@@ -3,6 +3,7 @@
 #include "family/presentation/error_window.hpp"
 #include "family/presentation/failure_words.hpp"
 #include "family/presentation/window_in_front.hpp"
+#include "tests/unit/host/with_application.hpp"
 
 #include <QApplication>
 #include <QClipboard>
@@ -19,18 +20,8 @@ namespace kova::family {
 
 namespace {
 
-/// The application lives as long as its tests: it must not be left to the end of the process.
-class ErrorScreen : public testing::Test {
+class ErrorScreen : public host::WithApplication {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int count = 1;
-        static char name[] = "test_host";
-        static char* words[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(count, words);
-    }
-    static void TearDownTestSuite() { application_.reset(); }
-
     static void PressKey(QWidget& window, Qt::Key key)
     {
         QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
@@ -41,8 +32,6 @@ protected:
     {
         return window.findChild<QPlainTextEdit*>(name)->toPlainText().toStdString();
     }
-
-    inline static std::unique_ptr<QApplication> application_;
     static Text LabelOf(const ErrorWindow& window, const char* name)
     {
         return window.findChild<QLabel*>(name)->text().toStdString();

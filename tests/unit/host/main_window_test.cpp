@@ -1,5 +1,6 @@
 #include "host/main_window.hpp"
 #include "host/notice_bar.hpp"
+#include "tests/unit/host/with_application.hpp"
 
 #include <QApplication>
 #include <QIcon>
@@ -14,23 +15,12 @@ namespace kova::host {
 
 namespace {
 
-class TheMainWindow : public testing::Test {
+class TheMainWindow : public WithApplication {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int count = 1;
-        static char name[] = "test_host";
-        static char* words[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(count, words);
-    }
-    static void TearDownTestSuite() { application_.reset(); }
-
     static std::string TitleOf(const MainWindow::Heading& heading)
     {
         return MainWindow(heading).windowTitle().toStdString();
     }
-
-    inline static std::unique_ptr<QApplication> application_;
 };
 
 } // namespace

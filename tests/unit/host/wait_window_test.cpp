@@ -1,5 +1,6 @@
 #include "family/presentation/clsMensagemDeAcesso.hpp"
 #include "family/presentation/wait_window.hpp"
+#include "tests/unit/host/with_application.hpp"
 
 #include <QApplication>
 #include <QLabel>
@@ -13,17 +14,8 @@ namespace kova::family {
 
 namespace {
 
-class WaitMessage : public testing::Test {
+class WaitMessage : public host::WithApplication {
 protected:
-    static void SetUpTestSuite()
-    {
-        static int count = 1;
-        static char name[] = "test_host";
-        static char* words[] = {name, nullptr};
-        application_ = std::make_unique<QApplication>(count, words);
-    }
-    static void TearDownTestSuite() { application_.reset(); }
-
     /// The texts of the wait windows on the screen.
     static QStringList Shown()
     {
@@ -34,8 +26,6 @@ protected:
         }
         return texts;
     }
-
-    inline static std::unique_ptr<QApplication> application_;
 };
 
 } // namespace
