@@ -34,6 +34,8 @@ TEST(SessionUser, CannotBeWrittenAndHasNothingElse)
 {
     SessionUser user(7, "Ana");
     EXPECT_EQ(NumberOfFailure([&] { user.Set("Nome", "Bia"); }), 450);
+    EXPECT_EQ(NumberOfFailure([&] { user.Set("Codigo", Long{8}); }), 450);
+    EXPECT_EQ(NumberOfFailure([&] { user.Set("Senha", "x"); }), 438);
     EXPECT_EQ(NumberOfFailure([&] { user.Get("Senha"); }), 438);
     EXPECT_EQ(NumberOfFailure([&] { user.Call("Nome"); }), 438);
     EXPECT_EQ(user.Get("Nome"), Value("Ana"));
