@@ -141,9 +141,15 @@ void FormModel::SetParent(Long containerHandle)
     TakeInner(*inner);
 }
 
+// What lays a form out may hide a control for as long as it moves it: the focus is back with it then.
 void FormModel::UserResizes(InnerSize inner)
 {
-    ByUser([this, inner] { TakeInner(inner); });
+    ByUser([this, inner] {
+        WidgetCore* former = focused_;
+        TakeInner(inner);
+        if (former && !focused_)
+            MoveFocus(former);
+    });
 }
 
 void FormModel::UserMoves(Twips left, Twips top)

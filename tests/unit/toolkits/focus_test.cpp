@@ -43,6 +43,30 @@ TEST_F(FocusOrder, FollowsTheDesign)
     EXPECT_EQ(Focused(), "c");
 }
 
+TEST_F(FocusOrder, StaysWithWhatIsHiddenOnlyWhileAFormIsLaidOut)
+{
+    form_->OnResize([this] {
+        Get<KVDTPicker>("a").Visible(false);
+        Get<KVDTPicker>("a").Visible(true);
+    });
+    dynamic_cast<toolkit::FormModel&>(*form_).UserResizes({6000, 6000});
+    EXPECT_EQ(Focused(), "a");
+    form_->OnResize([this] { Get<KVDTPicker>("a").Visible(false); });
+    dynamic_cast<toolkit::FormModel&>(*form_).UserResizes({7000, 6000});
+    EXPECT_EQ(Focused(), "");
+}
+
+TEST_F(FocusOrder, GoesWhereTheLayoutOfAFormPutsIt)
+{
+    form_->OnResize([this] {
+        Get<KVDTPicker>("a").Visible(false);
+        Get<KVDTPicker>("a").Visible(true);
+        Get<KVComboBox>("c").SetFocus();
+    });
+    dynamic_cast<toolkit::FormModel&>(*form_).UserResizes({6000, 6000});
+    EXPECT_EQ(Focused(), "c");
+}
+
 TEST_F(FocusOrder, SkipsWhatIsHiddenDisabledOrNoTabStop)
 {
     Get<PictureBox>("pic").Visible(false);
