@@ -1,12 +1,9 @@
 #include "family/data/file_checks.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "system/access.hpp"
+#include "system/path_text.hpp"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <filesystem>
 #include <fstream>
 
 namespace kova::family {
@@ -17,20 +14,16 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view SqliteHeader("SQLite format 3\0", 16);
 
-/// By the rights the process acts with, not those of whoever started it.
-bool MayWrite(const fs::path& path) { return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0; }
-bool MayRead(const fs::path& path) { return faccessat(AT_FDCWD, path.c_str(), R_OK, AT_EACCESS) == 0; }
-
-fs::path FolderOf(const std::string& path)
+std::string FolderOf(const std::string& path)
 {
-    const fs::path folder = fs::path(path).parent_path();
-    return folder.empty() ? fs::path(".") : folder;
+    const fs::path folder = system::PathOf(path).parent_path();
+    return folder.empty() ? "." : system::TextOf(folder);
 }
 
 bool HasSqliteHeader(const std::string& path)
 {
     std::string header(SqliteHeader.size(), ' ');
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(system::PathOf(path), std::ios::binary);
     file.read(header.data(), static_cast<std::streamsize>(header.size()));
     return file && header == SqliteHeader;
 }
@@ -49,18 +42,18 @@ std::optional<std::string> CheckPathText(const std::string& path)
 
 std::optional<std::string> CheckFolder(const std::string& path)
 {
-    const fs::path folder = FolderOf(path);
-    if (!fs::is_directory(folder))
-        return "A pasta \"" + folder.string() + "\" de \"" + path + "\" não existe. Verifique o caminho.";
-    if (!MayWrite(folder))
-        return "A pasta \"" + folder.string() + "\" de \"" + path
+    const std::string folder = FolderOf(path);
+    if (!fs::is_directory(system::PathOf(folder)))
+        return "A pasta \"" + folder + "\" de \"" + path + "\" não existe. Verifique o caminho.";
+    if (!system::MayWrite(folder))
+        return "A pasta \"" + folder + "\" de \"" + path
             + "\" não aceita gravação. Verifique as permissões da pasta ou escolha outra.";
     return std::nullopt;
 }
 
 std::optional<std::string> CheckKind(const std::string& path)
 {
-    const fs::file_status status = fs::status(path);
+    const fs::file_status status = fs::status(system::PathOf(path));
     if (status.type() == fs::file_type::not_found)
         return "O banco de dados \"" + path + "\" não existe. Verifique o caminho ou crie um novo.";
     if (status.type() == fs::file_type::directory)
@@ -76,7 +69,7 @@ std::optional<std::string> CheckExistingFileUnguarded(const std::string& path)
         return refusal;
     if (auto refusal = CheckKind(path))
         return refusal;
-    if (!MayRead(path) || !MayWrite(path))
+    if (!system::MayRead(path) || !system::MayWrite(path))
         return "O arquivo \"" + path
             + "\" não pode ser lido e gravado por este usuário. Verifique as permissões do arquivo.";
     if (!HasSqliteHeader(path))
@@ -88,7 +81,7 @@ std::optional<std::string> CheckNewFileUnguarded(const std::string& path)
 {
     if (auto refusal = CheckPathText(path))
         return refusal;
-    if (fs::exists(fs::symlink_status(path)))
+    if (fs::exists(fs::symlink_status(system::PathOf(path))))
         return "O arquivo \"" + path + "\" já existe. Escolha outro nome ou apague o arquivo.";
     return CheckFolder(path);
 }
@@ -115,17 +108,6 @@ std::optional<std::string> CheckExistingFile(const std::string& path)
 std::optional<std::string> CheckNewFile(const std::string& path)
 {
     return Guarded(path, CheckNewFileUnguarded);
-}
-
-void Harden(const std::string& path)
-{
-    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    const bool done = file >= 0 && fsync(file) == 0;
-    const std::error_code cause(errno, std::generic_category());
-    if (file >= 0)
-        close(file);
-    if (!done)
-        throw fs::filesystem_error("fsync", path, cause);
 }
 
 } // namespace kova::family

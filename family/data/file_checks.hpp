@@ -12,7 +12,4 @@ std::optional<std::string> CheckExistingFile(const std::string& path);
 /// Why no new file can be made at that path.
 std::optional<std::string> CheckNewFile(const std::string& path);
 
-/// Waits until the file's content is on the disk. Fails with std::filesystem::filesystem_error.
-void Harden(const std::string& path);
-
 } // namespace kova::family

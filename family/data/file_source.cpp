@@ -4,8 +4,8 @@
 #include "family/data/file_checks.hpp"
 #include "family/data/unfinished_file.hpp"
 #include "family/data/write_transaction.hpp"
-
-#include <filesystem>
+#include "system/flush.hpp"
+#include "system/path_text.hpp"
 
 namespace kova::family {
 
@@ -32,7 +32,7 @@ const Dialect& ReadingDialect()
 /// last to close, carry a dead program's log into the database.
 std::unique_ptr<Database> ConnectForReading(const std::string& path)
 {
-    const bool hasLog = std::filesystem::exists(path + "-wal");
+    const bool hasLog = std::filesystem::exists(system::PathOf(path + "-wal"));
     return std::make_unique<Database>(ReadingDialect(), Connection(path, hasLog ? "readonly=true " : ""),
                                       path);
 }
@@ -61,11 +61,11 @@ std::optional<std::string> CheckVersion(const std::string& path, Migrations migr
 void Backup(Database& database, int version)
 {
     const std::string name = BackupName(database.Path(), version);
-    const std::string unfinished = name + ".parcial";
-    std::filesystem::remove(unfinished);
+    const std::string unfinished = UnfinishedName(name);
+    std::filesystem::remove(system::PathOf(unfinished));
     database.Session() << "vacuum into :copia", soci::use(unfinished);
-    Harden(unfinished);
-    std::filesystem::rename(unfinished, name);
+    system::FlushFile(unfinished);
+    std::filesystem::rename(system::PathOf(unfinished), system::PathOf(name));
 }
 
 void BringUpToDate(Database& database, Migrations migrations)

@@ -2,28 +2,14 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "family/data/data_source.hpp"
-#include "family/data/file_checks.hpp"
 #include "family/data/online_copy.hpp"
-
-#include <fcntl.h>
-#include <unistd.h>
+#include "system/flush.hpp"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace kova::family {
 
 namespace {
-
-/// Only a hint: where the system does not take it, it answers from its memory.
-void ForgetContent(const std::string& path)
-{
-    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (file < 0)
-        return;
-    posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED);
-    close(file);
-}
 
 [[noreturn]] void FailTrial(const std::string& path, const std::string& reason,
                             const std::string& detail = {})
@@ -50,8 +36,8 @@ void RequireSound(Database& copy)
 std::vector<TableCount> TrialRestore(const std::string& path, const LongWork& work)
 {
     try {
-        Harden(path);
-        ForgetContent(path);
+        system::FlushFile(path);
+        system::ForgetContent(path);
         const std::unique_ptr<Database> copy = OpenForReading(path);
         const InterruptOnStop interrupt(*copy, work.stop);
         RequireSound(*copy);

@@ -2,15 +2,10 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "family/data/file_checks.hpp"
-
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdio>
-#include <filesystem>
+#include "system/flush.hpp"
+#include "system/path_text.hpp"
+#include "system/rename.hpp"
+#include "system/want_of_room.hpp"
 
 namespace kova::family {
 
@@ -18,69 +13,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string AdviceFor(int cause)
+std::string AdviceFor(const std::error_code& cause)
 {
-    switch (cause) {
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG: return "O disco está cheio. Libere espaço e tente novamente.";
-    case ENOENT: return "A pasta não existe. Verifique o caminho.";
-    case EACCES:
-    case EPERM:
-    case EROFS: return "Verifique as permissões da pasta ou escolha outra.";
-    default: return "Verifique o caminho e tente novamente.";
-    }
-}
-
-[[noreturn]] void FailOn(const char* what, const std::string& path)
-{
-    throw fs::filesystem_error(what, path, std::error_code(errno, std::generic_category()));
-}
-
-/// File systems of other computers' disks and sticks may not know the renaming that never replaces.
-void RenameWithoutReplacing(const std::string& from, const std::string& to)
-{
-    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
-        return;
-    if (errno != EINVAL && errno != ENOSYS)
-        FailOn("rename", to);
-    if (fs::exists(fs::symlink_status(to))) {
-        errno = EEXIST;
-        FailOn("rename", to);
-    }
-    fs::rename(from, to);
-}
-
-void HardenFolderOf(const std::string& path)
-{
-    const fs::path folder = fs::path(path).parent_path();
-    Harden(folder.empty() ? "." : folder.string());
-}
-
-/// Whether the opened file still is the one that bears the name: its maker may have finished it meanwhile.
-bool Bears(int file, const std::string& name)
-{
-    struct stat opened {
-    }, named{};
-    return fstat(file, &opened) == 0 && stat(name.c_str(), &named) == 0 && opened.st_ino == named.st_ino
-        && opened.st_dev == named.st_dev;
-}
-
-/// The open file with its lock; -1 with errno where there is none to be had.
-int OpenLocked(const std::string& name, int flags)
-{
-    const int file = open(name.c_str(), flags | O_RDWR | O_CLOEXEC, 0666);
-    if (file < 0)
-        return -1;
-    if (flock(file, LOCK_EX | LOCK_NB) == 0) {
-        if (Bears(file, name))
-            return file;
-        errno = EWOULDBLOCK;
-    }
-    const int cause = errno;
-    close(file);
-    errno = cause;
-    return -1;
+    if (system::IsWantOfRoom(cause))
+        return "O disco está cheio. Libere espaço e tente novamente.";
+    if (cause == std::errc::no_such_file_or_directory)
+        return "A pasta não existe. Verifique o caminho.";
+    if (cause == std::errc::permission_denied || cause == std::errc::operation_not_permitted
+        || cause == std::errc::read_only_file_system)
+        return "Verifique as permissões da pasta ou escolha outra.";
+    return "Verifique o caminho e tente novamente.";
 }
 
 /// With the log files that the engine may have put beside it. What cannot be removed stays.
@@ -88,18 +30,18 @@ void RemoveUnfinished(const std::string& path)
 {
     std::error_code ignored;
     for (const char* companion : {"", "-wal", "-shm", "-journal"})
-        fs::remove(UnfinishedName(path) + companion, ignored);
+        fs::remove(system::PathOf(UnfinishedName(path) + companion), ignored);
 }
 
 } // namespace
 
-StoreFailure UnwritableFile(const std::string& path, int cause)
+StoreFailure UnwritableFile(const std::string& path, const std::error_code& cause)
 {
-    if (cause == EEXIST)
+    if (cause == std::errc::file_exists)
         return DatabaseFailure("O arquivo \"" + path
                                + "\" já existe. Escolha outro nome ou apague o arquivo.");
-    return DatabaseFailure(WithDetail("O arquivo \"" + path + "\" não pode ser gravado. " + AdviceFor(cause),
-                                      std::generic_category().message(cause)));
+    return DatabaseFailure(
+        WithDetail("O arquivo \"" + path + "\" não pode ser gravado. " + AdviceFor(cause), cause.message()));
 }
 
 std::string UnfinishedName(const std::string& path) { return path + ".parcial"; }
@@ -109,41 +51,42 @@ UnfinishedFile::UnfinishedFile(std::string path) : path_(std::move(path)), name_
     if (const auto refusal = CheckNewFile(path_))
         throw DatabaseFailure(*refusal);
     RemoveAbandoned(path_);
-    file_ = OpenLocked(name_, O_CREAT);
-    if (file_ >= 0)
+    std::error_code cause;
+    lock_ = system::FileLock::Try(name_, system::FileLock::Missing::Make, cause);
+    if (lock_.IsHeld())
         return;
-    if (errno == EWOULDBLOCK)
+    if (cause == std::errc::resource_unavailable_try_again)
         throw DatabaseFailure("O arquivo \"" + path_
                               + "\" está sendo feito por outro programa. Espere que ele termine.");
-    throw UnwritableFile(path_, errno);
+    throw UnwritableFile(path_, cause);
 }
 
 UnfinishedFile::~UnfinishedFile()
 {
     if (!finished_)
         RemoveUnfinished(path_);
-    close(file_);
 }
 
 void UnfinishedFile::Finish()
 {
     try {
-        Harden(name_);
-        RenameWithoutReplacing(name_, path_);
-        HardenFolderOf(path_);
+        system::FlushFile(name_);
+        system::RenameWithoutReplacing(name_, path_);
+        system::FlushFolder(system::TextOf(system::PathOf(path_).parent_path()));
     } catch (const fs::filesystem_error& cause) {
-        throw UnwritableFile(path_, cause.code().value());
+        throw UnwritableFile(path_, cause.code());
     }
     finished_ = true;
 }
 
 bool RemoveAbandoned(const std::string& path)
 {
-    const int file = OpenLocked(UnfinishedName(path), 0);
-    if (file < 0)
-        return errno == EWOULDBLOCK;
+    std::error_code cause;
+    const system::FileLock lock =
+        system::FileLock::Try(UnfinishedName(path), system::FileLock::Missing::Fail, cause);
+    if (!lock.IsHeld())
+        return cause == std::errc::resource_unavailable_try_again;
     RemoveUnfinished(path);
-    close(file);
     return false;
 }
 

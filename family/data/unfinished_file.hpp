@@ -1,13 +1,14 @@
 #pragma once
 
 #include "family/data/database_failure.hpp"
+#include "system/file_lock.hpp"
 
 #include <string>
 
 namespace kova::family {
 
-/// Why a file cannot be made, by the system's number of the cause.
-StoreFailure UnwritableFile(const std::string& path, int cause);
+/// Why a file cannot be made.
+StoreFailure UnwritableFile(const std::string& path, const std::error_code& cause);
 
 /// Where a file is made before it gets its name: "PATH.parcial".
 std::string UnfinishedName(const std::string& path);
@@ -34,8 +35,7 @@ public:
 private:
     std::string path_;
     std::string name_;
-    /// Locked; the lock goes with the process.
-    int file_ = -1;
+    system::FileLock lock_;
     bool finished_ = false;
 };
 

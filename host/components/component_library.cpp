@@ -2,9 +2,7 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "host/components/component_error.hpp"
-
-#include <dlfcn.h>
-#include <filesystem>
+#include "system/path_text.hpp"
 
 namespace kova::host {
 
@@ -16,51 +14,40 @@ ServerStatus Status(std::int32_t code) { return static_cast<ServerStatus>(code);
 std::string Canonical(const std::string& path)
 {
     std::error_code error;
-    const auto canonical = std::filesystem::weakly_canonical(path, error);
-    return error ? path : canonical.string();
+    const auto canonical = std::filesystem::weakly_canonical(system::PathOf(path), error);
+    return error ? path : system::TextOf(canonical);
 }
 
 std::string Named(const std::string& path) { return "A biblioteca '" + path + "'"; }
 
-std::string LoaderReason()
+std::unique_ptr<system::Library> LoadFile(const std::string& path)
 {
-    const char* reason = ::dlerror();
-    return reason ? reason : "";
+    std::error_code error;
+    if (!std::filesystem::exists(system::PathOf(path), error))
+        throw ComponentError(Named(path)
+                             + " não foi encontrada. Instale-a novamente ou registre o componente de onde ela"
+                               " está agora.");
+    try {
+        return std::make_unique<system::Library>(path);
+    } catch (const system::LibraryNotLoaded& failure) {
+        throw ComponentError(
+            WithDetail(Named(path)
+                           + " não pode ser carregada. O arquivo pode estar danificado ou não ser uma"
+                             " biblioteca; instale-o novamente.",
+                       failure.what()));
+    }
 }
 
 } // namespace
 
-LoadedLibrary::LoadedLibrary(const std::string& path) : path_(path)
+LoadedLibrary::LoadedLibrary(const std::string& path) : path_(path), library_(LoadFile(path))
 {
-    std::error_code error;
-    if (!std::filesystem::exists(path_, error))
-        throw ComponentError(Named(path_)
-                             + " não foi encontrada. Instale-a novamente ou registre o componente de onde ela"
-                               " está agora.");
-    handle_ = ::dlopen(path_.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!handle_)
-        throw ComponentError(
-            WithDetail(Named(path_)
-                           + " não pode ser carregada. O arquivo pode estar danificado ou não ser uma"
-                             " biblioteca; instale-o novamente.",
-                       LoaderReason()));
-    try {
-        FindEntryPoints();
-    } catch (...) {
-        ::dlclose(handle_);
-        throw;
-    }
-}
-
-LoadedLibrary::~LoadedLibrary()
-{
-    if (handle_)
-        ::dlclose(handle_);
+    FindEntryPoints();
 }
 
 template <class Function> void LoadedLibrary::Find(Function& function, const char* name)
 {
-    function = reinterpret_cast<Function>(::dlsym(handle_, name));
+    function = reinterpret_cast<Function>(library_->Find(name));
     if (!function)
         throw ComponentError(Named(path_) + " não é uma biblioteca de componentes: falta o ponto de entrada '"
                              + name + "'.");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/component_server.hpp"
+#include "system/library.hpp"
 
 #include <map>
 #include <memory>
@@ -15,7 +16,6 @@ public:
     /// initialisation. Fails with ComponentError where the file is missing, is no library, needs something
     /// that is not there, or lacks an entry point.
     explicit LoadedLibrary(const std::string& path);
-    ~LoadedLibrary();
     LoadedLibrary(const LoadedLibrary&) = delete;
     LoadedLibrary& operator=(const LoadedLibrary&) = delete;
 
@@ -28,14 +28,14 @@ public:
     ServerStatus UnregisterServer() const;
 
     /// Leaves the shared object loaded for the rest of the process when this goes.
-    void Abandon() { handle_ = nullptr; }
+    void Abandon() { library_->Abandon(); }
 
 private:
     template <class Function> void Find(Function& function, const char* name);
     void FindEntryPoints();
 
     std::string path_;
-    void* handle_ = nullptr;
+    std::unique_ptr<system::Library> library_;
     KovaAttachHostFunction attachHost_ = nullptr;
     DllGetClassObjectFunction getClassObject_ = nullptr;
     DllCanUnloadNowFunction canUnloadNow_ = nullptr;

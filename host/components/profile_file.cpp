@@ -1,10 +1,8 @@
 #include "host/components/profile_file.hpp"
 
 #include "agenda/contracts/text.hpp"
-#include "host/components/file_replacement.hpp"
 #include "host/components/ini_text.hpp"
-
-#include <cerrno>
+#include "system/whole_file.hpp"
 
 namespace kova::host {
 
@@ -25,7 +23,8 @@ Text ProfileFile::Read(const Text& section, const Text& key, const Text& default
 {
     if (size < 1)
         return {};
-    const auto content = ReadWholeFile(path);
+    std::error_code unreadable;
+    const auto content = system::ReadWholeFile(path, unreadable);
     const auto value = content ? IniText(*content).Value(Trim(section), Trim(key)) : std::nullopt;
     return Left(value ? *value : WithoutTrailingBlanks(defaultValue), static_cast<std::size_t>(size - 1));
 }
@@ -34,12 +33,13 @@ bool ProfileFile::Write(const Text& section, const Text& key, const Text& value,
 {
     if (!FitsOneLine(section) || !FitsOneLine(key) || !FitsOneLine(value))
         return false;
-    const auto content = ReadWholeFile(path);
-    if (!content && errno != ENOENT)
+    std::error_code error;
+    const auto content = system::ReadWholeFile(path, error);
+    if (!content && error != std::errc::no_such_file_or_directory)
         return false;
     IniText text(content.value_or(std::string()));
     text.SetValue(Trim(section), Trim(key), value);
-    return ReplaceWholeFile(path, text.ToString());
+    return system::ReplaceWholeFile(path, text.ToString(), error);
 }
 
 } // namespace kova::host

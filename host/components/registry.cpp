@@ -3,14 +3,11 @@
 #include "agenda/contracts/failure_detail.hpp"
 #include "agenda/contracts/utf8.hpp"
 #include "host/components/component_error.hpp"
-#include "host/components/file_replacement.hpp"
+#include "system/file_lock.hpp"
+#include "system/path_text.hpp"
+#include "system/whole_file.hpp"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <filesystem>
-#include <sys/file.h>
 
 namespace kova::host {
 
@@ -78,7 +75,10 @@ bool IsLineOf(const std::string& line, std::string_view className)
 
 std::string Quoted(const std::string& path) { return "'" + path + "'"; }
 
-std::string Reason() { return std::strerror(errno); }
+std::filesystem::path FolderOf(const std::string& path)
+{
+    return std::filesystem::absolute(system::PathOf(path)).parent_path();
+}
 
 RegistryProblem ProblemOf(const std::string& path, int line, const std::string& text)
 {
@@ -123,18 +123,20 @@ std::optional<ClassRegistration> Registry::Find(std::string_view className) cons
     if (!found)
         return std::nullopt;
     ClassRegistration registration = *found;
-    const auto folder = std::filesystem::absolute(path_).parent_path();
-    registration.libraryPath = (folder / registration.libraryPath).lexically_normal().string();
+    const auto folder = FolderOf(path_);
+    registration.libraryPath =
+        system::TextOf((folder / system::PathOf(registration.libraryPath)).lexically_normal());
     return registration;
 }
 
 Registry::Lines Registry::ReadLines() const
 {
-    const auto content = ReadWholeFile(path_);
-    if (!content && errno != ENOENT)
+    std::error_code error;
+    const auto content = system::ReadWholeFile(path_, error);
+    if (!content && error != std::errc::no_such_file_or_directory)
         throw ComponentError(WithDetail("O arquivo de registro " + Quoted(path_)
                                             + " não pôde ser lido. Verifique as permissões do arquivo.",
-                                        Reason()));
+                                        error.message()));
     Lines lines;
     const std::string_view text = content ? std::string_view(*content) : std::string_view();
     for (std::size_t begin = 0; begin < text.size();) {
@@ -150,29 +152,26 @@ void Registry::WriteLines(const Lines& lines) const
     std::string content;
     for (const std::string& line : lines)
         content.append(line).append("\n");
-    if (!ReplaceWholeFile(path_, content))
+    std::error_code error;
+    if (!system::ReplaceWholeFile(path_, content, error))
         throw ComponentError(
             WithDetail("O arquivo de registro " + Quoted(path_)
                            + " não pôde ser gravado. Verifique as permissões da pasta e o espaço em disco.",
-                       Reason()));
+                       error.message()));
 }
 
 /// Reads, changes and writes the lines while no other program does. `change` answers whether there is
 /// something to write.
 template <class Change> void Registry::ChangeLocked(Change change)
 {
-    std::error_code ignored;
-    std::filesystem::create_directories(std::filesystem::absolute(path_).parent_path(), ignored);
-    const std::string lockPath = path_ + ".lock";
-    const FileHandle lock(::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
-    int locked = lock.IsOpen() ? ::flock(lock.Get(), LOCK_EX) : -1;
-    while (lock.IsOpen() && locked != 0 && errno == EINTR)
-        locked = ::flock(lock.Get(), LOCK_EX);
-    if (locked != 0)
+    std::error_code error;
+    std::filesystem::create_directories(FolderOf(path_), error);
+    const system::FileLock lock = system::FileLock::Await(path_ + ".lock", error);
+    if (!lock.IsHeld())
         throw ComponentError(
             WithDetail("O arquivo de registro " + Quoted(path_)
                            + " não pôde ser bloqueado para gravação. Verifique as permissões da pasta.",
-                       Reason()));
+                       error.message()));
     Lines lines = ReadLines();
     if (change(lines))
         WriteLines(lines);

@@ -37,10 +37,11 @@ BEGIN {
         standard[list[i]] = 1
 }
 
-function family_of(header) {
+# More than one where several systems have a header of that name.
+function families_of(header) {
     if (header in standard)
         return "std"
-    if (header ~ /^Q[A-Z]/ || header ~ /^Qt[A-Za-z]*\//)
+    if (header ~ /^Q[A-Z]/ || header ~ /^Qt([A-Z][A-Za-z]*)?(\/|$)/)
         return "qt"
     if (header ~ /^soci\//)
         return "soci"
@@ -50,8 +51,12 @@ function family_of(header) {
         return "libpq"
     if (header ~ /^(gtest|gmock)\//)
         return "gtest"
-    if (header ~ /^(sys\/[a-z]+|dlfcn|fcntl|netdb|poll|unistd)\.h$/)
+    if (header ~ /^(sys\/[a-z]+|dlfcn|netdb|poll|pwd|unistd)\.h$/)
         return "posix"
+    if (header ~ /^(initguid|io|knownfolders|lm|shellapi|shlobj|windows|winsock2|ws2tcpip)\.h$/)
+        return "windows"
+    if (header == "fcntl.h")
+        return "posix windows"
     return "other"
 }
 
@@ -88,10 +93,14 @@ function check_project(header, allowed,    count, parts, i) {
     complain(folder "/ may not include \"" header "\"")
 }
 
-function check_system(header, allowed,    kind) {
-    kind = family_of(header)
-    if (allowed != "everything" && index(" " allowed " ", " " kind " ") == 0)
-        complain(folder "/ may not include <" header ">")
+function check_system(header, allowed,    count, families, i) {
+    if (allowed == "everything")
+        return
+    count = split(families_of(header), families, " ")
+    for (i = 1; i <= count; i++)
+        if (index(" " allowed " ", " " families[i] " ") > 0)
+            return
+    complain(folder "/ may not include <" header ">")
 }
 
 {

@@ -2,7 +2,7 @@
 
 #include "family/data/unfinished_file.hpp"
 
-#include <cstdio>
+#include <fstream>
 #include <string>
 #include <string_view>
 
@@ -14,9 +14,6 @@ class WholeFile {
 public:
     /// Refused where anything stands at the path already, or another program is making it.
     explicit WholeFile(const std::string& path);
-    ~WholeFile();
-    WholeFile(const WholeFile&) = delete;
-    WholeFile& operator=(const WholeFile&) = delete;
 
     void Write(std::string_view bytes);
     /// Waits until the disk has it, then gives it its name. What came to stand there meanwhile stays.
@@ -24,7 +21,7 @@ public:
 
 private:
     family::UnfinishedFile place_;
-    std::FILE* file_ = nullptr;
+    std::ofstream file_;
 };
 
 } // namespace kova::data

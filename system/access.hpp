@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace kova::system {
+
+/// Whether the process may read or write the file, or may look into or make files in the folder, by the
+/// rights that it acts with. False where there is nothing at that path.
+bool MayRead(const std::string& path);
+bool MayWrite(const std::string& path);
+
+} // namespace kova::system

@@ -1,0 +1,28 @@
+#include "system/access.hpp"
+
+#include "system/path_text.hpp"
+#include "system/windows/handle.hpp"
+
+namespace kova::system {
+
+namespace {
+
+/// Rights are told by no call of the system's, so that the file is opened for it. One that somebody else
+/// keeps to himself for now is none without the right.
+bool May(const std::string& path, DWORD ofFile, DWORD ofFolder)
+{
+    const std::filesystem::path name = PathOf(path);
+    std::error_code unreadable;
+    const DWORD right = std::filesystem::is_directory(name, unreadable) ? ofFolder : ofFile;
+    // Without this flag no folder is opened.
+    const Handle opened(::CreateFileW(name.c_str(), right, ShareAll, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return opened.IsOpen() || ::GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
+} // namespace
+
+bool MayRead(const std::string& path) { return May(path, GENERIC_READ, FILE_LIST_DIRECTORY); }
+bool MayWrite(const std::string& path) { return May(path, GENERIC_WRITE, FILE_ADD_FILE); }
+
+} // namespace kova::system

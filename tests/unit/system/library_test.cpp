@@ -1,0 +1,57 @@
+#include "system/library.hpp"
+#include "tests/unit/system/folder_fixture.hpp"
+
+namespace kova::system {
+
+namespace {
+
+class LibraryTest : public FolderTest {
+protected:
+    /// Why that file cannot be loaded; "loaded" where it can.
+    static std::string ReasonAgainst(const std::string& path)
+    {
+        try {
+            const Library library(path);
+        } catch (const LibraryNotLoaded& failure) {
+            return failure.what();
+        }
+        return "loaded";
+    }
+};
+
+} // namespace
+
+TEST_F(LibraryTest, IsLoadedFromAFolderWithAccents)
+{
+    const std::string file = In(LibraryFile("ração"));
+    std::filesystem::copy_file(PathOf(TEST_LIBRARY), PathOf(file));
+    const Library library(file);
+    const auto answer = reinterpret_cast<int (*)()>(library.Find("Answer"));
+    ASSERT_NE(answer, nullptr);
+    EXPECT_EQ(answer(), 42);
+}
+
+TEST_F(LibraryTest, FindsNothingUnderANameThatItDoesNotExport)
+{
+    EXPECT_EQ(Library(TEST_LIBRARY).Find("Question"), nullptr);
+}
+
+TEST_F(LibraryTest, SaysWhyItIsNotLoaded)
+{
+    EXPECT_NE(ReasonAgainst(In("nenhuma.so")), "loaded");
+    EXPECT_NE(ReasonAgainst(In("nenhuma.so")), "");
+    Write(In("texto.so"), "isto não é uma biblioteca\n");
+    EXPECT_NE(ReasonAgainst(In("texto.so")), "loaded");
+    EXPECT_NE(ReasonAgainst(In("texto.so")), "");
+}
+
+TEST_F(LibraryTest, IsToldByTheNameOfItsFile)
+{
+    EXPECT_EQ(LibraryNameIn(LibraryFile("KOVA_N_Familia")), "KOVA_N_Familia");
+    EXPECT_EQ(TextOf(PathOf(TEST_LIBRARY).filename()), LibraryFile("test_system_library"));
+    for (const std::string& file : {LibraryFile(""), LibraryFile("A") + ".bak", "x" + LibraryFile("A"),
+                                    std::string("kovaris"), std::string()})
+        EXPECT_EQ(LibraryNameIn(file), "") << file;
+}
+
+} // namespace kova::system
