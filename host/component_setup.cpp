@@ -1,6 +1,8 @@
 #include "host/component_setup.hpp"
 
 #include "host/components/component_error.hpp"
+#include "system/library.hpp"
+#include "system/path_text.hpp"
 
 #include <algorithm>
 #include <array>
@@ -36,9 +38,9 @@ std::vector<std::string> LibrariesIn(const fs::path& folder)
 {
     std::vector<std::string> libraries;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-        const std::string name = entry.path().filename().string();
-        if (name.starts_with("libKOVA_") && name.ends_with(".so"))
-            libraries.push_back(fs::canonical(entry.path()).string());
+        const std::string name = system::LibraryNameIn(system::TextOf(entry.path().filename()));
+        if (name.starts_with("KOVA_"))
+            libraries.push_back(system::TextOf(fs::canonical(entry.path())));
     }
     std::sort(libraries.begin(), libraries.end());
     return libraries;
@@ -87,7 +89,7 @@ void SetUpComponents(Registry& registry, RegistryServerHost& server, const fs::p
         throw ComponentError("O componente '" + missing + "' não está registrado em '" + registry.Path()
                              + "'." + TextOf(contents.problems)
                              + " Instale o programa novamente, com todas as bibliotecas ao lado dele em '"
-                             + folder.string() + "'.");
+                             + system::TextOf(folder) + "'.");
     for (const RegistryProblem& problem : contents.problems)
         std::cerr << "Kovaris: " << problem.message << std::endl;
 }

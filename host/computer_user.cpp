@@ -1,20 +1,14 @@
 #include "host/computer_user.hpp"
 
-#include <pwd.h>
-#include <unistd.h>
-
 namespace kova::host {
 
-std::string NameOfAccount(const passwd* account)
+std::string NameOfAccount(const system::UserAccount& account)
 {
-    if (account == nullptr || account->pw_name == nullptr || *account->pw_name == '\0')
+    if (account.name.empty())
         return "Recepção";
-    // The full name stands before the first comma; many accounts have none.
-    const std::string full = account->pw_gecos == nullptr ? "" : account->pw_gecos;
-    const std::string name = full.substr(0, full.find(','));
-    return name.empty() ? account->pw_name : name;
+    return account.fullName.empty() ? account.name : account.fullName;
 }
 
-std::string NameOfThisUser() { return NameOfAccount(getpwuid(getuid())); }
+std::string NameOfThisUser() { return NameOfAccount(system::ThisUser()); }
 
 } // namespace kova::host

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <string>
-
-struct passwd;
+#include "system/user_account.hpp"
 
 namespace kova::host {
 
 /// The full name of an account, or the short one where it has none; "Recepção" where there is no account, or
 /// one without a name.
-std::string NameOfAccount(const passwd* account);
+std::string NameOfAccount(const system::UserAccount& account);
 
 /// The name that the computer has for whoever started the program; "Recepção" where it has none.
 std::string NameOfThisUser();

@@ -4,9 +4,8 @@
 
 namespace kova::host {
 
-/// Where the application keeps what belongs to the user: the folders that the desktop's conventions name
-/// (XDG_DATA_HOME, XDG_CONFIG_HOME), each with a folder "kovaris" below it. A relative path there does
-/// not count, and without a home folder they lie in the folder for temporary files.
+/// Where the application keeps what belongs to the user: a folder "kovaris" in each of the folders that the
+/// system has for it (system/user_folders.hpp).
 std::filesystem::path DataFolder();
 std::filesystem::path SettingsFolder();
 

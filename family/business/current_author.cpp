@@ -1,8 +1,8 @@
 #include "family/business/current_author.hpp"
 
 #include "agenda/contracts/text.hpp"
-#include "family/business/desk_name.hpp"
 #include "family/data/iso_text.hpp"
+#include "system/computer_name.hpp"
 
 namespace kova::family {
 
@@ -13,7 +13,7 @@ Author CurrentAuthor(const ObjectRef& user, const Clock& clock)
     if (!session)
         throw missing;
     Author author{session->Get("Codigo").ToText(), Trim(session->Get("Nome").ToText()),
-                  IsoMoment(clock.Now()), DeskName()};
+                  IsoMoment(clock.Now()), system::ComputerName()};
     if (author.name.empty())
         throw missing;
     return author;

@@ -1,6 +1,6 @@
 #include "family/business/system_version.hpp"
 
-#include "family/business/system_name.hpp"
+#include "system/system_name.hpp"
 
 namespace kova::family {
 
@@ -13,6 +13,6 @@ std::span<const Method<SystemVersion>> SystemVersion::Methods()
 
 std::span<const Property<SystemVersion>> SystemVersion::Properties() { return {}; }
 
-Value SystemVersion::ObterversaoDoSO(std::span<Argument>) { return SystemName("/etc/os-release"); }
+Value SystemVersion::ObterversaoDoSO(std::span<Argument>) { return system::SystemName(); }
 
 } // namespace kova::family

@@ -1,11 +1,9 @@
 #include "family/data/server_connection.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "system/network.hpp"
 
 #include <libpq-fe.h>
-
-#include <netdb.h>
-#include <poll.h>
 
 #include <cstdlib>
 #include <memory>
@@ -60,9 +58,9 @@ Connection Ask(const std::string& connection)
     while (PQstatus(asked.get()) != CONNECTION_BAD && state != PGRES_POLLING_OK
            && state != PGRES_POLLING_FAILED) {
         constexpr int LongestWaitMs = 5000;
-        const short event = state == PGRES_POLLING_READING ? POLLIN : POLLOUT;
-        pollfd socket{PQsocket(asked.get()), event, 0};
-        if (poll(&socket, 1, LongestWaitMs) <= 0)
+        const auto awaited = state == PGRES_POLLING_READING ? system::SocketEvent::CanBeRead
+                                                            : system::SocketEvent::CanBeWritten;
+        if (!system::AwaitSocket(PQsocket(asked.get()), awaited, LongestWaitMs))
             break;
         state = PQconnectPoll(asked.get());
     }
@@ -85,13 +83,9 @@ std::string StateIn(const std::string& reported)
 
 bool IsUnknownHost(const std::string& host)
 {
-    if (host.empty() || host.front() == '/' || host.front() == '@')
-        return false;
-    addrinfo* found = nullptr;
-    const int failed = getaddrinfo(host.c_str(), nullptr, nullptr, &found);
-    if (failed == 0)
-        freeaddrinfo(found);
-    return failed != 0;
+    // What begins so is no name but a socket of this computer's.
+    const bool isName = !host.empty() && host.front() != '/' && host.front() != '@';
+    return isName && !system::IsKnownHost(host);
 }
 
 std::string Opening(const std::string& address) { return "Falha no banco de dados \"" + address + "\".\r\n"; }

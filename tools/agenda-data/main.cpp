@@ -1,3 +1,4 @@
+#include "system/command_line.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 #include <ctime>
@@ -8,8 +9,8 @@ namespace {
 kova::DateTime Now()
 {
     const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&now, &local);
+    // The one place that asks, before there is a second thread.
+    const std::tm local = *std::localtime(&now);
     return {{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday},
             {local.tm_hour, local.tm_min, local.tm_sec}};
 }
@@ -18,7 +19,10 @@ kova::DateTime Now()
 
 int main(int count, char** words)
 {
-    const std::span<const char* const> arguments(words + 1,
-                                                 static_cast<std::size_t>(count > 0 ? count - 1 : 0));
+    kova::system::WriteBytesUnchanged();
+    const std::vector<std::string> texts = kova::system::Arguments(count, words);
+    std::vector<const char*> arguments;
+    for (const std::string& text : texts)
+        arguments.push_back(text.c_str());
     return kova::data::Run(arguments, Now(), std::cout, std::cerr);
 }

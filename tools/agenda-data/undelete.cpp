@@ -1,8 +1,8 @@
 #include "family/business/appointment_restoration.hpp"
-#include "family/business/desk_name.hpp"
 #include "family/data/data_source.hpp"
 #include "family/data/iso_text.hpp"
 #include "host/computer_user.hpp"
+#include "system/computer_name.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 namespace kova::data {
@@ -15,7 +15,7 @@ constexpr const char* NoUser = "0";
 family::Author AuthorOf(const Call& call, DateTime now)
 {
     return {NoUser, call.Option("--user").value_or(host::NameOfThisUser()), family::IsoMoment(now),
-            family::DeskName()};
+            system::ComputerName()};
 }
 
 int Run(const Call& call, Surroundings& surroundings)

@@ -1,10 +1,10 @@
 // agenda-scenario: runs one script against the module and prints what crossed its borders.
 
 #include "host/components/component_error.hpp"
+#include "system/command_line.hpp"
+#include "system/path_text.hpp"
+#include "system/process_apart.hpp"
 #include "tools/scenario/runner.hpp"
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <fstream>
@@ -19,7 +19,7 @@ enum ExitStatus { Done = 0, ScriptWrong = 2, ModuleBroken = 3 };
 
 std::string ReadFile(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(kova::system::PathOf(path), std::ios::binary);
     if (!file)
         throw std::invalid_argument("Não foi possível ler o roteiro " + path + ".");
     return {std::istreambuf_iterator<char>(file), {}};
@@ -40,31 +40,29 @@ int RunScript(const RunOptions& options, Script script)
     return kept ? Done : ModuleBroken;
 }
 
+int RunScriptOrTell(const RunOptions& options, const Script& script)
+{
+    try {
+        return RunScript(options, script);
+    } catch (const std::invalid_argument& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return ScriptWrong;
+    } catch (const std::exception& error) {
+        std::fflush(stdout);
+        std::fprintf(stderr, "%s\n", error.what());
+        return ModuleBroken;
+    }
+}
+
 /// Runs the script in a process of its own, so that a crash of the module becomes a status too.
 int RunApart(const RunOptions& options, const Script& script)
 {
     std::fflush(stdout);
-    const pid_t child = fork();
-    if (child < 0)
-        throw std::runtime_error("Não foi possível criar um processo para o roteiro.");
-    if (child == 0) {
-        try {
-            std::exit(RunScript(options, script));
-        } catch (const std::invalid_argument& error) {
-            std::fprintf(stderr, "%s\n", error.what());
-            std::exit(ScriptWrong);
-        } catch (const std::exception& error) {
-            std::fflush(stdout);
-            std::fprintf(stderr, "%s\n", error.what());
-            std::exit(ModuleBroken);
-        }
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    if (!WIFEXITED(status))
-        std::fprintf(stderr, "O módulo caiu com o sinal %d.\n", WTERMSIG(status));
-    const int answer = WIFEXITED(status) ? WEXITSTATUS(status) : ModuleBroken;
-    return answer == Done || answer == ScriptWrong ? answer : ModuleBroken;
+    const kova::system::ProcessEnd end =
+        kova::system::RunApart([&] { return RunScriptOrTell(options, script); });
+    if (end.crashed)
+        std::fprintf(stderr, "O módulo caiu com o sinal %d.\n", end.number);
+    return !end.crashed && (end.number == Done || end.number == ScriptWrong) ? end.number : ModuleBroken;
 }
 
 } // namespace
@@ -72,7 +70,8 @@ int RunApart(const RunOptions& options, const Script& script)
 int main(int count, char** words)
 {
     try {
-        const RunOptions options = ParseOptions({words + 1, words + count});
+        kova::system::WriteBytesUnchanged();
+        const RunOptions options = ParseOptions(kova::system::Arguments(count, words));
         if (options.help) {
             std::fputs(HelpText().c_str(), stdout);
             return Done;

@@ -1,10 +1,9 @@
 #include "tools/scenario/session.hpp"
 
+#include "system/library.hpp"
+#include "system/path_text.hpp"
+#include "system/program_path.hpp"
 #include "tools/scenario/value_text.hpp"
-
-#include <cstdlib>
-#include <filesystem>
-#include <system_error>
 
 namespace kova::scenario {
 
@@ -14,9 +13,9 @@ constexpr const char* ModuleClass = "KOVA_A_Agenda.clsAgenda";
 constexpr Long MainWindowHandle = 1;
 
 /// Libraries lie beside the program.
-std::string LibraryPath(const char* name)
+std::string LibraryPath(std::string_view name)
 {
-    return (std::filesystem::read_symlink("/proc/self/exe").parent_path() / name).string();
+    return system::TextOf(system::ProgramPath().parent_path() / system::PathOf(system::LibraryFile(name)));
 }
 
 /// Who sits at the desk: the reference components ask for code and name.
@@ -37,18 +36,7 @@ public:
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder()
-    : path_((std::filesystem::temp_directory_path() / "roteiro-XXXXXX").string())
-{
-    if (!mkdtemp(path_.data()))
-        throw std::system_error(errno, std::generic_category(), path_);
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-}
+Text Session::SettingsFolder() const { return system::TextOf(folder_.Path()); }
 
 ComponentRef Session::Family::CreateObject(std::string_view className)
 {
@@ -64,7 +52,7 @@ Session::Session(const RunOptions& options, std::unique_ptr<Screen> played,
                  std::function<void(const std::string&)> line)
     : screen(std::move(played)),
       usesDatabase_(!options.database.empty()),
-      registry_(folder_.Path() + "/componentes.reg"),
+      registry_(system::TextOf(folder_.Path() / "componentes.reg")),
       server_(registry_, *this, options.database),
       registered_(registry_, server_.Libraries()),
       family_(*this),
@@ -78,9 +66,9 @@ Session::Session(const RunOptions& options, std::unique_ptr<Screen> played,
     profile.line = line;
     screen->OnLine(line);
     screen->Toolkit().Observer(&border);
-    server_.RegisterLibrary(LibraryPath("libKOVA_A_Agenda.so"));
+    server_.RegisterLibrary(LibraryPath("KOVA_A_Agenda"));
     if (usesDatabase_)
-        server_.RegisterLibrary(LibraryPath("libKOVA_N_Familia.so"));
+        server_.RegisterLibrary(LibraryPath("KOVA_N_Familia"));
 }
 
 Session::~Session()

@@ -3,6 +3,7 @@
 #include "host/components/component_service.hpp"
 #include "host/components/registry.hpp"
 #include "host/components/server_host.hpp"
+#include "system/temporary_folder.hpp"
 #include "tools/scenario/border_observer.hpp"
 #include "tools/scenario/memory_profile.hpp"
 #include "tools/scenario/observed_components.hpp"
@@ -14,20 +15,6 @@
 #include <string>
 
 namespace kova::scenario {
-
-/// The script's folder for the registry of classes, gone with the session.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    const std::string& Path() const { return path_; }
-
-private:
-    std::string path_;
-};
 
 /// A shell in small: the module's real library on a screen, the family's components from the script, or the
 /// business ones from the reference library on a database. All that crosses the module's
@@ -49,7 +36,7 @@ public:
     kova::Toolkit& Toolkit() override { return screen->Toolkit(); }
     kova::Clock& Clock() override { return screen->Clock(); }
     kova::Profile& Profile() override { return profile; }
-    Text SettingsFolder() const override { return folder_.Path(); }
+    Text SettingsFolder() const override;
     Text SettingsTitle() const override { return "KOVA_A_Agenda"; }
 
     std::unique_ptr<Screen> screen;
@@ -77,7 +64,8 @@ private:
         Session& session_;
     };
 
-    TemporaryFolder folder_;
+    /// For the registry of classes.
+    system::TemporaryFolder folder_{"roteiro"};
     bool usesDatabase_;
     host::Registry registry_;
     host::RegistryServerHost server_;

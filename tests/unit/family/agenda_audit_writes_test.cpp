@@ -2,7 +2,7 @@
 
 #include "tests/unit/family/booking_fixture.hpp"
 
-#include "family/business/desk_name.hpp"
+#include "system/computer_name.hpp"
 
 namespace kova::family::test {
 
@@ -32,7 +32,7 @@ TEST_F(WritesAudit, KeepsAllColumnsOfWhatIsAdded)
             R"("situacao":1,"incluido_em":"2026-11-20 09:04:05","incluido_por":"Lia","alterado_em":null,)"
             R"("alterado_por":null,"texto_de_busca":"","versao":1})"});
     EXPECT_EQ(Texts("select momento || ' ' || usuario || ' ' || posto from auditoria"),
-              std::vector<std::string>{"2026-11-20 09:04:05 7 - Lia " + DeskName()});
+              std::vector<std::string>{"2026-11-20 09:04:05 7 - Lia " + system::ComputerName()});
 }
 
 TEST_F(WritesAudit, KeepsTheWholeRowBeforeAndAfterAnAlteration)

@@ -5,7 +5,6 @@
 #include "family/business/employees.hpp"
 #include "family/business/service_types.hpp"
 #include "family/business/species.hpp"
-#include "family/business/system_name.hpp"
 #include "family/business/system_version.hpp"
 #include "family/data/insert_row.hpp"
 #include "family/data/rows.hpp"
@@ -127,17 +126,6 @@ TEST_F(Registers, NameTheOperatingSystem)
 {
     SystemVersion version(host_);
     EXPECT_FALSE(version.Call("ObterversaoDoSO").ToText().empty());
-}
-
-TEST_F(Registers, TakeTheSystemNameFromTheReleaseFile)
-{
-    WriteContent(folder_ / "a", "NAME=x\nPRETTY_NAME=\"Sistema 12 (fim)\"\n");
-    WriteContent(folder_ / "b", "PRETTY_NAME=Sistema\n");
-    WriteContent(folder_ / "c", "PRETTY_NAME=\"\"\n");
-    EXPECT_EQ(SystemName(folder_ / "a"), "Sistema 12 (fim)");
-    EXPECT_EQ(SystemName(folder_ / "b"), "Sistema");
-    EXPECT_EQ(SystemName(folder_ / "c"), "Linux");
-    EXPECT_EQ(SystemName(folder_ / "missing"), "Linux");
 }
 
 } // namespace kova::family::test

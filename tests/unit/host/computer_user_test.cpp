@@ -2,40 +2,22 @@
 
 #include <gtest/gtest.h>
 
-#include <pwd.h>
-
 namespace kova::host {
 
-namespace {
-
-std::string NameOf(const char* shortName, const char* details)
+TEST(ComputerUser, IsCalledByTheFullName)
 {
-    passwd account{};
-    account.pw_name = const_cast<char*>(shortName);
-    account.pw_gecos = const_cast<char*>(details);
-    return NameOfAccount(&account);
-}
-
-} // namespace
-
-TEST(ComputerUser, IsCalledByTheFullNameBeforeTheFirstComma)
-{
-    EXPECT_EQ(NameOf("maria", "Maria da Silva,sala 2,1234"), "Maria da Silva");
-    EXPECT_EQ(NameOf("maria", "Maria da Silva"), "Maria da Silva");
+    EXPECT_EQ(NameOfAccount({"joao", "João Antônio da Conceição"}), "João Antônio da Conceição");
 }
 
 TEST(ComputerUser, IsCalledByTheShortNameWithoutAFullOne)
 {
-    EXPECT_EQ(NameOf("maria", nullptr), "maria");
-    EXPECT_EQ(NameOf("maria", ""), "maria");
-    EXPECT_EQ(NameOf("maria", ",sala 2"), "maria");
+    EXPECT_EQ(NameOfAccount({"maria", ""}), "maria");
 }
 
 TEST(ComputerUser, IsTheDeskWithoutAName)
 {
-    EXPECT_EQ(NameOfAccount(nullptr), "Recepção");
-    EXPECT_EQ(NameOf(nullptr, "Maria"), "Recepção");
-    EXPECT_EQ(NameOf("", "Maria"), "Recepção");
+    EXPECT_EQ(NameOfAccount({}), "Recepção");
+    EXPECT_EQ(NameOfAccount({"", "Maria"}), "Recepção");
 }
 
 } // namespace kova::host

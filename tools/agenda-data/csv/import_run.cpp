@@ -1,8 +1,8 @@
 #include "tools/agenda-data/csv/import_run.hpp"
 
-#include "family/business/desk_name.hpp"
 #include "family/data/data_source.hpp"
 #include "family/data/iso_text.hpp"
+#include "system/computer_name.hpp"
 
 namespace kova::data {
 
@@ -18,7 +18,7 @@ family::Author ImportAuthor(DateTime now)
     author.code = "0";
     author.name = "agenda-data";
     author.moment = family::IsoMoment(now);
-    author.desk = family::DeskName();
+    author.desk = system::ComputerName();
     return author;
 }
 

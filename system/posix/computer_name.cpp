@@ -1,17 +1,18 @@
-#include "family/business/desk_name.hpp"
+#include "system/computer_name.hpp"
 
-#include <climits>
 #include <unistd.h>
 
-namespace kova::family {
+#include <climits>
 
-std::string DeskName()
+namespace kova::system {
+
+std::string ComputerName()
 {
     char name[HOST_NAME_MAX + 1] = {};
     // A name that was cut off has no end of its own; the last character stays zero.
-    if (gethostname(name, sizeof name - 1) != 0)
+    if (::gethostname(name, sizeof name - 1) != 0)
         return {};
     return name;
 }
 
-} // namespace kova::family
+} // namespace kova::system

@@ -1,10 +1,13 @@
-#include "family/business/system_name.hpp"
+#include "system/system_name.hpp"
+
+#include "system/path_text.hpp"
+#include "system/posix/release_file.hpp"
 
 #include <sys/utsname.h>
 
 #include <fstream>
 
-namespace kova::family {
+namespace kova::system {
 
 namespace {
 
@@ -17,18 +20,20 @@ std::string Unquoted(std::string text)
 
 } // namespace
 
-std::string SystemName(const std::string& releaseFile)
+std::string NameInReleaseFile(const std::string& path)
 {
     constexpr std::string_view key = "PRETTY_NAME=";
-    std::ifstream file(releaseFile);
+    std::ifstream file(PathOf(path));
     for (std::string line; std::getline(file, line);) {
         const std::string name =
             line.compare(0, key.size(), key) == 0 ? Unquoted(line.substr(key.size())) : "";
         if (!name.empty())
             return name;
     }
-    utsname system{};
-    return uname(&system) == 0 ? system.sysname : "Linux";
+    utsname own{};
+    return ::uname(&own) == 0 ? own.sysname : "Linux";
 }
 
-} // namespace kova::family
+std::string SystemName() { return NameInReleaseFile("/etc/os-release"); }
+
+} // namespace kova::system

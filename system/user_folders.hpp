@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+
+namespace kova::system {
+
+/// Where programs keep what belongs to the user, each in a folder of its own within. Not made where they are
+/// missing. On systems of the desktop's conventions XDG_DATA_HOME and XDG_CONFIG_HOME name them, where a
+/// relative path does not count; they lie in the folder for temporary files where the user has no home.
+std::filesystem::path UserDataFolder();
+std::filesystem::path UserSettingsFolder();
+
+} // namespace kova::system

@@ -1,0 +1,30 @@
+#include "system/user_folders.hpp"
+
+#include <windows.h>
+
+#include <initguid.h>
+#include <knownfolders.h>
+#include <shlobj.h>
+
+namespace kova::system {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path KnownFolder(const KNOWNFOLDERID& id)
+{
+    PWSTR answer = nullptr;
+    const HRESULT result = ::SHGetKnownFolderPath(id, KF_FLAG_DONT_VERIFY, nullptr, &answer);
+    const fs::path folder = SUCCEEDED(result) ? fs::path(answer) : fs::temp_directory_path();
+    ::CoTaskMemFree(answer);
+    return folder;
+}
+
+} // namespace
+
+fs::path UserDataFolder() { return KnownFolder(FOLDERID_LocalAppData); }
+
+fs::path UserSettingsFolder() { return KnownFolder(FOLDERID_RoamingAppData); }
+
+} // namespace kova::system
