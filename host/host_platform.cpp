@@ -1,6 +1,7 @@
 #include "host/host_platform.hpp"
 
 #include "host/folders.hpp"
+#include "system/path_text.hpp"
 
 namespace kova::host {
 
@@ -10,7 +11,7 @@ Text HostPlatform::SettingsFolder() const
     // kept; nothing else needs it.
     std::error_code ignored;
     std::filesystem::create_directories(host::SettingsFolder(), ignored);
-    return host::SettingsFolder().string();
+    return system::TextOf(host::SettingsFolder());
 }
 
 } // namespace kova::host

@@ -1,4 +1,5 @@
 #include "host/application.hpp"
+#include "system/command_line.hpp"
 
 #include <iostream>
 
@@ -6,7 +7,7 @@ int main(int count, char** words)
 {
     using namespace kova::host;
     try {
-        const Options options = ParseOptions(std::vector<std::string>(words + 1, words + count));
+        const Options options = ParseOptions(kova::system::Arguments(count, words));
         if (options.showHelp)
             std::cout << HelpText();
         else if (options.showVersion)

@@ -1,5 +1,7 @@
 #include "host/picture.hpp"
 
+#include "system/path_text.hpp"
+
 #include <QCoreApplication>
 #include <QPixmap>
 #include <QSaveFile>
@@ -29,9 +31,10 @@ void SavePicture(QWidget& window, const std::filesystem::path& file)
     std::error_code ignored;
     if (file.has_parent_path())
         std::filesystem::create_directories(file.parent_path(), ignored);
-    QSaveFile target(QString::fromStdString(file.string()));
+    const std::string name = system::TextOf(file);
+    QSaveFile target(QString::fromStdString(name));
     if (!target.open(QIODevice::WriteOnly) || !window.grab().save(&target, "PNG") || !target.commit()) {
-        throw std::runtime_error("A imagem \"" + file.string()
+        throw std::runtime_error("A imagem \"" + name
                                  + "\" não pôde ser gravada: " + target.errorString().toStdString()
                                  + ". Informe em --picture um arquivo de uma pasta em que você pode gravar.");
     }

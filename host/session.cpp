@@ -15,6 +15,7 @@
 #include "host/session_clock.hpp"
 #include "host/session_user.hpp"
 #include "host/shop.hpp"
+#include "system/path_text.hpp"
 #include "toolkits/qt/handles.hpp"
 
 #include <QApplication>
@@ -34,7 +35,7 @@ constexpr Long OnlyUser = 1;
 
 std::filesystem::path DatabaseOf(const Options& options)
 {
-    return options.database.empty() ? DemonstrationDatabase() : std::filesystem::path(options.database);
+    return options.database.empty() ? DemonstrationDatabase() : system::PathOf(options.database);
 }
 
 /// A picture has the usual size unless another is asked for; a window may fit itself to the screen.
@@ -54,11 +55,11 @@ public:
     Session(const Options& options, Outlet outlet)
         : options_(options),
           outlet_(outlet),
-          registry_(RegistryFile().string()),
+          registry_(system::TextOf(RegistryFile())),
           clock_(options.date, options.time, options.pace),
           toolkit_(clock_, DrawnWidth(options, outlet)),
           platform_(clock_, toolkit_),
-          server_(registry_, platform_, DatabaseOf(options).string()),
+          server_(registry_, platform_, system::TextOf(DatabaseOf(options))),
           components_(registry_, server_.Libraries())
     {
         platform_.Use(components_);
@@ -173,9 +174,10 @@ int Session::DrawWindow()
 {
     RequireDay();
     const bool onPurpose = outlet_ == Outlet::PictureOnPurpose;
-    const auto file = onPurpose ? std::filesystem::path(options_.picture) : PictureWithoutDisplay();
+    const auto file = onPurpose ? system::PathOf(options_.picture) : PictureWithoutDisplay();
     SavePicture(*window_, file);
-    std::cout << DayAsText(*List(), PrintedRows) << "\nImagem da janela: " << file.string() << std::endl;
+    std::cout << DayAsText(*List(), PrintedRows) << "\nImagem da janela: " << system::TextOf(file)
+              << std::endl;
     if (!onPurpose)
         std::cout
             << "Não há tela: as variáveis DISPLAY e WAYLAND_DISPLAY não levam a uma. A tela é necessária\n"

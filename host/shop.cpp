@@ -1,6 +1,7 @@
 #include "host/shop.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "system/path_text.hpp"
 
 #include <stdexcept>
 
@@ -16,7 +17,7 @@ void MakeFolder(const fs::path& folder)
     fs::create_directories(folder, error);
     if (error)
         throw std::runtime_error(
-            WithDetail("A pasta \"" + folder.string()
+            WithDetail("A pasta \"" + system::TextOf(folder)
                            + "\" não pôde ser criada. Verifique as permissões, ou informe com --database um "
                              "banco de dados de outra pasta.",
                        error.message()));

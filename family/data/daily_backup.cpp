@@ -5,9 +5,9 @@
 #include "family/data/server_connection.hpp"
 #include "family/data/store_backup.hpp"
 #include "family/data/unfinished_file.hpp"
+#include "system/path_text.hpp"
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -37,16 +37,19 @@ fs::path FolderOf(const fs::path& path)
 }
 
 /// Names, with or without `ending`, of the files beside the database that are its daily copies.
-std::vector<std::string> DailyFiles(const fs::path& path, const std::string& ending)
+std::vector<std::string> DailyFiles(const std::string& path, const std::string& ending)
 {
     std::vector<std::string> files;
-    for (const fs::directory_entry& entry : fs::directory_iterator(FolderOf(path))) {
-        std::string name = entry.path().filename().string();
+    const fs::path database = system::PathOf(path);
+    const std::string base = system::TextOf(database.filename());
+    const std::string folder = path.substr(0, path.size() - base.size());
+    for (const fs::directory_entry& entry : fs::directory_iterator(FolderOf(database))) {
+        std::string name = system::TextOf(entry.path().filename());
         if (!name.ends_with(ending) || !entry.is_regular_file())
             continue;
         name.resize(name.size() - ending.size());
-        if (IsDailyBackup(name, path.filename().string()))
-            files.push_back((path.parent_path() / name).string());
+        if (IsDailyBackup(name, base))
+            files.push_back(folder + name);
     }
     return files;
 }
@@ -65,7 +68,7 @@ void RemoveOld(const std::string& path, const std::string& today)
     std::erase(files, today);
     std::sort(files.begin(), files.end(), std::greater<>());
     for (std::size_t at = DailyBackupsKept - 1; at < files.size(); ++at)
-        fs::remove(files[at]);
+        fs::remove(system::PathOf(files[at]));
 }
 
 } // namespace
@@ -82,7 +85,7 @@ bool MakeDailyBackup(const std::string& path, Date day, const LongWork& work)
     const std::string file = DailyBackupName(path, day);
     try {
         RemoveRests(path);
-        if (fs::exists(fs::symlink_status(file)) || RemoveAbandoned(file))
+        if (fs::exists(fs::symlink_status(system::PathOf(file))) || RemoveAbandoned(file))
             return false;
         BackUpStore(path, file, work);
         RemoveOld(path, file);

@@ -3,8 +3,7 @@
 #include "family/data/file_source.hpp"
 #include "family/data/server_connection.hpp"
 #include "family/data/server_source.hpp"
-
-#include <filesystem>
+#include "system/path_text.hpp"
 
 namespace kova::family {
 
@@ -13,7 +12,7 @@ bool DataSourceExists(const std::string& path)
     if (IsServer(path))
         return ExistsOnServer(path);
     std::error_code unreadable;
-    return std::filesystem::exists(std::filesystem::symlink_status(path, unreadable));
+    return std::filesystem::exists(std::filesystem::symlink_status(system::PathOf(path), unreadable));
 }
 
 std::optional<std::string> CheckDataSource(const std::string& path, Migrations migrations)

@@ -6,8 +6,8 @@
 #include "family/data/store_copy.hpp"
 #include "family/data/trial_restore.hpp"
 #include "family/data/unfinished_file.hpp"
-
-#include <filesystem>
+#include "system/path_text.hpp"
+#include "system/whole_file.hpp"
 
 namespace kova::family {
 
@@ -19,13 +19,13 @@ namespace fs = std::filesystem;
 bool HasLog(const std::string& file)
 {
     std::error_code unreadable;
-    return fs::exists(file + "-wal", unreadable);
+    return fs::exists(system::PathOf(file + "-wal"), unreadable);
 }
 
 void RequireFile(const std::string& file)
 {
     std::error_code unreadable;
-    if (!fs::is_regular_file(file, unreadable))
+    if (!fs::is_regular_file(system::PathOf(file), unreadable))
         throw DatabaseFailure("A cópia \"" + file
                               + "\" não existe ou não é um arquivo. Verifique o caminho.");
 }
@@ -45,9 +45,10 @@ void CopyContent(const std::string& file, const std::string& target, const LongW
     if (HasLog(file))
         CopyOnline(*OpenForReading(file), target, work);
     else
-        fs::copy_file(file, target, fs::copy_options::overwrite_existing);
+        system::CopyWholeFile(file, target);
     // A copy is often kept from being written; the shop is not.
-    fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add);
+    fs::permissions(system::PathOf(target), fs::perms::owner_read | fs::perms::owner_write,
+                    fs::perm_options::add);
 }
 
 } // namespace

@@ -29,7 +29,7 @@ Place UsualPlace() { return std::getenv("KOVARIS_TEST_SERVER") != nullptr ? Plac
 
 Shop::Shop(Place place)
 {
-    std::string pattern = (std::filesystem::temp_directory_path() / "loja-XXXXXX").string();
+    std::string pattern = (std::filesystem::temp_directory_path() / "salão-XXXXXX").string();
     folder_ = mkdtemp(pattern.data());
     setenv("HOME", folder_.c_str(), 1);
     std::filesystem::create_directories(Documents());

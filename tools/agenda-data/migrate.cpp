@@ -1,7 +1,6 @@
 #include "family/data/data_source.hpp"
+#include "system/path_text.hpp"
 #include "tools/agenda-data/commands.hpp"
-
-#include <filesystem>
 
 namespace kova::data {
 
@@ -15,7 +14,7 @@ int VersionOf(const std::string& source)
 void TellCopy(const std::string& source, int version, std::ostream& output)
 {
     const std::string copy = family::BackupName(source, version);
-    if (std::filesystem::exists(copy))
+    if (std::filesystem::exists(system::PathOf(copy)))
         output << "Cópia de antes da atualização: " << copy << "\n";
 }
 

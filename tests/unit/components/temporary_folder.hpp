@@ -8,12 +8,12 @@
 
 namespace kova::test {
 
-/// A fresh folder that goes with its content at the end of the scope.
+/// A fresh folder, with accents in its name, that goes with its content at the end of the scope.
 class TemporaryFolder {
 public:
     TemporaryFolder()
     {
-        std::string pattern = (std::filesystem::temp_directory_path() / "kovaris-XXXXXX").string();
+        std::string pattern = (std::filesystem::temp_directory_path() / "conceição-XXXXXX").string();
         path_ = ::mkdtemp(pattern.data());
     }
     ~TemporaryFolder() { std::filesystem::remove_all(path_); }

@@ -68,6 +68,16 @@ TEST_F(DailyBackup, OfTodayStaysAlsoWhereAWrongClockMadeLaterOnes)
     EXPECT_EQ(Days().size(), DailyBackupsKept);
 }
 
+TEST_F(DailyBackup, OfTodayStaysAlsoWhereThePathIsSpeltInAnotherWay)
+{
+    for (int day = 1; day <= 14; ++day)
+        WriteContent(DailyBackupName(shop_, {2099, 1, day}), "");
+    const std::string other = shopFolder_.string() + "//" + fs::path(shop_).filename().string();
+    EXPECT_TRUE(MakeDailyBackup(other, {2026, 11, 20}, {}));
+    EXPECT_TRUE(fs::exists(DailyBackupName(shop_, {2026, 11, 20})));
+    EXPECT_EQ(Days().size(), DailyBackupsKept);
+}
+
 TEST_F(DailyBackup, ClearsWhatAKilledAttemptHasLeftAndNothingThatIsBeingMade)
 {
     const std::string killed = DailyBackupName(shop_, {2026, 11, 18});

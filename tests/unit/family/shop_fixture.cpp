@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 TemporaryFolder::TemporaryFolder()
 {
-    std::string name = (fs::temp_directory_path() / "family-XXXXXX").string();
+    std::string name = (fs::temp_directory_path() / "salão-XXXXXX").string();
     path_ = mkdtemp(name.data());
 }
 

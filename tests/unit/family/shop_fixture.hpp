@@ -15,7 +15,7 @@
 
 namespace kova::family::test {
 
-/// A folder that goes with its owner, writable again before.
+/// A folder with an accent in its name that goes with its owner, writable again before.
 class TemporaryFolder {
 public:
     TemporaryFolder();

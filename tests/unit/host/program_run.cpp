@@ -41,7 +41,7 @@ void RedirectTo(const fs::path& file, int descriptor)
 
 TemporaryFolder::TemporaryFolder()
 {
-    std::string name = (fs::temp_directory_path() / "kovaris-test-XXXXXX").string();
+    std::string name = (fs::temp_directory_path() / "joão-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr)
         throw std::runtime_error("no temporary folder");
     path_ = name;

@@ -8,7 +8,7 @@ namespace kova::host::test {
 
 namespace fs = std::filesystem;
 
-/// A folder of its own for one test, removed at its end.
+/// A folder of its own for one test, removed at its end. Its name has an accent, as homes of users may have.
 class TemporaryFolder {
 public:
     TemporaryFolder();

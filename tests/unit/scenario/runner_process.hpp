@@ -25,7 +25,8 @@ class RunnerTest : public testing::Test {
 protected:
     RunnerTest()
     {
-        std::string pattern = (std::filesystem::temp_directory_path() / "roteiro-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "roteiro-de-são-joão-XXXXXX").string();
         folder_ = mkdtemp(pattern.data());
     }
     ~RunnerTest() override { std::filesystem::remove_all(folder_); }

@@ -1,7 +1,8 @@
 #include "tools/agenda-data/csv/text_file.hpp"
 
+#include "system/path_text.hpp"
+
 #include <cerrno>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -21,7 +22,7 @@ namespace fs = std::filesystem;
 void CheckKind(const std::string& path)
 {
     std::error_code error;
-    const fs::file_status status = fs::status(path, error);
+    const fs::file_status status = fs::status(system::PathOf(path), error);
     if (status.type() == fs::file_type::not_found)
         Refuse(path, "não existe. Verifique o caminho.");
     if (error)
@@ -37,7 +38,7 @@ std::string ReadBytes(const std::string& path)
 {
     CheckKind(path);
     errno = 0;
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(system::PathOf(path), std::ios::binary);
     std::ostringstream content;
     if (file && file.peek() != std::ifstream::traits_type::eof())
         content << file.rdbuf();
