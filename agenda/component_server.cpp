@@ -2,7 +2,7 @@
 
 #include "agenda/contracts/component_library.hpp"
 #include "agenda/list/clsAgenda.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 
 namespace {

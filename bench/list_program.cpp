@@ -1,7 +1,7 @@
 #include "bench/list_program.hpp"
 
 #include "agenda/list/clsAgenda.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "bench/paint_watch.hpp"
 #include "family/business/agenda.hpp"

@@ -2,8 +2,8 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/record_result.hpp"
 #include "agenda/shared/trap.hpp"

@@ -2,9 +2,9 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

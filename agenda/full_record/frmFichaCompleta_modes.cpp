@@ -4,8 +4,8 @@
 #include "agenda/full_record/frmFichaCompleta.hpp"
 #include "agenda/full_record/frmFichaCompleta_design.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/frmLista_columns.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/trap.hpp"
 
 namespace kova::agenda {

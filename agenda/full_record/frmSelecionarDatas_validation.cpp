@@ -3,8 +3,8 @@
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmSelecionarDatas.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

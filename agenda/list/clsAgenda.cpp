@@ -1,7 +1,7 @@
 #include "agenda/list/clsAgenda.hpp"
 
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

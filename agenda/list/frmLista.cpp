@@ -2,11 +2,11 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista_design.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
 #include "agenda/shared/modLerGravarEmArquivoIni.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

@@ -2,12 +2,12 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/frmLista_columns.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/printing/appointment_card.hpp"
 #include "agenda/printing/printed_report.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

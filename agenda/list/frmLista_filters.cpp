@@ -3,7 +3,7 @@
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

@@ -2,7 +2,7 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/frmLista_columns.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

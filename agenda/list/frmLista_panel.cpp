@@ -3,9 +3,9 @@
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/frmLista_columns.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
 #include "agenda/shared/modLerGravarEmArquivoIni.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/trap.hpp"
 
 #include <initializer_list>

@@ -2,9 +2,9 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/printing/frmImprimirAgenda.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/trap.hpp"
 
 #include <exception>

@@ -2,9 +2,9 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/frmLista_columns.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/trap.hpp"
 
 namespace kova::agenda {

@@ -1,10 +1,10 @@
 #include "agenda/printing/appointment_card.hpp"
 
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/frmLista_columns.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/printing/layouts.hpp"
 #include "agenda/printing/printed_report.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 
 #include <cstddef>
 

@@ -1,9 +1,9 @@
 #include "agenda/printing/frmImprimirAgenda.hpp"
 
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/printing/frmImprimirAgenda_design.hpp"
 #include "agenda/shared/border_shape.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

@@ -1,13 +1,13 @@
 // The list on paper: its selection, its binding and its preview.
 
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/printing/frmImprimirAgenda.hpp"
 #include "agenda/printing/layouts.hpp"
 #include "agenda/printing/printed_report.hpp"
 #include "agenda/shared/frmMensagem.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

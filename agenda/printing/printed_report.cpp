@@ -1,8 +1,8 @@
 #include "agenda/printing/printed_report.hpp"
 
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 
 namespace kova::agenda {

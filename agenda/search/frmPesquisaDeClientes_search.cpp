@@ -1,11 +1,11 @@
 // The search inside the dialog of customers, and the choice of a row.
 
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/search/frmPesquisaDeClientes.hpp"
 #include "agenda/search/search_dialog.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

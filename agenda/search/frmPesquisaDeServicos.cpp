@@ -1,11 +1,11 @@
 #include "agenda/search/frmPesquisaDeServicos.hpp"
 
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/search/frmPesquisaDeServicos_design.hpp"
 #include "agenda/search/search_dialog.hpp"
 #include "agenda/shared/border_shape.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 #include "agenda/shared/wait_plate.hpp"

@@ -1,10 +1,10 @@
 // The search inside the dialog of services, and the choice of a row.
 
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/search/frmPesquisaDeServicos.hpp"
 #include "agenda/search/search_dialog.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

@@ -2,7 +2,7 @@
 
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 
 namespace kova::agenda {
 

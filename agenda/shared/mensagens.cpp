@@ -1,6 +1,6 @@
 #include "agenda/shared/mensagens.hpp"
 
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 
 namespace kova::agenda {

@@ -3,9 +3,9 @@
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 
 #include <algorithm>

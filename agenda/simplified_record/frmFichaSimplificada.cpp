@@ -1,9 +1,9 @@
 #include "agenda/simplified_record/frmFichaSimplificada.hpp"
 
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/frmLista_columns.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/border_shape.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 #include "agenda/shared/wait_plate.hpp"

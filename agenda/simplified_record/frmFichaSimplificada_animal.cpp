@@ -1,10 +1,10 @@
 // The animal's three combos: sex, species and breed.
 
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 #include "agenda/simplified_record/frmFichaSimplificada.hpp"

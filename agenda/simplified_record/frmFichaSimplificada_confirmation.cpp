@@ -1,8 +1,8 @@
 // The two buttons: the appointment goes to the business tier, or the user backs out.
 
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/record_result.hpp"
 #include "agenda/shared/trap.hpp"

@@ -2,10 +2,10 @@
 
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/modPrincipal.hpp"
 #include "agenda/search/service_choice.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 #include "agenda/simplified_record/frmFichaSimplificada.hpp"

@@ -1,6 +1,6 @@
 #include "tests/monkey/rules.hpp"
 
-#include "agenda/list/frmLista_columns.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
 #include "tests/monkey/failure_ear.hpp"
 #include "tests/monkey/finding.hpp"
 #include "tests/monkey/screen.hpp"

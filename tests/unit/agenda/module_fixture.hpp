@@ -2,8 +2,8 @@
 
 #include "agenda/list/clsAgenda.hpp"
 #include "agenda/list/frmLista.hpp"
-#include "agenda/list/frmLista_columns.hpp"
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "toolkits/common/grid.hpp"
 #include "toolkits/headless/toolkit.hpp"

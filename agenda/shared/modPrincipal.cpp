@@ -1,4 +1,4 @@
-#include "agenda/list/modPrincipal.hpp"
+#include "agenda/shared/modPrincipal.hpp"
 
 #include "agenda/list/frmLista.hpp"
 #include "agenda/printing/frmImprimirAgenda.hpp"

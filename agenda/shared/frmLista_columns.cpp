@@ -1,4 +1,4 @@
-#include "agenda/list/frmLista_columns.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
 
 namespace kova::agenda {
 
