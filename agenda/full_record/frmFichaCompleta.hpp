@@ -2,9 +2,9 @@
 
 #include "agenda/contracts/business_services.hpp"
 #include "agenda/contracts/widgets.hpp"
+#include "agenda/records/record_form.hpp"
+#include "agenda/records/service_choice.hpp"
 #include "agenda/search/frmPesquisaDeClientes.hpp"
-#include "agenda/search/service_choice.hpp"
-#include "agenda/shared/record_form.hpp"
 
 #include <array>
 #include <memory>

@@ -2,10 +2,10 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"
+#include "agenda/records/record_result.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
-#include "agenda/shared/record_result.hpp"
 #include "agenda/shared/trap.hpp"
 
 namespace kova::agenda {

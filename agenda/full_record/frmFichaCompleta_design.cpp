@@ -1,7 +1,7 @@
 #include "agenda/full_record/frmFichaCompleta_design.hpp"
 
-#include "agenda/shared/record_form.hpp"
-#include "agenda/shared/record_form_design.hpp"
+#include "agenda/records/record_form.hpp"
+#include "agenda/records/record_form_design.hpp"
 #include "agenda/shared/wait_plate.hpp"
 
 namespace kova::agenda {

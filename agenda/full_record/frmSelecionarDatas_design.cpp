@@ -1,7 +1,7 @@
 #include "agenda/full_record/frmSelecionarDatas_design.hpp"
 
 #include "agenda/full_record/frmSelecionarDatas.hpp"
-#include "agenda/shared/record_form_design.hpp"
+#include "agenda/records/record_form_design.hpp"
 #include "agenda/shared/wait_plate.hpp"
 
 #include <string>

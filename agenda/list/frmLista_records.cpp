@@ -3,9 +3,9 @@
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"
 #include "agenda/list/frmLista.hpp"
+#include "agenda/records/record_form.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
 #include "agenda/shared/modPrincipal.hpp"
-#include "agenda/shared/record_form.hpp"
 #include "agenda/shared/trap.hpp"
 #include "agenda/simplified_record/frmFichaSimplificada.hpp"
 

@@ -1,7 +1,7 @@
 #include "agenda/printing/frmImprimirAgenda_design.hpp"
 
-#include "agenda/shared/record_form.hpp"
-#include "agenda/shared/record_form_design.hpp"
+#include "agenda/records/record_form.hpp"
+#include "agenda/records/record_form_design.hpp"
 
 namespace kova::agenda {
 

@@ -1,8 +1,8 @@
 #include "agenda/shared/wait_plate.hpp"
 
+#include "agenda/records/record_form.hpp"
 #include "agenda/shared/modArredondarCantosDoObjeto.hpp"
 #include "agenda/shared/modFuncoes.hpp"
-#include "agenda/shared/record_form.hpp"
 
 namespace kova::agenda {
 

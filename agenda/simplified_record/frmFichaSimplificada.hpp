@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/business_services.hpp"
-#include "agenda/shared/record_form.hpp"
+#include "agenda/records/record_form.hpp"
 
 #include <memory>
 

@@ -1,10 +1,10 @@
 // The two buttons: the appointment goes to the business tier, or the user backs out.
 
 #include "agenda/contracts/text.hpp"
+#include "agenda/records/record_result.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
-#include "agenda/shared/record_result.hpp"
 #include "agenda/shared/trap.hpp"
 #include "agenda/simplified_record/frmFichaSimplificada.hpp"
 

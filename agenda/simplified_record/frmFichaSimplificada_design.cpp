@@ -1,6 +1,6 @@
 #include "agenda/simplified_record/frmFichaSimplificada_design.hpp"
 
-#include "agenda/shared/record_form_design.hpp"
+#include "agenda/records/record_form_design.hpp"
 #include "agenda/shared/wait_plate.hpp"
 
 namespace kova::agenda {

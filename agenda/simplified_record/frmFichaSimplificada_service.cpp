@@ -2,7 +2,7 @@
 
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
-#include "agenda/search/service_choice.hpp"
+#include "agenda/records/service_choice.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 #include "agenda/shared/modPrincipal.hpp"

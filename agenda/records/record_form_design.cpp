@@ -1,6 +1,6 @@
-#include "agenda/shared/record_form_design.hpp"
+#include "agenda/records/record_form_design.hpp"
 
-#include "agenda/shared/record_form.hpp"
+#include "agenda/records/record_form.hpp"
 
 namespace kova::agenda {
 

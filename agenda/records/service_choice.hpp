@@ -1,7 +1,7 @@
 #pragma once
 
+#include "agenda/records/record_form.hpp"
 #include "agenda/search/frmPesquisaDeServicos.hpp"
-#include "agenda/shared/record_form.hpp"
 
 namespace kova::agenda {
 

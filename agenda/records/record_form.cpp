@@ -1,4 +1,4 @@
-#include "agenda/shared/record_form.hpp"
+#include "agenda/records/record_form.hpp"
 
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"

@@ -1,4 +1,4 @@
-#include "agenda/search/service_choice.hpp"
+#include "agenda/records/service_choice.hpp"
 
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"

@@ -1,8 +1,8 @@
-#include "agenda/shared/record_result.hpp"
+#include "agenda/records/record_result.hpp"
 
+#include "agenda/records/record_form.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
-#include "agenda/shared/record_form.hpp"
 
 #include <algorithm>
 
