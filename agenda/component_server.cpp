@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/component_library.hpp"
 #include "agenda/list/clsAgenda.hpp"
+#include "agenda/list/module_reset.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 
@@ -17,7 +18,7 @@ ComponentLibrary& Library()
 }
 
 /// A list on the screen needs the library's code as much as an object of its class does.
-bool ListsAreOpen() { return !agenda::Principal().ListasAbertas.empty(); }
+bool ListsAreOpen() { return !agenda::Principal.ListasAbertas.empty(); }
 
 } // namespace
 

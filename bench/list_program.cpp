@@ -1,6 +1,7 @@
 #include "bench/list_program.hpp"
 
 #include "agenda/list/clsAgenda.hpp"
+#include "agenda/list/module_reset.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "bench/paint_watch.hpp"
@@ -67,7 +68,7 @@ ListProgram::ListProgram(const std::string& database, Date day, QSize size)
     const Long handle = qt::HandleOf(window_);
     agenda::clsAgenda agenda;
     static_cast<Component&>(agenda).Call("AbrirLista", {handle, handle});
-    list_ = agenda::Principal().FormularioDaLista;
+    list_ = agenda::Principal.FormularioDaLista;
     grid_ = dynamic_cast<qt::GridCanvas*>(window_.findChild<QWidget*>(QStringLiteral("frmLista.msfgGrade")));
     if (!grid_)
         throw std::runtime_error("the list has no grid");

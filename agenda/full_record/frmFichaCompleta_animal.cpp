@@ -22,7 +22,7 @@ constexpr Integer Impedida = 3;
 
 Text TextoDoEstouro()
 {
-    const Text& nome = Principal().NomeDaAplicacao;
+    const Text& nome = Principal.NomeDaAplicacao;
     return "Houve um estouro no processamento devido as diversas tentativas de conexão com o banco de dados."
            "Para preservar os dados foi preciso encerrar o "
         + nome + ". Reinicie novamente o " + nome + ".";

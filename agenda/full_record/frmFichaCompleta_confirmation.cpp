@@ -74,7 +74,7 @@ void EnviarFicha(const frmFichaCompleta& ficha, Component& agenda)
     agenda.Set("TipoDoAgendamento", RegistroCompleto);
     agenda.Set("DadosValidados", false);
     agenda.Set("DomingoOuFeriado", ficha.DomingoOuFeriado);
-    agenda.Set("DadosDoUsuario", Principal().DadosDoUsuario);
+    agenda.Set("DadosDoUsuario", Principal.DadosDoUsuario);
 }
 
 bool PertenceAPacote(Component& agenda)

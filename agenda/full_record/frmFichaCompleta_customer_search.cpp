@@ -46,7 +46,7 @@ bool frmFichaCompleta::PesquisarCliente(const Text& ApelidoOuNomeFantasia, const
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objClientes = CreateObject("KOVA_N_ClientAnim.clsClientes");
-        objClientes->Set("DadosDoUsuario", Principal().DadosDoUsuario);
+        objClientes->Set("DadosDoUsuario", Principal.DadosDoUsuario);
 
         Ponto = 2;
         Text apelidoOuNome = !Trim(ApelidoOuNomeFantasia).empty() ? ApelidoOuNomeFantasia
@@ -162,9 +162,9 @@ void frmFichaCompleta::ExibirClienteEscolhido(const frmPesquisaDeClientes& pesqu
 
 void frmFichaCompleta::ExibirMarcasDoCliente(const Text& vip, const Text& categoria)
 {
-    Principal().TextoDoCliente =
+    Principal.TextoDoCliente =
         Text("Cliente* [ ") + (UpperCase(vip) == "SIM" ? "VIP - " : "") + categoria + " ]";
-    lblCliente.Caption(Principal().TextoDoCliente);
+    lblCliente.Caption(Principal.TextoDoCliente);
 }
 
 } // namespace kova::agenda

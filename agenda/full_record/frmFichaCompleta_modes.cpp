@@ -22,7 +22,7 @@ bool EhCampoDeEdicao(WidgetKind especie)
 /// A cell of the list's current row.
 Text CelulaDaLista(Long coluna)
 {
-    const MSFlexGrid& grade = Principal().FormularioDaLista->msfgGrade;
+    const MSFlexGrid& grade = Principal.FormularioDaLista->msfgGrade;
     return grade.TextMatrix(grade.RowSel(), coluna);
 }
 

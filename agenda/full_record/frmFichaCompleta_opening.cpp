@@ -44,7 +44,7 @@ void frmFichaCompleta::MontarExibirFormulario(Integer Operacao)
 void frmFichaCompleta::PreencherParaAdicionar()
 {
     NumeroDeLancamento = 0;
-    kvdtpDataInicial.Text(Principal().DataDaAgenda);
+    kvdtpDataInicial.Text(Principal.DataDaAgenda);
     // Any other row's logic has run when the opener chose it.
     if (kvcmbTiposDeServicos.ListIndex() == 0)
         kvcmbTiposDeServicos.ListIndex(0);
@@ -56,7 +56,7 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
     optAgendarPorCliente.Visible(false);
     optAgendarPorAnimal.Visible(false);
 
-    const auto lista = Principal().FormularioDaLista;
+    const auto lista = Principal.FormularioDaLista;
     if (!lista)
         throw Failure(FailureNumber::NoObject);
     const MSFlexGrid& grade = lista->msfgGrade;

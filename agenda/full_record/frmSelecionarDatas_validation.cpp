@@ -143,7 +143,7 @@ bool frmSelecionarDatas::PesquisarFeridado(const Text& Data)
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objFeriados = CreateObject("KOVA_N_Feriados.clsFeriados");
-        objFeriados->Set("DadosDoUsuario", Principal().DadosDoUsuario);
+        objFeriados->Set("DadosDoUsuario", Principal.DadosDoUsuario);
 
         Ponto = 2;
         Text data = Data;

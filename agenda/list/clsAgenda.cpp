@@ -30,9 +30,9 @@ Value clsAgenda::Get(std::string_view member) { FailOnMember(member); }
 void clsAgenda::Set(std::string_view member, const Value& value)
 {
     if (member == "DadosDoUsuario")
-        Principal().DadosDoUsuario = UserIn(value);
+        Principal.DadosDoUsuario = UserIn(value);
     else if (member == "NomeDaAplicacao")
-        Principal().NomeDaAplicacao = value.ToText();
+        Principal.NomeDaAplicacao = value.ToText();
     else
         FailOnMember(member);
 }
@@ -51,14 +51,14 @@ Value clsAgenda::AbrirLista(Long HandleDaJanelaPrincipal, Long HandleDoContainer
     Integer Ponto = 0;
     Trap(", clsAgenda, AbrirLista, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        Principal().HandleDaJanelaPrincipal = HandleDaJanelaPrincipal;
-        Principal().DataDaAgenda = FormatDate(ThePlatform().Clock().Now().date);
+        Principal.HandleDaJanelaPrincipal = HandleDaJanelaPrincipal;
+        Principal.DataDaAgenda = FormatDate(ThePlatform().Clock().Now().date);
 
         Ponto = 2;
-        Principal().FormularioDaLista = frmLista::Criar();
+        Principal.FormularioDaLista = frmLista::Criar();
 
         Ponto = 3;
-        Principal().FormularioDaLista->MontarExibirFormulario(HandleDoContainer);
+        Principal.FormularioDaLista->MontarExibirFormulario(HandleDoContainer);
     });
     return {};
 }

@@ -58,7 +58,7 @@ Integer PreencherCombo(KVComboBox& combo, const PreenchimentoDeCombo& tabela)
             Ponto = 3;
             MensagemDeErroDoObjeto(*objeto);
             objeto.reset();
-            RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+            RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
             resultado = 1;
             return;
         }
@@ -69,7 +69,7 @@ Integer PreencherCombo(KVComboBox& combo, const PreenchimentoDeCombo& tabela)
             objeto.reset();
             ExibirInformacao(Text(tabela.mensagem) + QuebraDeLinha + tabela.complementoDaMensagem);
             resultado = 1;
-            RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+            RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
             return;
         }
 
@@ -86,7 +86,7 @@ std::shared_ptr<frmLista> frmLista::Criar()
 {
     std::shared_ptr<frmLista> lista(new frmLista);
     lista->Formulario->Owner(lista);
-    Principal().ListasAbertas.push_back(lista);
+    Principal.ListasAbertas.push_back(lista);
     return lista;
 }
 
@@ -141,10 +141,10 @@ void frmLista::LigarEventos()
 
 void frmLista::AoDescarregar()
 {
-    auto& abertas = Principal().ListasAbertas;
+    auto& abertas = Principal.ListasAbertas;
     std::erase_if(abertas, [this](const auto& lista) { return lista.get() == this; });
-    if (Principal().FormularioDaLista.get() == this)
-        Principal().FormularioDaLista.reset();
+    if (Principal.FormularioDaLista.get() == this)
+        Principal.FormularioDaLista.reset();
 }
 
 Integer frmLista::MontarExibirFormulario(Long HandleDoContainer)
@@ -234,7 +234,7 @@ Integer frmLista::PreencherComboboxTiposDeServicos()
          .primeiraLinha = "(Tipos de Serviços)",
          .campoDoTexto = "Nome",
          .campoDoItemData = "Numero",
-         .filtro = Principal().FiltroDosTiposDeServicos,
+         .filtro = Principal.FiltroDosTiposDeServicos,
          .mensagem = "Nenhum tipo de serviço cadastrado.",
          .complementoDaMensagem =
              "É necessário ter no mínimo um tipo de serviço cadastrado para incluir um agendamento.",
@@ -249,7 +249,7 @@ Integer frmLista::PreencherComboboxFuncionarios()
          .primeiraLinha = "(Funcionários)",
          .campoDoTexto = "Apelido",
          .campoDoItemData = "Codigo",
-         .filtro = Principal().FiltroDosFuncionarios,
+         .filtro = Principal.FiltroDosFuncionarios,
          .mensagem = "Nenhum funcionário cadastrado.",
          .complementoDaMensagem =
              "É necessário ter no mínimo um funcionário cadastrado para incluir um agendamento.",

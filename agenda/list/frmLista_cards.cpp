@@ -92,7 +92,7 @@ Integer frmLista::ImprimirFicha(const FichaImpressa& ficha, Integer& Ponto)
 
     Ponto = 2;
     Integer opcao = 0;
-    AplicarFundoEscuro(Principal().HandleDaJanelaPrincipal, opcao);
+    AplicarFundoEscuro(Principal.HandleDaJanelaPrincipal, opcao);
     Formulario->Refresh();
 
     Ponto = 3;
@@ -109,7 +109,7 @@ Integer frmLista::ImprimirFicha(const FichaImpressa& ficha, Integer& Ponto)
 
     Ponto = 6;
     mensagem->Call("Fechar");
-    RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+    RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
     mensagem.reset();
 
     Ponto = 7;
@@ -156,19 +156,19 @@ void frmLista::mnuImprimirEtiquetaDeEndereco_Click()
         objEtiquetas->Set("CodigoDoCliente", celula(colunas::CodigoDoCliente));
         objEtiquetas->Set("ApelidoOuNomeFantasiaDoCliente", celula(colunas::ApelidoOuNomeFantasiaDoCliente));
         objEtiquetas->Set("NomeOuRazaoSocialDoCliente", celula(colunas::NomeOuRazaoSocialDoCliente));
-        objEtiquetas->Set("NomeDaAplicacao", Principal().NomeDaAplicacao);
-        objEtiquetas->Set("DadosDoUsuario", Principal().DadosDoUsuario);
+        objEtiquetas->Set("NomeDaAplicacao", Principal.NomeDaAplicacao);
+        objEtiquetas->Set("DadosDoUsuario", Principal.DadosDoUsuario);
 
         Ponto = 4;
         Integer opcao = 0;
-        AplicarFundoEscuro(Principal().HandleDaJanelaPrincipal, opcao);
+        AplicarFundoEscuro(Principal.HandleDaJanelaPrincipal, opcao);
 
         // It returns when the label's screen has closed.
         Ponto = 5;
         objEtiquetas->Call("AbrirEmissaoDeEtiqueta", {Integer{1}});
 
         Ponto = 6;
-        RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+        RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
     });
 }
 

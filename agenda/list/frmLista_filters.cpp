@@ -44,7 +44,7 @@ void frmLista::kvcmbFuncionarios_Click()
         Ponto = 1;
         if (std::exchange(IgnorarClick, false))
             return;
-        Principal().DataDaAgenda = kvdtpDataDeAgendamento.Text();
+        Principal.DataDaAgenda = kvdtpDataDeAgendamento.Text();
 
         Ponto = 2;
         ExibirOcultarpicMensagem(true);
@@ -72,7 +72,7 @@ void frmLista::kvcmbTiposDeServicos_Click()
         Ponto = 1;
         if (std::exchange(IgnorarClick, false))
             return;
-        Principal().DataDaAgenda = kvdtpDataDeAgendamento.Text();
+        Principal.DataDaAgenda = kvdtpDataDeAgendamento.Text();
 
         Ponto = 2;
         ExibirOcultarpicMensagem(true);
@@ -137,7 +137,7 @@ void frmLista::IrParaOutroDia(Long dias, Integer& Ponto)
     kvdtpDataDeAgendamento.Text(FormatDate(AddDays(dia, dias)));
 
     Ponto = 3;
-    Principal().DataDaAgenda = kvdtpDataDeAgendamento.Text();
+    Principal.DataDaAgenda = kvdtpDataDeAgendamento.Text();
 
     Ponto = 4;
     ExibirOcultarpicMensagem(true);
@@ -152,7 +152,7 @@ void frmLista::kvdtpDataDeAgendamento_Change()
     Trap(", frmLista, kvdtpDataDeAgendamento_Change, Ponto: ", Ponto, [&] {
         Ponto = 1;
         DataAlterada = true;
-        Principal().DataDaAgenda = kvdtpDataDeAgendamento.Text();
+        Principal.DataDaAgenda = kvdtpDataDeAgendamento.Text();
 
         Ponto = 2;
         ExibirOcultarpicMensagem(true);
@@ -184,7 +184,7 @@ void frmLista::kvdtpDataDeAgendamento_LostFocus()
             // A half-typed date goes back to today.
             if (Length(Trim(Replace(kvdtpDataDeAgendamento.Text(), "_", ""))) != TamanhoDaData)
                 kvdtpDataDeAgendamento.Text(FormatDate(ThePlatform().Clock().Now().date));
-            Principal().DataDaAgenda = kvdtpDataDeAgendamento.Text();
+            Principal.DataDaAgenda = kvdtpDataDeAgendamento.Text();
             ExibirOcultarpicMensagem(true);
             RecarregarDepoisDaEspera();
         } else {

@@ -45,11 +45,11 @@ void frmLista::AtualizarPainel()
     Integer Ponto = 0;
     Trap(", frmLista, AtualizarPainel, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (!Principal().FormularioDaLista)
+        if (!Principal.FormularioDaLista)
             throw Failure(FailureNumber::NoObject);
 
         Ponto = 2;
-        PreencherRotulosDoPainel(Principal().FormularioDaLista->msfgGrade);
+        PreencherRotulosDoPainel(Principal.FormularioDaLista->msfgGrade);
 
         Ponto = 3;
         AlinharRotulosDoPainel();

@@ -94,7 +94,7 @@ void frmLista::AbrirDialogoDeImpressao(Integer Tipo, Integer& Ponto)
 {
     // 3. The dialog's one instance is made at its first use and goes when it is closed.
     Ponto = 3;
-    auto& instancia = Principal().ImprimirAgendaImplicita;
+    auto& instancia = Principal.ImprimirAgendaImplicita;
     if (!instancia)
         instancia = frmImprimirAgenda::Criar();
     const DialogoPassageiro dialogo(instancia);

@@ -53,7 +53,7 @@ void frmLista::mnuAdicionarAgendamentoCompleto_Click()
     Integer Ponto = 0;
     Trap(", frmLista, mnuAdicionarAgendamentoCompleto_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        auto& instancia = Principal().FichaCompletaImplicita;
+        auto& instancia = Principal.FichaCompletaImplicita;
         FichaDeAgendamento& ficha = InstanciaImplicita(instancia);
         CopiarSituacoes(ficha.kvcmbSituacao, UltimaSituacao());
 
@@ -84,7 +84,7 @@ void frmLista::mnuAdicionarAgendamentoSimplificado_Click()
     Integer Ponto = 0;
     Trap(", frmLista, mnuAdicionarAgendamentoSimplificado_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        auto& instancia = Principal().FichaSimplificadaImplicita;
+        auto& instancia = Principal.FichaSimplificadaImplicita;
         FichaDeAgendamento& ficha = InstanciaImplicita(instancia);
         CopiarSituacoes(ficha.kvcmbSituacao, UltimaSituacaoSemPreVenda());
 
@@ -152,7 +152,7 @@ void frmLista::AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Intege
     const bool limpaAOutra = Operacao == operacao::Detalhar && !simplificado;
     CopiarTiposDeServicos(ficha->kvcmbTiposDeServicos,
                           limpaAOutra
-                              ? InstanciaImplicita(Principal().FichaCompletaImplicita).kvcmbTiposDeServicos
+                              ? InstanciaImplicita(Principal.FichaCompletaImplicita).kvcmbTiposDeServicos
                               : ficha->kvcmbTiposDeServicos,
                           Ponto);
 

@@ -145,7 +145,7 @@ bool frmLista::AlterarSituacaoDoAgendamento(Integer SituacaoNova, Integer Situac
         agenda.Set("SituacaoNova", SituacaoNova);
         Ponto = 11;
         agenda.Set("NumeroDeLancamento", NumeroDaCelula(colunas::NumeroDeLancamento));
-        agenda.Set("DadosDoUsuario", Principal().DadosDoUsuario);
+        agenda.Set("DadosDoUsuario", Principal.DadosDoUsuario);
 
         Ponto = 12;
         if (agenda.Call("Alterar").ToInteger() != 0) {

@@ -59,7 +59,7 @@ Text TextoDoCampo(const CampoImpresso& campo, const MSFlexGrid& grade)
 
 FichaImpressa FichaParaTransporte()
 {
-    return {.instancia = Principal().drFichaDoAgendamentoParaTransporte,
+    return {.instancia = Principal.drFichaDoAgendamentoParaTransporte,
             .desenho = DesenhoDedrFichaDoAgendamentoParaTransporte(),
             .titulo = "Imprimir ficha do agendamento para transporte",
             .campos = Campos,
@@ -68,7 +68,7 @@ FichaImpressa FichaParaTransporte()
 
 FichaImpressa FichaParaInspecaoDoAnimal()
 {
-    return {.instancia = Principal().drFichaDoAgendamentoParaInspecaoDoAnimal,
+    return {.instancia = Principal.drFichaDoAgendamentoParaInspecaoDoAnimal,
             .desenho = DesenhoDedrFichaDoAgendamentoParaInspecaoDoAnimal(),
             .titulo = "Imprimir ficha do agendamento para inspeção do animal",
             .campos = std::span(Campos).first(CamposDaInspecao),

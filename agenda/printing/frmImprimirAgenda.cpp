@@ -42,7 +42,7 @@ frmImprimirAgenda::~frmImprimirAgenda()
 // The next opening gets a new dialog with empty combos.
 void frmImprimirAgenda::AoDescarregar()
 {
-    auto& instancia = Principal().ImprimirAgendaImplicita;
+    auto& instancia = Principal.ImprimirAgendaImplicita;
     if (instancia.get() == this)
         instancia.reset();
 }
@@ -53,11 +53,11 @@ Integer frmImprimirAgenda::MontarExibirFormulario()
     Integer resultado = 0;
     // The tag names another form; it is fixed so.
     Trap(", frmFicha, MontarExibirFormulario, Ponto: ", Ponto, [&] {
-        const bool escurecer = !Principal().SemFundoEscuroNaImpressao;
+        const bool escurecer = !Principal.SemFundoEscuroNaImpressao;
         Ponto = 1;
         Integer opcao = 0;
         if (escurecer)
-            AplicarFundoEscuro(Principal().HandleDaJanelaPrincipal, opcao);
+            AplicarFundoEscuro(Principal.HandleDaJanelaPrincipal, opcao);
 
         Ponto = 2;
         PreencherComboBoxDeTransporte();
@@ -70,7 +70,7 @@ Integer frmImprimirAgenda::MontarExibirFormulario()
 
         Ponto = 5;
         if (escurecer)
-            RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+            RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
     });
     return resultado;
 }

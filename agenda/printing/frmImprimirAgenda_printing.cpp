@@ -65,10 +65,10 @@ std::optional<ListaImpressa> ListaDoTipo(Integer tipo)
 {
     switch (tipo) {
     case tipo_da_lista::Agendamentos:
-        return ListaImpressa{Principal().drListaDeAgendamentos, DesenhoDedrListaDeAgendamentos(),
+        return ListaImpressa{Principal.drListaDeAgendamentos, DesenhoDedrListaDeAgendamentos(),
                              "Agendamentos", VinculosDaLista};
     case tipo_da_lista::Transporte:
-        return ListaImpressa{Principal().drListaDeAgendamentosParaTransporte,
+        return ListaImpressa{Principal.drListaDeAgendamentosParaTransporte,
                              DesenhoDedrListaDeAgendamentosParaTransporte(),
                              "Agendamentos (lista para transportes)", VinculosDaListaParaTransporte};
     default: return std::nullopt;
@@ -103,10 +103,10 @@ Integer frmImprimirAgenda::ImprimirLista()
         // The day of the list, whatever of it is on the screen; its search box plays no part.
         Ponto = 4;
         ComponentRef objAgenda = CreateObject("KOVA_N_Agenda.clsAgenda");
-        const Value status = objAgenda->Call(
-            "Selecionar",
-            {Long{2}, Integer{0}, Escolhido(kvcmbSituacao), Text(), ByRef(Principal().DataDaAgenda),
-             Escolhido(kvcmbTiposDeServicos), Escolhido(kvcmbFuncionarios), Escolhido(kvcmbTransporte)});
+        const Value status = objAgenda->Call("Selecionar",
+                                             {Long{2}, Integer{0}, Escolhido(kvcmbSituacao), Text(),
+                                              ByRef(Principal.DataDaAgenda), Escolhido(kvcmbTiposDeServicos),
+                                              Escolhido(kvcmbFuncionarios), Escolhido(kvcmbTransporte)});
         Ponto = 5;
         fecharMensagem();
         if (status.ToInteger() != 0) {

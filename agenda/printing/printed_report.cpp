@@ -54,7 +54,7 @@ void Vincular(Report& relatorio, std::span<const Vinculo> vinculos)
 
 void EscreverNomeDoAplicativo(Report& relatorio)
 {
-    relatorio.Section(secoes::Rodape).Label("lblTituloDoAplicativo").Caption(Principal().NomeDaAplicacao);
+    relatorio.Section(secoes::Rodape).Label("lblTituloDoAplicativo").Caption(Principal.NomeDaAplicacao);
 }
 
 void DarMargens(Report& relatorio)

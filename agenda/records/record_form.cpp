@@ -60,16 +60,16 @@ void FichaDeAgendamento::Exibir()
 {
     if (!std::exchange(NaoAplicarFundoEscuro, false)) {
         Integer opcao = 0;
-        AplicarFundoEscuro(Principal().HandleDaJanelaPrincipal, opcao);
+        AplicarFundoEscuro(Principal.HandleDaJanelaPrincipal, opcao);
     }
     if (!std::exchange(NaoExibirFormulario, false))
         Formulario->Show(ShowMode::Modal);
     if (std::exchange(NaoRemoverFundoEscuro, false))
         return;
     ThePlatform().Toolkit().ProcessPendingEvents();
-    if (const auto lista = Principal().FormularioDaLista)
+    if (const auto lista = Principal.FormularioDaLista)
         lista->Formulario->Refresh();
-    RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+    RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
 }
 
 bool FichaDeAgendamento::EventoIgnorado() { return std::exchange(IgnorarEventoDeCampo, false); }
@@ -134,7 +134,7 @@ void SelecionarPelaCelula(KVComboBox& combo, const Text& celula)
 
 Text CelulaSelecionadaDaLista(Long coluna)
 {
-    const auto lista = Principal().FormularioDaLista;
+    const auto lista = Principal.FormularioDaLista;
     if (!lista)
         throw Failure(FailureNumber::NoObject);
     return lista->msfgGrade.TextMatrix(lista->msfgGrade.RowSel(), coluna);

@@ -84,7 +84,7 @@ std::shared_ptr<frmPesquisaDeServicos> AbrirPesquisaDeServicos(RecordSet& regist
 
 void SelecionarTipoNaPesquisa(frmPesquisaDeServicos& pesquisa, Integer linha)
 {
-    Principal().IgnorarClickDoTipoNaPesquisa = true;
+    Principal.IgnorarClickDoTipoNaPesquisa = true;
     pesquisa.kvcmbTiposDeServicos.ListIndex(linha);
 }
 

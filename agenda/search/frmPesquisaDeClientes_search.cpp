@@ -39,7 +39,7 @@ bool frmPesquisaDeClientes::PesquisarCliente()
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objClientes = CreateObject("KOVA_N_ClientAnim.clsClientes");
-        objClientes->Set("DadosDoUsuario", Principal().DadosDoUsuario);
+        objClientes->Set("DadosDoUsuario", Principal.DadosDoUsuario);
         IgnorarPesquisa = true;
 
         // The plate goes as soon as the answer is there.

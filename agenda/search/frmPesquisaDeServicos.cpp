@@ -107,9 +107,8 @@ void frmPesquisaDeServicos::PreencherComboboxTiposDeServicos()
         ComponentRef objTipos = CreateObject("KOVA_N_TipoDeServ.clsTiposDeServ");
 
         Ponto = 2;
-        Principal().FiltroDosTiposDeServicos = 0;
-        if (objTipos->Call("SelecionarParaComboBox", {ByRef(Principal().FiltroDosTiposDeServicos)})
-                .ToInteger()
+        Principal.FiltroDosTiposDeServicos = 0;
+        if (objTipos->Call("SelecionarParaComboBox", {ByRef(Principal.FiltroDosTiposDeServicos)}).ToInteger()
             != 0) {
             MensagemDeErroDoObjeto(*objTipos);
             return;
@@ -148,7 +147,7 @@ void frmPesquisaDeServicos::Form_Load()
         if (EfetuarOPreenchimentoDaComboboxTiposDeServicos) {
             PreencherComboboxTiposDeServicos();
             if (kvcmbTiposDeServicos.ListCount() > 0) {
-                Principal().IgnorarClickDoTipoNaPesquisa = true;
+                Principal.IgnorarClickDoTipoNaPesquisa = true;
                 kvcmbTiposDeServicos.ListIndex(0);
             }
         }
@@ -181,7 +180,7 @@ void frmPesquisaDeServicos::kvcmbTiposDeServicos_Click()
     Trap(", frmPesquisaDeServicos, kvcmbTiposDeServicos_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
         kvfndCodigoOuNome.Enabled(true);
-        if (std::exchange(Principal().IgnorarClickDoTipoNaPesquisa, false))
+        if (std::exchange(Principal.IgnorarClickDoTipoNaPesquisa, false))
             return;
 
         Ponto = 2;

@@ -9,7 +9,7 @@ namespace {
 
 Reply Exibir(MessageKind tipo, const Text& mensagem)
 {
-    return ThePlatform().Toolkit().MessageBox(tipo, mensagem, Principal().NomeDaAplicacao);
+    return ThePlatform().Toolkit().MessageBox(tipo, mensagem, Principal.NomeDaAplicacao);
 }
 
 } // namespace

@@ -11,7 +11,7 @@ void MensagemDeErro(Value Numero, Value Descricao, Value Local)
     const ComponentRef objMensagem = CreateObject("KOVA_A_MsgErro.clsMensagem");
     // 2. It shows the report until the user closes it.
     objMensagem->Call("Exibir",
-                      {ByRef(Numero), ByRef(Descricao), ByRef(Local), ByRef(Principal().NomeDaAplicacao)});
+                      {ByRef(Numero), ByRef(Descricao), ByRef(Local), ByRef(Principal.NomeDaAplicacao)});
     // 3. The object is released at the end of this block.
 }
 

@@ -54,9 +54,6 @@ struct modPrincipal {
     std::vector<std::shared_ptr<frmLista>> ListasAbertas;
 };
 
-modPrincipal& Principal();
-
-/// Back to the state of a library that was just loaded. Closes the lists that are still open.
-void ReiniciarModulo();
+extern modPrincipal Principal;
 
 } // namespace kova::agenda

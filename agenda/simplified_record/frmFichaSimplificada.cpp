@@ -88,7 +88,7 @@ void frmFichaSimplificada::MontarExibirFormulario(Integer Operacao)
 void frmFichaSimplificada::PrepararInclusao()
 {
     NumeroDeLancamento = 0;
-    kvdtpDataInicial.Text(Principal().DataDaAgenda);
+    kvdtpDataInicial.Text(Principal.DataDaAgenda);
     // The guard swallows this Click: choosing the row has reset the service part already.
     if (kvcmbTiposDeServicos.ListIndex() == 0)
         kvcmbTiposDeServicos.ListIndex(0);

@@ -24,7 +24,7 @@ void PreencherCombo(KVComboBox& combo, const char* classe, const std::vector<Arg
     if (objeto->Call("SelecionarParaComboBox", argumentos).ToInteger() != 0) {
         MensagemDeErroDoObjeto(*objeto);
         objeto.reset();
-        RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+        RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
         return;
     }
 
@@ -34,7 +34,7 @@ void PreencherCombo(KVComboBox& combo, const char* classe, const std::vector<Arg
     combo.Clear();
     if (registros->RecordCount() == 0) {
         ExibirInformacao(mensagemSemLinhas);
-        RemoverFundoEscuro(Principal().HandleDaJanelaPrincipal);
+        RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
         return;
     }
 

@@ -80,7 +80,7 @@ void frmFichaSimplificada::EscreverAgendamento(Component& agenda)
     agenda.Set("NumeroDoTipoDeServico", ItemDataOuZero(kvcmbTiposDeServicos));
     agenda.Set("Observacao", Trim(kvtxtObservacaoDoServico.Text()));
     agenda.Set("TipoDoAgendamento", AgendamentoSimplificado);
-    agenda.Set("DadosDoUsuario", Principal().DadosDoUsuario);
+    agenda.Set("DadosDoUsuario", Principal.DadosDoUsuario);
 }
 
 Text frmFichaSimplificada::SexoParaGravar() const

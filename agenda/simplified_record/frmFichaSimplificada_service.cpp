@@ -43,7 +43,7 @@ void frmFichaSimplificada::kvcmbTiposDeServicos_Click()
         kvtimHoraFinal.Text(Text(EmptyTimeMask));
         kvtxtObservacaoDoServico.Text("");
         // Only this record form goes back to the day of the list.
-        kvdtpDataInicial.Text(Principal().DataDaAgenda);
+        kvdtpDataInicial.Text(Principal.DataDaAgenda);
 
         Ponto = 4;
         HabilitarDesabilitarCampos(true);

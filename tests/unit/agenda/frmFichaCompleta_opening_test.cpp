@@ -11,7 +11,7 @@ class FichaCompletaOpening : public FichaCompletaTest { };
 TEST_F(FichaCompletaOpening, AddsOnTheListsDateWithoutANumber)
 {
     Prepare();
-    Principal().DataDaAgenda = "23/11/2026";
+    Principal.DataDaAgenda = "23/11/2026";
     ficha->NumeroDeLancamento = 9;
     ficha->DomingoOuFeriado = true;
     Show(operacao::Adicionar, [this] {

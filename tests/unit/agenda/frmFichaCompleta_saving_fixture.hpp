@@ -34,7 +34,7 @@ protected:
                          {{"Macho", Long{1}, "Cão", Long{2}, "Poodle", "Branco"}}}});
         lista = Open();
         ASSERT_EQ(user.Hover("frmLista", "msfgGrade", 1), "");
-        Principal().DataDaAgenda = "20/11/2026";
+        Principal.DataDaAgenda = "20/11/2026";
         ficha = frmFichaCompleta::Criar();
         Fill(ficha->kvcmbSituacao, {{"Agendado", 1}, {"Atendido", 2}, {"Cancelado", 3}});
         Fill(ficha->kvcmbFuncionarios, {{"Ana", 7}, {"Beto", 9}});

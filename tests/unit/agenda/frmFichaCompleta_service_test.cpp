@@ -279,7 +279,7 @@ TEST_F(FichaCompletaService, IsPickedWhereSeveralAreFound)
             EXPECT_EQ(types.List(3), "Banho e tosa");
             EXPECT_EQ(types.ItemData(3), 4);
             EXPECT_EQ(types.ListIndex(), 0);
-            EXPECT_FALSE(Principal().IgnorarClickDoTipoNaPesquisa) << "used up by the write";
+            EXPECT_FALSE(Principal.IgnorarClickDoTipoNaPesquisa) << "used up by the write";
             EXPECT_EQ(user.Select("frmPesquisaDeServicos", "msfgGrade", 2), "");
         });
         Search(Nome, "Banho");

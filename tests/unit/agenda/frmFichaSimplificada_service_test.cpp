@@ -291,7 +291,7 @@ TEST_F(ChoosingAmongServices, OpensThePickerWithTheRowsAndTheTypesOfTheForm)
             EXPECT_TRUE(dialog.Control("kvfndCodigoOuNome").Enabled());
             const auto& grid = dynamic_cast<MSFlexGrid&>(dialog.Control("msfgGrade"));
             EXPECT_EQ(grid.Rows(), 3);
-            EXPECT_FALSE(Principal().IgnorarClickDoTipoNaPesquisa);
+            EXPECT_FALSE(Principal.IgnorarClickDoTipoNaPesquisa);
             EXPECT_EQ(user.Select(Picker, "msfgGrade", 2), "");
         });
         Search("kvfNomeDoServico", "banho");

@@ -35,7 +35,7 @@ protected:
             EXPECT_EQ(user.Click(Dialogo, "kvcmdVisualizarImpressao"), "");
         });
         user.Click("frmLista", "kvcmdImprimirLista");
-        EXPECT_EQ(Principal().ImprimirAgendaImplicita, nullptr) << "the dialog is closed in any case";
+        EXPECT_EQ(Principal.ImprimirAgendaImplicita, nullptr) << "the dialog is closed in any case";
     }
 
     std::string Selection() const
@@ -180,7 +180,7 @@ TEST_F(PrintedList, SaysWhereNothingMatches)
 
 TEST_F(PrintedList, OfAnUnknownKindIsNone)
 {
-    Print(Lista, [] { Principal().ImprimirAgendaImplicita->TipoDaListaASerImpressa(2); });
+    Print(Lista, [] { Principal.ImprimirAgendaImplicita->TipoDaListaASerImpressa(2); });
     EXPECT_EQ(Logged("report "), Strings());
     EXPECT_TRUE(Boxes().empty());
     EXPECT_EQ(Reports(), Strings());

@@ -61,12 +61,12 @@ TEST_F(Filtering, ByTypeOrEmployeeRefreshesTheModulesDate)
     const auto lista = OpenOnPage(1);
     lista->kvdtpDataDeAgendamento.Text("25/12/2026");
     user.Choose("frmLista", "kvcmbSituacao", 0);
-    EXPECT_EQ(Principal().DataDaAgenda, "20/11/2026") << "the status leaves it alone";
+    EXPECT_EQ(Principal.DataDaAgenda, "20/11/2026") << "the status leaves it alone";
     user.Choose("frmLista", "kvcmbTiposDeServicos", 1);
-    EXPECT_EQ(Principal().DataDaAgenda, "25/12/2026");
+    EXPECT_EQ(Principal.DataDaAgenda, "25/12/2026");
     lista->kvdtpDataDeAgendamento.Text("26/12/2026");
     user.Choose("frmLista", "kvcmbFuncionarios", 1);
-    EXPECT_EQ(Principal().DataDaAgenda, "26/12/2026");
+    EXPECT_EQ(Principal.DataDaAgenda, "26/12/2026");
     EXPECT_FALSE(lista->ListaFiltrada) << "neither counts as a filter of its own";
     EXPECT_EQ(lista->PaginaSalva, 1);
 }
@@ -156,7 +156,7 @@ TEST_F(Filtering, MovesByOneDayAndReloadsOnce)
     const auto lista = OpenOnPage(1);
     EXPECT_EQ(user.Click("frmLista", "kvcmdIrParaDiaPosterior"), "");
     EXPECT_EQ(lista->kvdtpDataDeAgendamento.Text(), "21/11/2026");
-    EXPECT_EQ(Principal().DataDaAgenda, "21/11/2026");
+    EXPECT_EQ(Principal.DataDaAgenda, "21/11/2026");
     EXPECT_EQ(Lines(Selecionar).size(), 1U);
     lista->kvdtpDataDeAgendamento.Text("01/03/2028");
     user.Click("frmLista", "kvcmdIrParaDiaAnterior");
@@ -179,7 +179,7 @@ TEST_F(Filtering, ReloadsWithTheUsersEditAndThenOnlyMovesTheFocus)
     const auto lista = OpenOnPage(1);
     user.Type("frmLista", "kvdtpDataDeAgendamento", "24/12/2026");
     EXPECT_EQ(Lines(Selecionar).size(), 1U);
-    EXPECT_EQ(Principal().DataDaAgenda, "24/12/2026");
+    EXPECT_EQ(Principal.DataDaAgenda, "24/12/2026");
     EXPECT_FALSE(lista->DataAlterada) << "the reload gave the focus to the grid";
     EXPECT_EQ(lista->kvdtpDataDeAgendamento.Text(), "24/12/2026");
 }

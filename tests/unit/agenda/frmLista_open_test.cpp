@@ -64,8 +64,8 @@ TEST_F(OpeningTheList, FillsTheThreeFiltersAndStandsOnTheirFirstRows)
     EXPECT_EQ(lista->kvcmbTiposDeServicos.ListIndex(), 0);
     EXPECT_EQ(lista->kvcmbFuncionarios.ListIndex(), 0);
     EXPECT_EQ(lista->kvdtpDataDeAgendamento.Text(), "20/11/2026");
-    EXPECT_EQ(Principal().DataDaAgenda, "20/11/2026");
-    EXPECT_EQ(Principal().HandleDaJanelaPrincipal, 4711);
+    EXPECT_EQ(Principal.DataDaAgenda, "20/11/2026");
+    EXPECT_EQ(Principal.HandleDaJanelaPrincipal, 4711);
     EXPECT_FALSE(lista->IgnorarClick);
     EXPECT_EQ(Lines("call " + Selecionar).size(), 1U) << "the guarded writes reload nothing";
 }
@@ -287,15 +287,15 @@ TEST_F(OpeningTheList, LeavesTheFormerListOpenWhenTheShellOpensAnother)
     EXPECT_NE(first, second);
     EXPECT_TRUE(first->Formulario->Visible());
     EXPECT_TRUE(second->Formulario->Visible());
-    EXPECT_EQ(Principal().FormularioDaLista, second);
+    EXPECT_EQ(Principal.FormularioDaLista, second);
 }
 
 TEST_F(OpeningTheList, ForgetsAListThatItsShellHasClosed)
 {
     std::weak_ptr<frmLista> lista = Open();
-    EXPECT_EQ(Principal().ListasAbertas.size(), 1U);
+    EXPECT_EQ(Principal.ListasAbertas.size(), 1U);
     lista.lock()->Formulario->Unload();
-    EXPECT_TRUE(Principal().ListasAbertas.empty());
+    EXPECT_TRUE(Principal.ListasAbertas.empty());
     EXPECT_TRUE(lista.expired());
     EXPECT_EQ(script.LiveObjects(), 0);
 }
@@ -306,8 +306,8 @@ TEST_F(OpeningTheList, EndsWithItsContainer)
     toolkit.ClearLog();
     toolkit.DestroyContainer(container);
     EXPECT_EQ(Logged("unload"), std::vector<std::string>{"unload frmLista"});
-    EXPECT_TRUE(Principal().ListasAbertas.empty());
-    EXPECT_EQ(Principal().FormularioDaLista, nullptr);
+    EXPECT_TRUE(Principal.ListasAbertas.empty());
+    EXPECT_EQ(Principal.FormularioDaLista, nullptr);
     EXPECT_TRUE(lista.expired());
     EXPECT_EQ(script.LiveObjects(), 0);
     EXPECT_TRUE(Reports().empty());
@@ -318,10 +318,10 @@ TEST_F(OpeningTheList, TakesAUserThatHasBeenDropped)
     clsAgenda agenda;
     agenda.Set("DadosDoUsuario", std::make_shared<scenario::NamedObject>("<user>"));
     agenda.Set("DadosDoUsuario", ObjectRef());
-    EXPECT_EQ(Principal().DadosDoUsuario, nullptr);
+    EXPECT_EQ(Principal.DadosDoUsuario, nullptr);
     agenda.Set("DadosDoUsuario", std::make_shared<scenario::NamedObject>("<user>"));
     agenda.Set("DadosDoUsuario", Value());
-    EXPECT_EQ(Principal().DadosDoUsuario, nullptr);
+    EXPECT_EQ(Principal.DadosDoUsuario, nullptr);
 }
 
 TEST_F(OpeningTheList, OffersOneMethodAndTwoWriteOnlyProperties)

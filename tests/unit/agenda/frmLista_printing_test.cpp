@@ -18,7 +18,7 @@ protected:
     {
         toolkit.Queue().QueueMenu(entry);
         toolkit.Queue().QueueAction([this, action] {
-            dialogo = Principal().ImprimirAgendaImplicita.get();
+            dialogo = Principal.ImprimirAgendaImplicita.get();
             if (action)
                 action();
             EXPECT_EQ(user.Click(Dialogo, "kvcmdCancelar"), "");
@@ -115,7 +115,7 @@ TEST_F(ListPrinting, ADialogThatCouldNotBeShownLeavesNoTitleToTheNextOne)
     script.Fail("KOVA_A_EfeitosDeTela.clsFundoEscuro.Aplicar", Failure(5, "falhou"));
     user.Click("frmLista", "kvcmdImprimirLista");
     EXPECT_EQ(Reports().size(), 1U);
-    EXPECT_EQ(Principal().ImprimirAgendaImplicita, nullptr);
+    EXPECT_EQ(Principal.ImprimirAgendaImplicita, nullptr);
     EXPECT_EQ(toolkit.FindForm(Dialogo), nullptr);
     OpenDialog(Lista, [this] { EXPECT_EQ(dialogo->kvTheme.Caption(), "Imprimir agenda"); });
 }
@@ -132,7 +132,7 @@ TEST_F(ListPrinting, TheShellIsDimmedWhileTheDialogIsOpen)
     EXPECT_EQ(Lines("call KOVA_A_EfeitosDeTela").back(),
               "call KOVA_A_EfeitosDeTela.clsFundoEscuro.Remover(Long& 4711) -> Integer 0");
 
-    Principal().SemFundoEscuroNaImpressao = true;
+    Principal.SemFundoEscuroNaImpressao = true;
     OpenDialog(Lista);
     EXPECT_EQ(Lines("call KOVA_A_EfeitosDeTela"), Strings());
 }
@@ -149,7 +149,7 @@ TEST_F(ListPrinting, CancellingReloadsTheListOnTheSamePage)
     EXPECT_EQ(lista->PaginaSalva, 2);
     EXPECT_EQ(lista->PaginaAtual, 2);
     EXPECT_EQ(lista->msfgGrade.TextMatrix(1, 1), "4") << "the first row of the second page";
-    EXPECT_EQ(Principal().ImprimirAgendaImplicita, nullptr);
+    EXPECT_EQ(Principal.ImprimirAgendaImplicita, nullptr);
 }
 
 TEST_F(ListPrinting, AFailingReloadLeavesThePageAlone)
@@ -169,7 +169,7 @@ TEST_F(ListPrinting, ClosingTheWindowIsLikeCancelling)
     toolkit.Queue().QueueMenu(Lista);
     toolkit.Queue().QueueAction([this] { user.CloseForm(Dialogo); });
     user.Click("frmLista", "kvcmdImprimirLista");
-    EXPECT_EQ(Principal().ImprimirAgendaImplicita, nullptr);
+    EXPECT_EQ(Principal.ImprimirAgendaImplicita, nullptr);
     EXPECT_EQ(Reports(), Strings());
 }
 

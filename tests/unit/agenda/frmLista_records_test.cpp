@@ -170,8 +170,8 @@ TEST_F(RecordCommands, ACancelledFormReloadsNothingAndIsUnloaded)
         EXPECT_EQ(Selections(), 0);
         EXPECT_FALSE(Logged(std::string("unload ") + form).empty());
     }
-    EXPECT_EQ(Principal().FichaCompletaImplicita, nullptr);
-    EXPECT_EQ(Principal().FichaSimplificadaImplicita, nullptr);
+    EXPECT_EQ(Principal.FichaCompletaImplicita, nullptr);
+    EXPECT_EQ(Principal.FichaSimplificadaImplicita, nullptr);
 }
 
 TEST_F(RecordCommands, ASavedAppointmentReloadsTheListOnItsPage)
@@ -258,17 +258,17 @@ TEST_F(RecordCommands, ADetailOfARegisteredRowBringsTheSharedFullRecordIntoBeing
     const auto lista = OpenOnBothKinds();
     InTheForm([&] { user.Click("frmFichaSimplificada", "kvcmdSalvarFecharConfirmar"); });
     PressOnRow(1, "kvcmdDetalhar");
-    EXPECT_EQ(Principal().FichaCompletaImplicita, nullptr);
+    EXPECT_EQ(Principal.FichaCompletaImplicita, nullptr);
     InTheForm([&] { user.Click("frmFichaCompleta", "kvcmdSalvarFecharConfirmar"); });
     PressOnRow(2, "kvcmdDetalhar");
-    ASSERT_NE(Principal().FichaCompletaImplicita, nullptr);
-    EXPECT_FALSE(Principal().FichaCompletaImplicita->Formulario->Visible());
-    EXPECT_TRUE(Principal().FichaCompletaImplicita->Formulario->IsLoaded());
+    ASSERT_NE(Principal.FichaCompletaImplicita, nullptr);
+    EXPECT_FALSE(Principal.FichaCompletaImplicita->Formulario->Visible());
+    EXPECT_TRUE(Principal.FichaCompletaImplicita->Formulario->IsLoaded());
     InTheForm([&] { user.Click("frmFichaCompleta", "kvcmdCancelarAlterar"); });
     PressOnRow(2, "kvcmdAlterar");
     InTheForm([&] { user.Click("frmFichaCompleta", "kvcmdCancelarAlterar"); });
     Add(Completo);
-    EXPECT_EQ(Principal().FichaCompletaImplicita, nullptr);
+    EXPECT_EQ(Principal.FichaCompletaImplicita, nullptr);
 }
 
 TEST_F(RecordCommands, DeletingKeepsThePage)

@@ -9,7 +9,7 @@ namespace {
 
 class TheWaitWindow : public ModuleTest {
 protected:
-    TheWaitWindow() { Principal().NomeDaAplicacao = "Kova"; }
+    TheWaitWindow() { Principal.NomeDaAplicacao = "Kova"; }
 };
 
 TEST_F(TheWaitWindow, FitsItsTextShowsItselfAndWaitsASecond)

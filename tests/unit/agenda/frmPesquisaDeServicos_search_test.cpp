@@ -22,7 +22,7 @@ protected:
         pesquisa->kvcmbTiposDeServicos.AddItem("(Todos)");
         pesquisa->kvcmbTiposDeServicos.AddItem("Banho e tosa");
         pesquisa->kvcmbTiposDeServicos.ItemData(1, 4);
-        Principal().IgnorarClickDoTipoNaPesquisa = true;
+        Principal.IgnorarClickDoTipoNaPesquisa = true;
         pesquisa->kvcmbTiposDeServicos.ListIndex(1);
     }
 
@@ -146,7 +146,7 @@ TEST_F(PickingAService, AsksForTheTextInsideTheChosenType)
 
 TEST_F(PickingAService, SearchesAllTypesFromTheFirstRow)
 {
-    Principal().IgnorarClickDoTipoNaPesquisa = true;
+    Principal.IgnorarClickDoTipoNaPesquisa = true;
     pesquisa->kvcmbTiposDeServicos.ListIndex(0);
     Use(*pesquisa, [&] { Search("x"); });
     ASSERT_EQ(Calls().size(), 1U);
@@ -294,10 +294,10 @@ TEST_F(PickingAService, OnlyOpensItsBoxWhileTheTypesClickIsIgnored)
 {
     Fill(3);
     caixa.Enabled(false);
-    Principal().IgnorarClickDoTipoNaPesquisa = true;
+    Principal.IgnorarClickDoTipoNaPesquisa = true;
     pesquisa->kvcmbTiposDeServicos.ListIndex(0);
     EXPECT_TRUE(caixa.Enabled());
-    EXPECT_FALSE(Principal().IgnorarClickDoTipoNaPesquisa);
+    EXPECT_FALSE(Principal.IgnorarClickDoTipoNaPesquisa);
     EXPECT_EQ(grade.Rows(), 4) << "the rows stay";
 }
 
@@ -352,7 +352,7 @@ protected:
 
 TEST_F(TheTypesOfTheDialog, AreFilledOnLoadingWhereTheCallerWantsIt)
 {
-    Principal().FiltroDosTiposDeServicos = 7;
+    Principal.FiltroDosTiposDeServicos = 7;
     const auto pesquisa = Loaded();
     const KVComboBox& tipos = pesquisa->kvcmbTiposDeServicos;
     ASSERT_EQ(tipos.ListCount(), 4);
@@ -362,7 +362,7 @@ TEST_F(TheTypesOfTheDialog, AreFilledOnLoadingWhereTheCallerWantsIt)
     EXPECT_EQ(tipos.ItemData(3), 4);
     EXPECT_EQ(tipos.ListIndex(), 0);
     EXPECT_TRUE(pesquisa->kvfndCodigoOuNome.Enabled());
-    EXPECT_FALSE(Principal().IgnorarClickDoTipoNaPesquisa);
+    EXPECT_FALSE(Principal.IgnorarClickDoTipoNaPesquisa);
     EXPECT_EQ(pesquisa->kvcmdFechar.ToolTipText(), "Cancelar a pesquisa e fechar");
     EXPECT_EQ(Lines("call KOVA_N_TipoDeServ"),
               (std::vector<std::string>{"call " + Tipos + "(Double& 0) -> Integer 0"}));

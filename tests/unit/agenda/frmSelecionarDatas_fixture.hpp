@@ -15,8 +15,8 @@ class DateSelectionTest : public ModuleTest {
 protected:
     DateSelectionTest()
     {
-        Principal().NomeDaAplicacao = "Kova";
-        Principal().DadosDoUsuario = std::make_shared<scenario::NamedObject>("<user>");
+        Principal.NomeDaAplicacao = "Kova";
+        Principal.DadosDoUsuario = std::make_shared<scenario::NamedObject>("<user>");
         datas->kvtxtTempoDoServico.Text("01:30");
     }
 

@@ -1,5 +1,7 @@
 #include "tests/unit/agenda/module_fixture.hpp"
 
+#include "agenda/list/module_reset.hpp"
+
 namespace kova::agenda {
 
 using scenario::RecordTable;
@@ -63,7 +65,7 @@ std::shared_ptr<frmLista> ModuleTest::Open()
         agenda.Set("NomeDaAplicacao", application);
     const Value answer = agenda.Call("AbrirLista", {Long{4711}, container});
     EXPECT_TRUE(answer.IsEmpty());
-    return Principal().FormularioDaLista;
+    return Principal.FormularioDaLista;
 }
 
 std::vector<Value> ModuleTest::Appointment(int number, const std::map<std::string, Value>& changes)

@@ -44,8 +44,8 @@ class SearchTest : public ModuleTest {
 protected:
     SearchTest()
     {
-        Principal().NomeDaAplicacao = "Kova";
-        Principal().DadosDoUsuario = std::make_shared<scenario::NamedObject>("<user>");
+        Principal.NomeDaAplicacao = "Kova";
+        Principal.DadosDoUsuario = std::make_shared<scenario::NamedObject>("<user>");
     }
 
     /// Shows the dialog modally; the user does `action` in it and then, where it is still open, nothing more.

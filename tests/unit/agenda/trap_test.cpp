@@ -16,7 +16,7 @@ namespace {
 
 class TheTrap : public ModuleTest {
 protected:
-    TheTrap() { Principal().NomeDaAplicacao = "Kova"; }
+    TheTrap() { Principal.NomeDaAplicacao = "Kova"; }
 
     /// The place that the last report gave.
     std::string Place() const
@@ -75,7 +75,7 @@ TEST_F(TheTrap, PassesTheNumberOfAnotherMakerOnUnchanged)
 
 TEST_F(TheTrap, GivesAnEmptyTextWhereTheShellSetNoName)
 {
-    Principal().NomeDaAplicacao.clear();
+    Principal.NomeDaAplicacao.clear();
     MensagemDeErro(Long{1}, "d", "l");
     EXPECT_EQ(
         Reports().back(),
