@@ -68,7 +68,7 @@ ListProgram::ListProgram(const std::string& database, Date day, QSize size)
     const Long handle = qt::HandleOf(window_);
     agenda::clsAgenda agenda;
     static_cast<Component&>(agenda).Call("AbrirLista", {handle, handle});
-    list_ = agenda::Principal.FormularioDaLista;
+    list_ = std::dynamic_pointer_cast<agenda::frmLista>(agenda::Principal.FormularioDaLista);
     grid_ = dynamic_cast<qt::GridCanvas*>(window_.findChild<QWidget*>(QStringLiteral("frmLista.msfgGrade")));
     if (!grid_)
         throw std::runtime_error("the list has no grid");

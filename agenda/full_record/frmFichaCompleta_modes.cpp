@@ -3,9 +3,7 @@
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"
 #include "agenda/full_record/frmFichaCompleta_design.hpp"
-#include "agenda/list/frmLista.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
-#include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/trap.hpp"
 
 namespace kova::agenda {
@@ -17,13 +15,6 @@ bool EhCampoDeEdicao(WidgetKind especie)
     return especie == WidgetKind::KVComboBox || especie == WidgetKind::KVTextBox
         || especie == WidgetKind::KVDTPicker || especie == WidgetKind::KVTime
         || especie == WidgetKind::KVFind;
-}
-
-/// A cell of the list's current row.
-Text CelulaDaLista(Long coluna)
-{
-    const MSFlexGrid& grade = Principal.FormularioDaLista->msfgGrade;
-    return grade.TextMatrix(grade.RowSel(), coluna);
 }
 
 } // namespace
@@ -63,7 +54,7 @@ void frmFichaCompleta::MontarAlterar()
     kvTheme.Caption("Alterar agendamento completo");
     PreencherCarimbos();
     HabilitarCamposDeEdicao(true);
-    if (UpperCase(CelulaDaLista(colunas::NomeDoTipoDeServico)) == "RETORNO")
+    if (UpperCase(CelulaSelecionadaDaLista(colunas::NomeDoTipoDeServico)) == "RETORNO")
         FixarCamposDoRetorno();
 
     // Only the form that came from the detail view is on show here.
@@ -88,9 +79,9 @@ void frmFichaCompleta::MontarExcluir()
 
 void frmFichaCompleta::PreencherCarimbos()
 {
-    kvTheme.DataOfInclusion(
-        CarimboDeInclusao(NumeroDeLancamento, CelulaDaLista(colunas::DataEHoraDaInclusao), TipoDeOperacao));
-    kvTheme.DataOfAlteration(CarimboDeAlteracao(CelulaDaLista(colunas::DataEHoraDaAlteracao)));
+    kvTheme.DataOfInclusion(CarimboDeInclusao(
+        NumeroDeLancamento, CelulaSelecionadaDaLista(colunas::DataEHoraDaInclusao), TipoDeOperacao));
+    kvTheme.DataOfAlteration(CarimboDeAlteracao(CelulaSelecionadaDaLista(colunas::DataEHoraDaAlteracao)));
 }
 
 void frmFichaCompleta::HabilitarCamposDeEdicao(bool Habilitar)

@@ -2,7 +2,6 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"
-#include "agenda/list/frmLista.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/trap.hpp"
@@ -56,10 +55,8 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
     optAgendarPorCliente.Visible(false);
     optAgendarPorAnimal.Visible(false);
 
-    const auto lista = Principal.FormularioDaLista;
-    if (!lista)
-        throw Failure(FailureNumber::NoObject);
-    const MSFlexGrid& grade = lista->msfgGrade;
+    const auto lista = ListaAberta();
+    const MSFlexGrid& grade = lista->Grade();
     const Long linha = grade.RowSel();
     const auto celula = [&](Long coluna) { return grade.TextMatrix(linha, coluna); };
 

@@ -55,10 +55,11 @@ Value clsAgenda::AbrirLista(Long HandleDaJanelaPrincipal, Long HandleDoContainer
         Principal.DataDaAgenda = FormatDate(ThePlatform().Clock().Now().date);
 
         Ponto = 2;
-        Principal.FormularioDaLista = frmLista::Criar();
+        const auto lista = frmLista::Criar();
+        Principal.FormularioDaLista = lista;
 
         Ponto = 3;
-        Principal.FormularioDaLista->MontarExibirFormulario(HandleDoContainer);
+        lista->MontarExibirFormulario(HandleDoContainer);
     });
     return {};
 }

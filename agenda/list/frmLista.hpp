@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/business_services.hpp"
 #include "agenda/contracts/widgets.hpp"
+#include "agenda/shared/day_list.hpp"
 
 #include <array>
 #include <memory>
@@ -19,7 +20,7 @@ struct FichaImpressa;
 /// frmLista_status.cpp the status buttons, frmLista_records.cpp opens the record forms, frmLista_printing.cpp
 /// the list's print dialog, frmLista_cards.cpp prints what concerns one row, frmLista_panel.cpp and
 /// frmLista_layout.cpp place things, frmLista_wait.cpp shows the wait plate.
-class frmLista : public std::enable_shared_from_this<frmLista> {
+class frmLista : public ListaDoDia, public std::enable_shared_from_this<frmLista> {
 public:
     /// A new list, hidden, on the toolkit of the host. It lives until its form is unloaded.
     static std::shared_ptr<frmLista> Criar();
@@ -38,6 +39,9 @@ public:
     void ExibirOuOcultarPainel(bool& Exibir);
     /// The wait plate: true shows it and waits one second, false hides it.
     void ExibirOcultarpicMensagem(bool Exibir);
+
+    const MSFlexGrid& Grade() const override { return msfgGrade; }
+    void Redesenhar() override { Formulario->Refresh(); }
 
     FormRef Formulario;
 
@@ -240,7 +244,7 @@ private:
     Integer ImprimirFicha(const FichaImpressa& ficha, Integer& Ponto);
     void mnuImprimirEtiquetaDeEndereco_Click();
 
-    void PreencherRotulosDoPainel(MSFlexGrid& grade);
+    void PreencherRotulosDoPainel(const MSFlexGrid& grade);
     void AlinharRotulosDoPainel();
     void chkExibirPainel_Click();
 

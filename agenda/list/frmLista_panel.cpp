@@ -49,14 +49,14 @@ void frmLista::AtualizarPainel()
             throw Failure(FailureNumber::NoObject);
 
         Ponto = 2;
-        PreencherRotulosDoPainel(Principal.FormularioDaLista->msfgGrade);
+        PreencherRotulosDoPainel(Principal.FormularioDaLista->Grade());
 
         Ponto = 3;
         AlinharRotulosDoPainel();
     });
 }
 
-void frmLista::PreencherRotulosDoPainel(MSFlexGrid& grade)
+void frmLista::PreencherRotulosDoPainel(const MSFlexGrid& grade)
 {
     // While a drag is under way the two rows differ: kind and names of the head come from RowSel.
     const auto naSelecao = [&](Long coluna) { return grade.TextMatrix(grade.RowSel(), coluna); };

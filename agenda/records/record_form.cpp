@@ -2,7 +2,6 @@
 
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
-#include "agenda/list/frmLista.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
 #include "agenda/shared/modPrincipal.hpp"
@@ -68,7 +67,7 @@ void FichaDeAgendamento::Exibir()
         return;
     ThePlatform().Toolkit().ProcessPendingEvents();
     if (const auto lista = Principal.FormularioDaLista)
-        lista->Formulario->Refresh();
+        lista->Redesenhar();
     RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
 }
 
@@ -132,12 +131,17 @@ void SelecionarPelaCelula(KVComboBox& combo, const Text& celula)
         combo.ListIndex(linha);
 }
 
+std::shared_ptr<const ListaDoDia> ListaAberta()
+{
+    if (!Principal.FormularioDaLista)
+        throw Failure(FailureNumber::NoObject);
+    return Principal.FormularioDaLista;
+}
+
 Text CelulaSelecionadaDaLista(Long coluna)
 {
-    const auto lista = Principal.FormularioDaLista;
-    if (!lista)
-        throw Failure(FailureNumber::NoObject);
-    return lista->msfgGrade.TextMatrix(lista->msfgGrade.RowSel(), coluna);
+    const auto lista = ListaAberta();
+    return lista->Grade().TextMatrix(lista->Grade().RowSel(), coluna);
 }
 
 void HabilitarCamposDeEdicao(Form& formulario, bool habilitar, CaixasDePesquisa caixas)

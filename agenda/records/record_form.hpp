@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/widgets.hpp"
+#include "agenda/shared/day_list.hpp"
 
 #include <memory>
 
@@ -88,7 +89,9 @@ Integer LinhaDaCelula(const KVComboBox& combo, const Text& celula);
 /// Selects the row whose number is in the cell; where there is none, nothing is written. The combo's Click is
 /// raised by the write.
 void SelecionarPelaCelula(KVComboBox& combo, const Text& celula);
-/// A cell of the list's selected row. Fails with 91 where there is no list.
+/// The list of the day. Fails with 91 where there is none.
+std::shared_ptr<const ListaDoDia> ListaAberta();
+/// A cell of its selected row.
 Text CelulaSelecionadaDaLista(Long coluna);
 
 /// What becomes of the search boxes when the fields are switched.

@@ -12,14 +12,15 @@ class frmFichaCompleta;
 class frmFichaSimplificada;
 class frmImprimirAgenda;
 class frmLista;
+class ListaDoDia;
 
 /// State of the module that more than one screen reads. One instance lives until the library is
 /// unloaded; a second AbrirLista overwrites it. One thread, so nothing guards it.
 struct modPrincipal {
     /// The day the list shows, "dd/mm/yyyy".
     Text DataDaAgenda;
-    /// The list form of this session.
-    std::shared_ptr<frmLista> FormularioDaLista;
+    /// The list form of this session: the last one that AbrirLista made.
+    std::shared_ptr<ListaDoDia> FormularioDaLista;
     /// The shell's user object, passed on as it stands.
     ObjectRef DadosDoUsuario;
     /// Title of every message box; empty if the shell never set it.

@@ -65,7 +65,7 @@ std::shared_ptr<frmLista> ModuleTest::Open()
         agenda.Set("NomeDaAplicacao", application);
     const Value answer = agenda.Call("AbrirLista", {Long{4711}, container});
     EXPECT_TRUE(answer.IsEmpty());
-    return Principal.FormularioDaLista;
+    return std::dynamic_pointer_cast<frmLista>(Principal.FormularioDaLista);
 }
 
 std::vector<Value> ModuleTest::Appointment(int number, const std::map<std::string, Value>& changes)
