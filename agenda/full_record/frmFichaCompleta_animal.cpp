@@ -3,6 +3,7 @@
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"

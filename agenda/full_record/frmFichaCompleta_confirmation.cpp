@@ -4,6 +4,7 @@
 #include "agenda/full_record/frmFichaCompleta.hpp"
 #include "agenda/records/record_result.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"

@@ -4,6 +4,7 @@
 #include "agenda/full_record/frmFichaCompleta.hpp"
 #include "agenda/full_record/frmFichaCompleta_design.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/trap.hpp"
 
 namespace kova::agenda {

@@ -3,6 +3,7 @@
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista_design.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
 #include "agenda/shared/modLerGravarEmArquivoIni.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"

@@ -5,6 +5,7 @@
 #include "agenda/list/frmLista.hpp"
 #include "agenda/records/record_form.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/trap.hpp"
 #include "agenda/simplified_record/frmFichaSimplificada.hpp"

@@ -4,6 +4,7 @@
 #include "agenda/list/frmLista.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/trap.hpp"
 

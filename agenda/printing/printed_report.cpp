@@ -1,6 +1,7 @@
 #include "agenda/printing/printed_report.hpp"
 
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"

@@ -3,6 +3,7 @@
 #include "agenda/contracts/date_time.hpp"
 #include "agenda/contracts/text.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"

@@ -9,22 +9,6 @@ namespace kova::agenda {
 
 // What the two record forms do alike.
 
-/// Operation of a record form, as its opener passes it.
-namespace operacao {
-inline constexpr Integer Adicionar = 1;
-inline constexpr Integer Detalhar = 2;
-inline constexpr Integer Alterar = 3;
-inline constexpr Integer Excluir = 4;
-} // namespace operacao
-
-/// What Adicionar, Alterar and Excluir of the business tier answer. Any other number means nothing.
-namespace resultado_da_gravacao {
-inline constexpr Integer Concluida = 0;
-inline constexpr Integer FalhaTecnica = 1;
-inline constexpr Integer CampoRecusado = 2;
-inline constexpr Integer Recusada = 3;
-} // namespace resultado_da_gravacao
-
 /// A record form as the list opens it: the list fills its three combos, runs it, reads OperacaoConcluida
 /// and unloads it.
 class FichaDeAgendamento {

@@ -2,6 +2,7 @@
 
 #include "agenda/records/record_form.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include "agenda/search/search_dialog.hpp"
 #include "agenda/shared/border_shape.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"

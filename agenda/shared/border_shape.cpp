@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/shared/modArredondarCantosDoObjeto.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/module_platform.hpp"
 
 namespace kova::agenda {

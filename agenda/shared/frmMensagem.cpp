@@ -4,6 +4,7 @@
 #include "agenda/shared/border_shape.hpp"
 #include "agenda/shared/frmMensagem_design.hpp"
 #include "agenda/shared/modArredondarCantosDoObjeto.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modFuncoes.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"

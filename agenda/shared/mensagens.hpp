@@ -4,8 +4,6 @@
 
 namespace kova::agenda {
 
-inline constexpr const char* QuebraDeLinha = "\r\n";
-
 /// Message boxes of the forms, all titled NomeDaAplicacao. They return when the user has answered.
 void ExibirInformacao(const Text& mensagem);
 void ExibirCritica(const Text& mensagem);

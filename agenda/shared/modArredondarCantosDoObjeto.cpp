@@ -1,6 +1,7 @@
 #include "agenda/shared/modArredondarCantosDoObjeto.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"
 

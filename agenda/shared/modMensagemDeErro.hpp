@@ -4,9 +4,6 @@
 
 namespace kova::agenda {
 
-/// Name of the running library, first part of the place of every trapped failure.
-inline constexpr const char* NomeDoExecutavel = "KOVA_A_Agenda";
-
 /// Shows number, description and place on the family's error screen. Returns when the user has closed
 /// it. A failure of the error screen itself goes up to the caller.
 void MensagemDeErro(Value Numero, Value Descricao, Value Local);

@@ -1,6 +1,7 @@
 #include "agenda/shared/trap.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 
 #include <new>

@@ -3,6 +3,7 @@
 #include "agenda/contracts/text.hpp"
 #include "agenda/shared/border_shape.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"

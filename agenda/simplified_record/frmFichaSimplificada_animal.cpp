@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modFundoEscuro.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 #include "agenda/shared/modPrincipal.hpp"

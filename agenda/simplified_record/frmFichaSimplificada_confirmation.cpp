@@ -3,6 +3,7 @@
 #include "agenda/contracts/text.hpp"
 #include "agenda/records/record_result.hpp"
 #include "agenda/shared/mensagens.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/trap.hpp"

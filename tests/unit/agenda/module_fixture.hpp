@@ -3,6 +3,7 @@
 #include "agenda/list/clsAgenda.hpp"
 #include "agenda/list/frmLista.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "toolkits/common/grid.hpp"
