@@ -1,7 +1,7 @@
 #include "agenda/full_record/frmFichaCompleta_design.hpp"
 
-#include "agenda/records/record_form.hpp"
 #include "agenda/records/record_form_design.hpp"
+#include "agenda/shared/palette.hpp"
 #include "agenda/shared/wait_plate.hpp"
 
 namespace kova::agenda {
@@ -45,7 +45,7 @@ ControlDesign Opcao(int indice, const char* texto, Twips esquerda, const char* t
             .caption = texto,
             .tabStop = false,
             .fontSize = 9,
-            .foreColor = CorDoRotulo,
+            .foreColor = cores::Rotulo,
             .shortcut = tecla,
             .value = indice == 1 ? 1 : 0};
 }
@@ -66,7 +66,7 @@ std::vector<ControlDesign> Cabecalho()
          .caption = "Pequisar por:",
          .autoSize = true,
          .fontSize = 9,
-         .foreColor = CorDoRotulo},
+         .foreColor = cores::Rotulo},
         Opcao(1, "Dados do cliente ", EsquerdaDeBuscar, "Alt+D"),
         Opcao(2, "Nome do animal", EsquerdaDeSituacao, "Alt+L"),
     };
@@ -80,21 +80,21 @@ std::vector<ControlDesign> Cliente()
     constexpr Twips larguraDaDireita = BordaDireita - EsquerdaDeBuscar;
     return {
         SecaoDaFicha("lblCliente", "Cliente*", TopoDoCliente),
-        RotuloDaFicha("lblCodigoDoCliente", "&Codigo", "kvfCodigoDoCliente", Margem, PrimeiraLinhaDoCliente),
+        RotuloDeCampo("lblCodigoDoCliente", "&Codigo", "kvfCodigoDoCliente", Margem, PrimeiraLinhaDoCliente),
         ComNomeAcessivel(CampoDeCodigo("kvfCodigoDoCliente", Margem, PrimeiraLinhaDoCliente, larguraDoCodigo),
                          "Código do cliente"),
-        RotuloDaFicha("lblApelidoOuNomeFantasiaDoCliente", "&Apelido ou nome fantasia",
+        RotuloDeCampo("lblApelidoOuNomeFantasiaDoCliente", "&Apelido ou nome fantasia",
                       "kvfApelidoOuNomeFantasiaDoCliente", esquerdaDoApelido, PrimeiraLinhaDoCliente),
-        CampoDaFicha(Kind::KVFind, "kvfApelidoOuNomeFantasiaDoCliente", esquerdaDoApelido,
+        CaixaDeCampo(Kind::KVFind, "kvfApelidoOuNomeFantasiaDoCliente", esquerdaDoApelido,
                      PrimeiraLinhaDoCliente, larguraDoApelido),
-        RotuloDaFicha("lblNomeOuRazaoSocialDoCliente", "&Nome ou Razão Social",
+        RotuloDeCampo("lblNomeOuRazaoSocialDoCliente", "&Nome ou Razão Social",
                       "kvfNomeOuRazaoSocialDoCliente", EsquerdaDeBuscar, PrimeiraLinhaDoCliente),
-        CampoDaFicha(Kind::KVFind, "kvfNomeOuRazaoSocialDoCliente", EsquerdaDeBuscar, PrimeiraLinhaDoCliente,
+        CaixaDeCampo(Kind::KVFind, "kvfNomeOuRazaoSocialDoCliente", EsquerdaDeBuscar, PrimeiraLinhaDoCliente,
                      larguraDaDireita),
-        RotuloDaFicha("lblEndereco", "&Endereço", "kvfEnderecoDoCliente", Margem, SegundaLinhaDoCliente),
-        CampoDaFicha(Kind::KVFind, "kvfEnderecoDoCliente", Margem, SegundaLinhaDoCliente,
+        RotuloDeCampo("lblEndereco", "&Endereço", "kvfEnderecoDoCliente", Margem, SegundaLinhaDoCliente),
+        CaixaDeCampo(Kind::KVFind, "kvfEnderecoDoCliente", Margem, SegundaLinhaDoCliente,
                      EsquerdaDeBuscar - Vao - Margem),
-        RotuloDaFicha("lblCanalDeComunicacao", "Canal de comunicação", "kvtxtTiposECanaisDeComunicacao",
+        RotuloDeCampo("lblCanalDeComunicacao", "Canal de comunicação", "kvtxtTiposECanaisDeComunicacao",
                       EsquerdaDeBuscar, SegundaLinhaDoCliente),
         CampoSomenteLeitura("kvtxtTiposECanaisDeComunicacao", EsquerdaDeBuscar, SegundaLinhaDoCliente,
                             larguraDaDireita, 0),
@@ -109,25 +109,25 @@ std::vector<ControlDesign> Animal()
     constexpr Twips esquerdaDaEspecie = esquerdaDoSexo + larguraDoSexo + Vao;
     constexpr Twips larguraDaEspecie = EsquerdaDeBuscar - Vao - esquerdaDaEspecie;
     ControlDesign pesquisa =
-        CampoDaFicha(Kind::KVFind, "kvfNomeDoAnimal", Margem, LinhaDoAnimal, larguraDoNome);
+        CaixaDeCampo(Kind::KVFind, "kvfNomeDoAnimal", Margem, LinhaDoAnimal, larguraDoNome);
     pesquisa.caption = "Animal";
     pesquisa.visible = false;
     pesquisa.toolTipTextOfTextBox = "Código, Nome ou Microchip";
     pesquisa.placeholder = "Código, nome ou microchip";
     return {
         SecaoDaFicha("lblAnimal", "Animal*", TopoDoAnimal),
-        RotuloDaFicha("lblNomeDoAnimal", "N&ome", "kvcmbAnimal", Margem, LinhaDoAnimal),
-        ComNomeAcessivel(CampoDaFicha(Kind::KVComboBox, "kvcmbAnimal", Margem, LinhaDoAnimal, larguraDoNome),
+        RotuloDeCampo("lblNomeDoAnimal", "N&ome", "kvcmbAnimal", Margem, LinhaDoAnimal),
+        ComNomeAcessivel(CaixaDeCampo(Kind::KVComboBox, "kvcmbAnimal", Margem, LinhaDoAnimal, larguraDoNome),
                          "Nome do animal"),
         ComNomeAcessivel(pesquisa, "Animal"),
-        RotuloDaFicha("lblSexoDoAnimal", "Sexo", "kvtxtSexoDoAnimal", esquerdaDoSexo, LinhaDoAnimal),
+        RotuloDeCampo("lblSexoDoAnimal", "Sexo", "kvtxtSexoDoAnimal", esquerdaDoSexo, LinhaDoAnimal),
         CampoSomenteLeitura("kvtxtSexoDoAnimal", esquerdaDoSexo, LinhaDoAnimal, larguraDoSexo, 50),
-        RotuloDaFicha("lblEspecieDoAnimal", "Espécie", "kvtxtEspecieDoAnimal", esquerdaDaEspecie,
+        RotuloDeCampo("lblEspecieDoAnimal", "Espécie", "kvtxtEspecieDoAnimal", esquerdaDaEspecie,
                       LinhaDoAnimal),
         CampoSomenteLeitura("kvtxtEspecieDoAnimal", esquerdaDaEspecie, LinhaDoAnimal, larguraDaEspecie, 0),
-        RotuloDaFicha("lblRacaDoAnimal", "Raça", "kvtxtRacaDoAnimal", EsquerdaDeBuscar, LinhaDoAnimal),
+        RotuloDeCampo("lblRacaDoAnimal", "Raça", "kvtxtRacaDoAnimal", EsquerdaDeBuscar, LinhaDoAnimal),
         CampoSomenteLeitura("kvtxtRacaDoAnimal", EsquerdaDeBuscar, LinhaDoAnimal, LarguraDaSituacao, 0),
-        RotuloDaFicha("lblCorDoAnimal", "Cor", "kvtxtCorDoAnimal", EsquerdaDeSituacao, LinhaDoAnimal),
+        RotuloDeCampo("lblCorDoAnimal", "Cor", "kvtxtCorDoAnimal", EsquerdaDeSituacao, LinhaDoAnimal),
         CampoSomenteLeitura("kvtxtCorDoAnimal", EsquerdaDeSituacao, LinhaDoAnimal, LarguraDaSituacao, 50),
     };
 }
@@ -139,18 +139,18 @@ std::vector<ControlDesign> Servico()
     constexpr Twips esquerdaDoNome = EsquerdaDeReagendar + larguraDoCodigo + Vao;
     return {
         SecaoDaFicha("lblServico", "Serviço*", TopoDoServico),
-        RotuloDaFicha("lblTipoDoServico", "&Tipo", "kvcmbTiposDeServicos", Margem, PrimeiraLinhaDoServico),
-        ComNomeAcessivel(CampoDaFicha(Kind::KVComboBox, "kvcmbTiposDeServicos", Margem,
+        RotuloDeCampo("lblTipoDoServico", "&Tipo", "kvcmbTiposDeServicos", Margem, PrimeiraLinhaDoServico),
+        ComNomeAcessivel(CaixaDeCampo(Kind::KVComboBox, "kvcmbTiposDeServicos", Margem,
                                       PrimeiraLinhaDoServico, larguraDoTipo),
                          "Tipo de serviço"),
-        RotuloDaFicha("lblCodigoDoServico", "Codi&go", "kvfCodigoDoServico", EsquerdaDeReagendar,
+        RotuloDeCampo("lblCodigoDoServico", "Codi&go", "kvfCodigoDoServico", EsquerdaDeReagendar,
                       PrimeiraLinhaDoServico),
         ComNomeAcessivel(
             CampoDeCodigo("kvfCodigoDoServico", EsquerdaDeReagendar, PrimeiraLinhaDoServico, larguraDoCodigo),
             "Código do serviço"),
-        RotuloDaFicha("lblNomeDoServico", "No&me", "kvfNomeDoServico", esquerdaDoNome,
+        RotuloDeCampo("lblNomeDoServico", "No&me", "kvfNomeDoServico", esquerdaDoNome,
                       PrimeiraLinhaDoServico),
-        ComNomeAcessivel(CampoDaFicha(Kind::KVFind, "kvfNomeDoServico", esquerdaDoNome,
+        ComNomeAcessivel(CaixaDeCampo(Kind::KVFind, "kvfNomeDoServico", esquerdaDoNome,
                                       PrimeiraLinhaDoServico, BordaDireita - esquerdaDoNome),
                          "Nome do serviço"),
     };
@@ -165,25 +165,25 @@ std::vector<ControlDesign> Horario()
     constexpr Twips esquerdaDoFuncionario = 8415;
     constexpr Twips linha = SegundaLinhaDoServico;
     return {
-        RotuloDaFicha("lblDataHoraInicial", "Data e &hora inicial", "kvdtpDataInicial", Margem, linha),
-        ComNomeAcessivel(CampoDaFicha(Kind::KVDTPicker, "kvdtpDataInicial", Margem, linha, larguraDaData),
+        RotuloDeCampo("lblDataHoraInicial", "Data e &hora inicial", "kvdtpDataInicial", Margem, linha),
+        ComNomeAcessivel(CaixaDeCampo(Kind::KVDTPicker, "kvdtpDataInicial", Margem, linha, larguraDaData),
                          "Data inicial"),
         ComNomeAcessivel(
-            CampoDaFicha(Kind::KVTime, "kvtimHoraInicial", Margem + deslocamentoDaHora, linha, larguraDaHora),
+            CaixaDeCampo(Kind::KVTime, "kvtimHoraInicial", Margem + deslocamentoDaHora, linha, larguraDaHora),
             "Hora inicial"),
-        RotuloDaFicha("lblDataHoraFinal", "Data e hora &final", "kvdtpDataFinal", EsquerdaDeReagendar, linha),
+        RotuloDeCampo("lblDataHoraFinal", "Data e hora &final", "kvdtpDataFinal", EsquerdaDeReagendar, linha),
         ComNomeAcessivel(
-            CampoDaFicha(Kind::KVDTPicker, "kvdtpDataFinal", EsquerdaDeReagendar, linha, larguraDaData),
+            CaixaDeCampo(Kind::KVDTPicker, "kvdtpDataFinal", EsquerdaDeReagendar, linha, larguraDaData),
             "Data final"),
-        ComNomeAcessivel(CampoDaFicha(Kind::KVTime, "kvtimHoraFinal",
+        ComNomeAcessivel(CaixaDeCampo(Kind::KVTime, "kvtimHoraFinal",
                                       EsquerdaDeReagendar + deslocamentoDaHora, linha, larguraDaHora),
                          "Hora final"),
-        RotuloDaFicha("lblTempoDoServico", "Tempo do serviço", "kvtxtTempoDoServico", esquerdaDoTempo, linha),
+        RotuloDeCampo("lblTempoDoServico", "Tempo do serviço", "kvtxtTempoDoServico", esquerdaDoTempo, linha),
         CampoSomenteLeitura("kvtxtTempoDoServico", esquerdaDoTempo, linha,
                             esquerdaDoFuncionario - Vao - esquerdaDoTempo, 50),
-        RotuloDaFicha("lblNomeDoFuncionario", "F&uncionário(a)", "kvcmbFuncionarios", esquerdaDoFuncionario,
+        RotuloDeCampo("lblNomeDoFuncionario", "F&uncionário(a)", "kvcmbFuncionarios", esquerdaDoFuncionario,
                       linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbFuncionarios", esquerdaDoFuncionario, linha,
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbFuncionarios", esquerdaDoFuncionario, linha,
                      BordaDireita - esquerdaDoFuncionario),
     };
 }
@@ -197,18 +197,18 @@ std::vector<ControlDesign> ObservacaoERepeticao()
     constexpr Twips larguraDoNumero = 520;
     constexpr Twips esquerdaDaUnidade = esquerdaDoNumero + larguraDoNumero + 75;
     ControlDesign numero =
-        CampoDaFicha(Kind::KVNumberBox, "kvnumNumeroDeSemanas", esquerdaDoNumero, linha, larguraDoNumero);
+        CaixaDeCampo(Kind::KVNumberBox, "kvnumNumeroDeSemanas", esquerdaDoNumero, linha, larguraDoNumero);
     numero.formatType = 1;
     numero.maxLength = 3;
     numero.backColor = colours::White;
-    ControlDesign unidade = CampoDaFicha(Kind::KVComboBox, "kvcmbReagendarPor", esquerdaDaUnidade, linha,
+    ControlDesign unidade = CaixaDeCampo(Kind::KVComboBox, "kvcmbReagendarPor", esquerdaDaUnidade, linha,
                                          EsquerdaDeReagendar + LarguraDeReagendarSozinho - esquerdaDaUnidade);
     unidade.tabStop = false;
     return {
-        RotuloDaFicha("lblObservacao", "O&bservação", "kvtxtObservacaoDoServico", Margem, linha),
+        RotuloDeCampo("lblObservacao", "O&bservação", "kvtxtObservacaoDoServico", Margem, linha),
         CampoDeTexto("kvtxtObservacaoDoServico", Margem, linha, EsquerdaDeReagendar - Vao - Margem, 100),
-        RotuloDaFicha("lblReagendar", "Reagendar", "kvcmbReagendar", EsquerdaDeReagendar, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbReagendar", EsquerdaDeReagendar, linha,
+        RotuloDeCampo("lblReagendar", "Reagendar", "kvcmbReagendar", EsquerdaDeReagendar, linha),
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbReagendar", EsquerdaDeReagendar, linha,
                      LarguraDeReagendarSozinho),
         ComNomeAcessivel(numero, "Número de repetições"),
         ComNomeAcessivel(unidade, "Unidade da repetição"),
@@ -221,12 +221,12 @@ std::vector<ControlDesign> TransporteESituacao()
     constexpr Twips larguraDoTransporte = EsquerdaDeSituacao - Vao - EsquerdaDeBuscar;
     constexpr Twips esquerdaDeLevar = 8415;
     return {
-        RotuloDaFicha("lblBuscar", "Bu&scar", "kvcmbBuscar", EsquerdaDeBuscar, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbBuscar", EsquerdaDeBuscar, linha, larguraDoTransporte),
-        RotuloDaFicha("lblLevar", "Le&var", "kvcmbLevar", esquerdaDeLevar, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbLevar", esquerdaDeLevar, linha, LarguraDaSituacao),
-        RotuloDaFicha("lblSituacao", "S&ituação", "kvcmbSituacao", EsquerdaDeSituacao, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbSituacao", EsquerdaDeSituacao, linha, LarguraDaSituacao),
+        RotuloDeCampo("lblBuscar", "Bu&scar", "kvcmbBuscar", EsquerdaDeBuscar, linha),
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbBuscar", EsquerdaDeBuscar, linha, larguraDoTransporte),
+        RotuloDeCampo("lblLevar", "Le&var", "kvcmbLevar", esquerdaDeLevar, linha),
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbLevar", esquerdaDeLevar, linha, LarguraDaSituacao),
+        RotuloDeCampo("lblSituacao", "S&ituação", "kvcmbSituacao", EsquerdaDeSituacao, linha),
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbSituacao", EsquerdaDeSituacao, linha, LarguraDaSituacao),
     };
 }
 

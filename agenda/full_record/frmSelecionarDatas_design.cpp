@@ -44,13 +44,13 @@ std::vector<ControlDesign> Agendamento()
     return {
         CabecalhoDaFicha("Selecionar datas"),
         SecaoDaFicha("lblAgendamento", "Agendamento*", TopoDoAgendamento),
-        RotuloDaFicha("lblCliente", "Cliente", "kvtxtApelidoDoCliente", Margem, PrimeiraLinha),
+        RotuloDeCampo("lblCliente", "Cliente", "kvtxtApelidoDoCliente", Margem, PrimeiraLinha),
         CampoSomenteLeitura("kvtxtApelidoDoCliente", Margem, PrimeiraLinha, LarguraDaColuna, limite),
-        RotuloDaFicha("lblAnimal", "Animal", "kvtxtNomeDoAnimal", SegundaColuna, PrimeiraLinha),
+        RotuloDeCampo("lblAnimal", "Animal", "kvtxtNomeDoAnimal", SegundaColuna, PrimeiraLinha),
         CampoSomenteLeitura("kvtxtNomeDoAnimal", SegundaColuna, PrimeiraLinha, LarguraDaColuna, limite),
-        RotuloDaFicha("lblServico", "Serviço", "kvtxtNomeDoServico", Margem, SegundaLinha),
+        RotuloDeCampo("lblServico", "Serviço", "kvtxtNomeDoServico", Margem, SegundaLinha),
         CampoSomenteLeitura("kvtxtNomeDoServico", Margem, SegundaLinha, LarguraDaColuna, limite),
-        RotuloDaFicha("lblTempoDoServico", "Tempo do serviço", "kvtxtTempoDoServico", SegundaColuna,
+        RotuloDeCampo("lblTempoDoServico", "Tempo do serviço", "kvtxtTempoDoServico", SegundaColuna,
                       SegundaLinha),
         CampoSomenteLeitura("kvtxtTempoDoServico", SegundaColuna, SegundaLinha, LarguraDaData, limite),
     };
@@ -64,12 +64,12 @@ std::vector<ControlDesign> LinhaDeData(int linha)
     const Twips topo =
         TopoDasDatas + PassoDaSecao + PassoDasDatas * static_cast<Twips>(linha % LinhasPorColuna);
     std::vector<ControlDesign> controles{
-        RotuloDaFicha("lblDataHoraInicial", ("Data e hora inicial " + numero).c_str(), "kvdtpDataInicial",
+        RotuloDeCampo("lblDataHoraInicial", ("Data e hora inicial " + numero).c_str(), "kvdtpDataInicial",
                       esquerda, topo + (AlturaDoCampo - AlturaDoRotulo) / 2),
-        ComNomeAcessivel(CampoDaFicha(WidgetKind::KVDTPicker, "kvdtpDataInicial", esquerda + RecuoDaData,
+        ComNomeAcessivel(CaixaDeCampo(WidgetKind::KVDTPicker, "kvdtpDataInicial", esquerda + RecuoDaData,
                                       topo - AlturaDoRotulo, LarguraDaData),
                          ("Data inicial " + numero).c_str()),
-        ComNomeAcessivel(CampoDaFicha(WidgetKind::KVTime, "kvtimHoraInicial", esquerda + RecuoDaHora,
+        ComNomeAcessivel(CaixaDeCampo(WidgetKind::KVTime, "kvtimHoraInicial", esquerda + RecuoDaHora,
                                       topo - AlturaDoRotulo, LarguraDaHora),
                          ("Hora inicial " + numero).c_str()),
     };

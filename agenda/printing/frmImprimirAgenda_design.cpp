@@ -1,13 +1,12 @@
 #include "agenda/printing/frmImprimirAgenda_design.hpp"
 
-#include "agenda/records/record_form.hpp"
-#include "agenda/records/record_form_design.hpp"
+#include "agenda/shared/dialog_design.hpp"
 
 namespace kova::agenda {
 
 namespace {
 
-using namespace medidas_da_ficha;
+using namespace medidas_do_dialogo;
 
 constexpr Twips LarguraDoFiltro = 3600;
 constexpr Twips SegundaColuna = Margem + LarguraDoFiltro + Vao;
@@ -23,22 +22,15 @@ constexpr Twips LarguraDeVisualizar = 2300;
 std::vector<ControlDesign> Filtro(const char* rotulo, const char* texto, const char* combo, Twips esquerda,
                                   Twips linha)
 {
-    return {RotuloDaFicha(rotulo, texto, combo, esquerda, linha),
-            CampoDaFicha(WidgetKind::KVComboBox, combo, esquerda, linha, LarguraDoFiltro)};
+    return {RotuloDeCampo(rotulo, texto, combo, esquerda, linha),
+            CaixaDeCampo(WidgetKind::KVComboBox, combo, esquerda, linha, LarguraDoFiltro)};
 }
 
 std::vector<ControlDesign> Rodape()
 {
     constexpr Twips esquerdaDeCancelar = LimiteDireito - LarguraDoBotao;
     return {
-        {.kind = WidgetKind::Label,
-         .name = "lblObservacaoDeCamposObrigatorios",
-         .left = Margem,
-         .top = TopoDosBotoes + (AlturaDoCampo - AlturaDoRotulo) / 2,
-         .caption = "* Campos obrigatórios",
-         .autoSize = true,
-         .fontSize = 9,
-         .foreColor = CorDoRotulo},
+        LegendaDeCamposObrigatorios(TopoDosBotoes),
         {.kind = WidgetKind::KVCommandButton,
          .name = "kvcmdVisualizarImpressao",
          .left = esquerdaDeCancelar - Vao - LarguraDeVisualizar,
@@ -67,14 +59,12 @@ std::vector<ControlDesign> Rodape()
 
 FormDesign Desenhar()
 {
-    ControlDesign cabecalho = CabecalhoDaFicha("Imprimir agenda");
-    cabecalho.width = Largura;
     FormDesign design{.name = "frmImprimirAgenda",
                       .caption = "Imprimir agenda",
                       .width = Largura + Moldura,
                       .height = Altura + MolduraETitulo,
                       .backColor = colours::White,
-                      .controls = {cabecalho}};
+                      .controls = {CabecalhoDoDialogo("Imprimir agenda", Largura)}};
     for (const auto& parte :
          {Filtro("lblSituacao", "&Situação", "kvcmbSituacao", Margem, PrimeiraLinha),
           Filtro("lblTipoDeServico", "&Tipo de serviço", "kvcmbTiposDeServicos", SegundaColuna,

@@ -7,6 +7,7 @@
 #include "agenda/shared/modFundoEscuro.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
+#include "agenda/shared/palette.hpp"
 
 #include <algorithm>
 #include <array>
@@ -94,14 +95,14 @@ void RestaurarCorDosRotulos(Form& formulario)
     for (Widget* controle : formulario.Controls()) {
         auto* rotulo = As<Label>(*controle);
         if (rotulo && std::ranges::find(RotulosSemCampo, rotulo->Name()) == RotulosSemCampo.end())
-            rotulo->ForeColor(CorDoRotulo);
+            rotulo->ForeColor(cores::Rotulo);
     }
 }
 
 void MarcarCampoRecusado(Label& rotulo, Widget& campo)
 {
     ThePlatform().Toolkit().ProcessPendingEvents();
-    rotulo.ForeColor(CorDoRotuloRecusado);
+    rotulo.ForeColor(cores::RotuloRecusado);
     campo.SetFocus();
 }
 

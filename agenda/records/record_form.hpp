@@ -48,10 +48,6 @@ protected:
     bool NaoRemoverFundoEscuro = false;
 };
 
-/// Colour of a field's label, and of the label whose field was refused.
-inline constexpr Colour CorDoRotulo = 4802889;
-inline constexpr Colour CorDoRotuloRecusado = 255;
-
 /// Gives a button its role when the form opens.
 void EscreverBotao(KVCommandButton& botao, const Text& legenda, const Text& dica);
 /// Changes the role of a button that shows another one: the three tool-tip texts are blanked first.

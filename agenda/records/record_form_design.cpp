@@ -1,6 +1,6 @@
 #include "agenda/records/record_form_design.hpp"
 
-#include "agenda/records/record_form.hpp"
+#include "agenda/shared/palette.hpp"
 
 namespace kova::agenda {
 
@@ -25,14 +25,7 @@ ControlDesign Botao(const char* nome, const char* texto, Twips esquerda, Twips t
 
 } // namespace
 
-ControlDesign CabecalhoDaFicha(const char* titulo)
-{
-    return {.kind = Kind::KVTheme,
-            .name = "KVTheme",
-            .width = LarguraInterna,
-            .height = AlturaDoCabecalho,
-            .caption = titulo};
-}
+ControlDesign CabecalhoDaFicha(const char* titulo) { return CabecalhoDoDialogo(titulo, LarguraInterna); }
 
 ControlDesign SecaoDaFicha(const char* nome, const char* texto, Twips topo)
 {
@@ -44,43 +37,19 @@ ControlDesign SecaoDaFicha(const char* nome, const char* texto, Twips topo)
             .autoSize = true,
             .fontSize = 11.25F,
             .fontBold = true,
-            .foreColor = CorDoRotulo};
-}
-
-ControlDesign RotuloDaFicha(const char* nome, const char* texto, const char* campo, Twips esquerda,
-                            Twips linha)
-{
-    return {.kind = Kind::Label,
-            .name = nome,
-            .left = esquerda,
-            .top = linha,
-            .caption = texto,
-            .autoSize = true,
-            .labelOf = campo,
-            .fontSize = 9,
-            .foreColor = CorDoRotulo};
-}
-
-ControlDesign CampoDaFicha(WidgetKind especie, const char* nome, Twips esquerda, Twips linha, Twips largura)
-{
-    return {.kind = especie,
-            .name = nome,
-            .left = esquerda,
-            .top = linha + AlturaDoRotulo,
-            .width = largura,
-            .height = AlturaDoCampo};
+            .foreColor = cores::Rotulo};
 }
 
 ControlDesign CampoDeCodigo(const char* nome, Twips esquerda, Twips linha, Twips largura)
 {
-    ControlDesign campo = CampoDaFicha(Kind::KVFind, nome, esquerda, linha, largura);
+    ControlDesign campo = CaixaDeCampo(Kind::KVFind, nome, esquerda, linha, largura);
     campo.style = 2;
     return campo;
 }
 
 ControlDesign CampoDeTexto(const char* nome, Twips esquerda, Twips linha, Twips largura, int limite)
 {
-    ControlDesign campo = CampoDaFicha(Kind::KVTextBox, nome, esquerda, linha, largura);
+    ControlDesign campo = CaixaDeCampo(Kind::KVTextBox, nome, esquerda, linha, largura);
     campo.backColor = colours::White;
     campo.maxLength = limite;
     return campo;
@@ -117,18 +86,7 @@ std::vector<ControlDesign> RodapeDaFicha(Twips topo)
     cancelar.fontColor = 4210752;
     cancelar.isCancel = true;
     cancelar.cancelCaption = "Cancelar";
-    return {
-        {.kind = Kind::Label,
-         .name = "lblObservacaoDeCamposObrigatorios",
-         .left = Margem,
-         .top = topo + (AlturaDoCampo - AlturaDoRotulo) / 2,
-         .caption = "* Campos obrigatórios",
-         .autoSize = true,
-         .fontSize = 9,
-         .foreColor = CorDoRotulo},
-        salvar,
-        cancelar,
-    };
+    return {LegendaDeCamposObrigatorios(topo), salvar, cancelar};
 }
 
 } // namespace kova::agenda

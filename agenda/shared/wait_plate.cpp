@@ -1,8 +1,8 @@
 #include "agenda/shared/wait_plate.hpp"
 
-#include "agenda/records/record_form.hpp"
 #include "agenda/shared/modArredondarCantosDoObjeto.hpp"
 #include "agenda/shared/modFuncoes.hpp"
+#include "agenda/shared/palette.hpp"
 
 namespace kova::agenda {
 
@@ -28,7 +28,7 @@ std::vector<ControlDesign> DesenhoDaPlacaDeEspera()
          .fontSize = 11,
          .fontBold = true,
          // The colour that refused fields give back to all labels.
-         .foreColor = CorDoRotulo},
+         .foreColor = cores::Rotulo},
     };
 }
 

@@ -35,10 +35,10 @@ std::vector<ControlDesign> Cliente()
     canais.toolTipText = "Endereço, telefone, celular, E-mail...";
     return {
         SecaoDaFicha("lblCliente", "Cliente*", TopoDoCliente),
-        RotuloDaFicha("lblNomeOuRazaoSocialDoCliente", "&Nome ou razão social",
+        RotuloDeCampo("lblNomeOuRazaoSocialDoCliente", "&Nome ou razão social",
                       "kvtxtNomeOuRazaoSocialDoCliente", Margem, linha),
         CampoDeTexto("kvtxtNomeOuRazaoSocialDoCliente", Margem, linha, QuartaColuna - Vao - Margem, 100),
-        RotuloDaFicha("lblCanaisDeComunicacaoDoCliente", "Can&ais de comunicação",
+        RotuloDeCampo("lblCanaisDeComunicacaoDoCliente", "Can&ais de comunicação",
                       "kvtxtCanaisDeComunicacaoDoCliente", QuartaColuna, linha),
         canais,
     };
@@ -49,19 +49,19 @@ std::vector<ControlDesign> Animal()
     constexpr Twips linha = LinhaDoAnimal;
     return {
         SecaoDaFicha("lblAnimal", "Animal*", TopoDoAnimal),
-        RotuloDaFicha("lblNomeDoAnimal", "N&ome", "kvtxtNomeDoAnimal", Margem, linha),
+        RotuloDeCampo("lblNomeDoAnimal", "N&ome", "kvtxtNomeDoAnimal", Margem, linha),
         ComNomeAcessivel(CampoDeTexto("kvtxtNomeDoAnimal", Margem, linha, SegundaColuna - Vao - Margem, 100),
                          "Nome do animal"),
-        RotuloDaFicha("lblSexoDoAnimal", "Se&xo", "kvcmbSexoDoAnimal", SegundaColuna, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbSexoDoAnimal", SegundaColuna, linha,
+        RotuloDeCampo("lblSexoDoAnimal", "Se&xo", "kvcmbSexoDoAnimal", SegundaColuna, linha),
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbSexoDoAnimal", SegundaColuna, linha,
                      TerceiraColuna - Vao - SegundaColuna),
-        RotuloDaFicha("lblEspecieDoAnimal", "&Espécie", "kvcmbEspeciesDeAnimais", TerceiraColuna, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbEspeciesDeAnimais", TerceiraColuna, linha,
+        RotuloDeCampo("lblEspecieDoAnimal", "&Espécie", "kvcmbEspeciesDeAnimais", TerceiraColuna, linha),
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbEspeciesDeAnimais", TerceiraColuna, linha,
                      QuartaColuna - Vao - TerceiraColuna),
-        RotuloDaFicha("lblRacaDoAnimal", "&Raça", "kvcmbRacasDeAnimais", QuartaColuna, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbRacasDeAnimais", QuartaColuna, linha,
+        RotuloDeCampo("lblRacaDoAnimal", "&Raça", "kvcmbRacasDeAnimais", QuartaColuna, linha),
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbRacasDeAnimais", QuartaColuna, linha,
                      QuintaColuna - Vao - QuartaColuna),
-        RotuloDaFicha("lblCorDoAnimal", "&Cor", "kvtxtCorDoAnimal", QuintaColuna, linha),
+        RotuloDeCampo("lblCorDoAnimal", "&Cor", "kvtxtCorDoAnimal", QuintaColuna, linha),
         CampoDeTexto("kvtxtCorDoAnimal", QuintaColuna, linha, BordaDireita - QuintaColuna, 50),
     };
 }
@@ -71,16 +71,16 @@ std::vector<ControlDesign> Servico()
     constexpr Twips linha = PrimeiraLinhaDoServico;
     return {
         SecaoDaFicha("lblServico", "Serviço*", TopoDoServico),
-        RotuloDaFicha("lblTipoDoServico", "&Tipo", "kvcmbTiposDeServicos", Margem, linha),
-        ComNomeAcessivel(CampoDaFicha(Kind::KVComboBox, "kvcmbTiposDeServicos", Margem, linha,
+        RotuloDeCampo("lblTipoDoServico", "&Tipo", "kvcmbTiposDeServicos", Margem, linha),
+        ComNomeAcessivel(CaixaDeCampo(Kind::KVComboBox, "kvcmbTiposDeServicos", Margem, linha,
                                       SegundaColuna - Vao - Margem),
                          "Tipo de serviço"),
-        RotuloDaFicha("lblCodigoDoServico", "Codi&go", "kvfCodigoDoServico", SegundaColuna, linha),
+        RotuloDeCampo("lblCodigoDoServico", "Codi&go", "kvfCodigoDoServico", SegundaColuna, linha),
         ComNomeAcessivel(
             CampoDeCodigo("kvfCodigoDoServico", SegundaColuna, linha, TerceiraColuna - Vao - SegundaColuna),
             "Código do serviço"),
-        RotuloDaFicha("lblNomeDoServico", "No&me", "kvfNomeDoServico", TerceiraColuna, linha),
-        ComNomeAcessivel(CampoDaFicha(Kind::KVFind, "kvfNomeDoServico", TerceiraColuna, linha,
+        RotuloDeCampo("lblNomeDoServico", "No&me", "kvfNomeDoServico", TerceiraColuna, linha),
+        ComNomeAcessivel(CaixaDeCampo(Kind::KVFind, "kvfNomeDoServico", TerceiraColuna, linha,
                                       BordaDireita - TerceiraColuna),
                          "Nome do serviço"),
     };
@@ -95,26 +95,26 @@ std::vector<ControlDesign> Horario()
     constexpr Twips esquerdaDoFuncionario = 8415;
     constexpr Twips linha = SegundaLinhaDoServico;
     const auto data = [](const char* nome, Twips esquerda, const char* acessivel) {
-        return ComNomeAcessivel(CampoDaFicha(Kind::KVDTPicker, nome, esquerda, linha, larguraDaData),
+        return ComNomeAcessivel(CaixaDeCampo(Kind::KVDTPicker, nome, esquerda, linha, larguraDaData),
                                 acessivel);
     };
     const auto hora = [](const char* nome, Twips esquerda, const char* acessivel) {
         return ComNomeAcessivel(
-            CampoDaFicha(Kind::KVTime, nome, esquerda + deslocamentoDaHora, linha, larguraDaHora), acessivel);
+            CaixaDeCampo(Kind::KVTime, nome, esquerda + deslocamentoDaHora, linha, larguraDaHora), acessivel);
     };
     return {
-        RotuloDaFicha("lblDataHoraInicial", "Data e &hora inicial", "kvdtpDataInicial", Margem, linha),
+        RotuloDeCampo("lblDataHoraInicial", "Data e &hora inicial", "kvdtpDataInicial", Margem, linha),
         data("kvdtpDataInicial", Margem, "Data inicial"),
         hora("kvtimHoraInicial", Margem, "Hora inicial"),
-        RotuloDaFicha("lblDataHoraFinal", "Data e hora &final", "kvdtpDataFinal", SegundaColuna, linha),
+        RotuloDeCampo("lblDataHoraFinal", "Data e hora &final", "kvdtpDataFinal", SegundaColuna, linha),
         data("kvdtpDataFinal", SegundaColuna, "Data final"),
         hora("kvtimHoraFinal", SegundaColuna, "Hora final"),
-        RotuloDaFicha("lblTempoDoServico", "Tempo do serviço", "kvtxtTempoDoServico", esquerdaDoTempo, linha),
+        RotuloDeCampo("lblTempoDoServico", "Tempo do serviço", "kvtxtTempoDoServico", esquerdaDoTempo, linha),
         CampoSomenteLeitura("kvtxtTempoDoServico", esquerdaDoTempo, linha,
                             esquerdaDoFuncionario - Vao - esquerdaDoTempo, 50),
-        RotuloDaFicha("lblNomeDoFuncionario", "F&uncionário", "kvcmbFuncionarios", esquerdaDoFuncionario,
+        RotuloDeCampo("lblNomeDoFuncionario", "F&uncionário", "kvcmbFuncionarios", esquerdaDoFuncionario,
                       linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbFuncionarios", esquerdaDoFuncionario, linha,
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbFuncionarios", esquerdaDoFuncionario, linha,
                      BordaDireita - esquerdaDoFuncionario),
     };
 }
@@ -123,10 +123,10 @@ std::vector<ControlDesign> ObservacaoESituacao()
 {
     constexpr Twips linha = TerceiraLinhaDoServico;
     return {
-        RotuloDaFicha("lblObservacaoDoServico", "O&bservação", "kvtxtObservacaoDoServico", Margem, linha),
+        RotuloDeCampo("lblObservacaoDoServico", "O&bservação", "kvtxtObservacaoDoServico", Margem, linha),
         CampoDeTexto("kvtxtObservacaoDoServico", Margem, linha, QuintaColuna - Vao - Margem, 100),
-        RotuloDaFicha("lblSituacao", "S&ituação", "kvcmbSituacao", QuintaColuna, linha),
-        CampoDaFicha(Kind::KVComboBox, "kvcmbSituacao", QuintaColuna, linha, BordaDireita - QuintaColuna),
+        RotuloDeCampo("lblSituacao", "S&ituação", "kvcmbSituacao", QuintaColuna, linha),
+        CaixaDeCampo(Kind::KVComboBox, "kvcmbSituacao", QuintaColuna, linha, BordaDireita - QuintaColuna),
     };
 }
 

@@ -241,11 +241,11 @@ TEST_F(Confirming, LeavesByTheSecondButton)
     for (const Integer mode : {operacao::Adicionar, operacao::Alterar, operacao::Excluir}) {
         ficha->OperacaoConcluida = true;
         EXPECT_TRUE(Run(mode, [this] {
-            ficha->lblDataHoraInicial.ForeColor(CorDoRotuloRecusado);
+            ficha->lblDataHoraInicial.ForeColor(cores::RotuloRecusado);
             EXPECT_EQ(user.Click("frmFichaCompleta", "kvcmdCancelarAlterar"), "");
         }));
         EXPECT_FALSE(ficha->OperacaoConcluida);
-        EXPECT_EQ(ficha->lblDataHoraInicial.ForeColor(), CorDoRotulo);
+        EXPECT_EQ(ficha->lblDataHoraInicial.ForeColor(), cores::Rotulo);
         EXPECT_TRUE(AtTheAgenda().empty());
     }
 }

@@ -40,7 +40,7 @@ protected:
         Strings names;
         for (Widget* control : ficha->Formulario->Controls()) {
             const auto* label = As<Label>(*control);
-            if (label && label->ForeColor() == CorDoRotuloRecusado)
+            if (label && label->ForeColor() == cores::RotuloRecusado)
                 names.push_back(label->Name());
         }
         return names;
@@ -115,7 +115,7 @@ TEST_F(Refused, LeavesTheSectionHeadsAndTheLegendInTheirColours)
         PressSave();
         for (const Label* label : kept)
             EXPECT_EQ(label->ForeColor(), 1234) << label->Name();
-        EXPECT_EQ(ficha->lblLevar.ForeColor(), CorDoRotulo);
+        EXPECT_EQ(ficha->lblLevar.ForeColor(), cores::Rotulo);
     }));
 }
 

@@ -6,6 +6,7 @@
 #include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
+#include "agenda/shared/palette.hpp"
 #include "toolkits/common/grid.hpp"
 #include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
