@@ -2,6 +2,7 @@
 set(checks ${CMAKE_CURRENT_SOURCE_DIR}/checks)
 add_test(NAME Checks.EveryFolderIncludesOnlyWhatItMaySee COMMAND ${checks}/includes)
 add_test(NAME Checks.TheIncludeCheckNamesEveryBreach COMMAND ${checks}/includes-test)
+add_test(NAME Checks.EveryWallHoldsAgainstEveryArrow COMMAND ${checks}/walls-test)
 add_test(NAME Checks.PapersNameWhatIsThere COMMAND ${checks}/papers)
 add_test(NAME Checks.ThePaperCheckNamesEveryUntruth COMMAND ${checks}/papers-test)
 add_test(NAME Checks.TextsPointToNothingOutsideTheRepository COMMAND ${checks}/wording)
