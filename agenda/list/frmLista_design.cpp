@@ -1,5 +1,6 @@
 #include "agenda/list/frmLista_design.hpp"
 
+#include "agenda/shared/palette.hpp"
 #include "agenda/shared/wait_plate.hpp"
 
 namespace kova::agenda {
@@ -7,10 +8,6 @@ namespace kova::agenda {
 namespace {
 
 using Kind = WidgetKind;
-
-constexpr Colour CinzaEscuro = Rgb(73, 73, 73);
-constexpr Colour CinzaDoTitulo = Rgb(110, 110, 110);
-constexpr Colour FundoDoPainel = Rgb(250, 250, 250);
 
 // Pitch of the panel's rows: four of them fit below a full page on a screen of 768 rows.
 constexpr Twips PrimeiraLinhaDoPainel = 55;
@@ -34,9 +31,9 @@ ControlDesign BotaoDaLinha(const char* nome, const char* icone, const char* acao
             .caption = " ",
             .visible = false,
             .accessibleName = acao,
-            .backColor = 14277081,
+            .backColor = cores::Cinza,
             .icon = icone,
-            .highlightColor = 12895428,
+            .highlightColor = cores::CinzaDeRealce,
             .fontColor = colours::White,
             .shortcut = tecla};
 }
@@ -52,7 +49,7 @@ ControlDesign SetaDeDia(const char* nome, const char* icone, const char* acao, c
             .accessibleName = acao,
             .backColor = colours::White,
             .icon = icone,
-            .highlightColor = 16185078,
+            .highlightColor = cores::CinzaDeSeta,
             .fontColor = colours::White,
             .shortcut = tecla};
 }
@@ -83,7 +80,7 @@ ControlDesign Secao(const char* nome, const char* texto, int linha)
             .autoSize = true,
             .fontSize = 9,
             .fontBold = true,
-            .foreColor = CinzaEscuro};
+            .foreColor = cores::CinzaEscuro};
 }
 
 ControlDesign Titulo(const char* nome, const char* texto, int linha, Twips esquerda)
@@ -96,7 +93,7 @@ ControlDesign Titulo(const char* nome, const char* texto, int linha, Twips esque
             .caption = texto,
             .autoSize = true,
             .fontSize = 9,
-            .foreColor = CinzaDoTitulo};
+            .foreColor = cores::CinzaDeTitulo};
 }
 
 ControlDesign Valor(const char* nome, int linha)
@@ -128,7 +125,7 @@ std::vector<ControlDesign> CabecalhoEFiltros()
          .caption = "Agenda",
          .autoSize = true,
          .fontSize = 20.25F,
-         .foreColor = CinzaEscuro},
+         .foreColor = cores::CinzaEscuro},
         {.kind = Kind::KVCommandButton,
          .name = "kvcmdAdicionar",
          .left = 300,
@@ -137,9 +134,9 @@ std::vector<ControlDesign> CabecalhoEFiltros()
          .height = 510,
          .caption = "    Adicionar",
          .toolTipText = "Adicionar agendamento",
-         .backColor = 16617293,
+         .backColor = cores::Azul,
          .icon = "adicionar",
-         .highlightColor = 14530157,
+         .highlightColor = cores::AzulDeRealce,
          .fontColor = colours::White,
          .shortcut = "F2"},
         {.kind = Kind::KVFind,
@@ -174,7 +171,7 @@ std::vector<ControlDesign> CabecalhoEFiltros()
          .accessibleName = "Imprimir lista",
          .backColor = colours::Black,
          .icon = "imprimir",
-         .highlightColor = 8421504,
+         .highlightColor = cores::CinzaMedio,
          .fontColor = colours::White,
          .shortcut = "Ctrl+P"},
         Filtro("kvcmbTiposDeServicos", "Tipo de serviço"),
@@ -185,7 +182,7 @@ std::vector<ControlDesign> CabecalhoEFiltros()
          .autoSize = true,
          .labelOf = "chkExibirPainel",
          .fontSize = 9,
-         .foreColor = CinzaDoTitulo},
+         .foreColor = cores::CinzaDeTitulo},
         {.kind = Kind::CheckBox,
          .name = "chkExibirPainel",
          .width = 240,
@@ -202,7 +199,7 @@ std::vector<ControlDesign> CabecalhoEFiltros()
          .visible = false,
          .autoSize = true,
          .fontSize = 12,
-         .foreColor = CinzaEscuro},
+         .foreColor = cores::CinzaEscuro},
     };
 }
 
@@ -247,21 +244,21 @@ std::vector<ControlDesign> Painel()
          .height = 1120,
          .visible = false,
          .accessibleName = "Detalhes do agendamento",
-         .backColor = FundoDoPainel},
+         .backColor = cores::CinzaDePainel},
         {.kind = Kind::Shape,
          .name = "shpShape1",
          .container = "picPainel",
          .top = 0,
          .width = 12000,
          .height = 15,
-         .backColor = Rgb(217, 217, 217)},
+         .backColor = cores::Cinza},
         {.kind = Kind::Shape,
          .name = "shpShape2",
          .container = "picPainel",
          .top = 1105,
          .width = 12000,
          .height = 15,
-         .backColor = Rgb(217, 217, 217)},
+         .backColor = cores::Cinza},
 
         Secao("lblTitulo_Cliente", "Cliente:", 0),
         Titulo("lblTitulo_ApelidoOuNomeFantasiaDoCliente", "Apelido:", 0, PrimeiraColuna),

@@ -3,6 +3,8 @@
 #include "agenda/contracts/text.hpp"
 #include "agenda/list/frmLista.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modConstantes.hpp"
+#include "agenda/shared/palette.hpp"
 #include "agenda/shared/trap.hpp"
 
 namespace kova::agenda {
@@ -11,8 +13,6 @@ namespace {
 
 constexpr Long AlturaDoCabecalho = 700;
 constexpr Long AlturaDaLinha = 570;
-constexpr Colour CinzaDoNumero = Rgb(128, 128, 128);
-constexpr Colour FundoDaLinhaImpar = Rgb(242, 242, 242);
 
 /// A Null cell is empty in the columns that may hold one; elsewhere it is a failure of the fill.
 Text TextoDaColuna(const RecordSet& pagina, const Coluna& coluna)
@@ -39,14 +39,14 @@ Integer frmLista::ConfigurarGrade()
         msfgGrade.FixedCols(0);
         msfgGrade.FontName("Arial");
         msfgGrade.FontSize(11);
-        msfgGrade.BackColorFixed(Rgb(246, 245, 245));
-        msfgGrade.BackColorSel(Rgb(217, 217, 217));
+        msfgGrade.BackColorFixed(cores::CinzaDeCabecalho);
+        msfgGrade.BackColorSel(cores::Cinza);
         msfgGrade.ForeColorSel(colours::ButtonText);
         msfgGrade.BackColorBkg(colours::White);
-        msfgGrade.GridColor(Rgb(239, 239, 239));
+        msfgGrade.GridColor(cores::CinzaDeGrade);
         msfgGrade.BackColor(colours::White);
         msfgGrade.ForeColor(colours::Black);
-        msfgGrade.GridColorFixed(Rgb(239, 239, 239));
+        msfgGrade.GridColorFixed(cores::CinzaDeGrade);
         msfgGrade.GridLines(0);
         msfgGrade.GridLinesFixed(0);
         msfgGrade.GridLineWidth(1);
@@ -72,7 +72,7 @@ Integer frmLista::ConfigurarGrade()
             msfgGrade.Row(0);
             msfgGrade.Col(coluna);
             msfgGrade.CellFontBold(true);
-            msfgGrade.CellForeColor(coluna == 1 ? CinzaDoNumero : colours::Black);
+            msfgGrade.CellForeColor(coluna == 1 ? cores::CinzaMedio : colours::Black);
             msfgGrade.BackColorFixed(colours::White);
         }
 
@@ -139,12 +139,12 @@ void frmLista::PreencherLinha(Long linha, const RecordSet& pagina)
     msfgGrade.RowHeight(linha, AlturaDaLinha);
 
     // b. The colours of all its cells.
-    const Colour fundo = linha % 2 != 0 ? FundoDaLinhaImpar : colours::White;
+    const Colour fundo = linha % 2 != 0 ? cores::CinzaClaro : colours::White;
     for (Long coluna = 0; coluna <= msfgGrade.Cols() - 1; ++coluna) {
         msfgGrade.Col(coluna);
         msfgGrade.Row(linha);
         msfgGrade.CellBackColor(fundo);
-        msfgGrade.CellForeColor(coluna == colunas::NumeroDeLancamento ? CinzaDoNumero : colours::Black);
+        msfgGrade.CellForeColor(coluna == colunas::NumeroDeLancamento ? cores::CinzaMedio : colours::Black);
     }
 
     // c. The fields up to the status.

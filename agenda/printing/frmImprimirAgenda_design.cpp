@@ -1,6 +1,7 @@
 #include "agenda/printing/frmImprimirAgenda_design.hpp"
 
 #include "agenda/shared/dialog_design.hpp"
+#include "agenda/shared/palette.hpp"
 
 namespace kova::agenda {
 
@@ -38,8 +39,8 @@ std::vector<ControlDesign> Rodape()
          .width = LarguraDeVisualizar,
          .height = AlturaDoCampo,
          .caption = "Visualizar impressão",
-         .backColor = 16617293,
-         .highlightColor = 14530157,
+         .backColor = cores::Azul,
+         .highlightColor = cores::AzulDeRealce,
          .fontColor = colours::White,
          .isDefault = true,
          .shortcut = "Ctrl+P"},
@@ -51,8 +52,8 @@ std::vector<ControlDesign> Rodape()
          .height = AlturaDoCampo,
          .caption = "Cancelar",
          .backColor = colours::White,
-         .highlightColor = 14530157,
-         .fontColor = 4210752,
+         .highlightColor = cores::AzulDeRealce,
+         .fontColor = cores::CinzaDeTexto,
          .isCancel = true},
     };
 }

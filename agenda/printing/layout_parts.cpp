@@ -1,5 +1,7 @@
 #include "agenda/printing/layout_parts.hpp"
 
+#include "agenda/shared/palette.hpp"
+
 #include <utility>
 
 namespace kova::agenda::layout {
@@ -7,8 +9,6 @@ namespace kova::agenda::layout {
 namespace {
 
 constexpr Twips Margin = 850;
-constexpr Colour LightGrey = Rgb(224, 224, 224);
-constexpr Colour Grey = Rgb(128, 128, 128);
 
 } // namespace
 
@@ -69,13 +69,13 @@ ReportControlDesign CanGrow(ReportControlDesign control)
 
 ReportControlDesign OnGrey(ReportControlDesign control)
 {
-    control.backColor = Grey;
+    control.backColor = cores::CinzaMedio;
     return control;
 }
 
 ReportControlDesign Light(ReportControlDesign control)
 {
-    control.foreColor = LightGrey;
+    control.foreColor = cores::CinzaDePapel;
     return control;
 }
 

@@ -9,8 +9,6 @@ using namespace medidas_da_ficha;
 
 namespace {
 
-constexpr Colour FundoDeCampoSomenteLeitura = 16382457;
-
 ControlDesign Botao(const char* nome, const char* texto, Twips esquerda, Twips topo)
 {
     return {.kind = Kind::KVCommandButton,
@@ -20,7 +18,7 @@ ControlDesign Botao(const char* nome, const char* texto, Twips esquerda, Twips t
             .width = LarguraDoBotao,
             .height = AlturaDoCampo,
             .caption = texto,
-            .highlightColor = 14530157};
+            .highlightColor = cores::AzulDeRealce};
 }
 
 } // namespace
@@ -59,7 +57,7 @@ ControlDesign CampoSomenteLeitura(const char* nome, Twips esquerda, Twips linha,
 {
     ControlDesign campo = CampoDeTexto(nome, esquerda, linha, largura, limite);
     campo.tabStop = false;
-    campo.backColor = FundoDeCampoSomenteLeitura;
+    campo.backColor = cores::CinzaDeLeitura;
     campo.locked = true;
     return campo;
 }
@@ -75,7 +73,7 @@ std::vector<ControlDesign> RodapeDaFicha(Twips topo)
     constexpr Twips esquerdaDoSegundo = BordaDireita - LarguraDoBotao;
     ControlDesign salvar =
         Botao("kvcmdSalvarFecharConfirmar", "Salvar", esquerdaDoSegundo - Vao - LarguraDoBotao, topo);
-    salvar.backColor = 16617293;
+    salvar.backColor = cores::Azul;
     salvar.fontColor = colours::White;
     salvar.shortcut = "Ctrl+S";
     // In a detail view this one leaves, and the other leads into the alteration.
@@ -83,7 +81,7 @@ std::vector<ControlDesign> RodapeDaFicha(Twips topo)
     salvar.cancelCaption = "Fechar";
     ControlDesign cancelar = Botao("kvcmdCancelarAlterar", "Cancelar", esquerdaDoSegundo, topo);
     cancelar.backColor = colours::White;
-    cancelar.fontColor = 4210752;
+    cancelar.fontColor = cores::CinzaDeTexto;
     cancelar.isCancel = true;
     cancelar.cancelCaption = "Cancelar";
     return {LegendaDeCamposObrigatorios(topo), salvar, cancelar};

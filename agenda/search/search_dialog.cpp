@@ -1,5 +1,7 @@
 #include "agenda/search/search_dialog.hpp"
 
+#include "agenda/shared/palette.hpp"
+
 #include <algorithm>
 
 namespace kova::agenda {
@@ -8,10 +10,6 @@ namespace {
 
 constexpr Long AlturaDoCabecalho = 300;
 constexpr Long AlturaDaLinha = 570;
-constexpr Colour FundoDaLinhaPar = Rgb(242, 242, 242);
-constexpr Colour FundoDaLinhaImpar = Rgb(217, 217, 217);
-constexpr Colour CinzaDoCodigo = Rgb(128, 128, 128);
-constexpr Colour CorDaGrade = Rgb(239, 239, 239);
 constexpr Long ColunaDoCodigo = 1;
 
 constexpr Twips TopoDaGrade = 1725;
@@ -27,12 +25,12 @@ void DarAparencia(MSFlexGrid& grade)
     grade.FixedCols(0);
     grade.FontName("Arial");
     grade.FontSize(11);
-    grade.BackColorFixed(Rgb(246, 245, 245));
-    grade.BackColorSel(Rgb(242, 242, 242));
+    grade.BackColorFixed(cores::CinzaDeCabecalho);
+    grade.BackColorSel(cores::CinzaClaro);
     grade.ForeColorSel(colours::ButtonText);
     grade.BackColorBkg(colours::White);
-    grade.GridColor(CorDaGrade);
-    grade.GridColorFixed(CorDaGrade);
+    grade.GridColor(cores::CinzaDeGrade);
+    grade.GridColorFixed(cores::CinzaDeGrade);
     grade.BackColor(colours::White);
     grade.ForeColor(colours::Black);
     grade.GridLines(0);
@@ -44,12 +42,12 @@ void DarAparencia(MSFlexGrid& grade)
 
 void ColorirLinha(MSFlexGrid& grade, Long linha, Long colunas)
 {
-    const Colour fundo = linha % 2 == 0 ? FundoDaLinhaPar : FundoDaLinhaImpar;
+    const Colour fundo = linha % 2 == 0 ? cores::CinzaClaro : cores::Cinza;
     for (Long coluna = 0; coluna < colunas; ++coluna) {
         grade.Col(coluna);
         grade.Row(linha);
         grade.CellBackColor(fundo);
-        grade.CellForeColor(coluna == ColunaDoCodigo ? CinzaDoCodigo : colours::Black);
+        grade.CellForeColor(coluna == ColunaDoCodigo ? cores::CinzaMedio : colours::Black);
     }
 }
 
@@ -143,7 +141,7 @@ std::vector<ControlDesign> DesenhoComumDaPesquisa(const std::string& titulo, con
          .width = 57600,
          .height = 795,
          .caption = titulo,
-         .backColor = 15921906},
+         .backColor = cores::CinzaClaro},
         {.kind = WidgetKind::MSFlexGrid,
          .name = "msfgGrade",
          .left = MargemDaPesquisa,
@@ -160,8 +158,8 @@ std::vector<ControlDesign> DesenhoComumDaPesquisa(const std::string& titulo, con
          .width = 1500,
          .height = 510,
          .caption = "Fechar",
-         .backColor = 13855744,
-         .highlightColor = 14530157,
+         .backColor = cores::AzulEscuro,
+         .highlightColor = cores::AzulDeRealce,
          .fontColor = colours::White,
          .isCancel = true},
     };
@@ -179,7 +177,7 @@ ControlDesign RotuloDaPesquisa(const std::string& nome, const std::string& legen
             .caption = legenda,
             .labelOf = campo,
             .fontSize = 9,
-            .foreColor = Rgb(73, 73, 73)};
+            .foreColor = cores::Rotulo};
 }
 
 } // namespace kova::agenda

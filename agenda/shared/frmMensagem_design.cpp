@@ -1,5 +1,7 @@
 #include "agenda/shared/frmMensagem_design.hpp"
 
+#include "agenda/shared/palette.hpp"
+
 namespace kova::agenda {
 
 const FormDesign& DesenhoDefrmMensagem()
@@ -8,7 +10,7 @@ const FormDesign& DesenhoDefrmMensagem()
                                    .caption = "",
                                    .width = 4800,
                                    .height = 900,
-                                   .backColor = Rgb(77, 143, 253),
+                                   .backColor = cores::Azul,
                                    .bordered = false,
                                    .controls = {{.kind = WidgetKind::Label,
                                                  .name = "lblMensagem",

@@ -15,7 +15,7 @@ std::vector<ControlDesign> DesenhoDaPlacaDeEspera()
          .height = 900,
          .visible = false,
          .accessibleName = "Aguarde",
-         .backColor = Rgb(214, 230, 255)},
+         .backColor = cores::AzulClaro},
         {.kind = WidgetKind::Label,
          .name = "lblMensagem",
          .container = "picMensagem",
