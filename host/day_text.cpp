@@ -1,6 +1,8 @@
 #include "host/day_text.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "agenda/shared/frmLista_columns.hpp"
+#include "agenda/shared/modConstantes.hpp"
 
 #include <algorithm>
 #include <array>
@@ -10,27 +12,27 @@ namespace kova::host {
 
 namespace {
 
+namespace colunas = agenda::colunas;
+namespace situacao = agenda::situacao;
+
 struct Column {
     const char* title;
     Long number;
 };
-constexpr Long ColumnOfSituation = 33;
 constexpr std::array<Column, 5> Columns{{
-    {"Hora", 3},
-    {"Cliente", 8},
-    {"Animal", 13},
-    {"Serviço", 25},
-    {"Situação", ColumnOfSituation},
+    {"Hora", colunas::HoraInicial},
+    {"Cliente", colunas::NomeOuRazaoSocialDoCliente},
+    {"Animal", colunas::NomeDoAnimal},
+    {"Serviço", colunas::NomeDoServico},
+    {"Situação", colunas::Situacao},
 }};
 
 using Line = std::array<Text, Columns.size()>;
 
 Text NameOfSituation(const Text& code)
 {
-    constexpr std::array<const char*, 5> names{"", "Agendado", "Atendido", "Cancelado",
-                                               "At. gerado pré-venda"};
     const auto number = static_cast<std::size_t>(std::max(Val(code), 0.0));
-    return number < names.size() ? names[number] : code;
+    return number < situacao::Nomes.size() ? situacao::Nomes[number] : code;
 }
 
 Line TitleLine()
@@ -46,7 +48,7 @@ Line LineOf(const MSFlexGrid& grid, Long row)
     Line line;
     for (std::size_t i = 0; i < Columns.size(); ++i) {
         line[i] = grid.TextMatrix(row, Columns[i].number);
-        if (Columns[i].number == ColumnOfSituation)
+        if (Columns[i].number == colunas::Situacao)
             line[i] = NameOfSituation(line[i]);
     }
     return line;

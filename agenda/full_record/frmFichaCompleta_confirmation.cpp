@@ -13,7 +13,6 @@ namespace kova::agenda {
 
 namespace {
 
-constexpr Long Agendado = 1;
 constexpr Integer ReagendarSim = 0;
 constexpr Integer ReagendarPorSelecionarDatas = 3;
 /// This form's value of TipoDoAgendamento; the simplified form has its own.
@@ -27,7 +26,8 @@ Long LinhaEscolhida(const KVComboBox& combo) { return combo.ItemData(combo.ListI
 /// A new appointment is always booked: its combo is hidden and has no selection.
 Long SituacaoDaFicha(const frmFichaCompleta& ficha)
 {
-    return ficha.TipoDeOperacao == operacao::Adicionar ? Agendado : LinhaEscolhida(ficha.kvcmbSituacao);
+    return ficha.TipoDeOperacao == operacao::Adicionar ? situacao::Agendado
+                                                       : LinhaEscolhida(ficha.kvcmbSituacao);
 }
 
 Long Reagendamentos(const frmFichaCompleta& ficha, bool datasSelecionadas)
@@ -100,11 +100,11 @@ void OferecerSituacaoAoPacote(const frmFichaCompleta& ficha, Component& agenda)
 {
     if (!PertenceAPacote(agenda))
         return;
-    const Long situacao = SituacaoDaFicha(ficha);
-    const Text palavra = situacao == Agendado ? "'AGENDADO'" : "'CANCELADO'";
+    const Long situacaoDaFicha = SituacaoDaFicha(ficha);
+    const Text palavra = situacaoDaFicha == situacao::Agendado ? "'AGENDADO'" : "'CANCELADO'";
     if (PerguntarPeloPacote("Deseja alterar a situação para " + palavra
                             + " de TODOS os agendamentos deste pacote que não foram atendidos?"))
-        AlterarPacote(agenda, {situacao});
+        AlterarPacote(agenda, {situacaoDaFicha});
 }
 
 /// After a write that the user confirmed for a Sunday or holiday. Other words, no argument, and on altering

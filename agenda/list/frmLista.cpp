@@ -213,17 +213,13 @@ void frmLista::PreencherComboBoxDeSituacao()
     Trap(", frmLista, PreencherComboBoxDeSituacao, Ponto: ", Ponto, [&] {
         Ponto = 1;
         kvcmbSituacao.Clear();
-        const struct {
-            const char* texto;
-            Long itemData;
-        } linhas[] = {
-            {"Todas as situações", 0},   {"Agendado", 1}, {"Atendido", 2}, {"Cancelado", 3},
-            {"At. gerado pré-venda", 4},
+        const auto adicionar = [this](const char* texto, Long numero) {
+            kvcmbSituacao.AddItem(texto);
+            kvcmbSituacao.ItemData(kvcmbSituacao.NewIndex(), numero);
         };
-        for (const auto& linha : linhas) {
-            kvcmbSituacao.AddItem(linha.texto);
-            kvcmbSituacao.ItemData(kvcmbSituacao.NewIndex(), linha.itemData);
-        }
+        adicionar("Todas as situações", 0);
+        for (Integer numero = situacao::Agendado; numero <= situacao::AtendidoEGeradoPreVenda; ++numero)
+            adicionar(situacao::Nomes[static_cast<std::size_t>(numero)], numero);
     });
 }
 

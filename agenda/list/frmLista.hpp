@@ -180,7 +180,7 @@ private:
     Integer PreencherGrade();
     void PreencherLinha(Long linha, const RecordSet& pagina);
     /// None for a number that no status has, however large.
-    Picture FiguraDaSituacao(Double situacao) const;
+    Picture FiguraDaSituacao(Double numero) const;
     void msfgGrade_SelChange();
     void msfgGrade_MouseMove(Integer Button, Integer Shift, Twips X, Twips Y);
     void PosicionarBotoesDaLinha();

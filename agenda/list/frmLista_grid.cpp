@@ -164,15 +164,15 @@ void frmLista::PreencherLinha(Long linha, const RecordSet& pagina)
                              TextoDaColuna(pagina, ColunasDaGrade()[static_cast<std::size_t>(coluna)]));
 }
 
-Picture frmLista::FiguraDaSituacao(Double situacao) const
+Picture frmLista::FiguraDaSituacao(Double numero) const
 {
-    if (situacao == 1)
+    if (numero == situacao::Agendado)
         return imgEtiqueta_Situacao_Agendado.Picture();
-    if (situacao == 2)
+    if (numero == situacao::Atendido)
         return imgEtiqueta_Situacao_Atendido.Picture();
-    if (situacao == 3)
+    if (numero == situacao::Cancelado)
         return imgEtiqueta_Situacao_Cancelado.Picture();
-    if (situacao == 4)
+    if (numero == situacao::AtendidoEGeradoPreVenda)
         return imgEtiqueta_Situacao_Atendido_Gerado_PreVenda.Picture();
     return {};
 }

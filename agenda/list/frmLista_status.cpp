@@ -12,13 +12,6 @@ namespace kova::agenda {
 
 namespace {
 
-namespace situacao {
-constexpr Integer Agendado = 1;
-constexpr Integer Atendido = 2;
-constexpr Integer Cancelado = 3;
-constexpr Integer AtendidoEGeradoPreVenda = 4;
-} // namespace situacao
-
 /// Service types below this one are clinical.
 constexpr Double PrimeiroTipoNaoClinico = 4;
 

@@ -2,6 +2,8 @@
 
 #include "agenda/contracts/value.hpp"
 
+#include <array>
+
 namespace kova::agenda {
 
 // Constants that more than one screen reads, beside modPrincipal, which has the values.
@@ -13,6 +15,17 @@ inline constexpr const char* QuebraDeLinha = "\r\n";
 
 /// The system whose windows keep their square corners.
 inline constexpr const char* SistemaDeCantosRetos = "Windows 8";
+
+/// Status of an appointment. Another number, or 0 in a filter, is none of them.
+namespace situacao {
+inline constexpr Integer Agendado = 1;
+inline constexpr Integer Atendido = 2;
+inline constexpr Integer Cancelado = 3;
+inline constexpr Integer AtendidoEGeradoPreVenda = 4;
+/// How lists call them, by their numbers.
+inline constexpr std::array<const char*, 5> Nomes{"", "Agendado", "Atendido", "Cancelado",
+                                                  "At. gerado pré-venda"};
+} // namespace situacao
 
 /// Operation of a record form, as its opener passes it.
 namespace operacao {

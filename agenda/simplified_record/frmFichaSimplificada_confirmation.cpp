@@ -13,7 +13,6 @@ namespace kova::agenda {
 
 namespace {
 
-constexpr Long SituacaoAgendado = 1;
 constexpr Long AgendamentoSimplificado = 1;
 /// Characters that the register of appointments keeps of a species and of a breed.
 constexpr std::size_t LarguraDaEspecieEDaRaca = 50;
@@ -64,7 +63,8 @@ void frmFichaSimplificada::EscreverAgendamento(Component& agenda)
     const bool inclui = TipoDeOperacao == operacao::Adicionar;
     if (!inclui)
         agenda.Set("NumeroDeLancamento", NumeroDeLancamento);
-    agenda.Set("Situacao", inclui ? SituacaoAgendado : kvcmbSituacao.ItemData(kvcmbSituacao.ListIndex()));
+    agenda.Set("Situacao",
+               inclui ? Long{situacao::Agendado} : kvcmbSituacao.ItemData(kvcmbSituacao.ListIndex()));
     agenda.Set("CodigoDoFuncionario", ItemDataOuZero(kvcmbFuncionarios));
     agenda.Set("DataInicial", kvdtpDataInicial.Text());
     agenda.Set("HoraInicial", kvtimHoraInicial.Text());
