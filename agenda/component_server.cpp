@@ -12,8 +12,9 @@ using namespace kova;
 
 ComponentLibrary& Library()
 {
-    static ComponentLibrary library({{"KOVA_A_Agenda.clsAgenda", "{6C1F0B52-3E7D-4C58-9B7A-2F0C4D8E51A3}",
-                                      [](ServerHost&) { return std::make_unique<agenda::clsAgenda>(); }}});
+    static ComponentLibrary library(
+        {{std::string(agenda::clsAgenda::ClassName), "{6C1F0B52-3E7D-4C58-9B7A-2F0C4D8E51A3}",
+          [](ServerHost&) { return std::make_unique<agenda::clsAgenda>(); }}});
     return library;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agenda/contracts/business_services.hpp"
+#include "agenda/contracts/member_tables.hpp"
 
 #include <string>
 
@@ -8,16 +8,19 @@ namespace kova::host {
 
 /// The session's user object, which the module passes on to the components: the properties Codigo (Long)
 /// and Nome (Text), both read-only.
-class SessionUser : public Component {
+class SessionUser : public ByTables<SessionUser> {
 public:
+    static constexpr std::string_view ClassName = "O usuário da sessão";
+
     SessionUser(Long code, Text name);
 
-    Value Get(std::string_view member) override;
-    void Set(std::string_view member, const Value& value) override;
-    Value Call(std::string_view member, std::span<Argument> arguments) override;
-    using Component::Call;
+    static std::span<const Method<SessionUser>> Methods() { return {}; }
+    static std::span<const Property<SessionUser>> Properties();
 
 private:
+    Value Codigo() const { return code_; }
+    Value Nome() const { return name_; }
+
     Long code_;
     Text name_;
 };

@@ -9,12 +9,6 @@ namespace kova::agenda {
 
 namespace {
 
-[[noreturn]] void FailOnMember(std::string_view member)
-{
-    throw Failure(FailureNumber::NoSuchMember,
-                  "KOVA_A_Agenda.clsAgenda não aceita a propriedade ou método '" + Text(member) + "'.");
-}
-
 /// A dropped reference is taken as it is: the first write then says that there is no user.
 ObjectRef UserIn(const Value& value)
 {
@@ -25,24 +19,27 @@ ObjectRef UserIn(const Value& value)
 
 } // namespace
 
-Value clsAgenda::Get(std::string_view member) { FailOnMember(member); }
-
-void clsAgenda::Set(std::string_view member, const Value& value)
+std::span<const Method<clsAgenda>> clsAgenda::Methods()
 {
-    if (member == "DadosDoUsuario")
-        Principal.DadosDoUsuario = UserIn(value);
-    else if (member == "NomeDaAplicacao")
-        Principal.NomeDaAplicacao = value.ToText();
-    else
-        FailOnMember(member);
+    static constexpr Method<clsAgenda> methods[] = {{"AbrirLista", 2, 2, &clsAgenda::AbrirLista}};
+    return methods;
 }
 
-Value clsAgenda::Call(std::string_view member, std::span<Argument> arguments)
+std::span<const Property<clsAgenda>> clsAgenda::Properties()
 {
-    if (member != "AbrirLista")
-        FailOnMember(member);
-    if (arguments.size() != 2)
-        throw Failure(FailureNumber::WrongArgumentCount);
+    static constexpr Property<clsAgenda> properties[] = {
+        {"DadosDoUsuario", nullptr, &clsAgenda::DadosDoUsuario},
+        {"NomeDaAplicacao", nullptr, &clsAgenda::NomeDaAplicacao},
+    };
+    return properties;
+}
+
+void clsAgenda::DadosDoUsuario(const Value& value) { Principal.DadosDoUsuario = UserIn(value); }
+
+void clsAgenda::NomeDaAplicacao(const Value& value) { Principal.NomeDaAplicacao = value.ToText(); }
+
+Value clsAgenda::AbrirLista(std::span<Argument> arguments)
+{
     return AbrirLista(arguments[0].Get().ToLong(), arguments[1].Get().ToLong());
 }
 

@@ -10,7 +10,6 @@ namespace kova::family {
 
 namespace {
 
-constexpr const char* ClassName = "KOVA_A_EmissorDeEtiquetas.clsEtiquetas";
 constexpr Integer AddressLabel = 1;
 
 // The settings: section and keys.
@@ -18,12 +17,6 @@ constexpr const char* Section = "Etiquetas";
 constexpr const char* SheetKey = "Folha";
 constexpr const char* NicknameKey = "ImprimirApelido";
 constexpr Integer SettingLength = 40;
-
-[[noreturn]] void FailOnMember(std::string_view member)
-{
-    throw Failure(FailureNumber::NoSuchMember,
-                  Text(ClassName) + " não aceita a propriedade ou método '" + Text(member) + "'.");
-}
 
 QString ToQString(const Text& text) { return QString::fromStdString(text); }
 
@@ -49,33 +42,34 @@ clsEtiquetas::clsEtiquetas(ServerHost& host, DeskMaker makeDesk) : host_(host), 
         };
 }
 
-Value clsEtiquetas::Get(std::string_view member) { FailOnMember(member); }
-
-void clsEtiquetas::Set(std::string_view member, const Value& value)
+std::span<const Method<clsEtiquetas>> clsEtiquetas::Methods()
 {
-    if (member == "CodigoDoCliente") {
-        code_ = value.ToText();
-    } else if (member == "ApelidoOuNomeFantasiaDoCliente") {
-        nickname_ = value.ToText();
-    } else if (member == "NomeOuRazaoSocialDoCliente") {
-        name_ = value.ToText();
-    } else if (member == "NomeDaAplicacao") {
-        application_ = value.ToText();
-    } else if (member == "DadosDoUsuario") {
-        if (value.GetType() != ValueType::Object)
-            throw Failure(FailureNumber::TypeMismatch);
-        user_ = value;
-    } else {
-        FailOnMember(member);
-    }
+    static constexpr Method<clsEtiquetas> methods[] = {
+        {"AbrirEmissaoDeEtiqueta", 1, 1, &clsEtiquetas::AbrirEmissaoDeEtiqueta}};
+    return methods;
 }
 
-Value clsEtiquetas::Call(std::string_view member, std::span<Argument> arguments)
+std::span<const Property<clsEtiquetas>> clsEtiquetas::Properties()
 {
-    if (member != "AbrirEmissaoDeEtiqueta")
-        FailOnMember(member);
-    if (arguments.size() != 1)
-        throw Failure(FailureNumber::WrongArgumentCount);
+    static constexpr Property<clsEtiquetas> properties[] = {
+        {"CodigoDoCliente", nullptr, &clsEtiquetas::CodigoDoCliente},
+        {"ApelidoOuNomeFantasiaDoCliente", nullptr, &clsEtiquetas::ApelidoOuNomeFantasiaDoCliente},
+        {"NomeOuRazaoSocialDoCliente", nullptr, &clsEtiquetas::NomeOuRazaoSocialDoCliente},
+        {"NomeDaAplicacao", nullptr, &clsEtiquetas::NomeDaAplicacao},
+        {"DadosDoUsuario", nullptr, &clsEtiquetas::DadosDoUsuario},
+    };
+    return properties;
+}
+
+void clsEtiquetas::DadosDoUsuario(const Value& value)
+{
+    if (value.GetType() != ValueType::Object)
+        throw Failure(FailureNumber::TypeMismatch);
+    user_ = value;
+}
+
+Value clsEtiquetas::AbrirEmissaoDeEtiqueta(std::span<Argument> arguments)
+{
     if (arguments[0].Get().ToInteger() != AddressLabel)
         throw Failure(FailureNumber::InvalidArgument);
     if (!qobject_cast<QApplication*>(QCoreApplication::instance()))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/component_server.hpp"
+#include "agenda/contracts/member_tables.hpp"
 #include "family/presentation/labels/label_window.hpp"
 #include "family/presentation/labels/registered_customer.hpp"
 
@@ -17,20 +18,25 @@ namespace kova::family {
 /// two names go onto the label as they were given; where one is empty, the customer's own stands in.
 ///
 /// What goes wrong is told to the user and does not leave the component. Without a screen nothing is shown.
-class clsEtiquetas : public Component {
+class clsEtiquetas : public ByTables<clsEtiquetas> {
 public:
+    static constexpr std::string_view ClassName = "KOVA_A_EmissorDeEtiquetas.clsEtiquetas";
     using DeskMaker = std::function<std::unique_ptr<LabelDesk>(Toolkit& toolkit, const Text& title)>;
 
     /// The host must outlive it. `makeDesk` gives the desktop that the window asks.
     explicit clsEtiquetas(ServerHost& host, DeskMaker makeDesk = {});
 
-    /// Nothing can be read: fails with 438.
-    Value Get(std::string_view member) override;
-    void Set(std::string_view member, const Value& value) override;
-    Value Call(std::string_view member, std::span<Argument> arguments) override;
-    using Component::Call;
+    static std::span<const Method<clsEtiquetas>> Methods();
+    /// None of them can be read.
+    static std::span<const Property<clsEtiquetas>> Properties();
 
 private:
+    void CodigoDoCliente(const Value& value) { code_ = value.ToText(); }
+    void ApelidoOuNomeFantasiaDoCliente(const Value& value) { nickname_ = value.ToText(); }
+    void NomeOuRazaoSocialDoCliente(const Value& value) { name_ = value.ToText(); }
+    void NomeDaAplicacao(const Value& value) { application_ = value.ToText(); }
+    void DadosDoUsuario(const Value& value);
+    Value AbrirEmissaoDeEtiqueta(std::span<Argument> arguments);
     void OpenLabels();
     /// Tells the user where the customer cannot get a label.
     bool MayHaveLabel(const std::optional<RegisteredCustomer>& customer);

@@ -8,19 +8,6 @@ namespace kova::family {
 
 namespace {
 
-[[noreturn]] void FailOnMember(std::string_view member)
-{
-    throw Failure(FailureNumber::NoSuchMember,
-                  "KOVA_A_EfeitosDeTela.clsFundoEscuro não aceita a propriedade ou método '" + Text(member)
-                      + "'.");
-}
-
-void RequireCount(std::span<Argument> arguments, std::size_t count)
-{
-    if (arguments.size() != count)
-        throw Failure(FailureNumber::WrongArgumentCount);
-}
-
 /// The window with that handle; null where there is none, or no screen.
 QWidget* WindowOf(Long handle)
 {
@@ -32,23 +19,26 @@ QWidget* WindowOf(Long handle)
 
 } // namespace
 
-Value clsFundoEscuro::Get(std::string_view member) { FailOnMember(member); }
-
-void clsFundoEscuro::Set(std::string_view member, const Value&) { FailOnMember(member); }
-
-Value clsFundoEscuro::Call(std::string_view member, std::span<Argument> arguments)
+std::span<const Method<clsFundoEscuro>> clsFundoEscuro::Methods()
 {
-    if (member == "Aplicar") {
-        RequireCount(arguments, 2);
-        const Long handle = arguments[0].Get().ToLong();
-        if (QWidget* window = WindowOf(handle))
-            DimmingLayer::Apply(*window, handle, hold_());
-    } else if (member == "Remover") {
-        RequireCount(arguments, 1);
-        DimmingLayer::Remove(arguments[0].Get().ToLong());
-    } else {
-        FailOnMember(member);
-    }
+    static constexpr Method<clsFundoEscuro> methods[] = {
+        {"Aplicar", 2, 2, &clsFundoEscuro::Aplicar},
+        {"Remover", 1, 1, &clsFundoEscuro::Remover},
+    };
+    return methods;
+}
+
+Value clsFundoEscuro::Aplicar(std::span<Argument> arguments)
+{
+    const Long handle = arguments[0].Get().ToLong();
+    if (QWidget* window = WindowOf(handle))
+        DimmingLayer::Apply(*window, handle, hold_());
+    return {};
+}
+
+Value clsFundoEscuro::Remover(std::span<Argument> arguments)
+{
+    DimmingLayer::Remove(arguments[0].Get().ToLong());
     return {};
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agenda/contracts/business_services.hpp"
+#include "agenda/contracts/member_tables.hpp"
 
 #include <functional>
 #include <memory>
@@ -14,20 +14,22 @@ namespace kova::family {
 /// ends it, also where the window was closed meanwhile. Applying twice dims once; removing what is not
 /// there, and a handle without a window, do nothing. Neither argument is written. What is left standing
 /// fades out at the user's next press or key.
-class clsFundoEscuro : public Component {
+class clsFundoEscuro : public ByTables<clsFundoEscuro> {
 public:
+    static constexpr std::string_view ClassName = "KOVA_A_EfeitosDeTela.clsFundoEscuro";
+
     /// Answers what keeps this code loaded: the dimming outlives the object that applied it.
     using Holder = std::function<std::shared_ptr<void>()>;
 
     explicit clsFundoEscuro(Holder hold = [] { return nullptr; }) : hold_(std::move(hold)) { }
 
-    /// There is no property: fails with 438.
-    Value Get(std::string_view member) override;
-    void Set(std::string_view member, const Value& value) override;
-    Value Call(std::string_view member, std::span<Argument> arguments) override;
-    using Component::Call;
+    static std::span<const Method<clsFundoEscuro>> Methods();
+    static std::span<const Property<clsFundoEscuro>> Properties() { return {}; }
 
 private:
+    Value Aplicar(std::span<Argument> arguments);
+    Value Remover(std::span<Argument> arguments);
+
     Holder hold_;
 };
 

@@ -11,12 +11,6 @@ namespace kova::family {
 
 namespace {
 
-[[noreturn]] void FailOnMember(std::string_view member)
-{
-    throw Failure(FailureNumber::NoSuchMember,
-                  "KOVA_A_MsgErro.clsMensagem não aceita a propriedade ou método '" + Text(member) + "'.");
-}
-
 /// Whether there is a screen with somebody in front of it.
 bool SomebodyIsWatching()
 {
@@ -38,16 +32,14 @@ void Show(const ErrorReport& report)
 
 } // namespace
 
-Value clsMensagem::Get(std::string_view member) { FailOnMember(member); }
-
-void clsMensagem::Set(std::string_view member, const Value&) { FailOnMember(member); }
-
-Value clsMensagem::Call(std::string_view member, std::span<Argument> arguments)
+std::span<const Method<clsMensagem>> clsMensagem::Methods()
 {
-    if (member != "Exibir")
-        FailOnMember(member);
-    if (arguments.size() != 4)
-        throw Failure(FailureNumber::WrongArgumentCount);
+    static constexpr Method<clsMensagem> methods[] = {{"Exibir", 4, 4, &clsMensagem::Exibir}};
+    return methods;
+}
+
+Value clsMensagem::Exibir(std::span<Argument> arguments)
+{
     Show({.number = ReadableText(arguments[0].Get()),
           .description = ReadableText(arguments[1].Get()),
           .place = ReadableText(arguments[2].Get()),

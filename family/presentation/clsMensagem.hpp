@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agenda/contracts/business_services.hpp"
+#include "agenda/contracts/member_tables.hpp"
 
 namespace kova::family {
 
@@ -8,13 +8,15 @@ namespace kova::family {
 /// Exibir(number, description, place, name of the application), shows the four until the user closes the
 /// window. They may be of any type and are not written. Where nobody can close a window (no display) the
 /// report goes to the standard error output and the call returns at once.
-class clsMensagem : public Component {
+class clsMensagem : public ByTables<clsMensagem> {
 public:
-    /// There is no property: fails with 438.
-    Value Get(std::string_view member) override;
-    void Set(std::string_view member, const Value& value) override;
-    Value Call(std::string_view member, std::span<Argument> arguments) override;
-    using Component::Call;
+    static constexpr std::string_view ClassName = "KOVA_A_MsgErro.clsMensagem";
+
+    static std::span<const Method<clsMensagem>> Methods();
+    static std::span<const Property<clsMensagem>> Properties() { return {}; }
+
+private:
+    Value Exibir(std::span<Argument> arguments);
 };
 
 } // namespace kova::family

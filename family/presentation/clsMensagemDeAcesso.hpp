@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agenda/contracts/business_services.hpp"
+#include "agenda/contracts/member_tables.hpp"
 
 #include <memory>
 
@@ -13,18 +13,20 @@ class WaitWindow;
 /// Exibir(text: Text) shows it and returns at once; a second call changes the text. Fechar() takes it away,
 /// and so does the end of the object. Fechar without Exibir does nothing, and without a screen nothing is
 /// shown.
-class clsMensagemDeAcesso : public Component {
+class clsMensagemDeAcesso : public ByTables<clsMensagemDeAcesso> {
 public:
+    static constexpr std::string_view ClassName = "KOVA_A_MsgAcesso.clsMensagem";
+
     clsMensagemDeAcesso();
     ~clsMensagemDeAcesso() override;
 
-    /// There is no property: fails with 438.
-    Value Get(std::string_view member) override;
-    void Set(std::string_view member, const Value& value) override;
-    Value Call(std::string_view member, std::span<Argument> arguments) override;
-    using Component::Call;
+    static std::span<const Method<clsMensagemDeAcesso>> Methods();
+    static std::span<const Property<clsMensagemDeAcesso>> Properties() { return {}; }
 
 private:
+    Value Exibir(std::span<Argument> arguments);
+    Value Fechar(std::span<Argument> arguments);
+
     std::unique_ptr<WaitWindow> window_;
 };
 

@@ -13,13 +13,13 @@ std::shared_ptr<void> HoldLibrary() { return Library().Hold(); }
 kova::ComponentLibrary& Library()
 {
     static kova::ComponentLibrary library({
-        {"KOVA_A_MsgErro.clsMensagem", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E1}",
+        {std::string(kova::family::clsMensagem::ClassName), "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E1}",
          +[](kova::ServerHost&) { return std::make_unique<kova::family::clsMensagem>(); }},
-        {"KOVA_A_EfeitosDeTela.clsFundoEscuro", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E2}",
+        {std::string(kova::family::clsFundoEscuro::ClassName), "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E2}",
          +[](kova::ServerHost&) { return std::make_unique<kova::family::clsFundoEscuro>(HoldLibrary); }},
-        {"KOVA_A_MsgAcesso.clsMensagem", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E3}",
+        {std::string(kova::family::clsMensagemDeAcesso::ClassName), "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E3}",
          +[](kova::ServerHost&) { return std::make_unique<kova::family::clsMensagemDeAcesso>(); }},
-        {"KOVA_A_EmissorDeEtiquetas.clsEtiquetas", "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E4}",
+        {std::string(kova::family::clsEtiquetas::ClassName), "{7B1E0D0C-52C4-4F2B-9B77-0D9C6B6A51E4}",
          +[](kova::ServerHost& host) { return std::make_unique<kova::family::clsEtiquetas>(host); }},
     });
     return library;
