@@ -5,6 +5,8 @@ foreach(scenario IN LISTS scenarios)
     string(REGEX REPLACE "\\.scenario$" "" name ${name})
     add_test(NAME Scenario.${name}
              COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/check $<TARGET_FILE:agenda-scenario> ${scenario})
+    set_tests_properties(Scenario.${name} PROPERTIES
+        ENVIRONMENT "KOVARIS_EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}")
     if(NOT KOVARIS_CORE_ONLY)
         add_test(NAME ScenarioOnScreen.${name}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/check $<TARGET_FILE:agenda-scenario> ${scenario}
@@ -12,3 +14,13 @@ foreach(scenario IN LISTS scenarios)
         set_tests_properties(ScenarioOnScreen.${name} PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
     endif()
 endforeach()
+
+# A script is found in a folder whose name has accents, on every system.
+set(accented "${CMAKE_CURRENT_BINARY_DIR}/salão de são joão/ração")
+foreach(part IN ITEMS scenario transcript)
+    configure_file(${CMAKE_CURRENT_SOURCE_DIR}/scenarios/opening/first_start.${part} "${accented}.${part}" COPYONLY)
+endforeach()
+add_test(NAME ScenarioInAFolderWithAccents
+         COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/check $<TARGET_FILE:agenda-scenario> "${accented}.scenario")
+set_tests_properties(ScenarioInAFolderWithAccents PROPERTIES
+    ENVIRONMENT "KOVARIS_EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}")

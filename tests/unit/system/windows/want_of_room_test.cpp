@@ -8,9 +8,12 @@ namespace kova::system {
 
 TEST(WantOfRoomOnWindows, IsWhatTheSystemCallsAFullDisk)
 {
-    for (const int number : {ERROR_DISK_FULL, ERROR_HANDLE_DISK_FULL, 1295})
-        EXPECT_TRUE(IsWantOfRoom({number, std::system_category()})) << number;
-    EXPECT_FALSE(IsWantOfRoom({ERROR_ACCESS_DENIED, std::system_category()}));
+    const auto isWantOfRoom = [](long number) {
+        return IsWantOfRoom({static_cast<int>(number), std::system_category()});
+    };
+    for (const long number : {ERROR_DISK_FULL, ERROR_HANDLE_DISK_FULL, 1295L})
+        EXPECT_TRUE(isWantOfRoom(number)) << number;
+    EXPECT_FALSE(isWantOfRoom(ERROR_ACCESS_DENIED));
 }
 
 } // namespace kova::system
