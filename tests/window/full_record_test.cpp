@@ -32,7 +32,7 @@ TEST_F(FullRecord, BooksACustomerPickedAmongSeveralOfTheName)
     EXPECT_EQ(offered, (Rows{"Zulmar Quaresma", "Zulmira Quaresma"}));
     EXPECT_EQ(receptionist->Boxes(), Rows{});
     EXPECT_EQ(Appointments(), Rows{"2026-11-24 15:00|2026-11-24 16:30|10|14|Tosa na tesoura|Juca"});
-    EXPECT_EQ(Value("select situacao, tipo_do_agendamento, incluido_por from agendamento"), "1|0|Maria");
+    EXPECT_EQ(Value("select situacao, tipo_do_agendamento, incluido_por from agendamento"), "1|0|Antônia");
 }
 
 TEST_F(FullRecord, BooksTheAnimalOfAMicrochipForItsOwner)

@@ -100,7 +100,7 @@ TEST_F(PostgresqlAway, IsToldAndTheNextActionWorksWhenItIsBackWithoutARestart)
     EXPECT_EQ(failures_.Take(), "");
     EXPECT_EQ(shown, "1");
     EXPECT_EQ(Query("select numero, alterado_por from agendamento where situacao <> 1"),
-              Rows{number + "|Maria"});
+              Rows{number + "|Antônia"});
 }
 
 } // namespace kova::window_test

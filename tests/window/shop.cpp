@@ -57,7 +57,7 @@ void Shop::Run()
 {
     host::Options options;
     options.database = Database();
-    options.user = "Maria";
+    options.user = "Antônia";
     options.date = Date{2026, 11, 20};
     options.time = TimeOfDay{9, 0, 0};
     options.pace = Pace;

@@ -20,8 +20,8 @@ enum class Place { File, Server };
 /// A file, or a server where the environment variable KOVARIS_TEST_SERVER is set.
 Place UsualPlace();
 
-/// The application on a demonstration shop of its own, on 20/11/2026 from 09:00 on, with the user "Maria". A
-/// test tells the receptionist what to do, runs the application, and looks into the database.
+/// The application on a demonstration shop of its own, on 20/11/2026 from 09:00 on, with the user "Antônia".
+/// A test tells the receptionist what to do, runs the application, and looks into the database.
 class Shop : public testing::Test {
 protected:
     explicit Shop(Place place = UsualPlace());

@@ -70,7 +70,7 @@ TEST_F(SimplifiedRecord, IsBookedByKeyboardAlone)
         Value("select nome_do_cliente, canais_do_cliente, nome_do_animal, sexo_do_animal, cor_do_animal,"
               " hora_inicial, observacao, situacao, codigo_do_cliente, incluido_por from agendamento"
               " where data_inicial = '2026-11-20'"),
-        "João d'Ávila \"Zé\"|Celular 1234|Rex|M|Preto|15:00|Muito bravo|1|(null)|Maria");
+        "João d'Ávila \"Zé\"|Celular 1234|Rex|M|Preto|15:00|Muito bravo|1|(null)|Antônia");
 }
 
 TEST_F(SimplifiedRecord, IsDetailedAlteredAndDeletedByKeyboardAlone)
@@ -89,7 +89,7 @@ TEST_F(SimplifiedRecord, IsDetailedAlteredAndDeletedByKeyboardAlone)
     receptionist->Looks([&] {
         EXPECT_EQ(
             Value("select nome_do_cliente, alterado_por from agendamento where data_inicial = '2026-11-20'"),
-            "Maria do Carmo|Maria");
+            "Maria do Carmo|Antônia");
     });
     receptionist->Presses("F7").Presses("Down").Presses("F8").WaitsFor(Form).Presses("Ctrl+S");
     receptionist->WaitsFor("frmLista").Leaves();

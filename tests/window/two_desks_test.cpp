@@ -45,7 +45,7 @@ TEST_F(TwoDesks, BothFindTheirChangesSaved)
     SavesOnTheHoliday();
     Run();
     EXPECT_EQ(receptionist->Boxes(), std::vector<std::string>{HolidayQuestion});
-    EXPECT_EQ(Stored(), "Laço verde|1|Maria");
+    EXPECT_EQ(Stored(), "Laço verde|1|Antônia");
 }
 
 TEST_F(TwoDesks, OnTheSameFieldAreToldWhatEachHasTypedAndCanSaveAfterLookingAgain)
@@ -71,7 +71,7 @@ TEST_F(TwoDesks, OnTheSameFieldAreToldWhatEachHasTypedAndCanSaveAfterLookingAgai
             " mudanças.",
             HolidayQuestion}));
     EXPECT_EQ(afterTheRefusal, "Sem laço.|0|Marcos");
-    EXPECT_EQ(Stored(), "Laço verde|0|Maria");
+    EXPECT_EQ(Stored(), "Laço verde|0|Antônia");
 }
 
 } // namespace

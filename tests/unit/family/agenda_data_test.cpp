@@ -110,7 +110,7 @@ TEST_F(AgendaData, BacksUpAndRestores)
 
 TEST_F(AgendaData, CreatesAShopThatCanBegin)
 {
-    EXPECT_EQ(Run({"create", a_, "--company", "Pet Shop Céu", "--user", "Lia"}), 0);
+    EXPECT_EQ(Run({"create", a_, "--company", "Pet Shop Céu", "--user", "Antônia"}), 0);
     EXPECT_EQ(Run({"check", a_}), 0);
     for (const char* count : {"empresa: 1\n", "usuario: 1\n", "tipo_de_servico: 4\n", "agendamento: 0\n"})
         EXPECT_TRUE(Said(count)) << output_.str();
@@ -119,7 +119,7 @@ TEST_F(AgendaData, CreatesAShopThatCanBegin)
     database->Session() << "select nome_fantasia from empresa", soci::into(company);
     database->Session() << "select nome from usuario where codigo = 1", soci::into(user);
     database->Session() << "select nome from tipo_de_servico where numero = 4", soci::into(type);
-    EXPECT_EQ(company + ", " + user + ", " + type, "Pet Shop Céu, Lia, Banho e tosa");
+    EXPECT_EQ(company + ", " + user + ", " + type, "Pet Shop Céu, Antônia, Banho e tosa");
     EXPECT_EQ(Run({"create", a_}), 1);
     EXPECT_TRUE(Complained(AlreadyThere())) << error_.str();
 }
@@ -177,13 +177,13 @@ TEST_F(AgendaData, TellsTheHistoryOfAnAppointmentAndRestoresIt)
     ASSERT_TRUE(
         DeleteAppointment(*OpenDatabase(file), booked, {"7", "Lia", "2026-11-20 10:11:12", "BALCAO-1"})
             .IsDone());
-    EXPECT_EQ(Run({"undelete", file, number, "--user", "Marcos"}), 0);
+    EXPECT_EQ(Run({"undelete", file, number, "--user", "João Antônio"}), 0);
     EXPECT_TRUE(Said("Agendamento restaurado: " + number + "\n"));
     EXPECT_EQ(Run({"undelete", file, number}), 1);
     EXPECT_TRUE(Complained("agendamento " + number + ": "));
     EXPECT_EQ(Run({"history", file, number}), 0);
     EXPECT_TRUE(Said("20/11/2026 10:11:12  Exclusão por 7 - Lia no posto BALCAO-1\n")) << output_.str();
-    EXPECT_TRUE(Said("20/11/2026 09:00:00  Restauração por 0 - Marcos")) << output_.str();
+    EXPECT_TRUE(Said("20/11/2026 09:00:00  Restauração por 0 - João Antônio")) << output_.str();
     EXPECT_TRUE(Said(" -> (vazio)\n")) << output_.str();
     EXPECT_TRUE(Said(": (vazio) -> ")) << output_.str();
     EXPECT_EQ(Run({"check", file}), 0);
