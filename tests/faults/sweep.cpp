@@ -7,14 +7,13 @@
 
 #include "host/components/component_library.hpp"
 #include "tools/scenario/runner.hpp"
+#include "tools/scenario/script_file.hpp"
 
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <regex>
 #include <string>
 #include <vector>
@@ -100,9 +99,7 @@ public:
 
     void Over(const std::string& file)
     {
-        std::ifstream stream(file, std::ios::binary);
-        const std::string text{std::istreambuf_iterator<char>(stream), {}};
-        const Script script = ParseScript(text);
+        const Script script = ReadScript(file);
         const Outcome plain = RunOnce(script, Usual());
         if (plain.business == 0 || !plain.ended) {
             ++faults_;

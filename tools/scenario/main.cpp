@@ -2,13 +2,11 @@
 
 #include "host/components/component_error.hpp"
 #include "system/command_line.hpp"
-#include "system/path_text.hpp"
 #include "system/process_apart.hpp"
 #include "tools/scenario/runner.hpp"
+#include "tools/scenario/script_file.hpp"
 
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 namespace {
@@ -16,14 +14,6 @@ namespace {
 using namespace kova::scenario;
 
 enum ExitStatus { Done = 0, ScriptWrong = 2, ModuleBroken = 3 };
-
-std::string ReadFile(const std::string& path)
-{
-    std::ifstream file(kova::system::PathOf(path), std::ios::binary);
-    if (!file)
-        throw std::invalid_argument("Não foi possível ler o roteiro " + path + ".");
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 void PrintLine(const std::string& line) { std::printf("%s\n", line.c_str()); }
 
@@ -76,7 +66,7 @@ int main(int count, char** words)
             std::fputs(HelpText().c_str(), stdout);
             return Done;
         }
-        return RunApart(options, ParseScript(ReadFile(options.file)));
+        return RunApart(options, ReadScript(options.file));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return ScriptWrong;

@@ -63,14 +63,23 @@ void Runner::Execute(const Statement& statement)
         const Verb* verb = Find(statement.verb);
         if (!verb)
             throw ScriptError(statement.line, "comando desconhecido: '" + statement.verb + "'");
-        if (verb->when == Verb::When::Before && session_.IsOpen())
-            throw ScriptError(statement.line, "'" + statement.verb + "' vem antes de 'open'");
-        if (verb->when == Verb::When::After && !session_.IsOpen())
-            throw ScriptError(statement.line, "'" + statement.verb + "' vem depois de 'open'");
+        RequirePlace(statement, verb->when);
         (this->*verb->act)(statement);
     } catch (const ScriptError& error) {
         wrong_(error);
     }
+}
+
+void Runner::RequirePlace(const Statement& statement, Verb::When when) const
+{
+    using When = Verb::When;
+    const bool setsUp = when == When::SetUp || when == When::Answers;
+    if (!statement.line.file.empty() && !setsUp)
+        throw ScriptError(statement.line, "'" + statement.verb + "' não cabe numa preparação");
+    if ((when == When::SetUp || when == When::Opens) && session_.IsOpen())
+        throw ScriptError(statement.line, "'" + statement.verb + "' vem antes de 'open'");
+    if (when == When::After && !session_.IsOpen())
+        throw ScriptError(statement.line, "'" + statement.verb + "' vem depois de 'open'");
 }
 
 void Runner::RefuseIf(const std::string& reason)

@@ -49,14 +49,17 @@ private:
     using Act = void (Runner::*)(const Statement&);
     struct Verb {
         Act act;
-        /// Set-up comes before `open`, what the user does after it.
-        enum class When { Before, After, Always } when;
+        /// Set-up and `open` come first, what the user does after them, answers and the rest at any time.
+        /// Set-up files hold set-up and answers only.
+        enum class When { SetUp, Opens, After, Answers, Always } when;
     };
     static const Verb* Find(const std::string& verb);
 
     void Execute(const Statement& statement);
     const Statement* Next() const;
     Statement Take();
+    /// Throws ScriptError where such a statement does not stand in its place.
+    void RequirePlace(const Statement& statement, Verb::When when) const;
     void RefuseIf(const std::string& reason);
     Reply ReplyOf(const Statement& statement, MessageKind kind) const;
     toolkit::MenuModel* EntryOf(const Statement& statement, const std::vector<toolkit::MenuModel*>& entries);

@@ -20,7 +20,7 @@ bool IsDateAndTime(const DateTime& moment)
 }
 
 /// "CLASS.MEMBER": at least two dots, as classes are written whole.
-void RequireClassMember(const std::string& word, int line)
+void RequireClassMember(const std::string& word, const ScriptLine& line)
 {
     if (std::count(word.begin(), word.end(), '.') < 2)
         throw ScriptError(line, "'" + word + "' não é CLASSE.MEMBRO com a classe por inteiro");
@@ -40,17 +40,17 @@ const Runner::Verb* Runner::Find(const std::string& verb)
 {
     using When = Verb::When;
     static const std::map<std::string, Verb> verbs{
-        {"clock", {&Runner::SetClock, When::Before}},
-        {"screen", {&Runner::SetScreen, When::Before}},
-        {"container", {&Runner::SetContainer, When::Before}},
-        {"application", {&Runner::SetApplication, When::Before}},
-        {"user", {&Runner::SetUser, When::Before}},
-        {"settings", {&Runner::SetSetting, When::Before}},
-        {"system", {&Runner::SetSystem, When::Before}},
-        {"open", {&Runner::Open, When::Before}},
-        {"answer", {&Runner::QueueAnswer, When::Always}},
-        {"always", {&Runner::StandingAnswer, When::Always}},
-        {"fail", {&Runner::QueueFailure, When::Always}},
+        {"clock", {&Runner::SetClock, When::SetUp}},
+        {"screen", {&Runner::SetScreen, When::SetUp}},
+        {"container", {&Runner::SetContainer, When::SetUp}},
+        {"application", {&Runner::SetApplication, When::SetUp}},
+        {"user", {&Runner::SetUser, When::SetUp}},
+        {"settings", {&Runner::SetSetting, When::SetUp}},
+        {"system", {&Runner::SetSystem, When::SetUp}},
+        {"open", {&Runner::Open, When::Opens}},
+        {"answer", {&Runner::QueueAnswer, When::Answers}},
+        {"always", {&Runner::StandingAnswer, When::Answers}},
+        {"fail", {&Runner::QueueFailure, When::Answers}},
         {"note", {&Runner::Note, When::Always}},
         {"advance", {&Runner::Advance, When::Always}},
         {"during-pause", {&Runner::QueueDuringPause, When::Always}},
@@ -141,13 +141,8 @@ ScriptedAnswer Runner::AnswerOf(const Statement& statement) const
             answer.records = table->second;
             continue;
         }
-        const std::size_t sign = word.find('=');
-        if (sign == std::string::npos || sign == 0)
-            throw ScriptError(statement.line, "'" + word + "' não é MEMBRO=VALOR");
-        const std::string value = word.substr(sign + 1);
-        const bool quoted = value.starts_with('"');
-        answer.members[word.substr(0, sign)] =
-            ParseValue({quoted ? value.substr(1) : value, quoted}, statement.line);
+        NamedValue member = ParseNamedValue(statement.words[at], statement.line);
+        answer.members[member.name] = std::move(member.value);
     }
     return answer;
 }

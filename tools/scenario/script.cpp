@@ -1,161 +1,80 @@
 #include "tools/scenario/script.hpp"
 
-#include <cctype>
+#include "tools/scenario/line_reader.hpp"
+#include "tools/scenario/script_tables.hpp"
+
+#include <algorithm>
 #include <charconv>
-#include <limits>
 
 namespace kova::scenario {
 
 namespace {
 
-/// Walks along one line.
-class LineReader {
+/// Reads a script and the set-ups that it uses into one.
+class ScriptReader {
 public:
-    LineReader(std::string_view line, int number) : line_(line), number_(number) { }
+    explicit ScriptReader(const SetupReader& setups) : setups_(setups) { }
 
-    /// Skips blanks; true where something other than a comment follows.
-    bool More()
+    /// `file` is a set-up's name, or empty for the script itself.
+    void Read(std::string_view text, const std::string& file)
     {
-        while (at_ < line_.size() && std::isspace(static_cast<unsigned char>(line_[at_])))
-            ++at_;
-        return at_ < line_.size() && line_[at_] != '#';
+        for (ScriptLines lines{LinesOf(text), file}; lines.at < lines.lines.size();) {
+            Statement statement = ParseStatement(lines.lines[lines.at], lines.Here());
+            ++lines.at;
+            if (statement.verb == "use")
+                Use(statement);
+            else if (statement.verb == "records")
+                Keep(statement, ParseRecords(lines, statement));
+            else if (statement.verb == "appointments")
+                Keep(statement, ParseAppointments(lines, statement));
+            else if (!statement.verb.empty())
+                script_.statements.push_back(std::move(statement));
+        }
     }
 
-    bool TakeIf(char character)
-    {
-        if (at_ >= line_.size() || line_[at_] != character)
-            return false;
-        ++at_;
-        return true;
-    }
-
-    Token Next(std::string_view endings = " \t\r")
-    {
-        return line_[at_] == '"' ? Text(endings) : Bare(endings);
-    }
+    Script Take() { return std::move(script_); }
 
 private:
-    Token Bare(std::string_view endings)
+    void Use(const Statement& statement)
     {
-        const std::size_t begin = at_;
-        while (at_ < line_.size() && endings.find(line_[at_]) == std::string_view::npos) {
-            // A value may be quoted behind a name: MEMBER="text".
-            if (line_[at_] == '"') {
-                const std::string name(line_.substr(begin, at_ - begin));
-                const Token value = Text(endings);
-                return {name + '"' + value.text, false};
-            }
-            ++at_;
-        }
-        return {std::string(line_.substr(begin, at_ - begin)), false};
+        statement.ExpectAtMost(1);
+        const std::string file = statement.Word(0) + ".setup";
+        if (std::find(open_.begin(), open_.end(), file) != open_.end())
+            throw ScriptError(statement.line, "a preparação '" + file + "' usa a si mesma");
+        const auto text = setups_ ? setups_(file) : std::nullopt;
+        if (!text)
+            throw ScriptError(statement.line,
+                              "a preparação '" + file
+                                  + "' não está na pasta do roteiro nem nas pastas acima dela");
+        open_.push_back(file);
+        Read(*text, file);
+        open_.pop_back();
     }
 
-    Token Text(std::string_view endings)
+    /// A set-up's table gives way to one of the same name that follows it elsewhere.
+    void Keep(const Statement& head, RecordTable table)
     {
-        Token token{{}, true};
-        for (++at_; at_ < line_.size(); ++at_) {
-            const char character = line_[at_];
-            if (character == '"') {
-                ++at_;
-                RequireEnding(endings);
-                return token;
-            }
-            token.text += character == '\\' ? Escaped() : character;
-        }
-        throw ScriptError(number_, "o texto entre aspas não termina");
+        const std::string& name = head.Word(0);
+        const auto former = origins_.find(name);
+        if (former != origins_.end() && former->second == head.line.file)
+            throw ScriptError(head.line, "a tabela '" + name + "' já existe");
+        origins_[name] = head.line.file;
+        script_.tables[name] = std::move(table);
     }
 
-    char Escaped()
-    {
-        if (++at_ < line_.size()) {
-            switch (line_[at_]) {
-            case '"': return '"';
-            case '\\': return '\\';
-            case 'r': return '\r';
-            case 'n': return '\n';
-            default: break;
-            }
-        }
-        throw ScriptError(number_, R"(depois de \ vem um de " \ r n)");
-    }
-
-    void RequireEnding(std::string_view endings) const
-    {
-        if (at_ < line_.size() && endings.find(line_[at_]) == std::string_view::npos)
-            throw ScriptError(number_, "falta um espaço depois do texto entre aspas");
-    }
-
-    std::string_view line_;
-    int number_;
-    std::size_t at_ = 0;
+    const SetupReader& setups_;
+    Script script_;
+    /// Set-ups that are being read, the innermost last.
+    std::vector<std::string> open_;
+    /// The file in which each table stands.
+    std::map<std::string, std::string> origins_;
 };
-
-std::vector<std::string_view> LinesOf(std::string_view text)
-{
-    constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(ByteOrderMark))
-        text.remove_prefix(ByteOrderMark.size());
-    std::vector<std::string_view> lines;
-    while (!text.empty()) {
-        const std::size_t end = text.find('\n');
-        std::string_view line = text.substr(0, end);
-        if (line.ends_with('\r'))
-            line.remove_suffix(1);
-        lines.push_back(line);
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    }
-    return lines;
-}
-
-std::vector<Value> ParseRow(std::string_view line, int number)
-{
-    std::vector<Value> row;
-    LineReader reader(line, number);
-    while (reader.More()) {
-        Token token = reader.Next(",");
-        if (!token.quoted)
-            token.text.erase(token.text.find_last_not_of(" \t") + 1);
-        row.push_back(ParseValue(token, number));
-        if (reader.More() && !reader.TakeIf(','))
-            throw ScriptError(number, "falta uma vírgula entre os valores");
-    }
-    return row;
-}
-
-bool IsEnd(std::string_view line, int number)
-{
-    LineReader reader(line, number);
-    return reader.More() && line.find("end") != std::string_view::npos && reader.Next().text == "end";
-}
-
-/// Reads the rows of a table up to `end`; `at` is the line behind `records` and moves behind `end`.
-RecordTable ParseTable(const std::vector<std::string_view>& lines, std::size_t& at, const Statement& head)
-{
-    RecordTable table;
-    for (std::size_t word = 1; word < head.words.size(); ++word)
-        table.fields.push_back(head.Word(word));
-    for (; at < lines.size(); ++at) {
-        const int number = static_cast<int>(at) + 1;
-        if (IsEnd(lines[at], number)) {
-            ++at;
-            return table;
-        }
-        if (!LineReader(lines[at], number).More())
-            continue;
-        table.rows.push_back(ParseRow(lines[at], number));
-        if (table.rows.back().size() != table.fields.size())
-            throw ScriptError(number,
-                              "a linha tem " + std::to_string(table.rows.back().size())
-                                  + " valores e a tabela tem " + std::to_string(table.fields.size())
-                                  + " campos");
-    }
-    throw ScriptError(head.line, "falta o 'end' da tabela");
-}
 
 } // namespace
 
-ScriptError::ScriptError(int line, const std::string& what)
-    : std::runtime_error("linha " + std::to_string(line) + ": " + what), line_(line)
+ScriptError::ScriptError(const ScriptLine& line, const std::string& what)
+    : std::runtime_error((line.file.empty() ? "linha " : line.file + ", linha ") + std::to_string(line.number)
+                         + ": " + what)
 {
 }
 
@@ -212,7 +131,7 @@ Statement Statement::Behind() const
     return inner;
 }
 
-Statement ParseStatement(std::string_view line, int number)
+Statement ParseStatement(std::string_view line, const ScriptLine& number)
 {
     Statement statement;
     statement.line = number;
@@ -228,28 +147,14 @@ Statement ParseStatement(std::string_view line, int number)
     return statement;
 }
 
-Script ParseScript(std::string_view text)
+Script ParseScript(std::string_view text, const SetupReader& setups)
 {
-    Script script;
-    const auto lines = LinesOf(text);
-    for (std::size_t at = 0; at < lines.size();) {
-        Statement statement = ParseStatement(lines[at], static_cast<int>(at) + 1);
-        ++at;
-        if (statement.verb.empty())
-            continue;
-        if (statement.verb == "records") {
-            const std::string name = statement.Word(0);
-            if (script.tables.contains(name))
-                throw ScriptError(statement.line, "a tabela '" + name + "' já existe");
-            script.tables[name] = ParseTable(lines, at, statement);
-        } else {
-            script.statements.push_back(std::move(statement));
-        }
-    }
-    return script;
+    ScriptReader reader(setups);
+    reader.Read(text, "");
+    return reader.Take();
 }
 
-Value ParseValue(const Token& token, int line)
+Value ParseValue(const Token& token, const ScriptLine& line)
 {
     if (token.quoted)
         return token.text;
@@ -266,6 +171,16 @@ Value ParseValue(const Token& token, int line)
     if (const auto read = std::from_chars(begin, end, number); read.ec == std::errc() && read.ptr == end)
         return number;
     throw ScriptError(line, "'" + token.text + "' não é um valor: texto entre aspas, número ou null");
+}
+
+NamedValue ParseNamedValue(const Token& token, const ScriptLine& line)
+{
+    const std::size_t sign = token.quoted ? std::string::npos : token.text.find('=');
+    if (sign == std::string::npos || sign == 0)
+        throw ScriptError(line, "'" + token.text + "' não é MEMBRO=VALOR");
+    const std::string value = token.text.substr(sign + 1);
+    const bool quoted = value.starts_with('"');
+    return {token.text.substr(0, sign), ParseValue({quoted ? value.substr(1) : value, quoted}, line)};
 }
 
 } // namespace kova::scenario

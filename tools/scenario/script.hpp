@@ -3,7 +3,9 @@
 #include "agenda/contracts/value.hpp"
 #include "tools/scenario/scripted_components.hpp"
 
+#include <functional>
 #include <map>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -11,14 +13,19 @@
 
 namespace kova::scenario {
 
-/// The script itself is wrong. The text begins with the line's number.
+/// A line's place: its number, from 1, and the set-up file in which it stands, empty for the script itself.
+struct ScriptLine {
+    ScriptLine(int at = 0, std::string of = {}) : number(at), file(std::move(of)) { }
+    friend bool operator==(const ScriptLine&, const ScriptLine&) = default;
+
+    int number;
+    std::string file;
+};
+
+/// The script itself is wrong. The text begins with the line's place.
 class ScriptError : public std::runtime_error {
 public:
-    ScriptError(int line, const std::string& what);
-    int Line() const { return line_; }
-
-private:
-    int line_;
+    ScriptError(const ScriptLine& line, const std::string& what);
 };
 
 /// One word of a statement: a bare word, or a text that stood in double quotes.
@@ -29,7 +36,7 @@ struct Token {
 
 /// One line of a script, cut into its words. The first word is the verb.
 struct Statement {
-    int line = 0;
+    ScriptLine line;
     std::string verb;
     std::vector<Token> words;
 
@@ -54,15 +61,27 @@ struct Script {
     std::map<std::string, RecordTable> tables;
 };
 
-/// Reads a whole script. Comments and empty lines are dropped, `records` blocks become tables. Throws
-/// ScriptError.
-Script ParseScript(std::string_view text);
+/// Gives the text of a set-up file, such as "shop.setup", or nothing where there is none.
+using SetupReader = std::function<std::optional<std::string>(const std::string& file)>;
+
+/// Reads a whole script. Comments and empty lines are dropped, `records` and `appointments` blocks become
+/// tables, `use NAME` stands for the statements of NAME.setup. Throws ScriptError.
+Script ParseScript(std::string_view text, const SetupReader& setups = {});
 
 /// Cuts one line into words. Throws ScriptError.
-Statement ParseStatement(std::string_view line, int number);
+Statement ParseStatement(std::string_view line, const ScriptLine& place);
 
 /// A value of the language: a text in quotes, null, True, False, a whole number (Long) or one with a
 /// point (Double). Throws ScriptError.
-Value ParseValue(const Token& token, int line);
+Value ParseValue(const Token& token, const ScriptLine& line);
+
+/// What MEMBER=VALUE says.
+struct NamedValue {
+    std::string name;
+    Value value;
+};
+
+/// Throws ScriptError where the word is no MEMBER=VALUE.
+NamedValue ParseNamedValue(const Token& token, const ScriptLine& line);
 
 } // namespace kova::scenario

@@ -248,21 +248,21 @@ std::string Brackets(const std::vector<Long>& indexes)
     return text.empty() ? text : text + ")";
 }
 
-toolkit::FormModel& RequireForm(toolkit::ToolkitModel& toolkit, const Place& place, int line)
+toolkit::FormModel& RequireForm(toolkit::ToolkitModel& toolkit, const Place& place, const ScriptLine& line)
 {
     if (auto* form = toolkit.FindForm(place.form))
         return *form;
     throw ScriptError(line, "o formulário '" + place.form + "' não existe");
 }
 
-Widget& RequireControl(toolkit::FormModel& form, const Place& place, int line)
+Widget& RequireControl(toolkit::FormModel& form, const Place& place, const ScriptLine& line)
 {
     if (auto* widget = form.Find(place.control, place.controlIndex))
         return widget->Face();
     throw ScriptError(line, "o controle '" + place.ControlName() + "' não existe");
 }
 
-std::string ShowMember(Widget& widget, const Place& place, int line)
+std::string ShowMember(Widget& widget, const Place& place, const ScriptLine& line)
 {
     Members members = CommonMembers();
     members.merge(MembersOf(widget.Kind()));
@@ -299,7 +299,7 @@ std::vector<std::string> ShowForm(toolkit::FormModel& form)
 }
 
 /// Takes "(1,2)" off the end of a word.
-std::vector<Long> TakeIndexes(std::string& word, int line)
+std::vector<Long> TakeIndexes(std::string& word, const ScriptLine& line)
 {
     std::vector<Long> indexes;
     const std::size_t open = word.find('(');
@@ -342,7 +342,7 @@ std::string Place::ControlName() const
     return form + "." + control + (controlIndex < 0 ? "" : "(" + std::to_string(controlIndex) + ")");
 }
 
-Place ParsePlace(const std::string& word, int line)
+Place ParsePlace(const std::string& word, const ScriptLine& line)
 {
     std::vector<std::string> parts = SplitAtDots(word);
     Place place;
@@ -366,7 +366,7 @@ Place ParsePlace(const std::string& word, int line)
     return place;
 }
 
-std::vector<std::string> ShowPlace(toolkit::ToolkitModel& toolkit, const Place& place, int line)
+std::vector<std::string> ShowPlace(toolkit::ToolkitModel& toolkit, const Place& place, const ScriptLine& line)
 {
     const Unobserved unobserved(toolkit);
     toolkit::FormModel& form = RequireForm(toolkit, place, line);
@@ -386,7 +386,8 @@ std::vector<std::string> ShowPlace(toolkit::ToolkitModel& toolkit, const Place& 
     return lines;
 }
 
-std::vector<std::string> ShowGridRow(toolkit::ToolkitModel& toolkit, const Place& place, Long row, int line)
+std::vector<std::string> ShowGridRow(toolkit::ToolkitModel& toolkit, const Place& place, Long row,
+                                     const ScriptLine& line)
 {
     const Unobserved unobserved(toolkit);
     Widget& widget = RequireControl(RequireForm(toolkit, place, line), place, line);

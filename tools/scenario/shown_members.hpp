@@ -23,12 +23,14 @@ struct Place {
 };
 
 /// Throws ScriptError where the word is no place.
-Place ParsePlace(const std::string& word, int line);
+Place ParsePlace(const std::string& word, const ScriptLine& line);
 
 /// The lines of a `show` statement. Raises no event, moves no cursor and is not seen by the observer.
 /// Throws ScriptError where form, control or member does not exist or can only be written.
-std::vector<std::string> ShowPlace(toolkit::ToolkitModel& toolkit, const Place& place, int line);
+std::vector<std::string> ShowPlace(toolkit::ToolkitModel& toolkit, const Place& place,
+                                   const ScriptLine& line);
 /// The cells of one row, a line each.
-std::vector<std::string> ShowGridRow(toolkit::ToolkitModel& toolkit, const Place& place, Long row, int line);
+std::vector<std::string> ShowGridRow(toolkit::ToolkitModel& toolkit, const Place& place, Long row,
+                                     const ScriptLine& line);
 
 } // namespace kova::scenario

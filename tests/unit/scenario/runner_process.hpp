@@ -38,6 +38,15 @@ protected:
         return Call(options + " " + file);
     }
 
+    /// Writes a file beside the script, or in a folder of that name below it.
+    void Write(const std::string& name, const std::string& text)
+    {
+        const std::filesystem::path file = std::filesystem::path(folder_) / name;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file) << text;
+    }
+    const std::string& Folder() const { return folder_; }
+
     static Result Call(const std::string& words)
     {
         Result result;

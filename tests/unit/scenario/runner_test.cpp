@@ -42,6 +42,33 @@ TEST_F(TheRunner, EndsWithTwoAndTheLineWhereTheScriptIsWrong)
     }
 }
 
+TEST_F(TheRunner, UsesTheNearestSetUpBesideOrAboveTheScript)
+{
+    Write("shop.setup", shop + "application \"longe\"");
+    Write("names.setup", "application \"perto\"");
+    Write("a/b/names.setup", "application \"ao lado\"");
+    Write("a/b/fim.scenario",
+          "use shop\nuse names\nopen\nchoose frmLista.kvcmbSituacao 0\n"
+          "answer KOVA_N_Agenda.clsAgenda.Selecionar 1\nkey F5\n");
+    const Result result = Call(Folder() + "/a/b/fim.scenario");
+    EXPECT_EQ(result.status, 0) << result.text;
+    EXPECT_NE(result.text.find("Text& \"ao lado\""), std::string::npos) << result.text;
+}
+
+TEST_F(TheRunner, RefusesActsInASetUpByItsFileAndLine)
+{
+    Write("shop.setup", shop + "note \"x\"");
+    const Result noted = Run("use shop\nopen");
+    EXPECT_EQ(noted.status, 2);
+    EXPECT_NE(noted.text.find("shop.setup, linha 9: 'note' não cabe numa preparação"), std::string::npos)
+        << noted.text;
+    Write("shop.setup", "open");
+    EXPECT_NE(Run("use shop").text.find("shop.setup, linha 1: 'open' não cabe numa preparação"),
+              std::string::npos);
+    EXPECT_NE(Run("open\nuse late").text.find("linha 2: a preparação 'late.setup' não está"),
+              std::string::npos);
+}
+
 TEST_F(TheRunner, RefusesWhatItsCommandLineDoesNotKnow)
 {
     EXPECT_EQ(Call("").status, 2);

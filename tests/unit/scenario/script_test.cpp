@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace kova::scenario {
 
 namespace {
@@ -58,6 +60,91 @@ TEST(Script, NamesTheLineOfEveryMistake)
     EXPECT_EQ(ErrorOf("records t A\nx1\nend"),
               "linha 2: 'x1' não é um valor: texto entre aspas, número ou null");
     EXPECT_EQ(ErrorOf("records t A\n1\nend\nrecords t A\nend"), "linha 4: a tabela 't' já existe");
+}
+
+TEST(Script, TellsAppointmentsByTheirDifferences)
+{
+    const Script script =
+        ParseScript("appointments dia\n  1\n  # none\n  2.0, Situacao=3, NomeDoAnimal=\"Mel, a 2a\","
+                    " CodigoDoCliente=null\nend\nopen");
+    const RecordTable& table = script.tables.at("dia");
+    ASSERT_EQ(table.fields.size(), 37U);
+    ASSERT_EQ(table.rows.size(), 2U);
+    const auto cell = [&](std::size_t row, const char* field) {
+        const auto at = std::find(table.fields.begin(), table.fields.end(), field);
+        return table.rows[row].at(static_cast<std::size_t>(at - table.fields.begin()));
+    };
+    EXPECT_EQ(cell(0, "NumeroDeLancamento"), Value(1.0));
+    EXPECT_EQ(cell(0, "Situacao"), Value(Long{1}));
+    EXPECT_EQ(cell(0, "NomeDoAnimal"), Value("Rex"));
+    EXPECT_EQ(cell(1, "NumeroDeLancamento"), Value(2.0));
+    EXPECT_EQ(cell(1, "Situacao"), Value(Long{3}));
+    EXPECT_EQ(cell(1, "NomeDoAnimal"), Value("Mel, a 2a"));
+    EXPECT_EQ(cell(1, "CodigoDoCliente"), Value(Null{}));
+    EXPECT_EQ(cell(1, "HoraFinal"), Value("09:00"));
+}
+
+TEST(Script, NamesTheLineOfEveryMistakeInAppointments)
+{
+    EXPECT_EQ(ErrorOf("appointments dia\n  \"1\"\nend"),
+              "linha 2: a linha deve começar pelo número do agendamento");
+    EXPECT_EQ(ErrorOf("appointments dia\n  Situacao=1\nend"),
+              "linha 2: 'Situacao=1' não é um valor: texto entre aspas, número ou null");
+    EXPECT_EQ(ErrorOf("appointments dia\n  1, Situacao\nend"), "linha 2: 'Situacao' não é MEMBRO=VALOR");
+    EXPECT_EQ(ErrorOf("appointments dia\n  1, Cor=2\nend"), "linha 2: 'Cor' não é um campo de agendamento");
+    EXPECT_EQ(ErrorOf("appointments dia Situacao\n1\nend"), "linha 1: 'appointments' não aceita 'Situacao'");
+    EXPECT_EQ(ErrorOf("appointments dia\n1\n"), "linha 1: falta o 'end' da tabela");
+}
+
+/// Set-ups by name.
+SetupReader Setups(std::map<std::string, std::string> texts)
+{
+    return [texts](const std::string& file) {
+        const auto found = texts.find(file);
+        return found == texts.end() ? std::nullopt : std::optional(found->second);
+    };
+}
+
+std::string ErrorOf(const std::string& text, const SetupReader& setups)
+{
+    try {
+        ParseScript(text, setups);
+    } catch (const ScriptError& error) {
+        return error.what();
+    }
+    return {};
+}
+
+TEST(Script, UsesTheStatementsAndTablesOfASetUpInItsPlace)
+{
+    const Script script = ParseScript("screen 800\nuse shop\nopen",
+                                      Setups({{"shop.setup", "# usual\nuse people\napplication \"Kova\"\n"},
+                                              {"people.setup", "user\nrecords t A\n  1\nend"}}));
+    ASSERT_EQ(script.statements.size(), 4U);
+    EXPECT_EQ(script.statements[1].verb, "user");
+    EXPECT_EQ(script.statements[1].line, ScriptLine(1, "people.setup"));
+    EXPECT_EQ(script.statements[2].verb, "application");
+    EXPECT_EQ(script.statements[3].line, ScriptLine(3));
+    EXPECT_EQ(script.tables.at("t").rows.size(), 1U);
+}
+
+TEST(Script, SaysOtherwiseThanASetUpByATableOfTheSameName)
+{
+    const auto setups = Setups({{"shop.setup", "records t A\n  1\nend"}});
+    EXPECT_EQ(ParseScript("use shop\nrecords t B\nend", setups).tables.at("t").fields,
+              std::vector<std::string>{"B"});
+    EXPECT_EQ(ErrorOf("use shop\nrecords t B\nend\nrecords t B\nend", setups),
+              "linha 4: a tabela 't' já existe");
+}
+
+TEST(Script, NamesTheSetUpOfAMistake)
+{
+    const auto setups = Setups({{"a.setup", "\nnote \"x"}, {"b.setup", "use c"}, {"c.setup", "use b"}});
+    EXPECT_EQ(ErrorOf("use a", setups), "a.setup, linha 2: o texto entre aspas não termina");
+    EXPECT_EQ(ErrorOf("use b", setups), "c.setup, linha 1: a preparação 'b.setup' usa a si mesma");
+    EXPECT_EQ(ErrorOf("\nuse d", setups),
+              "linha 2: a preparação 'd.setup' não está na pasta do roteiro nem nas pastas acima dela");
+    EXPECT_EQ(ErrorOf("use a b", setups), "linha 1: 'use' não aceita 'b'");
 }
 
 TEST(Script, ReadsPlacesWithTheirIndexes)
