@@ -20,6 +20,10 @@ set(accented "${CMAKE_CURRENT_BINARY_DIR}/salão de são joão/ração")
 foreach(part IN ITEMS scenario transcript)
     configure_file(${CMAKE_CURRENT_SOURCE_DIR}/scenarios/opening/first_start.${part} "${accented}.${part}" COPYONLY)
 endforeach()
+foreach(setup IN ITEMS day shop)
+    configure_file(${CMAKE_CURRENT_SOURCE_DIR}/scenarios/${setup}.setup
+                   "${CMAKE_CURRENT_BINARY_DIR}/salão de são joão/${setup}.setup" COPYONLY)
+endforeach()
 add_test(NAME ScenarioInAFolderWithAccents
          COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/check $<TARGET_FILE:agenda-scenario> "${accented}.scenario")
 set_tests_properties(ScenarioInAFolderWithAccents PROPERTIES
