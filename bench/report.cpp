@@ -5,9 +5,9 @@
 #include "agenda/printing/layouts.hpp"
 #include "bench/measure.hpp"
 #include "reports/layout.hpp"
-#include "toolkits/qt/report_metrics.hpp"
-#include "toolkits/qt/report_output.hpp"
-#include "toolkits/qt/report_painter.hpp"
+#include "reports/qt/font_metrics.hpp"
+#include "reports/qt/output.hpp"
+#include "reports/qt/page_painter.hpp"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -65,7 +65,7 @@ RecordSetRef Records(const ReportDesign& design, int count)
 
 reports::Document LayOut(const ReportDesign& design, const RecordSetRef& records)
 {
-    return reports::LayOut({design, records.get(), {{2026, 11, 20}, {10, 15, 0}}}, qt::QtReportMetrics());
+    return reports::LayOut({design, records.get(), {{2026, 11, 20}, {10, 15, 0}}}, paper::FontMetrics());
 }
 
 /// One line of text as the floor draws it: it knows the place beforehand.
@@ -83,10 +83,10 @@ std::vector<BarePage> BareTexts(const reports::Document& document,
     for (const reports::Page& page : document.pages) {
         BarePage& bare = pages.emplace_back();
         for (const reports::Item& item : page.items) {
-            const auto font = fonts.try_emplace({item.font.size, item.font.bold}, qt::ReportFont(item.font));
+            const auto font = fonts.try_emplace({item.font.size, item.font.bold}, paper::PageFont(item.font));
             for (const reports::TextLine& line : item.lines)
                 bare.push_back({QPointF(static_cast<double>(line.left),
-                                        static_cast<double>(line.top) + qt::AscentOf(item.font)),
+                                        static_cast<double>(line.top) + paper::AscentOf(item.font)),
                                 QString::fromStdString(line.text), &font.first->second});
         }
     }
@@ -96,7 +96,7 @@ std::vector<BarePage> BareTexts(const reports::Document& document,
 void DrawBare(const std::vector<BarePage>& pages, const QString& path)
 {
     QPdfWriter writer(path);
-    writer.setResolution(static_cast<int>(qt::TwipsOfInch));
+    writer.setResolution(static_cast<int>(paper::TwipsOfInch));
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF()));
     QPainter painter(&writer);
     bool isFirst = true;
@@ -135,7 +135,7 @@ void Measure(const QString& folder)
     const Comparison times = Alternate(
         Rounds,
         [&] {
-            if (!qt::WritePdf(LayOut(design, records), path).isEmpty())
+            if (!paper::WritePdf(LayOut(design, records), path).isEmpty())
                 throw std::runtime_error("the list could not be written");
         },
         [&] { DrawBare(bare, folder + QStringLiteral("/texto.pdf")); });

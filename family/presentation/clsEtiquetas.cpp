@@ -101,7 +101,7 @@ void clsEtiquetas::OpenLabels()
 bool clsEtiquetas::MayHaveLabel(const std::optional<RegisteredCustomer>& customer)
 {
     const auto refuse = [&](const QString& text) {
-        desk_->Tell(MessageKind::Information, text);
+        desk_->Tell(nullptr, MessageKind::Information, text);
         return false;
     };
     if (!customer || customer->situation == Deleted)

@@ -86,9 +86,10 @@ function check_project(header, allowed,    count, parts, i) {
     }
     if (allowed == "everything")
         return
+    # A folder with walls of its own is not seen by who may see the folder around it.
     count = split(allowed, parts, " ")
     for (i = 1; i <= count; i++)
-        if (index(header, parts[i]) == 1)
+        if (index(header, parts[i]) == 1 && length(parts[i]) > length(rule_of(header)))
             return
     complain(folder "/ may not include \"" header "\"")
 }

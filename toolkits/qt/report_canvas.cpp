@@ -1,6 +1,6 @@
 #include "toolkits/qt/report_canvas.hpp"
 
-#include "toolkits/qt/report_painter.hpp"
+#include "reports/qt/page_painter.hpp"
 #include "toolkits/qt/theme.hpp"
 
 #include <QKeyEvent>
@@ -220,7 +220,7 @@ void ReportCanvas::PaintSheet(QPainter& painter, std::size_t page) const
     painter.translate(place.topLeft());
     painter.scale(PixelsOfTwip(), PixelsOfTwip());
     PaintMarks(painter, page);
-    PaintPage(painter, document_.pages[page]);
+    paper::PaintPage(painter, document_.pages[page]);
     painter.restore();
 }
 

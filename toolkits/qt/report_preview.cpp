@@ -1,20 +1,14 @@
 #include "toolkits/qt/report_preview.hpp"
 
+#include "reports/qt/delivery.hpp"
 #include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/help_window.hpp"
-#include "toolkits/qt/report_name.hpp"
-#include "toolkits/qt/report_output.hpp"
 #include "toolkits/qt/theme.hpp"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPrinter>
-#include <QStandardPaths>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -25,33 +19,11 @@ namespace kova::qt {
 
 namespace {
 
-/// Where the last report was saved; the next one is proposed there.
-QString& LastFolder()
-{
-    static QString folder;
-    return folder;
-}
-
-/// The user's documents; the home folder where there is none for them.
-QString DocumentsFolder()
-{
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QDir(documents).exists() ? documents : QDir::homePath();
-}
-
 /// A card is one record on an upright sheet; its reader looks for the whole of it.
 bool IsCard(const reports::Document& document)
 {
     return document.records == 1 && document.paperHeight > document.paperWidth;
 }
-
-class BusyCursor {
-public:
-    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
-    BusyCursor(const BusyCursor&) = delete;
-    BusyCursor& operator=(const BusyCursor&) = delete;
-};
 
 } // namespace
 
@@ -194,52 +166,24 @@ void ReportPreview::ShowKeys()
     ShowHelpWindow(this, document_.title, keys);
 }
 
-void ReportPreview::Tell(MessageKind kind, const QString& text)
-{
-    desk_.Tell(this, kind, text, windowTitle());
-}
-
 void ReportPreview::PrintPages()
 {
-    if (!desk_.HasPrinter())
-        return Tell(MessageKind::Information,
-                    QStringLiteral("Nenhuma impressora foi encontrada neste computador.\n\n"
-                                   "Instale uma impressora ou use \"Salvar em PDF\"."));
-    QPrinter printer(QPrinter::HighResolution);
-    PrepareForReport(printer, document_);
-    if (!desk_.ChoosePrinting(this, printer, document_.pages.size()))
-        return;
-    QString trouble;
-    {
-        const BusyCursor busy;
-        trouble = Print(printer, document_, canvas_->CurrentPage());
-    }
-    if (!trouble.isEmpty())
-        return Tell(MessageKind::Critical, trouble);
-    status_->setText(QStringLiteral("Enviado para a impressora"));
+    paper::Printing printing;
+    printing.currentPage = canvas_->CurrentPage();
+    printing.printerGone =
+        QStringLiteral("A impressora deixou de responder e a impressão foi interrompida.\n\n"
+                       "Verifique se ela está ligada e conectada, ou salve o documento em PDF.");
+    ShowDelivered(paper::PrintFrom(*this, desk_, document_, printing));
 }
 
-QString ReportPreview::ProposedPath() const
-{
-    const QString folder = LastFolder().isEmpty() ? DocumentsFolder() : LastFolder();
-    return QDir(folder).filePath(FileNameOfReport(windowTitle(), day_));
-}
+void ReportPreview::SavePdf() { ShowDelivered(paper::SaveFrom(*this, desk_, document_, day_)); }
 
-void ReportPreview::SavePdf()
+void ReportPreview::ShowDelivered(const paper::Delivered& delivered)
 {
-    const QString path = desk_.AskPdfPath(this, ProposedPath());
-    if (path.isEmpty())
+    if (delivered.text.isEmpty())
         return;
-    QString trouble;
-    {
-        const BusyCursor busy;
-        trouble = WritePdf(document_, path);
-    }
-    if (!trouble.isEmpty())
-        return Tell(MessageKind::Critical, trouble);
-    LastFolder() = QFileInfo(path).absolutePath();
-    status_->setText(QStringLiteral("Salvo em %1").arg(QFileInfo(path).fileName()));
-    status_->setToolTip(path);
+    status_->setText(delivered.text);
+    status_->setToolTip(delivered.toolTip);
 }
 
 } // namespace kova::qt

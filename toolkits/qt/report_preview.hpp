@@ -13,6 +13,10 @@ class QBoxLayout;
 class QLabel;
 class QLineEdit;
 
+namespace kova::paper {
+struct Delivered;
+}
+
 namespace kova::qt {
 
 class FlatButton;
@@ -68,8 +72,8 @@ private:
     void StepToMatch(int step);
     void Leave();
     void ShowKeys();
-    void Tell(MessageKind kind, const QString& text);
-    QString ProposedPath() const;
+    /// Leaves the line of status as it is where nothing has left the window.
+    void ShowDelivered(const paper::Delivered& delivered);
 
     const reports::Document& document_;
     ReportDesk& desk_;

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "reports/layout.hpp"
+#include "reports/qt/font_metrics.hpp"
 #include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/check_box.hpp"
 #include "toolkits/qt/combo_box.hpp"
@@ -22,8 +23,7 @@
 #include "toolkits/qt/number_box.hpp"
 #include "toolkits/qt/option_button.hpp"
 #include "toolkits/qt/picture_box.hpp"
-#include "toolkits/qt/report_metrics.hpp"
-#include "toolkits/qt/report_name.hpp"
+#include "toolkits/qt/report_day.hpp"
 #include "toolkits/qt/report_preview.hpp"
 #include "toolkits/qt/shape.hpp"
 #include "toolkits/qt/text_box.hpp"
@@ -190,7 +190,8 @@ void QtToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector<toolk
 
 void QtToolkit::RunPreview(const toolkit::ReportModel& report)
 {
-    ShowPreview(report, reports::LayOut({report.Current(), report.Data(), clock_.Now()}, QtReportMetrics()));
+    ShowPreview(report,
+                reports::LayOut({report.Current(), report.Data(), clock_.Now()}, paper::FontMetrics()));
 }
 
 void QtToolkit::ShowPreview(const toolkit::ReportModel& report, const reports::Document& pages)

@@ -1,10 +1,5 @@
 #include "family/presentation/labels/label_desk.hpp"
 
-#include <QFileDialog>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QPrinterInfo>
-
 namespace kova::family {
 
 namespace {
@@ -14,27 +9,7 @@ Text BoxText(QString text) { return text.replace(QLatin1Char('\n'), QLatin1Strin
 
 } // namespace
 
-QString LabelDesk::AskPdfPath(QWidget* over, const QString& proposal)
-{
-    QFileDialog dialog(over, QStringLiteral("Salvar em PDF"), proposal,
-                       QStringLiteral("Documentos PDF (*.pdf)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
-    const bool isChosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-    return isChosen ? dialog.selectedFiles().front() : QString();
-}
-
-bool LabelDesk::HasPrinter() const { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
-
-bool LabelDesk::ChoosePrinter(QWidget* over, QPrinter& printer, int sheets)
-{
-    QPrintDialog dialog(&printer, over);
-    dialog.setWindowTitle(QStringLiteral("Imprimir"));
-    dialog.setMinMax(1, sheets);
-    return dialog.exec() == QDialog::Accepted;
-}
-
-void LabelDesk::Tell(MessageKind kind, const QString& text)
+void LabelDesk::Tell(QWidget*, MessageKind kind, const QString& text)
 {
     toolkit_.MessageBox(kind, BoxText(text), title_);
 }

@@ -1,7 +1,7 @@
 #include "family/presentation/labels/label_picture.hpp"
 
-#include "family/presentation/labels/label_painter.hpp"
 #include "family/presentation/labels/label_sheet.hpp"
+#include "reports/qt/page_painter.hpp"
 
 #include <QPainter>
 
@@ -54,7 +54,7 @@ void LabelPicture::paintEvent(QPaintEvent*)
     painter.setPen(edge);
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(QRectF(QPointF(), label), CornerTwips, CornerTwips);
-    PaintLabels(painter, label_);
+    paper::PaintPage(painter, label_);
 }
 
 } // namespace kova::family

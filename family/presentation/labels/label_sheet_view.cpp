@@ -1,6 +1,6 @@
 #include "family/presentation/labels/label_sheet_view.hpp"
 
-#include "family/presentation/labels/label_painter.hpp"
+#include "reports/qt/page_painter.hpp"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -84,7 +84,7 @@ void LabelSheetView::paintEvent(QPaintEvent*)
         QRectF(0, 0, static_cast<double>(pages_->paperWidth), static_cast<double>(pages_->paperHeight)),
         Qt::white);
     PaintPlaces(painter);
-    PaintLabels(painter, pages_->pages[static_cast<std::size_t>(sheet_)]);
+    paper::PaintPage(painter, pages_->pages[static_cast<std::size_t>(sheet_)]);
     painter.resetTransform();
     if (!hasFocus())
         return;

@@ -229,13 +229,12 @@ void LabelWindow::Refresh()
 {
     run_.copies = copies_->value();
     const std::vector<LabelLine> lines = LinesOf(address_, nickname_->isChecked());
-    job_ = {run_.sheet, LabelPages(run_, lines, metrics_)};
-    job_.pages.title =
-        "Etiqueta de endereço - " + (address_.name.empty() ? address_.nickname : address_.name);
+    pages_ = LabelPages(run_, lines, metrics_);
+    pages_.title = "Etiqueta de endereço - " + (address_.name.empty() ? address_.nickname : address_.name);
     const reports::Box place = BoxOfLabel(*run_.sheet, 0);
     const reports::Box label{0, 0, place.width, place.height};
     picture_->Show({FitLabel(lines, label, metrics_)}, label);
-    view_->Show(run_, job_.pages);
+    view_->Show(run_, pages_);
     summary_->setText(Summary());
     status_->clear();
     ShowSheet(0);
@@ -244,7 +243,7 @@ void LabelWindow::Refresh()
 void LabelWindow::ShowSheet(int sheet)
 {
     view_->ShowSheet(sheet);
-    const auto sheets = static_cast<int>(job_.pages.pages.size());
+    const auto sheets = static_cast<int>(pages_.pages.size());
     sheetNumber_->setText(QStringLiteral("Folha %1 de %2").arg(view_->Sheet() + 1).arg(sheets));
     before_->setEnabled(view_->Sheet() > 0);
     after_->setEnabled(view_->Sheet() + 1 < sheets);
@@ -254,13 +253,28 @@ QString LabelWindow::Summary() const
 {
     const LabelPlace last = PlaceOfCopy(*run_.sheet, run_.first, run_.copies - 1);
     const int free = run_.sheet->Labels() - last.position - 1;
-    const auto sheets = job_.pages.pages.size();
+    const auto sheets = pages_.pages.size();
     const QString used = sheets == 1 ? QStringLiteral("1 folha") : QStringLiteral("%1 folhas").arg(sheets);
     if (free == 0)
         return used + QStringLiteral("; nenhuma etiqueta sobra na última");
     return used
         + (free == 1 ? QStringLiteral("; sobra 1 etiqueta na última")
                      : QStringLiteral("; sobram %1 etiquetas na última").arg(free));
+}
+
+void LabelWindow::Print()
+{
+    ShowDelivered(paper::PrintFrom(*this, desk_, pages_, LabelPrinting(*run_.sheet)));
+}
+
+void LabelWindow::SavePdf() { ShowDelivered(paper::SaveFrom(*this, desk_, pages_, day_)); }
+
+void LabelWindow::ShowDelivered(const paper::Delivered& delivered)
+{
+    if (delivered.text.isEmpty())
+        return;
+    status_->setText(delivered.text);
+    status_->setToolTip(delivered.toolTip);
 }
 
 } // namespace kova::family

@@ -4,7 +4,8 @@
 #include "family/presentation/labels/label_keys.hpp"
 #include "family/presentation/labels/label_output.hpp"
 #include "family/presentation/labels/label_pages.hpp"
-#include "family/presentation/labels/label_painter.hpp"
+#include "reports/qt/delivery.hpp"
+#include "reports/qt/font_metrics.hpp"
 
 #include <QDialog>
 
@@ -39,7 +40,9 @@ public:
                 QWidget* parent = nullptr);
 
     LabelChoice Choice() const;
-    const LabelJob& Job() const { return job_; }
+    const LabelSheet& Sheet() const { return *run_.sheet; }
+    /// What would be printed now.
+    const reports::Document& Pages() const { return pages_; }
 
 private:
     QLayout* MakeFields(const LabelChoice& choice);
@@ -60,14 +63,15 @@ private:
     std::vector<WindowKey> Keys() const;
     void Print();
     void SavePdf();
-    QString ProposedPath() const;
+    /// Leaves the line of status as it is where nothing has left the window.
+    void ShowDelivered(const paper::Delivered& delivered);
 
     PostalAddress address_;
     LabelDesk& desk_;
     const Date day_;
-    LabelMetrics metrics_;
+    paper::FontMetrics metrics_;
     LabelRun run_;
-    LabelJob job_;
+    reports::Document pages_;
     QComboBox* sheets_ = nullptr;
     QSpinBox* row_ = nullptr;
     QSpinBox* column_ = nullptr;

@@ -112,7 +112,7 @@ protected:
 std::string TextOn(const LabelWindow& window)
 {
     std::string text;
-    for (const reports::Item& item : window.Job().pages.pages.front().items)
+    for (const reports::Item& item : window.Pages().pages.front().items)
         text += item.text + "\n";
     return text;
 }

@@ -3,7 +3,7 @@
 #include "family/presentation/labels/label_desk.hpp"
 #include "family/presentation/labels/label_output.hpp"
 #include "family/presentation/labels/label_pages.hpp"
-#include "family/presentation/labels/label_painter.hpp"
+#include "reports/qt/font_metrics.hpp"
 #include "tests/support/pdf_text.hpp"
 #include "tests/support/qt_application.hpp"
 #include "toolkits/headless/toolkit.hpp"
@@ -36,7 +36,7 @@ public:
         return path;
     }
     bool HasPrinter() const override { return hasPrinter; }
-    bool ChoosePrinter(QWidget*, QPrinter& printer, int) override
+    bool ChoosePrinter(QWidget*, QPrinter& printer, std::size_t, bool) override
     {
         ++asked;
         printer.setOutputFormat(QPrinter::PdfFormat);
@@ -65,12 +65,12 @@ protected:
                 .postalCode = "00456789"};
     }
 
-    static LabelJob JobOf(const char* key, int first, int copies)
+    static reports::Document PagesOf(const char* key, int first, int copies)
     {
-        const LabelSheet& sheet = LabelSheetOf(key);
-        LabelJob job{&sheet, LabelPages({&sheet, first, copies}, LinesOf(Jose(), false), LabelMetrics())};
-        job.pages.title = "Etiqueta de endereço - José";
-        return job;
+        reports::Document pages =
+            LabelPages({&LabelSheetOf(key), first, copies}, LinesOf(Jose(), false), paper::FontMetrics());
+        pages.title = "Etiqueta de endereço - José";
+        return pages;
     }
 
     QString File(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }

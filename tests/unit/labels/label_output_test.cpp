@@ -28,14 +28,14 @@ protected:
 
 TEST_F(LabelOutput, HoldsTheAddressInReadingOrder)
 {
-    ASSERT_EQ(WriteLabelPdf(JobOf("A4-2x7", 3, 1), File("e.pdf")).toStdString(), "");
+    ASSERT_EQ(paper::WritePdf(PagesOf("A4-2x7", 3, 1), File("e.pdf")).toStdString(), "");
     EXPECT_EQ(TextOf(File("e.pdf")), LabelText);
 }
 
 TEST_F(LabelOutput, HasTheSheetsSizeTitleAndFonts)
 {
-    ASSERT_EQ(WriteLabelPdf(JobOf("A4-2x7", 0, 1), File("a4.pdf")).toStdString(), "");
-    ASSERT_EQ(WriteLabelPdf(JobOf("carta-3x10", 0, 1), File("carta.pdf")).toStdString(), "");
+    ASSERT_EQ(paper::WritePdf(PagesOf("A4-2x7", 0, 1), File("a4.pdf")).toStdString(), "");
+    ASSERT_EQ(paper::WritePdf(PagesOf("carta-3x10", 0, 1), File("carta.pdf")).toStdString(), "");
     const QString facts = kova::test::OutputOf(QStringLiteral("pdfinfo"), {File("a4.pdf")}).simplified();
     EXPECT_TRUE(facts.contains(QStringLiteral("Title: Etiqueta de endereço - José"))) << facts.toStdString();
     EXPECT_TRUE(facts.contains(QStringLiteral("Page size: 595 x 842 pts (A4)"))) << facts.toStdString();
@@ -55,7 +55,7 @@ TEST_F(LabelOutput, HasTheSheetsSizeTitleAndFonts)
 
 TEST_F(LabelOutput, PutsTheCopiesExactlyALabelApart)
 {
-    ASSERT_EQ(WriteLabelPdf(JobOf("carta-3x10", 28, 32), File("e.pdf")).toStdString(), "");
+    ASSERT_EQ(paper::WritePdf(PagesOf("carta-3x10", 28, 32), File("e.pdf")).toStdString(), "");
     const std::vector<QPointF> places = PlacesOf(QStringLiteral("Peçanha"), File("e.pdf"));
     ASSERT_EQ(places.size(), 32U);
     // The second sheet begins with the third copy; its labels are read row by row or column by column.
@@ -73,30 +73,30 @@ TEST_F(LabelOutput, PutsTheCopiesExactlyALabelApart)
 
 TEST_F(LabelOutput, GoesOnOnTheNextSheets)
 {
-    ASSERT_EQ(WriteLabelPdf(JobOf("A4-2x7", 13, 2), File("e.pdf")).toStdString(), "");
+    ASSERT_EQ(paper::WritePdf(PagesOf("A4-2x7", 13, 2), File("e.pdf")).toStdString(), "");
     EXPECT_EQ(TextOf(File("e.pdf")), std::string(LabelText) + " | " + LabelText);
 }
 
 TEST_F(LabelOutput, TellsInPortugueseWhyAFileCannotBeWritten)
 {
-    const LabelJob job = JobOf("A4-2x7", 0, 1);
-    EXPECT_EQ(WriteLabelPdf(job, File("nada/e.pdf")).toStdString(),
+    const reports::Document pages = PagesOf("A4-2x7", 0, 1);
+    EXPECT_EQ(paper::WritePdf(pages, File("nada/e.pdf")).toStdString(),
               "Não foi possível salvar o arquivo \"" + File("nada/e.pdf").toStdString()
                   + "\".\nA pasta não existe.\n\nEscolha outra pasta ou outro nome e salve novamente.");
-    EXPECT_TRUE(WriteLabelPdf(job, folder_.path()).contains(QStringLiteral("não permite gravação")));
-    EXPECT_TRUE(
-        WriteLabelPdf(job, QStringLiteral("/proc/e.pdf")).contains(QStringLiteral("não permite gravação")));
+    EXPECT_TRUE(paper::WritePdf(pages, folder_.path()).contains(QStringLiteral("não permite gravação")));
+    EXPECT_TRUE(paper::WritePdf(pages, QStringLiteral("/proc/e.pdf"))
+                    .contains(QStringLiteral("não permite gravação")));
 }
 
 TEST_F(LabelOutput, GoesToThePrinterAsItGoesIntoThePdf)
 {
-    const LabelJob job = JobOf("A4-2x7", 13, 2);
+    const reports::Document pages = PagesOf("A4-2x7", 13, 2);
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(File("papel.pdf"));
-    PrepareForLabels(printer, job);
-    ASSERT_EQ(PrintLabels(printer, job).toStdString(), "");
-    ASSERT_EQ(WriteLabelPdf(job, File("e.pdf")).toStdString(), "");
+    paper::Prepare(printer, pages);
+    ASSERT_EQ(paper::Print(printer, pages, LabelPrinting(LabelSheetOf("A4-2x7"))).toStdString(), "");
+    ASSERT_EQ(paper::WritePdf(pages, File("e.pdf")).toStdString(), "");
     EXPECT_EQ(TextOf(File("papel.pdf")), TextOf(File("e.pdf")));
     const auto printed = PlacesOf(QStringLiteral("Peçanha"), File("papel.pdf"));
     const auto saved = PlacesOf(QStringLiteral("Peçanha"), File("e.pdf"));
@@ -109,14 +109,14 @@ TEST_F(LabelOutput, GoesToThePrinterAsItGoesIntoThePdf)
 
 TEST_F(LabelOutput, PrintsTheSheetsThatWereAskedFor)
 {
-    const LabelJob job = JobOf("A4-2x7", 0, 30);
+    const reports::Document pages = PagesOf("A4-2x7", 0, 30);
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(File("papel.pdf"));
-    PrepareForLabels(printer, job);
+    paper::Prepare(printer, pages);
     printer.setPrintRange(QPrinter::PageRange);
     printer.setFromTo(3, 9);
-    ASSERT_EQ(PrintLabels(printer, job).toStdString(), "");
+    ASSERT_EQ(paper::Print(printer, pages, LabelPrinting(LabelSheetOf("A4-2x7"))).toStdString(), "");
     EXPECT_EQ(TextOf(File("papel.pdf")), std::string(LabelText) + " " + LabelText);
 }
 
@@ -136,24 +136,25 @@ private:
 
 TEST_F(LabelOutput, TellsOfAPrinterThatVanishesInTheMiddleOfTheJob)
 {
-    const LabelJob job = JobOf("A4-2x7", 0, 40);
+    const reports::Document pages = PagesOf("A4-2x7", 0, 40);
     VanishingPrinter whole(File("papel.pdf"), 2);
-    PrepareForLabels(whole, job);
-    EXPECT_EQ(PrintLabels(whole, job).toStdString(), "");
+    paper::Prepare(whole, pages);
+    EXPECT_EQ(paper::Print(whole, pages, LabelPrinting(LabelSheetOf("A4-2x7"))).toStdString(), "");
     VanishingPrinter printer(File("meio.pdf"), 1);
-    PrepareForLabels(printer, job);
-    EXPECT_TRUE(PrintLabels(printer, job).startsWith(QStringLiteral("A impressora deixou de responder")));
+    paper::Prepare(printer, pages);
+    EXPECT_TRUE(paper::Print(printer, pages, LabelPrinting(LabelSheetOf("A4-2x7")))
+                    .startsWith(QStringLiteral("A impressora deixou de responder")));
 }
 
 TEST_F(LabelOutput, RefusesAPaperThatIsNotTheSheets)
 {
-    const LabelJob job = JobOf("A4-2x7", 0, 1);
+    const reports::Document pages = PagesOf("A4-2x7", 0, 1);
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(File("papel.pdf"));
-    PrepareForLabels(printer, job);
+    paper::Prepare(printer, pages);
     printer.setPageSize(QPageSize(QPageSize::Letter));
-    const QString trouble = PrintLabels(printer, job);
+    const QString trouble = paper::Print(printer, pages, LabelPrinting(LabelSheetOf("A4-2x7")));
     EXPECT_TRUE(trouble.contains(QStringLiteral("Escolha o papel A4"))) << trouble.toStdString();
     EXPECT_FALSE(QFile::exists(File("papel.pdf")));
 }

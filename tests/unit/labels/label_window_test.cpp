@@ -76,7 +76,7 @@ protected:
     std::vector<std::size_t> LabelsOnSheets() const
     {
         std::vector<std::size_t> labels;
-        for (const reports::Page& page : window_.Job().pages.pages)
+        for (const reports::Page& page : window_.Pages().pages)
             labels.push_back(page.items.size() / LinesOf(Jose(), false).size());
         return labels;
     }
@@ -266,7 +266,7 @@ TEST_F(LabelWindowTest, BeginsAnotherSheetAtItsFirstLabel)
     The<QComboBox>("folha").setCurrentIndex(The<QComboBox>("folha").findData(QStringLiteral("carta-2x5")));
     EXPECT_EQ(First(), "1,1");
     EXPECT_EQ(The<QSpinBox>("linha").maximum(), 5);
-    EXPECT_STREQ(window_.Job().sheet->key, "carta-2x5");
+    EXPECT_STREQ(window_.Sheet().key, "carta-2x5");
 }
 
 TEST_F(LabelWindowTest, RemembersWhatWasChosen)

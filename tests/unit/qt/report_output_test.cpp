@@ -1,9 +1,9 @@
 // Reports as files and on printers.
 
+#include "reports/qt/output.hpp"
+#include "reports/qt/page_painter.hpp"
 #include "tests/unit/qt/expected_warning.hpp"
 #include "tests/unit/qt/report_samples.hpp"
-#include "toolkits/qt/report_output.hpp"
-#include "toolkits/qt/report_painter.hpp"
 
 #include <gtest/gtest.h>
 
@@ -19,6 +19,8 @@
 
 namespace kova::qt::test {
 namespace {
+
+using namespace paper;
 
 /// No file can grow beyond that many bytes.
 class FullDisk {
@@ -55,6 +57,9 @@ public:
 private:
     int pages_;
 };
+
+/// A printing from a window that shows that page (from 0).
+Printing From(std::size_t page) { return {page, QStringLiteral("A impressora parou."), QString()}; }
 
 class ReportOutput : public ::testing::Test {
 protected:
@@ -194,10 +199,10 @@ TEST_F(ReportOutput, PrintsThePagesThatWereAskedFor)
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(File("papel.pdf"));
-        PrepareForReport(printer, document);
+        Prepare(printer, document);
         printer.setPrintRange(each.range);
         printer.setFromTo(each.from, each.to);
-        ASSERT_EQ(Print(printer, document, 1).toStdString(), "");
+        ASSERT_EQ(Print(printer, document, From(1)).toStdString(), "");
         QStringList printed;
         for (const QString& page : TextOf(File("papel.pdf"))) {
             static const QRegularExpression number(QStringLiteral("Página: (\\d+) de"));
@@ -214,9 +219,9 @@ TEST_F(ReportOutput, ScalesAPageDownToASmallerSheet)
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(File("a5.pdf"));
-    PrepareForReport(printer, document);
+    Prepare(printer, document);
     printer.setPageSize(QPageSize(QPageSize::A5));
-    ASSERT_EQ(Print(printer, document, 0).toStdString(), "");
+    ASSERT_EQ(Print(printer, document, From(0)).toStdString(), "");
     const QString facts = Run(QStringLiteral("pdfinfo"), {File("a5.pdf")}).simplified();
     EXPECT_TRUE(facts.contains(QStringLiteral("Page size: 595 x 420 pts (A5)"))) << facts.toStdString();
     EXPECT_EQ(TextOf(File("a5.pdf")), TextOf(File("a4.pdf")));
@@ -228,8 +233,8 @@ TEST_F(ReportOutput, TellsOfAPrinterThatDoesNotTakeTheJob)
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(File("nada/papel.pdf"));
-    EXPECT_TRUE(Print(printer, LaidOut(NumberedList(1)), 0)
-                    .startsWith(QStringLiteral("A impressora deixou de responder")));
+    EXPECT_TRUE(
+        Print(printer, LaidOut(NumberedList(1)), From(0)).startsWith(QStringLiteral("A impressora parou.")));
 }
 
 TEST_F(ReportOutput, TellsOfAPrinterThatVanishesInTheMiddleOfTheJob)
@@ -237,11 +242,11 @@ TEST_F(ReportOutput, TellsOfAPrinterThatVanishesInTheMiddleOfTheJob)
     const auto document = LaidOut(NumberedList(30));
     ASSERT_EQ(document.pages.size(), 5u);
     VanishingPrinter whole(File("papel.pdf"), 4);
-    PrepareForReport(whole, document);
-    EXPECT_EQ(Print(whole, document, 0).toStdString(), "");
+    Prepare(whole, document);
+    EXPECT_EQ(Print(whole, document, From(0)).toStdString(), "");
     VanishingPrinter printer(File("meio.pdf"), 2);
-    PrepareForReport(printer, document);
-    EXPECT_TRUE(Print(printer, document, 0).startsWith(QStringLiteral("A impressora deixou de responder")));
+    Prepare(printer, document);
+    EXPECT_TRUE(Print(printer, document, From(0)).startsWith(QStringLiteral("A impressora parou.")));
 }
 
 TEST_F(ReportOutput, TellsOfAPrintFileThatCouldNotBeWrittenToItsEnd)
@@ -250,9 +255,9 @@ TEST_F(ReportOutput, TellsOfAPrintFileThatCouldNotBeWrittenToItsEnd)
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(File("papel.pdf"));
-    PrepareForReport(printer, document);
+    Prepare(printer, document);
     const FullDisk full(2000);
-    EXPECT_TRUE(Print(printer, document, 0).startsWith(QStringLiteral("A impressora deixou de responder")));
+    EXPECT_TRUE(Print(printer, document, From(0)).startsWith(QStringLiteral("A impressora parou.")));
 }
 
 TEST_F(ReportOutput, DrawsInkWhereTheLayoutPutsIt)

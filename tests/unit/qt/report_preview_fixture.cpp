@@ -15,7 +15,7 @@ QString ScriptedDesk::AskPdfPath(QWidget*, const QString& proposed)
     return path;
 }
 
-bool ScriptedDesk::ChoosePrinting(QWidget*, QPrinter& printer, std::size_t)
+bool ScriptedDesk::ChoosePrinter(QWidget*, QPrinter& printer, std::size_t, bool)
 {
     ++asked;
     printer.setOutputFormat(QPrinter::PdfFormat);
@@ -23,10 +23,7 @@ bool ScriptedDesk::ChoosePrinting(QWidget*, QPrinter& printer, std::size_t)
     return !printTo.isEmpty();
 }
 
-void ScriptedDesk::Tell(QWidget*, MessageKind, const QString& text, const QString&)
-{
-    told += text.toStdString();
-}
+void ScriptedDesk::Tell(QWidget*, MessageKind, const QString& text) { told += text.toStdString(); }
 
 Preview::Preview()
 {

@@ -24,8 +24,8 @@ public:
 
     QString AskPdfPath(QWidget* over, const QString& proposed) override;
     bool HasPrinter() const override { return hasPrinter; }
-    bool ChoosePrinting(QWidget* over, QPrinter& printer, std::size_t pages) override;
-    void Tell(QWidget* over, MessageKind kind, const QString& text, const QString& title) override;
+    bool ChoosePrinter(QWidget* over, QPrinter& printer, std::size_t pages, bool hasCurrentPage) override;
+    void Tell(QWidget* over, MessageKind kind, const QString& text) override;
 };
 
 /// The preview of a list of 30 appointments.

@@ -2,7 +2,7 @@
 
 #include "agenda/contracts/record_set.hpp"
 #include "reports/layout.hpp"
-#include "toolkits/qt/report_metrics.hpp"
+#include "reports/qt/font_metrics.hpp"
 
 #include <algorithm>
 #include <map>
@@ -133,7 +133,7 @@ Sample FilledReport(const ReportDesign& layout, Filling filling, int records)
 reports::Document LaidOut(const Sample& sample)
 {
     return reports::LayOut({sample.design, sample.records.get(), {{2026, 11, 20}, {10, 15, 0}}},
-                           QtReportMetrics());
+                           paper::FontMetrics());
 }
 
 Sample NumberedList(int appointments)

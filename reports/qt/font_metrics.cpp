@@ -1,4 +1,4 @@
-#include "toolkits/qt/report_metrics.hpp"
+#include "reports/qt/font_metrics.hpp"
 
 #include "agenda/contracts/utf8.hpp"
 
@@ -11,7 +11,7 @@
 #include <map>
 #include <utility>
 
-namespace kova::qt {
+namespace kova::paper {
 
 namespace {
 
@@ -62,13 +62,13 @@ double ShapedWidth(std::string_view text, const Kept& kept)
 
 } // namespace
 
-QFont ReportFont(const reports::TextFont& font) { return KeptOf(font).font; }
+QFont PageFont(const reports::TextFont& font) { return KeptOf(font).font; }
 
 double FontScale(const reports::TextFont& font) { return KeptOf(font).scale; }
 
 double AscentOf(const reports::TextFont& font) { return KeptOf(font).metrics.ascent() * KeptOf(font).scale; }
 
-Twips QtReportMetrics::Width(std::string_view text, const reports::TextFont& font) const
+Twips FontMetrics::Width(std::string_view text, const reports::TextFont& font) const
 {
     const Kept& kept = KeptOf(font);
     double width = 0;
@@ -83,14 +83,14 @@ Twips QtReportMetrics::Width(std::string_view text, const reports::TextFont& fon
     return static_cast<Twips>(width * kept.scale);
 }
 
-Twips QtReportMetrics::InkHeight(const reports::TextFont& font) const
+Twips FontMetrics::InkHeight(const reports::TextFont& font) const
 {
     return static_cast<Twips>(KeptOf(font).metrics.height() * KeptOf(font).scale);
 }
 
-Twips QtReportMetrics::LineHeight(const reports::TextFont& font) const
+Twips FontMetrics::LineHeight(const reports::TextFont& font) const
 {
     return static_cast<Twips>(KeptOf(font).metrics.lineSpacing() * KeptOf(font).scale);
 }
 
-} // namespace kova::qt
+} // namespace kova::paper

@@ -1,7 +1,6 @@
-#include "toolkits/qt/report_output.hpp"
+#include "reports/qt/output.hpp"
 
-#include "toolkits/qt/report_painter.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "reports/qt/page_painter.hpp"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -12,17 +11,34 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <cmath>
 
-namespace kova::qt {
+namespace kova::paper {
 
 namespace {
 
+constexpr double TwipsOfPoint = 20.0;
+/// Papers of the same name differ by less, in millimetres.
+constexpr double PaperTolerance = 1.0;
+
+/// The usual paper of the document's size, without margins: its texts keep their own distance from the edge.
 QPageLayout PaperOf(const reports::Document& document)
 {
-    const bool isLandscape = document.paperWidth > document.paperHeight;
+    const QSizeF size(static_cast<double>(document.paperWidth) / TwipsOfPoint,
+                      static_cast<double>(document.paperHeight) / TwipsOfPoint);
+    const bool isLandscape = size.width() > size.height();
+    const QPageSize paper(isLandscape ? size.transposed() : size, QPageSize::Point, QString(),
+                          QPageSize::FuzzyMatch);
     constexpr QMarginsF none;
-    return QPageLayout(QPageSize(QPageSize::A4), isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-                       none);
+    return QPageLayout(paper, isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait, none);
+}
+
+bool HasPaperOf(const QPrinter& printer, const reports::Document& document)
+{
+    const QSizeF chosen = printer.paperRect(QPrinter::Millimeter).size();
+    const QSizeF needed = PaperOf(document).fullRect(QPageLayout::Millimeter).size();
+    return std::abs(chosen.width() - needed.width()) < PaperTolerance
+        && std::abs(chosen.height() - needed.height()) < PaperTolerance;
 }
 
 QString NotWritten(const QString& path, const QString& cause)
@@ -45,10 +61,10 @@ struct Range {
     std::size_t last = 0;
 };
 
-Range RangeOf(const QPrinter& printer, std::size_t pages, std::size_t currentPage)
+Range RangeOf(const QPrinter& printer, std::size_t pages, std::optional<std::size_t> currentPage)
 {
-    if (printer.printRange() == QPrinter::CurrentPage)
-        return {currentPage, currentPage};
+    if (printer.printRange() == QPrinter::CurrentPage && currentPage)
+        return {*currentPage, *currentPage};
     if (printer.printRange() != QPrinter::PageRange || printer.fromPage() < 1)
         return {0, pages - 1};
     const auto from = static_cast<std::size_t>(printer.fromPage());
@@ -56,18 +72,15 @@ Range RangeOf(const QPrinter& printer, std::size_t pages, std::size_t currentPag
     return {std::min(from, pages) - 1, std::min(to, pages) - 1};
 }
 
-double ScaleOf(const QPrinter& printer, const reports::Document& document)
+/// From twips to the printer's dots; smaller where the sheet is, unless pages keep their size.
+double ScaleOf(const QPrinter& printer, const reports::Document& document, bool keepsSize)
 {
+    const double own = printer.resolution() / TwipsOfInch;
+    if (keepsSize)
+        return own;
     const QRectF sheet = printer.paperRect(QPrinter::DevicePixel);
-    return std::min({printer.resolution() / TwipsOfInch,
-                     sheet.width() / static_cast<double>(document.paperWidth),
+    return std::min({own, sheet.width() / static_cast<double>(document.paperWidth),
                      sheet.height() / static_cast<double>(document.paperHeight)});
-}
-
-QString PrinterGone()
-{
-    return QStringLiteral("A impressora deixou de responder e a impressão foi interrompida.\n\n"
-                          "Verifique se ela está ligada e conectada, ou salve o documento em PDF.");
 }
 
 bool HasFailed(const QPrinter& printer)
@@ -84,7 +97,7 @@ QString WritePdf(const reports::Document& document, const QString& path)
         return NotWritten(path, WhyClosed(path));
     QPdfWriter writer(&file);
     writer.setResolution(static_cast<int>(TwipsOfInch));
-    writer.setTitle(FromText(document.title));
+    writer.setTitle(QString::fromStdString(document.title));
     writer.setCreator(QCoreApplication::applicationName());
     writer.setPageLayout(PaperOf(document));
     QPainter painter;
@@ -100,31 +113,34 @@ QString WritePdf(const reports::Document& document, const QString& path)
     return NotWritten(path, QStringLiteral("Não há espaço no disco ou o disco não responde."));
 }
 
-void PrepareForReport(QPrinter& printer, const reports::Document& document)
+void Prepare(QPrinter& printer, const reports::Document& document)
 {
     printer.setPageLayout(PaperOf(document));
     printer.setFullPage(true);
-    printer.setDocName(FromText(document.title));
+    printer.setDocName(QString::fromStdString(document.title));
     printer.setCreator(QCoreApplication::applicationName());
 }
 
-QString Print(QPrinter& printer, const reports::Document& document, std::size_t currentPage)
+QString Print(QPrinter& printer, const reports::Document& document, const Printing& printing)
 {
-    const Range range = RangeOf(printer, document.pages.size(), currentPage);
+    const bool keepsSize = !printing.otherPaper.isEmpty();
+    if (keepsSize && !HasPaperOf(printer, document))
+        return printing.otherPaper;
+    const Range range = RangeOf(printer, document.pages.size(), printing.currentPage);
     printer.setFullPage(true);
     QPainter painter;
     if (!painter.begin(&printer))
-        return PrinterGone();
-    const double scale = ScaleOf(printer, document);
+        return printing.printerGone;
+    const double scale = ScaleOf(printer, document, keepsSize);
     painter.scale(scale, scale);
     for (std::size_t page = range.first; page <= range.last; ++page) {
         if (page > range.first && !printer.newPage())
-            return PrinterGone();
+            return printing.printerGone;
         PaintPage(painter, document.pages[page]);
         if (HasFailed(printer))
-            return PrinterGone();
+            return printing.printerGone;
     }
-    return painter.end() && !HasFailed(printer) ? QString() : PrinterGone();
+    return painter.end() && !HasFailed(printer) ? QString() : printing.printerGone;
 }
 
-} // namespace kova::qt
+} // namespace kova::paper

@@ -1,35 +1,41 @@
-#include "toolkits/qt/report_painter.hpp"
+#include "reports/qt/page_painter.hpp"
 
-#include "toolkits/qt/report_metrics.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "reports/qt/font_metrics.hpp"
 
 #include <QPainter>
 
 #include <cmath>
 
-namespace kova::qt {
+namespace kova::paper {
 
 namespace {
+
+/// Colours of the screen's own, which are negative, are black on paper.
+QColor ColorOf(const reports::Item& item)
+{
+    const Colour color = item.color;
+    return color < 0 ? QColor(Qt::black) : QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+}
 
 void PaintLine(QPainter& painter, const reports::Item& item, const reports::TextLine& line)
 {
     const QPointF begin(static_cast<double>(line.left), static_cast<double>(line.top) + AscentOf(item.font));
     const double scale = FontScale(item.font);
     if (scale == 1) {
-        painter.drawText(begin, FromText(line.text));
+        painter.drawText(begin, QString::fromStdString(line.text));
         return;
     }
     painter.save();
     painter.translate(begin);
     painter.scale(scale, scale);
-    painter.drawText(QPointF(), FromText(line.text));
+    painter.drawText(QPointF(), QString::fromStdString(line.text));
     painter.restore();
 }
 
 void PaintText(QPainter& painter, const reports::Item& item)
 {
-    painter.setFont(ReportFont(item.font));
-    painter.setPen(ToColor(item.color, Qt::black));
+    painter.setFont(PageFont(item.font));
+    painter.setPen(ColorOf(item));
     for (const reports::TextLine& line : item.lines) {
         if (!line.text.empty())
             PaintLine(painter, item, line);
@@ -48,7 +54,7 @@ void PaintPage(QPainter& painter, const reports::Page& page)
         for (const reports::Box& ink : reports::InkOf(item))
             painter.fillRect(QRectF(static_cast<double>(ink.left), static_cast<double>(ink.top),
                                     static_cast<double>(ink.width), static_cast<double>(ink.height)),
-                             ToColor(item.color, Qt::black));
+                             ColorOf(item));
     }
 }
 
@@ -66,4 +72,4 @@ QImage PictureOf(const reports::Document& document, std::size_t page, double dot
     return picture;
 }
 
-} // namespace kova::qt
+} // namespace kova::paper

@@ -1,6 +1,8 @@
-#include "toolkits/qt/report_name.hpp"
+// The day that a report is about, and the name of its file.
 
 #include "agenda/contracts/record_set.hpp"
+#include "reports/qt/delivery.hpp"
+#include "toolkits/qt/report_day.hpp"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +14,7 @@ constexpr Date Today{2026, 3, 18};
 
 std::string NameOf(const char* title)
 {
-    return FileNameOfReport(QString::fromUtf8(title), Date{2026, 11, 3}).toStdString();
+    return paper::FileNameOf(QString::fromUtf8(title), Date{2026, 11, 3}).toStdString();
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "toolkits/qt/report_name.hpp"
+#include "toolkits/qt/report_day.hpp"
 
 #include "agenda/contracts/failure.hpp"
 
@@ -37,19 +37,6 @@ Date DayOfReport(RecordSet* records, Date today)
         // What cannot be read is told when it is laid out.
     }
     return today;
-}
-
-QString FileNameOfReport(const QString& title, Date day)
-{
-    QString name;
-    for (const QChar character : title)
-        name += QStringLiteral("/\\:*?\"<>|").contains(character) ? QChar(u' ') : character;
-    name = name.simplified();
-    return QStringLiteral("%1 %2-%3-%4.pdf")
-        .arg(name.isEmpty() ? QStringLiteral("Relatório") : name)
-        .arg(day.year, 4, 10, QLatin1Char('0'))
-        .arg(day.month, 2, 10, QLatin1Char('0'))
-        .arg(day.day, 2, 10, QLatin1Char('0'));
 }
 
 } // namespace kova::qt
