@@ -38,6 +38,10 @@ EditView::EditView(QtToolkit& toolkit, toolkit::EditCore& model, QWidget* parent
         Remember();
         Paste(text);
     };
+    editor_->typeText = [this](const QString& text) {
+        Remember();
+        TypeAll(text);
+    };
     editor_->eraseSelection = [this] {
         Remember();
         GetModel().UserErases();

@@ -135,9 +135,10 @@ void LineEdit::contextMenuEvent(QContextMenuEvent* event)
 
 void LineEdit::inputMethodEvent(QInputMethodEvent* event)
 {
-    // Composed characters ("ç" by dead keys) come here and not as keys.
-    if (pasteText && !event->commitString().isEmpty()) {
-        pasteText(event->commitString());
+    // They come here and not as keys.
+    if (typeText && !event->commitString().isEmpty()) {
+        if (!isReadOnly())
+            typeText(event->commitString());
         event->accept();
         return;
     }

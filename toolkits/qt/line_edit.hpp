@@ -21,6 +21,9 @@ public:
     std::function<bool(QKeyEvent&)> filterKey;
     /// What "Colar" and Ctrl+V do instead of inserting; empty leaves it to the editor.
     std::function<void(const QString&)> pasteText;
+    /// What happens with characters that an input method has composed ("ç" by dead keys); empty leaves them
+    /// to the editor.
+    std::function<void(const QString&)> typeText;
     /// What "Recortar" and "Excluir" of a masked field do instead of cutting.
     std::function<void()> eraseSelection;
     std::function<void()> undoEdit;

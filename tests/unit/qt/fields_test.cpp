@@ -9,7 +9,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QInputMethodEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QScreen>
@@ -54,6 +56,48 @@ protected:
 
     FormRef form_;
 };
+
+/// What an input method does with the characters that it has composed.
+void Compose(QWidget* editor, const char* text)
+{
+    QInputMethodEvent event;
+    event.setCommitString(QString::fromUtf8(text));
+    QApplication::sendEvent(editor, &event);
+}
+
+TEST_F(Fields, TakeComposedCharactersAsTypedOnes)
+{
+    auto& name = Get<KVTextBox>("kvtxtNome");
+    name.SetFocus();
+    QWidget* editor = Editor<KVTextBox>("kvtxtNome");
+    for (const char* letter : {"J", "o", "ã", "o"})
+        Compose(editor, letter);
+    EXPECT_EQ(name.Text(), "João");
+    Press(editor, Qt::Key_Home);
+    Press(editor, Qt::Key_Right, QString(), Qt::ShiftModifier);
+    Compose(editor, "Ç");
+    EXPECT_EQ(name.Text(), "Çoão");
+    EXPECT_EQ(dynamic_cast<QLineEdit*>(editor)->text(), QStringLiteral("Çoão"));
+    Compose(editor, "éíó");
+    EXPECT_EQ(name.Text(), "Çéoão") << "no more than the box takes";
+}
+
+TEST_F(Fields, TakeComposedDigitsPlaceByPlaceUnderAMask)
+{
+    auto& date = Get<KVDTPicker>("kvdtpData");
+    date.SetFocus();
+    QWidget* editor = Editor<KVDTPicker>("kvdtpData");
+    for (const char* digit : {"2", "0", "1", "1"})
+        Compose(editor, digit);
+    EXPECT_EQ(dynamic_cast<QLineEdit*>(editor)->text(), QStringLiteral("20/11/____"));
+}
+
+TEST_F(Fields, TakeNoComposedCharactersWhereTheyAreLocked)
+{
+    Compose(Editor<KVTextBox>("kvtxtTravado"), "ã");
+    EXPECT_EQ(Get<KVTextBox>("kvtxtTravado").Text(), "fixo");
+    EXPECT_EQ(dynamic_cast<QLineEdit*>(Editor<KVTextBox>("kvtxtTravado"))->text(), QStringLiteral("fixo"));
+}
 
 TEST_F(Fields, ComboRaisesDropDownBeforeItsListAndClickForTheRowTaken)
 {
