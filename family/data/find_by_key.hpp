@@ -1,30 +1,21 @@
 #pragma once
 
-#include "family/data/database.hpp"
-#include "family/data/nullable.hpp"
+#include "family/data/row_statement.hpp"
 #include "family/data/rows.hpp"
 
 #include <optional>
 
 namespace kova::family {
 
-/// The prepared reading of one row by its key, which is the first of the row's columns.
-template <class Row> class ReadRow : public KeptStatement {
+/// The prepared reading of one row by its key.
+template <class Row> class ReadRow : public RowStatement<Row> {
 public:
-    explicit ReadRow(Database& database) : statement_(database.Session())
+    explicit ReadRow(Database& database) : RowStatement<Row>(database)
     {
-        std::string columns, key;
-        statement_.alloc();
-        row_.Columns([&](const char* column, auto& field) {
-            if (key.empty())
-                key = column;
-            columns.append(columns.empty() ? "" : ", ").append(column);
-            Bind(field);
-        });
-        statement_.exchange(soci::use(key_, "chave"));
-        statement_.prepare("select " + columns + " from " + Row::Table + " where " + key + " = :chave"
-                           + (LocksRow() ? database.GetDialect().lockRow : ""));
-        statement_.define_and_bind();
+        this->FetchColumns();
+        TakeFrom(this->statement_, key_, "chave");
+        this->Prepare("select " + this->ColumnNames() + " from " + Row::Table + " where " + this->KeyColumn()
+                      + " = :chave" + (LocksRow() ? database.GetDialect().lockRow : ""));
     }
 
     /// Walks to the end, so that no read stays open behind it.
@@ -32,9 +23,9 @@ public:
     {
         key_ = key;
         std::optional<Row> found;
-        statement_.execute();
-        while (statement_.fetch())
-            found = row_;
+        this->statement_.execute();
+        while (this->statement_.fetch())
+            found = this->row_;
         return found;
     }
 
@@ -46,15 +37,7 @@ private:
         return false;
     }
 
-    template <class T> void Bind(T& field) { statement_.exchange(soci::into(field)); }
-    template <class T> void Bind(Nullable<T>& field)
-    {
-        statement_.exchange(soci::into(field.value, field.state));
-    }
-
     Key key_ = 0;
-    Row row_;
-    soci::statement statement_;
 };
 
 /// The row with that key; nothing where there is none. A row struct with LocksRow locks what it finds until

@@ -1,42 +1,24 @@
 #pragma once
 
-#include "family/data/database.hpp"
-#include "family/data/nullable.hpp"
+#include "family/data/row_statement.hpp"
 
 namespace kova::family {
 
-/// The prepared insertion of one table's rows, bound to a row of its own.
-template <class Row> class InsertRow : public KeptStatement {
+/// The prepared insertion of one table's rows.
+template <class Row> class InsertRow : public RowStatement<Row> {
 public:
-    explicit InsertRow(Database& database) : statement_(database.Session())
+    explicit InsertRow(Database& database) : RowStatement<Row>(database)
     {
-        std::string columns, marks;
-        statement_.alloc();
-        row_.Columns([&](const char* column, auto& field) {
-            columns.append(columns.empty() ? "" : ", ").append(column);
-            marks.append(marks.empty() ? ":" : ", :").append(column);
-            Bind(field);
-        });
-        statement_.prepare(std::string("insert into ") + Row::Table + " (" + columns + ") values (" + marks
-                           + ")");
-        statement_.define_and_bind();
+        this->TakeColumns();
+        this->Prepare(std::string("insert into ") + Row::Table + " (" + this->ColumnNames() + ") values ("
+                      + this->ColumnMarks() + ")");
     }
 
     void Run(const Row& row)
     {
-        row_ = row;
-        statement_.execute(true);
+        this->row_ = row;
+        this->statement_.execute(true);
     }
-
-private:
-    template <class T> void Bind(T& field) { statement_.exchange(soci::use(field)); }
-    template <class T> void Bind(Nullable<T>& field)
-    {
-        statement_.exchange(soci::use(field.value, field.state));
-    }
-
-    Row row_;
-    soci::statement statement_;
 };
 
 /// Writes a row in the transaction that is open, or in one of its own. Fails as Database::With.

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "family/data/database.hpp"
-#include "family/data/nullable.hpp"
+#include "family/data/row_statement.hpp"
 #include "family/data/text_arena.hpp"
 
 #include <string>
@@ -24,7 +23,7 @@ template <template <class> class RowOf> class FetchedRow {
 public:
     void BindTo(soci::statement& statement)
     {
-        std::apply([&](auto&... members) { (Bind(statement, members), ...); }, row_.Members());
+        std::apply([&](auto&... members) { (FetchInto(statement, members), ...); }, row_.Members());
     }
 
     /// Adds a copy of the row.
@@ -35,15 +34,6 @@ public:
     }
 
 private:
-    template <class T> static void Bind(soci::statement& statement, T& member)
-    {
-        statement.exchange(soci::into(member));
-    }
-    template <class T> static void Bind(soci::statement& statement, Nullable<T>& member)
-    {
-        statement.exchange(soci::into(member.value, member.state));
-    }
-
     template <class T> static void KeepMember(const T& from, T& to, TextArena&) { to = from; }
     static void KeepMember(const std::string& from, std::string_view& to, TextArena& texts)
     {
@@ -79,11 +69,7 @@ protected:
 
     template <class T> void Use(T& variable, const char* parameter)
     {
-        statement_.exchange(soci::use(variable, parameter));
-    }
-    template <class T> void Use(Nullable<T>& variable, const char* parameter)
-    {
-        statement_.exchange(soci::use(variable.value, variable.state, parameter));
+        TakeFrom(statement_, variable, parameter);
     }
 
     void Prepare(const std::string& text)

@@ -1,45 +1,27 @@
 #pragma once
 
-#include "family/data/database.hpp"
-#include "family/data/nullable.hpp"
+#include "family/data/row_statement.hpp"
 
 #include <functional>
 
 namespace kova::family {
 
-/// The prepared reading of a whole table, by its key, which is the first of the row's columns.
-template <class Row> class ReadRows : public KeptStatement {
+/// The prepared reading of a whole table, by its key.
+template <class Row> class ReadRows : public RowStatement<Row> {
 public:
-    explicit ReadRows(Database& database) : statement_(database.Session())
+    explicit ReadRows(Database& database) : RowStatement<Row>(database)
     {
-        std::string columns, key;
-        statement_.alloc();
-        row_.Columns([&](const char* column, auto& field) {
-            if (key.empty())
-                key = column;
-            columns.append(columns.empty() ? "" : ", ").append(column);
-            Bind(field);
-        });
-        statement_.prepare("select " + columns + " from " + Row::Table + " order by " + key);
-        statement_.define_and_bind();
+        this->FetchColumns();
+        this->Prepare("select " + this->ColumnNames() + " from " + Row::Table + " order by "
+                      + this->KeyColumn());
     }
 
     void Run(const std::function<void(const Row&)>& visit)
     {
-        statement_.execute();
-        while (statement_.fetch())
-            visit(row_);
+        this->statement_.execute();
+        while (this->statement_.fetch())
+            visit(this->row_);
     }
-
-private:
-    template <class T> void Bind(T& field) { statement_.exchange(soci::into(field)); }
-    template <class T> void Bind(Nullable<T>& field)
-    {
-        statement_.exchange(soci::into(field.value, field.state));
-    }
-
-    Row row_;
-    soci::statement statement_;
 };
 
 /// Every row of a table, ordered by its key, one at a time. Fails as Database::With.

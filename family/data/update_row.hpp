@@ -1,47 +1,26 @@
 #pragma once
 
-#include "family/data/database.hpp"
-#include "family/data/nullable.hpp"
+#include "family/data/row_statement.hpp"
 
 namespace kova::family {
 
-/// The prepared replacement of one row's columns. The key is the first of them.
-template <class Row> class UpdateRow : public KeptStatement {
+/// The prepared replacement of one row's columns.
+template <class Row> class UpdateRow : public RowStatement<Row> {
 public:
-    explicit UpdateRow(Database& database) : statement_(database.Session())
+    explicit UpdateRow(Database& database) : RowStatement<Row>(database)
     {
-        std::string assignments, key;
-        statement_.alloc();
-        row_.Columns([&](const char* column, auto& field) {
-            if (key.empty())
-                key = column;
-            else
-                assignments.append(assignments.empty() ? "" : ", ")
-                    .append(column)
-                    .append(" = :")
-                    .append(column);
-            Bind(column, field);
-        });
-        statement_.prepare(std::string("update ") + Row::Table + " set " + assignments + " where " + key
-                           + " = :" + key);
-        statement_.define_and_bind();
+        constexpr std::size_t BehindKey = 1;
+        const auto assignment = [](const std::string& column) { return column + " = :" + column; };
+        this->TakeColumns();
+        this->Prepare(std::string("update ") + Row::Table + " set " + this->Columns(assignment, BehindKey)
+                      + " where " + assignment(this->KeyColumn()));
     }
 
     void Run(const Row& row)
     {
-        row_ = row;
-        statement_.execute(true);
+        this->row_ = row;
+        this->statement_.execute(true);
     }
-
-private:
-    template <class T> void Bind(const char* name, T& field) { statement_.exchange(soci::use(field, name)); }
-    template <class T> void Bind(const char* name, Nullable<T>& field)
-    {
-        statement_.exchange(soci::use(field.value, field.state, name));
-    }
-
-    Row row_;
-    soci::statement statement_;
 };
 
 /// Writes every column of the row with that key, in the transaction that is open, or in one of its own.
