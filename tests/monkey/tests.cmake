@@ -5,10 +5,14 @@ if(NOT KOVARIS_CORE_ONLY)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 
     set(monkey_folder ${CMAKE_CURRENT_LIST_DIR})
+    # What is acted and what is found: the tests need no window for it.
+    add_library(monkey_findings STATIC ${monkey_folder}/act.cpp ${monkey_folder}/failure_ear.cpp
+                ${monkey_folder}/finding.cpp ${monkey_folder}/shorten.cpp)
+
     file(GLOB sources CONFIGURE_DEPENDS ${monkey_folder}/*.cpp)
-    list(FILTER sources EXCLUDE REGEX "_test\\.cpp$")
+    list(FILTER sources EXCLUDE REGEX "(_test|/act|/failure_ear|/finding|/shorten)\\.cpp$")
     add_executable(monkey ${sources})
-    target_link_libraries(monkey PRIVATE host_application family_business SQLite::SQLite3 Qt6::Test)
+    target_link_libraries(monkey PRIVATE monkey_findings host_application family_business SQLite::SQLite3 Qt6::Test)
     target_compile_definitions(monkey PRIVATE AGENDA_DATA="$<TARGET_FILE:agenda-data>")
     kovaris_precompile(monkey ${monkey_folder}/player.hpp <soci/soci.h>)
     add_dependencies(monkey agenda-data KOVA_A_Agenda KOVA_N_Familia KOVA_A_Familia)
@@ -21,8 +25,7 @@ if(NOT KOVARIS_CORE_ONLY)
         set_tests_properties(monkey.Kept.${name} PROPERTIES LABELS monkey)
     endforeach()
 
-    add_executable(test_monkey ${monkey_folder}/monkey_test.cpp ${monkey_folder}/act.cpp
-                   ${monkey_folder}/failure_ear.cpp ${monkey_folder}/finding.cpp ${monkey_folder}/shorten.cpp)
-    target_link_libraries(test_monkey PRIVATE test_main)
+    add_executable(test_monkey ${monkey_folder}/monkey_test.cpp)
+    target_link_libraries(test_monkey PRIVATE monkey_findings test_main)
     gtest_discover_tests(test_monkey DISCOVERY_TIMEOUT 60)
 endif()
