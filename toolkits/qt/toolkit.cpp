@@ -134,8 +134,6 @@ std::unique_ptr<toolkit::FormWindow> QtToolkit::MakeWindow(toolkit::FormModel& f
 std::unique_ptr<toolkit::View> QtToolkit::MakeView(toolkit::WidgetCore& widget)
 {
     using namespace toolkit;
-    if (widget.KindOfWidget() == WidgetKind::Menu || widget.KindOfWidget() == WidgetKind::Image)
-        return nullptr;
     QWidget* parent = ParentOf(widget);
     if (!parent)
         return nullptr;
