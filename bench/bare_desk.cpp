@@ -1,6 +1,6 @@
 #include "bench/bare_desk.hpp"
 
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/iso_text.hpp"
 
 #include <stdexcept>
 

@@ -4,8 +4,8 @@
 #include "bench/data_host.hpp"
 #include "bench/measure.hpp"
 #include "family/business/customers.hpp"
-#include "family/data/fold_text.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 #include <algorithm>
 #include <array>

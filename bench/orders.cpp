@@ -1,6 +1,6 @@
 #include "bench/orders.hpp"
 
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/iso_text.hpp"
 
 #include <cstdio>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #include "bench/raw_server.hpp"
 
-#include "family/data/dialect.hpp"
+#include "family/data/engine/dialect.hpp"
 
 #include <charconv>
 #include <stdexcept>

@@ -6,7 +6,7 @@
 #include "bench/measured_days.hpp"
 #include "bench/raw_server.hpp"
 #include "family/business/agenda.hpp"
-#include "family/data/day_selection.hpp"
+#include "family/data/selections/day_selection.hpp"
 
 #include <iostream>
 #include <stdexcept>

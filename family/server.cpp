@@ -12,7 +12,7 @@
 #include "family/business/species.hpp"
 #include "family/business/store.hpp"
 #include "family/business/system_version.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 #include <soci/soci.h>
 

@@ -3,7 +3,7 @@
 #include "family/business/appointment_input.hpp"
 #include "family/business/by_name.hpp"
 #include "family/business/write_answer.hpp"
-#include "family/data/author.hpp"
+#include "family/data/audit/author.hpp"
 
 #include <optional>
 

@@ -2,7 +2,7 @@
 #include "family/business/day_record_set.hpp"
 #include "family/business/lent_record_sets.hpp"
 #include "family/business/selection_arguments.hpp"
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/iso_text.hpp"
 
 namespace kova::family {
 

@@ -2,7 +2,7 @@
 #include "family/business/appointment_writes.hpp"
 #include "family/business/current_author.hpp"
 #include "family/business/status_change.hpp"
-#include "family/data/appointment_status.hpp"
+#include "family/data/stores/appointment_status.hpp"
 
 namespace kova::family {
 

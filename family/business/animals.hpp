@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/business/by_name.hpp"
-#include "family/data/animal_selection.hpp"
+#include "family/data/selections/animal_selection.hpp"
 
 namespace kova::family {
 

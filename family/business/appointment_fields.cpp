@@ -4,8 +4,8 @@
 #include "agenda/contracts/text.hpp"
 #include "family/business/clean_text.hpp"
 #include "family/business/shown_values.hpp"
-#include "family/data/iso_text.hpp"
-#include "family/data/register_names.hpp"
+#include "family/data/engine/iso_text.hpp"
+#include "family/data/stores/register_names.hpp"
 
 namespace kova::family {
 

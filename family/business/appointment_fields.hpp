@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/business/appointment_input.hpp"
-#include "family/data/appointment_rows.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 
 #include <span>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/value.hpp"
-#include "family/data/rows.hpp"
+#include "family/data/rows/rows.hpp"
 
 namespace kova::family {
 

@@ -2,8 +2,8 @@
 
 #include "family/business/appointment_fields.hpp"
 #include "family/business/clash_text.hpp"
-#include "family/data/database.hpp"
-#include "family/data/find_by_key.hpp"
+#include "family/data/engine/database.hpp"
+#include "family/data/rows/find_by_key.hpp"
 
 namespace kova::family {
 

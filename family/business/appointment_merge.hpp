@@ -2,8 +2,8 @@
 
 #include "family/business/appointment_input.hpp"
 #include "family/business/typed_times.hpp"
-#include "family/data/appointment_rows.hpp"
-#include "family/data/appointment_status.hpp"
+#include "family/data/stores/appointment_rows.hpp"
+#include "family/data/stores/appointment_status.hpp"
 
 namespace kova::family {
 

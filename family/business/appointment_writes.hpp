@@ -2,7 +2,7 @@
 
 #include "family/business/appointment_input.hpp"
 #include "family/business/write_answer.hpp"
-#include "family/data/author.hpp"
+#include "family/data/audit/author.hpp"
 
 namespace kova::family {
 

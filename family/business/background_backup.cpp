@@ -1,6 +1,6 @@
 #include "family/business/background_backup.hpp"
 
-#include "family/data/daily_backup.hpp"
+#include "family/data/copies/daily_backup.hpp"
 
 #include <exception>
 

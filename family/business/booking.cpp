@@ -1,6 +1,6 @@
 #include "family/business/booking.hpp"
 
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/iso_text.hpp"
 
 namespace kova::family {
 

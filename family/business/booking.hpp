@@ -3,8 +3,8 @@
 #include "family/business/appointment_input.hpp"
 #include "family/business/employee_room.hpp"
 #include "family/business/typed_times.hpp"
-#include "family/data/appointment_rows.hpp"
-#include "family/data/holiday_calendar.hpp"
+#include "family/data/stores/appointment_rows.hpp"
+#include "family/data/stores/holiday_calendar.hpp"
 
 namespace kova::family {
 

@@ -1,6 +1,6 @@
 #include "family/business/booking.hpp"
 
-#include "family/data/appointment_status.hpp"
+#include "family/data/stores/appointment_status.hpp"
 
 #include <algorithm>
 

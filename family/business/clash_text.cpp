@@ -1,7 +1,7 @@
 #include "family/business/clash_text.hpp"
 
 #include "family/business/shown_values.hpp"
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/iso_text.hpp"
 
 namespace kova::family {
 

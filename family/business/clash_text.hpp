@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/value.hpp"
-#include "family/data/appointment_steps.hpp"
+#include "family/data/stores/appointment_steps.hpp"
 
 namespace kova::family {
 

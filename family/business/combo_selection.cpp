@@ -1,6 +1,6 @@
 #include "family/business/combo_selection.hpp"
 
-#include "family/data/fold_text.hpp"
+#include "family/data/engine/fold_text.hpp"
 
 #include <algorithm>
 #include <utility>

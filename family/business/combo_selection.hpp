@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/record_set.hpp"
-#include "family/data/database.hpp"
+#include "family/data/engine/database.hpp"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "family/business/current_author.hpp"
 
 #include "agenda/contracts/text.hpp"
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/iso_text.hpp"
 #include "system/computer_name.hpp"
 
 namespace kova::family {

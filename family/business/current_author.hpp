@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
-#include "family/data/author.hpp"
+#include "family/data/audit/author.hpp"
 
 namespace kova::family {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/record_set.hpp"
-#include "family/data/customer_selection.hpp"
+#include "family/data/selections/customer_selection.hpp"
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 
 #include "family/business/customer_record_set.hpp"
 #include "family/business/selection_arguments.hpp"
-#include "family/data/customer_address.hpp"
+#include "family/data/selections/customer_address.hpp"
 
 #include <iterator>
 

@@ -2,7 +2,7 @@
 
 #include "family/business/kept_record_set.hpp"
 #include "family/business/shown_values.hpp"
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/iso_text.hpp"
 
 #include <algorithm>
 

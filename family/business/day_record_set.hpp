@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/record_set.hpp"
-#include "family/data/day_selection.hpp"
+#include "family/data/selections/day_selection.hpp"
 
 namespace kova::family {
 

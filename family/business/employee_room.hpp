@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/business/time_span.hpp"
-#include "family/data/booking_registers.hpp"
+#include "family/data/stores/booking_registers.hpp"
 
 #include <optional>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/record_set.hpp"
-#include "family/data/kept_rows.hpp"
+#include "family/data/rows/kept_rows.hpp"
 
 #include <span>
 

@@ -1,7 +1,7 @@
 #include "family/business/pre_sale_rules.hpp"
 
-#include "family/data/appointment_status.hpp"
-#include "family/data/pre_sales.hpp"
+#include "family/data/stores/appointment_status.hpp"
+#include "family/data/stores/pre_sales.hpp"
 
 namespace kova::family {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "family/business/write_answer.hpp"
-#include "family/data/author.hpp"
-#include "family/data/rows.hpp"
+#include "family/data/audit/author.hpp"
+#include "family/data/rows/rows.hpp"
 
 namespace kova::family {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/business_services.hpp"
-#include "family/data/rows.hpp"
+#include "family/data/rows/rows.hpp"
 
 #include <span>
 

@@ -3,8 +3,8 @@
 #include "family/business/kept_record_set.hpp"
 #include "family/business/selection_arguments.hpp"
 #include "family/business/shown_values.hpp"
-#include "family/data/iso_text.hpp"
-#include "family/data/service_selection.hpp"
+#include "family/data/engine/iso_text.hpp"
+#include "family/data/selections/service_selection.hpp"
 
 namespace kova::family {
 

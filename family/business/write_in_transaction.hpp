@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/business/write_answer.hpp"
-#include "family/data/safe_write.hpp"
+#include "family/data/engine/safe_write.hpp"
 
 namespace kova::family {
 

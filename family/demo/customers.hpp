@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/people_rows.hpp"
+#include "family/data/rows/people_rows.hpp"
 #include "family/demo/registers.hpp"
 
 #include <vector>

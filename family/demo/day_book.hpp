@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/rows.hpp"
+#include "family/data/rows/rows.hpp"
 
 #include <map>
 #include <vector>

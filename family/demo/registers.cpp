@@ -1,8 +1,8 @@
 #include "family/demo/registers.hpp"
 
-#include "family/data/documents.hpp"
-#include "family/data/fold_text.hpp"
-#include "family/data/insert_row.hpp"
+#include "family/data/checks/documents.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/rows/insert_row.hpp"
 #include "family/demo/words.hpp"
 
 namespace kova::family {

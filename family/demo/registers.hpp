@@ -1,7 +1,7 @@
 #pragma once
 
-#include "family/data/database.hpp"
-#include "family/data/rows.hpp"
+#include "family/data/engine/database.hpp"
+#include "family/data/rows/rows.hpp"
 #include "family/demo/random.hpp"
 
 #include <vector>

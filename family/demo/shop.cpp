@@ -1,8 +1,8 @@
 #include "family/demo/shop.hpp"
 
-#include "family/data/data_source.hpp"
-#include "family/data/insert_row.hpp"
-#include "family/data/national_holidays.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/stores/national_holidays.hpp"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include "tests/database_scenarios/shop/known_shop.hpp"
 #include "tests/support/postgres_server.hpp"
 
-#include "family/data/data_source.hpp"
-#include "family/data/write_transaction.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/write_transaction.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/database.hpp"
+#include "family/data/engine/database.hpp"
 
 #include <memory>
 #include <string>

@@ -2,8 +2,8 @@
 
 #include "family/business/appointment_fields.hpp"
 #include "family/business/appointment_writes.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/find_by_key.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/rows/find_by_key.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/business/appointment_input.hpp"
-#include "family/data/database.hpp"
+#include "family/data/engine/database.hpp"
 
 #include <functional>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "family/data/store_copy.hpp"
+#include "family/data/copies/store_copy.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
 

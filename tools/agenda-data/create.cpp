@@ -1,4 +1,4 @@
-#include "family/data/new_shop.hpp"
+#include "family/data/stores/new_shop.hpp"
 #include "host/computer_user.hpp"
 #include "tools/agenda-data/commands.hpp"
 

@@ -1,6 +1,6 @@
 #include "family/business/appointment_history.hpp"
 
-#include "family/data/newest_schema.hpp"
+#include "family/data/migrations/newest_schema.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 namespace kova::data {

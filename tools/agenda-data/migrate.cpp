@@ -1,4 +1,4 @@
-#include "family/data/data_source.hpp"
+#include "family/data/engine/data_source.hpp"
 #include "system/path_text.hpp"
 #include "tools/agenda-data/commands.hpp"
 

@@ -1,4 +1,4 @@
-#include "family/data/store_backup.hpp"
+#include "family/data/copies/store_backup.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
 

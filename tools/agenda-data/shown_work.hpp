@@ -1,7 +1,7 @@
 #pragma once
 
-#include "family/data/long_work.hpp"
-#include "family/data/table_layouts.hpp"
+#include "family/data/engine/long_work.hpp"
+#include "family/data/rows/table_layouts.hpp"
 #include "tools/agenda-data/progress.hpp"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "family/business/appointment_restoration.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/iso_text.hpp"
 #include "host/computer_user.hpp"
 #include "system/computer_name.hpp"
 #include "tools/agenda-data/commands.hpp"

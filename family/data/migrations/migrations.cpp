@@ -1,6 +1,6 @@
 #include "family/data/migrations/migrations.hpp"
 
-#include "family/data/database.hpp"
+#include "family/data/engine/database.hpp"
 
 namespace kova::family {
 

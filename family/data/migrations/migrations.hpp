@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/dialect.hpp"
+#include "family/data/engine/dialect.hpp"
 
 #include <soci/soci.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/database.hpp"
+#include "family/data/engine/database.hpp"
 
 namespace kova::conformance {
 

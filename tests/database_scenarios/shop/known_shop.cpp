@@ -1,12 +1,12 @@
 #include "tests/database_scenarios/shop/known_shop.hpp"
 
-#include "family/data/appointment_rows.hpp"
-#include "family/data/customer_store.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/fold_text.hpp"
-#include "family/data/insert_row.hpp"
-#include "family/data/national_holidays.hpp"
-#include "family/data/pre_sales.hpp"
+#include "family/data/stores/appointment_rows.hpp"
+#include "family/data/stores/customer_store.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/stores/national_holidays.hpp"
+#include "family/data/stores/pre_sales.hpp"
 
 namespace kova::database_scenarios {
 

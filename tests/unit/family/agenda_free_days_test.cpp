@@ -2,7 +2,7 @@
 
 #include "tests/unit/family/booking_fixture.hpp"
 
-#include "family/data/iso_text.hpp"
+#include "family/data/engine/iso_text.hpp"
 
 namespace kova::family::test {
 

@@ -2,8 +2,8 @@
 
 #include "tests/unit/family/booking_fixture.hpp"
 
-#include "family/data/data_source.hpp"
-#include "family/data/write_transaction.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/write_transaction.hpp"
 
 namespace kova::family::test {
 

@@ -2,7 +2,7 @@
 
 #include "tests/unit/family/booking_fixture.hpp"
 
-#include "family/data/booked_times.hpp"
+#include "family/data/stores/booked_times.hpp"
 
 namespace kova::family::test {
 

@@ -1,10 +1,10 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/animals.hpp"
-#include "family/data/fold_text.hpp"
-#include "family/data/insert_row.hpp"
-#include "family/data/people_rows.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/people_rows.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 namespace kova::family::test {
 

@@ -1,8 +1,8 @@
 #include "tests/unit/family/two_desk_fixture.hpp"
 
 #include "family/business/appointment_history.hpp"
-#include "family/data/audit_lines.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/audit/audit_lines.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 #include <algorithm>
 

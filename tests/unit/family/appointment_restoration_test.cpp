@@ -2,8 +2,8 @@
 
 #include "family/business/appointment_history.hpp"
 #include "family/business/appointment_restoration.hpp"
-#include "family/data/audit_lines.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/audit/audit_lines.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 namespace kova::family::test {
 

@@ -1,4 +1,4 @@
-#include "family/data/audit.hpp"
+#include "family/data/audit/audit.hpp"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 #include "tests/unit/family/booking_fixture.hpp"
 
 #include "family/business/appointment_writes.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 #include <sys/wait.h>
 #include <unistd.h>

@@ -3,7 +3,7 @@
 #include "tests/unit/family/desk_fixture.hpp"
 #include "tests/unit/family/record_form.hpp"
 
-#include "family/data/shared_database.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 #include <sys/wait.h>
 #include <unistd.h>

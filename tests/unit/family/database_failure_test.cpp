@@ -1,5 +1,5 @@
 #include "agenda/contracts/failure_detail.hpp"
-#include "family/data/database_failure.hpp"
+#include "family/data/engine/database_failure.hpp"
 
 #include <gtest/gtest.h>
 

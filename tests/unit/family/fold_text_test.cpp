@@ -1,4 +1,4 @@
-#include "family/data/fold_text.hpp"
+#include "family/data/engine/fold_text.hpp"
 
 #include <gtest/gtest.h>
 

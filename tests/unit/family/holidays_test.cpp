@@ -1,10 +1,10 @@
 #include "tests/unit/family/desk_fixture.hpp"
 
 #include "family/business/holidays.hpp"
-#include "family/data/holiday_calendar.hpp"
-#include "family/data/insert_row.hpp"
-#include "family/data/national_holidays.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/stores/holiday_calendar.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/stores/national_holidays.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 namespace kova::family::test {
 

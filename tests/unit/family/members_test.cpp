@@ -3,7 +3,7 @@
 #include "family/business/agenda.hpp"
 #include "family/business/employees.hpp"
 #include "family/business/service_types.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 namespace kova::family::test {
 

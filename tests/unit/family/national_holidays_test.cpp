@@ -1,4 +1,4 @@
-#include "family/data/national_holidays.hpp"
+#include "family/data/stores/national_holidays.hpp"
 
 #include <gtest/gtest.h>
 

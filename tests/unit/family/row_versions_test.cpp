@@ -1,4 +1,4 @@
-#include "family/data/row_versions.hpp"
+#include "family/data/engine/row_versions.hpp"
 
 #include <gtest/gtest.h>
 

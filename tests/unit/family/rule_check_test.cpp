@@ -1,9 +1,9 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/data/appointment_rows.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/insert_row.hpp"
-#include "family/data/rule_check.hpp"
+#include "family/data/stores/appointment_rows.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/checks/rule_check.hpp"
 
 namespace kova::family::test {
 

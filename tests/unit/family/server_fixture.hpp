@@ -4,8 +4,8 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/appointment_input.hpp"
-#include "family/data/author.hpp"
-#include "family/data/write_transaction.hpp"
+#include "family/data/audit/author.hpp"
+#include "family/data/engine/write_transaction.hpp"
 
 namespace kova::family::test {
 

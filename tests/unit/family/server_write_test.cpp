@@ -6,9 +6,9 @@
 
 #include "family/business/appointment_writes.hpp"
 #include "family/business/company_selection.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/safe_write.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/safe_write.hpp"
+#include "family/data/engine/shared_database.hpp"
 
 #include <barrier>
 #include <thread>

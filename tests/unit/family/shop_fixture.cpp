@@ -1,13 +1,13 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/agenda.hpp"
-#include "family/data/appointment_rows.hpp"
-#include "family/data/customer_store.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/fold_text.hpp"
-#include "family/data/insert_row.hpp"
-#include "family/data/people_rows.hpp"
-#include "family/data/shared_database.hpp"
+#include "family/data/stores/appointment_rows.hpp"
+#include "family/data/stores/customer_store.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/people_rows.hpp"
+#include "family/data/engine/shared_database.hpp"
 #include "tests/support/data_places.hpp"
 
 #include <fstream>

@@ -2,7 +2,7 @@
 
 #include "agenda/contracts/component_server.hpp"
 #include "agenda/contracts/record_set.hpp"
-#include "family/data/database.hpp"
+#include "family/data/engine/database.hpp"
 #include "tests/support/postgres_server.hpp"
 
 #include <gtest/gtest.h>

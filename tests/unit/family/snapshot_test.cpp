@@ -1,9 +1,9 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/data/data_source.hpp"
-#include "family/data/insert_row.hpp"
-#include "family/data/snapshot.hpp"
-#include "family/data/table_layouts.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/engine/snapshot.hpp"
+#include "family/data/rows/table_layouts.hpp"
 
 namespace kova::family::test {
 

@@ -3,8 +3,8 @@
 #include "tests/unit/family/desk_fixture.hpp"
 
 #include "family/business/status_change.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/write_transaction.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/write_transaction.hpp"
 
 #include <atomic>
 #include <thread>

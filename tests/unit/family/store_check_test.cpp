@@ -1,4 +1,4 @@
-#include "family/data/store_check.hpp"
+#include "family/data/checks/store_check.hpp"
 
 #include "tests/unit/family/server_fixture.hpp"
 

@@ -2,10 +2,10 @@
 
 #include "family/business/agenda.hpp"
 #include "family/business/store.hpp"
-#include "family/data/daily_backup.hpp"
-#include "family/data/data_source.hpp"
-#include "family/data/shared_database.hpp"
-#include "family/data/unfinished_file.hpp"
+#include "family/data/copies/daily_backup.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/shared_database.hpp"
+#include "family/data/engine/unfinished_file.hpp"
 
 #include <thread>
 

@@ -1,7 +1,7 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/data/data_source.hpp"
-#include "family/data/table_layouts.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/rows/table_layouts.hpp"
 
 #include <set>
 

@@ -3,7 +3,7 @@
 #include "tests/unit/family/booking_fixture.hpp"
 
 #include "family/business/appointment_writes.hpp"
-#include "family/data/appointment_rows.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 
 namespace kova::family::test {
 

@@ -1,7 +1,7 @@
 #include "tests/support/small_files.hpp"
 #include "tests/unit/tools/import_fixture.hpp"
 
-#include "family/data/unfinished_file.hpp"
+#include "family/data/engine/unfinished_file.hpp"
 
 namespace kova::data::test {
 

@@ -1,6 +1,6 @@
 #include "tests/unit/tools/import_fixture.hpp"
 
-#include "family/data/data_source.hpp"
+#include "family/data/engine/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 namespace kova::data::test {

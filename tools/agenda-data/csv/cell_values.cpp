@@ -1,8 +1,8 @@
 #include "tools/agenda-data/csv/cell_values.hpp"
 
 #include "agenda/contracts/text.hpp"
-#include "family/data/documents.hpp"
-#include "family/data/fold_text.hpp"
+#include "family/data/checks/documents.hpp"
+#include "family/data/engine/fold_text.hpp"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/people_rows.hpp"
+#include "family/data/rows/people_rows.hpp"
 
 namespace kova::data {
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "family/business/shown_values.hpp"
-#include "family/data/fold_text.hpp"
-#include "family/data/iso_text.hpp"
-#include "family/data/rows.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/rows.hpp"
 #include "tools/agenda-data/csv/cell_values.hpp"
 #include "tools/agenda-data/csv/column.hpp"
 

@@ -1,7 +1,7 @@
 #include "tools/agenda-data/csv/header.hpp"
 
 #include "family/business/clean_text.hpp"
-#include "family/data/fold_text.hpp"
+#include "family/data/engine/fold_text.hpp"
 #include "tools/agenda-data/csv/csv_writer.hpp"
 
 #include <algorithm>

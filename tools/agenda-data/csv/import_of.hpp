@@ -1,7 +1,7 @@
 #pragma once
 
-#include "family/data/add_row.hpp"
-#include "family/data/select_rows.hpp"
+#include "family/data/audit/add_row.hpp"
+#include "family/data/rows/select_rows.hpp"
 #include "tools/agenda-data/csv/column_kinds.hpp"
 #include "tools/agenda-data/csv/register.hpp"
 

@@ -1,6 +1,6 @@
 #include "tools/agenda-data/csv/register.hpp"
 
-#include "family/data/fold_text.hpp"
+#include "family/data/engine/fold_text.hpp"
 #include "tools/agenda-data/command.hpp"
 
 namespace kova::data {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/date_time.hpp"
-#include "family/data/author.hpp"
+#include "family/data/audit/author.hpp"
 #include "tools/agenda-data/csv/header.hpp"
 
 #include <functional>

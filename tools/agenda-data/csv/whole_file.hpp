@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/unfinished_file.hpp"
+#include "family/data/engine/unfinished_file.hpp"
 
 #include <fstream>
 #include <string>

@@ -1,4 +1,4 @@
-#include "family/data/people_rows.hpp"
+#include "family/data/rows/people_rows.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
 
 #include <unordered_map>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/business/employee_room.hpp"
-#include "family/data/booking_registers.hpp"
+#include "family/data/stores/booking_registers.hpp"
 #include "tools/agenda-data/registers/appointment_columns.hpp"
 
 #include <map>

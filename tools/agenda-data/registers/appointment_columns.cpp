@@ -1,7 +1,7 @@
 #include "tools/agenda-data/registers/appointment_columns.hpp"
 
-#include "family/data/appointment_status.hpp"
-#include "family/data/pre_sales.hpp"
+#include "family/data/stores/appointment_status.hpp"
+#include "family/data/stores/pre_sales.hpp"
 
 namespace kova::data {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/appointment_rows.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 #include "tools/agenda-data/csv/column_kinds.hpp"
 
 namespace kova::data {

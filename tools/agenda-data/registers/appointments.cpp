@@ -1,5 +1,5 @@
-#include "family/data/appointment_status.hpp"
-#include "family/data/pre_sales.hpp"
+#include "family/data/stores/appointment_status.hpp"
+#include "family/data/stores/pre_sales.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
 #include "tools/agenda-data/registers/appointment_checks.hpp"
 

@@ -1,5 +1,5 @@
 #include "agenda/contracts/text.hpp"
-#include "family/data/customer_store.hpp"
+#include "family/data/stores/customer_store.hpp"
 #include "tools/agenda-data/csv/channels.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
 

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "family/data/audit/author.hpp"
+#include "family/data/rows/rows.hpp"
+
+#include <string_view>
+
+namespace kova::family {
+
+class Database;
+
+/// Values of a row by their columns, as one line of JSON.
+class AuditValues {
+public:
+    AuditValues& Add(std::string_view column, long long value);
+    AuditValues& Add(std::string_view column, const std::string& value);
+    AuditValues& Add(std::string_view column, const Nullable<std::string>& value);
+    AuditValues& Add(std::string_view column, const Nullable<Key>& value);
+    AuditValues& Add(std::string_view column, const Nullable<int>& value);
+
+    std::string Line() const { return "{" + members_ + "}"; }
+
+private:
+    AuditValues& AddWritten(std::string_view column, const std::string& written);
+
+    std::string members_;
+};
+
+/// The values of `operacao`.
+namespace audit_operation {
+inline constexpr const char* Insertion = "inclusao";
+inline constexpr const char* Change = "alteracao";
+inline constexpr const char* Removal = "exclusao";
+/// A row that was gone is there again.
+inline constexpr const char* Restoration = "restauracao";
+} // namespace audit_operation
+
+/// A row of the audit; the engine numbers it. `usuario` is "CODE - NAME", `posto` the computer's name.
+struct AuditRow {
+    static constexpr const char* Table = "auditoria";
+    std::string momento, usuario, posto, tabela;
+    Key chave = 0;
+    /// One of audit_operation.
+    std::string operacao;
+    /// The written columns only; `antes` is Null for a new or restored row, `depois` for one that is gone.
+    Nullable<std::string> antes, depois;
+
+    template <class Visit> void Columns(Visit visit)
+    {
+        visit("momento", momento);
+        visit("usuario", usuario);
+        visit("posto", posto);
+        visit("tabela", tabela);
+        visit("chave", chave);
+        visit("operacao", operacao);
+        visit("antes", antes);
+        visit("depois", depois);
+    }
+};
+
+/// All columns of a row.
+template <class Row> AuditValues ValuesOf(Row row)
+{
+    AuditValues values;
+    row.Columns([&](const char* column, const auto& field) { values.Add(column, field); });
+    return values;
+}
+
+/// Write a line for a new row, for a changed one, for one that is gone and for one that is back, in the
+/// transaction that is open.
+void AuditInsertion(Database& database, const Author& author, const char* table, Key key,
+                    const AuditValues& after);
+void AuditChange(Database& database, const Author& author, const char* table, Key key,
+                 const AuditValues& before, const AuditValues& after);
+void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
+                  const AuditValues& before);
+void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
+                      const AuditValues& after);
+
+} // namespace kova::family

@@ -1,0 +1,87 @@
+#include "family/data/audit/audit_lines.hpp"
+
+#include "family/data/engine/database.hpp"
+#include "family/data/engine/nullable.hpp"
+
+#include <nlohmann/json.hpp>
+
+namespace kova::family {
+
+namespace {
+
+Failure Unreadable(const std::string& values)
+{
+    return DatabaseFailure("Uma linha da auditoria não pode ser lida. O banco de dados foi alterado por outro"
+                           " programa ou está danificado.\r\n"
+                           + values);
+}
+
+std::optional<std::string> TextOf(const nlohmann::json& value, const std::string& values)
+{
+    if (value.is_null())
+        return std::nullopt;
+    if (value.is_string())
+        return value.get<std::string>();
+    if (value.is_number_integer())
+        return value.dump();
+    throw Unreadable(values);
+}
+
+AuditedColumns ColumnsOf(const Nullable<std::string>& written)
+{
+    AuditedColumns columns;
+    if (written.IsNull())
+        return columns;
+    const auto object = nlohmann::json::parse(written.value, nullptr, false);
+    if (!object.is_object())
+        throw Unreadable(written.value);
+    for (const auto& [column, value] : object.items())
+        columns[column] = TextOf(value, written.value);
+    return columns;
+}
+
+class AuditSelection : public KeptStatement {
+public:
+    explicit AuditSelection(Database& database)
+        : statement_((database.Session().prepare
+                          << "select momento, usuario, posto, operacao, antes, depois from auditoria"
+                             " where tabela = :tabela and chave = :chave order by codigo desc limit :quantas",
+                      soci::into(line_.moment), soci::into(line_.user), soci::into(line_.desk),
+                      soci::into(line_.operation), soci::into(before_.value, before_.state),
+                      soci::into(after_.value, after_.state), soci::use(table_, "tabela"),
+                      soci::use(key_, "chave"), soci::use(most_, "quantas")))
+    {
+    }
+
+    std::vector<AuditLine> Run(const char* table, Key key, Key most)
+    {
+        table_ = table;
+        key_ = key;
+        most_ = most;
+        std::vector<AuditLine> lines;
+        statement_.execute();
+        while (statement_.fetch()) {
+            line_.before = ColumnsOf(before_);
+            line_.after = ColumnsOf(after_);
+            lines.push_back(line_);
+        }
+        return lines;
+    }
+
+private:
+    std::string table_;
+    Key key_ = 0, most_ = 0;
+    AuditLine line_;
+    Nullable<std::string> before_, after_;
+    soci::statement statement_;
+};
+
+} // namespace
+
+std::vector<AuditLine> FindAuditLines(Database& database, const char* table, Key key, Key most)
+{
+    return database.With<AuditSelection>(
+        [&](AuditSelection& selection) { return selection.Run(table, key, most); });
+}
+
+} // namespace kova::family

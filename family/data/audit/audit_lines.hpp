@@ -1,0 +1,35 @@
+#pragma once
+
+#include "family/data/rows/rows.hpp"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+class Database;
+
+/// Values of a row by their columns, numbers in digits; nothing is Null.
+using AuditedColumns = std::map<std::string, std::optional<std::string>, std::less<>>;
+
+/// One line of the audit.
+struct AuditLine {
+    /// "yyyy-mm-dd hh:mm:ss"
+    std::string moment;
+    /// "CODE - NAME"
+    std::string user;
+    /// Name of the computer; empty where it was not known.
+    std::string desk;
+    /// One of audit_operation.
+    std::string operation;
+    /// The written columns; `before` is empty for a new or restored row, `after` for one that is gone.
+    AuditedColumns before, after;
+};
+
+/// The lines of one row, newest first, `most` at most. Fails as Database::With, and where a line does not
+/// hold what the audit writes.
+std::vector<AuditLine> FindAuditLines(Database& database, const char* table, Key key, Key most);
+
+} // namespace kova::family

@@ -1,0 +1,63 @@
+#include "family/data/checks/store_check.hpp"
+
+#include "family/data/engine/data_source.hpp"
+
+namespace kova::family {
+
+namespace {
+
+void CheckFile(Database& database, StoreReport& report)
+{
+    std::string verdict;
+    database.Session() << "pragma integrity_check(1)", soci::into(verdict);
+    if (verdict != "ok")
+        report.problems.push_back("O banco de dados \"" + database.Path() + "\" está danificado: " + verdict);
+}
+
+/// The pages are the server's own matter. A restoration that has failed half-way leaves tables without their
+/// constraints, or with such as the rows were never held against.
+void CheckServer(Database& database, StoreReport& report)
+{
+    std::size_t held = 0;
+    database.Session() << "select count(*) from pg_constraint where contype = 'f' and convalidated"
+                          " and connamespace = current_schema()::regnamespace",
+        soci::into(held);
+    if (held < References().size())
+        report.problems.push_back("O servidor confere só " + std::to_string(held) + " das "
+                                  + std::to_string(References().size())
+                                  + " referências entre as tabelas. Restaure uma cópia em um banco vazio.");
+}
+
+void CheckReferences(Database& database, StoreReport& report)
+{
+    for (const Reference& reference : References()) {
+        const std::string table = reference.table, column = reference.column;
+        long long lost = 0;
+        database.Session() << "select count(*) from " + table + " t where t." + column
+                + " is not null and not exists (select 1 from " + reference.target + " alvo where alvo."
+                + reference.key + " = t." + column + ")",
+            soci::into(lost);
+        if (lost > 0)
+            report.problems.push_back(table + ": " + std::to_string(lost) + " referências sem registro em "
+                                      + column + ".");
+    }
+}
+
+} // namespace
+
+StoreReport CheckStore(const std::string& path)
+{
+    const std::unique_ptr<Database> database = OpenForReading(path);
+    StoreReport report;
+    try {
+        report.version = StoredVersion(database->Session());
+        database->GetDialect().IsServer() ? CheckServer(*database, report) : CheckFile(*database, report);
+        CheckReferences(*database, report);
+        report.tables = CountRows(*database);
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(path, cause);
+    }
+    return report;
+}
+
+} // namespace kova::family

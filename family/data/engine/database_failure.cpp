@@ -1,0 +1,142 @@
+#include "family/data/engine/database_failure.hpp"
+
+#include "agenda/contracts/failure_detail.hpp"
+
+#include <soci/postgresql/soci-postgresql.h>
+#include <soci/soci.h>
+
+namespace kova::family {
+
+namespace {
+
+struct Translation {
+    std::string_view reported;
+    Fault fault;
+    std::string_view cause;
+};
+
+constexpr Translation Translations[] = {
+    {"is full", Fault::Shortage,
+     "O disco está cheio. Libere espaço e tente novamente; nada do que estava gravado se perdeu."},
+    {"is locked", Fault::Locked,
+     "O banco de dados está em uso por outro programa. Feche-o e tente novamente."},
+    {"readonly", Fault::Lasting,
+     "O banco de dados não aceita gravação. Verifique as permissões do arquivo e da pasta."},
+    {"not a database", Fault::Lasting, "O arquivo não é um banco de dados. Escolha outro arquivo."},
+    {"malformed", Fault::Lasting,
+     "O banco de dados está danificado. Restaure a cópia de segurança mais recente."},
+    {"unable to open", Fault::Lasting,
+     "O arquivo não pode ser aberto. Verifique o caminho e as permissões da pasta."},
+    {"I/O error", Fault::Lasting,
+     "O disco não respondeu à leitura ou à gravação. Verifique o disco e tente novamente."},
+    {"interrupted", Fault::Lasting, "O trabalho foi interrompido antes do fim; nada foi gravado."},
+};
+
+/// A state of a server, or the class of states that begin with it.
+struct ServerState {
+    std::string_view state;
+    Fault fault;
+    std::string_view cause;
+};
+
+constexpr std::string_view Lost =
+    "A conexão com o servidor foi perdida. Verifique a rede e se o servidor está ligado, e tente novamente.";
+
+/// Of what the engine reports and nobody has foreseen.
+constexpr std::string_view Refused = "O banco de dados recusou o pedido. Tente novamente.";
+
+/// In the place of a state where the client library reports what no server has told.
+constexpr std::string_view NoState = "     ";
+
+// The first that fits counts.
+constexpr ServerState ServerStates[] = {
+    {"08001", Fault::ConnectionLost,
+     "O servidor não pode ser alcançado. Verifique a rede, e se o servidor está ligado e o endereço está"
+     " certo."},
+    {"08", Fault::ConnectionLost, Lost},
+    {NoState, Fault::ConnectionLost, Lost},
+    {"57P03", Fault::ConnectionLost,
+     "O servidor está iniciando ou encerrando. Aguarde um momento e tente novamente."},
+    {"57P04", Fault::Lasting, "O banco de dados foi apagado no servidor. Fale com quem cuida dele."},
+    {"57P", Fault::ConnectionLost,
+     "O servidor encerrou a conexão, como faz quando é desligado ou reiniciado. Tente novamente."},
+    {"25P03", Fault::ConnectionLost, "O servidor encerrou a conexão, que esperou demais. Tente novamente."},
+    {"53300", Fault::ConnectionLost,
+     "O servidor já tem todas as conexões que aceita. Feche programas que o usam, ou aumente o limite dele."},
+    {"53100", Fault::Shortage,
+     "O disco do servidor está cheio. Libere espaço nele e tente novamente; nada do que estava gravado se"
+     " perdeu."},
+    {"53", Fault::Shortage, "O servidor está sem recursos. Tente novamente mais tarde."},
+    {"40", Fault::Collision, "Outros postos gravavam os mesmos registros ao mesmo tempo. Tente novamente."},
+    {"55P03", Fault::Locked,
+     "Outro posto está gravando o mesmo registro. Aguarde um momento e tente novamente."},
+    {"57014", Fault::Shortage, "O servidor demorou demais e a operação foi interrompida. Tente novamente."},
+    {"28P01", Fault::Lasting,
+     "O servidor não aceitou o usuário ou a senha. Verifique o usuário no endereço e a senha no arquivo de"
+     " senhas (~/.pgpass)."},
+    {"28", Fault::Lasting,
+     "O servidor não aceita este usuário a partir deste computador, ou só com uma conexão protegida (TLS)."
+     " Fale com quem cuida do servidor."},
+    {"3D000", Fault::Lasting,
+     "Esse banco de dados não existe no servidor. Verifique o nome, ou peça que ele seja criado."},
+    {"42501", Fault::Lasting, "O usuário não tem permissão para isso no servidor. Fale com quem cuida dele."},
+    {"25006", Fault::Lasting,
+     "O servidor só aceita leitura, como uma réplica. Informe o endereço do servidor principal."},
+    {"58", Fault::Lasting, "O disco do servidor falhou. Fale com quem cuida dele."},
+};
+
+std::string MessageOf(const std::runtime_error& cause)
+{
+    if (const auto* reported = dynamic_cast<const soci::soci_error*>(&cause))
+        return reported->get_error_message();
+    return cause.what();
+}
+
+std::string Opening(const std::string& path) { return "Falha no banco de dados \"" + path + "\".\r\n"; }
+
+} // namespace
+
+bool IsPassing(Fault fault)
+{
+    switch (fault) {
+    case Fault::ConnectionLost:
+    case Fault::Collision:
+    case Fault::Locked:
+    case Fault::Shortage: return true;
+    case Fault::Lasting:
+    case Fault::InDoubt: break;
+    }
+    return false;
+}
+
+StoreFailure DatabaseFailure(std::string text) { return {std::move(text), Fault::Lasting}; }
+
+StoreFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported)
+{
+    for (const ServerState& known : ServerStates) {
+        if (state.starts_with(known.state))
+            return {WithDetail(Opening(path).append(known.cause), reported), known.fault,
+                    std::string(known.cause)};
+    }
+    return DatabaseFailure(WithDetail(Opening(path).append(Refused), reported));
+}
+
+StoreFailure LostConnection(const std::string& path)
+{
+    return {Opening(path).append(Lost), Fault::ConnectionLost, std::string(Lost)};
+}
+
+StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause)
+{
+    const std::string message = MessageOf(cause);
+    if (const auto* reported = dynamic_cast<const soci::postgresql_soci_error*>(&cause))
+        return ServerFailure(path, reported->sqlstate(), message);
+    for (const Translation& translation : Translations) {
+        if (message.find(translation.reported) != std::string::npos)
+            return {WithDetail(Opening(path).append(translation.cause), message), translation.fault,
+                    std::string(translation.cause)};
+    }
+    return DatabaseFailure(WithDetail(Opening(path).append(Refused), message));
+}
+
+} // namespace kova::family

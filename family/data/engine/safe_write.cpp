@@ -1,0 +1,130 @@
+#include "family/data/engine/safe_write.hpp"
+
+#include "family/data/engine/write_transaction.hpp"
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <random>
+#include <thread>
+
+namespace kova::family {
+
+namespace {
+
+constexpr int MostAttempts = 4;
+constexpr std::chrono::milliseconds FirstWait(20);
+
+/// Text that no other write has.
+std::string NewMark()
+{
+    std::random_device random;
+    std::string mark;
+    for (int part = 0; part < 4; ++part) {
+        std::array<char, 9> digits{};
+        std::snprintf(digits.data(), digits.size(), "%08x", static_cast<unsigned>(random()));
+        mark += digits.data();
+    }
+    return mark;
+}
+
+/// The prepared writing of marks.
+class MarkInsertion : public KeptStatement {
+public:
+    explicit MarkInsertion(Database& database)
+        : statement_((database.Session().prepare << database.GetDialect().markWrite,
+                      soci::use(mark_, "identificador")))
+    {
+    }
+
+    /// False where the mark stands there already.
+    bool Run(const std::string& mark)
+    {
+        mark_ = mark;
+        statement_.execute(true);
+        return statement_.get_affected_rows() == 1;
+    }
+
+private:
+    std::string mark_;
+    soci::statement statement_;
+};
+
+class SafeWrite {
+public:
+    SafeWrite(Database& database, const std::function<bool()>& write) : database_(database), write_(write) { }
+
+    void Run()
+    {
+        for (int attempt = 1;; ++attempt) {
+            try {
+                return Try();
+            } catch (const StoreFailure& failure) {
+                if (attempt == MostAttempts || !IsWorthAnother(failure))
+                    throw Told(failure);
+            }
+            std::this_thread::sleep_for(attempt * attempt * FirstWait);
+        }
+    }
+
+private:
+    void Try()
+    {
+        WriteTransaction transaction(database_);
+        if (!MarkIsNew())
+            return;
+        mayBeKept_ = false;
+        if (write_())
+            Commit(transaction);
+    }
+
+    bool MarkIsNew()
+    {
+        if (!database_.GetDialect().IsServer())
+            return true;
+        return database_.With<MarkInsertion>([&](MarkInsertion& insertion) { return insertion.Run(mark_); });
+    }
+
+    void Commit(WriteTransaction& transaction)
+    {
+        try {
+            transaction.Commit();
+        } catch (const StoreFailure& failure) {
+            mayBeKept_ = failure.GetFault() == Fault::ConnectionLost;
+            throw;
+        }
+    }
+
+    /// Not where there is no connection to be had: the attempt to make one has waited long enough.
+    bool IsWorthAnother(const StoreFailure& failure) const
+    {
+        if (!database_.IsConnected())
+            return false;
+        return mayBeKept_ || failure.GetFault() == Fault::ConnectionLost
+            || failure.GetFault() == Fault::Collision;
+    }
+
+    /// The failure with what has become of the write, where somebody may wonder.
+    StoreFailure Told(const StoreFailure& failure) const
+    {
+        if (mayBeKept_)
+            return {failure.Description()
+                        + "\r\nNão foi possível saber se a gravação foi concluída. Quando o servidor voltar, "
+                          "atualize a lista e confira antes de gravar de novo.",
+                    Fault::InDoubt};
+        if (!IsPassing(failure.GetFault()))
+            return failure;
+        return {failure.Description() + "\r\nNada foi gravado.", failure.GetFault(), failure.Cause()};
+    }
+
+    Database& database_;
+    const std::function<bool()>& write_;
+    const std::string mark_ = NewMark();
+    bool mayBeKept_ = false;
+};
+
+} // namespace
+
+void WriteSafely(Database& database, const std::function<bool()>& write) { SafeWrite(database, write).Run(); }
+
+} // namespace kova::family

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "family/data/engine/database_failure.hpp"
+
+#include <optional>
+#include <string>
+
+namespace kova::family {
+
+/// Whether a data source is a database server ("postgresql://...") and not a file.
+bool IsServer(const std::string& source);
+
+/// Why a server's address cannot be used, in Portuguese; nothing where it can. Asks nobody. The text never
+/// repeats a password.
+std::optional<std::string> CheckAddress(const std::string& address);
+
+/// The address as the client library is given it, with what it leaves open: waits that end when the server or
+/// the network is gone, the name of this program, and the encoding of its texts.
+std::string ConnectionTo(const std::string& address);
+
+/// Asks the server once more, to find out why it let nobody in. `cause` is what was reported at first.
+StoreFailure RefusalOfServer(const std::string& address, const std::string& connection,
+                             const std::runtime_error& cause);
+
+} // namespace kova::family

@@ -1,0 +1,93 @@
+#include "family/data/engine/unfinished_file.hpp"
+
+#include "agenda/contracts/failure_detail.hpp"
+#include "family/data/engine/file_checks.hpp"
+#include "system/flush.hpp"
+#include "system/path_text.hpp"
+#include "system/rename.hpp"
+#include "system/want_of_room.hpp"
+
+namespace kova::family {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string AdviceFor(const std::error_code& cause)
+{
+    if (system::IsWantOfRoom(cause))
+        return "O disco está cheio. Libere espaço e tente novamente.";
+    if (cause == std::errc::no_such_file_or_directory)
+        return "A pasta não existe. Verifique o caminho.";
+    if (cause == std::errc::permission_denied || cause == std::errc::operation_not_permitted
+        || cause == std::errc::read_only_file_system)
+        return "Verifique as permissões da pasta ou escolha outra.";
+    return "Verifique o caminho e tente novamente.";
+}
+
+/// With the log files that the engine may have put beside it. What cannot be removed stays.
+void RemoveUnfinished(const std::string& path)
+{
+    std::error_code ignored;
+    for (const char* companion : {"", "-wal", "-shm", "-journal"})
+        fs::remove(system::PathOf(UnfinishedName(path) + companion), ignored);
+}
+
+} // namespace
+
+StoreFailure UnwritableFile(const std::string& path, const std::error_code& cause)
+{
+    if (cause == std::errc::file_exists)
+        return DatabaseFailure("O arquivo \"" + path
+                               + "\" já existe. Escolha outro nome ou apague o arquivo.");
+    return DatabaseFailure(
+        WithDetail("O arquivo \"" + path + "\" não pode ser gravado. " + AdviceFor(cause), cause.message()));
+}
+
+std::string UnfinishedName(const std::string& path) { return path + ".parcial"; }
+
+UnfinishedFile::UnfinishedFile(std::string path) : path_(std::move(path)), name_(UnfinishedName(path_))
+{
+    if (const auto refusal = CheckNewFile(path_))
+        throw DatabaseFailure(*refusal);
+    RemoveAbandoned(path_);
+    std::error_code cause;
+    lock_ = system::FileLock::Try(name_, system::FileLock::Missing::Make, cause);
+    if (lock_.IsHeld())
+        return;
+    if (cause == std::errc::resource_unavailable_try_again)
+        throw DatabaseFailure("O arquivo \"" + path_
+                              + "\" está sendo feito por outro programa. Espere que ele termine.");
+    throw UnwritableFile(path_, cause);
+}
+
+UnfinishedFile::~UnfinishedFile()
+{
+    if (!finished_)
+        RemoveUnfinished(path_);
+}
+
+void UnfinishedFile::Finish()
+{
+    try {
+        system::FlushFile(name_);
+        system::RenameWithoutReplacing(name_, path_);
+        system::FlushFolder(system::TextOf(system::PathOf(path_).parent_path()));
+    } catch (const fs::filesystem_error& cause) {
+        throw UnwritableFile(path_, cause.code());
+    }
+    finished_ = true;
+}
+
+bool RemoveAbandoned(const std::string& path)
+{
+    std::error_code cause;
+    const system::FileLock lock =
+        system::FileLock::Try(UnfinishedName(path), system::FileLock::Missing::Fail, cause);
+    if (!lock.IsHeld())
+        return cause == std::errc::resource_unavailable_try_again;
+    RemoveUnfinished(path);
+    return false;
+}
+
+} // namespace kova::family

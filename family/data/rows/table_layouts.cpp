@@ -1,0 +1,88 @@
+#include "family/data/rows/table_layouts.hpp"
+
+#include "family/data/migrations/migrations.hpp"
+
+#include <algorithm>
+#include <iterator>
+
+namespace kova::family {
+
+namespace {
+
+constexpr StoredTable Tables[] = {
+    {"empresa", "codigo"},
+    {"usuario", "codigo"},
+    {"tipo_de_servico", "numero"},
+    {"servico", "codigo"},
+    {"funcionario", "codigo"},
+    {"especie", "codigo"},
+    {"raca", "codigo"},
+    {"feriado", "codigo"},
+    {"cliente", "codigo"},
+    {"canal_de_comunicacao", "codigo"},
+    {"animal", "codigo"},
+    {"pacote", "codigo"},
+    {"agendamento", "numero"},
+    {"pre_venda", "codigo"},
+    {"auditoria", "codigo"},
+    {"gravacao", "identificador", 4, false},
+};
+
+constexpr Reference AllReferences[] = {
+    {"servico", "numero_do_tipo_de_servico", "tipo_de_servico", "numero"},
+    {"raca", "codigo_da_especie", "especie", "codigo"},
+    {"canal_de_comunicacao", "codigo_do_cliente", "cliente", "codigo"},
+    {"animal", "codigo_do_cliente", "cliente", "codigo"},
+    {"animal", "codigo_da_raca", "raca", "codigo"},
+    {"pacote", "codigo_do_servico", "servico", "codigo"},
+    {"agendamento", "codigo_do_cliente", "cliente", "codigo"},
+    {"agendamento", "codigo_do_animal", "animal", "codigo"},
+    {"agendamento", "numero_do_tipo_de_servico", "tipo_de_servico", "numero"},
+    {"agendamento", "codigo_do_servico", "servico", "codigo"},
+    {"agendamento", "codigo_do_funcionario", "funcionario", "codigo"},
+    {"agendamento", "codigo_do_pacote", "pacote", "codigo"},
+};
+
+} // namespace
+
+std::span<const StoredTable> StoredTables() { return Tables; }
+
+std::span<const Reference> References() { return AllReferences; }
+
+std::vector<StoredTable> StoredTables(Database& database)
+{
+    const int version = StoredVersion(database.Session());
+    std::vector<StoredTable> tables;
+    std::copy_if(std::begin(Tables), std::end(Tables), std::back_inserter(tables),
+                 [&](const StoredTable& table) { return table.since <= version; });
+    return tables;
+}
+
+// Asked of the database instead of kept in a list: a column that a later version of the schema brings
+// cannot be forgotten then.
+std::vector<Column> ColumnsOf(Database& database, const char* table)
+{
+    soci::row row;
+    soci::statement statement =
+        (database.Session().prepare << std::string("select * from ") + table + " where 1 = 0",
+         soci::into(row));
+    statement.execute();
+    std::vector<Column> columns;
+    for (std::size_t at = 0; at < row.size(); ++at) {
+        const soci::column_properties& properties = row.get_properties(at);
+        columns.push_back({properties.get_name(), properties.get_data_type() == soci::dt_string});
+    }
+    return columns;
+}
+
+std::vector<TableCount> CountRows(Database& database)
+{
+    std::vector<TableCount> counts;
+    for (const StoredTable& table : StoredTables(database)) {
+        TableCount& count = counts.emplace_back(TableCount{table.name});
+        database.Session() << std::string("select count(*) from ") + table.name, soci::into(count.rows);
+    }
+    return counts;
+}
+
+} // namespace kova::family

@@ -1,0 +1,42 @@
+#include "family/data/stores/new_shop.hpp"
+
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/rows/insert_new_row.hpp"
+#include "family/data/stores/national_holidays.hpp"
+
+namespace kova::family {
+
+namespace {
+
+/// In the order of their numbers; those before the last are clinical.
+constexpr const char* ServiceTypes[] = {"Consulta", "Retorno", "Vacinação", "Banho e tosa"};
+
+constexpr const char* Species[] = {"Canina", "Felina"};
+constexpr const char* AnyBreed = "Sem raça definida";
+
+// The engine numbers the rows, so that its numbers go on behind them.
+void Fill(Database& database, const NewShop& shop)
+{
+    if (!shop.company.empty())
+        InsertNew(database, CompanyRow{0, shop.company, shop.company, "", "", ""});
+    InsertNew(database, UserRow{0, shop.user});
+    InsertNew(database, EmployeeRow{0, shop.employee, shop.employee, FoldText(shop.employee)});
+    for (const char* name : ServiceTypes)
+        InsertNew(database, ServiceTypeRow{0, name, FoldText(name)});
+    for (const char* name : Species) {
+        const Key species = InsertNew(database, SpeciesRow{0, name, FoldText(name)});
+        InsertNew(database, BreedRow{0, species, AnyBreed, FoldText(AnyBreed)});
+    }
+    for (const HolidayRow& holiday : NationalHolidays(FirstHolidayYear, LastHolidayYear))
+        InsertNew(database, holiday);
+}
+
+} // namespace
+
+void CreateNewShop(const std::string& source, const NewShop& shop)
+{
+    CreateDatabase(source, [&](Database& database) { Fill(database, shop); });
+}
+
+} // namespace kova::family
