@@ -5,8 +5,8 @@
 #include "bench/list_program.hpp"
 #include "bench/measure.hpp"
 #include "bench/paint_watch.hpp"
-#include "family/data/selections/day_selection.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/selections/day_selection.hpp"
 
 #include <stdexcept>
 

@@ -6,8 +6,8 @@
 #include "bench/measured_days.hpp"
 #include "bench/raw_database.hpp"
 #include "family/business/agenda.hpp"
-#include "family/data/selections/day_selection.hpp"
 #include "family/data/engine/dialect.hpp"
+#include "family/data/selections/day_selection.hpp"
 
 #include <iostream>
 #include <stdexcept>

@@ -4,8 +4,8 @@
 #include "agenda/contracts/date_time.hpp"
 #include "bench/measure.hpp"
 #include "bench/process_run.hpp"
-#include "family/data/selections/day_selection.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/selections/day_selection.hpp"
 
 #include <iostream>
 

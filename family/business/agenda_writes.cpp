@@ -16,7 +16,7 @@ WriteAnswer AnswerOrNothing(const std::function<WriteAnswer()>& write)
 {
     try {
         return write();
-    } catch (const StoreFailure& failure) {
+    } catch (const DatabaseFailure& failure) {
         if (!IsPassing(failure.GetFault()))
             throw;
         return WriteAnswer::InvalidField(NoField, "Nada foi gravado.\r\n" + failure.Cause());

@@ -1,10 +1,10 @@
 #include "family/business/appointment_history.hpp"
 
 #include "family/business/shown_values.hpp"
-#include "family/data/stores/appointment_rows.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audit_lines.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/register_names.hpp"
 
 #include <algorithm>

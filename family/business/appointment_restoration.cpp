@@ -2,12 +2,12 @@
 
 #include "family/business/employee_room.hpp"
 #include "family/business/write_in_transaction.hpp"
-#include "family/data/stores/appointment_status.hpp"
-#include "family/data/stores/appointment_store.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audited_row.hpp"
-#include "family/data/rows/find_by_key.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/find_by_key.hpp"
+#include "family/data/stores/appointment_status.hpp"
+#include "family/data/stores/appointment_store.hpp"
 
 namespace kova::family {
 

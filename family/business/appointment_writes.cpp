@@ -4,10 +4,10 @@
 #include "family/business/booking.hpp"
 #include "family/business/pre_sale_rules.hpp"
 #include "family/business/write_in_transaction.hpp"
-#include "family/data/stores/appointment_status.hpp"
-#include "family/data/stores/appointment_store.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/find_by_key.hpp"
+#include "family/data/stores/appointment_status.hpp"
+#include "family/data/stores/appointment_store.hpp"
 
 namespace kova::family {
 

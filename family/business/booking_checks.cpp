@@ -1,9 +1,9 @@
 #include "family/business/booking.hpp"
 #include "family/business/clean_text.hpp"
 #include "family/business/repetition.hpp"
+#include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/booking_registers.hpp"
-#include "family/data/rows/find_by_key.hpp"
 
 #include <span>
 

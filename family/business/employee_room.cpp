@@ -1,7 +1,7 @@
 #include "family/business/employee_room.hpp"
 
-#include "family/data/stores/booked_times.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/stores/booked_times.hpp"
 
 #include <algorithm>
 

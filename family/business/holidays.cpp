@@ -3,8 +3,8 @@
 #include "agenda/contracts/platform.hpp"
 #include "agenda/contracts/text.hpp"
 #include "family/business/selection_arguments.hpp"
-#include "family/data/selections/holiday_selection.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/selections/holiday_selection.hpp"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 #include "family/business/appointment_merge.hpp"
 #include "family/business/pre_sale_rules.hpp"
 #include "family/business/write_in_transaction.hpp"
-#include "family/data/stores/appointment_status.hpp"
 #include "family/data/engine/database.hpp"
+#include "family/data/stores/appointment_status.hpp"
 
 #include <optional>
 #include <vector>

@@ -1,8 +1,8 @@
 #include "family/demo/appointments.hpp"
 
-#include "family/data/stores/appointment_rows.hpp"
-#include "family/data/rows/insert_row.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 #include "family/demo/day_book.hpp"
 #include "family/demo/words.hpp"
 

@@ -1,9 +1,9 @@
 #include "family/demo/customers.hpp"
 
-#include "family/data/stores/customer_store.hpp"
 #include "family/data/checks/documents.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/stores/customer_store.hpp"
 #include "family/demo/words.hpp"
 
 #include <algorithm>

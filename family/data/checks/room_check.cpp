@@ -1,5 +1,5 @@
-#include "family/data/engine/iso_text.hpp"
 #include "family/data/checks/rule_check.hpp"
+#include "family/data/engine/iso_text.hpp"
 
 #include <set>
 

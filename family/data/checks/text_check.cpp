@@ -1,7 +1,7 @@
+#include "family/data/checks/rule_check.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/nullable.hpp"
-#include "family/data/checks/rule_check.hpp"
 
 namespace kova::family {
 

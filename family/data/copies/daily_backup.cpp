@@ -1,9 +1,9 @@
 #include "family/data/copies/daily_backup.hpp"
 
+#include "family/data/copies/store_backup.hpp"
 #include "family/data/engine/database_failure.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/server_connection.hpp"
-#include "family/data/copies/store_backup.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "system/path_text.hpp"
 

@@ -1,7 +1,7 @@
 #include "family/data/copies/row_copy.hpp"
 
-#include "family/data/rows/numbering.hpp"
 #include "family/data/engine/snapshot.hpp"
+#include "family/data/rows/numbering.hpp"
 
 #include <limits>
 

@@ -1,8 +1,8 @@
 #include "family/data/copies/trial_restore.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/copies/online_copy.hpp"
+#include "family/data/engine/data_source.hpp"
 #include "system/flush.hpp"
 
 #include <algorithm>

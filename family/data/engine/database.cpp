@@ -54,7 +54,7 @@ void Database::Reconnect()
         const auto start = std::chrono::steady_clock::now();
         try {
             return Connect();
-        } catch (const StoreFailure& failure) {
+        } catch (const DatabaseFailure& failure) {
             const bool soon = std::chrono::steady_clock::now() - start < LongAttempt;
             if (failure.GetFault() != Fault::ConnectionLost || !soon)
                 throw;
@@ -70,7 +70,7 @@ void Database::RequireConnection() const
         throw LostConnection(path_);
 }
 
-bool Database::MayRunAgainAfter(const StoreFailure& failure) const
+bool Database::MayRunAgainAfter(const DatabaseFailure& failure) const
 {
     return failure.GetFault() == Fault::ConnectionLost && !inTransaction_;
 }

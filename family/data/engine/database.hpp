@@ -41,13 +41,13 @@ public:
     RowVersions& Versions() { return versions_; }
 
     /// Runs `use` with the kept statement of that class, preparing it at the first use. What the engine
-    /// reports comes out as a StoreFailure; the statement that failed is then prepared anew at its next use.
-    /// Where the connection is lost, and no transaction with it, `use` runs once more on a new one.
+    /// reports comes out as a DatabaseFailure; the statement that failed is then prepared anew at its next
+    /// use. Where the connection is lost, and no transaction with it, `use` runs once more on a new one.
     template <class Statement, class Use> auto With(Use use)
     {
         try {
             return RunWith<Statement>(use);
-        } catch (const StoreFailure& failure) {
+        } catch (const DatabaseFailure& failure) {
             if (!MayRunAgainAfter(failure))
                 throw;
             Reconnect();
@@ -59,7 +59,8 @@ public:
     bool IsConnected() const { return connected_; }
 
     /// Connects anew and forgets the statements prepared before. Waits a moment for a server that is just
-    /// starting. Fails with a StoreFailure where there is no connection after that; the next use tries again.
+    /// starting. Fails with a DatabaseFailure where there is no connection after that; the next use tries
+    /// again.
     void Reconnect();
 
     /// While a transaction is open nothing runs again: what came before is lost with the connection.
@@ -88,7 +89,7 @@ private:
     void Connect();
     /// Fails as a lost connection does where the last attempt to connect has failed.
     void RequireConnection() const;
-    bool MayRunAgainAfter(const StoreFailure& failure) const;
+    bool MayRunAgainAfter(const DatabaseFailure& failure) const;
 
     const Dialect& dialect_;
     std::string connection_, path_;

@@ -109,9 +109,7 @@ bool IsPassing(Fault fault)
     return false;
 }
 
-StoreFailure DatabaseFailure(std::string text) { return {std::move(text), Fault::Lasting}; }
-
-StoreFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported)
+DatabaseFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported)
 {
     for (const ServerState& known : ServerStates) {
         if (state.starts_with(known.state))
@@ -121,12 +119,12 @@ StoreFailure ServerFailure(const std::string& path, std::string_view state, cons
     return DatabaseFailure(WithDetail(Opening(path).append(Refused), reported));
 }
 
-StoreFailure LostConnection(const std::string& path)
+DatabaseFailure LostConnection(const std::string& path)
 {
     return {Opening(path).append(Lost), Fault::ConnectionLost, std::string(Lost)};
 }
 
-StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause)
+DatabaseFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause)
 {
     const std::string message = MessageOf(cause);
     if (const auto* reported = dynamic_cast<const soci::postgresql_soci_error*>(&cause))

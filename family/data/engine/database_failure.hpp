@@ -8,10 +8,10 @@
 
 namespace kova::family {
 
-/// The number under which every failure of the data store reaches the error screen.
+/// The number under which every failure of the database reaches the error screen.
 inline constexpr std::int32_t DatabaseFailureNumber = -2147467259;
 
-/// What can be done about a failure of the data store.
+/// What can be done about a failure of the database.
 enum class Fault {
     /// Nothing; the same would fail again.
     Lasting,
@@ -30,11 +30,13 @@ enum class Fault {
 /// Whether the same may succeed later although nobody changes it. Of a write that fails so, nothing remains.
 bool IsPassing(Fault fault);
 
-/// A failure of the data store; the text is Portuguese, names the path, and says what to do.
-class StoreFailure : public Failure {
+/// A failure of the database; the text is Portuguese, names the path, and says what to do.
+class DatabaseFailure : public Failure {
 public:
+    /// A lasting one.
+    explicit DatabaseFailure(std::string text) : DatabaseFailure(std::move(text), Fault::Lasting) { }
     /// `cause` is the part of the text that is for everybody: without the path and the engine's own words.
-    StoreFailure(std::string text, Fault fault, std::string cause = {})
+    DatabaseFailure(std::string text, Fault fault, std::string cause = {})
         : Failure(DatabaseFailureNumber, std::move(text)), fault_(fault), cause_(std::move(cause))
     {
     }
@@ -48,16 +50,13 @@ private:
     std::string cause_;
 };
 
-/// A lasting one.
-StoreFailure DatabaseFailure(std::string text);
-
 /// What the database library reports, told from the state that the server gave it, or from its message.
-StoreFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause);
+DatabaseFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause);
 
 /// What a server reports under a state of five characters (SQLSTATE); `reported` is its detail.
-StoreFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported);
+DatabaseFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported);
 
 /// A connection that was lost before and could not be made again.
-StoreFailure LostConnection(const std::string& path);
+DatabaseFailure LostConnection(const std::string& path);
 
 } // namespace kova::family

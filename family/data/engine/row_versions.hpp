@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/rows/rows.hpp"
+#include "family/data/engine/key.hpp"
 
 #include <deque>
 #include <memory>

@@ -59,7 +59,7 @@ public:
         for (int attempt = 1;; ++attempt) {
             try {
                 return Try();
-            } catch (const StoreFailure& failure) {
+            } catch (const DatabaseFailure& failure) {
                 if (attempt == MostAttempts || !IsWorthAnother(failure))
                     throw Told(failure);
             }
@@ -89,14 +89,14 @@ private:
     {
         try {
             transaction.Commit();
-        } catch (const StoreFailure& failure) {
+        } catch (const DatabaseFailure& failure) {
             mayBeKept_ = failure.GetFault() == Fault::ConnectionLost;
             throw;
         }
     }
 
     /// Not where there is no connection to be had: the attempt to make one has waited long enough.
-    bool IsWorthAnother(const StoreFailure& failure) const
+    bool IsWorthAnother(const DatabaseFailure& failure) const
     {
         if (!database_.IsConnected())
             return false;
@@ -105,7 +105,7 @@ private:
     }
 
     /// The failure with what has become of the write, where somebody may wonder.
-    StoreFailure Told(const StoreFailure& failure) const
+    DatabaseFailure Told(const DatabaseFailure& failure) const
     {
         if (mayBeKept_)
             return {failure.Description()

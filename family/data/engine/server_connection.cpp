@@ -124,8 +124,8 @@ std::string ConnectionTo(const std::string& address)
     return connection;
 }
 
-StoreFailure RefusalOfServer(const std::string& address, const std::string& connection,
-                             const std::runtime_error& cause)
+DatabaseFailure RefusalOfServer(const std::string& address, const std::string& connection,
+                                const std::runtime_error& cause)
 {
     const Connection asked = Ask(connection);
     const std::string reported = PQerrorMessage(asked.get());

@@ -19,7 +19,7 @@ std::optional<std::string> CheckAddress(const std::string& address);
 std::string ConnectionTo(const std::string& address);
 
 /// Asks the server once more, to find out why it let nobody in. `cause` is what was reported at first.
-StoreFailure RefusalOfServer(const std::string& address, const std::string& connection,
-                             const std::runtime_error& cause);
+DatabaseFailure RefusalOfServer(const std::string& address, const std::string& connection,
+                                const std::runtime_error& cause);
 
 } // namespace kova::family

@@ -99,7 +99,7 @@ bool ExistsOnServer(const std::string& address)
 {
     try {
         return ReadVersion(*Connect(PostgresqlDialectForReading(), address)) > 0;
-    } catch (const StoreFailure&) {
+    } catch (const DatabaseFailure&) {
         return false;
     }
 }
@@ -109,7 +109,7 @@ std::optional<std::string> CheckServerSource(const std::string& address, Migrati
     try {
         ConnectAndCheck(PostgresqlDialectForReading(), address, migrations);
         return std::nullopt;
-    } catch (const StoreFailure& failure) {
+    } catch (const DatabaseFailure& failure) {
         return failure.Description();
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/data/engine/database.hpp"
-#include "family/data/migrations/migrations.hpp"
+#include "family/data/engine/migration.hpp"
 
 #include <functional>
 #include <optional>

@@ -8,7 +8,7 @@ namespace kova::family {
 /// others write. Where the connection is lost the moment is lost with it: nothing is read over a new one.
 class Snapshot {
 public:
-    /// Fails with a StoreFailure.
+    /// Fails with a DatabaseFailure.
     explicit Snapshot(Database& database) : database_(database)
     {
         try {

@@ -35,7 +35,7 @@ void RemoveUnfinished(const std::string& path)
 
 } // namespace
 
-StoreFailure UnwritableFile(const std::string& path, const std::error_code& cause)
+DatabaseFailure UnwritableFile(const std::string& path, const std::error_code& cause)
 {
     if (cause == std::errc::file_exists)
         return DatabaseFailure("O arquivo \"" + path

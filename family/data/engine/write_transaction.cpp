@@ -19,7 +19,7 @@ void BeginOnLiveConnection(Database& database)
     if (database.IsConnected()) {
         try {
             return Begin(database);
-        } catch (const StoreFailure& failure) {
+        } catch (const DatabaseFailure& failure) {
             if (failure.GetFault() != Fault::ConnectionLost)
                 throw;
         }

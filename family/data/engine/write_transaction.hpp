@@ -15,7 +15,7 @@ public:
     WriteTransaction(const WriteTransaction&) = delete;
     WriteTransaction& operator=(const WriteTransaction&) = delete;
 
-    /// After it the writes outlast the end of the process. Fails with a StoreFailure; nothing is written
+    /// After it the writes outlast the end of the process. Fails with a DatabaseFailure; nothing is written
     /// then, except that with Fault::ConnectionLost it is not known.
     void Commit();
 

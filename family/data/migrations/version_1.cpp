@@ -1,4 +1,7 @@
-#include "family/data/migrations/migrations.hpp"
+#include "family/data/migrations/schemas.hpp"
+
+#include <span>
+#include <utility>
 
 namespace kova::family {
 

@@ -1,4 +1,4 @@
-#include "family/data/migrations/migrations.hpp"
+#include "family/data/migrations/schemas.hpp"
 
 namespace kova::family {
 

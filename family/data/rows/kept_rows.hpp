@@ -1,7 +1,7 @@
 #pragma once
 
-#include "family/data/rows/row_statement.hpp"
 #include "family/data/engine/text_arena.hpp"
+#include "family/data/rows/row_statement.hpp"
 
 #include <string>
 #include <string_view>

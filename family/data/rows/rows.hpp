@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/data/engine/key.hpp"
 #include "family/data/engine/nullable.hpp"
 
 #include <string>
@@ -7,8 +8,6 @@
 /// The tables' rows as plain structs. Each lists its columns once, in Columns: an insertion binds them
 /// from there. Keys are given by the caller.
 namespace kova::family {
-
-using Key = long long;
 
 struct CompanyRow {
     static constexpr const char* Table = "empresa";

@@ -1,6 +1,6 @@
 #include "family/data/rows/table_layouts.hpp"
 
-#include "family/data/migrations/migrations.hpp"
+#include "family/data/engine/migration.hpp"
 
 #include <algorithm>
 #include <iterator>

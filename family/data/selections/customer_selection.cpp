@@ -1,7 +1,7 @@
 #include "family/data/selections/customer_selection.hpp"
 
-#include "family/data/selections/customer_names.hpp"
 #include "family/data/engine/search_text.hpp"
+#include "family/data/selections/customer_names.hpp"
 
 #include <algorithm>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "family/data/stores/appointment_rows.hpp"
 #include "family/data/audit/audit_lines.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 
 namespace kova::family {
 

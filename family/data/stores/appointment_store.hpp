@@ -1,7 +1,7 @@
 #pragma once
 
-#include "family/data/stores/appointment_rows.hpp"
 #include "family/data/audit/author.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 
 #include <optional>
 

@@ -1,11 +1,11 @@
 #include "tests/conformance/business/shop_database.hpp"
 
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/people_rows.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/customer_store.hpp"
-#include "family/data/engine/fold_text.hpp"
-#include "family/data/rows/insert_row.hpp"
-#include "family/data/engine/iso_text.hpp"
-#include "family/data/rows/people_rows.hpp"
 #include "tests/conformance/business/shop.hpp"
 
 namespace kova::conformance {

@@ -2,9 +2,9 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/appointment_writes.hpp"
-#include "family/data/engine/data_source.hpp"
-#include "family/data/migrations/migrations.hpp"
 #include "family/data/copies/row_copy.hpp"
+#include "family/data/engine/data_source.hpp"
+#include "family/data/engine/migration.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "tools/agenda-data/commands.hpp"
 

@@ -1,8 +1,8 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/customers.hpp"
-#include "family/data/stores/customer_store.hpp"
 #include "family/data/engine/shared_database.hpp"
+#include "family/data/stores/customer_store.hpp"
 
 namespace kova::family::test {
 

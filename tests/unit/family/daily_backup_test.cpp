@@ -2,8 +2,8 @@
 
 #include "family/data/copies/daily_backup.hpp"
 #include "family/data/engine/data_source.hpp"
-#include "family/data/rows/insert_row.hpp"
 #include "family/data/engine/unfinished_file.hpp"
+#include "family/data/rows/insert_row.hpp"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/checks/documents.hpp"
 #include "family/data/checks/store_check.hpp"
+#include "family/data/engine/data_source.hpp"
 #include "family/demo/shop.hpp"
 
 #include <set>

@@ -1,10 +1,10 @@
 #include "tests/unit/family/desk_fixture.hpp"
 
-#include "family/data/stores/appointment_rows.hpp"
 #include "family/data/engine/data_source.hpp"
-#include "family/data/rows/insert_row.hpp"
 #include "family/data/engine/shared_database.hpp"
+#include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/table_layouts.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 
 namespace kova::family::test {
 

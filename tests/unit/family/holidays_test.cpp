@@ -1,10 +1,10 @@
 #include "tests/unit/family/desk_fixture.hpp"
 
 #include "family/business/holidays.hpp"
-#include "family/data/stores/holiday_calendar.hpp"
-#include "family/data/rows/insert_row.hpp"
-#include "family/data/stores/national_holidays.hpp"
 #include "family/data/engine/shared_database.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/stores/holiday_calendar.hpp"
+#include "family/data/stores/national_holidays.hpp"
 
 namespace kova::family::test {
 

@@ -6,9 +6,9 @@
 #include "family/business/service_types.hpp"
 #include "family/business/species.hpp"
 #include "family/business/system_version.hpp"
+#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/rows.hpp"
-#include "family/data/engine/shared_database.hpp"
 
 namespace kova::family::test {
 

@@ -5,9 +5,9 @@
 
 #include "family/business/store.hpp"
 #include "family/data/engine/data_source.hpp"
-#include "family/data/rows/insert_row.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/shared_database.hpp"
+#include "family/data/rows/insert_row.hpp"
 
 #include <netinet/in.h>
 #include <sys/socket.h>

@@ -1,13 +1,13 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/agenda.hpp"
-#include "family/data/stores/appointment_rows.hpp"
-#include "family/data/stores/customer_store.hpp"
 #include "family/data/engine/data_source.hpp"
 #include "family/data/engine/fold_text.hpp"
+#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/people_rows.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/stores/appointment_rows.hpp"
+#include "family/data/stores/customer_store.hpp"
 #include "tests/support/data_places.hpp"
 
 #include <fstream>

@@ -1,8 +1,9 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/data/engine/data_source.hpp"
-#include "family/data/rows/insert_row.hpp"
 #include "family/data/engine/snapshot.hpp"
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/rows.hpp"
 #include "family/data/rows/table_layouts.hpp"
 
 namespace kova::family::test {

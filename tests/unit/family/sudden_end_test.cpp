@@ -6,8 +6,8 @@
 #include "agenda/contracts/date_time.hpp"
 #include "family/business/appointment_writes.hpp"
 #include "family/data/engine/data_source.hpp"
-#include "family/data/rows/insert_row.hpp"
 #include "family/data/engine/shared_database.hpp"
+#include "family/data/rows/insert_row.hpp"
 #include "family/demo/random.hpp"
 
 #include <poll.h>
@@ -134,7 +134,7 @@ void BookOnAndOn(const std::string& dataSource, int round, int told)
             const std::string remark = std::to_string(round) + "." + std::to_string(series);
             if (AddAppointments(*database, Series("01/12/2026", remark), Somebody).IsDone())
                 Tell(told, series);
-        } catch (const StoreFailure& failure) {
+        } catch (const DatabaseFailure& failure) {
             if (failure.GetFault() != Fault::ConnectionLost && failure.GetFault() != Fault::InDoubt)
                 throw;
         }

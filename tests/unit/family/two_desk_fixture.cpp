@@ -5,8 +5,8 @@
 #include "family/business/appointment_fields.hpp"
 #include "family/business/status_change.hpp"
 #include "family/data/engine/data_source.hpp"
-#include "family/data/rows/find_by_key.hpp"
 #include "family/data/engine/shared_database.hpp"
+#include "family/data/rows/find_by_key.hpp"
 
 namespace kova::family::test {
 

@@ -9,7 +9,7 @@
 namespace kova::data {
 
 /// A new file that gets its name only when it is whole; what is not finished leaves nothing behind.
-/// Everything fails with a family::StoreFailure.
+/// Everything fails with a family::DatabaseFailure.
 class WholeFile {
 public:
     /// Refused where anything stands at the path already, or another program is making it.

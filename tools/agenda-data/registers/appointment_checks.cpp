@@ -1,8 +1,8 @@
 #include "tools/agenda-data/registers/appointment_checks.hpp"
 
-#include "family/data/stores/appointment_status.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/rows/select_rows.hpp"
+#include "family/data/stores/appointment_status.hpp"
 
 namespace kova::data {
 

@@ -1,17 +1,10 @@
-#include "family/data/migrations/migrations.hpp"
+#include "family/data/engine/migration.hpp"
 
 #include "family/data/engine/database.hpp"
 
 namespace kova::family {
 
 namespace {
-
-constexpr Migration Steps[] = {
-    {1, SchemaOfVersion1},
-    {2, SchemaOfVersion2},
-    {3, SchemaOfVersion3},
-    {4, SchemaOfVersion4},
-};
 
 void Run(soci::session& session, const Dialect& dialect, const Migration& migration)
 {
@@ -21,8 +14,6 @@ void Run(soci::session& session, const Dialect& dialect, const Migration& migrat
 }
 
 } // namespace
-
-Migrations CurrentMigrations() { return Steps; }
 
 int NewestVersion(Migrations migrations) { return migrations.back().version; }
 

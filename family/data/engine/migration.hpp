@@ -21,7 +21,8 @@ struct Migration {
 
 using Migrations = std::span<const Migration>;
 
-/// Every step from an empty database to the schema this program works on, in order.
+/// Every step from an empty database to the schema this program works on, in order. They stand in
+/// migrations/.
 Migrations CurrentMigrations();
 
 /// The version the last step leads to.
@@ -41,10 +42,5 @@ void Migrate(soci::session& session, const Dialect& dialect, Migrations migratio
 
 /// The same in the transaction that is open.
 void RunMissing(soci::session& session, const Dialect& dialect, Migrations migrations);
-
-std::vector<std::string> SchemaOfVersion1(const Dialect& dialect);
-std::vector<std::string> SchemaOfVersion2(const Dialect& dialect);
-std::vector<std::string> SchemaOfVersion3(const Dialect& dialect);
-std::vector<std::string> SchemaOfVersion4(const Dialect& dialect);
 
 } // namespace kova::family

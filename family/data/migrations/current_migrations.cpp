@@ -1,0 +1,19 @@
+#include "family/data/engine/migration.hpp"
+#include "family/data/migrations/schemas.hpp"
+
+namespace kova::family {
+
+namespace {
+
+constexpr Migration Steps[] = {
+    {1, SchemaOfVersion1},
+    {2, SchemaOfVersion2},
+    {3, SchemaOfVersion3},
+    {4, SchemaOfVersion4},
+};
+
+} // namespace
+
+Migrations CurrentMigrations() { return Steps; }
+
+} // namespace kova::family
