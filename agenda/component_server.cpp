@@ -1,6 +1,6 @@
 // The library's five entry points. A host registers, loads and asks for KOVA_A_Agenda.clsAgenda here.
 
-#include "agenda/contracts/component_library.hpp"
+#include "agenda/contracts/support/component_library.hpp"
 #include "agenda/list/clsAgenda.hpp"
 #include "agenda/list/module_reset.hpp"
 #include "agenda/shared/modPrincipal.hpp"

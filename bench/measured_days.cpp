@@ -1,6 +1,6 @@
 #include "bench/measured_days.hpp"
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/paged_record_set.hpp"
 
 #include <stdexcept>
 

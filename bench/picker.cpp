@@ -2,6 +2,7 @@
 // the way from the lookup to the dialog's first rows against the search alone. Usage: bench_picker DATABASE
 // dd/mm/yyyy
 
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "agenda/search/frmPesquisaDeClientes.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "bench/list_program.hpp"

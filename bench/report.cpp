@@ -1,7 +1,7 @@
 // A day's list on paper: a thousand appointments laid out and written as PDF, against the toolkit's bare
 // drawing of the same texts. Usage: bench_report FOLDER
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "agenda/printing/layouts.hpp"
 #include "bench/measure.hpp"
 #include "reports/layout.hpp"

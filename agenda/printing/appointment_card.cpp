@@ -1,5 +1,6 @@
 #include "agenda/printing/appointment_card.hpp"
 
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "agenda/contracts/text.hpp"
 #include "agenda/printing/layouts.hpp"
 #include "agenda/printing/printed_report.hpp"

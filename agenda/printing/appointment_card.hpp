@@ -1,7 +1,7 @@
 #pragma once
 
-#include "agenda/contracts/record_set.hpp"
 #include "agenda/contracts/reports.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "agenda/contracts/widgets/grid.hpp"
 
 #include <memory>

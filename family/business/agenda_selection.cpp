@@ -1,3 +1,4 @@
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "family/business/agenda.hpp"
 #include "family/business/day_record_set.hpp"
 #include "family/business/lent_record_sets.hpp"

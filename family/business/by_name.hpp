@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agenda/contracts/member_tables.hpp"
+#include "agenda/contracts/support/member_tables.hpp"
 #include "family/business/business_component.hpp"
 
 namespace kova::family {

@@ -1,5 +1,6 @@
 #include "family/business/combo_selection.hpp"
 
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "family/data/engine/fold_text.hpp"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "family/business/company.hpp"
 
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "family/business/company_selection.hpp"
 
 namespace kova::family {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/paged_record_set.hpp"
 #include "family/data/selections/customer_selection.hpp"
 
 #include <memory>

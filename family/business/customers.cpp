@@ -1,5 +1,6 @@
 #include "family/business/customers.hpp"
 
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "family/business/customer_record_set.hpp"
 #include "family/business/selection_arguments.hpp"
 #include "family/data/selections/customer_address.hpp"

@@ -1,6 +1,7 @@
 #include "family/business/holidays.hpp"
 
 #include "agenda/contracts/platform.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "agenda/contracts/text.hpp"
 #include "family/business/selection_arguments.hpp"
 #include "family/data/engine/iso_text.hpp"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/component_server.hpp"
-#include "agenda/contracts/member_tables.hpp"
+#include "agenda/contracts/support/member_tables.hpp"
 #include "family/presentation/labels/label_window.hpp"
 #include "family/presentation/labels/registered_customer.hpp"
 

@@ -1,4 +1,4 @@
-#include "agenda/contracts/component_library.hpp"
+#include "agenda/contracts/support/component_library.hpp"
 #include "family/presentation/clsEtiquetas.hpp"
 #include "family/presentation/clsFundoEscuro.hpp"
 #include "family/presentation/clsMensagem.hpp"

@@ -1,6 +1,6 @@
 #include "tools/scenario/scripted_components.hpp"
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "tests/unit/agenda/module_fixture.hpp"
 #include "toolkits/common/access_observer.hpp"
 

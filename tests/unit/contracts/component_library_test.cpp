@@ -1,4 +1,4 @@
-#include "agenda/contracts/component_library.hpp"
+#include "agenda/contracts/support/component_library.hpp"
 #include "tests/unit/contracts/failure_matcher.hpp"
 
 #include <gtest/gtest.h>

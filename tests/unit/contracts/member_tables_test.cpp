@@ -1,6 +1,6 @@
 // Members found by their names in a component's tables.
 
-#include "agenda/contracts/member_tables.hpp"
+#include "agenda/contracts/support/member_tables.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
+#include "agenda/contracts/support/paged_record_set.hpp"
 #include "tests/unit/contracts/failure_matcher.hpp"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/component_server.hpp"
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/paged_record_set.hpp"
 #include "family/data/engine/database.hpp"
 #include "tests/support/postgres_server.hpp"
 

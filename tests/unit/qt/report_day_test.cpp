@@ -1,6 +1,6 @@
 // The day that a report is about, and the name of its file.
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "reports/qt/delivery.hpp"
 #include "toolkits/qt/report_day.hpp"
 

@@ -3,7 +3,7 @@
 #include "tests/unit/qt/expected_warning.hpp"
 #include "tests/unit/qt/report_preview_fixture.hpp"
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "toolkits/qt/theme.hpp"
 
 #include <QApplication>

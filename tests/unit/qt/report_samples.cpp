@@ -1,6 +1,6 @@
 #include "tests/unit/qt/report_samples.hpp"
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "reports/layout.hpp"
 #include "reports/qt/font_metrics.hpp"
 

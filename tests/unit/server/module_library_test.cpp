@@ -1,6 +1,6 @@
 // The module as a host meets it: a shared object, found by name through the registry file.
 
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/paged_record_set.hpp"
 #include "host/components/component_error.hpp"
 #include "host/components/component_service.hpp"
 #include "host/components/profile_file.hpp"

@@ -1,4 +1,4 @@
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/memory_record_set.hpp"
 #include "tests/unit/toolkits/fixture.hpp"
 
 namespace kova::headless {

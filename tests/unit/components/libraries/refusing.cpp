@@ -1,6 +1,6 @@
 // A library that takes no host.
 
-#include "agenda/contracts/component_library.hpp"
+#include "agenda/contracts/support/component_library.hpp"
 
 using namespace kova;
 

@@ -1,8 +1,8 @@
 // A component library as small as one can be: one class that answers what the host has handed over, one
 // that fails while it is created.
 
-#include "agenda/contracts/component_library.hpp"
 #include "agenda/contracts/platform.hpp"
+#include "agenda/contracts/support/component_library.hpp"
 
 namespace {
 

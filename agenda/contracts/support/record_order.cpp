@@ -1,4 +1,4 @@
-#include "agenda/contracts/record_order.hpp"
+#include "agenda/contracts/support/record_order.hpp"
 
 #include "agenda/contracts/text.hpp"
 

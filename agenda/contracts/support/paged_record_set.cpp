@@ -1,6 +1,6 @@
-#include "agenda/contracts/record_set.hpp"
+#include "agenda/contracts/support/paged_record_set.hpp"
 
-#include "agenda/contracts/record_order.hpp"
+#include "agenda/contracts/support/record_order.hpp"
 
 namespace kova {
 
@@ -228,60 +228,6 @@ void PagedRecordSet::ResetCursor()
     order_.clear();
     sort_.clear();
     position_ = 0;
-}
-
-namespace {
-
-std::shared_ptr<MemoryRecordSet> EmptyCopy(const RecordSet& selection)
-{
-    std::vector<Text> names;
-    for (int field = 0; field < selection.FieldCount(); ++field)
-        names.push_back(selection.FieldName(field));
-    return std::make_shared<MemoryRecordSet>(std::move(names), std::vector<std::vector<Value>>());
-}
-
-std::vector<Value> CurrentRowOf(const RecordSet& selection)
-{
-    const int fields = selection.FieldCount();
-    std::vector<Value> row;
-    row.reserve(static_cast<std::size_t>(fields));
-    for (int field = 0; field < fields; ++field)
-        row.push_back(selection.Field(field));
-    return row;
-}
-
-void CopyRows(RecordSet& from, MemoryRecordSet& to, Long most)
-{
-    for (Long row = 0; row < most && !from.Eof(); ++row, from.MoveNext())
-        to.AddRow(CurrentRowOf(from));
-}
-
-/// A record set can only be sent to a page's first row, so a row inside the page is walked to.
-void ReturnTo(RecordSet& selection, Long page, Long position)
-{
-    selection.AbsolutePage(page);
-    while (selection.AbsolutePosition() < position)
-        selection.MoveNext();
-}
-
-} // namespace
-
-RecordSetRef CopyPage(RecordSet& selection, Long rowsPerPage)
-{
-    const auto copy = EmptyCopy(selection);
-    const Long page = selection.AbsolutePage();
-    if (page < 1)
-        return copy;
-    const Long position = selection.AbsolutePosition();
-    selection.AbsolutePage(page);
-    try {
-        CopyRows(selection, *copy, rowsPerPage < 1 ? 1 : rowsPerPage);
-    } catch (...) {
-        ReturnTo(selection, page, position);
-        throw;
-    }
-    ReturnTo(selection, page, position);
-    return copy;
 }
 
 } // namespace kova
