@@ -4,14 +4,14 @@
 
 namespace kova::family {
 
-FreeDays Booking::RuleForFreeDays() const
+DaysOff Booking::RuleForDaysOff() const
 {
     if (input.IsSimplified())
-        return FreeDays::Keep;
+        return DaysOff::Keep;
     // Whoever picked the dates has been asked about each of them.
     if (!IsPicked() && !input.validated)
-        return FreeDays::AskAbout;
-    return input.toWorkingDay ? FreeDays::MoveAway : FreeDays::Keep;
+        return DaysOff::AskAbout;
+    return input.toWorkingDay ? DaysOff::MoveAway : DaysOff::Keep;
 }
 
 AppointmentRow Booking::At(const TimeSpan& span) const

@@ -9,7 +9,7 @@
 namespace kova::family {
 
 /// What a booking does about dates that fall on a Sunday or a holiday.
-enum class FreeDays { Keep, AskAbout, MoveAway };
+enum class DaysOff { Keep, AskAbout, MoveAway };
 
 /// One booking on its way through the checks: what was typed, what the checks have found out, and in the end
 /// the appointments to write. It lives inside the transaction that writes.
@@ -27,7 +27,7 @@ struct Booking {
     bool Repeats() const { return adds && !input.IsSimplified(); }
     /// Whether its dates were picked by hand.
     bool IsPicked() const { return Repeats() && input.picked; }
-    FreeDays RuleForFreeDays() const;
+    DaysOff RuleForDaysOff() const;
     /// One of its appointments.
     AppointmentRow At(const TimeSpan& span) const;
 
@@ -57,6 +57,6 @@ Refusal EmployeeHasRoom(Booking& booking);
 Refusal NoDayIsFree(Booking& booking);
 /// Moves what falls on a Sunday or a holiday to the next day that is neither and has room, where the user
 /// wants that. Refused only where the calendar ends.
-Refusal FreeDaysMoveAway(Booking& booking);
+Refusal DaysOffMoveAway(Booking& booking);
 
 } // namespace kova::family

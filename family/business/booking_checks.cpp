@@ -34,7 +34,7 @@ constexpr BookingCheck ChecksOfFullRecord[] = {
     /* 7. Situacao                  */ StatusIsKnown,
     /* 8. HoraInicial               */ EmployeeHasRoom,
     /* 9. DomingoOuFeriado          */ NoDayIsFree,
-    /* 10. DataInicial              */ FreeDaysMoveAway,
+    /* 10. DataInicial              */ DaysOffMoveAway,
 };
 
 constexpr BookingCheck ChecksOfSimplifiedRecord[] = {

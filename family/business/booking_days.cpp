@@ -22,7 +22,7 @@ std::optional<Text> ReasonToRest(Booking& booking, Date date)
 
 bool MovesAway(Booking& booking, const TimeSpan& span)
 {
-    return booking.RuleForFreeDays() == FreeDays::MoveAway && ReasonToRest(booking, span.start.date);
+    return booking.RuleForDaysOff() == DaysOff::MoveAway && ReasonToRest(booking, span.start.date);
 }
 
 WriteAnswer NoRoom(const Booking& booking, const TimeSpan& clash)
@@ -76,7 +76,7 @@ Refusal EmployeeHasRoom(Booking& booking)
 
 Refusal NoDayIsFree(Booking& booking)
 {
-    if (booking.RuleForFreeDays() != FreeDays::AskAbout)
+    if (booking.RuleForDaysOff() != DaysOff::AskAbout)
         return std::nullopt;
     for (const TimeSpan& span : booking.times) {
         if (const auto reason = ReasonToRest(booking, span.start.date))
@@ -85,7 +85,7 @@ Refusal NoDayIsFree(Booking& booking)
     return std::nullopt;
 }
 
-Refusal FreeDaysMoveAway(Booking& booking)
+Refusal DaysOffMoveAway(Booking& booking)
 {
     for (TimeSpan& span : booking.times) {
         if (!MovesAway(booking, span))

@@ -6,9 +6,9 @@
 
 namespace kova::family::test {
 
-class FreeDaysRule : public BookingTest {
+class DaysOffRule : public BookingTest {
 protected:
-    FreeDaysRule()
+    DaysOffRule()
     {
         Run("insert into feriado (nome, dia, mes) values ('Natal', 25, 12)");
         Run("insert into feriado (nome, data) values ('Aniversário da cidade', '2026-12-08')");
@@ -35,7 +35,7 @@ protected:
 
 using Lines = std::vector<std::string>;
 
-TEST_F(FreeDaysRule, AsksWithTheDateAndTheReason)
+TEST_F(DaysOffRule, AsksWithTheDateAndTheReason)
 {
     const std::pair<const char*, const char*> cases[] = {
         {"06/12/2026", "A data 06/12/2026 é um domingo."},
@@ -50,14 +50,14 @@ TEST_F(FreeDaysRule, AsksWithTheDateAndTheReason)
     EXPECT_EQ(Write(*Full(On("05/12/2026"))), 0);
 }
 
-TEST_F(FreeDaysRule, AsksAlsoWhereTheFormHasTheMarkOfAnEarlierQuestion)
+TEST_F(DaysOffRule, AsksAlsoWhereTheFormHasTheMarkOfAnEarlierQuestion)
 {
     const auto desk = Full(On("06/12/2026"));
     Answer(*desk, false, true);
     ExpectRefused(*desk, "DomingoOuFeriado", "A data 06/12/2026 é um domingo.");
 }
 
-TEST_F(FreeDaysRule, KeepsTheDateOnTheSecondWriteOfTheSameObject)
+TEST_F(DaysOffRule, KeepsTheDateOnTheSecondWriteOfTheSameObject)
 {
     const auto desk = Full(On("06/12/2026"));
     ASSERT_EQ(desk->Call("Adicionar"), Value(Integer(2)));
@@ -66,7 +66,7 @@ TEST_F(FreeDaysRule, KeepsTheDateOnTheSecondWriteOfTheSameObject)
     EXPECT_EQ(Added(), Lines{"2026-12-06 09:00-2026-12-06 10:00"});
 }
 
-TEST_F(FreeDaysRule, MovesToTheNextDayThatIsNeither)
+TEST_F(DaysOffRule, MovesToTheNextDayThatIsNeither)
 {
     const std::pair<Hours, const char*> cases[] = {
         {On("06/12/2026"), "2026-12-07 09:00-2026-12-07 10:00"},
@@ -84,7 +84,7 @@ TEST_F(FreeDaysRule, MovesToTheNextDayThatIsNeither)
     }
 }
 
-TEST_F(FreeDaysRule, MovesOverFreeDaysInARow)
+TEST_F(DaysOffRule, MovesOverDaysOffInARow)
 {
     Run("insert into feriado (nome, dia, mes) values ('Ponte', 26, 12)");
     const auto desk = Full(On("25/12/2026"));
@@ -93,7 +93,7 @@ TEST_F(FreeDaysRule, MovesOverFreeDaysInARow)
     EXPECT_EQ(AddedDays(), Lines{"2026-12-28"});
 }
 
-TEST_F(FreeDaysRule, MovesToADayOnWhichTheEmployeeHasRoomAtThatTime)
+TEST_F(DaysOffRule, MovesToADayOnWhichTheEmployeeHasRoomAtThatTime)
 {
     ASSERT_EQ(Write(*Full(On("07/12/2026", "09:30", "10:30"))), 0);
     ASSERT_EQ(Write(*Full(On("09/12/2026", "08:00", "09:01"))), 0);
@@ -105,7 +105,7 @@ TEST_F(FreeDaysRule, MovesToADayOnWhichTheEmployeeHasRoomAtThatTime)
     EXPECT_EQ(Added().back(), "2026-12-10 09:00-2026-12-10 10:00");
 }
 
-TEST_F(FreeDaysRule, MovesFarWhereTheEmployeeIsBookedForMonths)
+TEST_F(DaysOffRule, MovesFarWhereTheEmployeeIsBookedForMonths)
 {
     const auto busy = Full({"07/12/2026", "08:00", "03/03/2027", "18:00"});
     ASSERT_EQ(Write(*busy), 0);
@@ -115,7 +115,7 @@ TEST_F(FreeDaysRule, MovesFarWhereTheEmployeeIsBookedForMonths)
     EXPECT_EQ(Added().back(), "2027-03-04 09:00-2027-03-04 10:00");
 }
 
-TEST_F(FreeDaysRule, DoesNotAskForRoomOnADayThatIsMovedAway)
+TEST_F(DaysOffRule, DoesNotAskForRoomOnADayThatIsMovedAway)
 {
     const auto sunday = Full(On("06/12/2026"));
     Answer(*sunday, true, false);
@@ -126,7 +126,7 @@ TEST_F(FreeDaysRule, DoesNotAskForRoomOnADayThatIsMovedAway)
     EXPECT_EQ(AddedDays(), (Lines{"2026-12-06", "2026-12-07"}));
 }
 
-TEST_F(FreeDaysRule, NamesTheRepetitionThatFallsOnAFreeDay)
+TEST_F(DaysOffRule, NamesTheRepetitionThatFallsOnAFreeDay)
 {
     const auto desk = Full(On("11/12/2026"));
     Repeat(*desk, 4, 0);
@@ -136,7 +136,7 @@ TEST_F(FreeDaysRule, NamesTheRepetitionThatFallsOnAFreeDay)
     EXPECT_EQ(AddedDays(), (Lines{"2026-12-11", "2026-12-18", "2026-12-26", "2027-01-01", "2027-01-08"}));
 }
 
-TEST_F(FreeDaysRule, MovesWithoutTakingTheRoomOfTheSameBooking)
+TEST_F(DaysOffRule, MovesWithoutTakingTheRoomOfTheSameBooking)
 {
     const auto desk = Full(On("01/12/2026"));
     Pick(*desk, {On("06/12/2026"), On("07/12/2026"), On("13/12/2026", "09:30", "10:30"), On("14/12/2026")});
@@ -145,7 +145,7 @@ TEST_F(FreeDaysRule, MovesWithoutTakingTheRoomOfTheSameBooking)
     EXPECT_EQ(AddedDays(), (Lines{"2026-12-09", "2026-12-07", "2026-12-15", "2026-12-14"}));
 }
 
-TEST_F(FreeDaysRule, MovesEverySundayOfAWeeklyBookingToADayOfItsOwn)
+TEST_F(DaysOffRule, MovesEverySundayOfAWeeklyBookingToADayOfItsOwn)
 {
     const auto desk = Full({"06/12/2026", "09:00", "06/12/2026", "10:00"});
     Repeat(*desk, 999, 0);
@@ -156,7 +156,7 @@ TEST_F(FreeDaysRule, MovesEverySundayOfAWeeklyBookingToADayOfItsOwn)
         EXPECT_NE(Weekday(ReadIsoMoment(day, "00:00").date), 1) << day;
 }
 
-TEST_F(FreeDaysRule, GoesForPickedDatesByTheMarkAlone)
+TEST_F(DaysOffRule, GoesForPickedDatesByTheMarkAlone)
 {
     for (const bool validated : {false, true}) {
         const auto kept = Full(On("01/12/2026"));
@@ -174,7 +174,7 @@ TEST_F(FreeDaysRule, GoesForPickedDatesByTheMarkAlone)
     }
 }
 
-TEST_F(FreeDaysRule, AsksWhereARecordIsAltered)
+TEST_F(DaysOffRule, AsksWhereARecordIsAltered)
 {
     ASSERT_EQ(Write(*Full(On("01/12/2026"))), 0);
     const auto desk = Over(24, Full(On("06/12/2026")));
@@ -187,7 +187,7 @@ TEST_F(FreeDaysRule, AsksWhereARecordIsAltered)
     EXPECT_EQ(AddedDays(), Lines{"2026-12-06"});
 }
 
-TEST_F(FreeDaysRule, AsksWhereARecordIsAlteredWhateverItsRepetitionSays)
+TEST_F(DaysOffRule, AsksWhereARecordIsAlteredWhateverItsRepetitionSays)
 {
     ASSERT_EQ(Write(*Full(On("01/12/2026"))), 0);
     const auto desk = Over(24, Full(On("06/12/2026")));
@@ -195,7 +195,7 @@ TEST_F(FreeDaysRule, AsksWhereARecordIsAlteredWhateverItsRepetitionSays)
     ExpectAnswer(*desk, "Alterar", 2, "DomingoOuFeriado", "A data 06/12/2026 é um domingo.");
 }
 
-TEST_F(FreeDaysRule, NamesTheEmployeesRoomFirst)
+TEST_F(DaysOffRule, NamesTheEmployeesRoomFirst)
 {
     const auto sunday = Full(On("06/12/2026"));
     Answer(*sunday, true, false);
@@ -204,7 +204,7 @@ TEST_F(FreeDaysRule, NamesTheEmployeesRoomFirst)
                   "Bia já tem agendamento das 09:00 às 10:00 em 06/12/2026.");
 }
 
-TEST_F(FreeDaysRule, EndsWithTheCalendar)
+TEST_F(DaysOffRule, EndsWithTheCalendar)
 {
     Run("insert into feriado (nome, dia, mes) values ('Véspera', 31, 12)");
     const auto desk = Full(On("31/12/2999"));
