@@ -288,5 +288,48 @@ TEST_F(Grid, ReadsTheCurrentRowToAssistiveTools)
     EXPECT_EQ(table->tableInterface()->selectedRows(), QList<int>{2});
 }
 
+TEST_F(Grid, TellsAssistiveToolsOfEachCell)
+{
+    grid_->TextMatrix(0, 0, "Hora");
+    grid_->TextMatrix(0, 2, "Nome do\r\nAnimal");
+    grid_->TextMatrix(3, 2, "Rex");
+    SelectRow(3);
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
+    ASSERT_NE(table, nullptr);
+    QAccessibleInterface* name = table->tableInterface()->cellAt(3, 1);
+    ASSERT_NE(name, nullptr);
+    EXPECT_EQ(name->role(), QAccessible::Cell);
+    EXPECT_EQ(name->rect(), QRect(Canvas().mapToGlobal(Cell(3, 2).topLeft()), Cell(3, 2).size()));
+    EXPECT_TRUE(name->state().selected);
+    EXPECT_FALSE(table->tableInterface()->cellAt(2, 1)->state().selected);
+    EXPECT_EQ(name->actionInterface(), nullptr);
+    QAccessibleTableCellInterface* place = name->tableCellInterface();
+    ASSERT_NE(place, nullptr);
+    EXPECT_EQ(place->rowIndex(), 3);
+    EXPECT_EQ(place->columnIndex(), 1) << "the hidden column does not count";
+    EXPECT_EQ(place->table(), table);
+    ASSERT_EQ(place->columnHeaderCells().size(), 1);
+    EXPECT_EQ(place->columnHeaderCells().front()->role(), QAccessible::ColumnHeader);
+    EXPECT_EQ(place->columnHeaderCells().front()->text(QAccessible::Name), QStringLiteral("Nome do Animal"));
+}
+
+TEST_F(Grid, TellsAssistiveToolsOfItsCellsAsChildren)
+{
+    SelectRow(3);
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
+    EXPECT_EQ(table->childCount(), 22);
+    QAccessibleTableInterface* cells = table->tableInterface();
+    EXPECT_EQ(table->child(7), cells->cellAt(3, 1));
+    EXPECT_EQ(table->indexOfChild(cells->cellAt(3, 1)), 7);
+    EXPECT_EQ(table->indexOfChild(table), -1);
+    EXPECT_EQ(cells->cellAt(11, 0), nullptr);
+    EXPECT_EQ(cells->cellAt(0, 2), nullptr);
+    EXPECT_EQ(cells->cellAt(-1, 0), nullptr);
+    EXPECT_EQ(cells->selectedCells(),
+              (QList<QAccessibleInterface*>{cells->cellAt(3, 0), cells->cellAt(3, 1)}));
+    EXPECT_EQ(cells->selectedCellCount(), 2);
+    EXPECT_EQ(cells->columnDescription(1), cells->cellAt(0, 1)->text(QAccessible::Name));
+}
+
 } // namespace
 } // namespace kova::qt::test
