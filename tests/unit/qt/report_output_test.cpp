@@ -1,5 +1,6 @@
 // Reports as files and on printers.
 
+#include "reports/qt/font_metrics.hpp"
 #include "reports/qt/output.hpp"
 #include "reports/qt/page_painter.hpp"
 #include "tests/unit/qt/expected_warning.hpp"
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QPainter>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
@@ -274,6 +276,26 @@ TEST_F(ReportOutput, DrawsInkWhereTheLayoutPutsIt)
     EXPECT_EQ(at(850 + 227 + 2500, 850 + 1710 + 265 + 120), QColor(Qt::white));
     // The rule of the page head.
     EXPECT_LT(at(850 + 5000, 850 + 1707 + 8).lightness(), 100);
+}
+
+TEST_F(ReportOutput, DrawsEachTextOnce)
+{
+    reports::Item text;
+    text.text = "Rex";
+    text.font = {12, false};
+    text.lines = {{"Rex", 300, 150, 600}};
+    const reports::Document document{"", 3000, 1500, 1, {{{text}}}};
+    constexpr double dots = 144;
+    QImage expected(300, 150, QImage::Format_RGB32);
+    expected.fill(Qt::white);
+    {
+        QPainter painter(&expected);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+        painter.scale(dots / TwipsOfInch, dots / TwipsOfInch);
+        painter.setFont(PageFont(text.font));
+        painter.drawText(QPointF(300, 150 + AscentOf(text.font)), QStringLiteral("Rex"));
+    }
+    EXPECT_EQ(PictureOf(document, 0, dots), expected);
 }
 
 } // namespace
