@@ -132,8 +132,8 @@ void ComboField::PlaceList(int count)
     QRect area(field.left(), field.bottom() + 3, width, height);
     if (area.bottom() > room.bottom())
         area.moveBottom(field.top() - 3);
-    area.moveTop(std::clamp(area.top(), room.top(), std::max(room.top(), room.bottom() - height)));
-    area.moveLeft(std::clamp(area.left(), room.left(), std::max(room.left(), room.right() - width)));
+    area.moveTop(std::clamp(area.top(), room.top(), std::max(room.top(), room.bottom() + 1 - height)));
+    area.moveLeft(std::clamp(area.left(), room.left(), std::max(room.left(), room.right() + 1 - width)));
     popup_->setGeometry(area);
     popup_->show();
     list_->setFocus();

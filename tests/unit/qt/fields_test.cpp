@@ -4,6 +4,7 @@
 #include "toolkits/qt/date_box.hpp"
 #include "toolkits/qt/field_frame.hpp"
 #include "toolkits/qt/navigation_bar.hpp"
+#include "toolkits/qt/painting.hpp"
 #include "toolkits/qt/theme.hpp"
 
 #include <QApplication>
@@ -228,6 +229,26 @@ TEST_F(Fields, CalendarAndListStayOnTheScreenWhereverTheirFieldIs)
     const QRect list = field.List()->window()->geometry();
     EXPECT_TRUE(isOnScreen(list)) << list.x() << " " << list.y() << " " << list.width() << " "
                                   << list.height();
+}
+
+TEST_F(Fields, ListsOpenBelowAsLongAsTheyFitThere)
+{
+    const QRect room = RoomForPopup(QGuiApplication::primaryScreen()->availableGeometry());
+    ComboField field(nullptr);
+    const auto listOf = [&field](int bottom) {
+        field.setGeometry(10, bottom - 29, 200, 30);
+        field.show();
+        field.ShowList(QStringList(4, QStringLiteral("Banho")), 0);
+        const QRect list = field.List()->window()->geometry();
+        field.CloseList();
+        return list;
+    };
+    const int height = listOf(room.top() + 100).height();
+    const int lowest = room.bottom() - height - 2;
+    const QRect fits = listOf(lowest);
+    EXPECT_EQ(fits.top(), lowest + 3);
+    EXPECT_EQ(fits.bottom(), room.bottom());
+    EXPECT_LT(listOf(lowest + 1).bottom(), lowest + 1 - 29) << "above the field";
 }
 
 TEST_F(Fields, ListsMarkTheirRowByMoreThanAShade)
