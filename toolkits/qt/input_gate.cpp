@@ -92,6 +92,8 @@ bool InputGate::eventFilter(QObject* watched, QEvent* event)
     if (!ends && !form->Model().Refusal().empty()) {
         if (event->type() == QEvent::KeyPress)
             KeepKey(*static_cast<QKeyEvent*>(event));
+        if (event->type() == QEvent::InputMethod)
+            KeepComposed(*static_cast<QInputMethodEvent*>(event));
         if (event->type() == QEvent::Shortcut)
             KeepMnemonic(*static_cast<QShortcutEvent*>(event), *target);
         return true;
@@ -152,6 +154,15 @@ void InputGate::KeepKey(const QKeyEvent& event)
 {
     if (!event.isAutoRepeat())
         Keep({std::unique_ptr<QEvent>(event.clone()), nullptr});
+}
+
+void InputGate::KeepComposed(const QInputMethodEvent& event)
+{
+    if (event.commitString().isEmpty())
+        return;
+    auto composed = std::make_unique<QInputMethodEvent>();
+    composed->setCommitString(event.commitString());
+    Keep({std::move(composed), nullptr});
 }
 
 // Qt has found out whose it is; the key alone would not lead there again.

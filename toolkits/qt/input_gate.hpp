@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+class QInputMethodEvent;
 class QKeyEvent;
 class QMouseEvent;
 class QShortcutEvent;
@@ -50,6 +51,7 @@ private:
     };
 
     void KeepKey(const QKeyEvent& event);
+    void KeepComposed(const QInputMethodEvent& event);
     void KeepMnemonic(const QShortcutEvent& event, QWidget& widget);
     void Keep(KeptKey key);
     void DeliverKeptKeys();

@@ -135,14 +135,23 @@ void LineEdit::contextMenuEvent(QContextMenuEvent* event)
 
 void LineEdit::inputMethodEvent(QInputMethodEvent* event)
 {
-    // They come here and not as keys.
-    if (typeText && !event->commitString().isEmpty()) {
-        if (!isReadOnly())
-            typeText(event->commitString());
-        event->accept();
+    if (!typeText)
+        return QLineEdit::inputMethodEvent(event);
+    event->accept();
+    const QString composed = event->commitString();
+    // What is being composed is shown in its place; over a selection it would erase it behind the field's
+    // back.
+    if (composed.isEmpty()) {
+        if (!hasSelectedText())
+            QLineEdit::inputMethodEvent(event);
         return;
     }
-    QLineEdit::inputMethodEvent(event);
+    if (!hasSelectedText()) {
+        QInputMethodEvent nothing;
+        QLineEdit::inputMethodEvent(&nothing);
+    }
+    if (!isReadOnly())
+        typeText(composed);
 }
 
 bool LineEdit::focusNextPrevChild(bool) { return false; }

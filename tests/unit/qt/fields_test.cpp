@@ -93,6 +93,25 @@ TEST_F(Fields, TakeComposedDigitsPlaceByPlaceUnderAMask)
     EXPECT_EQ(dynamic_cast<QLineEdit*>(editor)->text(), QStringLiteral("20/11/____"));
 }
 
+TEST_F(Fields, KeepWhatIsSelectedUntilACharacterIsComposed)
+{
+    auto& name = Get<KVTextBox>("kvtxtNome");
+    name.Text("Rex");
+    name.SetFocus();
+    auto* editor = dynamic_cast<QLineEdit*>(Editor<KVTextBox>("kvtxtNome"));
+    editor->selectAll();
+    QInputMethodEvent composing(QStringLiteral("´"), {});
+    QApplication::sendEvent(editor, &composing);
+    EXPECT_EQ(name.Text(), "Rex");
+    EXPECT_EQ(editor->selectedText(), QStringLiteral("Rex"));
+    Compose(editor, "É");
+    EXPECT_EQ(name.Text(), "É");
+    QApplication::sendEvent(editor, &composing);
+    Compose(editor, "á");
+    EXPECT_EQ(name.Text(), "Éá");
+    EXPECT_EQ(editor->displayText(), QStringLiteral("Éá")) << "nothing of the composing is left";
+}
+
 TEST_F(Fields, TakeNoComposedCharactersWhereTheyAreLocked)
 {
     Compose(Editor<KVTextBox>("kvtxtTravado"), "ã");

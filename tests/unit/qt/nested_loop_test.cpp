@@ -7,6 +7,7 @@
 #include "toolkits/qt/date_box.hpp"
 
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
@@ -172,6 +173,22 @@ TEST_F(KeysOfAPause, AreDeliveredInTheirOrderWhenTheFormTakesInputAgain)
     EXPECT_EQ(box_->Text(), "");
     Settle();
     EXPECT_EQ(box_->Text(), "ana");
+}
+
+TEST_F(KeysOfAPause, MayHaveBeenComposed)
+{
+    WaitInAnEvent([this] {
+        TypeNow("jo");
+        QInputMethodEvent composing(QStringLiteral("~"), {});
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &composing);
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("ã"));
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &composed);
+        TypeNow("o");
+    });
+    EXPECT_EQ(box_->Text(), "");
+    Settle();
+    EXPECT_EQ(box_->Text(), "joão");
 }
 
 TEST_F(KeysOfAPause, LeadToTheFieldOfTheirMnemonic)
