@@ -34,7 +34,7 @@ if(CCACHE_PROGRAM)
 endif()
 
 # Compiles the headers once that most sources of the target include. Each source includes what it needs all the
-# same: the builds without KOVARIS_PRECOMPILE, a shop's among them, compile it alone.
+# same: the builds without KOVARIS_PRECOMPILE, a shop's among them, compile it alone, if only outside tests.
 function(kovaris_precompile target)
     if(KOVARIS_PRECOMPILE)
         target_precompile_headers(${target} PRIVATE ${ARGN})

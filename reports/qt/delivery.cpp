@@ -11,7 +11,7 @@ namespace kova::paper {
 
 namespace {
 
-/// Where the last document was saved; the next one is proposed there.
+/// Where the last document of this library was saved; the next one is proposed there.
 QString& LastFolder()
 {
     static QString folder;

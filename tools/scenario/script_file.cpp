@@ -10,9 +10,12 @@ namespace {
 std::optional<std::string> SetupAbove(std::filesystem::path folder, const std::string& name)
 {
     for (;;) {
-        std::error_code ignored;
-        if (auto content = system::ReadWholeFile(system::TextOf(folder / system::PathOf(name)), ignored))
+        std::error_code error;
+        const std::string file = system::TextOf(folder / system::PathOf(name));
+        if (auto content = system::ReadWholeFile(file, error))
             return content;
+        if (error != std::errc::no_such_file_or_directory)
+            throw std::invalid_argument("Não foi possível ler a preparação " + file + ".");
         const std::filesystem::path above = folder.parent_path();
         if (above == folder)
             return std::nullopt;

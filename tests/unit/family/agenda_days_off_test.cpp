@@ -126,7 +126,7 @@ TEST_F(DaysOffRule, DoesNotAskForRoomOnADayThatIsMovedAway)
     EXPECT_EQ(AddedDays(), (Lines{"2026-12-06", "2026-12-07"}));
 }
 
-TEST_F(DaysOffRule, NamesTheRepetitionThatFallsOnAFreeDay)
+TEST_F(DaysOffRule, NamesTheRepetitionThatFallsOnADayOff)
 {
     const auto desk = Full(On("11/12/2026"));
     Repeat(*desk, 4, 0);

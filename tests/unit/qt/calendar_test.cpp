@@ -7,6 +7,8 @@
 #include <QScreen>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace kova::qt::test {
 namespace {
 

@@ -19,14 +19,14 @@ std::string NameOf(const char* title)
 
 } // namespace
 
-TEST(ReportName, IsTheTitleWithTheDay)
+TEST(FileNameOfADocument, IsTheTitleWithTheDay)
 {
     EXPECT_EQ(NameOf("Imprimir agendamentos"), "Imprimir agendamentos 2026-11-03.pdf");
     EXPECT_EQ(NameOf(" a/b: c?  "), "a b c 2026-11-03.pdf");
     EXPECT_EQ(NameOf(""), "Relatório 2026-11-03.pdf");
 }
 
-TEST(ReportName, CarriesTheDayOfTheRecords)
+TEST(ReportDay, IsTheDayOfTheRecords)
 {
     MemoryRecordSet day({"Numero", "Cliente", "DataInicial", "DataFinal"},
                         {{Long{7}, "Zé", "20/11/2026", "21/11/2026"}, {Long{8}, "Ana", "22/11/2026", ""}});
@@ -36,7 +36,7 @@ TEST(ReportName, CarriesTheDayOfTheRecords)
     EXPECT_EQ(DayOfReport(&card, Today), (Date{2026, 11, 20}));
 }
 
-TEST(ReportName, CarriesTodayWhereTheRecordsTellNoDay)
+TEST(ReportDay, IsTodayWhereTheRecordsTellNoDay)
 {
     MemoryRecordSet none({"DataInicial"}, {});
     MemoryRecordSet other({"Numero", "Nome", "Data"}, {{Long{20112026}, "x20/11/2026", "31/02/2026"}});
