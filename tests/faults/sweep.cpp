@@ -6,8 +6,8 @@
 // in all of them.
 
 #include "host/components/component_library.hpp"
+#include "tools/scenario/language/script_file.hpp"
 #include "tools/scenario/runner.hpp"
-#include "tools/scenario/script_file.hpp"
 
 #include <unistd.h>
 

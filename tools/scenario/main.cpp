@@ -3,8 +3,8 @@
 #include "host/components/component_error.hpp"
 #include "system/command_line.hpp"
 #include "system/process_apart.hpp"
+#include "tools/scenario/language/script_file.hpp"
 #include "tools/scenario/runner.hpp"
-#include "tools/scenario/script_file.hpp"
 
 #include <cstdio>
 #include <stdexcept>

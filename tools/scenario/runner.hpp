@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/scenario/script.hpp"
+#include "tools/scenario/language/script.hpp"
 #include "tools/scenario/session.hpp"
 #include "tools/scenario/shown_members.hpp"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "toolkits/common/toolkit.hpp"
-#include "tools/scenario/script.hpp"
+#include "tools/scenario/language/words.hpp"
 
 #include <string>
 #include <vector>

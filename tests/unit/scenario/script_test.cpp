@@ -1,6 +1,6 @@
 // How a script is read.
 
-#include "tools/scenario/script.hpp"
+#include "tools/scenario/language/script.hpp"
 #include "tools/scenario/shown_members.hpp"
 #include "tools/scenario/value_text.hpp"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/scenario/script.hpp"
+#include "tools/scenario/language/script.hpp"
 
 namespace kova::scenario {
 

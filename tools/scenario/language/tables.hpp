@@ -1,6 +1,7 @@
 #pragma once
 
-#include "tools/scenario/script.hpp"
+#include "tools/scenario/language/statement.hpp"
+#include "tools/scenario/scripted_components.hpp"
 
 #include <string_view>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "tools/scenario/script_tables.hpp"
+#include "tools/scenario/language/tables.hpp"
 
-#include "tools/scenario/line_reader.hpp"
+#include "tools/scenario/language/line_reader.hpp"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "tools/scenario/line_reader.hpp"
+#include "tools/scenario/language/line_reader.hpp"
 
 #include <cctype>
 

@@ -1,4 +1,4 @@
-#include "tools/scenario/script_file.hpp"
+#include "tools/scenario/language/script_file.hpp"
 
 #include "system/path_text.hpp"
 #include "system/whole_file.hpp"
