@@ -120,8 +120,6 @@ private:
     void PreencherParaAdicionar();
     void PreencherComALinhaDaLista(Integer& Ponto);
     void PreencherAnimal(const Text& codigo, const Text& nome);
-    /// Selects the row whose number is the cell's; no such row leaves the combo as it is.
-    void Selecionar(KVComboBox& combo, const Text& celula);
     void PreencherkvComboBoxsSimENao();
     void PreencherkvcmbReagendarPor();
 
@@ -132,7 +130,6 @@ private:
     void MontarAlterar();
     void MontarExcluir();
     void PreencherCarimbos();
-    void HabilitarCamposDeEdicao(bool Habilitar);
     void FixarCamposDoRetorno();
     void RedimensionaEReposicionaCampos();
     void PosicionarParaAdicionar();
@@ -195,7 +192,6 @@ private:
     /// A press of one of the two boxes of the service.
     void CaixaDoServico_Click(KVFind& origem, KVFind& outra, Integer& Ponto);
     void PesquisarPelaCaixaDoServico(KVFind& origem, KVFind& outra, Integer& Ponto);
-    void EsvaziarCaixasDoServico(KVFind& origem, KVFind& outra);
     bool PesquisarServico(Integer NumeroDoTipoDeServico, const Text& Nome, Double Codigo);
     bool AceitarServicoEncontrado(const RecordSet& registros);
     bool EscolherServico(RecordSet& registros);

@@ -77,11 +77,8 @@ void frmFichaCompleta::PesquisarPeloAnimal(Integer& Ponto)
 {
     // A short number may be a code.
     const Text texto = kvfNomeDoAnimal.Text();
-    if (Length(texto) < 3 && !IsNumeric(texto)) {
-        kvfNomeDoAnimal.Enabled(true);
-        ExibirInformacao("Informe 3 caracteres ou mais para iniciar a pesquisa.");
-        return;
-    }
+    if (Length(texto) < 3 && !IsNumeric(texto))
+        return PedirTresCaracteres(kvfNomeDoAnimal);
 
     Ponto = 2;
     if (!PesquisarAnimal(Trim(texto))) {

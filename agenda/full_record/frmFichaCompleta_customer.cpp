@@ -71,11 +71,8 @@ bool frmFichaCompleta::CaixaDoCliente_Click(KVFind& origem, Integer& Ponto)
 
 bool frmFichaCompleta::PesquisarPelaCaixa(KVFind& origem, Integer& Ponto)
 {
-    if (Length(origem.Text()) < 3 && origem.Style() == 1) {
-        origem.Enabled(true);
-        ExibirInformacao("Informe 3 caracteres ou mais para iniciar a pesquisa.");
+    if (PesquisaRecusadaPorTextoCurto(origem))
         return false;
-    }
 
     // Only the source holds a text from here on: that is what selects the search.
     Ponto = 2;

@@ -9,17 +9,6 @@
 
 namespace kova::agenda {
 
-namespace {
-
-bool EhCampoDeEdicao(WidgetKind especie)
-{
-    return especie == WidgetKind::KVComboBox || especie == WidgetKind::KVTextBox
-        || especie == WidgetKind::KVDTPicker || especie == WidgetKind::KVTime
-        || especie == WidgetKind::KVFind;
-}
-
-} // namespace
-
 void frmFichaCompleta::MontarModo()
 {
     switch (TipoDeOperacao) {
@@ -36,7 +25,7 @@ void frmFichaCompleta::MontarAdicionar()
     kvTheme.Caption("Adicionar agendamento completo");
     kvTheme.DataOfInclusion("");
     kvTheme.DataOfAlteration("");
-    HabilitarCamposDeEdicao(true);
+    HabilitarCamposDeEdicao(*Formulario, true, CaixasDePesquisa::EsperamPesquisa);
     EscreverBotao(kvcmdSalvarFecharConfirmar, "Salvar", "Salvar inclusão e fechar");
     EscreverBotao(kvcmdCancelarAlterar, "Cancelar", "Cancelar inclusão e fechar");
 }
@@ -45,7 +34,7 @@ void frmFichaCompleta::MontarDetalhar()
 {
     kvTheme.Caption("Detalhar agendamento completo");
     PreencherCarimbos();
-    HabilitarCamposDeEdicao(false);
+    HabilitarCamposDeEdicao(*Formulario, false, CaixasDePesquisa::Ficam);
     EscreverBotao(kvcmdSalvarFecharConfirmar, "Fechar", "Fechar detalhamento");
     EscreverBotao(kvcmdCancelarAlterar, "Alterar", "Alterar dados");
 }
@@ -54,7 +43,7 @@ void frmFichaCompleta::MontarAlterar()
 {
     kvTheme.Caption("Alterar agendamento completo");
     PreencherCarimbos();
-    HabilitarCamposDeEdicao(true);
+    HabilitarCamposDeEdicao(*Formulario, true, CaixasDePesquisa::Ficam);
     if (UpperCase(CelulaSelecionadaDaLista(colunas::NomeDoTipoDeServico)) == "RETORNO")
         FixarCamposDoRetorno();
 
@@ -72,7 +61,7 @@ void frmFichaCompleta::MontarExcluir()
 {
     kvTheme.Caption("Excluir agendamento completo");
     PreencherCarimbos();
-    HabilitarCamposDeEdicao(false);
+    HabilitarCamposDeEdicao(*Formulario, false, CaixasDePesquisa::Ficam);
     // The doubled word is part of the text.
     EscreverBotao(kvcmdSalvarFecharConfirmar, "Confirmar", "Confirmar exclusão e e fechar");
     EscreverBotao(kvcmdCancelarAlterar, "Cancelar", "Cancelar exclusão e fechar");
@@ -83,20 +72,6 @@ void frmFichaCompleta::PreencherCarimbos()
     kvTheme.DataOfInclusion(CarimboDeInclusao(
         NumeroDeLancamento, CelulaSelecionadaDaLista(colunas::DataEHoraDaInclusao), TipoDeOperacao));
     kvTheme.DataOfAlteration(CarimboDeAlteracao(CelulaSelecionadaDaLista(colunas::DataEHoraDaAlteracao)));
-}
-
-void frmFichaCompleta::HabilitarCamposDeEdicao(bool Habilitar)
-{
-    for (Widget* controle : Formulario->Controls()) {
-        if (!EhCampoDeEdicao(controle->Kind()))
-            continue;
-        controle->Enabled(Habilitar);
-        auto* pesquisa = As<KVFind>(*controle);
-        if (pesquisa && TipoDeOperacao == operacao::Adicionar) {
-            pesquisa->Status(find_status::Clear);
-            pesquisa->Text("");
-        }
-    }
 }
 
 void frmFichaCompleta::FixarCamposDoRetorno()

@@ -75,7 +75,7 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
     // Choosing the type must not empty the service: its click is swallowed, found or not.
     Ponto = 6;
     IgnorarEventoDeCampo = true;
-    Selecionar(kvcmbTiposDeServicos, celula(colunas::NumeroDoTipoDeServico));
+    SelecionarPelaCelula(kvcmbTiposDeServicos, celula(colunas::NumeroDoTipoDeServico));
     IgnorarEventoDeCampo = true;
 
     Ponto = 7;
@@ -88,7 +88,7 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
 
     Ponto = 8;
     IgnorarEventoDeCampo = true;
-    Selecionar(kvcmbFuncionarios, celula(colunas::CodigoDoFuncionario));
+    SelecionarPelaCelula(kvcmbFuncionarios, celula(colunas::CodigoDoFuncionario));
     IgnorarEventoDeCampo = false;
 
     Ponto = 9;
@@ -96,14 +96,14 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
     kvtxtObservacaoDoServico.Text(celula(colunas::Observacao));
     kvcmbBuscar.Text(celula(colunas::TransporteBuscar));
     kvcmbLevar.Text(celula(colunas::TransporteLevar));
-    Selecionar(kvcmbSituacao, celula(colunas::Situacao));
+    SelecionarPelaCelula(kvcmbSituacao, celula(colunas::Situacao));
 }
 
 void frmFichaCompleta::PreencherAnimal(const Text& codigo, const Text& nome)
 {
     if (TipoDeOperacao != operacao::Excluir) {
         PreencherComboboxAnimal(Val(kvfCodigoDoCliente.Text()));
-        Selecionar(kvcmbAnimal, codigo);
+        SelecionarPelaCelula(kvcmbAnimal, codigo);
         return;
     }
     // What is about to be deleted is only shown: the list of the customer's animals is not asked for.
@@ -111,13 +111,6 @@ void frmFichaCompleta::PreencherAnimal(const Text& codigo, const Text& nome)
     kvcmbAnimal.AddItem(nome);
     kvcmbAnimal.ItemData(kvcmbAnimal.NewIndex(), RoundToLong(Val(codigo)));
     kvcmbAnimal.ListIndex(0);
-}
-
-void frmFichaCompleta::Selecionar(KVComboBox& combo, const Text& celula)
-{
-    const Integer linha = LinhaDaCelula(combo, celula);
-    if (linha != -1)
-        combo.ListIndex(linha);
 }
 
 } // namespace kova::agenda

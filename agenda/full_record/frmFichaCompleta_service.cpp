@@ -80,18 +80,15 @@ void frmFichaCompleta::CaixaDoServico_Click(KVFind& origem, KVFind& outra, Integ
     Ponto = 1;
     switch (origem.Status()) {
     case find_status::Search: return PesquisarPelaCaixaDoServico(origem, outra, Ponto);
-    case find_status::Clear: Ponto = 6; return EsvaziarCaixasDoServico(origem, outra);
+    case find_status::Clear: Ponto = 6; return EsvaziarCaixasDePesquisa(origem, outra);
     default: return;
     }
 }
 
 void frmFichaCompleta::PesquisarPelaCaixaDoServico(KVFind& origem, KVFind& outra, Integer& Ponto)
 {
-    if (Length(origem.Text()) < 3 && origem.Style() == 1) {
-        origem.Enabled(true);
-        ExibirInformacao("Informe 3 caracteres ou mais para iniciar a pesquisa.");
+    if (PesquisaRecusadaPorTextoCurto(origem))
         return;
-    }
 
     Ponto = 2;
     const Integer linhaDoTipo = kvcmbTiposDeServicos.ListIndex();
@@ -110,16 +107,7 @@ void frmFichaCompleta::PesquisarPelaCaixaDoServico(KVFind& origem, KVFind& outra
         return;
     }
     Ponto = 5;
-    EsvaziarCaixasDoServico(origem, outra);
-}
-
-void frmFichaCompleta::EsvaziarCaixasDoServico(KVFind& origem, KVFind& outra)
-{
-    outra.Status(find_status::Clear);
-    outra.Text("");
-    outra.Enabled(true);
-    origem.Enabled(true);
-    origem.SetFocus();
+    EsvaziarCaixasDePesquisa(origem, outra);
 }
 
 bool frmFichaCompleta::PesquisarServico(Integer NumeroDoTipoDeServico, const Text& Nome, Double Codigo)

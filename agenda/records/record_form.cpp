@@ -146,6 +146,31 @@ Text CelulaSelecionadaDaLista(Long coluna)
     return lista->Grade().TextMatrix(lista->Grade().RowSel(), coluna);
 }
 
+bool PesquisaRecusadaPorTextoCurto(KVFind& caixa)
+{
+    constexpr std::size_t minimoDeCaracteres = 3;
+    constexpr Long estiloDeTexto = 1;
+    if (Length(caixa.Text()) >= minimoDeCaracteres || caixa.Style() != estiloDeTexto)
+        return false;
+    PedirTresCaracteres(caixa);
+    return true;
+}
+
+void PedirTresCaracteres(KVFind& caixa)
+{
+    caixa.Enabled(true);
+    ExibirInformacao("Informe 3 caracteres ou mais para iniciar a pesquisa.");
+}
+
+void EsvaziarCaixasDePesquisa(KVFind& origem, KVFind& outra)
+{
+    outra.Status(find_status::Clear);
+    outra.Text("");
+    outra.Enabled(true);
+    origem.Enabled(true);
+    origem.SetFocus();
+}
+
 void HabilitarCamposDeEdicao(Form& formulario, bool habilitar, CaixasDePesquisa caixas)
 {
     for (Widget* controle : formulario.Controls()) {

@@ -74,6 +74,15 @@ std::shared_ptr<const ListaDoDia> ListaAberta();
 /// A cell of its selected row.
 Text CelulaSelecionadaDaLista(Long coluna);
 
+/// A search by a box that asks too little: fewer than three characters in one that takes texts. Says so,
+/// opens the box again, and answers true.
+bool PesquisaRecusadaPorTextoCurto(KVFind& caixa);
+/// The same message and the box open again, where the form itself has found the text too short.
+void PedirTresCaracteres(KVFind& caixa);
+/// Two boxes that show one record wait for a search by either: the other one is emptied, the one that was
+/// used has the focus.
+void EsvaziarCaixasDePesquisa(KVFind& origem, KVFind& outra);
+
 /// What becomes of the search boxes when the fields are switched.
 enum class CaixasDePesquisa { Ficam, EsperamPesquisa };
 /// Walks all controls and switches the boxes and combos; a search box may be emptied and wait for a search.

@@ -84,8 +84,7 @@ private:
     void kvcmbTiposDeServicos_Click();
     void kvfCodigoDoServico_Click();
     void kvfNomeDoServico_Click();
-    void ClicarNaCaixaDoServico(KVFind& caixa, KVFind& outra, Integer& Ponto);
-    void EsperarPesquisa(KVFind& caixa, KVFind& outra);
+    void CaixaDoServico_Click(KVFind& origem, KVFind& outra, Integer& Ponto);
     void kvfCodigoDoServico_KeyDown();
     void kvfNomeDoServico_KeyDown();
     bool PesquisarServico(Integer tipo, Text nome, Double codigo);

@@ -14,13 +14,6 @@
 
 namespace kova::agenda {
 
-namespace {
-
-constexpr std::size_t MinimoDeCaracteres = 3;
-constexpr Long EstiloDeTexto = 1;
-
-} // namespace
-
 void frmFichaSimplificada::kvcmbTiposDeServicos_Click()
 {
     Integer Ponto = 0;
@@ -67,31 +60,28 @@ void frmFichaSimplificada::kvfCodigoDoServico_Click()
 {
     Integer Ponto = 0;
     Trap(", frmFichaSimplificada, kvfCodigoDoServico_Click, Ponto: ", Ponto,
-         [&] { ClicarNaCaixaDoServico(kvfCodigoDoServico, kvfNomeDoServico, Ponto); });
+         [&] { CaixaDoServico_Click(kvfCodigoDoServico, kvfNomeDoServico, Ponto); });
 }
 
 void frmFichaSimplificada::kvfNomeDoServico_Click()
 {
     Integer Ponto = 0;
     Trap(", frmFichaSimplificada, kvfNomeDoServico_Click, Ponto: ", Ponto,
-         [&] { ClicarNaCaixaDoServico(kvfNomeDoServico, kvfCodigoDoServico, Ponto); });
+         [&] { CaixaDoServico_Click(kvfNomeDoServico, kvfCodigoDoServico, Ponto); });
 }
 
-void frmFichaSimplificada::ClicarNaCaixaDoServico(KVFind& caixa, KVFind& outra, Integer& Ponto)
+void frmFichaSimplificada::CaixaDoServico_Click(KVFind& origem, KVFind& outra, Integer& Ponto)
 {
     Ponto = 1;
-    const Long status = caixa.Status();
+    const Long status = origem.Status();
     if (status == find_status::Clear)
-        return EsperarPesquisa(caixa, outra);
+        return EsvaziarCaixasDePesquisa(origem, outra);
     if (status != find_status::Search)
         return;
 
     Ponto = 2;
-    if (Length(caixa.Text()) < MinimoDeCaracteres && caixa.Style() == EstiloDeTexto) {
-        caixa.Enabled(true);
-        ExibirInformacao("Informe 3 caracteres ou mais para iniciar a pesquisa.");
+    if (PesquisaRecusadaPorTextoCurto(origem))
         return;
-    }
 
     Ponto = 3;
     const Integer tipo = kvcmbTiposDeServicos.ListIndex();
@@ -111,16 +101,7 @@ void frmFichaSimplificada::ClicarNaCaixaDoServico(KVFind& caixa, KVFind& outra, 
     if (encontrado)
         kvtimHoraInicial.SetFocus();
     else
-        EsperarPesquisa(caixa, outra);
-}
-
-void frmFichaSimplificada::EsperarPesquisa(KVFind& caixa, KVFind& outra)
-{
-    outra.Status(find_status::Clear);
-    outra.Text("");
-    outra.Enabled(true);
-    caixa.Enabled(true);
-    caixa.SetFocus();
+        EsvaziarCaixasDePesquisa(origem, outra);
 }
 
 void frmFichaSimplificada::kvfCodigoDoServico_KeyDown()
