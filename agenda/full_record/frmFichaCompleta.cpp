@@ -16,7 +16,7 @@ std::shared_ptr<frmFichaCompleta> frmFichaCompleta::Criar()
 }
 
 frmFichaCompleta::frmFichaCompleta()
-    : FichaDeAgendamento(ThePlatform().Toolkit().CreateForm(DesenhoDefrmFichaCompleta()))
+    : Formulario(ThePlatform().Toolkit().CreateForm(DesenhoDefrmFichaCompleta()))
 {
     LigarEventos();
 }

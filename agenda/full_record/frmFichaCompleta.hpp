@@ -20,17 +20,25 @@ namespace kova::agenda {
 /// _service.cpp look things up, frmFichaCompleta_repetition.cpp asks for a repeated booking,
 /// frmFichaCompleta_validation.cpp checks it before dates are picked, and frmFichaCompleta_confirmation.cpp
 /// saves.
-class frmFichaCompleta final : public FichaDeAgendamento {
+class frmFichaCompleta {
 public:
     /// A new record form, hidden, in design state.
     static std::shared_ptr<frmFichaCompleta> Criar();
+    frmFichaCompleta(const frmFichaCompleta&) = delete;
+    frmFichaCompleta& operator=(const frmFichaCompleta&) = delete;
 
     /// Called on the open form with `Alterar` by its own second button, it turns the detail view into an
     /// alteration.
-    void MontarExibirFormulario(Integer Operacao) override;
+    void MontarExibirFormulario(Integer Operacao);
     /// The wait plate: true shows it and waits one second, false hides it. Only while the form is visible.
     void ExibirOcultarpicMensagem(bool Exibir);
     void CentralizarpicMensagem();
+
+    FormRef Formulario;
+    KVComboBox& kvcmbTiposDeServicos = Bind<KVComboBox>(Formulario, "kvcmbTiposDeServicos");
+    KVComboBox& kvcmbFuncionarios = Bind<KVComboBox>(Formulario, "kvcmbFuncionarios");
+    KVComboBox& kvcmbSituacao = Bind<KVComboBox>(Formulario, "kvcmbSituacao");
+    EstadoDaFicha Estado;
 
     KVTheme& kvTheme = Bind<KVTheme>(Formulario, "KVTheme");
 
@@ -66,7 +74,7 @@ public:
     Label& lblCorDoAnimal = Bind<Label>(Formulario, "lblCorDoAnimal");
     KVTextBox& kvtxtCorDoAnimal = Bind<KVTextBox>(Formulario, "kvtxtCorDoAnimal");
 
-    // The service and its times. kvcmbTiposDeServicos, kvcmbFuncionarios and kvcmbSituacao are the base's.
+    // The service and its times; its type, its employee and the situation stand above.
     Label& lblServico = Bind<Label>(Formulario, "lblServico");
     Label& lblTipoDoServico = Bind<Label>(Formulario, "lblTipoDoServico");
     Label& lblCodigoDoServico = Bind<Label>(Formulario, "lblCodigoDoServico");

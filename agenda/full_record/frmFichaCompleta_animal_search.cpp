@@ -136,7 +136,7 @@ void frmFichaCompleta::kvfNomeDoAnimal_KeyDown()
     // The tag names the nickname's box; it is fixed so.
     Trap(", frmFichaCompleta, kvfApelidoOuNomeFantasiaDoCliente_KeyDown, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (EventoIgnorado())
+        if (EventoIgnorado(Estado))
             return;
         LimparCamposDoCliente();
         LimparCamposDoAnimal();

@@ -26,8 +26,8 @@ Long LinhaEscolhida(const KVComboBox& combo) { return combo.ItemData(combo.ListI
 /// A new appointment is always booked: its combo is hidden and has no selection.
 Long SituacaoDaFicha(const frmFichaCompleta& ficha)
 {
-    return ficha.TipoDeOperacao == operacao::Adicionar ? situacao::Agendado
-                                                       : LinhaEscolhida(ficha.kvcmbSituacao);
+    return ficha.Estado.TipoDeOperacao == operacao::Adicionar ? situacao::Agendado
+                                                              : LinhaEscolhida(ficha.kvcmbSituacao);
 }
 
 Long Reagendamentos(const frmFichaCompleta& ficha, bool datasSelecionadas)
@@ -56,8 +56,8 @@ void EnviarRepeticao(const frmFichaCompleta& ficha, Component& agenda)
 /// The members of the business object in their fixed order.
 void EnviarFicha(const frmFichaCompleta& ficha, Component& agenda)
 {
-    if (ficha.TipoDeOperacao != operacao::Adicionar)
-        agenda.Set("NumeroDeLancamento", ficha.NumeroDeLancamento);
+    if (ficha.Estado.TipoDeOperacao != operacao::Adicionar)
+        agenda.Set("NumeroDeLancamento", ficha.Estado.NumeroDeLancamento);
     agenda.Set("Situacao", SituacaoDaFicha(ficha));
     agenda.Set("CodigoDoFuncionario", ItemDataOuZero(ficha.kvcmbFuncionarios));
     agenda.Set("DataInicial", ficha.kvdtpDataInicial.Text());
@@ -111,7 +111,7 @@ void OferecerSituacaoAoPacote(const frmFichaCompleta& ficha, Component& agenda)
 /// only: the difference from the write that was done at once is fixed so.
 void OferecerCancelamentoDoPacote(const frmFichaCompleta& ficha, Component& agenda)
 {
-    if (ficha.TipoDeOperacao != operacao::Alterar || !PertenceAPacote(agenda))
+    if (ficha.Estado.TipoDeOperacao != operacao::Alterar || !PertenceAPacote(agenda))
         return;
     if (PerguntarPeloPacote("Deseja cancelar TODOS os agendamentos deste pacote que não foram atendidos?"))
         AlterarPacote(agenda, {});
@@ -124,8 +124,8 @@ void frmFichaCompleta::kvcmdSalvarFecharConfirmar_Click()
     Integer Ponto = 0;
     Trap(", frmFichaCompleta, kvcmdSalvarFecharConfirmar_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (TipoDeOperacao == operacao::Detalhar)
-            OperacaoConcluida = true;
+        if (Estado.TipoDeOperacao == operacao::Detalhar)
+            Estado.OperacaoConcluida = true;
         else if (!GravarAgendamento(Ponto))
             return;
 
@@ -141,13 +141,13 @@ bool frmFichaCompleta::GravarAgendamento(Integer& Ponto)
     EnviarFicha(*this, *objAgenda);
 
     Ponto = 3;
-    const Integer resultado = Gravar(*objAgenda, TipoDeOperacao).ToInteger();
+    const Integer resultado = Gravar(*objAgenda, Estado.TipoDeOperacao).ToInteger();
 
     Ponto = 4;
     switch (resultado) {
     case resultado_da_gravacao::Concluida:
         OferecerSituacaoAoPacote(*this, *objAgenda);
-        OperacaoConcluida = true;
+        Estado.OperacaoConcluida = true;
         return true;
     case resultado_da_gravacao::CampoRecusado:
         Ponto = 5;
@@ -158,7 +158,7 @@ bool frmFichaCompleta::GravarAgendamento(Integer& Ponto)
     case resultado_da_gravacao::FalhaTecnica:
     case resultado_da_gravacao::Recusada:
         InformarFalhaOuRecusa(*objAgenda, resultado);
-        OperacaoConcluida = false;
+        Estado.OperacaoConcluida = false;
         return true;
     default: return true;
     }
@@ -182,7 +182,7 @@ Text frmFichaCompleta::TratarCampoRecusado(Component& agenda)
         });
     if (nome != CampoDomingoOuFeriado) {
         ExibirInformacao(agenda.Get("DescricaoDaFalha").ToText());
-        OperacaoConcluida = false;
+        Estado.OperacaoConcluida = false;
     }
     return nome;
 }
@@ -199,10 +199,10 @@ bool frmFichaCompleta::GravarEmDomingoOuFeriado(Component& agenda)
     agenda.Set("DomingoOuFeriado", !manterData);
 
     // The record that is being deleted is not written again, and no second answer is looked at.
-    if (TipoDeOperacao != operacao::Excluir)
-        Gravar(agenda, TipoDeOperacao);
+    if (Estado.TipoDeOperacao != operacao::Excluir)
+        Gravar(agenda, Estado.TipoDeOperacao);
     OferecerCancelamentoDoPacote(*this, agenda);
-    OperacaoConcluida = true;
+    Estado.OperacaoConcluida = true;
     return true;
 }
 
@@ -214,15 +214,15 @@ void frmFichaCompleta::kvcmdCancelarAlterar_Click()
         RestaurarCorDosRotulos(*Formulario);
 
         Ponto = 2;
-        if (TipoDeOperacao == operacao::Detalhar) {
+        if (Estado.TipoDeOperacao == operacao::Detalhar) {
             // The form stays on the screen under its own modal show.
-            NaoAplicarFundoEscuro = true;
-            NaoRemoverFundoEscuro = true;
-            NaoExibirFormulario = true;
+            Estado.NaoAplicarFundoEscuro = true;
+            Estado.NaoRemoverFundoEscuro = true;
+            Estado.NaoExibirFormulario = true;
             MontarExibirFormulario(operacao::Alterar);
             return;
         }
-        OperacaoConcluida = false;
+        Estado.OperacaoConcluida = false;
         Formulario->Hide();
     });
 }

@@ -157,7 +157,7 @@ void frmFichaCompleta::kvfEnderecoDoCliente_KeyDown()
 
 void frmFichaCompleta::CaixaDoCliente_KeyDown(const KVFind& origem)
 {
-    if (EventoIgnorado())
+    if (EventoIgnorado(Estado))
         return;
     for (KVFind* caixa : CaixasDoCliente())
         if (caixa != &origem)

@@ -135,7 +135,7 @@ std::shared_ptr<frmPesquisaDeClientes> frmFichaCompleta::AbrirPesquisaDeClientes
 
 void frmFichaCompleta::ExibirClienteDoRegistro(const RecordSet& registros)
 {
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
     for (KVFind* caixa : CaixasDoCliente())
         caixa->Status(find_status::Found);
     kvfApelidoOuNomeFantasiaDoCliente.Text(registros.Field("ApelidoOuNomeFantasia").ToText());
@@ -150,7 +150,7 @@ void frmFichaCompleta::ExibirClienteEscolhido(const frmPesquisaDeClientes& pesqu
     namespace coluna = colunas_de_clientes;
     const MSFlexGrid& grade = pesquisa.msfgGrade;
     const auto celula = [&](Long numero) { return grade.TextMatrix(grade.RowSel(), numero); };
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
     for (KVFind* caixa : CaixasDoCliente())
         caixa->Status(find_status::Found);
     kvfCodigoDoCliente.Text(TextOf(Val(celula(coluna::Codigo))));

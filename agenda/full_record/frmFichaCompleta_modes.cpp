@@ -11,7 +11,7 @@ namespace kova::agenda {
 
 void frmFichaCompleta::MontarModo()
 {
-    switch (TipoDeOperacao) {
+    switch (Estado.TipoDeOperacao) {
     case operacao::Adicionar: return MontarAdicionar();
     case operacao::Detalhar: return MontarDetalhar();
     case operacao::Alterar: return MontarAlterar();
@@ -69,8 +69,9 @@ void frmFichaCompleta::MontarExcluir()
 
 void frmFichaCompleta::PreencherCarimbos()
 {
-    kvTheme.DataOfInclusion(CarimboDeInclusao(
-        NumeroDeLancamento, CelulaSelecionadaDaLista(colunas::DataEHoraDaInclusao), TipoDeOperacao));
+    kvTheme.DataOfInclusion(CarimboDeInclusao(Estado.NumeroDeLancamento,
+                                              CelulaSelecionadaDaLista(colunas::DataEHoraDaInclusao),
+                                              Estado.TipoDeOperacao));
     kvTheme.DataOfAlteration(CarimboDeAlteracao(CelulaSelecionadaDaLista(colunas::DataEHoraDaAlteracao)));
 }
 
@@ -108,7 +109,7 @@ void frmFichaCompleta::RedimensionaEReposicionaCampos()
     Integer Ponto = 0;
     Trap(", frmFichaCompleta, RedimensionaEReposicionaCampos, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (TipoDeOperacao == operacao::Adicionar)
+        if (Estado.TipoDeOperacao == operacao::Adicionar)
             PosicionarParaAdicionar();
         else
             PosicionarComSituacao();

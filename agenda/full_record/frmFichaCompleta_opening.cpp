@@ -14,9 +14,9 @@ void frmFichaCompleta::MontarExibirFormulario(Integer Operacao)
     Integer Ponto = 0;
     Trap(", frmFichaCompleta, MontarExibirFormulario, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        TipoDeOperacao = Operacao;
+        Estado.TipoDeOperacao = Operacao;
         DomingoOuFeriado = false;
-        IgnorarEventoDeCampo = true;
+        Estado.IgnorarEventoDeCampo = true;
 
         Ponto = 2;
         if (kvcmbReagendar.ListCount() == 0) {
@@ -37,13 +37,13 @@ void frmFichaCompleta::MontarExibirFormulario(Integer Operacao)
         RedimensionaEReposicionaCampos();
 
         Ponto = 12;
-        Exibir();
+        ExibirFicha(*Formulario, Estado);
     });
 }
 
 void frmFichaCompleta::PreencherParaAdicionar()
 {
-    NumeroDeLancamento = 0;
+    Estado.NumeroDeLancamento = 0;
     kvdtpDataInicial.Text(Principal.DataDaAgenda);
     // Any other row's logic has run when the opener chose it.
     if (kvcmbTiposDeServicos.ListIndex() == 0)
@@ -62,7 +62,7 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
     const auto celula = [&](Long coluna) { return grade.TextMatrix(linha, coluna); };
 
     Ponto = 4;
-    NumeroDeLancamento = Val(celula(colunas::NumeroDeLancamento));
+    Estado.NumeroDeLancamento = Val(celula(colunas::NumeroDeLancamento));
     kvfCodigoDoCliente.Text(celula(colunas::CodigoDoCliente));
     kvfApelidoOuNomeFantasiaDoCliente.Text(celula(colunas::ApelidoOuNomeFantasiaDoCliente));
     kvfNomeOuRazaoSocialDoCliente.Text(celula(colunas::NomeOuRazaoSocialDoCliente));
@@ -74,9 +74,9 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
 
     // Choosing the type must not empty the service: its click is swallowed, found or not.
     Ponto = 6;
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
     SelecionarPelaCelula(kvcmbTiposDeServicos, celula(colunas::NumeroDoTipoDeServico));
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
 
     Ponto = 7;
     kvfCodigoDoServico.Text(celula(colunas::CodigoDoServico));
@@ -87,9 +87,9 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
     kvtimHoraFinal.Text(celula(colunas::HoraFinal));
 
     Ponto = 8;
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
     SelecionarPelaCelula(kvcmbFuncionarios, celula(colunas::CodigoDoFuncionario));
-    IgnorarEventoDeCampo = false;
+    Estado.IgnorarEventoDeCampo = false;
 
     Ponto = 9;
     kvtxtTempoDoServico.Text(celula(colunas::TempoDeExecucao));
@@ -101,7 +101,7 @@ void frmFichaCompleta::PreencherComALinhaDaLista(Integer& Ponto)
 
 void frmFichaCompleta::PreencherAnimal(const Text& codigo, const Text& nome)
 {
-    if (TipoDeOperacao != operacao::Excluir) {
+    if (Estado.TipoDeOperacao != operacao::Excluir) {
         PreencherComboboxAnimal(Val(kvfCodigoDoCliente.Text()));
         SelecionarPelaCelula(kvcmbAnimal, codigo);
         return;

@@ -61,7 +61,7 @@ void frmFichaCompleta::kvcmbReagendar_Click()
     Integer Ponto = 0;
     Trap(", frmFichaCompleta, kvcmbReagendar_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (EventoIgnorado())
+        if (EventoIgnorado(Estado))
             return;
 
         if (kvcmbReagendar.ListIndex() == Sim) {
@@ -103,7 +103,7 @@ void frmFichaCompleta::kvcmbReagendarPor_Click()
     Integer Ponto = 0;
     Trap(", frmFichaCompleta, kvcmbReagendarPor_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (EventoIgnorado() || kvcmbReagendarPor.ListIndex() != SelecionarDatas)
+        if (EventoIgnorado(Estado) || kvcmbReagendarPor.ListIndex() != SelecionarDatas)
             return;
 
         // 1. The date selection shows what is booked, so that must be there.

@@ -20,7 +20,7 @@ void frmFichaCompleta::kvcmbTiposDeServicos_Click()
     Integer Ponto = 0;
     Trap(", frmFichaCompleta, kvcmbTiposDeServicos_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (EventoIgnorado())
+        if (EventoIgnorado(Estado))
             return;
         for (KVFind* caixa : {&kvfNomeDoServico, &kvfCodigoDoServico}) {
             caixa->Status(find_status::Clear);
@@ -60,7 +60,7 @@ void frmFichaCompleta::kvfCodigoDoServico_KeyDown()
     Integer Ponto = 0;
     Trap(", frmFichaCompleta, kvfCodigoDoServico_KeyDown, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (!EventoIgnorado())
+        if (!EventoIgnorado(Estado))
             kvfNomeDoServico.DisplayText("");
     });
 }
@@ -70,7 +70,7 @@ void frmFichaCompleta::kvfNomeDoServico_KeyDown()
     Integer Ponto = 0;
     Trap(", frmFichaCompleta, kvfNomeDoServico_KeyDown, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (!EventoIgnorado())
+        if (!EventoIgnorado(Estado))
             kvfCodigoDoServico.DisplayText("");
     });
 }
@@ -155,10 +155,10 @@ bool frmFichaCompleta::PesquisarServico(Integer NumeroDoTipoDeServico, const Tex
 
 bool frmFichaCompleta::AceitarServicoEncontrado(const RecordSet& registros)
 {
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
     MostrarServicoEncontrado(Servico(), registros);
-    SelecionarTipoEncontrado(*this, registros);
-    IgnorarEventoDeCampo = true;
+    SelecionarTipoEncontrado(kvcmbTiposDeServicos, Estado, registros);
+    Estado.IgnorarEventoDeCampo = true;
     return true;
 }
 
@@ -171,10 +171,10 @@ bool frmFichaCompleta::EscolherServico(RecordSet& registros)
 
     const bool escolhido = pesquisa->RegistroSelecionado;
     if (escolhido) {
-        IgnorarEventoDeCampo = true;
+        Estado.IgnorarEventoDeCampo = true;
         MostrarServicoEscolhido(Servico(), *pesquisa);
-        SelecionarTipoEscolhido(*this, *pesquisa);
-        IgnorarEventoDeCampo = true;
+        SelecionarTipoEscolhido(kvcmbTiposDeServicos, Estado, *pesquisa);
+        Estado.IgnorarEventoDeCampo = true;
     }
     pesquisa->Formulario->Unload();
     return escolhido;
@@ -187,14 +187,14 @@ void frmFichaCompleta::CopiarTiposPara(frmPesquisaDeServicos& pesquisa)
     const Integer linhaSelecionada = kvcmbTiposDeServicos.ListIndex();
     const Integer linhas = kvcmbTiposDeServicos.ListCount();
     for (Integer linha = 0; linha < linhas; ++linha) {
-        IgnorarEventoDeCampo = true;
+        Estado.IgnorarEventoDeCampo = true;
         kvcmbTiposDeServicos.ListIndex(linha);
         pesquisa.kvcmbTiposDeServicos.AddItem(kvcmbTiposDeServicos.Text());
         pesquisa.kvcmbTiposDeServicos.ItemData(pesquisa.kvcmbTiposDeServicos.NewIndex(),
                                                kvcmbTiposDeServicos.ItemData(linha));
     }
     SelecionarTipoNaPesquisa(pesquisa, linhaSelecionada);
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
     kvcmbTiposDeServicos.ListIndex(linhaSelecionada);
 }
 

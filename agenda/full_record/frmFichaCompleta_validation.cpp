@@ -17,7 +17,7 @@ Integer frmFichaCompleta::ValidarCampos()
             ExibirInformacao(mensagem);
             campo.SetFocus();
             resultado = 1;
-            IgnorarEventoDeCampo = true;
+            Estado.IgnorarEventoDeCampo = true;
             kvcmbReagendarPor.ListIndex(0);
         };
 

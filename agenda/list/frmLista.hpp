@@ -9,7 +9,7 @@
 
 namespace kova::agenda {
 
-class FichaDeAgendamento;
+struct FichaDaLista;
 struct FichaImpressa;
 
 /// The module's main screen: one day's appointments in a paged grid, with filters above it, a detail
@@ -207,7 +207,6 @@ private:
     void kvcmdAlterar_Click();
     void kvcmdExcluir_Click();
     void AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Integer& Ponto);
-    static std::shared_ptr<FichaDeAgendamento> CriarFicha(bool simplificado);
     Integer UltimaSituacao() const;
     Integer UltimaSituacaoSemPreVenda() const;
     void CopiarSituacoes(KVComboBox& destino, Integer ultima);

@@ -18,18 +18,61 @@ namespace {
 
 constexpr const char* TodosOsTipos = "(Todos)";
 
-/// A form's shared instance: made and loaded at its first use, gone when it has been unloaded.
-template <class Ficha> Ficha& InstanciaImplicita(std::shared_ptr<Ficha>& instancia)
+FichaDaLista FichaDe(const std::shared_ptr<frmFichaCompleta>& ficha)
 {
-    if (!instancia)
-        instancia = Ficha::Criar();
-    instancia->Formulario->Load();
-    return *instancia;
+    return {ficha,
+            ficha->Formulario,
+            ficha->kvcmbTiposDeServicos,
+            ficha->kvcmbFuncionarios,
+            ficha->kvcmbSituacao,
+            ficha->Estado,
+            [ficha](Integer Operacao) { ficha->MontarExibirFormulario(Operacao); }};
 }
 
-template <class Ficha> void DescarregarInstancia(std::shared_ptr<Ficha>& instancia)
+FichaDaLista FichaDe(const std::shared_ptr<frmFichaSimplificada>& ficha)
 {
-    if (const auto ficha = std::exchange(instancia, nullptr))
+    return {ficha,
+            ficha->Formulario,
+            ficha->kvcmbTiposDeServicos,
+            ficha->kvcmbFuncionarios,
+            ficha->kvcmbSituacao,
+            ficha->Estado,
+            [ficha](Integer Operacao) { ficha->MontarExibirFormulario(Operacao); }};
+}
+
+/// A record form of its own for one row, not yet loaded.
+FichaDaLista CriarFicha(bool simplificado)
+{
+    return simplificado ? FichaDe(frmFichaSimplificada::Criar()) : FichaDe(frmFichaCompleta::Criar());
+}
+
+// The shared instances: made and loaded at their first use, gone when they have been unloaded.
+
+FichaDaLista FichaCompletaImplicita()
+{
+    if (!Principal.FichaCompletaImplicita)
+        Principal.FichaCompletaImplicita = frmFichaCompleta::Criar();
+    Principal.FichaCompletaImplicita->Formulario->Load();
+    return FichaDe(Principal.FichaCompletaImplicita);
+}
+
+FichaDaLista FichaSimplificadaImplicita()
+{
+    if (!Principal.FichaSimplificadaImplicita)
+        Principal.FichaSimplificadaImplicita = frmFichaSimplificada::Criar();
+    Principal.FichaSimplificadaImplicita->Formulario->Load();
+    return FichaDe(Principal.FichaSimplificadaImplicita);
+}
+
+void DescarregarFichaCompletaImplicita()
+{
+    if (const auto ficha = std::exchange(Principal.FichaCompletaImplicita, nullptr))
+        ficha->Formulario->Unload();
+}
+
+void DescarregarFichaSimplificadaImplicita()
+{
+    if (const auto ficha = std::exchange(Principal.FichaSimplificadaImplicita, nullptr))
         ficha->Formulario->Unload();
 }
 
@@ -54,8 +97,7 @@ void frmLista::mnuAdicionarAgendamentoCompleto_Click()
     Integer Ponto = 0;
     Trap(", frmLista, mnuAdicionarAgendamentoCompleto_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        auto& instancia = Principal.FichaCompletaImplicita;
-        FichaDeAgendamento& ficha = InstanciaImplicita(instancia);
+        const FichaDaLista ficha = FichaCompletaImplicita();
         CopiarSituacoes(ficha.kvcmbSituacao, UltimaSituacao());
 
         Ponto = 3;
@@ -68,7 +110,7 @@ void frmLista::mnuAdicionarAgendamentoCompleto_Click()
         ficha.MontarExibirFormulario(operacao::Adicionar);
 
         Ponto = 9;
-        if (ficha.OperacaoConcluida) {
+        if (ficha.Estado.OperacaoConcluida) {
             Ponto = 10;
             GerarLista();
             Ponto = 11;
@@ -76,7 +118,7 @@ void frmLista::mnuAdicionarAgendamentoCompleto_Click()
         }
 
         Ponto = 5;
-        DescarregarInstancia(instancia);
+        DescarregarFichaCompletaImplicita();
     });
 }
 
@@ -85,8 +127,7 @@ void frmLista::mnuAdicionarAgendamentoSimplificado_Click()
     Integer Ponto = 0;
     Trap(", frmLista, mnuAdicionarAgendamentoSimplificado_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        auto& instancia = Principal.FichaSimplificadaImplicita;
-        FichaDeAgendamento& ficha = InstanciaImplicita(instancia);
+        const FichaDaLista ficha = FichaSimplificadaImplicita();
         CopiarSituacoes(ficha.kvcmbSituacao, UltimaSituacaoSemPreVenda());
 
         Ponto = 6;
@@ -99,7 +140,7 @@ void frmLista::mnuAdicionarAgendamentoSimplificado_Click()
         ficha.MontarExibirFormulario(operacao::Adicionar);
 
         Ponto = 12;
-        if (ficha.OperacaoConcluida) {
+        if (ficha.Estado.OperacaoConcluida) {
             Ponto = 13;
             GerarLista();
             Ponto = 14;
@@ -107,7 +148,7 @@ void frmLista::mnuAdicionarAgendamentoSimplificado_Click()
         }
 
         Ponto = 5;
-        DescarregarInstancia(instancia);
+        DescarregarFichaSimplificadaImplicita();
     });
 }
 
@@ -140,36 +181,34 @@ void frmLista::AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Intege
     Ponto = 1;
     msfgGrade.Enabled(false);
     const bool simplificado = NumeroDaCelula(colunas::CodigoDoCliente) == 0;
-    const std::shared_ptr<FichaDeAgendamento> ficha = CriarFicha(simplificado);
-    ficha->Formulario->Load();
+    const FichaDaLista ficha = CriarFicha(simplificado);
+    ficha.Formulario->Load();
 
     // 2. The filters' rows go over to the form.
     Ponto = 2;
-    CopiarSituacoes(ficha->kvcmbSituacao, simplificado ? UltimaSituacaoSemPreVenda() : UltimaSituacao());
+    CopiarSituacoes(ficha.kvcmbSituacao, simplificado ? UltimaSituacaoSemPreVenda() : UltimaSituacao());
 
     Ponto = 4;
     // A detail of a registered row empties the combo of the shared full record in place of its own, which
     // is empty anyway, and so brings that one into being.
     const bool limpaAOutra = Operacao == operacao::Detalhar && !simplificado;
-    CopiarTiposDeServicos(ficha->kvcmbTiposDeServicos,
-                          limpaAOutra
-                              ? InstanciaImplicita(Principal.FichaCompletaImplicita).kvcmbTiposDeServicos
-                              : ficha->kvcmbTiposDeServicos,
-                          Ponto);
+    CopiarTiposDeServicos(
+        ficha.kvcmbTiposDeServicos,
+        limpaAOutra ? FichaCompletaImplicita().kvcmbTiposDeServicos : ficha.kvcmbTiposDeServicos, Ponto);
 
     Ponto = 7;
-    CopiarFuncionarios(ficha->kvcmbFuncionarios, Ponto);
+    CopiarFuncionarios(ficha.kvcmbFuncionarios, Ponto);
 
     // 3. The form reads the row itself and runs until it is closed.
     Ponto = 9;
-    ficha->MontarExibirFormulario(Operacao);
+    ficha.MontarExibirFormulario(Operacao);
 
     // 4.
     msfgGrade.Enabled(true);
 
     // 5. The list is fresh where something was written.
     Ponto = 10;
-    if (ficha->OperacaoConcluida) {
+    if (ficha.Estado.OperacaoConcluida) {
         Ponto = 11;
         GerarLista();
         Ponto = 12;
@@ -178,14 +217,7 @@ void frmLista::AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Intege
 
     // 6.
     Ponto = 13;
-    ficha->Formulario->Unload();
-}
-
-std::shared_ptr<FichaDeAgendamento> frmLista::CriarFicha(bool simplificado)
-{
-    if (simplificado)
-        return frmFichaSimplificada::Criar();
-    return frmFichaCompleta::Criar();
+    ficha.Formulario->Unload();
 }
 
 Integer frmLista::UltimaSituacao() const { return Checked(kvcmbSituacao.ListCount() - 1); }

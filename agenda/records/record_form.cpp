@@ -57,23 +57,23 @@ bool HoraInicialConfirmada(Date data, TimeOfDay hora)
 
 } // namespace
 
-void FichaDeAgendamento::Exibir()
+bool EventoIgnorado(EstadoDaFicha& estado) { return std::exchange(estado.IgnorarEventoDeCampo, false); }
+
+void ExibirFicha(Form& formulario, EstadoDaFicha& estado)
 {
-    if (!std::exchange(NaoAplicarFundoEscuro, false)) {
+    if (!std::exchange(estado.NaoAplicarFundoEscuro, false)) {
         Integer opcao = 0;
         AplicarFundoEscuro(Principal.HandleDaJanelaPrincipal, opcao);
     }
-    if (!std::exchange(NaoExibirFormulario, false))
-        Formulario->Show(ShowMode::Modal);
-    if (std::exchange(NaoRemoverFundoEscuro, false))
+    if (!std::exchange(estado.NaoExibirFormulario, false))
+        formulario.Show(ShowMode::Modal);
+    if (std::exchange(estado.NaoRemoverFundoEscuro, false))
         return;
     ThePlatform().Toolkit().ProcessPendingEvents();
     if (const auto lista = Principal.FormularioDaLista)
         lista->Redesenhar();
     RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
 }
-
-bool FichaDeAgendamento::EventoIgnorado() { return std::exchange(IgnorarEventoDeCampo, false); }
 
 void EscreverBotao(KVCommandButton& botao, const Text& legenda, const Text& dica)
 {

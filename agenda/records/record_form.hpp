@@ -3,28 +3,15 @@
 #include "agenda/contracts/widgets.hpp"
 #include "agenda/shared/day_list.hpp"
 
+#include <functional>
 #include <memory>
 
 namespace kova::agenda {
 
 // What the two record forms do alike.
 
-/// A record form as the list opens it: the list fills its three combos, runs it, reads OperacaoConcluida
-/// and unloads it.
-class FichaDeAgendamento {
-public:
-    virtual ~FichaDeAgendamento() = default;
-    FichaDeAgendamento(const FichaDeAgendamento&) = delete;
-    FichaDeAgendamento& operator=(const FichaDeAgendamento&) = delete;
-
-    /// Fills the form for an operation and shows it; returns when it has been closed.
-    virtual void MontarExibirFormulario(Integer Operacao) = 0;
-
-    FormRef Formulario;
-    KVComboBox& kvcmbTiposDeServicos = Bind<KVComboBox>(Formulario, "kvcmbTiposDeServicos");
-    KVComboBox& kvcmbFuncionarios = Bind<KVComboBox>(Formulario, "kvcmbFuncionarios");
-    KVComboBox& kvcmbSituacao = Bind<KVComboBox>(Formulario, "kvcmbSituacao");
-
+/// What a record form is about and in the middle of. Each of the two holds one.
+struct EstadoDaFicha {
     /// The operation that the form is in; see `operacao`.
     Integer TipoDeOperacao = 0;
     /// Whether the business tier stored the change, or the user closed a detail view.
@@ -33,19 +20,30 @@ public:
     Double NumeroDeLancamento = 0;
     /// Swallows the next event of a guarded control; the handler that it stops clears it.
     bool IgnorarEventoDeCampo = false;
-
-protected:
-    explicit FichaDeAgendamento(FormRef formulario) : Formulario(std::move(formulario)) { }
-
-    /// Dims the shell, shows the form modally and takes the dimming away afterwards; each of the three
-    /// steps is skipped once where its flag is set. Failures go up to the caller.
-    void Exibir();
-    /// Whether the guard swallows this event; it is cleared then.
-    bool EventoIgnorado();
-
+    /// Each skips one step of the next ExibirFicha.
     bool NaoAplicarFundoEscuro = false;
     bool NaoExibirFormulario = false;
     bool NaoRemoverFundoEscuro = false;
+};
+
+/// Whether the guard swallows this event; it is cleared then.
+bool EventoIgnorado(EstadoDaFicha& estado);
+/// Dims the shell, shows the form modally and takes the dimming away afterwards; each of the three steps is
+/// skipped once where its flag is set. Failures go up to the caller.
+void ExibirFicha(Form& formulario, EstadoDaFicha& estado);
+
+/// A record form as the list opens it: the list fills its three combos, runs it, reads OperacaoConcluida and
+/// unloads it.
+struct FichaDaLista {
+    /// The form itself, which lives as long as this.
+    std::shared_ptr<void> Dona;
+    FormRef Formulario;
+    KVComboBox& kvcmbTiposDeServicos;
+    KVComboBox& kvcmbFuncionarios;
+    KVComboBox& kvcmbSituacao;
+    const EstadoDaFicha& Estado;
+    /// Fills the form for an operation and shows it; returns when it has been closed.
+    std::function<void(Integer Operacao)> MontarExibirFormulario;
 };
 
 /// Gives a button its role when the form opens.

@@ -19,18 +19,18 @@ Text CelulaEscolhida(const frmPesquisaDeServicos& pesquisa, Long coluna)
     return pesquisa.msfgGrade.TextMatrix(pesquisa.msfgGrade.RowSel(), coluna);
 }
 
-bool PesquisouTodosOsTipos(const FichaDeAgendamento& ficha)
+bool PesquisouTodosOsTipos(const KVComboBox& kvcmbTiposDeServicos)
 {
-    return ficha.kvcmbTiposDeServicos.ListIndex() == 0;
+    return kvcmbTiposDeServicos.ListIndex() == 0;
 }
 
-void SelecionarTipo(FichaDeAgendamento& ficha, Double NumeroDoTipoDeServico)
+void SelecionarTipo(KVComboBox& kvcmbTiposDeServicos, EstadoDaFicha& estado, Double NumeroDoTipoDeServico)
 {
-    const Integer linha = LinhaDoItemData(ficha.kvcmbTiposDeServicos, NumeroDoTipoDeServico);
+    const Integer linha = LinhaDoItemData(kvcmbTiposDeServicos, NumeroDoTipoDeServico);
     if (linha == -1)
         return;
-    ficha.IgnorarEventoDeCampo = true;
-    ficha.kvcmbTiposDeServicos.ListIndex(linha);
+    estado.IgnorarEventoDeCampo = true;
+    kvcmbTiposDeServicos.ListIndex(linha);
 }
 
 } // namespace
@@ -60,16 +60,19 @@ void MostrarServicoEscolhido(const CaixasDoServico& caixas, const frmPesquisaDeS
     caixas.kvtxtTempoDoServico.Text(CelulaEscolhida(pesquisa, colunas_de_servicos::TempoDeExecucao));
 }
 
-void SelecionarTipoEncontrado(FichaDeAgendamento& ficha, const RecordSet& registros)
+void SelecionarTipoEncontrado(KVComboBox& kvcmbTiposDeServicos, EstadoDaFicha& estado,
+                              const RecordSet& registros)
 {
-    if (PesquisouTodosOsTipos(ficha))
-        SelecionarTipo(ficha, registros.Field("NumeroDoTipoDeServico").ToDouble());
+    if (PesquisouTodosOsTipos(kvcmbTiposDeServicos))
+        SelecionarTipo(kvcmbTiposDeServicos, estado, registros.Field("NumeroDoTipoDeServico").ToDouble());
 }
 
-void SelecionarTipoEscolhido(FichaDeAgendamento& ficha, const frmPesquisaDeServicos& pesquisa)
+void SelecionarTipoEscolhido(KVComboBox& kvcmbTiposDeServicos, EstadoDaFicha& estado,
+                             const frmPesquisaDeServicos& pesquisa)
 {
-    if (PesquisouTodosOsTipos(ficha))
-        SelecionarTipo(ficha, Val(CelulaEscolhida(pesquisa, colunas_de_servicos::NumeroDoTipoDeServico)));
+    if (PesquisouTodosOsTipos(kvcmbTiposDeServicos))
+        SelecionarTipo(kvcmbTiposDeServicos, estado,
+                       Val(CelulaEscolhida(pesquisa, colunas_de_servicos::NumeroDoTipoDeServico)));
 }
 
 std::shared_ptr<frmPesquisaDeServicos> AbrirPesquisaDeServicos(RecordSet& registros)

@@ -26,8 +26,10 @@ void MostrarServicoEscolhido(const CaixasDoServico& caixas, const frmPesquisaDeS
 
 // The type follows from the service where all types were searched, which is row 0; only then it is read. The
 // form's guard is set for the combo's Click; a type that the combo does not have changes nothing.
-void SelecionarTipoEncontrado(FichaDeAgendamento& ficha, const RecordSet& registros);
-void SelecionarTipoEscolhido(FichaDeAgendamento& ficha, const frmPesquisaDeServicos& pesquisa);
+void SelecionarTipoEncontrado(KVComboBox& kvcmbTiposDeServicos, EstadoDaFicha& estado,
+                              const RecordSet& registros);
+void SelecionarTipoEscolhido(KVComboBox& kvcmbTiposDeServicos, EstadoDaFicha& estado,
+                             const frmPesquisaDeServicos& pesquisa);
 
 /// A dialog with the services to choose from, loaded and not yet shown; it does not fill its types.
 std::shared_ptr<frmPesquisaDeServicos> AbrirPesquisaDeServicos(RecordSet& registros);

@@ -20,7 +20,7 @@ std::shared_ptr<frmFichaSimplificada> frmFichaSimplificada::Criar()
 }
 
 frmFichaSimplificada::frmFichaSimplificada()
-    : FichaDeAgendamento(ThePlatform().Toolkit().CreateForm(DesenhoDefrmFichaSimplificada()))
+    : Formulario(ThePlatform().Toolkit().CreateForm(DesenhoDefrmFichaSimplificada()))
 {
     LigarEventos();
 }
@@ -62,8 +62,8 @@ void frmFichaSimplificada::MontarExibirFormulario(Integer Operacao)
     // The tag names the full record's form; it is fixed so.
     Trap(", frmFichaCompleta, MontarExibirFormulario, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        TipoDeOperacao = Operacao;
-        IgnorarEventoDeCampo = true;
+        Estado.TipoDeOperacao = Operacao;
+        Estado.IgnorarEventoDeCampo = true;
         if (kvcmbEspeciesDeAnimais.ListCount() == 0)
             PreencherComboboxEspeciesDeAnimais();
         if (kvcmbSexoDoAnimal.ListCount() == 0)
@@ -82,13 +82,13 @@ void frmFichaSimplificada::MontarExibirFormulario(Integer Operacao)
         MontarCarimbos();
 
         Ponto = 9;
-        Exibir();
+        ExibirFicha(*Formulario, Estado);
     });
 }
 
 void frmFichaSimplificada::PrepararInclusao()
 {
-    NumeroDeLancamento = 0;
+    Estado.NumeroDeLancamento = 0;
     kvdtpDataInicial.Text(Principal.DataDaAgenda);
     // The guard swallows this Click: choosing the row has reset the service part already.
     if (kvcmbTiposDeServicos.ListIndex() == 0)
@@ -98,7 +98,7 @@ void frmFichaSimplificada::PrepararInclusao()
 void frmFichaSimplificada::PreencherComALinhaDaLista(Integer& Ponto)
 {
     Ponto = 3;
-    NumeroDeLancamento = Val(CelulaSelecionadaDaLista(colunas::NumeroDeLancamento));
+    Estado.NumeroDeLancamento = Val(CelulaSelecionadaDaLista(colunas::NumeroDeLancamento));
     kvtxtNomeOuRazaoSocialDoCliente.Text(CelulaSelecionadaDaLista(colunas::NomeOuRazaoSocialDoCliente));
     kvtxtCanaisDeComunicacaoDoCliente.Text(CelulaSelecionadaDaLista(colunas::TiposECanaisDeComunicacao));
 
@@ -107,14 +107,14 @@ void frmFichaSimplificada::PreencherComALinhaDaLista(Integer& Ponto)
     const Text sexo = CelulaSelecionadaDaLista(colunas::SexoDoAnimal);
     const Text especie = CelulaSelecionadaDaLista(colunas::NomeDaEspecie);
     const Text raca = CelulaSelecionadaDaLista(colunas::NomeDaRaca);
-    if (TipoDeOperacao == operacao::Excluir)
+    if (Estado.TipoDeOperacao == operacao::Excluir)
         ExibirAnimal(sexo, especie, raca);
     else
         PreencherAnimal(sexo, especie, raca);
     kvtxtCorDoAnimal.Text(CelulaSelecionadaDaLista(colunas::CorDoAnimal));
 
     Ponto = 5;
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
     SelecionarPelaCelula(kvcmbTiposDeServicos, CelulaSelecionadaDaLista(colunas::NumeroDoTipoDeServico));
     kvfCodigoDoServico.Text(CelulaSelecionadaDaLista(colunas::CodigoDoServico));
     kvfNomeDoServico.Text(CelulaSelecionadaDaLista(colunas::NomeDoServico));
@@ -122,12 +122,12 @@ void frmFichaSimplificada::PreencherComALinhaDaLista(Integer& Ponto)
     kvtimHoraInicial.Text(CelulaSelecionadaDaLista(colunas::HoraInicial));
     kvdtpDataFinal.Text(CelulaSelecionadaDaLista(colunas::DataFinal));
     kvtimHoraFinal.Text(CelulaSelecionadaDaLista(colunas::HoraFinal));
-    IgnorarEventoDeCampo = true;
+    Estado.IgnorarEventoDeCampo = true;
     SelecionarPelaCelula(kvcmbFuncionarios, CelulaSelecionadaDaLista(colunas::CodigoDoFuncionario));
 
     // Nothing is swallowed from here on.
     Ponto = 6;
-    IgnorarEventoDeCampo = false;
+    Estado.IgnorarEventoDeCampo = false;
     kvtxtTempoDoServico.Text(CelulaSelecionadaDaLista(colunas::TempoDeExecucao));
     kvtxtObservacaoDoServico.Text(CelulaSelecionadaDaLista(colunas::Observacao));
     SelecionarPelaCelula(kvcmbSituacao, CelulaSelecionadaDaLista(colunas::Situacao));
@@ -135,7 +135,7 @@ void frmFichaSimplificada::PreencherComALinhaDaLista(Integer& Ponto)
 
 void frmFichaSimplificada::MontarOperacao()
 {
-    switch (TipoDeOperacao) {
+    switch (Estado.TipoDeOperacao) {
     case operacao::Adicionar:
         kvTheme.Caption("Adicionar agendamento simplificado");
         HabilitarCamposDeEdicao(*Formulario, true, CaixasDePesquisa::EsperamPesquisa);
@@ -170,13 +170,14 @@ void frmFichaSimplificada::MontarOperacao()
 
 void frmFichaSimplificada::MontarCarimbos()
 {
-    if (TipoDeOperacao == operacao::Adicionar) {
+    if (Estado.TipoDeOperacao == operacao::Adicionar) {
         kvTheme.DataOfInclusion("");
         kvTheme.DataOfAlteration("");
         return;
     }
-    kvTheme.DataOfInclusion(CarimboDeInclusao(
-        NumeroDeLancamento, CelulaSelecionadaDaLista(colunas::DataEHoraDaInclusao), TipoDeOperacao));
+    kvTheme.DataOfInclusion(CarimboDeInclusao(Estado.NumeroDeLancamento,
+                                              CelulaSelecionadaDaLista(colunas::DataEHoraDaInclusao),
+                                              Estado.TipoDeOperacao));
     kvTheme.DataOfAlteration(CarimboDeAlteracao(CelulaSelecionadaDaLista(colunas::DataEHoraDaAlteracao)));
 }
 

@@ -13,19 +13,27 @@ namespace kova::agenda {
 /// Its procedures lie by concern: frmFichaSimplificada.cpp opens it, frmFichaSimplificada_animal.cpp fills
 /// the animal's combos, frmFichaSimplificada_service.cpp looks up services and works out the end,
 /// frmFichaSimplificada_confirmation.cpp has the two buttons.
-class frmFichaSimplificada : public FichaDeAgendamento {
+class frmFichaSimplificada {
 public:
     /// A new form, not yet loaded. Its opener loads it and fills the three combos.
     static std::shared_ptr<frmFichaSimplificada> Criar();
+    frmFichaSimplificada(const frmFichaSimplificada&) = delete;
+    frmFichaSimplificada& operator=(const frmFichaSimplificada&) = delete;
 
     /// The list's selected row fills the form in every operation but adding.
-    void MontarExibirFormulario(Integer Operacao) override;
+    void MontarExibirFormulario(Integer Operacao);
     /// Switches the service part of the form.
     void HabilitarDesabilitarCampos(bool habilitar);
     /// Brings the wait plate to the front, in the middle.
     void CentralizarpicMensagem();
     /// True shows the wait plate and waits one second; nothing happens while the form is not visible.
     void ExibirOcultarpicMensagem(bool Exibir);
+
+    FormRef Formulario;
+    KVComboBox& kvcmbTiposDeServicos = Bind<KVComboBox>(Formulario, "kvcmbTiposDeServicos");
+    KVComboBox& kvcmbFuncionarios = Bind<KVComboBox>(Formulario, "kvcmbFuncionarios");
+    KVComboBox& kvcmbSituacao = Bind<KVComboBox>(Formulario, "kvcmbSituacao");
+    EstadoDaFicha Estado;
 
     KVTheme& kvTheme = Bind<KVTheme>(Formulario, "KVTheme");
 

@@ -95,7 +95,7 @@ void frmFichaSimplificada::ExibirAnimal(const Text& sexo, const Text& especie, c
     const auto exibirSo = [this](KVComboBox& combo, const Text& texto) {
         combo.Clear();
         combo.AddItem(texto);
-        IgnorarEventoDeCampo = true;
+        Estado.IgnorarEventoDeCampo = true;
         combo.ListIndex(0);
     };
     exibirSo(kvcmbSexoDoAnimal, sexo);
@@ -106,7 +106,7 @@ void frmFichaSimplificada::ExibirAnimal(const Text& sexo, const Text& especie, c
 void frmFichaSimplificada::PreencherAnimal(const Text& sexo, const Text& especie, const Text& raca)
 {
     if (!Trim(sexo).empty()) {
-        IgnorarEventoDeCampo = true;
+        Estado.IgnorarEventoDeCampo = true;
         kvcmbSexoDoAnimal.Text(sexo);
     }
     if (!especie.empty() && SelecionarPeloTexto(kvcmbEspeciesDeAnimais, especie))
@@ -119,7 +119,7 @@ bool frmFichaSimplificada::SelecionarPeloTexto(KVComboBox& combo, const Text& te
 {
     const Integer linhas = combo.ListCount();
     for (Integer linha = 0; linha < linhas; ++linha) {
-        IgnorarEventoDeCampo = true;
+        Estado.IgnorarEventoDeCampo = true;
         combo.ListIndex(linha);
         if (combo.Text() == texto)
             return true;
@@ -134,7 +134,7 @@ void frmFichaSimplificada::kvcmbEspeciesDeAnimais_Click()
     Integer Ponto = 0;
     Trap(", frmFichaSimplificada, kvcmbEspeciesDeAnimais_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (EventoIgnorado())
+        if (EventoIgnorado(Estado))
             return;
 
         Ponto = 2;

@@ -24,8 +24,8 @@ void frmFichaSimplificada::kvcmdSalvarFecharConfirmar_Click()
     Integer Ponto = 0;
     Trap(", frmFichaSimplificada, kvcmdSalvarFecharConfirmar_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (TipoDeOperacao == operacao::Detalhar) {
-            OperacaoConcluida = true;
+        if (Estado.TipoDeOperacao == operacao::Detalhar) {
+            Estado.OperacaoConcluida = true;
             Formulario->Hide();
             return;
         }
@@ -37,20 +37,20 @@ void frmFichaSimplificada::kvcmdSalvarFecharConfirmar_Click()
         EscreverAgendamento(*objAgenda);
 
         Ponto = 4;
-        const Integer resultado = Gravar(*objAgenda, TipoDeOperacao).ToInteger();
+        const Integer resultado = Gravar(*objAgenda, Estado.TipoDeOperacao).ToInteger();
 
         Ponto = 5;
         if (resultado == resultado_da_gravacao::CampoRecusado) {
             InformarCampoRecusado(*objAgenda);
-            OperacaoConcluida = false;
+            Estado.OperacaoConcluida = false;
             return;
         }
         InformarFalhaOuRecusa(*objAgenda, resultado);
         if (resultado == resultado_da_gravacao::Concluida)
-            OperacaoConcluida = true;
+            Estado.OperacaoConcluida = true;
         else if (resultado == resultado_da_gravacao::FalhaTecnica
                  || resultado == resultado_da_gravacao::Recusada)
-            OperacaoConcluida = false;
+            Estado.OperacaoConcluida = false;
 
         Ponto = 6;
         objAgenda.reset();
@@ -60,9 +60,9 @@ void frmFichaSimplificada::kvcmdSalvarFecharConfirmar_Click()
 
 void frmFichaSimplificada::EscreverAgendamento(Component& agenda)
 {
-    const bool inclui = TipoDeOperacao == operacao::Adicionar;
+    const bool inclui = Estado.TipoDeOperacao == operacao::Adicionar;
     if (!inclui)
-        agenda.Set("NumeroDeLancamento", NumeroDeLancamento);
+        agenda.Set("NumeroDeLancamento", Estado.NumeroDeLancamento);
     agenda.Set("Situacao",
                inclui ? Long{situacao::Agendado} : kvcmbSituacao.ItemData(kvcmbSituacao.ListIndex()));
     agenda.Set("CodigoDoFuncionario", ItemDataOuZero(kvcmbFuncionarios));
@@ -120,17 +120,17 @@ void frmFichaSimplificada::kvcmdCancelarAlterar_Click()
         RestaurarCorDosRotulos(*Formulario);
 
         Ponto = 2;
-        if (TipoDeOperacao != operacao::Detalhar) {
-            OperacaoConcluida = false;
+        if (Estado.TipoDeOperacao != operacao::Detalhar) {
+            Estado.OperacaoConcluida = false;
             Formulario->Hide();
             return;
         }
 
         // The detail view becomes an alteration under its own modal show.
         Ponto = 3;
-        NaoAplicarFundoEscuro = true;
-        NaoExibirFormulario = true;
-        NaoRemoverFundoEscuro = true;
+        Estado.NaoAplicarFundoEscuro = true;
+        Estado.NaoExibirFormulario = true;
+        Estado.NaoRemoverFundoEscuro = true;
         MontarExibirFormulario(operacao::Alterar);
     });
 }

@@ -19,7 +19,7 @@ void frmFichaSimplificada::kvcmbTiposDeServicos_Click()
     Integer Ponto = 0;
     Trap(", frmFichaSimplificada, kvcmbTiposDeServicos_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (EventoIgnorado())
+        if (EventoIgnorado(Estado))
             return;
 
         Ponto = 2;
@@ -109,7 +109,7 @@ void frmFichaSimplificada::kvfCodigoDoServico_KeyDown()
     Integer Ponto = 0;
     Trap(", frmFichaSimplificada, kvfCodigoDoServico_KeyDown, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (!EventoIgnorado())
+        if (!EventoIgnorado(Estado))
             kvfNomeDoServico.DisplayText("");
     });
 }
@@ -119,7 +119,7 @@ void frmFichaSimplificada::kvfNomeDoServico_KeyDown()
     Integer Ponto = 0;
     Trap(", frmFichaSimplificada, kvfNomeDoServico_KeyDown, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (!EventoIgnorado())
+        if (!EventoIgnorado(Estado))
             kvfCodigoDoServico.DisplayText("");
     });
 }
@@ -155,9 +155,9 @@ bool frmFichaSimplificada::PesquisarServico(Integer tipo, Text nome, Double codi
         Ponto = 4;
         if (registros->RecordCount() == 1) {
             MostrarServicoEncontrado({kvfCodigoDoServico, kvfNomeDoServico, kvtxtTempoDoServico}, *registros);
-            SelecionarTipoEncontrado(*this, *registros);
+            SelecionarTipoEncontrado(kvcmbTiposDeServicos, Estado, *registros);
             // Filling the box that searched counts as typing into it, which would empty the other one.
-            IgnorarEventoDeCampo = true;
+            Estado.IgnorarEventoDeCampo = true;
             resultado = true;
             return;
         }
@@ -183,8 +183,8 @@ bool frmFichaSimplificada::EscolherServico(RecordSet& registros)
     const bool escolhido = pesquisa->RegistroSelecionado;
     if (escolhido) {
         MostrarServicoEscolhido({kvfCodigoDoServico, kvfNomeDoServico, kvtxtTempoDoServico}, *pesquisa);
-        SelecionarTipoEscolhido(*this, *pesquisa);
-        IgnorarEventoDeCampo = true;
+        SelecionarTipoEscolhido(kvcmbTiposDeServicos, Estado, *pesquisa);
+        Estado.IgnorarEventoDeCampo = true;
     }
     pesquisa->Formulario->Unload();
     return escolhido;

@@ -352,7 +352,7 @@ TEST_F(FichaCompletaAnimal, SearchLetsTheUserPickAmongSeveralOwners)
 
         AnswerOwners({Owner(12, "Zé"), Owner(15, "Bia")});
         Inside([this] { EXPECT_EQ(user.Click("frmPesquisaDeClientes", "kvcmdFechar"), ""); });
-        ficha->IgnorarEventoDeCampo = false;
+        ficha->Estado.IgnorarEventoDeCampo = false;
         Search(Pesquisa, "Rex");
         EXPECT_EQ(CustomerTexts(), Strings(5));
         EXPECT_EQ(Focused(), Pesquisa);
@@ -390,9 +390,9 @@ TEST_F(FichaCompletaAnimal, TypingANewSearchEmptiesTheFormerCustomer)
     Add([this] {
         SearchByAnimal();
         FillAll();
-        ficha->IgnorarEventoDeCampo = true;
+        ficha->Estado.IgnorarEventoDeCampo = true;
         Type(Pesquisa, "R");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         EXPECT_EQ(ficha->kvfCodigoDoCliente.Text(), "cheio") << "the guard swallows the first key";
         Type(Pesquisa, "e");
         EXPECT_EQ(CustomerTexts(), Strings(5));

@@ -48,7 +48,7 @@ TEST_F(Confirming, SendsANewAppointmentInTheFixedOrderWithoutANumber)
                   "get " + Agenda + ".RegistroPercenteAUmPacoteDeBanhoETosa -> Boolean False",
                   "release " + Agenda,
               }));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_TRUE(Boxes().empty());
 }
 
@@ -64,7 +64,7 @@ TEST_F(Confirming, SendsNumberAndChosenSituationWhereItAltersOrDeletes)
         EXPECT_EQ(Written("Observacao"), R"(Text "nada")");
         EXPECT_EQ(Written("TransporteBuscar"), "Long -1");
         EXPECT_EQ(Lines("call " + Agenda), (Strings{"call " + Agenda + call + " -> Integer 0"}));
-        EXPECT_TRUE(ficha->OperacaoConcluida);
+        EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     }
 }
 
@@ -73,7 +73,7 @@ TEST_F(Confirming, SendsZeroWhereNothingIsSelected)
     EXPECT_TRUE(Run(operacao::Adicionar, [this] {
         ficha->kvcmbFuncionarios.ListIndex(-1);
         ficha->kvcmbAnimal.Text("");
-        ficha->IgnorarEventoDeCampo = true;
+        ficha->Estado.IgnorarEventoDeCampo = true;
         ficha->kvcmbTiposDeServicos.ListIndex(-1);
         ficha->kvfCodigoDoCliente.Text("");
         ficha->kvfCodigoDoServico.Text("x");
@@ -106,7 +106,7 @@ TEST_F(Confirming, SendsHowOftenTheBookingIsRepeated)
 TEST_F(Confirming, ClosesADetailViewWithoutTheBusinessTier)
 {
     EXPECT_TRUE(Save(operacao::Detalhar));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_TRUE(AtTheAgenda().empty());
 }
 
@@ -115,9 +115,9 @@ TEST_F(Confirming, ReportsATechnicalFailureAndCloses)
     WriteAnswers(
         "Adicionar", 1,
         {{"NumeroDoErro", Long{7}}, {"DescricaoDoErro", "sem conexão"}, {"LocalDoErro", "servidor"}});
-    ficha->OperacaoConcluida = true;
+    ficha->Estado.OperacaoConcluida = true;
     EXPECT_TRUE(Save());
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
     EXPECT_EQ(Reports(),
               (Strings{R"(call KOVA_A_MsgErro.clsMensagem.Exibir(Long& 7, Text& "sem conexão", )"
                        R"(Text& "servidor", Text& "Kova") -> Integer 0)"}));
@@ -128,9 +128,9 @@ TEST_F(Confirming, TellsOfARefusalInACriticalBoxAndCloses)
 {
     WriteAnswers("Excluir", 3, {{"DescricaoDaFalha", "O agendamento não existe mais."}});
     Answers({Reply::Ok});
-    ficha->OperacaoConcluida = true;
+    ficha->Estado.OperacaoConcluida = true;
     EXPECT_TRUE(Save(operacao::Excluir));
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
     EXPECT_EQ(Boxes(), (Strings{R"(box critical "Kova" "O agendamento não existe mais." -> ok)"}));
 }
 
@@ -138,9 +138,9 @@ TEST_F(Confirming, ClosesOnAnAnswerWithoutAMeaningAndLeavesTheResultAsItWas)
 {
     for (const bool before : {false, true}) {
         WriteAnswers("Adicionar", before ? Integer{4} : Integer{-1});
-        ficha->OperacaoConcluida = before;
+        ficha->Estado.OperacaoConcluida = before;
         EXPECT_TRUE(Save());
-        EXPECT_EQ(ficha->OperacaoConcluida, before);
+        EXPECT_EQ(ficha->Estado.OperacaoConcluida, before);
         EXPECT_TRUE(Boxes().empty());
         EXPECT_TRUE(Lines("get ").empty());
     }
@@ -165,7 +165,7 @@ TEST_F(Confirming, ReportsACallThatBreaksBetweenTheWriteAndThePackageAndStaysOpe
         if (broken == Pacote)
             Answers({Reply::Yes});
         EXPECT_FALSE(Save(operacao::Alterar));
-        EXPECT_FALSE(ficha->OperacaoConcluida);
+        EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
         EXPECT_EQ(Lines("call " + Agenda + ".Alterar(").size(), 1U) << "it is not written again";
         ASSERT_EQ(Reports().size(), 1U);
         EXPECT_NE(Reports()[0].find(", frmFichaCompleta, kvcmdSalvarFecharConfirmar_Click, Ponto: 4"),
@@ -178,7 +178,7 @@ TEST_F(Confirming, ReportsDatesThatWereNeverPicked)
 {
     EXPECT_FALSE(Run(operacao::Adicionar, [this] {
         EXPECT_EQ(user.Choose("frmFichaCompleta", "kvcmbReagendar", "Sim"), "");
-        ficha->IgnorarEventoDeCampo = true;
+        ficha->Estado.IgnorarEventoDeCampo = true;
         EXPECT_EQ(user.Choose("frmFichaCompleta", "kvcmbReagendarPor", "Selecionar datas"), "");
         PressSave();
     }));
@@ -202,7 +202,7 @@ TEST_F(Confirming, AsksForThePackageInTheWordOfTheSituationThatWasSent)
         WriteAnswers(one.write, 0, {{"RegistroPercenteAUmPacoteDeBanhoETosa", true}});
         Answers({Reply::Yes});
         EXPECT_TRUE(Save(one.mode));
-        EXPECT_TRUE(ficha->OperacaoConcluida);
+        EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
         EXPECT_EQ(
             Boxes(),
             (Strings{
@@ -219,7 +219,7 @@ TEST_F(Confirming, LeavesThePackageAloneOnNo)
     WriteAnswers("Alterar", 0, {{"RegistroPercenteAUmPacoteDeBanhoETosa", true}});
     Answers({Reply::No});
     EXPECT_TRUE(Save(operacao::Alterar));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_TRUE(Lines("call " + Pacote).empty());
 }
 
@@ -229,7 +229,7 @@ TEST_F(Confirming, TellsOfAPackageThatCouldNotBeChanged)
     script.Answer(Pacote, {.result = Integer{1}});
     Answers({Reply::Yes, Reply::Ok});
     EXPECT_TRUE(Save(operacao::Alterar));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     ASSERT_EQ(Boxes().size(), 2U);
     EXPECT_EQ(Boxes()[1],
               R"(box information "Kova" "Não foi possível alterar a situação dos demais agendamentos deste )"
@@ -239,12 +239,12 @@ TEST_F(Confirming, TellsOfAPackageThatCouldNotBeChanged)
 TEST_F(Confirming, LeavesByTheSecondButton)
 {
     for (const Integer mode : {operacao::Adicionar, operacao::Alterar, operacao::Excluir}) {
-        ficha->OperacaoConcluida = true;
+        ficha->Estado.OperacaoConcluida = true;
         EXPECT_TRUE(Run(mode, [this] {
             ficha->lblDataHoraInicial.ForeColor(cores::RotuloRecusado);
             EXPECT_EQ(user.Click("frmFichaCompleta", "kvcmdCancelarAlterar"), "");
         }));
-        EXPECT_FALSE(ficha->OperacaoConcluida);
+        EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
         EXPECT_EQ(ficha->lblDataHoraInicial.ForeColor(), cores::Rotulo);
         EXPECT_TRUE(AtTheAgenda().empty());
     }
@@ -255,7 +255,7 @@ TEST_F(Confirming, TurnsADetailViewIntoAnAlterationUnderTheSameShow)
     EXPECT_TRUE(Run(operacao::Detalhar, [this] {
         EXPECT_EQ(user.Click("frmFichaCompleta", "kvcmdCancelarAlterar"), "");
         EXPECT_TRUE(ficha->Formulario->Visible());
-        EXPECT_EQ(ficha->TipoDeOperacao, operacao::Alterar);
+        EXPECT_EQ(ficha->Estado.TipoDeOperacao, operacao::Alterar);
         EXPECT_TRUE(ficha->kvtimHoraInicial.Enabled());
         EXPECT_TRUE(Logged("show ").empty());
         EXPECT_TRUE(Lines("create KOVA_A_EfeitosDeTela").empty()) << "neither dimmed again nor undimmed";

@@ -108,7 +108,7 @@ TEST_F(FichaCompletaCustomer, WithOneAnimalLeadsToTheType)
         EXPECT_TRUE(ficha->kvcmbAnimal.Enabled());
         for (const char* box : {Apelido, Nome, Codigo, Endereco})
             EXPECT_EQ(Find(box).Status(), 0) << box;
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo) << "the filling has spent the guard";
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo) << "the filling has spent the guard";
     });
 }
 
@@ -172,7 +172,7 @@ TEST_F(FichaCompletaCustomer, NotFoundSaysByWhatAndKeepsTheTextSelected)
         for (const auto& row : rows) {
             FindVip();
             toolkit.ClearLog();
-            ficha->IgnorarEventoDeCampo = false;
+            ficha->Estado.IgnorarEventoDeCampo = false;
             Answer();
             Search(row.box, row.text);
             EXPECT_EQ(Boxes(), Strings{Box("information", row.message)});
@@ -250,7 +250,7 @@ TEST_F(FichaCompletaCustomer, TypingInABoxBlanksTheOthersAndNothingElse)
     Add([this] {
         for (const char* box : {Apelido, Nome, Codigo, Endereco}) {
             FindVip();
-            EXPECT_FALSE(ficha->IgnorarEventoDeCampo) << "the first key after a hit counts";
+            EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo) << "the first key after a hit counts";
             Type(box, "b");
             for (const char* other : {Apelido, Nome, Codigo, Endereco}) {
                 EXPECT_EQ(Find(other).Text(), std::string(other) == box ? "b" : "") << box;

@@ -154,7 +154,7 @@ TEST_F(FichaCompletaLayout, EscapePressesTheSecondButton)
         Key(toolkit::FormKey::Escape);
         EXPECT_FALSE(ficha->Formulario->Visible());
     });
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
 }
 
 TEST_F(FichaCompletaLayout, AKeyMakesTheChoiceOfTheSearch)

@@ -12,13 +12,13 @@ TEST_F(FichaCompletaOpening, AddsOnTheListsDateWithoutANumber)
 {
     Prepare();
     Principal.DataDaAgenda = "23/11/2026";
-    ficha->NumeroDeLancamento = 9;
+    ficha->Estado.NumeroDeLancamento = 9;
     ficha->DomingoOuFeriado = true;
     Show(operacao::Adicionar, [this] {
-        EXPECT_EQ(ficha->TipoDeOperacao, operacao::Adicionar);
-        EXPECT_EQ(ficha->NumeroDeLancamento, 0);
+        EXPECT_EQ(ficha->Estado.TipoDeOperacao, operacao::Adicionar);
+        EXPECT_EQ(ficha->Estado.NumeroDeLancamento, 0);
         EXPECT_FALSE(ficha->DomingoOuFeriado);
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         EXPECT_EQ(ficha->kvdtpDataInicial.Text(), "23/11/2026");
         EXPECT_EQ(ficha->kvtimHoraInicial.Text(), "__:__");
         EXPECT_EQ(CustomerTexts(), Strings(5));
@@ -27,7 +27,7 @@ TEST_F(FichaCompletaOpening, AddsOnTheListsDateWithoutANumber)
         EXPECT_TRUE(ficha->optAgendarPorCliente.Value());
         EXPECT_FALSE(ficha->kvfNomeDoAnimal.Visible());
     });
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
     EXPECT_TRUE(Lines("create KOVA_N_ClientAnim").empty());
 }
 
@@ -60,7 +60,7 @@ TEST_F(FichaCompletaOpening, ReadsTheListsCurrentRow)
     for (const Integer mode : {operacao::Detalhar, operacao::Alterar, operacao::Excluir}) {
         MakeForm();
         Show(mode, [this] {
-            EXPECT_EQ(ficha->NumeroDeLancamento, 41);
+            EXPECT_EQ(ficha->Estado.NumeroDeLancamento, 41);
             EXPECT_EQ(CustomerTexts(),
                       (Strings{"12", "Zé", "José Antônio da Silva", "(EnderecoCompletoComCEP)",
                                "Celular: 00000-0000"}));
@@ -80,7 +80,7 @@ TEST_F(FichaCompletaOpening, ReadsTheListsCurrentRow)
             EXPECT_FALSE(ficha->txtPesquisarPor.Visible());
             EXPECT_FALSE(ficha->optAgendarPorCliente.Visible());
             EXPECT_FALSE(ficha->optAgendarPorAnimal.Visible());
-            EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+            EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         });
         EXPECT_TRUE(Reports().empty());
     }
@@ -126,7 +126,7 @@ TEST_F(FichaCompletaOpening, LeavesACombosSelectionWhereNoRowHasTheNumber)
         EXPECT_EQ(ficha->kvcmbAnimal.ListIndex(), -1);
         EXPECT_EQ(ficha->kvcmbSituacao.ListIndex(), -1);
         EXPECT_EQ(ficha->kvtxtObservacaoDoServico.Text(), "lida assim mesmo");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
     });
     EXPECT_TRUE(Reports().empty());
 }
@@ -153,7 +153,7 @@ TEST_F(FichaCompletaOpening, ReportsACellThatIsNoNumberAndDoesNotShow)
         Reports()[0].find(R"(Text& "KOVA_A_Agenda, frmFichaCompleta, MontarExibirFormulario, Ponto: 6")"),
         std::string::npos);
     EXPECT_TRUE(Logged("show").empty());
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
 }
 
 TEST_F(FichaCompletaOpening, ReportsWhereThereIsNoListToReadFrom)
@@ -185,13 +185,13 @@ TEST_F(FichaCompletaOpening, BecomesAnAlterationWithoutASecondShow)
         lines.clear();
         toolkit.ClearLog();
         EXPECT_EQ(user.Click(Form, "kvcmdCancelarAlterar"), "");
-        EXPECT_EQ(ficha->TipoDeOperacao, operacao::Alterar);
+        EXPECT_EQ(ficha->Estado.TipoDeOperacao, operacao::Alterar);
         EXPECT_TRUE(ficha->Formulario->Visible());
         EXPECT_TRUE(Lines("call KOVA_A_EfeitosDeTela").empty());
         EXPECT_TRUE(Logged("show").empty());
         EXPECT_EQ(ficha->kvcmbReagendar.ListCount(), 2) << "filled once";
         EXPECT_EQ(ficha->kvfNomeDoServico.Text(), "(NomeDoServico)") << "the type's click was swallowed";
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
     });
     EXPECT_EQ(Lines("call KOVA_A_EfeitosDeTela").size(), 1U) << "taken away by the first pass";
 }
@@ -222,7 +222,7 @@ TEST_F(FichaCompletaOpening, EndsUnfinishedWhenItsWindowIsClosed)
 {
     Prepare();
     Show(operacao::Detalhar, [this] { EXPECT_EQ(user.CloseForm(Form), ""); });
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
     EXPECT_FALSE(ficha->Formulario->IsLoaded());
 }
 

@@ -76,7 +76,7 @@ TEST_F(Refused, MarksTheFieldAndGivesItTheFocus)
         SCOPED_TRACE(row.name);
         Refuse("Alterar", row.name);
         Answers({Reply::Ok});
-        ficha->OperacaoConcluida = true;
+        ficha->Estado.OperacaoConcluida = true;
         Strings red;
         EXPECT_FALSE(Run(operacao::Alterar, [&] {
             PressSave();
@@ -85,7 +85,7 @@ TEST_F(Refused, MarksTheFieldAndGivesItTheFocus)
         EXPECT_EQ(red, (Strings{row.label})) << "the field of the former refusal is normal again";
         EXPECT_EQ(FocusedByCode(), (Strings{std::string("focus frmFichaCompleta.") + row.focus}));
         EXPECT_EQ(Boxes(), (Strings{R"(box information "Kova" "Motivo." -> ok)"}));
-        EXPECT_FALSE(ficha->OperacaoConcluida);
+        EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
         EXPECT_EQ(Lines("release " + Agenda).size(), 1U);
     }
 }
@@ -132,7 +132,7 @@ TEST_F(Refused, KeepsASundayOnYes)
     EXPECT_EQ(Calls(),
               (Strings{"call " + Agenda + ".Adicionar() -> Integer 2",
                        "call " + Agenda + ".Adicionar() -> Integer 0"}));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_TRUE(Red().empty());
 }
 
@@ -145,7 +145,7 @@ TEST_F(Refused, HasASundayMovedWhereTheUserWantsTheNextWorkingDay)
     EXPECT_EQ(SetForTheSecondWrite(),
               (Strings{"set " + Agenda + ".DadosValidados Boolean True",
                        "set " + Agenda + ".DomingoOuFeriado Boolean True"}));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
 }
 
 TEST_F(Refused, StaysOpenOnASundayThatIsNeitherKeptNorMoved)
@@ -153,9 +153,9 @@ TEST_F(Refused, StaysOpenOnASundayThatIsNeitherKeptNorMoved)
     for (const bool before : {false, true}) {
         RefuseTheSunday("Adicionar");
         Answers({Reply::No, Reply::No});
-        ficha->OperacaoConcluida = before;
+        ficha->Estado.OperacaoConcluida = before;
         EXPECT_FALSE(Save());
-        EXPECT_EQ(ficha->OperacaoConcluida, before);
+        EXPECT_EQ(ficha->Estado.OperacaoConcluida, before);
         EXPECT_EQ(FocusedByCode(), (Strings{"focus frmFichaCompleta.kvdtpDataInicial"}));
         EXPECT_EQ(Calls().size(), 1U);
         EXPECT_EQ(Lines("release " + Agenda).size(), 1U);
@@ -168,7 +168,7 @@ TEST_F(Refused, DoesNotLookAtTheSecondAnswer)
     WriteAnswers("Adicionar", 1, {{"NumeroDoErro", Long{7}}});
     Answers({Reply::Yes});
     EXPECT_TRUE(Save());
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_TRUE(Reports().empty());
 }
 
@@ -178,7 +178,7 @@ TEST_F(Refused, DoesNotEvenConvertTheSecondAnswer)
     script.Answer(Agenda + ".Adicionar", {.result = Null{}});
     Answers({Reply::Yes});
     EXPECT_TRUE(Save());
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_TRUE(Reports().empty());
 }
 
@@ -202,7 +202,7 @@ TEST_F(Refused, OffersToCancelThePackageWhereItAlters)
     EXPECT_TRUE(Save(operacao::Alterar));
     EXPECT_EQ(Boxes().back(), question + " -> no");
     EXPECT_TRUE(Lines("call " + Pacote).empty());
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
 }
 
 TEST_F(Refused, TellsOfAPackageThatCouldNotBeCancelled)
@@ -216,7 +216,7 @@ TEST_F(Refused, TellsOfAPackageThatCouldNotBeCancelled)
     EXPECT_EQ(Boxes()[2],
               R"(box information "Kova" "Não foi possível alterar a situação dos demais agendamentos deste )"
               R"(pacote.\r\n\r\nTente novamente mais tarde." -> ok)");
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
 }
 
 TEST_F(Refused, WritesADeletionOnceAlthoughItsSundayIsConfirmed)
@@ -226,7 +226,7 @@ TEST_F(Refused, WritesADeletionOnceAlthoughItsSundayIsConfirmed)
     EXPECT_TRUE(Save(operacao::Excluir));
     EXPECT_EQ(Calls(), (Strings{"call " + Agenda + ".Excluir() -> Integer 2"}));
     EXPECT_EQ(Boxes(), (Strings{Sunday + " -> yes"})) << "nor is a package asked for";
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
 }
 
 } // namespace

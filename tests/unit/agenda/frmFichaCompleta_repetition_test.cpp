@@ -85,16 +85,16 @@ TEST_F(Repetition, AsksForNumberAndUnitWhileItIsWanted)
 TEST_F(Repetition, SwallowsOneEventUnderTheGuard)
 {
     Run(operacao::Adicionar, [this] {
-        ficha->IgnorarEventoDeCampo = true;
+        ficha->Estado.IgnorarEventoDeCampo = true;
         Choose("kvcmbReagendar", "Sim");
         EXPECT_EQ(ficha->lblReagendar.Caption(), "Reagendar");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         Choose("kvcmbReagendar", "Sim");
         EXPECT_EQ(ficha->lblReagendar.Caption(), "Reagendar por mais");
 
-        ficha->IgnorarEventoDeCampo = true;
+        ficha->Estado.IgnorarEventoDeCampo = true;
         Choose("kvcmbReagendarPor", "Selecionar datas");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         EXPECT_TRUE(Logged("show ").empty());
     });
 }
@@ -171,7 +171,7 @@ TEST_F(Repetition, SavesAtOnceWhereTheDatesAreConfirmed)
             SaveDates();
         });
     }));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_EQ(Written("CriadaListaDasDatasEHorasSelecionadas"), "Boolean True");
     EXPECT_EQ(Written("QuantidadeDeReagendamentos"), "Long 1");
     EXPECT_EQ(Written("FrequenciaDeReagendamento"), "Integer 3");

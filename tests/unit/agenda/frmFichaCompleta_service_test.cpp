@@ -100,9 +100,9 @@ TEST_F(FichaCompletaService, AGuardedChangeOfTheTypeEmptiesNothing)
 {
     Add([this] {
         FillAll();
-        ficha->IgnorarEventoDeCampo = true;
+        ficha->Estado.IgnorarEventoDeCampo = true;
         ficha->kvcmbTiposDeServicos.ListIndex(3);
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         EXPECT_EQ(ServiceTexts(), (Strings{"Banho e tosa", "cheio", "cheio", "01:00"}));
     });
 }
@@ -134,7 +134,7 @@ TEST_F(FichaCompletaService, FoundShowsItsDurationAndLeadsToTheStartTime)
         EXPECT_EQ(ficha->kvfCodigoDoServico.Status(), 0);
         EXPECT_EQ(ficha->kvfNomeDoServico.Status(), 0);
         EXPECT_EQ(Focused(), "kvtimHoraInicial");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo) << "the filling has spent the guard";
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo) << "the filling has spent the guard";
         EXPECT_EQ(Logged("pause"), Strings{"pause 1"});
     });
 }
@@ -145,7 +145,7 @@ TEST_F(FichaCompletaService, TheTypeFollowsWhereAllTypesWereSearched)
         AnswerServices({Row(8, "Banho")});
         Search(Codigo, "8");
         EXPECT_EQ(ServiceTexts(), (Strings{"Banho e tosa", "8", "Banho", "01:30"}));
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         EXPECT_NE(Lines("call " + Servicos)[0].find("Integer& 0, "), std::string::npos);
     });
 }
@@ -286,7 +286,7 @@ TEST_F(FichaCompletaService, IsPickedWhereSeveralAreFound)
         EXPECT_EQ(ServiceTexts(), (Strings{"Banho e tosa", "9", "Banho e hidratação", "02:00"}));
         EXPECT_EQ(ficha->kvtxtObservacaoDoServico.Text(), "cheio") << "moving the combo emptied nothing";
         EXPECT_EQ(Focused(), "kvtimHoraInicial");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         EXPECT_EQ(toolkit.FindForm("frmPesquisaDeServicos"), nullptr);
         EXPECT_EQ(Logged("repaint"), Strings{"repaint frmFichaCompleta"});
         EXPECT_EQ(Lines("call " + Servicos).size(), 1U);

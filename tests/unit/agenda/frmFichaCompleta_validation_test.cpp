@@ -25,7 +25,7 @@ protected:
             EXPECT_EQ(FocusedByCode(), (Strings{"focus frmFichaCompleta." + focused}));
             EXPECT_TRUE(Logged("show ").empty()) << "no dates are asked for";
             EXPECT_EQ(ficha->kvcmbReagendarPor.Text(), "Semana(s)");
-            EXPECT_FALSE(ficha->IgnorarEventoDeCampo) << "the guard has swallowed the unit's click";
+            EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo) << "the guard has swallowed the unit's click";
         }));
     }
 };

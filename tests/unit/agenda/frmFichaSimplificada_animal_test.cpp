@@ -46,9 +46,9 @@ TEST_F(TheAnimalOfTheSimplifiedForm, SwallowsOneChoiceOfSpeciesWhileItsGuardIsSe
 {
     Prepare();
     InForm(1, [&] {
-        ficha->IgnorarEventoDeCampo = true;
+        ficha->Estado.IgnorarEventoDeCampo = true;
         user.Choose(Form, "kvcmbEspeciesDeAnimais", "Gato");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         EXPECT_EQ(ficha->kvcmbRacasDeAnimais.ListCount(), 0);
         user.Choose(Form, "kvcmbEspeciesDeAnimais", "Gato");
         EXPECT_EQ(ficha->kvcmbRacasDeAnimais.ListCount(), 2);

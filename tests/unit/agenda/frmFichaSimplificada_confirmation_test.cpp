@@ -39,7 +39,7 @@ TEST_F(ConfirmingTheSimplifiedForm, SendsNothingFromADetailView)
 {
     Prepare();
     InForm(2, [&] { Save(); });
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_FALSE(ficha->Formulario->Visible());
     EXPECT_TRUE(Lines("create " + Agenda).empty());
 }
@@ -74,7 +74,7 @@ TEST_F(ConfirmingTheSimplifiedForm, AddsWhatWasTypedInItsOrder)
                  R"(CorDoAnimal Text "Preto")", "NumeroDoTipoDeServico Long 4", R"(Observacao Text "Arisco")",
                  "TipoDoAgendamento Long 1", "DadosDoUsuario Object <user>"}));
     EXPECT_EQ(Lines("call " + Agenda), (Strings{"call " + Agenda + ".Adicionar() -> Integer 0"}));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_FALSE(ficha->Formulario->Visible());
 }
 
@@ -118,7 +118,7 @@ TEST_F(ConfirmingTheSimplifiedForm, WritesEveryMemberForADeletionToo)
     InForm(4, [&] { Save(); });
     EXPECT_EQ(Members().size(), 19U);
     EXPECT_EQ(Lines("call " + Agenda), (Strings{"call " + Agenda + ".Excluir() -> Integer 0"}));
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
 }
 
 TEST_F(ConfirmingTheSimplifiedForm, LacksWhatOnlyTheFullRecordHas)
@@ -167,11 +167,11 @@ TEST_F(ConfirmingTheSimplifiedForm, PassesOnATechnicalFailureAndHides)
     Prepare();
     AnswerFailure(Agenda + ".Adicionar");
     InForm(1, [&] {
-        ficha->OperacaoConcluida = true;
+        ficha->Estado.OperacaoConcluida = true;
         Save();
     });
     EXPECT_EQ(Reports(), (Strings{ReportOfFailure()}));
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
     EXPECT_FALSE(ficha->Formulario->Visible());
 }
 
@@ -184,7 +184,7 @@ TEST_F(ConfirmingTheSimplifiedForm, ShowsARefusalInACriticalBoxAndHides)
     Box();
     InForm(3, [&] { Save(); });
     EXPECT_EQ(Boxes(), (Strings{R"(box critical "Kova" "O agendamento não existe mais." -> ok)"}));
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
     EXPECT_FALSE(ficha->Formulario->Visible());
     EXPECT_TRUE(Lines("get " + Agenda + ".NomeDoCampoValidado").empty());
 }
@@ -195,10 +195,10 @@ TEST_F(ConfirmingTheSimplifiedForm, HidesWithoutAWordOnEveryOtherAnswer)
         Prepare();
         script.Answer(Agenda + ".Adicionar", {.result = answer});
         InForm(1, [&] {
-            ficha->OperacaoConcluida = true;
+            ficha->Estado.OperacaoConcluida = true;
             Save();
         });
-        EXPECT_TRUE(ficha->OperacaoConcluida) << "keeps its value";
+        EXPECT_TRUE(ficha->Estado.OperacaoConcluida) << "keeps its value";
         EXPECT_FALSE(ficha->Formulario->Visible());
     }
     EXPECT_TRUE(Boxes().empty());
@@ -230,7 +230,7 @@ TEST_F(ConfirmingTheSimplifiedForm, MarksTheRefusedFieldAndStaysOpen)
             Refuse(row.field);
             Save();
             EXPECT_TRUE(ficha->Formulario->Visible()) << row.field;
-            EXPECT_FALSE(ficha->OperacaoConcluida);
+            EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
             EXPECT_EQ(Logged("focus"), (Strings{std::string("focus frmFichaSimplificada.") + row.focus}));
             EXPECT_EQ(Boxes(), (Strings{Information("Informe.")}));
             for (const auto& other : table) {
@@ -280,7 +280,7 @@ TEST_F(ConfirmingTheSimplifiedForm, MaySaveAfterARefusal)
         Save();
         Save();
     });
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_FALSE(ficha->Formulario->Visible());
 }
 
@@ -293,7 +293,7 @@ TEST_F(ConfirmingTheSimplifiedForm, ReportsAFailureAndStaysOpen)
         EXPECT_TRUE(ficha->Formulario->Visible());
     });
     ExpectReport("438", "frmFichaSimplificada, kvcmdSalvarFecharConfirmar_Click, Ponto: 3\"");
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
 }
 
 TEST_F(ConfirmingTheSimplifiedForm, BacksOutOfAddingAlteringAndDeleting)
@@ -301,11 +301,11 @@ TEST_F(ConfirmingTheSimplifiedForm, BacksOutOfAddingAlteringAndDeleting)
     for (const Integer mode : {1, 3, 4}) {
         Prepare();
         InForm(mode, [&] {
-            ficha->OperacaoConcluida = true;
+            ficha->Estado.OperacaoConcluida = true;
             Cancel();
             EXPECT_FALSE(ficha->Formulario->Visible()) << mode;
         });
-        EXPECT_FALSE(ficha->OperacaoConcluida) << mode;
+        EXPECT_FALSE(ficha->Estado.OperacaoConcluida) << mode;
         EXPECT_TRUE(Lines("create " + Agenda).empty());
     }
 }
@@ -336,7 +336,7 @@ TEST_F(ConfirmingTheSimplifiedForm, TurnsADetailViewIntoAnAlterationUnderTheSame
     Show(2, [&] {
         Cancel();
         EXPECT_TRUE(ficha->Formulario->Visible());
-        EXPECT_EQ(ficha->TipoDeOperacao, 3);
+        EXPECT_EQ(ficha->Estado.TipoDeOperacao, 3);
         EXPECT_EQ(ficha->kvTheme.Caption(), "Alterar agendamento completo");
         EXPECT_TRUE(ficha->kvtxtNomeDoAnimal.Enabled());
         EXPECT_EQ(ficha->kvcmdCancelarAlterar.ToolTipText(), "Cancelar alteração e fechar");
@@ -344,7 +344,7 @@ TEST_F(ConfirmingTheSimplifiedForm, TurnsADetailViewIntoAnAlterationUnderTheSame
         EXPECT_EQ(Logged("focus"), (Strings{"focus frmFichaSimplificada.kvtxtNomeOuRazaoSocialDoCliente"}));
         Save();
     });
-    EXPECT_TRUE(ficha->OperacaoConcluida);
+    EXPECT_TRUE(ficha->Estado.OperacaoConcluida);
     EXPECT_EQ(Logged("show"), (Strings{"show frmFichaSimplificada modal"}));
     EXPECT_EQ(Lines("call KOVA_A_EfeitosDeTela").size(), 2U) << "dimmed once, and once taken away";
     EXPECT_EQ(Logged("repaint").size(), 1U);
@@ -384,7 +384,7 @@ TEST_F(ConfirmingTheSimplifiedForm, MayBeClosedByItsWindow)
 {
     Prepare();
     Show(3, [&] { EXPECT_EQ(user.CloseForm(Form), ""); });
-    EXPECT_FALSE(ficha->OperacaoConcluida);
+    EXPECT_FALSE(ficha->Estado.OperacaoConcluida);
     EXPECT_EQ(Lines("call KOVA_A_EfeitosDeTela").size(), 2U);
     EXPECT_TRUE(Reports().empty());
 }

@@ -44,7 +44,7 @@ TEST_F(OpeningTheSimplifiedForm, NamesItsTitleFieldsAndButtonsByTheOperation)
     for (const Expected& row : table) {
         Prepare();
         Show(row.mode, [&] {
-            EXPECT_EQ(ficha->TipoDeOperacao, row.mode);
+            EXPECT_EQ(ficha->Estado.TipoDeOperacao, row.mode);
             EXPECT_EQ(ficha->kvTheme.Caption(), row.title);
             EXPECT_EQ(CaptionOf(ficha->kvcmdSalvarFecharConfirmar), row.first) << row.mode;
             EXPECT_EQ(ficha->kvcmdSalvarFecharConfirmar.ToolTipText(), row.firstTip);
@@ -63,7 +63,7 @@ TEST_F(OpeningTheSimplifiedForm, IsEmptyForAdding)
 {
     Prepare();
     Show(1, [&] {
-        EXPECT_EQ(ficha->NumeroDeLancamento, 0);
+        EXPECT_EQ(ficha->Estado.NumeroDeLancamento, 0);
         EXPECT_EQ(ficha->kvdtpDataInicial.Text(), "20/11/2026") << "the day of the list";
         EXPECT_EQ(ficha->kvtxtNomeOuRazaoSocialDoCliente.Text(), "");
         EXPECT_EQ(ficha->kvcmbSituacao.ListIndex(), -1);
@@ -88,7 +88,7 @@ TEST_F(OpeningTheSimplifiedForm, SwallowsTheRewritingOfTheFirstType)
     Show(1, [&] {
         EXPECT_EQ(ficha->kvtxtObservacaoDoServico.Text(), "fica") << "no reset";
         EXPECT_EQ(ficha->kvcmbTiposDeServicos.ListIndex(), 0);
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo) << "the guard is used up";
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo) << "the guard is used up";
     });
 }
 
@@ -98,7 +98,7 @@ TEST_F(OpeningTheSimplifiedForm, IgnoresTheFirstKeyAfterAddingWithAType)
     MakeForm(3);
     Show(1, [&] {
         EXPECT_EQ(ficha->kvcmbTiposDeServicos.ListIndex(), 3);
-        EXPECT_TRUE(ficha->IgnorarEventoDeCampo);
+        EXPECT_TRUE(ficha->Estado.IgnorarEventoDeCampo);
         ficha->kvfNomeDoServico.Text("Banho");
         EXPECT_EQ(user.Type(Form, "kvfCodigoDoServico", "8"), "");
         EXPECT_EQ(ficha->kvfNomeDoServico.Text(), "Banho");
@@ -112,7 +112,7 @@ TEST_F(OpeningTheSimplifiedForm, ReadsTheSelectedRowOfTheList)
     for (const Integer mode : {2, 3, 4}) {
         Prepare();
         Show(mode, [&] {
-            EXPECT_EQ(ficha->NumeroDeLancamento, 41);
+            EXPECT_EQ(ficha->Estado.NumeroDeLancamento, 41);
             EXPECT_EQ(ficha->kvtxtNomeOuRazaoSocialDoCliente.Text(), "José Antônio da Silva");
             EXPECT_EQ(ficha->kvtxtCanaisDeComunicacaoDoCliente.Text(), "Celular: 00000-0000");
             EXPECT_EQ(ficha->kvtxtNomeDoAnimal.Text(), "Rex");
@@ -131,7 +131,7 @@ TEST_F(OpeningTheSimplifiedForm, ReadsTheSelectedRowOfTheList)
             EXPECT_EQ(ficha->kvtxtTempoDoServico.Text(), "01:00");
             EXPECT_EQ(ficha->kvtxtObservacaoDoServico.Text(), "Arisco");
             EXPECT_EQ(ficha->kvcmbSituacao.Text(), "Agendado");
-            EXPECT_FALSE(ficha->IgnorarEventoDeCampo) << mode;
+            EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo) << mode;
         });
         EXPECT_TRUE(Reports().empty()) << mode;
     }
@@ -144,7 +144,7 @@ TEST_F(OpeningTheSimplifiedForm, LeavesACodeThatTheCombosDoNotHave)
         EXPECT_EQ(ficha->kvcmbFuncionarios.ListIndex(), -1);
         EXPECT_EQ(ficha->kvcmbTiposDeServicos.ListIndex(), 0) << "where its opener put it";
         EXPECT_EQ(ficha->kvcmbSituacao.ListIndex(), -1);
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
     });
     EXPECT_TRUE(Reports().empty());
 }

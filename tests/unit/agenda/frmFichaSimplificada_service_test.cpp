@@ -53,9 +53,9 @@ TEST_F(TheServiceOfTheSimplifiedForm, KeepsWhatItHasWhileTheTypesClickIsSwallowe
 {
     Prepare();
     InForm(3, [&] {
-        ficha->IgnorarEventoDeCampo = true;
+        ficha->Estado.IgnorarEventoDeCampo = true;
         user.Choose(Form, "kvcmbTiposDeServicos", "Consulta");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         EXPECT_EQ(ficha->kvfNomeDoServico.Text(), "Banho");
         EXPECT_EQ(ficha->kvtimHoraInicial.Text(), "08:00");
     });
@@ -123,7 +123,7 @@ TEST_F(TheServiceOfTheSimplifiedForm, IsShownWhereItIsTheOnlyOne)
         EXPECT_EQ(ficha->kvfNomeDoServico.Status(), find_status::Found);
         EXPECT_EQ(ficha->kvfCodigoDoServico.Status(), find_status::Found);
         EXPECT_EQ(ficha->kvtxtTempoDoServico.Text(), "01:30");
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo) << "no guard is left on this form";
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo) << "no guard is left on this form";
         EXPECT_EQ(ficha->kvcmbTiposDeServicos.ListIndex(), 3);
     });
     EXPECT_EQ(Logged("focus"), (Strings{"focus frmFichaSimplificada.kvtimHoraInicial"}));
@@ -139,7 +139,7 @@ TEST_F(TheServiceOfTheSimplifiedForm, BringsItsTypeWhereAllWereSearched)
             EXPECT_EQ(ficha->kvcmbTiposDeServicos.Text(), "Banho e tosa");
             EXPECT_EQ(ficha->kvfNomeDoServico.Text(), "Banho completo") << "the type's click is swallowed";
             EXPECT_EQ(ficha->kvtxtObservacaoDoServico.Text(), "fica");
-            EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+            EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
         },
         0);
 }
@@ -314,7 +314,7 @@ TEST_F(ChoosingAmongServices, ShowsTheChosenOne)
         EXPECT_EQ(ficha->kvtxtTempoDoServico.Text(), "01:30:00") << "the column as it stands";
         EXPECT_EQ(ficha->kvfCodigoDoServico.Status(), find_status::Found);
         EXPECT_EQ(ficha->kvfNomeDoServico.Status(), find_status::Found);
-        EXPECT_FALSE(ficha->IgnorarEventoDeCampo);
+        EXPECT_FALSE(ficha->Estado.IgnorarEventoDeCampo);
     });
 }
 
