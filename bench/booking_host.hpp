@@ -2,7 +2,7 @@
 
 #include "agenda/contracts/platform.hpp"
 #include "bench/data_host.hpp"
-#include "family/business/agenda.hpp"
+#include "family/business/appointments/agenda.hpp"
 
 namespace kova::bench {
 

@@ -3,7 +3,7 @@
 
 #include "bench/data_host.hpp"
 #include "bench/measure.hpp"
-#include "family/business/customers.hpp"
+#include "family/business/registers/customers.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/shared_database.hpp"
 

@@ -5,14 +5,14 @@
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "bench/paint_watch.hpp"
-#include "family/business/agenda.hpp"
-#include "family/business/customers.hpp"
-#include "family/business/employees.hpp"
-#include "family/business/service_types.hpp"
-#include "family/business/system_version.hpp"
+#include "family/business/appointments/agenda.hpp"
+#include "family/business/registers/customers.hpp"
+#include "family/business/registers/employees.hpp"
+#include "family/business/registers/service_types.hpp"
+#include "family/business/shop/system_version.hpp"
 #include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/qt/handles.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>
 #include <QMouseEvent>

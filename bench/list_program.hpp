@@ -4,8 +4,8 @@
 #include "bench/data_host.hpp"
 #include "host/host_platform.hpp"
 #include "host/host_toolkit.hpp"
-#include "host/session_clock.hpp"
-#include "toolkits/qt/grid_canvas.hpp"
+#include "host/session/session_clock.hpp"
+#include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include <QWidget>
 

@@ -8,7 +8,7 @@
 #include "bench/list_program.hpp"
 #include "bench/measure.hpp"
 #include "bench/paint_watch.hpp"
-#include "family/business/customers.hpp"
+#include "family/business/registers/customers.hpp"
 
 #include <QAbstractTableModel>
 #include <QTableView>

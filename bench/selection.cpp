@@ -5,7 +5,7 @@
 #include "bench/measure.hpp"
 #include "bench/measured_days.hpp"
 #include "bench/raw_database.hpp"
-#include "family/business/agenda.hpp"
+#include "family/business/appointments/agenda.hpp"
 #include "family/data/engine/dialect.hpp"
 #include "family/data/selections/day_selection.hpp"
 

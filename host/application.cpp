@@ -3,8 +3,8 @@
 #include "agenda/contracts/failure.hpp"
 #include "host/display.hpp"
 #include "host/messages.hpp"
-#include "host/session.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "host/session/session.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>
 #include <QLibraryInfo>

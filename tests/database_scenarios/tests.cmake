@@ -5,7 +5,7 @@ if(NOT KOVARIS_CORE_ONLY)
     add_executable(known-shop database_scenarios/shop/main.cpp)
     target_link_libraries(known-shop PRIVATE known_shop)
 
-    kovaris_test_program(test_database_scenarios database_scenarios known_shop test_postgres_server)
+    kovaris_test_program(test_database_scenarios known_shop test_postgres_server)
     target_compile_definitions(test_database_scenarios PRIVATE
         SCRIPTS="${CMAKE_CURRENT_LIST_DIR}" RUNNER="$<TARGET_FILE:agenda-scenario>"
         CHECK="${CMAKE_CURRENT_SOURCE_DIR}/scenarios/check")

@@ -1,8 +1,8 @@
 #include "tests/monkey/chooser.hpp"
 
 #include "tests/monkey/screen.hpp"
-#include "toolkits/qt/combo_field.hpp"
-#include "toolkits/qt/grid_canvas.hpp"
+#include "toolkits/qt/boxes/combo_field.hpp"
+#include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include <QApplication>
 #include <QFileDialog>

@@ -6,7 +6,7 @@
 #include "tests/monkey/screen.hpp"
 #include "toolkits/common/label.hpp"
 #include "toolkits/common/toolkit.hpp"
-#include "toolkits/qt/grid_canvas.hpp"
+#include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include <QApplication>
 #include <QPlainTextEdit>

@@ -1,13 +1,13 @@
 #include "tests/monkey/session.hpp"
 
-#include "host/session.hpp"
+#include "host/session/session.hpp"
 #include "tests/monkey/chooser.hpp"
 #include "tests/monkey/failure_ear.hpp"
 #include "tests/monkey/finding.hpp"
 #include "tests/monkey/player.hpp"
 #include "tests/monkey/screen.hpp"
 #include "tests/support/platform_remarks.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>
 

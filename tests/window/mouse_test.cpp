@@ -3,7 +3,7 @@
 #include "tests/window/appointment_book.hpp"
 
 #include "agenda/contracts/widgets.hpp"
-#include "toolkits/qt/grid_canvas.hpp"
+#include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include <QWindow>
 

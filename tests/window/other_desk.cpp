@@ -1,7 +1,7 @@
 #include "tests/window/other_desk.hpp"
 
-#include "family/business/appointment_fields.hpp"
-#include "family/business/appointment_writes.hpp"
+#include "family/business/appointments/appointment_fields.hpp"
+#include "family/business/appointments/appointment_writes.hpp"
 #include "family/data/engine/data_source.hpp"
 #include "family/data/rows/find_by_key.hpp"
 

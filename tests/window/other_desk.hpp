@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/business/appointment_input.hpp"
+#include "family/business/appointments/appointment_input.hpp"
 #include "family/data/engine/database.hpp"
 
 #include <functional>

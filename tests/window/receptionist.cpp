@@ -1,7 +1,7 @@
 #include "tests/window/receptionist.hpp"
 
 #include "toolkits/common/toolkit.hpp"
-#include "toolkits/qt/calendar.hpp"
+#include "toolkits/qt/boxes/calendar.hpp"
 
 #include <QApplication>
 #include <QKeySequence>

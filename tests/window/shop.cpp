@@ -1,8 +1,8 @@
 #include "tests/window/shop.hpp"
 
-#include "host/session.hpp"
+#include "host/session/session.hpp"
 #include "tests/support/qt_application.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>
 

@@ -2,7 +2,7 @@
 # database; keys and mouse as the desktop sends them.
 if(NOT KOVARIS_CORE_ONLY)
     find_package(SQLite3 REQUIRED)
-    kovaris_test_program(test_window window screen_hand host_application family_business test_qt_application
+    kovaris_test_program(test_window screen_hand host_application family_business test_qt_application
         test_postgres_server SQLite::SQLite3 Qt6::Test)
     kovaris_precompile(test_window ${CMAKE_CURRENT_LIST_DIR}/shop.hpp <soci/soci.h>)
     target_compile_definitions(test_window PRIVATE AGENDA_DATA="$<TARGET_FILE:agenda-data>")

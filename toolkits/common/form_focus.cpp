@@ -1,10 +1,10 @@
 // The focus: who has it, who gets it next, and the keys that act on the form.
 
+#include "toolkits/common/boxes/date_box.hpp"
+#include "toolkits/common/boxes/edit_core.hpp"
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/common/date_box.hpp"
-#include "toolkits/common/edit_core.hpp"
 #include "toolkits/common/form.hpp"
-#include "toolkits/common/grid.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/common/toolkit.hpp"

@@ -1,12 +1,12 @@
 #include "toolkits/common/shortcuts.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "toolkits/common/boxes/date_box.hpp"
+#include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/common/date_box.hpp"
 #include "toolkits/common/form.hpp"
-#include "toolkits/common/grid.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/common/option_button.hpp"
 
 #include <array>
 #include <utility>

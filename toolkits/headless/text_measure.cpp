@@ -1,6 +1,6 @@
 #include "toolkits/headless/text_measure.hpp"
 
-#include "toolkits/common/text_edit.hpp"
+#include "toolkits/common/boxes/text_edit.hpp"
 
 #include <algorithm>
 #include <array>

@@ -1,13 +1,13 @@
 #include "toolkits/headless/user.hpp"
 
-#include "toolkits/common/check_box.hpp"
-#include "toolkits/common/combo_box.hpp"
+#include "toolkits/common/boxes/check_box.hpp"
+#include "toolkits/common/boxes/combo_box.hpp"
+#include "toolkits/common/boxes/date_box.hpp"
+#include "toolkits/common/boxes/edit_core.hpp"
+#include "toolkits/common/boxes/find_box.hpp"
+#include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/common/date_box.hpp"
-#include "toolkits/common/edit_core.hpp"
-#include "toolkits/common/find_box.hpp"
 #include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/common/option_button.hpp"
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "toolkits/common/combo_box.hpp"
-#include "toolkits/common/grid.hpp"
+#include "toolkits/common/boxes/combo_box.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/headless/keys.hpp"
 #include "toolkits/headless/toolkit.hpp"
 

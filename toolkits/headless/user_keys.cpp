@@ -1,11 +1,11 @@
 // A key of the user: to the form as a whole first, then to the control that has the focus.
 
-#include "toolkits/common/check_box.hpp"
-#include "toolkits/common/combo_box.hpp"
+#include "toolkits/common/boxes/check_box.hpp"
+#include "toolkits/common/boxes/combo_box.hpp"
+#include "toolkits/common/boxes/edit_core.hpp"
+#include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/common/edit_core.hpp"
 #include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/common/option_button.hpp"
 #include "toolkits/headless/keys.hpp"
 #include "toolkits/headless/user.hpp"
 

@@ -1,6 +1,6 @@
 #include "toolkits/qt/caption_label.hpp"
 
-#include "toolkits/qt/laid_out_text.hpp"
+#include "toolkits/qt/look/laid_out_text.hpp"
 
 #include <QEvent>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "toolkits/qt/command_button.hpp"
 
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 namespace kova::qt {
 

@@ -1,8 +1,8 @@
 #include "toolkits/qt/flat_button.hpp"
 
-#include "toolkits/qt/icons.hpp"
-#include "toolkits/qt/painting.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/icons.hpp"
+#include "toolkits/qt/look/painting.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QKeyEvent>
 #include <QPainter>

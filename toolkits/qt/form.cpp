@@ -4,7 +4,7 @@
 #include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/label.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 #include "toolkits/qt/toolkit.hpp"
 #include "toolkits/qt/widget_view.hpp"
 

@@ -3,7 +3,7 @@
 #include "toolkits/common/form_window.hpp"
 #include "toolkits/qt/form.hpp"
 #include "toolkits/qt/input_gate.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QGuiApplication>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "toolkits/qt/help_window.hpp"
 
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QDialog>
 #include <QDialogButtonBox>

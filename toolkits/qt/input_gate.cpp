@@ -1,7 +1,7 @@
 #include "toolkits/qt/input_gate.hpp"
 
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/grid_canvas.hpp"
+#include "toolkits/qt/grid/grid_canvas.hpp"
 #include "toolkits/qt/toolkit.hpp"
 
 #include <QApplication>

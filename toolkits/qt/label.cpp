@@ -1,7 +1,7 @@
 #include "toolkits/qt/label.hpp"
 
 #include "toolkits/common/form.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 namespace kova::qt {
 

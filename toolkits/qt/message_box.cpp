@@ -1,7 +1,7 @@
 #include "toolkits/qt/message_box.hpp"
 
-#include "toolkits/qt/icons.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/icons.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QMessageBox>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "toolkits/qt/shape.hpp"
 
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QPainter>
 

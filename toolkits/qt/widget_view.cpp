@@ -3,7 +3,7 @@
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QFocusEvent>
 

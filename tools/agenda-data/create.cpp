@@ -1,5 +1,5 @@
 #include "family/data/stores/new_shop.hpp"
-#include "host/computer_user.hpp"
+#include "host/session/computer_user.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 namespace kova::data {

@@ -1,4 +1,4 @@
-#include "family/business/appointment_history.hpp"
+#include "family/business/appointments/appointment_history.hpp"
 
 #include "family/data/migrations/newest_schema.hpp"
 #include "tools/agenda-data/commands.hpp"

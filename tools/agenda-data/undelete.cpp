@@ -1,7 +1,7 @@
-#include "family/business/appointment_restoration.hpp"
+#include "family/business/appointments/appointment_restoration.hpp"
 #include "family/data/engine/data_source.hpp"
 #include "family/data/engine/iso_text.hpp"
-#include "host/computer_user.hpp"
+#include "host/session/computer_user.hpp"
 #include "system/computer_name.hpp"
 #include "tools/agenda-data/commands.hpp"
 

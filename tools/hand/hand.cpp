@@ -1,7 +1,7 @@
 #include "tools/hand/hand.hpp"
 
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/grid_canvas.hpp"
+#include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>

@@ -1,10 +1,10 @@
 #include "tools/hand/places.hpp"
 
 #include "toolkits/common/toolkit.hpp"
-#include "toolkits/qt/field_frame.hpp"
+#include "toolkits/qt/boxes/field_frame.hpp"
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/grid_canvas.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/grid/grid_canvas.hpp"
+#include "toolkits/qt/look/theme.hpp"
 #include "toolkits/qt/widget_view.hpp"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
 #include "tools/scenario/headless_person.hpp"
 
-#include "toolkits/common/check_box.hpp"
+#include "toolkits/common/boxes/check_box.hpp"
+#include "toolkits/common/boxes/find_box.hpp"
+#include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/common/find_box.hpp"
 #include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/common/option_button.hpp"
 
 namespace kova::scenario {
 

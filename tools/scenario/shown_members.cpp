@@ -1,7 +1,7 @@
 #include "tools/scenario/shown_members.hpp"
 
 #include "agenda/contracts/text.hpp"
-#include "toolkits/common/grid.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "tools/scenario/value_text.hpp"
 
 #include <charconv>

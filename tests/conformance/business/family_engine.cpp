@@ -5,7 +5,7 @@
 #include "host/components/server_host.hpp"
 #include "tests/conformance/business/shop_database.hpp"
 #include "tests/support/postgres_server.hpp"
-#include "tests/unit/components/host_fixture.hpp"
+#include "tests/unit/host/components/host_fixture.hpp"
 
 namespace kova::conformance {
 

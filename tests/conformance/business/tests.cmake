@@ -1,6 +1,6 @@
 # One suite for the business contract, over everything that offers it.
 if(NOT KOVARIS_CORE_ONLY)
-    kovaris_test_program(test_business_conformance conformance/business
+    kovaris_test_program(test_business_conformance
                          scenario host_components family_business test_postgres_server)
     target_compile_definitions(test_business_conformance PRIVATE
         FAMILY_LIBRARY="$<TARGET_FILE:KOVA_N_Familia>")

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
-#include "toolkits/common/combo_box.hpp"
+#include "toolkits/common/boxes/combo_box.hpp"
 #include "toolkits/common/form.hpp"
-#include "toolkits/common/grid.hpp"
+#include "toolkits/common/grid/grid.hpp"
 
 #include <deque>
 #include <functional>

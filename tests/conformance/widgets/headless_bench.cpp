@@ -1,13 +1,13 @@
 #include "tests/conformance/widgets/headless_bench.hpp"
 
-#include "toolkits/common/check_box.hpp"
-#include "toolkits/common/combo_box.hpp"
+#include "toolkits/common/boxes/check_box.hpp"
+#include "toolkits/common/boxes/combo_box.hpp"
+#include "toolkits/common/boxes/date_box.hpp"
+#include "toolkits/common/boxes/find_box.hpp"
+#include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/common/date_box.hpp"
-#include "toolkits/common/find_box.hpp"
 #include "toolkits/common/label.hpp"
 #include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/common/option_button.hpp"
 #include "toolkits/headless/user.hpp"
 
 #include <gtest/gtest.h>

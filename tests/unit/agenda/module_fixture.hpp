@@ -7,7 +7,7 @@
 #include "agenda/shared/modPrincipal.hpp"
 #include "agenda/shared/module_platform.hpp"
 #include "agenda/shared/palette.hpp"
-#include "toolkits/common/grid.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
 #include "tools/scenario/memory_profile.hpp"

@@ -1,7 +1,7 @@
 #include "tests/support/data_places.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/business/appointment_writes.hpp"
+#include "family/business/appointments/appointment_writes.hpp"
 #include "family/data/copies/row_copy.hpp"
 #include "family/data/engine/data_source.hpp"
 #include "family/data/engine/migration.hpp"

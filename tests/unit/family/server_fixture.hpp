@@ -3,7 +3,7 @@
 #include "tests/support/postgres_server.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/business/appointment_input.hpp"
+#include "family/business/appointments/appointment_input.hpp"
 #include "family/data/audit/author.hpp"
 #include "family/data/engine/write_transaction.hpp"
 

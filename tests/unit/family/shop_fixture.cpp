@@ -1,6 +1,6 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/business/agenda.hpp"
+#include "family/business/appointments/agenda.hpp"
 #include "family/data/engine/data_source.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/shared_database.hpp"

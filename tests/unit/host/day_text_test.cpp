@@ -1,6 +1,6 @@
 #include "host/day_text.hpp"
 
-#include "host/session_clock.hpp"
+#include "host/session/session_clock.hpp"
 #include "tests/unit/host/with_application.hpp"
 #include "toolkits/qt/toolkit.hpp"
 

@@ -1,1 +1,1 @@
-kovaris_test_program(test_reports unit/reports report_engine)
+kovaris_test_program(test_reports report_engine)

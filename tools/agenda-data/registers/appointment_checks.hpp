@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/business/employee_room.hpp"
+#include "family/business/appointments/employee_room.hpp"
 #include "family/data/stores/booking_registers.hpp"
 #include "tools/agenda-data/registers/appointment_columns.hpp"
 

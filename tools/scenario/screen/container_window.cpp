@@ -1,7 +1,7 @@
 #include "tools/scenario/screen/container_window.hpp"
 
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QCloseEvent>
 

@@ -1,13 +1,13 @@
 #include "tools/scenario/screen/screen_person.hpp"
 
-#include "toolkits/common/check_box.hpp"
+#include "toolkits/common/boxes/check_box.hpp"
+#include "toolkits/common/boxes/find_box.hpp"
+#include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/common/find_box.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/common/option_button.hpp"
-#include "toolkits/qt/navigation_bar.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/grid/navigation_bar.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QListWidget>
 #include <QWindow>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "toolkits/common/combo_box.hpp"
-#include "toolkits/common/edit_core.hpp"
-#include "toolkits/common/grid.hpp"
+#include "toolkits/common/boxes/combo_box.hpp"
+#include "toolkits/common/boxes/edit_core.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/qt/toolkit.hpp"
 #include "tools/hand/hand.hpp"
 #include "tools/scenario/person.hpp"

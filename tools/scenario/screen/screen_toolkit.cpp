@@ -3,7 +3,7 @@
 #include "reports/layout.hpp"
 #include "toolkits/common/menu.hpp"
 #include "toolkits/headless/log_lines.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 #include "tools/scenario/screen/container_window.hpp"
 
 #include <QApplication>

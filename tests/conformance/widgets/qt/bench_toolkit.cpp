@@ -2,7 +2,7 @@
 
 #include "tests/conformance/widgets/qt/input.hpp"
 #include "toolkits/common/menu.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <gtest/gtest.h>
 

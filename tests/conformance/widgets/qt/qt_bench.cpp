@@ -3,14 +3,14 @@
 #include "tests/conformance/widgets/qt/bench_toolkit.hpp"
 #include "tests/conformance/widgets/qt/input.hpp"
 #include "tests/support/qt_application.hpp"
-#include "toolkits/qt/calendar.hpp"
-#include "toolkits/qt/combo_field.hpp"
-#include "toolkits/qt/date_box.hpp"
-#include "toolkits/qt/field_frame.hpp"
-#include "toolkits/qt/grid_canvas.hpp"
+#include "toolkits/qt/boxes/calendar.hpp"
+#include "toolkits/qt/boxes/combo_field.hpp"
+#include "toolkits/qt/boxes/date_box.hpp"
+#include "toolkits/qt/boxes/field_frame.hpp"
+#include "toolkits/qt/grid/grid_canvas.hpp"
+#include "toolkits/qt/grid/navigation_bar.hpp"
 #include "toolkits/qt/handles.hpp"
-#include "toolkits/qt/navigation_bar.hpp"
-#include "toolkits/qt/theme.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <gtest/gtest.h>
 

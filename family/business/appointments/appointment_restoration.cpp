@@ -1,0 +1,105 @@
+#include "family/business/appointments/appointment_restoration.hpp"
+
+#include "family/business/appointments/employee_room.hpp"
+#include "family/business/appointments/write_in_transaction.hpp"
+#include "family/data/audit/audit.hpp"
+#include "family/data/audit/audited_row.hpp"
+#include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/find_by_key.hpp"
+#include "family/data/stores/appointment_status.hpp"
+#include "family/data/stores/appointment_store.hpp"
+
+namespace kova::family {
+
+namespace {
+
+/// Why an appointment cannot be restored; empty where it can.
+using Obstacle = std::string;
+
+WriteAnswer Refused(Key number, const Obstacle& obstacle)
+{
+    return WriteAnswer::Refusal("O agendamento " + std::to_string(number)
+                                + " não pode ser restaurado: " + obstacle);
+}
+
+/// Whether the audit line has all columns of the row but for the version, which the oldest lines lack.
+bool HasAllColumns(const AuditedColumns& columns)
+{
+    bool all = true;
+    AppointmentRow().Columns([&](const std::string& column, const auto&) {
+        all = all && (columns.contains(column) || column == "versao");
+    });
+    return all;
+}
+
+/// The row as the last line of the audit says that it was deleted.
+std::optional<AppointmentRow> DeletedRow(Database& database, Key number)
+{
+    const auto lines = FindAuditLines(database, AppointmentRow::Table, number, 1);
+    AppointmentRow row;
+    if (lines.empty() || lines.front().operation != audit_operation::Removal
+        || !HasAllColumns(lines.front().before) || !TakeColumns(lines.front().before, row))
+        return std::nullopt;
+    return row;
+}
+
+/// `what` is the register's row with its article.
+template <class Row> Obstacle Missing(Database& database, const Nullable<Key>& key, const char* what)
+{
+    if (key.IsNull() || FindByKey<Row>(database, key.value))
+        return {};
+    return std::string(what) + " " + std::to_string(key.value) + " não existe mais.";
+}
+
+Obstacle MissingReference(Database& database, const AppointmentRow& row)
+{
+    for (const Obstacle& missing :
+         {Missing<BookedCustomer>(database, row.codigoDoCliente, "o cliente"),
+          Missing<BookedAnimal>(database, row.codigoDoAnimal, "o animal"),
+          Missing<BookedServiceType>(database, row.numeroDoTipoDeServico, "o tipo de serviço"),
+          Missing<BookedService>(database, row.codigoDoServico, "o serviço"),
+          Missing<BookedEmployee>(database, row.codigoDoFuncionario, "o(a) funcionário(a)"),
+          Missing<PackageRow>(database, row.codigoDoPacote, "o pacote")}) {
+        if (!missing.empty())
+            return missing;
+    }
+    return {};
+}
+
+Obstacle LackOfRoom(Database& database, const AppointmentRow& row)
+{
+    if (row.situacao == appointment_status::Cancelled)
+        return {};
+    const BookedEmployee employee = *FindByKey<BookedEmployee>(database, row.codigoDoFuncionario);
+    const TimeSpan span{ReadIsoMoment(row.dataInicial, row.horaInicial),
+                        ReadIsoMoment(row.dataFinal, row.horaFinal)};
+    const auto clash = EmployeeRoom(database, employee, 0, span.start.date, span.end.date).ClashWith(span);
+    if (!clash)
+        return {};
+    return employee.nickname + " já tem agendamento das " + FormatTime(clash->start.time) + " às "
+        + FormatTime(clash->end.time) + " em " + FormatDate(clash->start.date) + ".";
+}
+
+WriteAnswer Restore(Database& database, Key number, const Author& author)
+{
+    if (FindByKey<AppointmentRow>(database, number))
+        return Refused(number, "ele existe.");
+    const std::optional<AppointmentRow> row = DeletedRow(database, number);
+    if (!row)
+        return Refused(number, "não há registro da exclusão dele.");
+    for (const auto obstacle : {MissingReference, LackOfRoom}) {
+        if (const Obstacle found = obstacle(database, *row); !found.empty())
+            return Refused(number, found);
+    }
+    RestoreRow(database, *row, author);
+    return {};
+}
+
+} // namespace
+
+WriteAnswer RestoreAppointment(Database& database, Key number, const Author& author)
+{
+    return InTransaction(database, [&] { return Restore(database, number, author); });
+}
+
+} // namespace kova::family

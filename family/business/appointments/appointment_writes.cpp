@@ -1,0 +1,114 @@
+#include "family/business/appointments/appointment_writes.hpp"
+
+#include "family/business/appointments/appointment_merge.hpp"
+#include "family/business/appointments/booking.hpp"
+#include "family/business/appointments/pre_sale_rules.hpp"
+#include "family/business/appointments/write_in_transaction.hpp"
+#include "family/data/engine/database.hpp"
+#include "family/data/rows/find_by_key.hpp"
+#include "family/data/stores/appointment_status.hpp"
+#include "family/data/stores/appointment_store.hpp"
+
+namespace kova::family {
+
+namespace {
+
+/// The status of an appointment that is not written yet.
+constexpr int NoStatus = 0;
+
+/// What the rules on pre-sales need of an appointment that had that status before.
+AppointmentState StateOf(const Booking& booking, Key number, int statusBefore)
+{
+    AppointmentState state;
+    state.number = number;
+    state.status = statusBefore;
+    state.serviceType = booking.row.numeroDoTipoDeServico;
+    state.customer = booking.row.codigoDoCliente;
+    state.priceInCents = booking.service.priceInCents;
+    return state;
+}
+
+bool FormsPackage(const Booking& booking)
+{
+    return booking.Repeats() && booking.service.IsPackage() && booking.times.size() > 1;
+}
+
+WriteAnswer AddEach(Booking& booking, const Author& author)
+{
+    if (FormsPackage(booking))
+        booking.row.codigoDoPacote = AddPackage(booking.database, booking.service.code, author);
+    for (const TimeSpan& span : booking.times) {
+        const Key number = AddAppointment(booking.database, booking.At(span), author);
+        const WriteAnswer answer = FollowWithPreSale(booking.database, StateOf(booking, number, NoStatus),
+                                                     booking.row.situacao, author);
+        if (!answer.IsDone())
+            return answer;
+    }
+    return {};
+}
+
+WriteAnswer WriteOver(Database& database, const AppointmentRow& stored, AppointmentInput input,
+                      const Author& author)
+{
+    if (const Refusal refusal = MergeIntoInput(database, stored, input))
+        return *refusal;
+    Booking booking(database, input, stored);
+    if (const Refusal refusal = Check(booking))
+        return *refusal;
+    const WriteAnswer answer = FollowWithPreSale(database, StateOf(booking, stored.numero, stored.situacao),
+                                                 booking.row.situacao, author);
+    if (answer.IsDone())
+        ReplaceAppointment(database, stored, booking.At(booking.times.front()), author);
+    return answer;
+}
+
+/// Finds the appointment with that number and runs `write` with it, both under the lock of one transaction.
+template <class Write> WriteAnswer WithStored(Database& database, Double number, Write write)
+{
+    return InTransaction(database, [&]() -> WriteAnswer {
+        const auto stored = FindByKey<LockedAppointmentRow>(database, KeyOf(number));
+        if (!stored)
+            return WriteAnswer::Refusal("O agendamento não existe mais.");
+        WriteAnswer answer = write(*stored);
+        answer.package = stored->codigoDoPacote.ValueOr(0);
+        return answer;
+    });
+}
+
+} // namespace
+
+WriteAnswer AddAppointments(Database& database, const AppointmentInput& input, const Author& author)
+{
+    return InTransaction(database, [&]() -> WriteAnswer {
+        Booking booking(database, input);
+        if (const Refusal refusal = Check(booking))
+            return *refusal;
+        return AddEach(booking, author);
+    });
+}
+
+WriteAnswer AlterAppointment(Database& database, const AppointmentInput& input, const Author& author)
+{
+    Key before = 0;
+    const WriteAnswer answer = WithStored(database, input.number, [&](const AppointmentRow& stored) {
+        before = stored.versao;
+        return WriteOver(database, stored, input, author);
+    });
+    if (answer.IsDone())
+        database.Versions().Follow(KeyOf(input.number), before, before + 1);
+    return answer;
+}
+
+WriteAnswer DeleteAppointment(Database& database, const AppointmentInput& input, const Author& author)
+{
+    return WithStored(database, input.number, [&](const AppointmentRow& stored) -> WriteAnswer {
+        if (const Refusal refusal = CheckUnchanged(database, stored))
+            return *refusal;
+        const WriteAnswer answer = CheckNoPreSale(database, stored.numero, stored.situacao);
+        if (answer.IsDone())
+            RemoveAppointment(database, stored, author);
+        return answer;
+    });
+}
+
+} // namespace kova::family

@@ -1,0 +1,53 @@
+#include "family/business/appointments/pre_sale_rules.hpp"
+
+#include "family/data/stores/appointment_status.hpp"
+#include "family/data/stores/pre_sales.hpp"
+
+namespace kova::family {
+
+namespace {
+
+/// Service types below this one are clinical.
+constexpr Key FirstTypeThatSells = 4;
+
+WriteAnswer MakePreSale(Database& database, const AppointmentState& appointment, const Author& author)
+{
+    if (appointment.serviceType < FirstTypeThatSells)
+        return WriteAnswer::Refusal("Não é possível gerar pré-venda para serviços tipo clínico.");
+    if (appointment.customer.IsNull())
+        return WriteAnswer::Refusal("Não é possível gerar pré-venda para agendamento simplificado.");
+    CreatePreSale(database, appointment.number, appointment.priceInCents, author);
+    return {};
+}
+
+WriteAnswer UndoPreSale(Database& database, const AppointmentState& appointment, const Author& author)
+{
+    for (const PreSale& preSale : FindPreSales(database, appointment.number)) {
+        if (preSale.status == pre_sale_status::Billed)
+            return WriteAnswer::Refusal(
+                "Não é possível alterar a situação: a pré-venda deste agendamento já foi faturada.");
+        CancelPreSale(database, preSale, author);
+    }
+    return {};
+}
+
+} // namespace
+
+WriteAnswer FollowWithPreSale(Database& database, const AppointmentState& appointment, int status,
+                              const Author& author)
+{
+    const bool had = appointment.status == appointment_status::PreSaleGenerated;
+    const bool has = status == appointment_status::PreSaleGenerated;
+    if (had == has)
+        return {};
+    return has ? MakePreSale(database, appointment, author) : UndoPreSale(database, appointment, author);
+}
+
+WriteAnswer CheckNoPreSale(Database& database, Key appointment, int status)
+{
+    if (status != appointment_status::PreSaleGenerated && FindPreSales(database, appointment).empty())
+        return {};
+    return WriteAnswer::Refusal("Não é possível excluir um agendamento com pré-venda gerada.");
+}
+
+} // namespace kova::family

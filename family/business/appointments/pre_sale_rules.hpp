@@ -1,0 +1,21 @@
+#pragma once
+
+#include "family/business/appointments/write_answer.hpp"
+#include "family/data/audit/author.hpp"
+#include "family/data/rows/rows.hpp"
+
+namespace kova::family {
+
+class Database;
+struct AppointmentState;
+
+/// What a change from the appointment's status to another one means for its pre-sale, in the transaction that
+/// is open: a change to 4 makes it with the service's price, one from 4 cancels it. Refused where it cannot
+/// be made (a clinical type, no registered customer) or was billed already.
+WriteAnswer FollowWithPreSale(Database& database, const AppointmentState& appointment, int status,
+                              const Author& author);
+
+/// Refused where the appointment with that status has a pre-sale that is not cancelled.
+WriteAnswer CheckNoPreSale(Database& database, Key appointment, int status);
+
+} // namespace kova::family

@@ -1,0 +1,24 @@
+#include "family/business/registers/employees.hpp"
+
+#include "family/business/combo_selection.hpp"
+
+namespace kova::family {
+
+std::span<const Method<Employees>> Employees::Methods()
+{
+    static constexpr Method<Employees> methods[] = {
+        {"SelecionarParaComboBox", 1, 1, &Employees::SelecionarParaComboBox}};
+    return methods;
+}
+
+std::span<const Property<Employees>> Employees::Properties() { return SelectionProperties<Employees>; }
+
+Value Employees::SelecionarParaComboBox(std::span<Argument> arguments)
+{
+    return Select("SelecionarParaComboBox", [&] {
+        const auto key = static_cast<long long>(arguments[0].Get().ToDouble());
+        return ComboRecordSet("Apelido", "Codigo", SelectEmployees(Data(), key));
+    });
+}
+
+} // namespace kova::family

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "family/business/by_name.hpp"
+#include "family/business/shop/background_backup.hpp"
+
+#include <memory>
+
+namespace kova::family {
+
+/// KOVA_N_Dados.clsBanco: the data source itself, for the host, before it opens a screen. Each method
+/// answers 0, or 1 with the reason, its path and what to do in DescricaoDoErro.
+class Store : public ByName<Store> {
+public:
+    static constexpr std::string_view ClassName = "KOVA_N_Dados.clsBanco";
+
+    explicit Store(ServerHost& host) : ByName(host, ClassName) { }
+
+    static std::span<const Method<Store>> Methods();
+    static std::span<const Property<Store>> Properties();
+
+private:
+    /// Text: the host's data source.
+    Value Caminho() const;
+    /// Boolean: whether anything stands at that path; on a server, whether the agenda's tables are there.
+    Value Existe() const;
+    /// Text: trade name of the first company; "" before Abrir and where none is registered.
+    Value NomeFantasia() const { return tradeName_; }
+
+    /// Looks whether the data source can be opened, and changes nothing.
+    Value Verificar(std::span<Argument>);
+    /// Opens it for the whole process, bringing an older schema up to date.
+    Value Abrir(std::span<Argument>);
+    /// Lets go of it; it closes when the last component that uses it ends.
+    Value Fechar(std::span<Argument>);
+    /// Makes the demonstration shop there. Without an argument around today, else around that date,
+    /// "dd/mm/yyyy". Refused where Existe.
+    Value CriarDemonstracao(std::span<Argument> arguments);
+
+    /// Begins to make, in the background, the copy of the day "dd/mm/yyyy" beside a file, where it is not
+    /// there yet. It is given up when the object goes.
+    Value IniciarCopiaDoDia(std::span<Argument> arguments);
+    /// Boolean: whether the copy that was begun has come to its end.
+    Value CopiaDoDiaTerminou() const;
+    /// Text: why it could not be made; "" where nothing is known against it.
+    Value FalhaDaCopiaDoDia() const;
+
+    Text tradeName_;
+    std::unique_ptr<BackgroundBackup> backup_;
+};
+
+} // namespace kova::family

@@ -1,0 +1,68 @@
+#include "host/session/daily_backup.hpp"
+
+#include "toolkits/qt/system_clock.hpp"
+
+#include <chrono>
+#include <exception>
+
+namespace kova::host {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The computer's day, also where the agenda is shown as of another one: the copies are of real days.
+std::string Today() { return FormatDate(qt::SystemClock().Now().date); }
+
+} // namespace
+
+DailyBackup::DailyBackup(ComponentService& components, Tell tell)
+    : components_(components), tell_(std::move(tell))
+{
+    everyHour_.setInterval(1h);
+    whileRunning_.setInterval(200ms);
+    QObject::connect(&everyHour_, &QTimer::timeout, [this] { Begin(); });
+    QObject::connect(&whileRunning_, &QTimer::timeout, [this] { LookWhetherDone(); });
+    everyHour_.start();
+}
+
+void DailyBackup::Begin()
+{
+    if (store_)
+        return;
+    Telling([this] {
+        store_ = components_.CreateObject("KOVA_N_Dados.clsBanco");
+        store_->Call("IniciarCopiaDoDia", {Today()});
+        whileRunning_.start();
+    });
+}
+
+void DailyBackup::LookWhetherDone()
+{
+    Telling([this] {
+        if (!store_->Get("CopiaDoDiaTerminou").ToBoolean())
+            return;
+        const std::string reason = store_->Get("FalhaDaCopiaDoDia").ToText();
+        End();
+        tell_(reason);
+    });
+}
+
+void DailyBackup::End()
+{
+    whileRunning_.stop();
+    store_.reset();
+}
+
+// A copy that is not made is no reason to end the program: nothing gets past the timers.
+template <class Step> void DailyBackup::Telling(Step step)
+{
+    try {
+        step();
+    } catch (const std::exception& failure) {
+        End();
+        tell_(failure.what());
+    }
+}
+
+} // namespace kova::host

@@ -1,0 +1,207 @@
+#include "host/session/session.hpp"
+
+#include "agenda/contracts/failure_detail.hpp"
+#include "host/component_setup.hpp"
+#include "host/components/component_service.hpp"
+#include "host/day_text.hpp"
+#include "host/first_paint.hpp"
+#include "host/folders.hpp"
+#include "host/host_platform.hpp"
+#include "host/host_toolkit.hpp"
+#include "host/main_window.hpp"
+#include "host/picture.hpp"
+#include "host/session/computer_user.hpp"
+#include "host/session/daily_backup.hpp"
+#include "host/session/session_clock.hpp"
+#include "host/session/session_user.hpp"
+#include "host/session/shop.hpp"
+#include "system/path_text.hpp"
+#include "toolkits/qt/handles.hpp"
+
+#include <QApplication>
+
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <stdexcept>
+
+namespace kova::host {
+
+namespace {
+
+constexpr Long PrintedRows = 15;
+/// The code that writes carry until users have registers of their own; their name tells who it was.
+constexpr Long OnlyUser = 1;
+
+std::filesystem::path DatabaseOf(const Options& options)
+{
+    return options.database.empty() ? DemonstrationDatabase() : system::PathOf(options.database);
+}
+
+/// A picture has the usual size unless another is asked for; a window may fit itself to the screen.
+std::optional<WindowSize> SizeOf(const Options& options, Outlet outlet)
+{
+    return outlet == Outlet::Window ? options.size : options.size.value_or(WindowSize());
+}
+
+int DrawnWidth(const Options& options, Outlet outlet)
+{
+    return outlet == Outlet::Window ? 0 : SizeOf(options, outlet)->width;
+}
+
+/// The order of the members is the order of things: what comes later uses what came before and goes first.
+class Session {
+public:
+    Session(const Options& options, Outlet outlet)
+        : options_(options),
+          outlet_(outlet),
+          registry_(system::TextOf(RegistryFile())),
+          clock_(options.date, options.time, options.pace),
+          toolkit_(clock_, DrawnWidth(options, outlet)),
+          platform_(clock_, toolkit_),
+          server_(registry_, platform_, system::TextOf(DatabaseOf(options))),
+          components_(registry_, server_.Libraries())
+    {
+        platform_.Use(components_);
+    }
+
+    /// The list goes while its window is still there, and the window before the libraries.
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    int Run();
+
+private:
+    void OpenList();
+    std::string NameOfUser() const { return options_.user.empty() ? NameOfThisUser() : options_.user; }
+    /// The day's list; null where none was made.
+    Form* List() const { return toolkit_.FindForm("frmLista"); }
+    bool ListShowsADay() const;
+    void RequireDay() const;
+    int RunWindow();
+    void BackUpDaily();
+    int PaintWindow();
+    int DrawWindow();
+
+    const Options& options_;
+    Outlet outlet_;
+    Registry registry_;
+    SessionClock clock_;
+    HostToolkit toolkit_;
+    HostPlatform platform_;
+    RegistryServerHost server_;
+    RegisteredComponents components_;
+    std::unique_ptr<MainWindow> window_;
+    ComponentRef agenda_;
+    std::unique_ptr<DailyBackup> backup_;
+};
+
+int Session::Run()
+{
+    SetUpComponents(registry_, server_, ProgramFolder());
+    const Shop shop =
+        OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
+    window_ = std::make_unique<MainWindow>(MainWindow::Heading{QString::fromStdString(shop.tradeName),
+                                                               options_.database.empty(),
+                                                               QString::fromStdString(NameOfUser())});
+    OpenList();
+    if (options_.firstPaint)
+        return PaintWindow();
+    return outlet_ == Outlet::Window ? RunWindow() : DrawWindow();
+}
+
+/// The window is there before the list, so that the list finds its place in its final size; both are
+/// painted together.
+void Session::OpenList()
+{
+    agenda_ = components_.CreateObject("KOVA_A_Agenda.clsAgenda");
+    agenda_->Set("DadosDoUsuario", Value(std::make_shared<SessionUser>(OnlyUser, NameOfUser())));
+    agenda_->Set("NomeDaAplicacao", "Kovaris");
+    toolkit_.RegisterTopWindow(window_.get());
+    window_->Open(SizeOf(options_, outlet_));
+    agenda_->Call("AbrirLista", {qt::HandleOf(*window_), qt::HandleOf(window_->Container())});
+}
+
+/// AbrirLista does not tell whether it opened the list: what went wrong has been told to the user.
+bool Session::ListShowsADay() const
+{
+    const Form* list = List();
+    return list != nullptr && list->Visible()
+        && (list->Control("msfgGrade").Visible() || list->Control("lblMensagemDeResultado").Visible());
+}
+
+int Session::RunWindow()
+{
+    const bool opened = ListShowsADay();
+    if (List() == nullptr || !List()->Visible())
+        window_->ShowHint(
+            QStringLiteral("A agenda não pôde ser aberta.\n\nCorrija a causa que foi mostrada e abra "
+                           "o programa novamente."));
+    else
+        BackUpDaily();
+    // It may have been closed meanwhile, in front of a message about its opening.
+    if (window_->isVisible())
+        QApplication::exec();
+    return opened ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+void Session::BackUpDaily()
+{
+    backup_ = std::make_unique<DailyBackup>(components_, [this](const std::string& reason) {
+        window_->ShowNotice(reason.empty() ? QString()
+                                           : QStringLiteral("A cópia de segurança de hoje não foi feita. ")
+                                    + QString::fromStdString(WithoutDetail(reason)));
+    });
+    AfterFirstPaint(*window_, [this] { backup_->Begin(); });
+}
+
+void Session::RequireDay() const
+{
+    if (!ListShowsADay())
+        throw std::runtime_error(
+            "A agenda não pôde ser aberta. Corrija a causa que foi mostrada e abra o programa novamente.");
+}
+
+int Session::PaintWindow()
+{
+    RequireDay();
+    AwaitFirstPaint(*window_);
+    return EXIT_SUCCESS;
+}
+
+int Session::DrawWindow()
+{
+    RequireDay();
+    const bool onPurpose = outlet_ == Outlet::PictureOnPurpose;
+    const auto file = onPurpose ? system::PathOf(options_.picture) : PictureWithoutDisplay();
+    SavePicture(*window_, file);
+    std::cout << DayAsText(*List(), PrintedRows) << "\nImagem da janela: " << system::TextOf(file)
+              << std::endl;
+    if (!onPurpose)
+        std::cout
+            << "Não há tela: as variáveis DISPLAY e WAYLAND_DISPLAY não levam a uma. A tela é necessária\n"
+               "para usar a agenda em uma janela, com mouse e teclado; sem ela só é possível ver o dia."
+            << std::endl;
+    return EXIT_SUCCESS;
+}
+
+Session::~Session()
+{
+    backup_.reset();
+    if (Form* list = List())
+        list->Unload();
+    agenda_.reset();
+    // The toolkit ends forms from its event loop; what they hold of a library must go before it. So must
+    // what a library has put into the window.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    window_.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    server_.Libraries().UnloadUnused();
+}
+
+} // namespace
+
+int RunSession(const Options& options, Outlet outlet) { return Session(options, outlet).Run(); }
+
+} // namespace kova::host

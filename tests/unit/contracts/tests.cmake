@@ -1,1 +1,0 @@
-kovaris_test_program(test_contracts unit/contracts contracts)

@@ -1,0 +1,103 @@
+// What the audit keeps of written appointments.
+
+#include "tests/unit/family/business/appointments/booking_fixture.hpp"
+
+#include "system/computer_name.hpp"
+
+namespace kova::family::test {
+
+class WritesAudit : public BookingTest {
+protected:
+    /// Columns of one line's values.
+    std::vector<std::string> KeysOf(const std::string& member)
+    {
+        return Texts("select e.key from auditoria a, json_each(a." + member
+                     + ") e where a.codigo ="
+                       " (select max(codigo) from auditoria) order by e.key");
+    }
+};
+
+TEST_F(WritesAudit, KeepsAllColumnsOfWhatIsAdded)
+{
+    ASSERT_EQ(Write(*Full(On("01/12/2026"))), 0);
+    EXPECT_EQ(
+        Audit(),
+        std::vector<std::string>{
+            R"(agendamento 24 inclusao - {"numero":24,"data_inicial":"2026-12-01","hora_inicial":"09:00",)"
+            R"("data_final":"2026-12-01","hora_final":"10:00","tipo_do_agendamento":0,"codigo_do_cliente":10,)"
+            R"("codigo_do_animal":50,"nome_do_cliente":"","canais_do_cliente":"","nome_do_animal":"",)"
+            R"("sexo_do_animal":"","especie_do_animal":"","raca_do_animal":"","cor_do_animal":"",)"
+            R"("numero_do_tipo_de_servico":4,"codigo_do_servico":2,"codigo_do_funcionario":2,)"
+            R"("codigo_do_pacote":null,"observacao":"Laço azul.","transporte_buscar":1,"transporte_levar":0,)"
+            R"("situacao":1,"incluido_em":"2026-11-20 09:04:05","incluido_por":"Lia","alterado_em":null,)"
+            R"("alterado_por":null,"texto_de_busca":"","versao":1})"});
+    EXPECT_EQ(Texts("select momento || ' ' || usuario || ' ' || posto from auditoria"),
+              std::vector<std::string>{"2026-11-20 09:04:05 7 - Lia " + system::ComputerName()});
+}
+
+TEST_F(WritesAudit, KeepsTheWholeRowBeforeAndAfterAnAlteration)
+{
+    ASSERT_EQ(Write(*Simplified(On("01/12/2026"))), 0);
+    desk_.now.time = {10, 0, 0};
+    const auto desk = Over(24, Simplified(On("02/12/2026")));
+    desk->Set("NomeDoAnimal", "Rex");
+    ASSERT_EQ(Write(*desk, "Alterar"), 0);
+    EXPECT_EQ(Count("auditoria where chave = 24"), 2);
+    EXPECT_EQ(Count("auditoria a join auditoria b on b.antes = a.depois where a.chave = 24 and b.chave = 24"
+                    " and b.operacao = 'alteracao'"),
+              1);
+    EXPECT_EQ(Texts("select json_extract(antes, '$.nome_do_animal') || ' ' ||"
+                    " json_extract(depois, '$.nome_do_animal') || ' ' ||"
+                    " json_extract(antes, '$.data_inicial') || ' ' || json_extract(depois, '$.data_inicial')"
+                    " || ' ' || json_extract(depois, '$.alterado_em')"
+                    " from auditoria where operacao = 'alteracao'"),
+              std::vector<std::string>{"Bidu Rex 2026-12-01 2026-12-02 2026-11-20 10:00:00"});
+    EXPECT_EQ(KeysOf("antes"), KeysOf("depois"));
+}
+
+TEST_F(WritesAudit, LetsADeletedAppointmentBePutBack)
+{
+    const auto desk = Simplified(On("01/12/2026"));
+    desk->Set("Observacao", "\"aspas\" \\ 🐶 e\nlinha");
+    ASSERT_EQ(Write(*desk), 0);
+    for (const int number : {24, 21, 2}) {
+        const std::string condition = "numero = " + std::to_string(number);
+        const auto before = RowsOf("agendamento", condition);
+        ASSERT_EQ(before.size(), 1U);
+        ASSERT_EQ(Write(*Over(number, Simplified(On("01/12/2026"))), "Excluir"), 0);
+        ASSERT_TRUE(RowsOf("agendamento", condition).empty());
+        std::string columns, values;
+        for (const std::string& column : KeysOf("antes")) {
+            columns += (columns.empty() ? "" : ", ") + column;
+            values += (values.empty() ? "" : ", ") + ("json_extract(antes, '$." + column + "')");
+        }
+        Run("insert into agendamento (" + columns + ") select " + values
+            + " from auditoria where operacao = 'exclusao' and chave = " + std::to_string(number)
+            + " and depois is null");
+        EXPECT_EQ(RowsOf("agendamento", condition), before);
+    }
+}
+
+TEST_F(WritesAudit, SaysNothingOfWhatWasRefused)
+{
+    Full(On("30/02/2026"))->Call("Adicionar");
+    Over(1, Full(On("06/12/2026")))->Call("Alterar");
+    Over(7, Full(On("01/12/2026")))->Call("Excluir");
+    EXPECT_EQ(Count("auditoria"), 0);
+}
+
+TEST_F(WritesAudit, IsWrittenWithTheAppointmentOrNeither)
+{
+    Break("auditoria", "before insert");
+    for (const char* member : {"Adicionar", "Alterar", "Excluir"}) {
+        const auto before = Contents();
+        const auto desk = Over(1, Full(On("01/12/2026")));
+        EXPECT_EQ(desk->Call(member), Value(Integer(1))) << member;
+        EXPECT_NE(desk->Get("DescricaoDoErro").ToText().find("parada de teste"), std::string::npos);
+        EXPECT_EQ(Contents(), before) << member;
+    }
+    Mend("auditoria");
+    EXPECT_EQ(Write(*Full(On("01/12/2026"))), 0);
+}
+
+} // namespace kova::family::test

@@ -1,3 +1,0 @@
-if(NOT KOVARIS_CORE_ONLY)
-    kovaris_test_program(test_hand unit/hand screen_hand test_qt_application)
-endif()

@@ -1,0 +1,107 @@
+#include "tests/unit/toolkits/qt/support.hpp"
+
+#include "tests/support/qt_application.hpp"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace kova::qt::test {
+
+namespace {
+
+class QtEnvironment : public ::testing::Environment {
+public:
+    void SetUp() override { kova::test::NeedApplication(); }
+};
+
+[[maybe_unused]] ::testing::Environment* const environment =
+    ::testing::AddGlobalTestEnvironment(new QtEnvironment);
+
+} // namespace
+
+ControlDesign Design(WidgetKind kind, const char* name, Twips left, Twips top, Twips width, Twips height)
+{
+    ControlDesign design;
+    design.kind = kind;
+    design.name = name;
+    design.left = left;
+    design.top = top;
+    design.width = width;
+    design.height = height;
+    return design;
+}
+
+FormDesign Form(std::vector<ControlDesign> controls)
+{
+    FormDesign design;
+    design.name = "frmTeste";
+    design.caption = "Teste";
+    design.controls = std::move(controls);
+    return design;
+}
+
+FormRef QtTest::Show(std::vector<ControlDesign> controls)
+{
+    FormRef form = toolkit_.CreateForm(Form(std::move(controls)));
+    form->Show(ShowMode::Modeless);
+    Settle();
+    return form;
+}
+
+void Settle()
+{
+    for (int round = 0; round < 3; ++round) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+void Press(QWidget* target, int key, const QString& text, Qt::KeyboardModifiers modifiers)
+{
+    QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(target, &down);
+    QKeyEvent up(QEvent::KeyRelease, key, modifiers, text);
+    QCoreApplication::sendEvent(target, &up);
+}
+
+void Type(QWidget* target, const QString& text)
+{
+    for (const QChar character : text)
+        Press(target, character.toUpper().unicode(), character);
+}
+
+void ClickAt(QWidget* target, const QPoint& place)
+{
+    const QPointF screen = target->mapToGlobal(QPointF(place));
+    QMouseEvent down(QEvent::MouseButtonPress, place, screen, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &down);
+    QMouseEvent up(QEvent::MouseButtonRelease, place, screen, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &up);
+}
+
+void MoveMouse(QWidget* target, const QPoint& place)
+{
+    QMouseEvent move(QEvent::MouseMove, place, target->mapToGlobal(QPointF(place)), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &move);
+}
+
+toolkit::WidgetCore& CoreOf(Widget& widget) { return dynamic_cast<toolkit::WidgetCore&>(widget); }
+
+QWidget* WindowOf(Widget& widget) { return dynamic_cast<WidgetView&>(*CoreOf(widget).GetView()).Window(); }
+
+QWidget* FocusWindowOf(Widget& widget)
+{
+    return dynamic_cast<WidgetView&>(*CoreOf(widget).GetView()).FocusWindow();
+}
+
+QImage Picture(QWidget* widget)
+{
+    QImage image(widget->size(), QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    widget->render(&image);
+    return image;
+}
+
+} // namespace kova::qt::test

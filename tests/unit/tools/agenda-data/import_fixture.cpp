@@ -1,0 +1,83 @@
+#include "tests/unit/tools/agenda-data/import_fixture.hpp"
+
+#include "family/data/engine/data_source.hpp"
+#include "tools/agenda-data/commands.hpp"
+
+namespace kova::data::test {
+
+using kova::test::ContentOf;
+using kova::test::WriteFile;
+
+ImportTest::ImportTest() { MakeEmptyDatabase(Database()); }
+
+void ImportTest::MakeEmptyDatabase(const std::string& path)
+{
+    family::CreateDatabase(path, [](family::Database&) {});
+}
+
+int ImportTest::Run(const std::vector<std::string>& words)
+{
+    std::vector<const char*> arguments;
+    for (const std::string& word : words)
+        arguments.push_back(word.c_str());
+    output_.str("");
+    error_.str("");
+    return data::Run(arguments, {{2026, 11, 20}, {9, 0, 0}}, output_, error_);
+}
+
+int ImportTest::Import(const std::string& name, const std::string& content, std::vector<std::string> options)
+{
+    WriteFile(File("entrada.csv"), content);
+    options.insert(options.begin(), {"import", Database(), name, File("entrada.csv")});
+    return Run(options);
+}
+
+void ImportTest::ImportShop()
+{
+    ASSERT_EQ(Import("tipos", "Número;Nome\n1;Consulta\n4;Banho e tosa\n"), 0) << Error();
+    ASSERT_EQ(Import("servicos",
+                     "Código;Nome;Número do tipo;Duração em minutos;Preço\n"
+                     "1;Consulta clínica;1;30;150,00\n2;Banho;4;75;60,00\n"),
+              0)
+        << Error();
+    ASSERT_EQ(Import("funcionarios",
+                     "Código;Apelido;Nome;Agendamentos simultâneos\n"
+                     "1;Bia;Beatriz Nogueira;1\n2;Juca;José Carlos;2\n"),
+              0)
+        << Error();
+    ASSERT_EQ(Import("clientes",
+                     "Código;Nome;Documento\n10;José Peçanha;123.456.789-09\n"
+                     "11;Canil Céu Azul Ltda.;11.222.333/0001-81\n"),
+              0)
+        << Error();
+    ASSERT_EQ(Import("animais",
+                     "Código;Código do cliente;Nome;Sexo;Espécie;Porte\n"
+                     "50;10;Paçoca;F;Canina;Médio\n51;11;Leão;M;Canina;Gigante\n"),
+              0)
+        << Error();
+}
+
+std::string ImportTest::Exported(const std::string& name, const std::string& database)
+{
+    const std::string path = File("saida" + std::to_string(++exports_) + ".csv");
+    EXPECT_EQ(Run({"export", database, name, path}), 0) << Error();
+    const std::string content = ContentOf(path);
+    EXPECT_EQ(content.substr(0, 3), "\xEF\xBB\xBF");
+    return content.substr(3);
+}
+
+std::string ImportTest::Ask(const std::string& query)
+{
+    std::string text, answer;
+    soci::indicator state = soci::i_null;
+    const auto database = family::OpenForReading(Database());
+    soci::statement statement = (database->Session().prepare << "with resposta (valor) as (" + query
+                                         + ") select cast(valor as text) from resposta",
+                                 soci::into(text, state));
+    statement.execute();
+    for (const char* comma = ""; statement.fetch(); comma = ",")
+        answer += comma + (state == soci::i_ok ? text : "");
+    return answer;
+}
+
+} // namespace kova::data::test

@@ -1,0 +1,180 @@
+#include "toolkits/qt/look/flat_style.hpp"
+
+#include "toolkits/qt/look/painting.hpp"
+#include "toolkits/qt/look/theme.hpp"
+
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOptionButton>
+
+namespace kova::qt {
+
+namespace {
+
+constexpr QSize SmallestButton(96, 34);
+constexpr QSize RoomBesideText(16, 0);
+
+const QStyleOptionButton* ButtonOf(const QStyleOption* option)
+{
+    return qstyleoption_cast<const QStyleOptionButton*>(option);
+}
+
+bool IsOffered(const QStyleOptionButton& button)
+{
+    return button.features & QStyleOptionButton::DefaultButton;
+}
+
+QColor GroundOf(const QStyleOption& option, bool isOffered)
+{
+    const bool isDown = option.state & QStyle::State_Sunken;
+    const bool isUnderMouse = option.state & QStyle::State_MouseOver;
+    if (!(option.state & QStyle::State_Enabled))
+        return look::LockedPaper;
+    if (isOffered)
+        return isDown ? look::Accent.darker(125) : isUnderMouse ? look::Accent.darker(112) : look::Accent;
+    return isDown ? look::AccentTint.darker(108) : isUnderMouse ? look::AccentTint : look::Paper;
+}
+
+void PaintButton(QPainter& painter, const QStyleOption& option, bool isOffered)
+{
+    const QColor ground = GroundOf(option, isOffered);
+    PaintPlate(painter, option.rect, ground, look::CornerRadius);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(isOffered ? ground : look::Border, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), look::CornerRadius,
+                            look::CornerRadius);
+    painter.restore();
+    if (option.state & QStyle::State_HasFocus)
+        PaintFocusRing(painter, option.rect, ground);
+}
+
+void PaintCheckBox(QPainter& painter, const QStyleOption& option)
+{
+    const bool isEnabled = option.state & QStyle::State_Enabled;
+    const bool isChecked = option.state & QStyle::State_On;
+    const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QColor edge = isEnabled ? look::MutedInk : look::DisabledInk;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(isChecked && isEnabled ? look::Accent : edge, 1));
+    painter.setBrush(!isChecked ? look::Paper : isEnabled ? look::Accent : look::DisabledInk);
+    painter.drawRoundedRect(box, look::CornerRadius - 1, look::CornerRadius - 1);
+    if (isChecked) {
+        painter.setPen(QPen(look::Paper, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const auto at = [&box](double x, double y) {
+            return box.topLeft() + QPointF(box.width() * x, box.height() * y);
+        };
+        painter.drawPolyline(QPolygonF({at(0.24, 0.52), at(0.43, 0.72), at(0.77, 0.3)}));
+    }
+    painter.restore();
+}
+
+/// Around lists and menus, which else would not stand out from what lies below them.
+void PaintFrame(QPainter& painter, const QRect& area)
+{
+    painter.save();
+    painter.setPen(QPen(look::BorderUnderMouse, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(area.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
+FieldState StateOf(const QStyleOption& option)
+{
+    return {.enabled = (option.state & QStyle::State_Enabled) != 0,
+            .underMouse = (option.state & QStyle::State_MouseOver) != 0,
+            .focused = (option.state & QStyle::State_HasFocus) != 0};
+}
+
+/// The mark of a list or of a step, pointing up or down.
+void PaintChevron(QPainter& painter, const QRectF& area, bool isUp, bool isEnabled)
+{
+    constexpr double reach = 3.5;
+    const double tip = isUp ? -reach / 2 : reach / 2;
+    const QPointF centre = area.center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(isEnabled ? look::MutedInk : look::DisabledInk, 1.5, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(centre + QPointF(-reach, -tip), centre + QPointF(0, tip));
+    painter.drawLine(centre + QPointF(0, tip), centre + QPointF(reach, -tip));
+    painter.restore();
+}
+
+} // namespace
+
+FlatStyle::FlatStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) { }
+
+void FlatStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    const QStyleOptionButton* button = ButtonOf(option);
+    if (element == CE_PushButtonBevel && button)
+        return PaintButton(*painter, *button, IsOffered(*button));
+    if (element != CE_PushButtonLabel || !button || !IsOffered(*button))
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionButton offered = *button;
+    offered.palette.setColor(QPalette::Active, QPalette::ButtonText, look::Paper);
+    offered.palette.setColor(QPalette::Inactive, QPalette::ButtonText, look::Paper);
+    QProxyStyle::drawControl(element, &offered, painter, widget);
+}
+
+void FlatStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    const bool isButton = widget && widget->inherits("QPushButton");
+    if (element == PE_PanelButtonTool && widget && widget->inherits("QToolButton")
+        && !(option->state & State_AutoRaise))
+        return PaintButton(*painter, *option, false);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element == PE_PanelLineEdit && frame && frame->lineWidth > 0)
+        return PaintField(*painter, option->rect, StateOf(*option), look::Paper);
+    if (element == PE_IndicatorCheckBox)
+        return PaintCheckBox(*painter, *option);
+    if (element == PE_PanelMenu)
+        painter->fillRect(option->rect, look::Paper);
+    if (element == PE_Frame || element == PE_FrameMenu || element == PE_PanelMenu)
+        return PaintFrame(*painter, option->rect);
+    // The ring is drawn with the plate.
+    if (element != PE_FrameFocusRect || !isButton)
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void FlatStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const
+{
+    const bool isEnabled = option->state & State_Enabled;
+    const auto place = [&](SubControl part) { return QRectF(subControlRect(control, option, part, widget)); };
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control == CC_ComboBox && combo && !combo->editable) {
+        PaintField(*painter, option->rect, StateOf(*option), look::Paper);
+        return PaintChevron(*painter, place(SC_ComboBoxArrow), false, isEnabled);
+    }
+    if (control != CC_SpinBox)
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    PaintField(*painter, option->rect, StateOf(*option), look::Paper);
+    PaintChevron(*painter, place(SC_SpinBoxUp), true, isEnabled);
+    PaintChevron(*painter, place(SC_SpinBoxDown), false, isEnabled);
+}
+
+QSize FlatStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                  const QWidget* widget) const
+{
+    const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const QStyleOptionButton* button = ButtonOf(option);
+    // A button with nothing but an icon, as in a row of them, stays as small as it is.
+    return type == CT_PushButton && button && !button->text.isEmpty()
+        ? (usual + RoomBesideText).expandedTo(SmallestButton)
+        : usual;
+}
+
+int FlatStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* answer) const
+{
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+} // namespace kova::qt
