@@ -1,24 +1,10 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 
-#include "tests/support/qt_application.hpp"
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace kova::qt::test {
-
-namespace {
-
-class QtEnvironment : public ::testing::Environment {
-public:
-    void SetUp() override { kova::test::NeedApplication(); }
-};
-
-[[maybe_unused]] ::testing::Environment* const environment =
-    ::testing::AddGlobalTestEnvironment(new QtEnvironment);
-
-} // namespace
 
 ControlDesign Design(WidgetKind kind, const char* name, Twips left, Twips top, Twips width, Twips height)
 {

@@ -1,5 +1,5 @@
 if(NOT KOVARIS_CORE_ONLY)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
-    kovaris_test_program(test_qt toolkit_qt report_samples test_qt_application Qt6::Test)
+    kovaris_test_program(test_qt toolkit_qt report_samples test_whole_program_on_qt Qt6::Test)
     kovaris_precompile(test_qt ${CMAKE_CURRENT_LIST_DIR}/support.hpp)
 endif()
