@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPaintEvent>
 #include <QScreen>
 
 namespace kova::qt::test {
@@ -133,6 +134,7 @@ TEST_F(Fields, ComboRaisesDropDownBeforeItsListAndClickForTheRowTaken)
     EXPECT_EQ(field.List()->count(), 3);
     Press(field.List(), Qt::Key_Down);
     EXPECT_EQ(combo.ListIndex(), 0);
+    EXPECT_EQ(field.List()->currentRow(), 1);
     Press(field.List(), Qt::Key_Return);
     EXPECT_FALSE(field.IsListOpen());
     EXPECT_EQ(combo.ListIndex(), 1);
@@ -221,6 +223,63 @@ TEST_F(Fields, CalendarStartsAtTodayAndChoosesWithoutLosingTheFocus)
     Press(calendar, Qt::Key_Return);
     EXPECT_EQ(date.Text(), "17/04/2026");
     EXPECT_EQ(events, "C");
+}
+
+// Whether the left edge of a widget was painted anew.
+class EdgePainted : public QObject {
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const int middle = static_cast<QWidget*>(watched)->height() / 2;
+        if (event->type() == QEvent::Paint)
+            isPainted |= static_cast<QPaintEvent*>(event)->region().contains(QPoint(0, middle));
+        return false;
+    }
+
+    bool isPainted = false;
+};
+
+TEST_F(Fields, ShowByTheirEdgeWhichOneHasTheFocus)
+{
+    auto& name = Get<KVTextBox>("kvtxtNome");
+    auto& date = Get<KVDTPicker>("kvdtpData");
+    date.SetFocus();
+    Settle();
+    EdgePainted edge;
+    WindowOf(name)->installEventFilter(&edge);
+    const QImage without = Picture(WindowOf(name));
+    edge.isPainted = false;
+    name.SetFocus();
+    Settle();
+    EXPECT_TRUE(edge.isPainted);
+    EXPECT_NE(Picture(WindowOf(name)), without);
+    edge.isPainted = false;
+    date.SetFocus();
+    Settle();
+    EXPECT_TRUE(edge.isPainted);
+}
+
+// Keys that somebody else may still take.
+class KeysPassedOn : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::KeyPress;
+        return false;
+    }
+
+    int count = 0;
+};
+
+TEST_F(Fields, TheKeyThatOpensACalendarGoesNoFurther)
+{
+    auto& date = Get<KVDTPicker>("kvdtpData");
+    date.SetFocus();
+    KeysPassedOn passedOn;
+    WindowOf(date)->parentWidget()->installEventFilter(&passedOn);
+    Press(Editor<KVDTPicker>("kvdtpData"), Qt::Key_F4);
+    EXPECT_EQ(passedOn.count, 0);
+    EXPECT_NE(dynamic_cast<DateBoxView&>(*CoreOf(date).GetView()).Calendar(), nullptr);
 }
 
 TEST_F(Fields, CalendarStaysInsideItsRange)

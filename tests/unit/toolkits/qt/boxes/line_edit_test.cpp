@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
+#include <QTest>
 
 namespace kova::qt::test {
 namespace {
@@ -38,6 +39,17 @@ TEST_F(LineEdits, CutNothingWhereNothingIsSelected)
     Cut();
     EXPECT_EQ(Clipboard(), QStringLiteral("antes"));
     EXPECT_EQ(erased_, 0);
+}
+
+TEST_F(LineEdits, SelectAnewFromInsideASelectionAndDragNothingOut)
+{
+    editor_.resize(200, 30);
+    editor_.show();
+    Settle();
+    editor_.selectAll();
+    QTest::mousePress(&editor_, Qt::LeftButton, {}, QPoint(20, 15));
+    EXPECT_FALSE(editor_.hasSelectedText());
+    QTest::mouseRelease(&editor_, Qt::LeftButton, {}, QPoint(20, 15));
 }
 
 TEST_F(LineEdits, CutNothingThatIsOnlyRead)

@@ -67,6 +67,21 @@ TEST_F(Toggles, TellThreeValuesApart)
     }
 }
 
+TEST_F(Toggles, ShowADashForTheThirdValueAndACheckForTheSecond)
+{
+    Toggle toggle(nullptr, Toggle::Mark::Box);
+    toggle.setText(QStringLiteral("Sim"));
+    toggle.resize(90, 24);
+    // The end of the check goes up to the right; the dash stays in the middle.
+    const QPoint endOfCheck(13, 8);
+    const auto inked = [&](int value) {
+        toggle.SetValue(value);
+        return Contrast(Picture(&toggle).pixelColor(endOfCheck), look::Accent) > 2;
+    };
+    EXPECT_TRUE(inked(1));
+    EXPECT_FALSE(inked(2));
+}
+
 TEST_F(Toggles, AreFilledWhereTheyAreMarked)
 {
     for (const Toggle::Mark mark : {Toggle::Mark::Box, Toggle::Mark::Circle}) {

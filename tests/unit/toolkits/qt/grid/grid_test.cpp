@@ -2,6 +2,7 @@
 #include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QRegion>
@@ -128,6 +129,24 @@ TEST_F(Grid, PaintsTheTextOfACellInItsColourAndNoOtherCell)
     EXPECT_TRUE(red);
 }
 
+TEST_F(Grid, RulesItsCellsAndItsHeaderEachWhereItIsTold)
+{
+    const auto isRuled = [&](Long row) {
+        const QRect cell = Cell(row, 0);
+        return Picture(&Canvas()).pixelColor(cell.center().x(), cell.bottom()) == QColor(Qt::red);
+    };
+    grid_->GridColor(Rgb(255, 0, 0));
+    grid_->GridColorFixed(Rgb(255, 0, 0));
+    for (const bool cells : {false, true}) {
+        for (const bool header : {false, true}) {
+            grid_->GridLines(cells ? 1 : 0);
+            grid_->GridLinesFixed(header ? 1 : 0);
+            EXPECT_EQ(isRuled(2), cells);
+            EXPECT_EQ(isRuled(0), header);
+        }
+    }
+}
+
 TEST_F(Grid, LeavesNoInkOfAHiddenColumn)
 {
     EXPECT_EQ(Cell(2, 1).width(), 0);
@@ -242,6 +261,21 @@ TEST_F(Grid, MovesTheCursorByArrowKeysAndPressesByEnter)
     Press(&Canvas(), Qt::Key_Down);
     EXPECT_EQ(grid_->Row(), 3);
     Press(&Canvas(), Qt::Key_Return);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Grid, IsPressedOnceByTheSpaceBarHoweverLongItIsHeld)
+{
+    int clicks = 0;
+    grid_->OnClick([&] { ++clicks; });
+    grid_->SetFocus();
+    grid_->Row(1);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    QApplication::sendEvent(&Canvas(), &held);
+    EXPECT_EQ(clicks, 0);
+    Press(&Canvas(), Qt::Key_X, QStringLiteral("x"));
+    EXPECT_EQ(clicks, 0);
+    Press(&Canvas(), Qt::Key_Space, QStringLiteral(" "));
     EXPECT_EQ(clicks, 1);
 }
 

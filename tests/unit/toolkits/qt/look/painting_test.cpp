@@ -113,6 +113,18 @@ TEST(KeptPicture, IsToldFromOthersByColourAndSize)
     EXPECT_EQ(painted(Qt::red, 20).pixelColor(15, 15), QColor(Qt::red));
 }
 
+TEST(Icons, GoWhereTheirOutlinesSay)
+{
+    const QImage plus = On(Qt::white, [](QPainter& painter) {
+        PaintIcon(painter, "adicionar", QRectF(0, 0, 24, 24), Qt::black);
+    });
+    const auto isInked = [&](int x, int y) { return plus.pixelColor(x, y) != Qt::white; };
+    for (const QPoint& place : {QPoint(12, 6), QPoint(12, 18), QPoint(6, 12), QPoint(18, 12)})
+        EXPECT_TRUE(isInked(place.x(), place.y())) << place.x() << ' ' << place.y();
+    for (const QPoint& place : {QPoint(6, 6), QPoint(18, 6), QPoint(6, 18), QPoint(18, 18), QPoint(12, 2)})
+        EXPECT_FALSE(isInked(place.x(), place.y())) << place.x() << ' ' << place.y();
+}
+
 TEST(Icons, ThatDoNotExistDrawNothing)
 {
     EXPECT_TRUE(HasIcon("lupa"));

@@ -157,6 +157,15 @@ TEST_F(Preview, HandsTheFocusOfAButtonThatGoesOutOfUseToThePages)
     EXPECT_EQ(Window().focusWidget(), Search());
 }
 
+TEST_F(Preview, EmptiesTheSearchByItsCross)
+{
+    EXPECT_TRUE(Search()->isClearButtonEnabled());
+    Type(Search(), QStringLiteral("animal"));
+    ASSERT_NE(Label("achados"), "");
+    Search()->findChild<QAbstractButton*>()->click();
+    EXPECT_EQ(Search()->text(), QString());
+}
+
 TEST_F(Preview, EscapeLeavesTheSearchAndThenTheWindow)
 {
     Press(Qt::Key_F, Qt::ControlModifier);
