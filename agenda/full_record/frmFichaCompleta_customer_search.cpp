@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"
+#include "agenda/search/customer_state.hpp"
 #include "agenda/shared/mensagens.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 #include "agenda/shared/modPrincipal.hpp"
@@ -22,16 +23,6 @@ Text MensagemDeClienteNaoEncontrado(const Text& apelido, const Text& nome, Doubl
     if (!Trim(endereco).empty())
         return "Nenhum cliente encontrado com o endereço '" + endereco + "'.";
     return "Nenhum cliente encontrado com o código '" + TextOf(codigo) + "' informado.";
-}
-
-const char* EstadoQueImpede(Integer situacao)
-{
-    switch (situacao) {
-    case 2: return "inativo";
-    case 3: return "bloqueado";
-    case 4: return "excluído";
-    default: return nullptr;
-    }
 }
 
 } // namespace
@@ -115,11 +106,10 @@ bool frmFichaCompleta::EscolherCliente(RecordSet& registros)
 
 bool frmFichaCompleta::RecusarClientePelaSituacao(Integer Situacao)
 {
-    const char* estado = EstadoQueImpede(Situacao);
-    if (!estado)
+    const Text motivo = MotivoDaRecusaDoCliente(Situacao);
+    if (motivo.empty())
         return false;
-    ExibirInformacao(Text("Cliente ") + estado
-                     + ". Para mais informações, entre em contato com o departamento financeiro.");
+    ExibirInformacao(motivo);
     return true;
 }
 

@@ -1,6 +1,7 @@
 // The search inside the dialog of customers, and the choice of a row.
 
 #include "agenda/contracts/text.hpp"
+#include "agenda/search/customer_state.hpp"
 #include "agenda/search/frmPesquisaDeClientes.hpp"
 #include "agenda/search/search_dialog.hpp"
 #include "agenda/shared/mensagens.hpp"
@@ -12,24 +13,6 @@
 #include <utility>
 
 namespace kova::agenda {
-
-namespace {
-
-/// Why a customer of that situation cannot be chosen; "" for one who can.
-Text MotivoDaRecusa(const Text& situacao)
-{
-    const char* estado = "";
-    switch (RoundToLong(Val(situacao))) {
-    case 2: estado = "inativo"; break;
-    case 3: estado = "bloqueado"; break;
-    case 4: estado = "excluído"; break;
-    default: return {};
-    }
-    return "Cliente " + Text(estado)
-        + ". Para mais informações, entre em contato com o departamento financeiro.";
-}
-
-} // namespace
 
 bool frmPesquisaDeClientes::PesquisarCliente()
 {
@@ -105,8 +88,8 @@ bool frmPesquisaDeClientes::ValidarCampos()
     bool resultado = false;
     Trap(", frmPesquisaDeClientes, ValidarCampos, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        const Text motivo =
-            MotivoDaRecusa(msfgGrade.TextMatrix(msfgGrade.RowSel(), colunas_de_clientes::Situacao));
+        const Text situacao = msfgGrade.TextMatrix(msfgGrade.RowSel(), colunas_de_clientes::Situacao);
+        const Text motivo = MotivoDaRecusaDoCliente(RoundToLong(Val(situacao)));
         resultado = motivo.empty();
         if (resultado)
             return;
