@@ -34,8 +34,7 @@ Text TextoDoEstouro()
 Integer frmFichaCompleta::PreencherComboboxAnimal(Double Codigo)
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    Trap(", frmFichaCompleta, PreencherComboboxAnimal, Ponto: ", Ponto, [&] {
+    return Trap(", frmFichaCompleta, PreencherComboboxAnimal, Ponto: ", Ponto, [&]() -> Integer {
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objAnimais = CreateObject("KOVA_N_ClientAnim.clsAnimais");
@@ -48,8 +47,7 @@ Integer frmFichaCompleta::PreencherComboboxAnimal(Double Codigo)
             Ponto = 3;
             ExibirOcultarpicMensagem(false);
             MensagemDeErroDoObjeto(*objAnimais);
-            resultado = 1;
-            return;
+            return 1;
         }
 
         Ponto = 4;
@@ -64,14 +62,13 @@ Integer frmFichaCompleta::PreencherComboboxAnimal(Double Codigo)
 
         Ponto = 5;
         ExibirOcultarpicMensagem(false);
-        if (vazio) {
-            ExibirInformacao(Text("Nenhum animal cadastrado.") + QuebraDeLinha
-                             + "É necessário ter ao menos um animal cadastrado com as especificações "
-                               "informadas para incluir ou alterar um agendamento.");
-            resultado = 1;
-        }
+        if (!vazio)
+            return 0;
+        ExibirInformacao(Text("Nenhum animal cadastrado.") + QuebraDeLinha
+                         + "É necessário ter ao menos um animal cadastrado com as especificações "
+                           "informadas para incluir ou alterar um agendamento.");
+        return 1;
     });
-    return resultado;
 }
 
 void frmFichaCompleta::kvcmbAnimal_Click()

@@ -146,8 +146,7 @@ void frmFichaCompleta::kvfNomeDoAnimal_KeyDown()
 bool frmFichaCompleta::PesquisarAnimal(const Text& Nome)
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmFichaCompleta, PesquisarAnimal, Ponto: ", Ponto, [&] {
+    return Trap(", frmFichaCompleta, PesquisarAnimal, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objAnimais = CreateObject("KOVA_N_ClientAnim.clsAnimais");
@@ -160,7 +159,7 @@ bool frmFichaCompleta::PesquisarAnimal(const Text& Nome)
             Ponto = 3;
             ExibirOcultarpicMensagem(false);
             MensagemDeErroDoObjeto(*objAnimais);
-            return;
+            return false;
         }
 
         Ponto = 4;
@@ -173,13 +172,12 @@ bool frmFichaCompleta::PesquisarAnimal(const Text& Nome)
         if (encontrados == 0) {
             ExibirInformacao("Nenhum cliente encontrado com o nome do animal '" + Nome + "'.");
             ThePlatform().Toolkit().SendKeys("+({HOME})");
-            return;
+            return false;
         }
 
         Ponto = 6;
-        resultado = encontrados == 1 ? AceitarDonoEncontrado(*registros) : EscolherDono(*registros);
+        return encontrados == 1 ? AceitarDonoEncontrado(*registros) : EscolherDono(*registros);
     });
-    return resultado;
 }
 
 bool frmFichaCompleta::AceitarDonoEncontrado(const RecordSet& registros)

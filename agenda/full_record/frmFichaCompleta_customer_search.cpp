@@ -31,9 +31,8 @@ bool frmFichaCompleta::PesquisarCliente(const Text& ApelidoOuNomeFantasia, const
                                         Double Codigo, const Text& Endereco)
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmFichaCompleta, PesquisarCliente, Ponto: ", Ponto, [&] {
-        // 1. The selection, by the one field that is filled.
+    return Trap(", frmFichaCompleta, PesquisarCliente, Ponto: ", Ponto, [&] {
+        // The selection, by the one field that is filled.
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objClientes = CreateObject("KOVA_N_ClientAnim.clsClientes");
@@ -54,7 +53,7 @@ bool frmFichaCompleta::PesquisarCliente(const Text& ApelidoOuNomeFantasia, const
             Ponto = 3;
             ExibirOcultarpicMensagem(false);
             MensagemDeErroDoObjeto(*objClientes);
-            return;
+            return false;
         }
 
         Ponto = 4;
@@ -69,13 +68,12 @@ bool frmFichaCompleta::PesquisarCliente(const Text& ApelidoOuNomeFantasia, const
             ExibirInformacao(
                 MensagemDeClienteNaoEncontrado(ApelidoOuNomeFantasia, NomeOuRazaoSocial, Codigo, Endereco));
             ThePlatform().Toolkit().SendKeys("+({HOME})");
-            return;
+            return false;
         }
 
         Ponto = 6;
-        resultado = encontrados == 1 ? AceitarClienteEncontrado(*registros) : EscolherCliente(*registros);
+        return encontrados == 1 ? AceitarClienteEncontrado(*registros) : EscolherCliente(*registros);
     });
-    return resultado;
 }
 
 bool frmFichaCompleta::AceitarClienteEncontrado(const RecordSet& registros)

@@ -113,8 +113,7 @@ void frmFichaCompleta::PesquisarPelaCaixaDoServico(KVFind& origem, KVFind& outra
 bool frmFichaCompleta::PesquisarServico(Integer NumeroDoTipoDeServico, const Text& Nome, Double Codigo)
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmFichaCompleta, PesquisarServico, Ponto: ", Ponto, [&] {
+    return Trap(", frmFichaCompleta, PesquisarServico, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objServicos = CreateObject("KOVA_N_Servicos.clsServicos");
@@ -131,7 +130,7 @@ bool frmFichaCompleta::PesquisarServico(Integer NumeroDoTipoDeServico, const Tex
             Ponto = 3;
             ExibirOcultarpicMensagem(false);
             MensagemDeErroDoObjeto(*objServicos);
-            return;
+            return false;
         }
 
         Ponto = 4;
@@ -144,13 +143,12 @@ bool frmFichaCompleta::PesquisarServico(Integer NumeroDoTipoDeServico, const Tex
         if (encontrados == 0) {
             ExibirInformacao(MensagemDeServicoNaoEncontrado(Nome, Codigo, kvcmbTiposDeServicos.Text()));
             ThePlatform().Toolkit().SendKeys("+({HOME})");
-            return;
+            return false;
         }
 
         Ponto = 6;
-        resultado = encontrados == 1 ? AceitarServicoEncontrado(*registros) : EscolherServico(*registros);
+        return encontrados == 1 ? AceitarServicoEncontrado(*registros) : EscolherServico(*registros);
     });
-    return resultado;
 }
 
 bool frmFichaCompleta::AceitarServicoEncontrado(const RecordSet& registros)

@@ -115,10 +115,11 @@ void frmSelecionarDatas::kvcmdCancelar_Click()
 Integer frmSelecionarDatas::PreencherListaDasDatasEHorasSelecionadas_Click()
 {
     Integer Ponto = 0;
-    // A failure answers 1: the form stays open.
-    Integer resultado = 1;
-    Trap(", frmSelecionarDatas, PreencherListaDasDatasEHorasSelecionadas_Click, Ponto: ", Ponto, [&] {
-        // 1. The rows that count. Gaps between them disappear.
+    // After a failure the form stays open.
+    constexpr Integer falhou = 1;
+    constexpr auto rotulo = ", frmSelecionarDatas, PreencherListaDasDatasEHorasSelecionadas_Click, Ponto: ";
+    return Trap(rotulo, Ponto, falhou, [&]() -> Integer {
+        // The rows that count. Gaps between them disappear.
         Ponto = 1;
         std::array<bool, Linhas> preenchida{};
         Long quantidade = 0;
@@ -137,9 +138,8 @@ Integer frmSelecionarDatas::PreencherListaDasDatasEHorasSelecionadas_Click()
             if (preenchida[linha])
                 PreencherElemento(*ListaDasDatasEHorasSelecionadas, elemento++, linha);
         }
-        resultado = 0;
+        return 0;
     });
-    return resultado;
 }
 
 bool frmSelecionarDatas::LinhaPreenchida(std::size_t linha) const

@@ -39,22 +39,18 @@ bool JaPassou(const Text& hora) { return HoraFormatada(hora) < FormatTime(ThePla
 Integer frmSelecionarDatas::ValidarCampos()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    // The tag names another form; it is fixed so.
-    Trap(", frmFicha, ValidarCampos, Ponto: ", Ponto, [&] {
+    // Another procedure's tag, on purpose.
+    return Trap(", frmFicha, ValidarCampos, Ponto: ", Ponto, [&]() -> Integer {
         bool existeData = false;
-        if (!LinhasValidas(existeData, Ponto)) {
-            resultado = 1;
-            return;
-        }
+        if (!LinhasValidas(existeData, Ponto))
+            return 1;
         Ponto = 9;
-        if (!existeData) {
-            Avisar("Informe uma data para o agendamento.");
-            kvdtpDataInicial.front()->SetFocus();
-            resultado = 1;
-        }
+        if (existeData)
+            return 0;
+        Avisar("Informe uma data para o agendamento.");
+        kvdtpDataInicial.front()->SetFocus();
+        return 1;
     });
-    return resultado;
 }
 
 bool frmSelecionarDatas::LinhasValidas(bool& existeData, Integer& Ponto)
@@ -138,8 +134,7 @@ bool frmSelecionarDatas::ConfirmarOuReagendar(const Text& pergunta)
 bool frmSelecionarDatas::PesquisarFeridado(const Text& Data)
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmSelecionarDatas, PesquisarFeridado, Ponto: ", Ponto, [&] {
+    return Trap(", frmSelecionarDatas, PesquisarFeridado, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objFeriados = CreateObject("KOVA_N_Feriados.clsFeriados");
@@ -154,14 +149,13 @@ bool frmSelecionarDatas::PesquisarFeridado(const Text& Data)
         Ponto = 3;
         ExibirOcultarpicMensagem(false);
         if (falhou)
-            return;
+            return false;
 
         Ponto = 4;
         const auto registros = objFeriados->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>();
         objFeriados.reset();
-        resultado = registros->RecordCount() > 0;
+        return registros->RecordCount() > 0;
     });
-    return resultado;
 }
 
 } // namespace kova::agenda

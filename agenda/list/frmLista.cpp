@@ -151,8 +151,7 @@ void frmLista::AoDescarregar()
 Integer frmLista::MontarExibirFormulario(Long HandleDoContainer)
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    Trap(", frmLista, MontarExibirFormulario, Ponto: ", Ponto, [&] {
+    return Trap(", frmLista, MontarExibirFormulario, Ponto: ", Ponto, [&]() -> Integer {
         Ponto = 1;
         Formulario->SetParent(HandleDoContainer);
 
@@ -166,18 +165,14 @@ Integer frmLista::MontarExibirFormulario(Long HandleDoContainer)
         PreencherDicasDosBotoes();
 
         Ponto = 4;
-        if (PreencherComboboxTiposDeServicos() != 0) {
-            resultado = 1;
-            return;
-        }
+        if (PreencherComboboxTiposDeServicos() != 0)
+            return 1;
         IgnorarClick = true;
         kvcmbTiposDeServicos.ListIndex(0);
 
         Ponto = 5;
-        if (PreencherComboboxFuncionarios() != 0) {
-            resultado = 1;
-            return;
-        }
+        if (PreencherComboboxFuncionarios() != 0)
+            return 1;
 
         Ponto = 6;
         IgnorarClick = true;
@@ -194,17 +189,14 @@ Integer frmLista::MontarExibirFormulario(Long HandleDoContainer)
         objAgendaDaLista = CreateObject("KOVA_N_Agenda.clsAgenda");
 
         Ponto = 9;
-        if (GerarLista() != 0) {
-            resultado = 1;
-            return;
-        }
+        if (GerarLista() != 0)
+            return 1;
         Ponto = 10;
         PaginaAtual = 1;
         AtualizarObjetos(1);
         Ponto = 11;
-        resultado = 0;
+        return 0;
     });
-    return resultado;
 }
 
 void frmLista::PreencherComboBoxDeSituacao()

@@ -70,19 +70,15 @@ void frmLista::mnuImprimirFichaDoAgendamentoParaInspecaoDoAnimal_Click()
 Integer frmLista::ImprimirFichaDoAgendamentoParaTransporte()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    Trap(", frmLista, ImprimirFichaDoAgendamentoParaTransporte, Ponto: ", Ponto,
-         [&] { resultado = ImprimirFicha(FichaParaTransporte(), Ponto); });
-    return resultado;
+    return Trap(", frmLista, ImprimirFichaDoAgendamentoParaTransporte, Ponto: ", Ponto,
+                [&] { return ImprimirFicha(FichaParaTransporte(), Ponto); });
 }
 
 Integer frmLista::ImprimirFichaDoAgendamentoParaInspecaoDoAnimal()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    Trap(", frmLista, ImprimirFichaDoAgendamentoParaInspecaoDoAnimal, Ponto: ", Ponto,
-         [&] { resultado = ImprimirFicha(FichaParaInspecaoDoAnimal(), Ponto); });
-    return resultado;
+    return Trap(", frmLista, ImprimirFichaDoAgendamentoParaInspecaoDoAnimal, Ponto: ", Ponto,
+                [&] { return ImprimirFicha(FichaParaInspecaoDoAnimal(), Ponto); });
 }
 
 Integer frmLista::ImprimirFicha(const FichaImpressa& ficha, Integer& Ponto)

@@ -26,7 +26,6 @@ Text TextoDaColuna(const RecordSet& pagina, const Coluna& coluna)
 Integer frmLista::ConfigurarGrade()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
     Trap(", frmLista, ConfigurarGrade, Ponto: ", Ponto, [&] {
         Ponto = 1;
         msfgGrade.Visible(false);
@@ -79,19 +78,16 @@ Integer frmLista::ConfigurarGrade()
         Ponto = 5;
         msfgGrade.Redraw(true);
     });
-    return resultado;
+    return 0;
 }
 
 Integer frmLista::PreencherGrade()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
     Trap(", frmLista, PreencherGrade, Ponto: ", Ponto, [&] {
         Ponto = 1;
-        if (ResultadoDaSelecao()->RecordCount() == 0) {
-            resultado = 0;
+        if (ResultadoDaSelecao()->RecordCount() == 0)
             return;
-        }
 
         Ponto = 2;
         ResultadoDaSelecao()->AbsolutePage(PaginaAtual);
@@ -128,9 +124,8 @@ Integer frmLista::PreencherGrade()
         Ponto = 9;
         msfgGrade.Redraw(true);
         Ponto = 10;
-        resultado = 0;
     });
-    return resultado;
+    return 0;
 }
 
 void frmLista::PreencherLinha(Long linha, const RecordSet& pagina)

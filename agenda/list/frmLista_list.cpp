@@ -17,8 +17,7 @@ RecordSetRef frmLista::ResultadoDaSelecao()
 Integer frmLista::GerarLista()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    Trap(", frmLista, GerarLista, Ponto: ", Ponto, [&] {
+    return Trap(", frmLista, GerarLista, Ponto: ", Ponto, [&]() -> Integer {
         Ponto = 1;
         const Long situacao = kvcmbSituacao.ItemData(kvcmbSituacao.ListIndex());
         const Text textoPesquisado = kvfndPesquisar.Text();
@@ -35,15 +34,13 @@ Integer frmLista::GerarLista()
             Ponto = 2;
             ListaFiltrada = situacao != 0 || kvfndPesquisar.Status() == find_status::Search;
             Ponto = 3;
-            resultado = 0;
-        } else {
-            Ponto = 4;
-            MensagemDeErroDoObjeto(*objAgendaDaLista);
-            Ponto = 5;
-            resultado = 1;
+            return 0;
         }
+        Ponto = 4;
+        MensagemDeErroDoObjeto(*objAgendaDaLista);
+        Ponto = 5;
+        return 1;
     });
-    return resultado;
 }
 
 void frmLista::AtualizarObjetos(Integer Modo)

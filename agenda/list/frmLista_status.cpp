@@ -107,8 +107,7 @@ void frmLista::MarcarAgendamento(Integer SituacaoNova, Integer& Ponto)
 bool frmLista::AlterarSituacaoDoAgendamento(Integer SituacaoNova, Integer SituacaoAtual)
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmLista, AlterarSituacaoDoAgendamento, Ponto: ", Ponto, [&] {
+    return Trap(", frmLista, AlterarSituacaoDoAgendamento, Ponto: ", Ponto, [&] {
         Ponto = 1;
         if (!objAgendaDaLista)
             throw Failure(FailureNumber::NoObject);
@@ -144,8 +143,7 @@ bool frmLista::AlterarSituacaoDoAgendamento(Integer SituacaoNova, Integer Situac
         Ponto = 12;
         if (agenda.Call("Alterar").ToInteger() != 0) {
             Ponto = 14;
-            resultado = false;
-            return;
+            return false;
         }
 
         Ponto = 13;
@@ -153,15 +151,12 @@ bool frmLista::AlterarSituacaoDoAgendamento(Integer SituacaoNova, Integer Situac
             && PerguntarPeloPacote(SituacaoNova)
             && agenda.Call("AlterarSituacaoDoAgendamentoNoPacoteDeBanhoETosa", {ByRef(SituacaoNova)})
                     .ToInteger()
-                != 0) {
-            resultado = false;
-            return;
-        }
+                != 0)
+            return false;
 
         Ponto = 15;
-        resultado = true;
+        return true;
     });
-    return resultado;
 }
 
 bool frmLista::PerguntarPeloPacote(Integer SituacaoNova)

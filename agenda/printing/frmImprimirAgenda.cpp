@@ -50,8 +50,7 @@ void frmImprimirAgenda::AoDescarregar()
 Integer frmImprimirAgenda::MontarExibirFormulario()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    // The tag names another form; it is fixed so.
+    // Another procedure's tag, on purpose.
     Trap(", frmFicha, MontarExibirFormulario, Ponto: ", Ponto, [&] {
         const bool escurecer = !Principal.SemFundoEscuroNaImpressao;
         Ponto = 1;
@@ -72,7 +71,7 @@ Integer frmImprimirAgenda::MontarExibirFormulario()
         if (escurecer)
             RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
     });
-    return resultado;
+    return 0;
 }
 
 void frmImprimirAgenda::PreencherComboBoxDeTransporte()
@@ -126,13 +125,9 @@ void frmImprimirAgenda::kvcmdCancelar_Click()
 Integer frmImprimirAgenda::ValidarCampos()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    // The tag names another form; it is fixed so.
-    Trap(", frmFicha, ValidarCampos, Ponto: ", Ponto, [&] {
-        Ponto = 1;
-        resultado = 0;
-    });
-    return resultado;
+    // Another procedure's tag, on purpose.
+    Trap(", frmFicha, ValidarCampos, Ponto: ", Ponto, [&] { Ponto = 1; });
+    return 0;
 }
 
 } // namespace kova::agenda

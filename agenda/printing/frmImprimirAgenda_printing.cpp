@@ -82,8 +82,7 @@ Long Escolhido(const KVComboBox& combo) { return combo.ItemData(combo.ListIndex(
 Integer frmImprimirAgenda::ImprimirLista()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    Trap(", frmImprimirAgenda, ImprimirLista, Ponto: ", Ponto, [&] {
+    return Trap(", frmImprimirAgenda, ImprimirLista, Ponto: ", Ponto, [&]() -> Integer {
         Ponto = 1;
         Formulario->Hide();
 
@@ -95,10 +94,8 @@ Integer frmImprimirAgenda::ImprimirLista()
 
         Ponto = 3;
         RecordSetRef empresa = SelecionarEmpresa(fecharMensagem);
-        if (!empresa) {
-            resultado = 1;
-            return;
-        }
+        if (!empresa)
+            return 1;
 
         // The day of the list, whatever of it is on the screen; its search box plays no part.
         Ponto = 4;
@@ -114,8 +111,7 @@ Integer frmImprimirAgenda::ImprimirLista()
             MensagemDeErroDoObjeto(*objAgenda);
             objAgenda.reset();
             Formulario->Hide();
-            resultado = 1;
-            return;
+            return 1;
         }
 
         Ponto = 6;
@@ -123,11 +119,11 @@ Integer frmImprimirAgenda::ImprimirLista()
         agendamentos->Sort("DataInicial, HoraInicial ASC");
         if (agendamentos->RecordCount() == 0) {
             ExibirInformacao("Nenhum agendamento encontrado com as específicações informadas.");
-            return;
+            return 0;
         }
         ImprimirAgendamentos(agendamentos, *empresa, Ponto);
+        return 0;
     });
-    return resultado;
 }
 
 void frmImprimirAgenda::ImprimirAgendamentos(const RecordSetRef& agendamentos, const RecordSet& empresa,

@@ -57,7 +57,6 @@ void frmPesquisaDeClientes::LigarEventos()
 Integer frmPesquisaDeClientes::ConfigurarGrade()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
     Trap(", frmPesquisaDeClientes, ConfigurarGrade, Ponto: ", Ponto, [&] {
         Formulario->Load();
 
@@ -67,18 +66,17 @@ Integer frmPesquisaDeClientes::ConfigurarGrade()
         Ponto = 2;
         DefinirColunasDaPesquisa(msfgGrade, Colunas);
     });
-    return resultado;
+    return 0;
 }
 
 Integer frmPesquisaDeClientes::PreencherGrade(RecordSet& registros)
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
     Trap(", frmPesquisaDeClientes, PreencherGrade, Ponto: ", Ponto, [&] {
         Ponto = 1;
         PreencherLinhasDaPesquisa(msfgGrade, Colunas, registros);
     });
-    return resultado;
+    return 0;
 }
 
 void frmPesquisaDeClientes::CentralizarpicMensagem() { CentralizarPlacaDeEspera(*Formulario, picMensagem); }

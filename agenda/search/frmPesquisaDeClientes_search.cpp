@@ -17,8 +17,7 @@ namespace kova::agenda {
 bool frmPesquisaDeClientes::PesquisarCliente()
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmPesquisaDeClientes, PesquisarCliente, Ponto: ", Ponto, [&] {
+    return Trap(", frmPesquisaDeClientes, PesquisarCliente, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objClientes = CreateObject("KOVA_N_ClientAnim.clsClientes");
@@ -34,8 +33,10 @@ bool frmPesquisaDeClientes::PesquisarCliente()
                        {Long{2}, Integer{0}, Long{0}, texto, "", Double{0}, "", "", "", Double{0}, ""})
                 .ToInteger();
         ExibirOcultarpicMensagem(false);
-        if (falha != 0)
-            return MensagemDeErroDoObjeto(*objClientes);
+        if (falha != 0) {
+            MensagemDeErroDoObjeto(*objClientes);
+            return false;
+        }
 
         Ponto = 3;
         const auto registros = objClientes->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>();
@@ -43,7 +44,7 @@ bool frmPesquisaDeClientes::PesquisarCliente()
         if (registros->RecordCount() == 0) {
             ExibirInformacao("Nenhum cliente encontrado  como o valor '" + texto + "' informado.");
             ThePlatform().Toolkit().SendKeys("+({HOME})");
-            return;
+            return false;
         }
 
         // The search has hidden the grid; filling it does not show it here.
@@ -52,9 +53,8 @@ bool frmPesquisaDeClientes::PesquisarCliente()
         msfgGrade.Visible(true);
         if (registros->RecordCount() == 1)
             msfgGrade_Click();
-        resultado = true;
+        return true;
     });
-    return resultado;
 }
 
 void frmPesquisaDeClientes::kvfndApelidoOuNomeFantasiaOuNomeOuRazaoSocialOuCodigo_Click()
@@ -85,20 +85,18 @@ void frmPesquisaDeClientes::kvfndApelidoOuNomeFantasiaOuNomeOuRazaoSocialOuCodig
 bool frmPesquisaDeClientes::ValidarCampos()
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmPesquisaDeClientes, ValidarCampos, Ponto: ", Ponto, [&] {
+    return Trap(", frmPesquisaDeClientes, ValidarCampos, Ponto: ", Ponto, [&] {
         Ponto = 1;
         const Text situacao = msfgGrade.TextMatrix(msfgGrade.RowSel(), colunas_de_clientes::Situacao);
         const Text motivo = MotivoDaRecusaDoCliente(RoundToLong(Val(situacao)));
-        resultado = motivo.empty();
-        if (resultado)
-            return;
+        if (motivo.empty())
+            return true;
 
         Ponto = 2;
         ExibirInformacao(motivo);
         msfgGrade.SetFocus();
+        return false;
     });
-    return resultado;
 }
 
 void frmPesquisaDeClientes::msfgGrade_Click()

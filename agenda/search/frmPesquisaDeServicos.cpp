@@ -63,8 +63,7 @@ void frmPesquisaDeServicos::LigarEventos()
 Integer frmPesquisaDeServicos::ConfigurarGrade()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    // The tag names the list; it is fixed so.
+    // Another procedure's tag, on purpose: the list's.
     Trap(", frmLista, ConfigurarGrade, Ponto: ", Ponto, [&] {
         Formulario->Load();
 
@@ -74,14 +73,13 @@ Integer frmPesquisaDeServicos::ConfigurarGrade()
         Ponto = 2;
         DefinirColunasDaPesquisa(msfgGrade, Colunas);
     });
-    return resultado;
+    return 0;
 }
 
 Integer frmPesquisaDeServicos::PreencherGrade(RecordSet& registros)
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
-    // The tag names the list; it is fixed so.
+    // Another procedure's tag, on purpose: the list's.
     Trap(", frmLista, PreencherGrade, Ponto: ", Ponto, [&] {
         Ponto = 1;
         PreencherLinhasDaPesquisa(msfgGrade, Colunas, registros);
@@ -90,7 +88,7 @@ Integer frmPesquisaDeServicos::PreencherGrade(RecordSet& registros)
         Ponto = 2;
         msfgGrade.Visible(true);
     });
-    return resultado;
+    return 0;
 }
 
 void frmPesquisaDeServicos::CentralizarpicMensagem() { CentralizarPlacaDeEspera(*Formulario, picMensagem); }

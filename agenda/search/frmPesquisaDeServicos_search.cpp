@@ -15,8 +15,7 @@ namespace kova::agenda {
 bool frmPesquisaDeServicos::PesquisarServico()
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmPesquisaDeServicos, PesquisarServico, Ponto: ", Ponto, [&] {
+    return Trap(", frmPesquisaDeServicos, PesquisarServico, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objServicos = CreateObject("KOVA_N_Servicos.clsServicos");
@@ -28,7 +27,7 @@ bool frmPesquisaDeServicos::PesquisarServico()
         if (objServicos->Call("Selecionar", {Long{2}, Integer{0}, Long{1}, texto, tipo}).ToInteger() != 0) {
             ExibirOcultarpicMensagem(false);
             MensagemDeErroDoObjeto(*objServicos);
-            return;
+            return false;
         }
 
         Ponto = 3;
@@ -39,7 +38,7 @@ bool frmPesquisaDeServicos::PesquisarServico()
             ExibirInformacao("Nenhum serviço encontrado  como o valor '" + texto
                              + "' informado e com o tipo de serviço '" + kvcmbTiposDeServicos.Text() + "'.");
             ThePlatform().Toolkit().SendKeys("+({HOME})");
-            return;
+            return false;
         }
 
         // The plate goes when the rows are there, and after the choice of a single one.
@@ -48,9 +47,8 @@ bool frmPesquisaDeServicos::PesquisarServico()
         if (registros->RecordCount() == 1)
             msfgGrade_Click();
         ExibirOcultarpicMensagem(false);
-        resultado = true;
+        return true;
     });
-    return resultado;
 }
 
 void frmPesquisaDeServicos::kvfndCodigoOuNome_Click()

@@ -49,7 +49,6 @@ frmMensagem::~frmMensagem()
 Integer frmMensagem::MontarExibirFormulario()
 {
     Integer Ponto = 0;
-    Integer resultado = 0;
     Trap(", frmMensagem, MontarExibirFormulario, Ponto: ", Ponto, [&] {
         Ponto = 1;
         Formulario->Width(lblMensagem.Width() + Folga);
@@ -59,7 +58,7 @@ Integer frmMensagem::MontarExibirFormulario()
         Formulario->Show(ShowMode::Modeless);
         Pausar(1);
     });
-    return resultado;
+    return 0;
 }
 
 void frmMensagem::Pausar(Double Segundos) { agenda::Pausar(Segundos); }

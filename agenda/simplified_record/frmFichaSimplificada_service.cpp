@@ -127,8 +127,7 @@ void frmFichaSimplificada::kvfNomeDoServico_KeyDown()
 bool frmFichaSimplificada::PesquisarServico(Integer tipo, Text nome, Double codigo)
 {
     Integer Ponto = 0;
-    bool resultado = false;
-    Trap(", frmFichaSimplificada, PesquisarServico, Ponto: ", Ponto, [&] {
+    return Trap(", frmFichaSimplificada, PesquisarServico, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ExibirOcultarpicMensagem(true);
         ComponentRef objServicos = CreateObject("KOVA_N_Servicos.clsServicos");
@@ -140,8 +139,10 @@ bool frmFichaSimplificada::PesquisarServico(Integer tipo, Text nome, Double codi
                        {Long{2}, Integer{0}, Long{1}, "", ByRef(tipo), ByRef(nome), ByRef(codigo)})
                 .ToInteger();
         ExibirOcultarpicMensagem(false);
-        if (falha != 0)
-            return MensagemDeErroDoObjeto(*objServicos);
+        if (falha != 0) {
+            MensagemDeErroDoObjeto(*objServicos);
+            return false;
+        }
 
         Ponto = 3;
         const auto registros = objServicos->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>();
@@ -149,7 +150,7 @@ bool frmFichaSimplificada::PesquisarServico(Integer tipo, Text nome, Double codi
         if (registros->RecordCount() == 0) {
             ExibirInformacao(MensagemDeServicoNaoEncontrado(nome, codigo, kvcmbTiposDeServicos.Text()));
             ThePlatform().Toolkit().SendKeys("+({HOME})");
-            return;
+            return false;
         }
 
         Ponto = 4;
@@ -158,14 +159,12 @@ bool frmFichaSimplificada::PesquisarServico(Integer tipo, Text nome, Double codi
             SelecionarTipoEncontrado(kvcmbTiposDeServicos, Estado, *registros);
             // Filling the box that searched counts as typing into it, which would empty the other one.
             Estado.IgnorarEventoDeCampo = true;
-            resultado = true;
-            return;
+            return true;
         }
 
         Ponto = 5;
-        resultado = EscolherServico(*registros);
+        return EscolherServico(*registros);
     });
-    return resultado;
 }
 
 bool frmFichaSimplificada::EscolherServico(RecordSet& registros)

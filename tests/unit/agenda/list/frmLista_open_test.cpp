@@ -165,6 +165,33 @@ TEST_F(OpeningTheList, PassesOnWhatTheServiceTypesSayOfTheirFailure)
     EXPECT_EQ(Lines("call KOVA_A_EfeitosDeTela.clsFundoEscuro.Remover").size(), 1U);
 }
 
+TEST_F(OpeningTheList, StopsAtAnEmptyFilterAlsoWhereTheDimmingCannotBeTakenAway)
+{
+    script.Always(Tipos, {.records = {{"Nome", "Numero"}, {}}});
+    script.FailCreate("KOVA_A_EfeitosDeTela.clsFundoEscuro", Failure(429, "sem efeitos"));
+    Open();
+    ASSERT_EQ(Reports().size(), 1U);
+    EXPECT_NE(Reports()[0].find("frmFichaCompleta, PreencherComboboxTiposDeServicos, Ponto: 4"),
+              std::string::npos)
+        << Reports()[0];
+    EXPECT_TRUE(Lines("create KOVA_N_Funcionarios").empty());
+}
+
+TEST_F(OpeningTheList, GoesOnAfterAFailedFilterWhereTheDimmingCannotBeTakenAway)
+{
+    script.Answer(Tipos,
+                  {.result = Long{1},
+                   .members = {{"NumeroDoErro", Long{9}}, {"DescricaoDoErro", "d"}, {"LocalDoErro", "l"}}});
+    script.FailCreate("KOVA_A_EfeitosDeTela.clsFundoEscuro", Failure(429, "sem efeitos"));
+    Open();
+    ASSERT_EQ(Reports().size(), 3U);
+    EXPECT_NE(Reports()[1].find("frmFichaCompleta, PreencherComboboxTiposDeServicos, Ponto: 3"),
+              std::string::npos)
+        << Reports()[1];
+    EXPECT_NE(Reports()[2].find("frmLista, MontarExibirFormulario, Ponto: 4"), std::string::npos)
+        << "the opening went on: " << Reports()[2];
+}
+
 TEST_F(OpeningTheList, ReportsAMissingComponentUnderTheTagOfTheFill)
 {
     script.FailCreate("KOVA_N_TipoDeServ.clsTiposDeServ",

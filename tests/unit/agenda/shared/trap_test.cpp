@@ -9,6 +9,7 @@
 
 #include <new>
 #include <stdexcept>
+#include <type_traits>
 
 namespace kova::agenda {
 
@@ -53,6 +54,61 @@ TEST_F(TheTrap, SaysNothingWhereNothingFails)
     Integer Ponto = 0;
     Trap(", frmLista, Algo, Ponto: ", Ponto, [&] { Ponto = 1; });
     EXPECT_TRUE(lines.empty());
+}
+
+TEST_F(TheTrap, AnswersWhatItsBodyAnswers)
+{
+    Integer Ponto = 0;
+    const auto number = [](Integer value) { return value; };
+    EXPECT_EQ(Trap(", frmLista, Algo, Ponto: ", Ponto, [&] { return number(7); }), 7);
+    EXPECT_TRUE(Trap(", frmLista, Algo, Ponto: ", Ponto, [] { return true; }));
+    EXPECT_EQ(Trap(", frmLista, Algo, Ponto: ", Ponto, Integer{1}, [&] { return number(7); }), 7);
+    static_assert(std::is_same_v<decltype(Trap("", Ponto, [&] { return number(7); })), Integer>);
+    static_assert(std::is_same_v<decltype(Trap("", Ponto, [] {})), void>);
+    EXPECT_TRUE(lines.empty()) << "nothing is reported";
+}
+
+TEST_F(TheTrap, AnswersZeroOrFalseWhereTheBodyFails)
+{
+    Integer Ponto = 0;
+    const auto fail = [&] {
+        Ponto = 4;
+        throw Failure(FailureNumber::Overflow);
+    };
+    const auto seven = [&]() -> Integer {
+        fail();
+        return 7;
+    };
+    const auto yes = [&] {
+        fail();
+        return true;
+    };
+    EXPECT_EQ(Trap(", frmLista, Numero, Ponto: ", Ponto, seven), 0);
+    EXPECT_EQ(Place(), "KOVA_A_Agenda, frmLista, Numero, Ponto: 4");
+    EXPECT_FALSE(Trap(", frmLista, Resposta, Ponto: ", Ponto, yes));
+    EXPECT_EQ(Place(), "KOVA_A_Agenda, frmLista, Resposta, Ponto: 4");
+    EXPECT_EQ(Reports().size(), 2U) << "each failure once";
+}
+
+TEST_F(TheTrap, AnswersWhatItIsGivenForAFailureWhereTheBodyFails)
+{
+    Integer Ponto = 0;
+    const auto zero = [&]() -> Integer {
+        Ponto = 2;
+        throw std::out_of_range("fora");
+    };
+    EXPECT_EQ(Trap(", frmLista, Algo, Ponto: ", Ponto, Integer{1}, zero), 1);
+    EXPECT_EQ(Place(), "KOVA_A_Agenda, frmLista, Algo, Ponto: 2");
+    EXPECT_EQ(Reports().size(), 1U);
+}
+
+TEST_F(TheTrap, AnswersAlsoWhereTheReportItselfFails)
+{
+    script.FailCreate("KOVA_A_MsgErro.clsMensagem", Failure(429, "sem tela"));
+    Integer Ponto = 0;
+    const auto zero = []() -> Integer { throw Failure(FailureNumber::Overflow); };
+    EXPECT_EQ(Trap(", frmLista, Algo, Ponto: ", Ponto, Integer{1}, zero), 1);
+    EXPECT_TRUE(Reports().empty());
 }
 
 TEST_F(TheTrap, GivesFailuresOfTheLanguageANumber)
