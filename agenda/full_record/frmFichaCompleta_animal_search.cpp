@@ -133,7 +133,7 @@ void frmFichaCompleta::EsvaziarClienteDoAnimal()
 void frmFichaCompleta::kvfNomeDoAnimal_KeyDown()
 {
     Integer Ponto = 0;
-    // The tag names the nickname's box; it is fixed so.
+    // Another procedure's tag, on purpose: that of the nickname's box.
     Trap(", frmFichaCompleta, kvfApelidoOuNomeFantasiaDoCliente_KeyDown, Ponto: ", Ponto, [&] {
         Ponto = 1;
         if (EventoIgnorado(Estado))

@@ -107,8 +107,9 @@ void OferecerSituacaoAoPacote(const frmFichaCompleta& ficha, Component& agenda)
         AlterarPacote(agenda, {situacaoDaFicha});
 }
 
-/// After a write that the user confirmed for a Sunday or holiday. Other words, no argument, and on altering
-/// only: the difference from the write that was done at once is fixed so.
+/// After a write that the user confirmed for a Sunday or holiday. It differs on purpose from the offer after
+/// a write that was done at once: on altering only, in other words, and without an argument, which always
+/// cancels.
 void OferecerCancelamentoDoPacote(const frmFichaCompleta& ficha, Component& agenda)
 {
     if (ficha.Estado.TipoDeOperacao != operacao::Alterar || !PertenceAPacote(agenda))

@@ -61,7 +61,7 @@ bool frmFichaCompleta::PesquisarCliente(const Text& ApelidoOuNomeFantasia, const
         const auto registros = objClientes->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>();
         objClientes.reset();
 
-        // 2. None, one or several.
+        // None, one or several.
         Ponto = 5;
         const Long encontrados = registros->RecordCount();
         if (encontrados == 0) {

@@ -1,4 +1,4 @@
-// Opening: the form is filled for an operation, shown, and cleared away behind.
+// Opening: the form is filled for an operation and shown until it is closed.
 
 #include "agenda/contracts/text.hpp"
 #include "agenda/full_record/frmFichaCompleta.hpp"

@@ -106,11 +106,11 @@ void frmFichaCompleta::kvcmbReagendarPor_Click()
         if (EventoIgnorado(Estado) || kvcmbReagendarPor.ListIndex() != SelecionarDatas)
             return;
 
-        // 1. The date selection shows what is booked, so that must be there.
+        // The date selection shows what is booked, so that must be there.
         if (ValidarCampos() == 1)
             return;
 
-        // 2. What it shows, and its first row.
+        // What it shows, and its first row.
         Ponto = 2;
         const auto datas = frmSelecionarDatas::Criar();
         datas->Formulario->Load();
@@ -121,16 +121,16 @@ void frmFichaCompleta::kvcmbReagendarPor_Click()
         datas->kvdtpDataInicial.front()->Text(kvdtpDataInicial.Text());
         datas->kvtimHoraInicial.front()->Text(kvtimHoraInicial.Text());
 
-        // 3. This form vanishes meanwhile; its own modal show goes on.
+        // This form vanishes meanwhile; its own modal show goes on.
         Ponto = 3;
         AlturaDoFormulario = RoundToInteger(static_cast<Double>(Formulario->Height()));
         Formulario->Height(0);
 
-        // 4. Returns when the user has finished.
+        // Returns when the user has finished.
         Ponto = 4;
         datas->MontarExibirFormulario();
 
-        // 5. Confirming the dates saves at once.
+        // Confirming the dates saves at once.
         if (datas->OperacaoConcluida) {
             Ponto = 5;
             DomingoOuFeriado = datas->DomingoOuFeriado;
@@ -142,7 +142,7 @@ void frmFichaCompleta::kvcmbReagendarPor_Click()
             return;
         }
 
-        // 6. Without dates there is no repetition.
+        // Without dates there is no repetition.
         Ponto = 7;
         kvcmbReagendar.ListIndex(Nao);
         Formulario->Height(AlturaDoFormulario);

@@ -16,6 +16,7 @@ Integer frmFichaCompleta::ValidarCampos()
         const auto recusar = [&](const char* mensagem, Widget& campo) {
             ExibirInformacao(mensagem);
             campo.SetFocus();
+            // The answer stands from here on, also where the unit cannot go back.
             resultado = 1;
             Estado.IgnorarEventoDeCampo = true;
             kvcmbReagendarPor.ListIndex(0);

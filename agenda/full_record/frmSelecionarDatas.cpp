@@ -59,7 +59,7 @@ frmSelecionarDatas::~frmSelecionarDatas()
 void frmSelecionarDatas::MontarExibirFormulario()
 {
     Integer Ponto = 0;
-    // The tag names another form; it is fixed so.
+    // Another procedure's tag, on purpose.
     Trap(", frmFicha, MontarExibirFormulario, Ponto: ", Ponto, [&] {
         Ponto = 1;
         DomingoOuFeriado = false;
@@ -71,7 +71,7 @@ void frmSelecionarDatas::MontarExibirFormulario()
 void frmSelecionarDatas::Form_Load()
 {
     Integer Ponto = 0;
-    // The tag names another form; it is fixed so.
+    // Another procedure's tag, on purpose.
     Trap(", frmImprimirAgenda, Form_Load, Ponto: ", Ponto, [&] {
         Ponto = 1;
         AplicarBordaDoFormulario(*Formulario);
@@ -104,7 +104,7 @@ void frmSelecionarDatas::kvcmdSalvarFecharConfirmar_Click()
 void frmSelecionarDatas::kvcmdCancelar_Click()
 {
     Integer Ponto = 0;
-    // The tag names another form; it is fixed so.
+    // Another procedure's tag, on purpose.
     Trap(", frmFicha, kvcmdCancelar_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
         OperacaoConcluida = false;
@@ -128,7 +128,7 @@ Integer frmSelecionarDatas::PreencherListaDasDatasEHorasSelecionadas_Click()
             quantidade += preenchida[linha] ? 1 : 0;
         }
 
-        // 2. One element more than there are rows; the last one stays empty.
+        // One element more than there are rows; the last one stays empty.
         Ponto = 2;
         ListaDasDatasEHorasSelecionadas = std::make_shared<Array>(HoraDeTermino, quantidade);
 

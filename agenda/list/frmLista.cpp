@@ -29,7 +29,7 @@ struct PreenchimentoDeCombo {
     Double& filtro;
     const char* mensagem;
     const char* complementoDaMensagem;
-    /// Both name another form; the tags are fixed so.
+    /// Another procedure's tag, on purpose: the full record's.
     const char* rotulo;
 };
 
@@ -69,6 +69,7 @@ Integer PreencherCombo(KVComboBox& combo, const PreenchimentoDeCombo& tabela)
         if (registros->RecordCount() == 0) {
             objeto.reset();
             ExibirInformacao(Text(tabela.mensagem) + QuebraDeLinha + tabela.complementoDaMensagem);
+            // The answer stands before the dimming goes, which may fail. After a failed call it comes later.
             resultado = 1;
             RemoverFundoEscuro(Principal.HandleDaJanelaPrincipal);
             return;

@@ -165,7 +165,7 @@ void frmLista::kvdtpDataDeAgendamento_Change()
 void frmLista::kvdtpDataDeAgendamento_GotFocus()
 {
     Integer Ponto = 0;
-    // The tag names the other focus handler; it is fixed so.
+    // Another procedure's tag, on purpose: that of the other focus handler.
     Trap(", frmLista, kvdtpDataDeAgendamento_LostFocus, Ponto: ", Ponto, [&] {
         Ponto = 1;
         DataAoEntrar = kvdtpDataDeAgendamento.Text();

@@ -130,10 +130,10 @@ Integer frmLista::PreencherGrade()
 
 void frmLista::PreencherLinha(Long linha, const RecordSet& pagina)
 {
-    // a. The row's height.
+    // The row's height.
     msfgGrade.RowHeight(linha, AlturaDaLinha);
 
-    // b. The colours of all its cells.
+    // The colours of all its cells.
     const Colour fundo = linha % 2 != 0 ? cores::CinzaClaro : colours::White;
     for (Long coluna = 0; coluna <= msfgGrade.Cols() - 1; ++coluna) {
         msfgGrade.Col(coluna);
@@ -142,18 +142,18 @@ void frmLista::PreencherLinha(Long linha, const RecordSet& pagina)
         msfgGrade.CellForeColor(coluna == colunas::NumeroDeLancamento ? cores::CinzaMedio : colours::Black);
     }
 
-    // c. The fields up to the status.
+    // The fields up to the status.
     for (Long coluna = colunas::NumeroDeLancamento; coluna <= colunas::Situacao; ++coluna)
         msfgGrade.TextMatrix(linha, coluna,
                              TextoDaColuna(pagina, ColunasDaGrade()[static_cast<std::size_t>(coluna)]));
 
-    // d. The picture of the status; any other status has none.
+    // The picture of the status; any other status has none.
     msfgGrade.Row(linha);
     msfgGrade.Col(colunas::FiguraDaSituacao);
     msfgGrade.CellPictureAlignment(grid_alignment::CentreMiddle);
     msfgGrade.CellPicture(FiguraDaSituacao(pagina.Field("Situacao").ToDouble()));
 
-    // e. Who included and changed it, and when.
+    // Who included and changed it, and when.
     for (Long coluna = colunas::DataEHoraDaInclusao; coluna <= colunas::UsuarioDaAlteracao; ++coluna)
         msfgGrade.TextMatrix(linha, coluna,
                              TextoDaColuna(pagina, ColunasDaGrade()[static_cast<std::size_t>(coluna)]));
@@ -189,7 +189,8 @@ void frmLista::msfgGrade_MouseMove(Integer, Integer, Twips, Twips Y)
     Integer Ponto = 0;
     Trap(", frmLista, msfgGrade_MouseMove, Ponto: ", Ponto, [&] {
         Ponto = 2;
-        // The 150 stands for what the header is higher than a row.
+        // Rounding finds the row below a header of 700 twips: with rows of 570, 155 would meet their edges,
+        // and 150 changes the row 5 twips below each.
         const Integer linhaSobOMouse =
             RoundToInteger((static_cast<Double>(Y) + 150) / static_cast<Double>(msfgGrade.RowHeight(1)) - 1);
 

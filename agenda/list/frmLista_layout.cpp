@@ -37,7 +37,8 @@ void frmLista::Form_Resize()
         AjustarColunasALarguraDaTela();
 
         Ponto = 8;
-        // The divisor is larger than a row on purpose: it leaves the panel its room.
+        // The divisor is 80 more than a row's height, on purpose: the grid reaches 1000 twips below the form,
+        // where no row shows. The panel's room is the two rows of LinhasDoPainel.
         RegistrosPorPagina = Checked(
             RoundToLong(std::floor((static_cast<Double>(msfgGrade.Height()) - 700) / 650)) - LinhasDoPainel);
     });

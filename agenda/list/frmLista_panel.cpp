@@ -58,16 +58,17 @@ void frmLista::AtualizarPainel()
 
 void frmLista::PreencherRotulosDoPainel(const MSFlexGrid& grade)
 {
-    // While a drag is under way the two rows differ: kind and names of the head come from RowSel.
+    // While a drag is under way the two rows differ. The kind of customer, the nickname or trade name and the
+    // user of the last change come from RowSel, all else from Row.
     const auto naSelecao = [&](Long coluna) { return grade.TextMatrix(grade.RowSel(), coluna); };
     const auto naLinha = [&](Long coluna) { return grade.TextMatrix(grade.Row(), coluna); };
 
-    // 1. A company has a trade name and a company name, a person a nickname and a name.
+    // A company has a trade name and a company name, a person a nickname and a name.
     const bool ehEmpresa = naSelecao(colunas::TipoDeCliente) == "PJ";
     lblTitulo_ApelidoOuNomeFantasiaDoCliente.Caption(ehEmpresa ? "Nome fantasia:" : "Apelido:");
     lblTitulo_NomeOuRazaoSocialDoCliente.Caption(ehEmpresa ? "Razão Social:" : "Nome:");
 
-    // 2. The cells as they stand.
+    // The cells as they stand.
     lblApelidoOuNomeFantasiaDoCliente.Caption(naSelecao(colunas::ApelidoOuNomeFantasiaDoCliente));
     lblNomeOuRazaoSocialDoCliente.Caption(naLinha(colunas::NomeOuRazaoSocialDoCliente));
     lblComunicacaoDoCliente.Caption(naLinha(colunas::TiposECanaisDeComunicacao));
@@ -85,7 +86,7 @@ void frmLista::PreencherRotulosDoPainel(const MSFlexGrid& grade)
     lblTransporteLevar.Caption(naLinha(colunas::TransporteLevar));
     lblObservacaoDoAgendamento.Caption(naLinha(colunas::Observacao));
 
-    // 3. Who wrote the appointment last.
+    // Who wrote the appointment last.
     Text momento;
     if (Trim(naSelecao(colunas::UsuarioDaAlteracao)).empty()) {
         lblTitulo_IncluidoOuAlteradoPor.Caption("Incluído por:");
@@ -97,7 +98,7 @@ void frmLista::PreencherRotulosDoPainel(const MSFlexGrid& grade)
         momento = naLinha(colunas::DataEHoraDaAlteracao);
     }
 
-    // 4. And at what time.
+    // And at what time.
     lblIncluidoOuAlteradoPor.Caption(lblIncluidoOuAlteradoPor.Caption() + " às " + HoraDoMomento(momento));
 }
 

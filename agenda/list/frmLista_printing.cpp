@@ -69,19 +69,19 @@ void frmLista::mnuImprimirListaDeAgendamentosParaTransporte_Click()
 
 void frmLista::AbrirImpressaoDaLista(Integer Tipo, Integer& Ponto)
 {
-    // 1. What is on the screen decides, whatever other filters would find.
+    // What is on the screen decides, whatever other filters would find.
     Ponto = 1;
     if (ResultadoDaSelecao()->RecordCount() == 0) {
         ExibirInformacao("Nenhum agendamento encontrado para impressão.");
         return;
     }
 
-    // 2. Also under a filter: this becomes the page to come back to.
+    // Also under a filter: this becomes the page to come back to.
     Ponto = 2;
     PaginaSalva = Checked(ResultadoDaSelecao()->AbsolutePage());
     AbrirDialogoDeImpressao(Tipo, Ponto);
 
-    // 8. The list is fresh on the same page, also where nothing was printed.
+    // The list is fresh on the same page, also where nothing was printed.
     Ponto = 9;
     if (GerarLista() == 0) {
         Ponto = 10;
@@ -92,7 +92,7 @@ void frmLista::AbrirImpressaoDaLista(Integer Tipo, Integer& Ponto)
 
 void frmLista::AbrirDialogoDeImpressao(Integer Tipo, Integer& Ponto)
 {
-    // 3. The dialog's one instance is made at its first use and goes when it is closed.
+    // The dialog's one instance is made at its first use and goes when it is closed.
     Ponto = 3;
     auto& instancia = Principal.ImprimirAgendaImplicita;
     if (!instancia)
@@ -101,7 +101,7 @@ void frmLista::AbrirDialogoDeImpressao(Integer Tipo, Integer& Ponto)
     dialogo->TipoDaListaASerImpressa(Tipo);
     dialogo->Formulario->Load();
 
-    // 4. The filters' rows go over, with what is chosen in them.
+    // The filters' rows go over, with what is chosen in them.
     Ponto = 4;
     CopiarFiltro(kvcmbSituacao, dialogo->kvcmbSituacao);
     Ponto = 5;
@@ -109,13 +109,11 @@ void frmLista::AbrirDialogoDeImpressao(Integer Tipo, Integer& Ponto)
     Ponto = 6;
     CopiarFiltro(kvcmbFuncionarios, dialogo->kvcmbFuncionarios);
 
-    // 5. and 6.
     Ponto = 7;
     Formulario->Refresh();
     if (Tipo == tipo_da_lista::Transporte)
         dialogo->kvTheme.Caption("Imprimir lista para transporte");
 
-    // 7.
     Ponto = 8;
     dialogo->MontarExibirFormulario();
 }

@@ -176,7 +176,7 @@ void frmLista::kvcmdExcluir_Click()
 
 void frmLista::AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Integer& Ponto)
 {
-    // 1. No hover moves the row while the command runs. A row without a registered customer is a
+    // No hover moves the row while the command runs. A row without a registered customer is a
     // simplified appointment.
     Ponto = 1;
     msfgGrade.Enabled(false);
@@ -184,7 +184,7 @@ void frmLista::AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Intege
     const FichaDaLista ficha = CriarFicha(simplificado);
     ficha.Formulario->Load();
 
-    // 2. The filters' rows go over to the form.
+    // The filters' rows go over to the form.
     Ponto = 2;
     CopiarSituacoes(ficha.kvcmbSituacao, simplificado ? UltimaSituacaoSemPreVenda() : UltimaSituacao());
 
@@ -199,14 +199,13 @@ void frmLista::AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Intege
     Ponto = 7;
     CopiarFuncionarios(ficha.kvcmbFuncionarios, Ponto);
 
-    // 3. The form reads the row itself and runs until it is closed.
+    // The form reads the row itself and runs until it is closed.
     Ponto = 9;
     ficha.MontarExibirFormulario(Operacao);
 
-    // 4.
     msfgGrade.Enabled(true);
 
-    // 5. The list is fresh where something was written.
+    // The list is fresh where something was written.
     Ponto = 10;
     if (ficha.Estado.OperacaoConcluida) {
         Ponto = 11;
@@ -215,7 +214,6 @@ void frmLista::AbrirFichaDaLinha(Integer Operacao, Integer ModoDaRecarga, Intege
         AtualizarObjetos(ModoDaRecarga);
     }
 
-    // 6.
     Ponto = 13;
     ficha.Formulario->Unload();
 }

@@ -58,17 +58,17 @@ Text frmLista::MotivoParaNaoGerarPreVenda()
 
 void frmLista::MarcarAgendamento(Integer SituacaoNova, Integer& Ponto)
 {
-    // 1. No hover moves the row while the command runs.
+    // No hover moves the row while the command runs.
     Ponto = 1;
     msfgGrade.Enabled(false);
 
-    // 2. The row has that status already.
+    // The row has that status already.
     if (NumeroDaCelula(colunas::Situacao) == SituacaoNova) {
         msfgGrade.Enabled(true);
         return;
     }
 
-    // 3. A pre-sale needs a service of the shop and a registered customer.
+    // A pre-sale needs a service of the shop and a registered customer.
     Ponto = 2;
     if (SituacaoNova == situacao::AtendidoEGeradoPreVenda) {
         const Text motivo = MotivoParaNaoGerarPreVenda();
@@ -79,23 +79,23 @@ void frmLista::MarcarAgendamento(Integer SituacaoNova, Integer& Ponto)
         }
     }
 
-    // 4. The write.
+    // The write.
     const Long linha = msfgGrade.RowSel();
     const Integer situacaoAtual = RoundToInteger(NumeroDaCelula(colunas::Situacao));
     const bool alterado = AlterarSituacaoDoAgendamento(SituacaoNova, situacaoAtual);
 
-    // 5. and 6. A failed write is told, and the command goes on.
+    // A failed write is told, and the command goes on.
     msfgGrade.Enabled(true);
     if (!alterado)
         ExibirInformacao("Não foi possível alterar a situação do agendamento - Tente novamente mais tarde.");
 
-    // 7. The list is fresh on the same page.
+    // The list is fresh on the same page.
     Ponto = 3;
     GerarLista();
     Ponto = 4;
     AtualizarObjetos(5);
 
-    // 8. The same row number is selected again, whatever appointment it now holds.
+    // The same row number is selected again, whatever appointment it now holds.
     Ponto = 5;
     msfgGrade.RowSel(linha);
     msfgGrade.SelectionMode(1);

@@ -77,7 +77,7 @@ Integer frmImprimirAgenda::MontarExibirFormulario()
 void frmImprimirAgenda::PreencherComboBoxDeTransporte()
 {
     Integer Ponto = 0;
-    // The tag names another form; it is fixed so.
+    // Another procedure's tag, on purpose.
     Trap(", frmLista, PreencherComboBoxDeTransporte, Ponto: ", Ponto, [&] {
         Ponto = 1;
         kvcmbTransporte.Clear();
@@ -115,7 +115,7 @@ void frmImprimirAgenda::kvcmdVisualizarImpressao_Click()
 void frmImprimirAgenda::kvcmdCancelar_Click()
 {
     Integer Ponto = 0;
-    // The tag names another form; it is fixed so.
+    // Another procedure's tag, on purpose.
     Trap(", frmFicha, kvcmdCancelar_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
         Formulario->Unload();

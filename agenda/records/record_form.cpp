@@ -202,7 +202,7 @@ Text CarimboDeAlteracao(const Text& carimbo)
 
 void PreencherTerminoDoServico(const CamposDoHorario& campos)
 {
-    // 1. Both must be complete; what is impossible, saving refuses with a message of its own.
+    // Both must be complete; what is impossible, saving refuses with a message of its own.
     const Text textoDaHora = campos.kvtimHoraInicial.Text();
     const Text textoDaData = campos.kvdtpDataInicial.Text();
     if (Contem(textoDaHora, '_') || Contem(textoDaData, '_'))
@@ -212,13 +212,13 @@ void PreencherTerminoDoServico(const CamposDoHorario& campos)
     if (!hora || !data)
         return;
 
-    // 2. A start that has passed is asked about.
+    // A start that has passed is asked about.
     if (!HoraInicialConfirmada(*data, *hora)) {
         campos.kvtimHoraInicial.SetFocus();
         return;
     }
 
-    // 3. Without a duration the service ends on the day it starts, and the end time stays.
+    // Without a duration the service ends on the day it starts, and the end time stays.
     const Text tempo = campos.kvtxtTempoDoServico.Text();
     const Integer minutos = MinutosDoServico(tempo);
     if (minutos == 0) {
@@ -226,7 +226,7 @@ void PreencherTerminoDoServico(const CamposDoHorario& campos)
         return;
     }
 
-    // 4. A service that passes midnight ends on the next day.
+    // A service that passes midnight ends on the next day.
     const TimeOfDay duracao = RequireTime(tempo);
     const Long minutosDaDuracao = duracao.hour * 60L + duracao.minute;
     campos.kvtimHoraFinal.Text(FormatTime(AddMinutes({*data, *hora}, minutosDaDuracao).time));

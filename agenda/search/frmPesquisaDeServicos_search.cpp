@@ -54,7 +54,7 @@ bool frmPesquisaDeServicos::PesquisarServico()
 void frmPesquisaDeServicos::kvfndCodigoOuNome_Click()
 {
     Integer Ponto = 0;
-    // The tag names the list; it is fixed so.
+    // Another procedure's tag, on purpose: the list's.
     Trap(", frmLista, kvfndCodigoOuNome_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ConfigurarGrade();

@@ -87,7 +87,7 @@ void frmMensagem::Form_Load()
 void frmMensagem::ArredondarCantosDoObjeto(Long& Janela, std::uint8_t& Raio)
 {
     Integer Ponto = 0;
-    // The tag names the procedure that shows the window; it is fixed so.
+    // Another procedure's tag, on purpose: that of the one that shows the window.
     Trap(", frmMensagem, MontarExibirFormulario, Ponto: ", Ponto, [&] {
         Ponto = 1;
         ThePlatform().Toolkit().SetRoundRectRegion(Janela, Raio, Raio);

@@ -7,12 +7,12 @@ namespace kova::agenda {
 
 void MensagemDeErro(Value Numero, Value Descricao, Value Local)
 {
-    // 1. The error screen is created for this report alone.
+    // The error screen is created for this report alone.
     const ComponentRef objMensagem = CreateObject("KOVA_A_MsgErro.clsMensagem");
-    // 2. It shows the report until the user closes it.
+    // It shows the report until the user closes it.
     objMensagem->Call("Exibir",
                       {ByRef(Numero), ByRef(Descricao), ByRef(Local), ByRef(Principal.NomeDaAplicacao)});
-    // 3. The object is released at the end of this block.
+    // The object is released at the end of this block.
 }
 
 void MensagemDeErroDoObjeto(Component& objeto)

@@ -59,7 +59,7 @@ void frmFichaSimplificada::ExibirOcultarpicMensagem(bool Exibir)
 void frmFichaSimplificada::MontarExibirFormulario(Integer Operacao)
 {
     Integer Ponto = 0;
-    // The tag names the full record's form; it is fixed so.
+    // Another procedure's tag, on purpose: the full record's.
     Trap(", frmFichaCompleta, MontarExibirFormulario, Ponto: ", Ponto, [&] {
         Ponto = 1;
         Estado.TipoDeOperacao = Operacao;
@@ -149,7 +149,8 @@ void frmFichaSimplificada::MontarOperacao()
         EscreverBotao(kvcmdCancelarAlterar, "Alterar", "Alterar dados");
         break;
     case operacao::Alterar:
-        // This title and the next one speak of the full record; they are fixed so.
+        // This title and the next one say "completo", as the full record's do: texts that users know stay
+        // letter for letter.
         kvTheme.Caption("Alterar agendamento completo");
         HabilitarCamposDeEdicao(*Formulario, true, CaixasDePesquisa::Ficam);
         if (Formulario->Visible())

@@ -78,7 +78,7 @@ void frmFichaSimplificada::PreencherComboboxRacasDeAnimais(Double codigoDaEspeci
 void frmFichaSimplificada::PreencherkvcmbSexo()
 {
     Integer Ponto = 0;
-    // The tag names a form of another module; it is fixed so.
+    // Another procedure's tag, on purpose: that of a form in another module.
     Trap(", frmFichaDeClientesEAnimais, PreencherkvcmbSexo, Ponto: ", Ponto, [&] {
         Ponto = 1;
         kvcmbSexoDoAnimal.Clear();

@@ -114,7 +114,7 @@ void frmFichaSimplificada::InformarCampoRecusado(Component& agenda)
 void frmFichaSimplificada::kvcmdCancelarAlterar_Click()
 {
     Integer Ponto = 0;
-    // The tag names the full record's form; it is fixed so.
+    // Another procedure's tag, on purpose: the full record's.
     Trap(", frmFichaCompleta, kvcmdCancelarAlterar_Click, Ponto: ", Ponto, [&] {
         Ponto = 1;
         RestaurarCorDosRotulos(*Formulario);
