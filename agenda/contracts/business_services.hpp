@@ -19,7 +19,7 @@ public:
     const Value& Get() const { return value_; }
     bool IsByReference() const { return static_cast<bool>(assign_); }
 
-    /// Writes the caller's variable, converted to the variable's type (failures 6, 13, 94). On an
+    /// Writes the caller's variable, converted to the variable's type (failures 6, 13, 91, 94). On an
     /// argument by value it changes nothing for the caller, as a callee's own copy would.
     void Assign(const Value& value);
 
@@ -116,7 +116,7 @@ public:
     virtual Long PageCount() const = 0;
     /// Page of the current row, from 1; 0 on an empty record set, -2 at Bof, -3 at Eof. Writing it
     /// moves to the first row of the page and fails with 3001 outside 1 to PageCount, with 3021 on an
-    /// empty record set.
+    /// empty record set; the selection of a day's appointments takes the nearest page instead of 3001.
     virtual Long AbsolutePage() const = 0;
     virtual void AbsolutePage(Long page) = 0;
     /// Number of the current row, from 1; -1 on an empty record set, -2 at Bof, -3 at Eof.

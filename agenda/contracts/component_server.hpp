@@ -12,13 +12,15 @@
 ///
 ///   int32_t KovaAttachHost(kova::ServerHost* host);
 ///       Hands over the host before anything else is called. A null pointer detaches. Answers Ok, or
-///       Refused while objects live.
+///       Refused while objects live or what they have put on the screen, unless that host is attached
+///       already.
 ///   int32_t DllGetClassObject(const char* classId, kova::ClassFactory** factory);
 ///       The factory of the class with that identifier. `*factory` is null on any failure:
 ///       ClassNotAvailable for an unknown identifier, InvalidArgument for a null pointer. The factory
 ///       belongs to the library.
 ///   int32_t DllCanUnloadNow();
-///       Ok where no object of the library lives and nobody locks it, else Busy.
+///       Ok where no object of the library lives, nothing of it is on the screen and nobody locks it, else
+///       Busy.
 ///   int32_t DllRegisterServer();
 ///       Writes the library's classes through ServerHost::Register. Ok, or RegistrationFailed.
 ///   int32_t DllUnregisterServer();

@@ -51,7 +51,7 @@ int DaysOfMonth(int year, int month);
 std::optional<Date> ParseDate(std::string_view text);
 /// Reads "hh:mm" or "hh:mm:ss"; the hour may have one digit. Nothing where the text is no such time.
 std::optional<TimeOfDay> ParseTime(std::string_view text);
-/// Reads "dd/mm/yyyy", "hh:mm" or "dd/mm/yyyy hh:mm[:ss]"; a missing half is day 0 or midnight.
+/// Reads "dd/mm/yyyy", "hh:mm[:ss]" or both with a blank between; a missing half is day 0 or midnight.
 std::optional<DateTime> ParseDateTime(std::string_view text);
 
 /// The same readings for a procedure that cannot go on without one: fail with 13.

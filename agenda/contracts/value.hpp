@@ -81,8 +81,8 @@ public:
     /// Numbers read with a decimal comma and no thousands mark; True is "Verdadeiro".
     Text ToText() const;
 
-    /// The object itself. Fails with 91 where no object is held (Empty, a dropped reference) and with
-    /// 13 where the value is of another type or the object of another class.
+    /// The object itself. Fails with 91 where no object is held (Empty, a dropped reference), with 94 on Null
+    /// and with 13 where the value is of another type or the object of another class.
     ObjectRef ToObject() const;
     template <class T> std::shared_ptr<T> ToObject() const
     {

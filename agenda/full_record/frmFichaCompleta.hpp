@@ -116,7 +116,7 @@ public:
     bool DomingoOuFeriado = false;
     /// The dates and times picked by hand; null until some were.
     ArrayRef ListaDasDatasEHorasSelecionadas;
-    /// The form's height while the date selection is open.
+    /// The height that the form gets back after the date selection.
     Integer AlturaDoFormulario = 0;
 
 private:
@@ -177,7 +177,8 @@ private:
     void kvfEnderecoDoCliente_KeyDown();
 
     // Animal.
-    /// 0 where the combo was filled; 1 where the customer has no animal or the call failed.
+    /// 1 where the customer has no animal or the call failed; 0 where the combo was filled, but also after a
+    /// reported failure.
     Integer PreencherComboboxAnimal(Double Codigo);
     bool PesquisarAnimal(const Text& Nome);
     void ExibirAnimal(const RecordSet& registros);
@@ -215,7 +216,8 @@ private:
     void kvcmbReagendar_Click();
     void kvcmbReagendarPor_Click();
     void kvnumNumeroDeSemanas_KeyPress(Integer& KeyAscii);
-    /// 1 where something is missing, 0 when all is there.
+    /// 1 where something is missing; 0 when all is there, but also after a failure that was reported before
+    /// anything was found missing.
     Integer ValidarCampos();
 
     // Confirming.

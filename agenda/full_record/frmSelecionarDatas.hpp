@@ -60,7 +60,7 @@ private:
     void kvcmdSalvarFecharConfirmar_Click();
     void kvcmdCancelar_Click();
 
-    /// 1 when the form must stay open, else 0.
+    /// 1 when the form must stay open, else 0: also after a reported failure.
     Integer ValidarCampos();
     /// The rows with a date, checked in order; a row that must be mended ends the walk.
     bool LinhasValidas(bool& existeData, Integer& Ponto);
@@ -72,7 +72,7 @@ private:
     bool PesquisarFeridado(const Text& Data);
     bool DataVazia(std::size_t linha) const;
 
-    /// Makes the table. 1 on a failure, else 0.
+    /// Makes the table. 1 after a reported failure, which keeps the form open, else 0.
     Integer PreencherListaDasDatasEHorasSelecionadas_Click();
     bool LinhaPreenchida(std::size_t linha) const;
     void PreencherElemento(Array& lista, Long elemento, std::size_t linha) const;

@@ -25,16 +25,21 @@ public:
     /// A new list, hidden, on the toolkit of the host. It lives until its form is unloaded.
     static std::shared_ptr<frmLista> Criar();
 
-    /// Builds the whole list inside the container and shows it. 1 where it failed, 0 when done.
+    /// Builds the whole list inside the container and shows it. 1 where a filter could not be filled or the
+    /// first selection failed; 0 when done, but also after a reported failure.
     Integer MontarExibirFormulario(Long HandleDoContainer);
-    /// 1 where it failed, 0 when done.
+    /// Gives the grid its look and its columns; it is hidden then, and its rows are gone. Answers 0, also
+    /// after a reported failure.
     Integer ConfigurarGrade();
-    /// Runs a new selection with all filters. 1 where the selection failed, 0 when done.
+    /// Runs a new selection with all filters. 1 where the business tier says that it failed; 0 when done, but
+    /// also after a reported failure.
     Integer GerarLista();
-    /// Shows a page and the numbers of the bar. Modo: 1 first, 2 previous, 3 next, 4 last page; any
-    /// other value keeps the page.
+    /// Shows the page PaginaAtual and the numbers of the bar. Modo says how the page was reached, by which
+    /// the numbers are worked out: 1 first, 2 previous, 3 next, 4 last page; any other value works them out
+    /// from PaginaAtual.
     void AtualizarObjetos(Integer Modo);
-    /// Writes the appointment of the current row into the panel and lets its labels flow.
+    /// Writes the appointment of the current row into the panel and lets its labels flow. The row is that of
+    /// the list in FormularioDaLista.
     void AtualizarPainel();
     void ExibirOuOcultarPainel(bool& Exibir);
     /// The wait plate: true shows it and waits one second, false hides it.
@@ -158,7 +163,8 @@ public:
     bool IgnorarClickDoPainel = false;
     /// A status is chosen or a search is in force.
     bool ListaFiltrada = false;
-    /// Page of the unfiltered list to come back to; 0 until a filter was first entered.
+    /// Page to come back to once no filter is in force; 0 until entering a filter, a reload or printing has
+    /// set it. Printing sets it also under a filter.
     Integer PaginaSalva = 0;
 
 private:
@@ -167,6 +173,8 @@ private:
     void AoDescarregar();
 
     void PreencherComboBoxDeSituacao();
+    /// 1 where the call failed or there are no rows, of which the user is told; 0 when filled, but also after
+    /// a reported failure. The same for the next one.
     Integer PreencherComboboxTiposDeServicos();
     Integer PreencherComboboxFuncionarios();
     void PreencherDicasDosBotoes();
@@ -177,6 +185,7 @@ private:
     void ExibirListaVazia();
     void PreencherBarraDeNavegacao(Integer Modo, Long total, Integer& Ponto);
 
+    /// Answers 0, also after a reported failure.
     Integer PreencherGrade();
     void PreencherLinha(Long linha, const RecordSet& pagina);
     /// None for a number that no status has, however large.
@@ -237,7 +246,8 @@ private:
     void kvcmdImprimirFicha_Click();
     void mnuImprimirFichaDoAgendamentoParaTransporte_Click();
     void mnuImprimirFichaDoAgendamentoParaInspecaoDoAnimal_Click();
-    /// 1 where it gave up, 0 when it ran to its end.
+    /// 1 where the company could not be selected; 0 when the preview was closed, but also after a reported
+    /// failure. The same for the next one.
     Integer ImprimirFichaDoAgendamentoParaTransporte();
     Integer ImprimirFichaDoAgendamentoParaInspecaoDoAnimal();
     Integer ImprimirFicha(const FichaImpressa& ficha, Integer& Ponto);

@@ -38,7 +38,7 @@ FichaImpressa FichaParaTransporte();
 FichaImpressa FichaParaInspecaoDoAnimal();
 
 /// One record with the card's fields, filled from the grid's current row. Fails with -2147217887 where a
-/// code is no number and may not be blank.
+/// code is no number; a blank one passes on a card that accepts it.
 RecordSetRef MontarRegistroDaFicha(const FichaImpressa& ficha, const MSFlexGrid& grade);
 
 /// Ties the card's boxes to the fields of its record.

@@ -53,7 +53,8 @@ private:
     /// 0: nothing here can be wrong.
     Integer ValidarCampos();
 
-    /// 1 where it gave up, 0 when it ran to its end.
+    /// 1 where company or appointments could not be selected; 0 when the preview was closed, but also where
+    /// there is nothing to print and after a reported failure.
     Integer ImprimirLista();
     void ImprimirAgendamentos(const RecordSetRef& agendamentos, const RecordSet& empresa, Integer& Ponto);
     Text Subtitulo() const;

@@ -4,12 +4,12 @@
 
 namespace kova::agenda {
 
-// The four report layouts: sections, controls, places, texts. Captions of company, title, subtitle and
-// application are placeholders that printing replaces.
+// The four report layouts: sections, controls, places, texts. Printing replaces the captions of company and
+// application, and of the lists also those of title and subtitle: these are placeholders.
 
 /// The day's appointments, three lines each.
 const ReportDesign& DesenhoDedrListaDeAgendamentos();
-/// The same for the driver: with address and codes, without the employee.
+/// The same for the driver, four lines each: with address and codes, without the employee.
 const ReportDesign& DesenhoDedrListaDeAgendamentosParaTransporte();
 /// One appointment on a page.
 const ReportDesign& DesenhoDedrFichaDoAgendamentoParaTransporte();

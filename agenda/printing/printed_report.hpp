@@ -31,8 +31,8 @@ ReportRef InstanciaDoRelatorio(ReportRef& instancia, const ReportDesign& desenho
 /// Ties the text boxes of the details to their fields.
 void Vincular(Report& relatorio, std::span<const Vinculo> vinculos);
 
-// The preview leaves a report as designed, so the window and the paper are set anew for every one: each kind
-// of report in an order of its own, which is fixed so.
+// The preview leaves a report as designed, so the window and the paper are set anew for every one. Lists and
+// cards write them in different orders, which a toolkit sees and a transcript shows: neither order changes.
 
 /// The application's name at the foot of each page.
 void EscreverNomeDoAplicativo(Report& relatorio);

@@ -14,7 +14,8 @@ namespace kova::agenda {
 struct EstadoDaFicha {
     /// The operation that the form is in; see `operacao`.
     Integer TipoDeOperacao = 0;
-    /// Whether the business tier stored the change, or the user closed a detail view.
+    /// Whether the business tier stored the change, or the user closed a detail view. A change that the user
+    /// confirmed for a Sunday or holiday counts as stored: the second answer is not looked at.
     bool OperacaoConcluida = false;
     /// The appointment's key, 0 on adding.
     Double NumeroDeLancamento = 0;
@@ -83,11 +84,12 @@ void EsvaziarCaixasDePesquisa(KVFind& origem, KVFind& outra);
 
 /// What becomes of the search boxes when the fields are switched.
 enum class CaixasDePesquisa { Ficam, EsperamPesquisa };
-/// Walks all controls and switches the boxes and combos; a search box may be emptied and wait for a search.
+/// Walks all controls and switches the combos and the boxes of texts, dates, times and searches, but not
+/// those of numbers; a search box may be emptied and wait for a search.
 void HabilitarCamposDeEdicao(Form& formulario, bool habilitar, CaixasDePesquisa caixas);
 
-/// "Código N | Incluído em dd/mm/yyyy" from the first ten characters of a stamp; a record about to be
-/// deleted has a colon and doubled blanks in it. `carimbo` is the grid's cell.
+/// "Código N | Incluído em dd/mm/yyyy"; a record about to be deleted has a colon and doubled blanks in it.
+/// `carimbo` is the grid's cell; one that is no date and time stands there as it is.
 Text CarimboDeInclusao(Double numeroDeLancamento, const Text& carimbo, Integer tipoDeOperacao);
 /// "Alterado em dd/mm/yyyy"; empty where the cell is blank.
 Text CarimboDeAlteracao(const Text& carimbo);
@@ -101,8 +103,9 @@ struct CamposDoHorario {
     KVTextBox& kvtxtTempoDoServico;
 };
 /// The start time lost the focus: asks about a time that has passed and fills the end from the start and the
-/// duration. Does nothing where date or time is half-typed, empty or impossible; saving tells of it. Fails
-/// with 13 where the duration cannot be read as a time.
+/// duration; without a duration only the end's date, which is the start's. Does nothing where date or time is
+/// half-typed, empty or impossible; saving tells of it. Fails with 13 where there is a duration that cannot
+/// be read as a time.
 void PreencherTerminoDoServico(const CamposDoHorario& campos);
 
 } // namespace kova::agenda

@@ -30,7 +30,8 @@ ControlDesign CampoDeTexto(const char* nome, Twips esquerda, Twips linha, Twips 
 ControlDesign CampoSomenteLeitura(const char* nome, Twips esquerda, Twips linha, Twips largura, int limite);
 /// A box whose caption names another one too.
 ControlDesign ComNomeAcessivel(ControlDesign campo, const char* nome);
-/// The legend of required fields and the two buttons. Escape presses the second, Ctrl+S the first.
+/// The legend of required fields and the two buttons. Ctrl+S presses the first; Escape presses the second,
+/// but in a detail view the first, which leaves there.
 std::vector<ControlDesign> RodapeDaFicha(Twips topo);
 
 } // namespace kova::agenda

@@ -16,11 +16,11 @@ public:
     /// A new dialog, not yet loaded.
     static std::shared_ptr<frmPesquisaDeClientes> Criar();
 
-    /// Loads the dialog where it is not, and empties and hides the grid: one row, all columns. 1 where it
-    /// failed, 0 when done.
+    /// Loads the dialog where it is not, and empties and hides the grid: one row, all columns. Answers 0,
+    /// also after a reported failure.
     Integer ConfigurarGrade();
     /// Fills in the customers found, from the first record on. The grid stays hidden: showing the dialog
-    /// shows it. 1 where it failed, 0 when done.
+    /// shows it. Answers 0, also after a reported failure.
     Integer PreencherGrade(RecordSet& registros);
     /// Brings the wait plate to the front, in the middle.
     void CentralizarpicMensagem();

@@ -18,10 +18,10 @@ public:
     /// A new dialog, not yet loaded.
     static std::shared_ptr<frmPesquisaDeServicos> Criar();
 
-    /// Loads the dialog where it is not, and empties and hides the grid: one row, all columns. 1 where it
-    /// failed, 0 when done.
+    /// Loads the dialog where it is not, and empties and hides the grid: one row, all columns. Answers 0,
+    /// also after a reported failure.
     Integer ConfigurarGrade();
-    /// Shows the services found, from the first record on. 1 where it failed, 0 when done.
+    /// Shows the services found, from the first record on. Answers 0, also after a reported failure.
     Integer PreencherGrade(RecordSet& registros);
     /// Brings the wait plate to the front, in the middle.
     void CentralizarpicMensagem();

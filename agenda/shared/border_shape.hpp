@@ -12,8 +12,8 @@ bool SistemaTemCantosRetos();
 /// run time.
 void AdicionarMoldura(Form& formulario);
 
-/// What Form_Load of the record, date and search forms does about their border: the frame, on the system of
-/// square corners only. Failures go up to the caller.
+/// What Form_Load of the record, date, search and print forms does about their border: the frame, on the
+/// system of square corners only. Failures go up to the caller.
 void AplicarBordaDoFormulario(Form& formulario);
 
 } // namespace kova::agenda

@@ -17,8 +17,8 @@ public:
     frmMensagem(const frmMensagem&) = delete;
     frmMensagem& operator=(const frmMensagem&) = delete;
 
-    /// Fits the window to its text, shows it without blocking and waits one second. 1 where it failed, 0
-    /// when done.
+    /// Fits the window to its text, shows it without blocking and waits one second. Answers 0, also after a
+    /// reported failure.
     Integer MontarExibirFormulario();
     /// Waits that many seconds with the screen alive.
     void Pausar(Double Segundos);

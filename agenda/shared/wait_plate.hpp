@@ -6,7 +6,7 @@
 
 namespace kova::agenda {
 
-/// The wait plate "picMensagem" and its line of text, as every form designs it: hidden.
+/// The wait plate "picMensagem" and its line of text, as every form that has one designs it: hidden.
 std::vector<ControlDesign> DesenhoDaPlacaDeEspera();
 
 /// Brings the plate to the front, in the middle of the form's inner area.

@@ -7,8 +7,9 @@
 
 namespace kova::agenda {
 
-/// The appointment of a customer who is not registered: customer and animal are typed in as plain text, only
-/// service, employee and situation come from the registers.
+/// The appointment of a customer who is not registered: customer and animal are stored as plain text, for
+/// which the registers only offer names of species and breeds. Service and employee are those of the
+/// registers.
 ///
 /// Its procedures lie by concern: frmFichaSimplificada.cpp opens it, frmFichaSimplificada_animal.cpp fills
 /// the animal's combos, frmFichaSimplificada_service.cpp looks up services and works out the end,

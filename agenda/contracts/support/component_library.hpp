@@ -76,6 +76,7 @@ public:
 
     /// Null where none is attached.
     ServerHost* Host() const { return host_; }
+    /// Copies of Hold count too.
     long LiveObjects() const { return live_; }
 
 private:

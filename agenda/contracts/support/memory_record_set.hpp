@@ -17,7 +17,7 @@ enum class FieldType {
 };
 
 /// A record set in memory, filled by its owner. Made closed: fields are appended, then it is opened.
-/// Every other use of a closed one fails with 3704.
+/// Every use of the rows of a closed one fails with 3704.
 class MemoryRecordSet : public PagedRecordSet {
 public:
     MemoryRecordSet() = default;

@@ -114,12 +114,15 @@ public:
     virtual bool Redraw() const = 0;
     virtual void Redraw(bool) = 0;
 
-    /// The user clicked a cell, which is current then. A click in a fixed row leaves the cursor where
-    /// it is but sets Row 0 for the length of the event.
+    /// The user clicked a cell, which is current then, or pressed Enter on a row for which the design names
+    /// no button. A click in a fixed row leaves the cursor where it is but sets Row 0 for the length of the
+    /// event.
     virtual void OnClick(Handler) = 0;
     virtual void OnSelChange(Handler) = 0;
     /// Button 0 none, 1 left, 2 right; shift as a bit set; x and y in twips inside the grid. The arrow
-    /// keys come as a move to the middle of the row they reach.
+    /// keys come as a move to the middle of the row they reach. Where rows change under the mouse or under
+    /// the keys, or the mouse leaves, a move to -1, -1 comes first, then one to where the user is, if that is
+    /// a row.
     virtual void OnMouseMove(std::function<void(Integer button, Integer shift, Twips x, Twips y)>) = 0;
     virtual void OnLostFocus(Handler) = 0;
 };

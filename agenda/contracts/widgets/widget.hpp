@@ -87,8 +87,9 @@ public:
     virtual void Tag(const Text&) = 0;
 
     /// Moves the focus here. The widget that had it raises LostFocus inside the call, then this one
-    /// GotFocus. Does nothing where the widget, its container or its form is hidden or disabled, where
-    /// the kind takes no focus, and where the widget has the focus already.
+    /// GotFocus. Does nothing where the widget, its container or its form is hidden or disabled and where the
+    /// kind takes no focus. Where the widget has the focus already, no event is raised. A box selects its
+    /// text, then too.
     virtual void SetFocus() = 0;
     /// Puts the widget in front of its siblings.
     virtual void BringToFront() = 0;
