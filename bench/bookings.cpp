@@ -5,7 +5,7 @@
 #include "bench/booking_host.hpp"
 #include "bench/desks.hpp"
 #include "bench/measure.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <iostream>
 #include <stdexcept>

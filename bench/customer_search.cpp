@@ -5,7 +5,7 @@
 #include "bench/measure.hpp"
 #include "family/business/registers/customers.hpp"
 #include "family/data/engine/fold_text.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <algorithm>
 #include <array>

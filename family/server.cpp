@@ -12,7 +12,7 @@
 #include "family/business/shop/company.hpp"
 #include "family/business/shop/store.hpp"
 #include "family/business/shop/system_version.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <soci/soci.h>
 

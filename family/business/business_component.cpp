@@ -1,7 +1,7 @@
 #include "family/business/business_component.hpp"
 
 #include "family/business/lent_record_sets.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 namespace kova::family {
 

@@ -1,7 +1,7 @@
 #include "family/demo/shop.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/data/stores/national_holidays.hpp"
 
 #include <algorithm>

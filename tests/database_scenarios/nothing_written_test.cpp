@@ -4,8 +4,8 @@
 #include "tests/database_scenarios/shop/known_shop.hpp"
 #include "tests/support/postgres_server.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/write_transaction.hpp"
+#include "family/data/sources/data_source.hpp"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include "family/business/appointments/appointment_fields.hpp"
 #include "family/business/appointments/appointment_writes.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/rows/find_by_key.hpp"
+#include "family/data/sources/data_source.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "family/data/checks/rule_check.hpp"
 #include "family/data/checks/store_check.hpp"
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
 

@@ -1,5 +1,5 @@
 #include "family/data/engine/snapshot.hpp"
-#include "family/data/migrations/newest_schema.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/csv/csv_options.hpp"
 #include "tools/agenda-data/csv/csv_writer.hpp"

@@ -1,6 +1,6 @@
 #include "family/business/appointments/appointment_history.hpp"
 
-#include "family/data/migrations/newest_schema.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 namespace kova::data {

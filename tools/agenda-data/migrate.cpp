@@ -1,4 +1,5 @@
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/file_source.hpp"
 #include "system/path_text.hpp"
 #include "tools/agenda-data/commands.hpp"
 

@@ -1,6 +1,6 @@
 #include "family/business/appointments/appointment_restoration.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "host/session/computer_user.hpp"
 #include "system/computer_name.hpp"
 #include "tools/agenda-data/commands.hpp"

@@ -2,8 +2,8 @@
 
 #include "agenda/contracts/platform.hpp"
 #include "family/business/shop/company_selection.hpp"
-#include "family/data/engine/data_source.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
 #include "family/demo/shop.hpp"
 
 namespace kova::family {

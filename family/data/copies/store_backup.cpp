@@ -3,9 +3,9 @@
 #include "family/data/copies/online_copy.hpp"
 #include "family/data/copies/store_copy.hpp"
 #include "family/data/copies/trial_restore.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/unfinished_file.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "system/path_text.hpp"
 #include "system/whole_file.hpp"
 

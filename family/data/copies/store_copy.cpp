@@ -2,11 +2,10 @@
 
 #include "family/data/copies/row_copy.hpp"
 #include "family/data/copies/trial_restore.hpp"
-#include "family/data/engine/data_source.hpp"
-#include "family/data/engine/file_source.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/unfinished_file.hpp"
-#include "family/data/migrations/newest_schema.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/file_source.hpp"
 
 namespace kova::family {
 

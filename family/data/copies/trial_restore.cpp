@@ -2,7 +2,7 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "family/data/copies/online_copy.hpp"
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "system/flush.hpp"
 
 #include <algorithm>

@@ -19,11 +19,8 @@ struct Migration {
     std::vector<std::string> (*statements)(const Dialect& dialect);
 };
 
+/// All steps from an empty database on, in order.
 using Migrations = std::span<const Migration>;
-
-/// Every step from an empty database to the schema this program works on, in order. They stand in
-/// migrations/.
-Migrations CurrentMigrations();
 
 /// The version the last step leads to.
 int NewestVersion(Migrations migrations);

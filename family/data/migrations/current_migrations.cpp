@@ -1,4 +1,5 @@
-#include "family/data/engine/migration.hpp"
+#include "family/data/migrations/current_migrations.hpp"
+
 #include "family/data/migrations/schemas.hpp"
 
 namespace kova::family {

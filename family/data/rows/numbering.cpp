@@ -15,6 +15,18 @@ long long Ask(Database& database, const std::string& question)
 
 } // namespace
 
+void NumberOn(Database& database)
+{
+    const std::string& statement = database.GetDialect().numberOn;
+    if (statement.empty())
+        return;
+    try {
+        database.Session() << statement;
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(database.Path(), cause);
+    }
+}
+
 long long LastNumber(Database& database, const StoredTable& table)
 {
     const std::string key = table.key, name = table.name;

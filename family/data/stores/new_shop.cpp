@@ -1,8 +1,8 @@
 #include "family/data/stores/new_shop.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/insert_new_row.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/data/stores/national_holidays.hpp"
 
 namespace kova::family {

@@ -1,6 +1,6 @@
 #include "tests/conformance/business/family_engine.hpp"
 
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "host/components/component_service.hpp"
 #include "host/components/server_host.hpp"
 #include "tests/conformance/business/shop_database.hpp"

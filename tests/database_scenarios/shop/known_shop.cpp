@@ -1,8 +1,8 @@
 #include "tests/database_scenarios/shop/known_shop.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/customer_store.hpp"
 #include "family/data/stores/national_holidays.hpp"

@@ -3,9 +3,9 @@
 
 #include "family/business/appointments/appointment_writes.hpp"
 #include "family/data/copies/row_copy.hpp"
-#include "family/data/engine/data_source.hpp"
-#include "family/data/engine/migration.hpp"
 #include "family/data/engine/server_connection.hpp"
+#include "family/data/migrations/current_migrations.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 #include <sstream>

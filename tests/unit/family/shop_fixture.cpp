@@ -1,11 +1,11 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/appointments/agenda.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/fold_text.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/people_rows.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/customer_store.hpp"
 #include "tests/support/data_places.hpp"

@@ -1,4 +1,4 @@
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "tests/unit/host/program_run.hpp"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "tools/agenda-data/csv/import_run.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/numbering.hpp"
 #include "system/computer_name.hpp"
 
 namespace kova::data {

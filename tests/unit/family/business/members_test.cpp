@@ -3,7 +3,7 @@
 #include "family/business/appointments/agenda.hpp"
 #include "family/business/registers/employees.hpp"
 #include "family/business/registers/service_types.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 namespace kova::family::test {
 

@@ -2,7 +2,7 @@
 
 #include "family/data/checks/documents.hpp"
 #include "family/data/checks/store_check.hpp"
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/demo/shop.hpp"
 
 #include <set>

@@ -1,6 +1,6 @@
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 namespace kova::data::test {

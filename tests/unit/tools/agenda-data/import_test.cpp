@@ -1,8 +1,8 @@
 #include "tests/support/small_files.hpp"
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/rows/insert_new_row.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 
 namespace kova::data::test {

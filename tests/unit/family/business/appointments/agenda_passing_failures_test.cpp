@@ -2,8 +2,8 @@
 
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/write_transaction.hpp"
+#include "family/data/sources/data_source.hpp"
 
 namespace kova::family::test {
 

@@ -2,7 +2,7 @@
 
 #include "family/business/appointments/appointment_history.hpp"
 #include "family/data/audit/audit_lines.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <algorithm>
 

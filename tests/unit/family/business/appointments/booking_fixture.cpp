@@ -1,7 +1,7 @@
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 namespace kova::family::test {
 

@@ -3,8 +3,8 @@
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
 #include "family/business/appointments/appointment_writes.hpp"
-#include "family/data/engine/data_source.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <sys/wait.h>
 #include <unistd.h>

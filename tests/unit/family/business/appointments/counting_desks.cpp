@@ -3,7 +3,7 @@
 #include "tests/unit/family/business/appointments/desk_fixture.hpp"
 #include "tests/unit/family/business/appointments/record_form.hpp"
 
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <sys/wait.h>
 #include <unistd.h>

@@ -1,9 +1,9 @@
 #include "tests/unit/family/business/appointments/desk_fixture.hpp"
 
-#include "family/data/engine/data_source.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/numbering.hpp"
 #include "family/data/rows/table_layouts.hpp"
+#include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 
 namespace kova::family::test {

@@ -3,8 +3,8 @@
 #include "tests/unit/family/business/appointments/desk_fixture.hpp"
 
 #include "family/business/appointments/status_change.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/write_transaction.hpp"
+#include "family/data/sources/data_source.hpp"
 
 #include <atomic>
 #include <thread>

@@ -5,9 +5,9 @@
 
 #include "agenda/contracts/date_time.hpp"
 #include "family/business/appointments/appointment_writes.hpp"
-#include "family/data/engine/data_source.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
 #include "family/demo/random.hpp"
 
 #include <poll.h>

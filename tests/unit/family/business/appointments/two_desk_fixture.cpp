@@ -4,9 +4,9 @@
 
 #include "family/business/appointments/appointment_fields.hpp"
 #include "family/business/appointments/status_change.hpp"
-#include "family/data/engine/data_source.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/find_by_key.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 namespace kova::family::test {
 

@@ -3,7 +3,7 @@
 #include "tests/unit/family/business/appointments/counting_desks.hpp"
 #include "tests/unit/family/business/appointments/two_desk_fixture.hpp"
 
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 namespace kova::family::test {
 

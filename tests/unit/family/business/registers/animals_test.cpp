@@ -2,9 +2,9 @@
 
 #include "family/business/registers/animals.hpp"
 #include "family/data/engine/fold_text.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/people_rows.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 namespace kova::family::test {
 

@@ -1,7 +1,7 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/registers/customers.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/customer_store.hpp"
 
 namespace kova::family::test {

@@ -1,8 +1,8 @@
 #include "tests/unit/family/business/appointments/desk_fixture.hpp"
 
 #include "family/business/registers/holidays.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/holiday_calendar.hpp"
 #include "family/data/stores/national_holidays.hpp"
 

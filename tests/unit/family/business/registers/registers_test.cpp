@@ -6,9 +6,9 @@
 #include "family/business/registers/species.hpp"
 #include "family/business/shop/company.hpp"
 #include "family/business/shop/system_version.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/rows.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 namespace kova::family::test {
 

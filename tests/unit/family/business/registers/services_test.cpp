@@ -3,9 +3,9 @@
 #include "family/business/registers/services.hpp"
 #include "family/business/shown_values.hpp"
 #include "family/data/engine/fold_text.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/rows.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 namespace kova::family::test {
 

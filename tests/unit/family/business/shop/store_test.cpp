@@ -3,9 +3,9 @@
 #include "family/business/appointments/agenda.hpp"
 #include "family/business/shop/store.hpp"
 #include "family/data/copies/daily_backup.hpp"
-#include "family/data/engine/data_source.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/engine/unfinished_file.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <thread>
 

@@ -1,8 +1,8 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/data/checks/rule_check.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 
 namespace kova::family::test {

@@ -1,9 +1,9 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/data/copies/daily_backup.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/sources/data_source.hpp"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/rows.hpp"
 #include "family/data/rows/table_layouts.hpp"
+#include "family/data/sources/data_source.hpp"
 
 namespace kova::family::test {
 

@@ -3,10 +3,11 @@
 
 #include "family/data/copies/store_backup.hpp"
 #include "family/data/copies/trial_restore.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/rows/insert_new_row.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/numbering.hpp"
+#include "family/data/sources/data_source.hpp"
 
 #include <sys/wait.h>
 #include <unistd.h>

@@ -3,11 +3,12 @@
 #include "family/data/audit/audit.hpp"
 #include "family/data/copies/row_copy.hpp"
 #include "family/data/copies/store_copy.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/insert_new_row.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/numbering.hpp"
 #include "family/data/rows/people_rows.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 
 namespace kova::family::test {

@@ -6,9 +6,9 @@
 
 #include "family/business/appointments/appointment_writes.hpp"
 #include "family/business/shop/company_selection.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/safe_write.hpp"
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <barrier>
 #include <thread>

@@ -1,11 +1,12 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/combo_selection.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/rows.hpp"
 #include "family/data/selections/customer_selection.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/file_source.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 
 namespace kova::family::test {

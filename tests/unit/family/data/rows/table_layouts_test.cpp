@@ -1,7 +1,7 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/rows/table_layouts.hpp"
+#include "family/data/sources/data_source.hpp"
 
 #include <set>
 

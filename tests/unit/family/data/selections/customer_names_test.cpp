@@ -1,10 +1,10 @@
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "agenda/contracts/text.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/selections/customer_selection.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/data/stores/customer_store.hpp"
 #include "family/demo/shop.hpp"
 

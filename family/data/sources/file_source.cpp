@@ -1,9 +1,9 @@
-#include "family/data/engine/file_source.hpp"
+#include "family/data/sources/file_source.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/file_checks.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/engine/write_transaction.hpp"
+#include "family/data/migrations/current_migrations.hpp"
 #include "system/flush.hpp"
 #include "system/path_text.hpp"
 
@@ -111,6 +111,11 @@ std::unique_ptr<Database> OpenFileForReading(const std::string& path)
     if (const auto refusal = CheckFileSource(path, CurrentMigrations()))
         throw DatabaseFailure(*refusal);
     return ConnectForReading(path);
+}
+
+std::string BackupName(const std::string& path, int version)
+{
+    return path + ".antes-da-versao-" + std::to_string(version) + ".bak";
 }
 
 std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migrations)

@@ -11,6 +11,8 @@ namespace kova::family {
 
 std::optional<std::string> CheckFileSource(const std::string& path, Migrations migrations);
 std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migrations);
+/// Name of the copy that OpenFile makes before a migration to that version.
+std::string BackupName(const std::string& path, int version);
 std::unique_ptr<Database> OpenFileForReading(const std::string& path);
 void CreateFile(const std::string& path, const std::function<void(Database&)>& fill);
 

@@ -1,8 +1,9 @@
-#include "family/data/engine/server_source.hpp"
+#include "family/data/sources/server_source.hpp"
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/write_transaction.hpp"
+#include "family/data/migrations/current_migrations.hpp"
+#include "family/data/rows/numbering.hpp"
 
 namespace kova::family {
 

@@ -1,7 +1,7 @@
 // A server that is reached by the network: the connection is protected by TLS, the user by a password.
 
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/database.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "tests/support/environment_variable.hpp"
 #include "tests/support/postgres_server.hpp"
 #include "tests/unit/family/shop_fixture.hpp"

@@ -1,6 +1,6 @@
-#include "family/data/engine/shared_database.hpp"
+#include "family/data/sources/shared_database.hpp"
 
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
 
 #include <map>
 

@@ -1,8 +1,8 @@
-#include "family/data/engine/data_source.hpp"
+#include "family/data/sources/data_source.hpp"
 
-#include "family/data/engine/file_source.hpp"
 #include "family/data/engine/server_connection.hpp"
-#include "family/data/engine/server_source.hpp"
+#include "family/data/sources/file_source.hpp"
+#include "family/data/sources/server_source.hpp"
 #include "system/path_text.hpp"
 
 namespace kova::family {
@@ -35,29 +35,21 @@ std::unique_ptr<Database> OpenForReading(const std::string& path)
     return IsServer(path) ? OpenOnServerForReading(path) : OpenFileForReading(path);
 }
 
+std::unique_ptr<Database> OpenNewestForReading(const std::string& path)
+{
+    std::unique_ptr<Database> database = OpenForReading(path);
+    if (const int version = VersionOf(*database); version != NewestVersion(CurrentMigrations()))
+        throw DatabaseFailure("O banco de dados \"" + path + "\" é da versão " + std::to_string(version)
+                              + ". Atualize-o com \"agenda-data migrate\" e tente novamente.");
+    return database;
+}
+
 void CreateDatabase(const std::string& path, const std::function<void(Database&)>& fill)
 {
     if (IsServer(path))
         CreateOnServer(path, fill);
     else
         CreateFile(path, fill);
-}
-
-void NumberOn(Database& database)
-{
-    const std::string& statement = database.GetDialect().numberOn;
-    if (statement.empty())
-        return;
-    try {
-        database.Session() << statement;
-    } catch (const soci::soci_error& cause) {
-        throw TranslatedFailure(database.Path(), cause);
-    }
-}
-
-std::string BackupName(const std::string& path, int version)
-{
-    return path + ".antes-da-versao-" + std::to_string(version) + ".bak";
 }
 
 } // namespace kova::family

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/data/engine/database.hpp"
-#include "family/data/engine/migration.hpp"
+#include "family/data/migrations/current_migrations.hpp"
 
 #include <functional>
 #include <memory>
@@ -33,16 +33,13 @@ std::shared_ptr<Database> OpenForLongWork(const std::string& path);
 /// text of CheckDataSource.
 std::unique_ptr<Database> OpenForReading(const std::string& path);
 
+/// The same where it is of the newest schema. Fails with a DatabaseFailure also where it is of an older one,
+/// which a reader must not change; the text tells how to bring it up to date.
+std::unique_ptr<Database> OpenNewestForReading(const std::string& path);
+
 /// Makes a database with the newest schema and what `fill` writes. A file is put at `path` when it is
 /// complete; on a server all comes in one transaction: whatever fails or is killed before leaves nothing
 /// there. Fails where DataSourceExists or it cannot be written; a server's database must exist.
 void CreateDatabase(const std::string& path, const std::function<void(Database&)>& fill);
-
-/// To be called after rows were written with keys of the caller's: new rows are numbered on behind the
-/// highest. `fill` above need not.
-void NumberOn(Database& database);
-
-/// Name of the copy made before a migration to that version.
-std::string BackupName(const std::string& path, int version);
 
 } // namespace kova::family

@@ -4,10 +4,10 @@
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/business/shop/store.hpp"
-#include "family/data/engine/data_source.hpp"
 #include "family/data/engine/server_connection.hpp"
-#include "family/data/engine/shared_database.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
 
 #include <netinet/in.h>
 #include <sys/socket.h>
