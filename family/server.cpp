@@ -10,7 +10,7 @@
 #include "family/business/registers/services.hpp"
 #include "family/business/registers/species.hpp"
 #include "family/business/shop/company.hpp"
-#include "family/business/shop/store.hpp"
+#include "family/business/shop/database_component.hpp"
 #include "family/business/shop/system_version.hpp"
 #include "family/data/sources/shared_database.hpp"
 
@@ -33,7 +33,7 @@ kova::ComponentLibrary& Library()
         Entry<Employees>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E03}"),
         Entry<Company>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E04}"),
         Entry<SystemVersion>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E05}"),
-        Entry<Store>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E06}"),
+        Entry<DatabaseComponent>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E06}"),
         Entry<Species>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E07}"),
         Entry<Breeds>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E08}"),
         Entry<Services>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E09}"),

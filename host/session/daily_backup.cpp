@@ -28,11 +28,11 @@ DailyBackup::DailyBackup(ComponentService& components, Tell tell)
 
 void DailyBackup::Begin()
 {
-    if (store_)
+    if (database_)
         return;
     Telling([this] {
-        store_ = components_.CreateObject("KOVA_N_Dados.clsBanco");
-        store_->Call("IniciarCopiaDoDia", {Today()});
+        database_ = components_.CreateObject("KOVA_N_Dados.clsBanco");
+        database_->Call("IniciarCopiaDoDia", {Today()});
         whileRunning_.start();
     });
 }
@@ -40,9 +40,9 @@ void DailyBackup::Begin()
 void DailyBackup::LookWhetherDone()
 {
     Telling([this] {
-        if (!store_->Get("CopiaDoDiaTerminou").ToBoolean())
+        if (!database_->Get("CopiaDoDiaTerminou").ToBoolean())
             return;
-        const std::string reason = store_->Get("FalhaDaCopiaDoDia").ToText();
+        const std::string reason = database_->Get("FalhaDaCopiaDoDia").ToText();
         End();
         tell_(reason);
     });
@@ -51,7 +51,7 @@ void DailyBackup::LookWhetherDone()
 void DailyBackup::End()
 {
     whileRunning_.stop();
-    store_.reset();
+    database_.reset();
 }
 
 // A copy that is not made is no reason to end the program: nothing gets past the timers.

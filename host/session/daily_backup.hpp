@@ -9,7 +9,7 @@
 
 namespace kova::host {
 
-/// Has the data component copy the shop once a day while the application is open: soon after the window has
+/// Has the database component make a copy once a day while the application is open: soon after the window has
 /// been painted, and again when midnight has passed. The work is done in the background; nobody waits for
 /// it.
 class DailyBackup {
@@ -32,8 +32,8 @@ private:
     ComponentService& components_;
     Tell tell_;
     QTimer everyHour_, whileRunning_;
-    /// The data component that is at it; empty where none is. It gives the copy up when it goes.
-    ComponentRef store_;
+    /// The database component that is at it; empty where none is. It gives the copy up when it goes.
+    ComponentRef database_;
 };
 
 } // namespace kova::host

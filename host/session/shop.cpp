@@ -23,11 +23,11 @@ void MakeFolder(const fs::path& folder)
                        error.message()));
 }
 
-/// Calls a method of the data component, which answers 0 or leaves its reason.
-void Do(Component& store, std::string_view method, std::vector<Argument> arguments = {})
+/// Calls a method of the database component, which answers 0 or leaves its reason.
+void Do(Component& database, std::string_view method, std::vector<Argument> arguments = {})
 {
-    if (store.Call(method, std::move(arguments)).ToLong() != 0)
-        throw std::runtime_error(store.Get("DescricaoDoErro").ToText());
+    if (database.Call(method, std::move(arguments)).ToLong() != 0)
+        throw std::runtime_error(database.Get("DescricaoDoErro").ToText());
 }
 
 } // namespace
@@ -35,13 +35,13 @@ void Do(Component& store, std::string_view method, std::vector<Argument> argumen
 Shop OpenShop(ComponentService& components, const fs::path& path, bool makeDemonstration,
               const std::string& today)
 {
-    const ComponentRef store = components.CreateObject("KOVA_N_Dados.clsBanco");
-    if (makeDemonstration && !store->Get("Existe").ToBoolean()) {
+    const ComponentRef database = components.CreateObject("KOVA_N_Dados.clsBanco");
+    if (makeDemonstration && !database->Get("Existe").ToBoolean()) {
         MakeFolder(path.parent_path());
-        Do(*store, "CriarDemonstracao", {today});
+        Do(*database, "CriarDemonstracao", {today});
     }
-    Do(*store, "Abrir");
-    return {store->Get("NomeFantasia").ToText()};
+    Do(*database, "Abrir");
+    return {database->Get("NomeFantasia").ToText()};
 }
 
 } // namespace kova::host

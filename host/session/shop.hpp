@@ -13,7 +13,7 @@ struct Shop {
     std::string tradeName;
 };
 
-/// Opens the data source of the host at `path` through the data component, for the whole process. Where
+/// Opens the data source of the host at `path` through the database component, for the whole process. Where
 /// nothing is there and `makeDemonstration` allows it, the demonstration shop is made first, around
 /// `today`. Throws std::runtime_error or Failure with a text for the user; the file is as it was then.
 Shop OpenShop(ComponentService& components, const std::filesystem::path& path, bool makeDemonstration,

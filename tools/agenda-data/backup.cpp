@@ -1,4 +1,4 @@
-#include "family/data/copies/store_backup.hpp"
+#include "family/data/copies/database_backup.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
 
@@ -10,7 +10,7 @@ int Run(const Call& call, Surroundings& surroundings)
 {
     WriteCounts(
         surroundings.output,
-        family::BackUpStore(call.Operand(0), call.Operand(1), ShownWork(surroundings.error, "Cópia")));
+        family::BackUpDatabase(call.Operand(0), call.Operand(1), ShownWork(surroundings.error, "Cópia")));
     surroundings.output << "Cópia feita e conferida: " << call.Operand(1) << "\n";
     return 0;
 }

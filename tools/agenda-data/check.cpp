@@ -1,5 +1,5 @@
+#include "family/data/checks/database_check.hpp"
 #include "family/data/checks/rule_check.hpp"
-#include "family/data/checks/store_check.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
@@ -20,14 +20,14 @@ std::vector<std::string> BrokenRules(const std::string& source, DateTime now)
 
 /// Rows of a file that is damaged would only be told to break rules which nobody broke.
 std::vector<std::string> ProblemsOf(const std::string& source, DateTime now,
-                                    const family::StoreReport& report)
+                                    const family::DatabaseReport& report)
 {
     return report.problems.empty() ? BrokenRules(source, now) : report.problems;
 }
 
 int Run(const Call& call, Surroundings& surroundings)
 {
-    const family::StoreReport report = family::CheckStore(call.Operand(0));
+    const family::DatabaseReport report = family::CheckDatabase(call.Operand(0));
     WriteCounts(surroundings.output, report.tables);
     surroundings.output << "versão do esquema: " << report.version << "\n";
     const std::vector<std::string> problems = ProblemsOf(call.Operand(0), surroundings.now, report);

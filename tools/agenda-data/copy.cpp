@@ -1,4 +1,4 @@
-#include "family/data/copies/store_copy.hpp"
+#include "family/data/copies/database_copy.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
 
@@ -8,8 +8,9 @@ namespace {
 
 int Run(const Call& call, Surroundings& surroundings)
 {
-    WriteCounts(surroundings.output,
-                family::CopyStore(call.Operand(0), call.Operand(1), ShownWork(surroundings.error, "Cópia")));
+    WriteCounts(
+        surroundings.output,
+        family::CopyDatabase(call.Operand(0), call.Operand(1), ShownWork(surroundings.error, "Cópia")));
     surroundings.output << "Banco de dados copiado e conferido: " << call.Operand(1) << "\n";
     return 0;
 }

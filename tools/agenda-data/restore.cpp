@@ -1,4 +1,4 @@
-#include "family/data/copies/store_backup.hpp"
+#include "family/data/copies/database_backup.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
 
@@ -8,9 +8,9 @@ namespace {
 
 int Run(const Call& call, Surroundings& surroundings)
 {
-    WriteCounts(
-        surroundings.output,
-        family::RestoreStore(call.Operand(0), call.Operand(1), ShownWork(surroundings.error, "Restauração")));
+    WriteCounts(surroundings.output,
+                family::RestoreDatabase(call.Operand(0), call.Operand(1),
+                                        ShownWork(surroundings.error, "Restauração")));
     surroundings.output << "Banco de dados restaurado e conferido: " << call.Operand(1) << "\n";
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "family/data/copies/daily_backup.hpp"
 
-#include "family/data/copies/store_backup.hpp"
+#include "family/data/copies/database_backup.hpp"
 #include "family/data/engine/database_failure.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/server_connection.hpp"
@@ -87,7 +87,7 @@ bool MakeDailyBackup(const std::string& path, Date day, const LongWork& work)
         RemoveRests(path);
         if (fs::exists(fs::symlink_status(system::PathOf(file))) || RemoveAbandoned(file))
             return false;
-        BackUpStore(path, file, work);
+        BackUpDatabase(path, file, work);
         RemoveOld(path, file);
         return true;
     } catch (const fs::filesystem_error& cause) {

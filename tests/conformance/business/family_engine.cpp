@@ -11,17 +11,17 @@ namespace kova::conformance {
 
 namespace {
 
-/// Where the family keeps the shop. Another engine of the family is another one of these.
-class ShopStore {
+/// A database of the family with the shop in it. Another engine of the family is another one of these.
+class ShopDatabase {
 public:
-    virtual ~ShopStore() = default;
+    virtual ~ShopDatabase() = default;
     /// What the host hands to the components.
     virtual std::string DataSource() const = 0;
     /// A connection beside the one that the components use.
     virtual std::shared_ptr<family::Database> Connect() const = 0;
 };
 
-class SqliteFile : public ShopStore {
+class SqliteFile : public ShopDatabase {
 public:
     SqliteFile() { family::CreateDatabase(DataSource(), WriteShop); }
 
@@ -32,7 +32,7 @@ private:
     test::TemporaryFolder folder_;
 };
 
-class PostgresqlDatabase : public ShopStore {
+class PostgresqlDatabase : public ShopDatabase {
 public:
     std::string DataSource() const override { return database_.Address(); }
     std::shared_ptr<family::Database> Connect() const override { return family::OpenDatabase(DataSource()); }
@@ -59,7 +59,7 @@ private:
 
 class FamilyEngine : public Engine {
 public:
-    explicit FamilyEngine(std::unique_ptr<ShopStore> store) : store_(std::move(store))
+    explicit FamilyEngine(std::unique_ptr<ShopDatabase> database) : database_(std::move(database))
     {
         server_.RegisterLibrary(FAMILY_LIBRARY);
     }
@@ -82,17 +82,17 @@ private:
     /// Each selection needs one of these tables.
     void Rename(const std::string& oldEnding, const std::string& newEnding)
     {
-        const auto database = store_->Connect();
+        const auto database = database_->Connect();
         for (const std::string table : {"funcionario", "tipo_de_servico", "empresa", "especie", "raca",
                                         "servico", "cliente", "animal", "feriado"})
             database->Session() << "alter table " + table + oldEnding + " rename to " + table + newEnding;
     }
 
-    std::unique_ptr<ShopStore> store_;
+    std::unique_ptr<ShopDatabase> database_;
     test::TemporaryFolder folder_;
     DeskPlatform platform_;
     host::Registry registry_{folder_.File("registro.txt")};
-    host::RegistryServerHost server_{registry_, platform_, store_->DataSource()};
+    host::RegistryServerHost server_{registry_, platform_, database_->DataSource()};
     host::RegisteredComponents components_{registry_, server_.Libraries()};
 };
 

@@ -60,9 +60,9 @@ TEST_F(FamilyLibrary, KeepsTheConnectionBetweenComponentsAndClosesItWithTheHost)
     Entry<DllRegisterServerFunction>("DllRegisterServer")();
     const std::string log = host.DataSource() + "-wal";
     {
-        const ComponentRef store = Create(host, "KOVA_N_Dados.clsBanco");
-        ASSERT_EQ(store->Call("CriarDemonstracao", {"20/11/2026"}), Value(Integer(0)));
-        ASSERT_EQ(store->Call("Abrir"), Value(Integer(0)));
+        const ComponentRef database = Create(host, "KOVA_N_Dados.clsBanco");
+        ASSERT_EQ(database->Call("CriarDemonstracao", {"20/11/2026"}), Value(Integer(0)));
+        ASSERT_EQ(database->Call("Abrir"), Value(Integer(0)));
         EXPECT_NE(Entry<DllCanUnloadNowFunction>("DllCanUnloadNow")(), 0);
     }
     EXPECT_EQ(Entry<DllCanUnloadNowFunction>("DllCanUnloadNow")(), 0);

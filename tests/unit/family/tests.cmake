@@ -9,8 +9,8 @@ if(NOT KOVARIS_CORE_ONLY)
     # nothing of a server stands for (how they are opened, copied by pages every day, brought up to date, waited for
     # and searched by their statistics), and what reads the audit by a function of SQLite. The copy in
     # ThatIsDamagedOnTheDisk would write the damaged pages again: rows are copied, not pages.
-    kovaris_test_on_server(test_family "DataSource.*:SchemaMigration.*:StoreComponent.*:DailyBackup.*"
-        "StoreBackup.ThatIsDamagedOnTheDiskIsNotTakenForACopy"
+    kovaris_test_on_server(test_family "DataSource.*:SchemaMigration.*:TheDatabaseComponent.*:DailyBackup.*"
+        "DatabaseBackup.ThatIsDamagedOnTheDiskIsNotTakenForACopy"
         "EmployeeRoomRule.OfABigShopIsLookedUpAmongTheEmployeesOwnAppointments"
         "StatusWrite.TellsThatTheDataAreInUseAndWorksWhenTheyAreFree"
         "WritesAudit.KeepsTheWholeRowBeforeAndAfterAnAlteration"

@@ -1,7 +1,7 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
+#include "family/data/checks/database_check.hpp"
 #include "family/data/checks/documents.hpp"
-#include "family/data/checks/store_check.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/demo/shop.hpp"
 
@@ -36,7 +36,7 @@ TEST_F(DemonstrationShop, IsTheSameForTheSameDate)
     EXPECT_NE(ContentOf(folder_ / "depois.db"), ContentOf(path_));
 }
 
-TEST_F(DemonstrationShop, IsSound) { EXPECT_EQ(CheckStore(path_).problems, std::vector<std::string>()); }
+TEST_F(DemonstrationShop, IsSound) { EXPECT_EQ(CheckDatabase(path_).problems, std::vector<std::string>()); }
 
 TEST_F(DemonstrationShop, HasAboutFortyAppointmentsADayAndFewerOnSundays)
 {
@@ -143,7 +143,7 @@ TEST(MeasuringPlan, MakesExactlyWhatWasAskedFor)
     const TemporaryFolder folder;
     CreateShop(folder / "grande.db", MeasuringPlan({2026, 11, 20}, 300, 5000));
     std::map<std::string, long long> rows;
-    for (const TableCount& table : CheckStore(folder / "grande.db").tables)
+    for (const TableCount& table : CheckDatabase(folder / "grande.db").tables)
         rows[table.name] = table.rows;
     EXPECT_EQ(rows["cliente"], 300);
     EXPECT_EQ(rows["agendamento"], 5000);

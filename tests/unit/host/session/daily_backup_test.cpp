@@ -14,16 +14,16 @@ namespace kova::host {
 
 namespace {
 
-/// What the store of the data does when it is asked.
-struct StoreScript {
+/// What the database does when it is asked.
+struct DatabaseScript {
     std::function<Value()> onStart = [] { return Value(Integer{0}); };
     std::function<Value()> onLook = [] { return Value(true); };
     Text reason;
 };
 
-class Store : public Component {
+class ScriptedDatabase : public Component {
 public:
-    explicit Store(const StoreScript& script) : script_(script) { }
+    explicit ScriptedDatabase(const DatabaseScript& script) : script_(script) { }
 
     Value Get(std::string_view member) override
     {
@@ -34,16 +34,19 @@ public:
     using Component::Call;
 
 private:
-    const StoreScript& script_;
+    const DatabaseScript& script_;
 };
 
-class OneStore : public ComponentService {
+class OneDatabase : public ComponentService {
 public:
-    explicit OneStore(const StoreScript& script) : script_(script) { }
-    ComponentRef CreateObject(std::string_view) override { return std::make_shared<Store>(script_); }
+    explicit OneDatabase(const DatabaseScript& script) : script_(script) { }
+    ComponentRef CreateObject(std::string_view) override
+    {
+        return std::make_shared<ScriptedDatabase>(script_);
+    }
 
 private:
-    const StoreScript& script_;
+    const DatabaseScript& script_;
 };
 
 class CopyOfTheDay : public WithApplication {
@@ -62,8 +65,8 @@ protected:
         loop.exec();
         return told;
     }
-    StoreScript script_;
-    OneStore service_{script_};
+    DatabaseScript script_;
+    OneDatabase service_{script_};
 };
 
 Value Fails() { throw Failure(FailureNumber::TypeMismatch, "não é assim"); }

@@ -3,7 +3,7 @@
 #include "tests/support/environment_variable.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
-#include "family/business/shop/store.hpp"
+#include "family/business/shop/database_component.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/sources/data_source.hpp"
@@ -339,18 +339,18 @@ TEST_F(PostgresqlSource, SetsLimitsToWaiting)
     EXPECT_EQ(setting("client_encoding"), "UTF8");
 }
 
-TEST_F(PostgresqlSource, IsMadeAndOpenedByTheStoreComponent)
+TEST_F(PostgresqlSource, IsMadeAndOpenedByTheDatabaseComponent)
 {
     TestHost host(database_.Address());
-    Store store(host);
-    EXPECT_EQ(store.Get("Existe"), Value(false));
-    EXPECT_EQ(store.Call("Verificar"), Value(Integer(1)));
-    ASSERT_EQ(store.Call("CriarDemonstracao", {"20/11/2026"}), Value(Integer(0)))
-        << store.Get("DescricaoDoErro").ToText();
-    EXPECT_EQ(store.Get("Existe"), Value(true));
-    ASSERT_EQ(store.Call("Abrir"), Value(Integer(0)));
-    EXPECT_EQ(store.Get("NomeFantasia"), Value("Pet Shop Amigo Fiel"));
-    store.Call("Fechar");
+    DatabaseComponent component(host);
+    EXPECT_EQ(component.Get("Existe"), Value(false));
+    EXPECT_EQ(component.Call("Verificar"), Value(Integer(1)));
+    ASSERT_EQ(component.Call("CriarDemonstracao", {"20/11/2026"}), Value(Integer(0)))
+        << component.Get("DescricaoDoErro").ToText();
+    EXPECT_EQ(component.Get("Existe"), Value(true));
+    ASSERT_EQ(component.Call("Abrir"), Value(Integer(0)));
+    EXPECT_EQ(component.Get("NomeFantasia"), Value("Pet Shop Amigo Fiel"));
+    component.Call("Fechar");
 }
 
 TEST(ServerAddress, GetsWhatItLeavesOpen)

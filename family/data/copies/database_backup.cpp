@@ -1,7 +1,7 @@
-#include "family/data/copies/store_backup.hpp"
+#include "family/data/copies/database_backup.hpp"
 
+#include "family/data/copies/database_copy.hpp"
 #include "family/data/copies/online_copy.hpp"
-#include "family/data/copies/store_copy.hpp"
 #include "family/data/copies/trial_restore.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/unfinished_file.hpp"
@@ -46,17 +46,18 @@ void CopyContent(const std::string& file, const std::string& target, const LongW
         CopyOnline(*OpenForReading(file), target, work);
     else
         system::CopyWholeFile(file, target);
-    // A copy is often kept from being written; the shop is not.
+    // A copy is often kept from being written; the database is not.
     fs::permissions(system::PathOf(target), fs::perms::owner_read | fs::perms::owner_write,
                     fs::perm_options::add);
 }
 
 } // namespace
 
-std::vector<TableCount> BackUpStore(const std::string& source, const std::string& file, const LongWork& work)
+std::vector<TableCount> BackUpDatabase(const std::string& source, const std::string& file,
+                                       const LongWork& work)
 {
     if (IsServer(source))
-        return CopyStore(source, file, work);
+        return CopyDatabase(source, file, work);
     const std::unique_ptr<Database> database = OpenForReading(source);
     UnfinishedFile copy(file);
     std::vector<TableCount> counts = CopyOnline(*database, copy.Name(), work);
@@ -65,11 +66,12 @@ std::vector<TableCount> BackUpStore(const std::string& source, const std::string
     return counts;
 }
 
-std::vector<TableCount> RestoreStore(const std::string& file, const std::string& target, const LongWork& work)
+std::vector<TableCount> RestoreDatabase(const std::string& file, const std::string& target,
+                                        const LongWork& work)
 {
     RequireFile(file);
     if (IsServer(target))
-        return CopyStore(file, target, work);
+        return CopyDatabase(file, target, work);
     UnfinishedFile restored(target);
     try {
         CopyContent(file, restored.Name(), work);

@@ -8,7 +8,7 @@
 namespace kova::family {
 
 /// What a look through a whole database finds.
-struct StoreReport {
+struct DatabaseReport {
     int version = 0;
     std::vector<TableCount> tables;
     /// Empty where the database is sound; else Portuguese texts.
@@ -18,6 +18,6 @@ struct StoreReport {
 /// Counts the tables' rows, and checks the file's structure, that a server holds the rows to their
 /// references, and that every reference leads to a row.
 /// Reads only. Fails with the text of CheckDataSource where the database cannot be opened.
-StoreReport CheckStore(const std::string& path);
+DatabaseReport CheckDatabase(const std::string& path);
 
 } // namespace kova::family

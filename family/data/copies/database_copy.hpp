@@ -8,9 +8,10 @@
 
 namespace kova::family {
 
-/// Copies a shop of one moment, row by row, into a new file or into a server's database that is empty,
+/// Copies a database of one moment, row by row, into a new file or into a server's database that is empty,
 /// from either engine to either. What was written is read again and compared before it counts. Answers the
 /// rows. The source has to be of the newest schema. Fails with a DatabaseFailure, and leaves nothing then.
-std::vector<TableCount> CopyStore(const std::string& source, const std::string& target, const LongWork& work);
+std::vector<TableCount> CopyDatabase(const std::string& source, const std::string& target,
+                                     const LongWork& work);
 
 } // namespace kova::family

@@ -1,7 +1,7 @@
 #include "tests/support/small_files.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
-#include "family/data/copies/store_backup.hpp"
+#include "family/data/copies/database_backup.hpp"
 #include "family/data/copies/trial_restore.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/rows/insert_new_row.hpp"
@@ -71,9 +71,9 @@ private:
 
 } // namespace
 
-class StoreBackup : public ShopTest {
+class DatabaseBackup : public ShopTest {
 protected:
-    StoreBackup() : shop_(host_.DataSource()), copy_(folder_ / "copia.bak") { }
+    DatabaseBackup() : shop_(host_.DataSource()), copy_(folder_ / "copia.bak") { }
 
     /// The names in the folder, the shop's own files left out.
     std::vector<std::string> OtherFiles() const
@@ -91,16 +91,16 @@ protected:
     std::string shop_, copy_;
 };
 
-TEST_F(StoreBackup, HoldsEveryRowAndIsRestoredToAShopThatOpens)
+TEST_F(DatabaseBackup, HoldsEveryRowAndIsRestoredToAShopThatOpens)
 {
-    const std::vector<TableCount> counts = BackUpStore(shop_, copy_, {});
+    const std::vector<TableCount> counts = BackUpDatabase(shop_, copy_, {});
     EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
-    EXPECT_EQ(RestoreStore(copy_, folder_ / "nova.db", {}), counts);
+    EXPECT_EQ(RestoreDatabase(copy_, folder_ / "nova.db", {}), counts);
     EXPECT_EQ(CountRows(*OpenDatabase(folder_ / "nova.db")), CountRows(*OpenDatabase(shop_)));
     EXPECT_EQ(RowsOf(folder_ / "nova.db", "agendamento"), 9);
 }
 
-TEST_F(StoreBackup, HoldsOneMomentWhileADeskGoesOnWriting)
+TEST_F(DatabaseBackup, HoldsOneMomentWhileADeskGoesOnWriting)
 {
     const BusyDesk desk(shop_);
     for (int time = 0; time < 5; ++time) {
@@ -108,22 +108,22 @@ TEST_F(StoreBackup, HoldsOneMomentWhileADeskGoesOnWriting)
         LongWork work;
         // The copy's moment is held open here; the desk does not wait for it.
         work.progress = [&](long long, long long) { desk.AwaitAWrite(); };
-        BackUpStore(shop_, copy, work);
+        BackUpDatabase(shop_, copy, work);
         EXPECT_EQ(RowsOf(copy, "empresa"), RowsOf(copy, "usuario") + 1);
     }
 }
 
-TEST_F(StoreBackup, ThatIsDamagedOnTheDiskIsNotTakenForACopy)
+TEST_F(DatabaseBackup, ThatIsDamagedOnTheDiskIsNotTakenForACopy)
 {
     LongWork work;
     work.progress = [&](long long, long long) { Damage(UnfinishedName(copy_)); };
-    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, work); }).find("danificado"), std::string::npos);
+    EXPECT_NE(FailureOf([&] { BackUpDatabase(shop_, copy_, work); }).find("danificado"), std::string::npos);
     EXPECT_TRUE(OtherFiles().empty());
 }
 
-TEST_F(StoreBackup, ThatLacksARowIsNotTakenForACopy)
+TEST_F(DatabaseBackup, ThatLacksARowIsNotTakenForACopy)
 {
-    std::vector<TableCount> counts = BackUpStore(shop_, copy_, {});
+    std::vector<TableCount> counts = BackUpDatabase(shop_, copy_, {});
     EXPECT_EQ(FailureOf([&] { TrialRestore(copy_, counts, {}); }), "");
     ++counts[3].rows;
     const std::string refusal = FailureOf([&] { TrialRestore(copy_, counts, {}); });
@@ -131,79 +131,79 @@ TEST_F(StoreBackup, ThatLacksARowIsNotTakenForACopy)
     EXPECT_NE(refusal.find("servico"), std::string::npos) << refusal;
 }
 
-TEST_F(StoreBackup, WithAReferenceThatLeadsNowhereIsNotTakenForACopy)
+TEST_F(DatabaseBackup, WithAReferenceThatLeadsNowhereIsNotTakenForACopy)
 {
     RunUnchecked(shop_, "delete from raca");
-    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find("referências"), std::string::npos);
+    EXPECT_NE(FailureOf([&] { BackUpDatabase(shop_, copy_, {}); }).find("referências"), std::string::npos);
     EXPECT_TRUE(OtherFiles().empty());
 }
 
-TEST_F(StoreBackup, NeverReplacesAFile)
+TEST_F(DatabaseBackup, NeverReplacesAFile)
 {
     WriteContent(copy_, "nota");
-    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find("já existe"), std::string::npos);
+    EXPECT_NE(FailureOf([&] { BackUpDatabase(shop_, copy_, {}); }).find("já existe"), std::string::npos);
     EXPECT_EQ(ContentOf(copy_), "nota");
 }
 
-TEST_F(StoreBackup, NeverReplacesAFileThatCameMeanwhile)
+TEST_F(DatabaseBackup, NeverReplacesAFileThatCameMeanwhile)
 {
     LongWork work;
     work.progress = [&](long long, long long) { WriteContent(copy_, "nota"); };
-    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, work); }).find("já existe"), std::string::npos);
+    EXPECT_NE(FailureOf([&] { BackUpDatabase(shop_, copy_, work); }).find("já existe"), std::string::npos);
     EXPECT_EQ(ContentOf(copy_), "nota");
     EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
 }
 
-TEST_F(StoreBackup, IsMadeByOneAtATime)
+TEST_F(DatabaseBackup, IsMadeByOneAtATime)
 {
     const UnfinishedFile other(copy_);
-    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find("outro programa"), std::string::npos);
+    EXPECT_NE(FailureOf([&] { BackUpDatabase(shop_, copy_, {}); }).find("outro programa"), std::string::npos);
     EXPECT_TRUE(fs::exists(other.Name()));
 }
 
-TEST_F(StoreBackup, ThatIsKilledLeavesNothingUnderItsNameAndStandsInNobodysWay)
+TEST_F(DatabaseBackup, ThatIsKilledLeavesNothingUnderItsNameAndStandsInNobodysWay)
 {
     const pid_t child = fork();
     if (child == 0) {
         LongWork work;
         work.progress = [](long long, long long) { std::raise(SIGKILL); };
-        BackUpStore(shop_, copy_, work);
+        BackUpDatabase(shop_, copy_, work);
         _exit(0);
     }
     int status = 0;
     waitpid(child, &status, 0);
     ASSERT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak.parcial"});
-    BackUpStore(shop_, copy_, {});
+    BackUpDatabase(shop_, copy_, {});
     EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
 }
 
-TEST_F(StoreBackup, WithoutRoomFailsAndLeavesNothing)
+TEST_F(DatabaseBackup, WithoutRoomFailsAndLeavesNothing)
 {
     OpenDatabase(shop_);
     // Half of what the shop's tables need.
     const kova::test::SmallFiles small(60'000);
-    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, {}); }).find(copy_), std::string::npos);
+    EXPECT_NE(FailureOf([&] { BackUpDatabase(shop_, copy_, {}); }).find(copy_), std::string::npos);
     EXPECT_TRUE(OtherFiles().empty());
 }
 
-TEST_F(StoreBackup, EndsWhereItIsAskedToAndLeavesNothing)
+TEST_F(DatabaseBackup, EndsWhereItIsAskedToAndLeavesNothing)
 {
     std::stop_source source;
     LongWork work{[&](long long, long long) { source.request_stop(); }, source.get_token()};
-    EXPECT_NE(FailureOf([&] { BackUpStore(shop_, copy_, work); }).find("interrompido"), std::string::npos);
+    EXPECT_NE(FailureOf([&] { BackUpDatabase(shop_, copy_, work); }).find("interrompido"), std::string::npos);
     EXPECT_TRUE(OtherFiles().empty());
 }
 
-TEST_F(StoreBackup, IsRestoredFromWhereNothingCanBeWritten)
+TEST_F(DatabaseBackup, IsRestoredFromWhereNothingCanBeWritten)
 {
-    BackUpStore(shop_, copy_, {});
+    BackUpDatabase(shop_, copy_, {});
     fs::permissions(copy_, fs::perms::owner_read);
-    RestoreStore(copy_, folder_ / "nova.db", {});
+    RestoreDatabase(copy_, folder_ / "nova.db", {});
     EXPECT_NO_THROW(Insert(*OpenDatabase(folder_ / "nova.db"), UserRow{7, "Carla"}));
 }
 
-TEST_F(StoreBackup, NeverGivesANumberTwiceAfterItIsRestored)
+TEST_F(DatabaseBackup, NeverGivesANumberTwiceAfterItIsRestored)
 {
     {
         const auto database = OpenDatabase(shop_);
@@ -211,43 +211,45 @@ TEST_F(StoreBackup, NeverGivesANumberTwiceAfterItIsRestored)
         NumberOn(*database);
         database->Session() << "delete from usuario where codigo = 7";
     }
-    BackUpStore(shop_, copy_, {});
-    RestoreStore(copy_, folder_ / "nova.db", {});
+    BackUpDatabase(shop_, copy_, {});
+    RestoreDatabase(copy_, folder_ / "nova.db", {});
     EXPECT_EQ(InsertNew(*OpenDatabase(folder_ / "nova.db"), UserRow{0, "Ana"}), 8);
 }
 
-TEST_F(StoreBackup, NeverReplacesAShopWhenItIsRestored)
+TEST_F(DatabaseBackup, NeverReplacesAShopWhenItIsRestored)
 {
-    BackUpStore(shop_, copy_, {});
+    BackUpDatabase(shop_, copy_, {});
     WriteContent(folder_ / "nova.db", "nota");
-    EXPECT_NE(FailureOf([&] { RestoreStore(copy_, folder_ / "nova.db", {}); }).find("já existe"),
+    EXPECT_NE(FailureOf([&] { RestoreDatabase(copy_, folder_ / "nova.db", {}); }).find("já existe"),
               std::string::npos);
     EXPECT_EQ(ContentOf(folder_ / "nova.db"), "nota");
 }
 
-TEST_F(StoreBackup, ThatIsNoneIsNotRestored)
+TEST_F(DatabaseBackup, ThatIsNoneIsNotRestored)
 {
     WriteContent(copy_, "nota");
     const std::string nobody = folder_ / "nenhuma.bak";
-    EXPECT_NE(FailureOf([&] { RestoreStore(copy_, folder_ / "a.db", {}); }).find(copy_), std::string::npos);
-    EXPECT_NE(FailureOf([&] { RestoreStore(nobody, folder_ / "a.db", {}); }).find(nobody), std::string::npos);
+    EXPECT_NE(FailureOf([&] { RestoreDatabase(copy_, folder_ / "a.db", {}); }).find(copy_),
+              std::string::npos);
+    EXPECT_NE(FailureOf([&] { RestoreDatabase(nobody, folder_ / "a.db", {}); }).find(nobody),
+              std::string::npos);
     const std::string damaged = folder_ / "estragada.bak";
-    BackUpStore(shop_, damaged, {});
+    BackUpDatabase(shop_, damaged, {});
     Damage(damaged);
-    EXPECT_NE(FailureOf([&] { RestoreStore(damaged, folder_ / "a.db", {}); }).find("danificado"),
+    EXPECT_NE(FailureOf([&] { RestoreDatabase(damaged, folder_ / "a.db", {}); }).find("danificado"),
               std::string::npos);
     EXPECT_EQ(OtherFiles(), (std::vector<std::string>{"copia.bak", "estragada.bak"}));
 }
 
-TEST_F(StoreBackup, OfAnOlderSchemaIsRestoredAsItIsAndOpens)
+TEST_F(DatabaseBackup, OfAnOlderSchemaIsRestoredAsItIsAndOpens)
 {
     const std::string old = folder_ / "antigo.db";
     {
         Database database(SqliteDialect(), "dbname=" + old, old);
         Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(1));
     }
-    BackUpStore(old, copy_, {});
-    RestoreStore(copy_, folder_ / "nova.db", {});
+    BackUpDatabase(old, copy_, {});
+    RestoreDatabase(copy_, folder_ / "nova.db", {});
     EXPECT_NO_THROW(Insert(*OpenDatabase(folder_ / "nova.db"), UserRow{7, "Carla"}));
 }
 

@@ -1,4 +1,4 @@
-#include "family/data/checks/store_check.hpp"
+#include "family/data/checks/database_check.hpp"
 
 #include "family/data/sources/data_source.hpp"
 
@@ -6,7 +6,7 @@ namespace kova::family {
 
 namespace {
 
-void CheckFile(Database& database, StoreReport& report)
+void CheckFile(Database& database, DatabaseReport& report)
 {
     std::string verdict;
     database.Session() << "pragma integrity_check(1)", soci::into(verdict);
@@ -16,7 +16,7 @@ void CheckFile(Database& database, StoreReport& report)
 
 /// The pages are the server's own matter. A restoration that has failed half-way leaves tables without their
 /// constraints, or with such as the rows were never held against.
-void CheckServer(Database& database, StoreReport& report)
+void CheckServer(Database& database, DatabaseReport& report)
 {
     std::size_t held = 0;
     database.Session() << "select count(*) from pg_constraint where contype = 'f' and convalidated"
@@ -28,7 +28,7 @@ void CheckServer(Database& database, StoreReport& report)
                                   + " referências entre as tabelas. Restaure uma cópia em um banco vazio.");
 }
 
-void CheckReferences(Database& database, StoreReport& report)
+void CheckReferences(Database& database, DatabaseReport& report)
 {
     for (const Reference& reference : References()) {
         const std::string table = reference.table, column = reference.column;
@@ -45,10 +45,10 @@ void CheckReferences(Database& database, StoreReport& report)
 
 } // namespace
 
-StoreReport CheckStore(const std::string& path)
+DatabaseReport CheckDatabase(const std::string& path)
 {
     const std::unique_ptr<Database> database = OpenForReading(path);
-    StoreReport report;
+    DatabaseReport report;
     try {
         report.version = StoredVersion(database->Session());
         database->GetDialect().IsServer() ? CheckServer(*database, report) : CheckFile(*database, report);

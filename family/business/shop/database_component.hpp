@@ -9,14 +9,14 @@ namespace kova::family {
 
 /// KOVA_N_Dados.clsBanco: the data source itself, for the host, before it opens a screen. Each method
 /// answers 0, or 1 with the reason, its path and what to do in DescricaoDoErro.
-class Store : public ByName<Store> {
+class DatabaseComponent : public ByName<DatabaseComponent> {
 public:
     static constexpr std::string_view ClassName = "KOVA_N_Dados.clsBanco";
 
-    explicit Store(ServerHost& host) : ByName(host, ClassName) { }
+    explicit DatabaseComponent(ServerHost& host) : ByName(host, ClassName) { }
 
-    static std::span<const Method<Store>> Methods();
-    static std::span<const Property<Store>> Properties();
+    static std::span<const Method<DatabaseComponent>> Methods();
+    static std::span<const Property<DatabaseComponent>> Properties();
 
 private:
     /// Text: the host's data source.

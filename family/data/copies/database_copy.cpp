@@ -1,4 +1,4 @@
-#include "family/data/copies/store_copy.hpp"
+#include "family/data/copies/database_copy.hpp"
 
 #include "family/data/copies/row_copy.hpp"
 #include "family/data/copies/trial_restore.hpp"
@@ -45,7 +45,8 @@ void MakeFile(const std::string& path, const std::function<void(Database&)>& fil
 
 } // namespace
 
-std::vector<TableCount> CopyStore(const std::string& source, const std::string& target, const LongWork& work)
+std::vector<TableCount> CopyDatabase(const std::string& source, const std::string& target,
+                                     const LongWork& work)
 {
     const std::unique_ptr<Database> from = OpenNewestForReading(source);
     std::vector<TableCount> counts;

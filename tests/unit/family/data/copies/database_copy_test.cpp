@@ -1,8 +1,8 @@
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/data/audit/audit.hpp"
+#include "family/data/copies/database_copy.hpp"
 #include "family/data/copies/row_copy.hpp"
-#include "family/data/copies/store_copy.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/insert_new_row.hpp"
 #include "family/data/rows/insert_row.hpp"
@@ -15,18 +15,18 @@ namespace kova::family::test {
 
 namespace fs = std::filesystem;
 
-class StoreCopy : public ShopTest {
+class DatabaseCopy : public ShopTest {
 protected:
-    StoreCopy() : shop_(host_.DataSource()), copy_(folder_ / "copia.db") { }
+    DatabaseCopy() : shop_(host_.DataSource()), copy_(folder_ / "copia.db") { }
 
     static std::vector<TableSum> SumsOf(const std::string& path) { return SumTables(*OpenDatabase(path)); }
 
     std::string shop_, copy_;
 };
 
-TEST_F(StoreCopy, HasEveryValueOfEveryRow)
+TEST_F(DatabaseCopy, HasEveryValueOfEveryRow)
 {
-    CopyStore(shop_, copy_, {});
+    CopyDatabase(shop_, copy_, {});
     EXPECT_EQ(SumsOf(copy_), SumsOf(shop_));
     const auto copied = OpenDatabase(copy_);
     EXPECT_EQ(FindByKey<AppointmentRow>(*copied, 2)->observacao.value, "Laço azul.");
@@ -34,7 +34,7 @@ TEST_F(StoreCopy, HasEveryValueOfEveryRow)
     EXPECT_EQ(FindByKey<CustomerRow>(*copied, 10)->nome, "José Antônio Peçanha");
 }
 
-TEST_F(StoreCopy, HasRowsBeyondOnePageAndTellsHowFarItHasCome)
+TEST_F(DatabaseCopy, HasRowsBeyondOnePageAndTellsHowFarItHasCome)
 {
     {
         const auto database = OpenDatabase(shop_);
@@ -46,12 +46,12 @@ TEST_F(StoreCopy, HasRowsBeyondOnePageAndTellsHowFarItHasCome)
     std::vector<long long> told;
     LongWork work;
     work.progress = [&](long long done, long long) { told.push_back(done); };
-    CopyStore(shop_, copy_, work);
+    CopyDatabase(shop_, copy_, work);
     EXPECT_EQ(SumsOf(copy_), SumsOf(shop_));
     EXPECT_EQ(told.size(), 4U);
 }
 
-TEST_F(StoreCopy, NeverGivesANumberTwice)
+TEST_F(DatabaseCopy, NeverGivesANumberTwice)
 {
     {
         const auto database = OpenDatabase(shop_);
@@ -61,14 +61,14 @@ TEST_F(StoreCopy, NeverGivesANumberTwice)
         database->Session() << "insert into auditoria (momento, usuario, tabela, chave, operacao)"
                                " values ('2026-11-20 09:00:00', 'Carla', 'empresa', 40, 'exclusao')";
     }
-    CopyStore(shop_, copy_, {});
+    CopyDatabase(shop_, copy_, {});
     const auto copied = OpenDatabase(copy_);
     EXPECT_EQ(InsertNew(*copied, UserRow{0, "Ana"}), 8);
     EXPECT_EQ(InsertNew(*copied, CompanyRow{0, "Filial", "", "", "", ""}), 41);
     EXPECT_EQ(InsertNew(*copied, PackageRow{0, 2, "2026-11-20 09:00:00", "Ana"}), 1);
 }
 
-TEST_F(StoreCopy, ReadsOneMoment)
+TEST_F(DatabaseCopy, ReadsOneMoment)
 {
     const auto desk = OpenDatabase(shop_);
     LongWork work;
@@ -83,31 +83,31 @@ TEST_F(StoreCopy, ReadsOneMoment)
         if (done == 1000)
             Insert(*desk, ServiceTypeRow{9, "Transporte", "transporte"});
     };
-    CopyStore(shop_, copy_, work);
+    CopyDatabase(shop_, copy_, work);
     EXPECT_EQ(SumsOf(copy_), before);
     EXPECT_NE(SumsOf(shop_), before);
 }
 
-TEST_F(StoreCopy, NeverReplacesAFile)
+TEST_F(DatabaseCopy, NeverReplacesAFile)
 {
     WriteContent(copy_, "nota");
-    EXPECT_THROW(CopyStore(shop_, copy_, {}), Failure);
+    EXPECT_THROW(CopyDatabase(shop_, copy_, {}), Failure);
     EXPECT_EQ(ContentOf(copy_), "nota");
 }
 
-TEST_F(StoreCopy, OfRowsThatReferToNothingIsNotMade)
+TEST_F(DatabaseCopy, OfRowsThatReferToNothingIsNotMade)
 {
     RunUnchecked(shop_, "delete from raca");
-    EXPECT_THROW(CopyStore(shop_, copy_, {}), Failure);
+    EXPECT_THROW(CopyDatabase(shop_, copy_, {}), Failure);
     EXPECT_FALSE(fs::exists(copy_));
     EXPECT_FALSE(fs::exists(copy_ + ".parcial"));
 }
 
-TEST_F(StoreCopy, OfAnOlderSchemaTellsHowToUpdateIt)
+TEST_F(DatabaseCopy, OfAnOlderSchemaTellsHowToUpdateIt)
 {
     OpenDatabase(shop_)->Session() << "delete from versao_do_esquema where versao > 2";
     try {
-        CopyStore(shop_, copy_, {});
+        CopyDatabase(shop_, copy_, {});
         FAIL() << "an older schema was copied";
     } catch (const Failure& failure) {
         EXPECT_NE(failure.Description().find("agenda-data migrate"), std::string::npos);
@@ -115,7 +115,7 @@ TEST_F(StoreCopy, OfAnOlderSchemaTellsHowToUpdateIt)
     EXPECT_FALSE(fs::exists(copy_));
 }
 
-TEST_F(StoreCopy, SumsTellOneValueFromAnother)
+TEST_F(DatabaseCopy, SumsTellOneValueFromAnother)
 {
     const std::vector<TableSum> before = SumsOf(shop_);
     const auto database = OpenDatabase(shop_);
@@ -161,9 +161,9 @@ void FillEveryTable(const std::string& shop)
 
 } // namespace
 
-class StoreCopyPostgresql : public testing::Test {
+class DatabaseCopyPostgresql : public testing::Test {
 protected:
-    StoreCopyPostgresql()
+    DatabaseCopyPostgresql()
     {
         MakeShop(file_);
         FillEveryTable(file_);
@@ -176,40 +176,40 @@ protected:
     kova::test::PostgresDatabase server_{kova::test::PostgresServer::Shared()};
 };
 
-TEST_F(StoreCopyPostgresql, ThereAndBackIsEqual)
+TEST_F(DatabaseCopyPostgresql, ThereAndBackIsEqual)
 {
     const std::vector<TableSum> before = SumsOf(file_);
     for (const TableSum& table : before)
         EXPECT_GT(table.rows, 0) << table.name;
-    CopyStore(file_, server_.Address(), {});
+    CopyDatabase(file_, server_.Address(), {});
     EXPECT_EQ(SumsOf(server_.Address()), before);
-    CopyStore(server_.Address(), back_, {});
+    CopyDatabase(server_.Address(), back_, {});
     EXPECT_EQ(SumsOf(back_), before);
 }
 
-TEST_F(StoreCopyPostgresql, NeverGivesANumberTwiceThereAndBack)
+TEST_F(DatabaseCopyPostgresql, NeverGivesANumberTwiceThereAndBack)
 {
     {
         const auto database = OpenDatabase(file_);
         Insert(*database, UserRow{30, "Carla"});
         database->Session() << "delete from usuario where codigo = 30";
     }
-    CopyStore(file_, server_.Address(), {});
+    CopyDatabase(file_, server_.Address(), {});
     EXPECT_EQ(InsertNew(*OpenDatabase(server_.Address()), UserRow{0, "Ana"}), 31);
     server_.Run("delete from usuario where codigo = 31");
-    CopyStore(server_.Address(), back_, {});
+    CopyDatabase(server_.Address(), back_, {});
     EXPECT_EQ(InsertNew(*OpenDatabase(back_), UserRow{0, "Ana"}), 32);
 }
 
-TEST_F(StoreCopyPostgresql, NeverGoesOverAShop)
+TEST_F(DatabaseCopyPostgresql, NeverGoesOverAShop)
 {
-    CopyStore(file_, server_.Address(), {});
+    CopyDatabase(file_, server_.Address(), {});
     const std::vector<TableSum> before = SumsOf(server_.Address());
-    EXPECT_THROW(CopyStore(file_, server_.Address(), {}), Failure);
+    EXPECT_THROW(CopyDatabase(file_, server_.Address(), {}), Failure);
     EXPECT_EQ(SumsOf(server_.Address()), before);
 }
 
-TEST_F(StoreCopyPostgresql, ThatEndsBeforeItsTimeLeavesNothing)
+TEST_F(DatabaseCopyPostgresql, ThatEndsBeforeItsTimeLeavesNothing)
 {
     for (const std::string& target : {server_.Address(), back_}) {
         std::stop_source stop;
@@ -218,7 +218,8 @@ TEST_F(StoreCopyPostgresql, ThatEndsBeforeItsTimeLeavesNothing)
                               stop.request_stop();
                       },
                       stop.get_token()};
-        EXPECT_NE(FailureOf([&] { CopyStore(file_, target, work); }).find("interrompido"), std::string::npos);
+        EXPECT_NE(FailureOf([&] { CopyDatabase(file_, target, work); }).find("interrompido"),
+                  std::string::npos);
         EXPECT_FALSE(DataSourceExists(target));
     }
     EXPECT_TRUE(server_.Run("select 1 from information_schema.tables where table_schema = 'public'").empty());

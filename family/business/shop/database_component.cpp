@@ -1,0 +1,87 @@
+#include "family/business/shop/database_component.hpp"
+
+#include "agenda/contracts/platform.hpp"
+#include "family/business/shop/company_selection.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/data/sources/shared_database.hpp"
+#include "family/demo/shop.hpp"
+
+namespace kova::family {
+
+std::span<const Method<DatabaseComponent>> DatabaseComponent::Methods()
+{
+    static constexpr Method<DatabaseComponent> methods[] = {
+        {"Verificar", 0, 0, &DatabaseComponent::Verificar},
+        {"Abrir", 0, 0, &DatabaseComponent::Abrir},
+        {"Fechar", 0, 0, &DatabaseComponent::Fechar},
+        {"CriarDemonstracao", 0, 1, &DatabaseComponent::CriarDemonstracao},
+        {"IniciarCopiaDoDia", 1, 1, &DatabaseComponent::IniciarCopiaDoDia},
+    };
+    return methods;
+}
+
+std::span<const Property<DatabaseComponent>> DatabaseComponent::Properties()
+{
+    static constexpr Property<DatabaseComponent> properties[] = {
+        {"Caminho", &DatabaseComponent::Caminho},
+        {"Existe", &DatabaseComponent::Existe},
+        {"NomeFantasia", &DatabaseComponent::NomeFantasia},
+        {"CopiaDoDiaTerminou", &DatabaseComponent::CopiaDoDiaTerminou},
+        {"FalhaDaCopiaDoDia", &DatabaseComponent::FalhaDaCopiaDoDia},
+        {"NumeroDoErro", &DatabaseComponent::NumeroDoErro},
+        {"DescricaoDoErro", &DatabaseComponent::DescricaoDoErro},
+        {"LocalDoErro", &DatabaseComponent::LocalDoErro},
+    };
+    return properties;
+}
+
+Value DatabaseComponent::Caminho() const { return Host().DataSource(); }
+
+Value DatabaseComponent::Existe() const { return DataSourceExists(Host().DataSource()); }
+
+Value DatabaseComponent::Verificar(std::span<Argument>)
+{
+    return Attempt("Verificar", [&] {
+        if (const auto refusal = CheckDataSource(Host().DataSource()))
+            throw DatabaseFailure(*refusal);
+    });
+}
+
+Value DatabaseComponent::Abrir(std::span<Argument>)
+{
+    return Attempt("Abrir", [&] {
+        const std::vector<std::string> names = SelectTradeNames(Data());
+        tradeName_ = names.empty() ? Text() : names.front();
+    });
+}
+
+Value DatabaseComponent::Fechar(std::span<Argument>)
+{
+    LetGo();
+    CloseSharedDatabases();
+    return Integer(0);
+}
+
+Value DatabaseComponent::CriarDemonstracao(std::span<Argument> arguments)
+{
+    return Attempt("CriarDemonstracao", [&] {
+        const Date date = arguments.empty() ? Host().GetPlatform().Clock().Now().date
+                                            : RequireDate(arguments[0].Get().ToText());
+        CreateShop(Host().DataSource(), DemonstrationPlan(date));
+    });
+}
+
+Value DatabaseComponent::IniciarCopiaDoDia(std::span<Argument> arguments)
+{
+    return Attempt("IniciarCopiaDoDia", [&] {
+        const Date day = RequireDate(arguments[0].Get().ToText());
+        backup_.reset();
+        backup_ = std::make_unique<BackgroundBackup>(Host().DataSource(), day);
+    });
+}
+
+Value DatabaseComponent::CopiaDoDiaTerminou() const { return !backup_ || backup_->HasEnded(); }
+
+Value DatabaseComponent::FalhaDaCopiaDoDia() const { return backup_ ? backup_->Reason() : std::string(); }
+
+} // namespace kova::family
