@@ -7,8 +7,9 @@ namespace kova::family {
 
 namespace {
 
-/// An appointment that is not cancelled; moments are "yyyy-mm-dd hh:mm", which order as they come.
-struct Booking {
+/// An appointment that takes room, not being cancelled; moments are "yyyy-mm-dd hh:mm", which order as they
+/// come.
+struct CountedAppointment {
     long long number = 0, employee = 0;
     std::string nickname, start, end;
     int limit = 0;
@@ -18,15 +19,15 @@ struct Booking {
 class Running {
 public:
     /// How many run when this one starts, itself left out.
-    std::size_t Begin(const Booking& booking)
+    std::size_t Begin(const CountedAppointment& appointment)
     {
-        if (booking.employee != employee_)
+        if (appointment.employee != employee_)
             ends_.clear();
-        employee_ = booking.employee;
-        ends_.erase(ends_.begin(), ends_.upper_bound(booking.start));
+        employee_ = appointment.employee;
+        ends_.erase(ends_.begin(), ends_.upper_bound(appointment.start));
         const std::size_t others = ends_.size();
-        if (booking.start < booking.end)
-            ends_.insert(booking.end);
+        if (appointment.start < appointment.end)
+            ends_.insert(appointment.end);
         return others;
     }
 
@@ -37,10 +38,10 @@ private:
 
 } // namespace
 
-void FindBookingsWithoutRoom(Database& database, DateTime now, std::vector<std::string>& problems)
+void FindAppointmentsWithoutRoom(Database& database, DateTime now, std::vector<std::string>& problems)
 {
     const std::string moment = IsoMoment(now);
-    Booking booking;
+    CountedAppointment appointment;
     Running running;
     soci::statement statement =
         (database.Session().prepare << "select a.numero, f.codigo, f.apelido,"
@@ -51,13 +52,14 @@ void FindBookingsWithoutRoom(Database& database, DateTime now, std::vector<std::
                                        " where a.situacao <> 3 and f.agendamentos_simultaneos > 0"
                                        " and a.data_final || ' ' || a.hora_final > :agora"
                                        " order by f.codigo, a.data_inicial, a.hora_inicial, a.numero",
-         soci::into(booking.number), soci::into(booking.employee), soci::into(booking.nickname),
-         soci::into(booking.start), soci::into(booking.end), soci::into(booking.limit),
+         soci::into(appointment.number), soci::into(appointment.employee), soci::into(appointment.nickname),
+         soci::into(appointment.start), soci::into(appointment.end), soci::into(appointment.limit),
          soci::use(moment, "agora"));
     statement.execute();
     while (statement.fetch()) {
-        if (running.Begin(booking) >= static_cast<std::size_t>(booking.limit))
-            problems.push_back("agendamento " + std::to_string(booking.number) + ": " + booking.nickname
+        if (running.Begin(appointment) >= static_cast<std::size_t>(appointment.limit))
+            problems.push_back("agendamento " + std::to_string(appointment.number) + ": "
+                               + appointment.nickname
                                + " já tem, nesse horário, o máximo de agendamentos ao mesmo tempo.");
     }
 }

@@ -92,7 +92,7 @@ std::vector<std::string> FindBrokenRules(Database& database, DateTime now)
     std::vector<std::string> problems;
     FindBrokenRows(database, problems);
     FindBrokenTexts(database, problems);
-    FindBookingsWithoutRoom(database, now, problems);
+    FindAppointmentsWithoutRoom(database, now, problems);
     return problems;
 }
 

@@ -19,6 +19,6 @@ void FindBrokenRows(Database& database, std::vector<std::string>& problems);
 void FindBrokenTexts(Database& database, std::vector<std::string>& problems);
 /// Appointments beyond the number that their employee can have at the same time. What is over by then stays
 /// as it was: an import brings it in so.
-void FindBookingsWithoutRoom(Database& database, DateTime now, std::vector<std::string>& problems);
+void FindAppointmentsWithoutRoom(Database& database, DateTime now, std::vector<std::string>& problems);
 
 } // namespace kova::family
