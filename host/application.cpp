@@ -67,8 +67,6 @@ int RunTelling(const Options& options, Outlet outlet)
 
 } // namespace
 
-std::string VersionText() { return "kovaris " KOVARIS_VERSION "\n"; }
-
 int RunApplication(char* programName, const Options& options)
 {
     const Outlet outlet = ChooseOutlet(options);

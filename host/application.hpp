@@ -2,12 +2,7 @@
 
 #include "host/options.hpp"
 
-#include <string>
-
 namespace kova::host {
-
-/// "kovaris 0.1.0" and a line break.
-std::string VersionText();
 
 /// Runs the application to its end: in a window, or drawn into a picture where the options ask for one or
 /// there is no display. Answers the exit status: 0, or 1 where the agenda could not be opened, which was

@@ -1,4 +1,5 @@
 #include "host/application.hpp"
+#include "host/arguments/call.hpp"
 #include "system/command_line.hpp"
 
 #include <iostream>
@@ -8,14 +9,11 @@ int main(int count, char** words)
     using namespace kova::host;
     try {
         const Options options = ParseOptions(kova::system::Arguments(count, words));
-        if (options.showHelp)
-            std::cout << HelpText();
-        else if (options.showVersion)
-            std::cout << VersionText();
-        else
+        if (!options.answer)
             return RunApplication(words[0], options);
+        std::cout << *options.answer;
         return 0;
-    } catch (const BadOptions& refusal) {
+    } catch (const kova::arguments::BadArguments& refusal) {
         std::cerr << "Kovaris: " << refusal.what() << std::endl;
         return 2;
     }

@@ -3,7 +3,6 @@
 #include "agenda/contracts/date_time.hpp"
 
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -40,21 +39,11 @@ struct Options {
     std::optional<LookChoice> look;
     /// Ends as soon as the day has been painted: for those who measure the start.
     bool firstPaint = false;
-    bool showVersion = false;
-    bool showHelp = false;
+    /// The help or the version: it is printed and nothing opened.
+    std::optional<std::string> answer;
 };
 
-/// A command line that cannot be understood; the text says what is wrong and what to do.
-class BadOptions : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// Reads the arguments behind the program's name, given as "--name VALUE" or "--name=VALUE". A name that
-/// comes twice counts the last time. Throws BadOptions.
-Options ParseOptions(const std::vector<std::string>& arguments);
-
-/// The help text, in Portuguese, with a line break at the end.
-std::string HelpText();
+/// Reads the words behind the program's name. Throws BadArguments.
+Options ParseOptions(const std::vector<std::string>& words);
 
 } // namespace kova::host

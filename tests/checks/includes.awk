@@ -47,6 +47,8 @@ function families_of(header) {
         return "soci"
     if (header ~ /^nlohmann\//)
         return "json"
+    if (header ~ /^CLI\//)
+        return "cli11"
     if (header == "libpq-fe.h")
         return "libpq"
     if (header ~ /^(gtest|gmock)\//)

@@ -18,11 +18,10 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command BackupCommand{
-    "backup",
-    {"BANCO", "ARQUIVO"},
-    {},
-    "copia o banco de um momento para um arquivo novo, também enquanto a agenda está em uso, e\n"
-    "confere a cópia por uma restauração de prova",
+    {"backup",
+     "Copia o banco de um momento para um arquivo novo, também enquanto a agenda está em\n"
+     "uso, e confere a cópia por uma restauração de prova.",
+     {"BANCO", "ARQUIVO"}},
     Run,
 };
 

@@ -42,11 +42,10 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command CheckCommand{
-    "check",
-    {"BANCO"},
-    {},
-    "verifica se o banco está íntegro e se o que contém segue as regras, e conta as suas linhas;\n"
-    "escreve cada problema com a tabela e o número do registro",
+    {"check",
+     "Verifica se o banco está íntegro e se o que contém segue as regras, e conta as suas\n"
+     "linhas; escreve cada problema com a tabela e o número do registro.",
+     {"BANCO"}},
     Run,
 };
 

@@ -6,7 +6,7 @@ namespace kova::data {
 
 /// Runs the program: 0 done, 1 the data cannot be read or written, 2 the command line is wrong. What
 /// went wrong is written to `error` in Portuguese.
-int Run(std::span<const char* const> arguments, DateTime now, std::ostream& output, std::ostream& error);
+int Run(std::span<const std::string> words, DateTime now, std::ostream& output, std::ostream& error);
 
 // Each in the file of its name.
 

@@ -18,11 +18,10 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command CopyCommand{
-    "copy",
-    {"BANCO", "BANCO_NOVO"},
-    {},
-    "copia uma loja para um arquivo novo ou para um banco vazio de um servidor, em qualquer\n"
-    "sentido; a numeração continua de onde está",
+    {"copy",
+     "Copia uma loja para um arquivo novo ou para um banco vazio de um servidor, em\n"
+     "qualquer sentido; a numeração continua de onde está.",
+     {"BANCO", "BANCO_NOVO"}},
     Run,
 };
 

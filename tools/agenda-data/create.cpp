@@ -19,12 +19,14 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command CreateCommand{
-    "create",
-    {"BANCO"},
-    {{"--company", "NOME"}, {"--user", "NOME"}, {"--employee", "NOME"}},
-    "cria uma loja que ainda não começou: a empresa, o usuário (padrão: o do computador), um(a)\n"
-    "funcionário(a) (padrão: o usuário), os tipos de serviço 1 a 4, as espécies mais comuns e os\n"
-    "feriados nacionais",
+    {"create",
+     "Cria uma loja que ainda não começou: a empresa, o usuário (padrão: o do computador),\n"
+     "um(a) funcionário(a) (padrão: o usuário), os tipos de serviço 1 a 4, as espécies\n"
+     "mais comuns e os feriados nacionais.",
+     {"BANCO"},
+     {{"--company", "NOME", "Nome da empresa (padrão: nenhuma)."},
+      {"--user", "NOME", "Nome do usuário (padrão: o do computador)."},
+      {"--employee", "NOME", "Nome do(a) funcionário(a) (padrão: o do usuário)."}}},
     Run,
 };
 

@@ -7,7 +7,7 @@ namespace {
 
 int Run(const Call& call, Surroundings& surroundings)
 {
-    const Date date = call.Day("--date", surroundings.now.date);
+    const Date date = call.Day("--date").value_or(surroundings.now.date);
     family::CreateShop(call.Operand(0), family::DemonstrationPlan(date));
     surroundings.output << "Banco de dados criado: " << call.Operand(0) << "\n";
     return 0;
@@ -16,11 +16,11 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command DemoCommand{
-    "demo",
-    {"BANCO"},
-    {{"--date", "dd/mm/aaaa"}},
-    "cria a loja de demonstração, com agendamentos em torno da data (padrão: hoje); a mesma\n"
-    "data dá sempre o mesmo conteúdo",
+    {"demo",
+     "Cria a loja de demonstração, com agendamentos em torno da data (padrão: hoje); a\n"
+     "mesma data dá sempre o mesmo conteúdo.",
+     {"BANCO"},
+     {{"--date", "dd/mm/aaaa", "O dia em torno do qual há agendamentos (padrão: hoje)."}}},
     Run,
 };
 

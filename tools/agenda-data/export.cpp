@@ -78,7 +78,7 @@ private:
 
 int Run(const Call& call, Surroundings& surroundings)
 {
-    const Register& from = FindRegister(call.Operand(1));
+    const Register& from = FindRegister(call, 1);
     const auto database = family::OpenNewestForReading(call.Operand(0));
     const family::Snapshot snapshot(*database);
     ExportRun run(call, surroundings, CountRows(*database, from.table));
@@ -91,11 +91,11 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command ExportCommand{
-    "export",
-    {"BANCO", "CADASTRO", "ARQUIVO"},
-    {EncodingOption, SeparatorOption},
-    "exporta um cadastro para um novo arquivo CSV (padrão: utf-8 e \";\"), que pode ser\n"
-    "importado de novo",
+    {"export",
+     "Exporta um cadastro para um novo arquivo CSV (padrão: utf-8 e \";\"), que pode ser\n"
+     "importado de novo.",
+     {"BANCO", "CADASTRO", "ARQUIVO"},
+     {EncodingOption, SeparatorOption}},
     Run,
 };
 

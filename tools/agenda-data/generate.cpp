@@ -10,7 +10,7 @@ constexpr long long MostAppointments = 100'000'000;
 
 int Run(const Call& call, Surroundings& surroundings)
 {
-    const Date date = call.Day("--date", surroundings.now.date);
+    const Date date = call.Day("--date").value_or(surroundings.now.date);
     const int customers = static_cast<int>(call.Count("--customers", 50'000, MostCustomers));
     const long long appointments = call.Count("--appointments", 1'000'000, MostAppointments);
     family::CreateShop(call.Operand(0), family::MeasuringPlan(date, customers, appointments));
@@ -21,11 +21,13 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command GenerateCommand{
-    "generate",
-    {"BANCO"},
-    {{"--customers", "N"}, {"--appointments", "N"}, {"--date", "dd/mm/aaaa"}},
-    "cria uma loja grande para medições (padrão: 50000 clientes e 1000000 agendamentos); os\n"
-    "mesmos números dão sempre o mesmo conteúdo",
+    {"generate",
+     "Cria uma loja grande para medições (padrão: 50000 clientes e 1000000 agendamentos);\n"
+     "os mesmos números dão sempre o mesmo conteúdo.",
+     {"BANCO"},
+     {{"--customers", "N", "Quantos clientes (padrão: 50000)."},
+      {"--appointments", "N", "Quantos agendamentos (padrão: 1000000)."},
+      {"--date", "dd/mm/aaaa", "O dia em torno do qual há agendamentos (padrão: hoje)."}}},
     Run,
 };
 

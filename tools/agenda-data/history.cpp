@@ -36,11 +36,10 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command HistoryCommand{
-    "history",
-    {"BANCO", "NÚMERO"},
-    {},
-    "conta quem gravou um agendamento, quando, em que posto, e o que havia antes e depois; também\n"
-    "de um agendamento excluído",
+    {"history",
+     "Conta quem gravou um agendamento, quando, em que posto, e o que havia antes e\n"
+     "depois; também de um agendamento excluído.",
+     {"BANCO", "NÚMERO"}},
     Run,
 };
 

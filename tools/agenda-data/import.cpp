@@ -46,7 +46,7 @@ int Import(ImportRun& run, const std::string& path, Surroundings& surroundings)
 
 int Run(const Call& call, Surroundings& surroundings)
 {
-    const Register& into = FindRegister(call.Operand(1));
+    const Register& into = FindRegister(call, 1);
     const auto encoding = GivenEncoding(call);
     const auto separator = GivenSeparator(call);
     const std::string text = ReadTextFile(call.Operand(2), encoding);
@@ -58,12 +58,12 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command ImportCommand{
-    "import",
-    {"BANCO", "CADASTRO", "ARQUIVO"},
-    {{"--dry-run"}, EncodingOption, SeparatorOption},
-    "importa um arquivo CSV: todas as linhas ou, se alguma tem erro, nenhuma; os erros são\n"
-    "mostrados por linha. Com --dry-run só confere. CADASTRO: clientes, animais, tipos,\n"
-    "servicos, funcionarios, feriados ou agendamentos",
+    {"import",
+     "Importa um arquivo CSV: todas as linhas ou, se alguma tem erro, nenhuma; os erros\n"
+     "são mostrados por linha. Com --dry-run só confere. CADASTRO: clientes, animais,\n"
+     "tipos, servicos, funcionarios, feriados ou agendamentos.",
+     {"BANCO", "CADASTRO", "ARQUIVO"},
+     {{"--dry-run", {}, "Só confere: nada é gravado."}, EncodingOption, SeparatorOption}},
     Run,
 };
 

@@ -20,9 +20,5 @@ kova::DateTime Now()
 int main(int count, char** words)
 {
     kova::system::WriteBytesUnchanged();
-    const std::vector<std::string> texts = kova::system::Arguments(count, words);
-    std::vector<const char*> arguments;
-    for (const std::string& text : texts)
-        arguments.push_back(text.c_str());
-    return kova::data::Run(arguments, Now(), std::cout, std::cerr);
+    return kova::data::Run(kova::system::Arguments(count, words), Now(), std::cout, std::cerr);
 }

@@ -37,7 +37,8 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command MigrateCommand{
-    "migrate", {"BANCO"}, {}, "atualiza o banco para a versão deste programa, depois de o copiar", Run,
+    {"migrate", "Atualiza o banco para a versão deste programa, depois de o copiar.", {"BANCO"}},
+    Run,
 };
 
 } // namespace kova::data

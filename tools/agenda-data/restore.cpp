@@ -18,7 +18,8 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command RestoreCommand{
-    "restore", {"ARQUIVO", "BANCO"}, {}, "restaura uma cópia em um banco novo, e o confere", Run,
+    {"restore", "Restaura uma cópia em um banco novo, e o confere.", {"ARQUIVO", "BANCO"}},
+    Run,
 };
 
 } // namespace kova::data

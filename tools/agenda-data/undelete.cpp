@@ -35,11 +35,11 @@ int Run(const Call& call, Surroundings& surroundings)
 } // namespace
 
 const Command UndeleteCommand{
-    "undelete",
-    {"BANCO", "NÚMERO"},
-    {{"--user", "NOME"}},
-    "restaura um agendamento excluído, com o mesmo número e como estava; NOME fica na auditoria\n"
-    "(padrão: o usuário do computador)",
+    {"undelete",
+     "Restaura um agendamento excluído, com o mesmo número e como estava; NOME fica na\n"
+     "auditoria (padrão: o usuário do computador).",
+     {"BANCO", "NÚMERO"},
+     {{"--user", "NOME", "Quem restaura (padrão: o usuário do computador)."}}},
     Run,
 };
 

@@ -62,8 +62,8 @@ int main(int count, char** words)
     try {
         kova::system::WriteBytesUnchanged();
         const RunOptions options = ParseOptions(kova::system::Arguments(count, words));
-        if (options.help) {
-            std::fputs(HelpText().c_str(), stdout);
+        if (options.answer) {
+            std::fputs(options.answer->c_str(), stdout);
             return Done;
         }
         return RunApart(options, ReadScript(options.file));

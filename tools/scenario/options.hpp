@@ -17,13 +17,11 @@ struct RunOptions {
     int failAt = 0;
     int failWidgetsAt = 0;
     bool printsCount = false;
-    bool help = false;
+    /// The help or the version: it is printed and nothing else done.
+    std::optional<std::string> answer;
 };
 
-/// Reads the words behind the program's name. Throws std::invalid_argument with a text for the user.
+/// Reads the words behind the program's name. Throws BadArguments.
 RunOptions ParseOptions(const std::vector<std::string>& words);
-
-/// How to call the program.
-std::string HelpText();
 
 } // namespace kova::scenario

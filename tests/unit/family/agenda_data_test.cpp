@@ -16,14 +16,11 @@ namespace {
 
 class AgendaData : public testing::Test {
 protected:
-    int Run(std::vector<std::string> words)
+    int Run(const std::vector<std::string>& words)
     {
-        std::vector<const char*> arguments;
-        for (const std::string& word : words)
-            arguments.push_back(word.c_str());
         output_.str("");
         error_.str("");
-        return data::Run(arguments, {{2026, 11, 20}, {9, 0, 0}}, output_, error_);
+        return data::Run(words, {{2026, 11, 20}, {9, 0, 0}}, output_, error_);
     }
 
     static const char* AlreadyThere()
@@ -226,7 +223,8 @@ TEST_F(AgendaData, RefusesAWrongCommandLine)
                                                {"undelete", file, "0"},
                                                {"migrate"}}) {
         EXPECT_EQ(Run(words), 2);
-        EXPECT_TRUE(Complained("Uso:"));
+        EXPECT_TRUE(Complained(" --help")) << error_.str();
+        EXPECT_EQ(output_.str(), "");
     }
     EXPECT_TRUE(std::filesystem::is_empty(folder_.Path()));
 }
@@ -238,6 +236,31 @@ TEST_F(AgendaData, ExplainsItself)
     EXPECT_TRUE(Said("postgresql://usuario@servidor/loja"));
     EXPECT_EQ(Run({"--version"}), 0);
     EXPECT_TRUE(Said("agenda-data "));
+}
+
+TEST_F(AgendaData, ExplainsEachOfItsCommands)
+{
+    Run({"--help"});
+    const std::string all = output_.str();
+    for (const char* command : {"create", "demo", "generate", "migrate", "check", "import", "export",
+                                "backup", "restore", "copy", "history", "undelete"}) {
+        EXPECT_NE(all.find(std::string("\n  ") + command + " "), std::string::npos) << command;
+        EXPECT_EQ(Run({command, "--help"}), 0);
+        EXPECT_TRUE(Said("Uso: agenda-data " + std::string(command) + " ")) << output_.str();
+        EXPECT_EQ(error_.str(), "");
+    }
+    Run({"import", "--help"});
+    EXPECT_TRUE(Said("BANCO CADASTRO ARQUIVO\n")) << output_.str();
+    EXPECT_TRUE(Said("--dry-run"));
+    EXPECT_TRUE(Said("--encoding utf-8|latin-1"));
+}
+
+TEST_F(AgendaData, TakesValuesBehindAnEqualsSignAndOperandsBehindTwoDashes)
+{
+    EXPECT_EQ(Run({"create", "--company=Pet Shop Céu", "--", a_}), 0) << error_.str();
+    std::string company;
+    OpenForReading(a_)->Session() << "select nome_fantasia from empresa", soci::into(company);
+    EXPECT_EQ(company, "Pet Shop Céu");
 }
 
 } // namespace kova::family::test

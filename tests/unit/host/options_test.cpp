@@ -1,5 +1,7 @@
 #include "host/options.hpp"
 
+#include "host/arguments/call.hpp"
+
 #include <gtest/gtest.h>
 
 namespace kova::host {
@@ -10,7 +12,7 @@ std::string RefusalOf(const std::vector<std::string>& arguments)
 {
     try {
         ParseOptions(arguments);
-    } catch (const BadOptions& refusal) {
+    } catch (const arguments::BadArguments& refusal) {
         return refusal.what();
     }
     return {};
@@ -35,8 +37,7 @@ TEST(Options, AreTheDemonstrationShopInAWindowWithoutArguments)
     EXPECT_FALSE(options.look.has_value());
     EXPECT_FALSE(options.size.has_value());
     EXPECT_FALSE(options.firstPaint);
-    EXPECT_FALSE(options.showHelp);
-    EXPECT_FALSE(options.showVersion);
+    EXPECT_FALSE(options.answer.has_value());
 }
 
 TEST(Options, KnowTheSwitchForMeasuringTheStart) { EXPECT_TRUE(ParseOptions({"--first-paint"}).firstPaint); }
@@ -61,9 +62,9 @@ TEST(Options, TakeTheLastOfTwoValues) { EXPECT_EQ(ParseOptions({"--user", "A", "
 
 TEST(Options, KnowHelpByBothNames)
 {
-    EXPECT_TRUE(ParseOptions({"--help"}).showHelp);
-    EXPECT_TRUE(ParseOptions({"-h"}).showHelp);
-    EXPECT_TRUE(ParseOptions({"--version"}).showVersion);
+    EXPECT_EQ(ParseOptions({"--help"}).answer.value_or("").find("Kovaris: agenda de pet shops"), 0u);
+    EXPECT_EQ(ParseOptions({"-h"}).answer, ParseOptions({"--help"}).answer);
+    EXPECT_EQ(ParseOptions({"--version"}).answer.value_or("").find("kovaris "), 0u);
 }
 
 TEST(Options, RefuseAnUnknownNameAndSayIt)
@@ -127,9 +128,9 @@ TEST(Options, ChooseALook)
 
 TEST(Options, HelpNamesEveryOption)
 {
-    const std::string help = HelpText();
-    for (const char* name :
-         {"--database", "--user", "--date", "--time", "--picture", "--size", "--look", "--version", "--help"})
+    const std::string help = ParseOptions({"--help"}).answer.value_or("");
+    for (const char* name : {"--database", "--user", "--date", "--time", "--picture", "--size", "--look",
+                             "--first-paint", "--version", "--help"})
         EXPECT_NE(help.find(name), std::string::npos) << name;
 }
 

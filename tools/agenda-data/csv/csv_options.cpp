@@ -11,7 +11,7 @@ std::optional<Encoding> GivenEncoding(const Call& call)
         return Encoding::Utf8;
     if (*name == "latin-1")
         return Encoding::Latin1;
-    throw UsageError("A codificação \"" + *name + "\" não é conhecida. Use utf-8 ou latin-1.");
+    call.Refuse("A codificação \"" + *name + "\" não é conhecida. Use utf-8 ou latin-1.");
 }
 
 std::optional<char> GivenSeparator(const Call& call)
@@ -21,7 +21,7 @@ std::optional<char> GivenSeparator(const Call& call)
         return std::nullopt;
     if (*text == "," || *text == ";")
         return text->front();
-    throw UsageError("O separador \"" + *text + "\" não é conhecido. Use \",\" ou \";\".");
+    call.Refuse("O separador \"" + *text + "\" não é conhecido. Use \",\" ou \";\".");
 }
 
 } // namespace kova::data

@@ -5,10 +5,12 @@
 
 namespace kova::data {
 
-inline constexpr Option EncodingOption{"--encoding", "utf-8|latin-1"};
-inline constexpr Option SeparatorOption{"--separator", "\",\"|\";\""};
+inline constexpr arguments::Option EncodingOption{"--encoding", "utf-8|latin-1",
+                                                  "Codificação do arquivo CSV."};
+inline constexpr arguments::Option SeparatorOption{"--separator", "\",\"|\";\"",
+                                                   "O que separa as colunas do arquivo CSV."};
 
-/// What the call says; nothing where it says nothing. Throws UsageError.
+/// What the call says; nothing where it says nothing. Throws BadArguments.
 std::optional<Encoding> GivenEncoding(const Call& call);
 std::optional<char> GivenSeparator(const Call& call);
 

@@ -14,8 +14,9 @@ std::span<const Register* const> Registers()
     return registers;
 }
 
-const Register& FindRegister(std::string_view name)
+const Register& FindRegister(const arguments::Call& call, std::size_t operand)
 {
+    const std::string& name = call.Operand(operand);
     const std::string folded = family::FoldText(name);
     std::string names;
     for (const Register* one : Registers()) {
@@ -23,7 +24,7 @@ const Register& FindRegister(std::string_view name)
             return *one;
         names.append(names.empty() ? "" : ", ").append(one->name);
     }
-    throw UsageError("O cadastro \"" + std::string(name) + "\" não existe. Cadastros: " + names + ".");
+    call.Refuse("O cadastro \"" + name + "\" não existe. Cadastros: " + names + ".");
 }
 
 } // namespace kova::data

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/date_time.hpp"
 #include "family/data/audit/author.hpp"
+#include "host/arguments/call.hpp"
 #include "tools/agenda-data/csv/header.hpp"
 
 #include <functional>
@@ -54,7 +55,8 @@ extern const Register ServiceTypeRegister;
 /// All of them, those first that others refer to.
 std::span<const Register* const> Registers();
 
-/// Throws UsageError where there is none of that name; case and accents are of no matter.
-const Register& FindRegister(std::string_view name);
+/// The one that the operand names; case and accents are of no matter. Throws BadArguments where there is
+/// none.
+const Register& FindRegister(const arguments::Call& call, std::size_t operand);
 
 } // namespace kova::data

@@ -17,12 +17,9 @@ void ImportTest::MakeEmptyDatabase(const std::string& path)
 
 int ImportTest::Run(const std::vector<std::string>& words)
 {
-    std::vector<const char*> arguments;
-    for (const std::string& word : words)
-        arguments.push_back(word.c_str());
     output_.str("");
     error_.str("");
-    return data::Run(arguments, {{2026, 11, 20}, {9, 0, 0}}, output_, error_);
+    return data::Run(words, {{2026, 11, 20}, {9, 0, 0}}, output_, error_);
 }
 
 int ImportTest::Import(const std::string& name, const std::string& content, std::vector<std::string> options)

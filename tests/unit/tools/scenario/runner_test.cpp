@@ -72,10 +72,15 @@ TEST_F(TheRunner, RefusesActsInASetUpByItsFileAndLine)
 TEST_F(TheRunner, RefusesWhatItsCommandLineDoesNotKnow)
 {
     EXPECT_EQ(Call("").status, 2);
-    EXPECT_EQ(Call("--voar x").status, 2);
+    const Result unknown = Call("--voar x");
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_EQ(unknown.text, "A opção --voar não existe. Use agenda-scenario --help para ver as opções.\n");
+    EXPECT_EQ(Call("x y").status, 2);
+    EXPECT_EQ(Call("--fail-at").status, 2);
     EXPECT_EQ(Call("--fail-at 0 x").status, 2);
     EXPECT_EQ(Call("/nao/existe.scenario").status, 2);
     EXPECT_EQ(Call("--help").status, 0);
+    EXPECT_EQ(Call("--version").text.find("agenda-scenario "), 0U);
 }
 
 TEST_F(TheRunner, SaysWhyTheUserCannotDoAThing)
@@ -103,7 +108,7 @@ TEST_F(TheRunner, InjectsOneFailureAndCountsTheCrossings)
     EXPECT_NE(failed.text.find("SelecionarParaComboBox(Double& 0)\nraise 5 \"Falha injetada\"\n"),
               std::string::npos)
         << failed.text;
-    const Result widget = Run(shop + "open", "--fail-widgets-at 1");
+    const Result widget = Run(shop + "open", "--fail-widgets-at=1");
     EXPECT_NE(widget.text.find("Text& \"Falha injetada\""), std::string::npos) << widget.text;
 }
 

@@ -1,0 +1,1 @@
+kovaris_test_program(test_arguments host_arguments)
