@@ -2,28 +2,11 @@
 
 #include "family/data/rows/insert_row.hpp"
 
-#include <cstdio>
+#include <nlohmann/json.hpp>
 
 namespace kova::family {
 
 namespace {
-
-std::string Quoted(std::string_view text)
-{
-    std::string quoted = "\"";
-    for (const char character : text) {
-        if (character == '"' || character == '\\')
-            quoted += '\\';
-        if (static_cast<unsigned char>(character) >= 0x20) {
-            quoted += character;
-            continue;
-        }
-        char code[8];
-        std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(character));
-        quoted += code;
-    }
-    return quoted + '"';
-}
 
 AuditRow RowOf(const Author& author, const char* table, Key key, const char* operation)
 {
@@ -39,35 +22,41 @@ AuditRow RowOf(const Author& author, const char* table, Key key, const char* ope
 
 } // namespace
 
-AuditValues& AuditValues::Add(std::string_view column, long long value)
-{
-    return AddWritten(column, std::to_string(value));
-}
+AuditValues& AuditValues::Add(std::string_view column, long long value) { return Keep(column, value); }
 
 AuditValues& AuditValues::Add(std::string_view column, const std::string& value)
 {
-    return AddWritten(column, Quoted(value));
+    return Keep(column, value);
 }
 
 AuditValues& AuditValues::Add(std::string_view column, const Nullable<std::string>& value)
 {
-    return AddWritten(column, value.IsNull() ? "null" : Quoted(value.value));
+    return value.IsNull() ? Keep(column, nullptr) : Keep(column, value.value);
 }
 
 AuditValues& AuditValues::Add(std::string_view column, const Nullable<Key>& value)
 {
-    return AddWritten(column, value.IsNull() ? "null" : std::to_string(value.value));
+    return value.IsNull() ? Keep(column, nullptr) : Keep(column, value.value);
 }
 
 AuditValues& AuditValues::Add(std::string_view column, const Nullable<int>& value)
 {
-    return AddWritten(column, value.IsNull() ? "null" : std::to_string(value.value));
+    return value.IsNull() ? Keep(column, nullptr) : Keep(column, value.value);
 }
 
-AuditValues& AuditValues::AddWritten(std::string_view column, const std::string& written)
+AuditValues& AuditValues::Keep(std::string_view column, Kept value)
 {
-    members_.append(members_.empty() ? "" : ",").append(Quoted(column)).append(":").append(written);
+    columns_.emplace_back(column, std::move(value));
     return *this;
+}
+
+std::string AuditValues::Line() const
+{
+    auto line = nlohmann::ordered_json::object();
+    for (const auto& [column, kept] : columns_)
+        std::visit([&line, &key = column](const auto& value) { line[key] = value; }, kept);
+    // A text that is no UTF-8 loses the characters that are none: the write and its line count for more.
+    return line.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
 
 void AuditInsertion(Database& database, const Author& author, const char* table, Key key,

@@ -3,13 +3,17 @@
 #include "family/data/audit/author.hpp"
 #include "family/data/rows/rows.hpp"
 
+#include <string>
 #include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
 
 namespace kova::family {
 
 class Database;
 
-/// Values of a row by their columns, as one line of JSON.
+/// Values of a row by their columns, in the order in which they are added, as one line of JSON in UTF-8.
 class AuditValues {
 public:
     AuditValues& Add(std::string_view column, long long value);
@@ -18,12 +22,14 @@ public:
     AuditValues& Add(std::string_view column, const Nullable<Key>& value);
     AuditValues& Add(std::string_view column, const Nullable<int>& value);
 
-    std::string Line() const { return "{" + members_ + "}"; }
+    std::string Line() const;
 
 private:
-    AuditValues& AddWritten(std::string_view column, const std::string& written);
+    using Kept = std::variant<std::nullptr_t, long long, std::string>;
 
-    std::string members_;
+    AuditValues& Keep(std::string_view column, Kept value);
+
+    std::vector<std::pair<std::string, Kept>> columns_;
 };
 
 /// The values of `operacao`.

@@ -91,4 +91,17 @@ TEST_F(AppointmentHistory, ReadsTextsAsTheyWereWritten)
     EXPECT_EQ(lines[0].before.at("versao"), "1");
 }
 
+TEST_F(AppointmentHistory, ReadsLineBreaksByTheirNumbersToo)
+{
+    OtherChanges(SimplifiedNumber, [](AppointmentInput& input) { input.remark = "uma e outra"; });
+    std::string before = "uma e outra";
+    for (const std::string written : {"uma\\r\\noutra", "uma\\u000d\\u000aoutra"}) {
+        Run("update auditoria set depois = replace(depois, '" + before + "', '" + written + "')");
+        const auto database = SharedDatabase(host_.DataSource());
+        const auto lines = FindAuditLines(*database, AppointmentRow::Table, SimplifiedNumber, 1);
+        EXPECT_EQ(lines.at(0).after.at("observacao"), "uma\r\noutra") << written;
+        before = written;
+    }
+}
+
 } // namespace kova::family::test
