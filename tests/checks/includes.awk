@@ -51,6 +51,8 @@ function families_of(header) {
         return "cli11"
     if (header == "libpq-fe.h")
         return "libpq"
+    if (header == "utf8proc.h")
+        return "utf8proc"
     if (header ~ /^(gtest|gmock)\//)
         return "gtest"
     if (header ~ /^(sys\/[a-z]+|dlfcn|netdb|poll|pwd|unistd)\.h$/)

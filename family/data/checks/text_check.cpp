@@ -1,6 +1,7 @@
 #include "family/data/checks/rule_check.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/engine/migration.hpp"
 #include "family/data/engine/nullable.hpp"
 
 namespace kova::family {
@@ -66,6 +67,9 @@ void FindBrokenTexts(Database& database, std::vector<std::string>& problems)
                                                + " não é uma data ou hora.");
                     });
     }
+    // Texts that an older version has folded are folded anew when the database is opened for work.
+    if (VersionOf(database) != NewestVersion(CurrentMigrations()))
+        return;
     for (const NamedTable& table : NamedTables) {
         ForEachText(database, table, "nome, nome_de_busca",
                     [&](const std::string& row, const std::string& name, const std::string& folded) {

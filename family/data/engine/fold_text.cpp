@@ -1,43 +1,72 @@
 #include "family/data/engine/fold_text.hpp"
 
+#include <utf8proc.h>
+
+#include <array>
+
 namespace kova::family {
 
 namespace {
 
-/// Base letters of U+00C0 to U+017F; '*' where a character has none.
-constexpr std::string_view BaseLetters = "aaaaaa*ceeeeiiiidnooooo*ouuuuy**aaaaaa*ceeeeiiiidnooooo*ouuuuy*y"
-                                         "aaaaaaccccccccddddeeeeeeeeeegggggggghhhhiiiiiiiiii**jjkkklllllll"
-                                         "lllnnnnnnnnnoooooo**rrrrrrssssssssttttttuuuuuuuuuuuuwwyyyzzzzzzs";
-static_assert(BaseLetters.size() == 0x180 - 0xC0);
+/// What the library does to each character: takes compatible forms (ordinals, full width) and accents apart,
+/// drops the marks and what has no width, writes small letters and plain quotes, dashes and blanks.
+constexpr int Folding = UTF8PROC_COMPAT | UTF8PROC_DECOMPOSE | UTF8PROC_STRIPMARK | UTF8PROC_CASEFOLD
+    | UTF8PROC_LUMP | UTF8PROC_IGNORE;
 
-unsigned ByteAt(std::string_view text, std::size_t at) { return static_cast<unsigned char>(text[at]); }
+/// Room for the longest that becomes of one character.
+using Decomposed = std::array<utf8proc_int32_t, 32>;
 
-bool IsTwoByteCharacter(std::string_view text, std::size_t at)
+/// What Brazilian keyboards offer for an apostrophe: the library takes one for an accent above a blank and
+/// leaves the other.
+bool IsAccentAlone(utf8proc_int32_t character) { return character == U'´' || character == U'`'; }
+
+/// Letters with a stroke and such are letters of their own for the library, but nobody types them to find
+/// one.
+utf8proc_int32_t BaseLetter(utf8proc_int32_t letter)
 {
-    return (ByteAt(text, at) & 0xE0u) == 0xC0u && at + 1 < text.size()
-        && (ByteAt(text, at + 1) & 0xC0u) == 0x80u;
+    switch (letter) {
+    case U'đ': return 'd';
+    case U'ħ': return 'h';
+    case U'ı': return 'i';
+    case U'ĸ': return 'k';
+    case U'ł': return 'l';
+    case U'ŋ': return 'n';
+    case U'ø': return 'o';
+    case U'ŧ': return 't';
+    default: return letter;
+    }
 }
 
-bool IsCombiningMark(unsigned character) { return character >= 0x300 && character < 0x370; }
-
-void AppendFolded(std::string& folded, std::string_view bytes, unsigned character)
+void Append(std::string& text, utf8proc_int32_t character)
 {
-    if (IsCombiningMark(character))
-        return;
-    if (character == 0xDF) {
-        folded += "ss";
-        return;
-    }
-    const bool hasBase = character >= 0xC0 && character < 0x180 && BaseLetters[character - 0xC0] != '*';
-    if (hasBase)
-        folded += BaseLetters[character - 0xC0];
-    else
-        folded += bytes;
+    std::array<utf8proc_uint8_t, 4> bytes{};
+    const utf8proc_ssize_t length = utf8proc_encode_char(character, bytes.data());
+    text.append(bytes.begin(), bytes.begin() + length);
+}
+
+void AppendDecomposed(std::string& folded, utf8proc_int32_t character)
+{
+    Decomposed parts;
+    int boundary = 0;
+    const utf8proc_ssize_t count = utf8proc_decompose_char(
+        character, parts.data(), parts.size(), static_cast<utf8proc_option_t>(Folding), &boundary);
+    for (utf8proc_ssize_t at = 0; at < count; ++at)
+        Append(folded, BaseLetter(parts[static_cast<std::size_t>(at)]));
 }
 
 char LowerAscii(char letter)
 {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+}
+
+void AppendFolded(std::string& folded, utf8proc_int32_t character)
+{
+    if (IsAccentAlone(character))
+        folded += '\'';
+    else if (character < 0x80) // Most of them: not worth a look into the library's tables.
+        folded += LowerAscii(static_cast<char>(character));
+    else
+        AppendDecomposed(folded, character);
 }
 
 } // namespace
@@ -46,14 +75,16 @@ std::string FoldText(std::string_view text)
 {
     std::string folded;
     folded.reserve(text.size());
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (!IsTwoByteCharacter(text, at)) {
-            folded += LowerAscii(text[at]);
-            continue;
-        }
-        const unsigned character = (ByteAt(text, at) & 0x1Fu) << 6u | (ByteAt(text, at + 1) & 0x3Fu);
-        AppendFolded(folded, text.substr(at, 2), character);
-        ++at;
+    const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
+    for (std::size_t at = 0; at < text.size();) {
+        utf8proc_int32_t character = 0;
+        const utf8proc_ssize_t length =
+            utf8proc_iterate(bytes + at, static_cast<utf8proc_ssize_t>(text.size() - at), &character);
+        if (length > 0)
+            AppendFolded(folded, character);
+        else
+            folded += text[at]; // A byte that belongs to no character.
+        at += length > 0 ? static_cast<std::size_t>(length) : 1;
     }
     return folded;
 }

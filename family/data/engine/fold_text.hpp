@@ -6,7 +6,9 @@
 namespace kova::family {
 
 /// Lower case without accents, as texts are kept for searching and ordering: "José Antônio" becomes
-/// "jose antonio". Characters outside the Latin letters stay as they are.
+/// "jose antonio". What is another form of a plain character becomes it: ordinals, full width, typographic
+/// apostrophes, dashes and blanks; "D’Ávila nº 1º" becomes "d'avila no 1o". All other characters, and bytes
+/// that are none, stay as they are. A change of it needs a step of the schema that folds the kept texts anew.
 std::string FoldText(std::string_view text);
 
 /// Only the digits of a document number, where the text is one: digits with blanks, points, dashes and

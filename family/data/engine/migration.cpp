@@ -10,6 +10,8 @@ void Run(soci::session& session, const Dialect& dialect, const Migration& migrat
 {
     for (const std::string& statement : migration.statements(dialect))
         session << statement;
+    if (migration.work != nullptr)
+        migration.work(session);
     session << "insert into versao_do_esquema (versao) values (:versao)", soci::use(migration.version);
 }
 

@@ -13,10 +13,12 @@ namespace kova::family {
 
 class Database;
 
-/// One step of the schema: the statements that lead from the version before to this one.
+/// One step of the schema: the statements that lead from the version before to this one, and what is done to
+/// the rows behind them where no statement can.
 struct Migration {
     int version;
     std::vector<std::string> (*statements)(const Dialect& dialect);
+    void (*work)(soci::session& session) = nullptr;
 };
 
 /// All steps from an empty database on, in order.

@@ -9,16 +9,16 @@ namespace kova::family {
 
 SearchText::SearchText(std::string_view typed)
 {
-    const std::string text = Trim(typed);
-    folded = FoldText(text);
+    folded = Trim(FoldText(typed));
     pattern = ContainsPattern(folded);
-    const std::string found = DigitsOf(text);
+    // Folded dashes and digits are plain ones: a pasted number is one too.
+    const std::string found = DigitsOf(folded);
     if (found.empty())
         return;
     digits = found;
     long long number = 0;
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    const char* end = folded.data() + folded.size();
+    const auto [stop, error] = std::from_chars(folded.data(), end, number);
     if (error == std::errc() && stop == end)
         code = number;
 }

@@ -11,6 +11,7 @@ constexpr Migration Steps[] = {
     {2, SchemaOfVersion2},
     {3, SchemaOfVersion3},
     {4, SchemaOfVersion4},
+    {5, SchemaOfVersion5, FoldTextsAnew},
 };
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "family/data/engine/dialect.hpp"
 
+#include <soci/soci.h>
+
 #include <string>
 #include <vector>
 
@@ -12,5 +14,9 @@ std::vector<std::string> SchemaOfVersion1(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion2(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion3(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion4(const Dialect& dialect);
+/// Changes rows alone.
+std::vector<std::string> SchemaOfVersion5(const Dialect& dialect);
+/// Writes the folded texts that the rows keep where they are not what is folded of their texts today.
+void FoldTextsAnew(soci::session& session);
 
 } // namespace kova::family

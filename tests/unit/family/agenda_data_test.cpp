@@ -5,6 +5,7 @@
 #include "family/data/copies/row_copy.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/migrations/current_migrations.hpp"
+#include "family/data/selections/customer_selection.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 
@@ -13,6 +14,36 @@
 namespace kova::family::test {
 
 namespace {
+
+/// A shop with one row of each kind whose texts were folded when accents alone were.
+const std::vector<std::string> RowsOfVersion4 = {
+    "insert into tipo_de_servico values (4, 'D´Água 1º', 'd´agua 1º', 1)",
+    "insert into servico values (2, 'D´Água 1º', 'd´agua 1º', '', 4, 60, 6000, 0, null, 1)",
+    "insert into funcionario values (2, 'Bia', 'D´Água 1º', 'd´agua 1º', 1, 1)",
+    "insert into especie values (1, 'D´Água 1º', 'd´agua 1º', 1)",
+    "insert into raca values (1, 1, 'D´Água 1º', 'd´agua 1º', 1)",
+    "insert into cliente (codigo, tipo_de_pessoa, apelido, nome, documento, categoria_da_curva_abc, "
+    "logradouro,"
+    " numero, complemento, bairro, cidade, uf, cep, endereco_completo, endereco_completo_com_cep, "
+    "tipos_e_canais,"
+    " nome_de_busca, nomes_de_busca, endereco_de_busca) values (7, 'PF', 'D’Á', 'Inês D’Ávila 1º', '', 'A',"
+    " 'Rua 1º de Maio', 'nº 7', '', '', '', '', '', 'Rua 1º de Maio, nº 7', 'Rua 1º de Maio, nº 7', '',"
+    " 'ines d’avila 1º', 'd’a\nines d’avila 1º', 'rua 1º de maio, nº 7')",
+    "insert into animal values (3, 7, 'D´Água 1º', 'F', 1, 1, '', null, null, 1, 'd´agua 1º')",
+    "insert into agendamento (numero, data_inicial, hora_inicial, data_final, hora_final, "
+    "tipo_do_agendamento,"
+    " nome_do_cliente, nome_do_animal, numero_do_tipo_de_servico, codigo_do_servico, codigo_do_funcionario,"
+    " situacao, incluido_em, incluido_por, texto_de_busca) values (5, '2026-11-20', '09:00', '2026-11-20', "
+    "'10:00',"
+    " 1, 'D’Á', 'Lulu nº 1', 4, 2, 2, 1, '2026-11-01 09:00:00', 'Carla', 'd’a\nlulu nº 1')",
+    "insert into agendamento (numero, data_inicial, hora_inicial, data_final, hora_final, "
+    "tipo_do_agendamento,"
+    " codigo_do_cliente, codigo_do_animal, numero_do_tipo_de_servico, codigo_do_servico, "
+    "codigo_do_funcionario,"
+    " situacao, incluido_em, incluido_por) values (6, '2026-11-20', '11:00', '2026-11-20', '12:00', 0, 7, 3, "
+    "4, 2,"
+    " 2, 1, '2026-11-01 09:00:00', 'Carla')",
+};
 
 class AgendaData : public testing::Test {
 protected:
@@ -31,12 +62,15 @@ protected:
     bool Said(const std::string& words) const { return output_.str().find(words) != std::string::npos; }
     bool Complained(const std::string& words) const { return error_.str().find(words) != std::string::npos; }
 
-    /// Makes the schema of version 1.
-    static void MakeOldest(const std::string& place)
+    /// Makes the schema of an older version, and rows by statements of its time.
+    static void MakeOld(const std::string& place, std::size_t version,
+                        const std::vector<std::string>& statements = {})
     {
         const Dialect& dialect = TestsRunOnServer() ? PostgresqlDialect() : SqliteDialect();
         Database database(dialect, TestsRunOnServer() ? ConnectionTo(place) : "dbname=" + place, place);
-        Migrate(database.Session(), dialect, CurrentMigrations().first(1));
+        Migrate(database.Session(), dialect, CurrentMigrations().first(version));
+        for (const std::string& statement : statements)
+            database.Session() << statement;
     }
 
     TemporaryFolder folder_;
@@ -131,13 +165,36 @@ TEST_F(AgendaData, CreatesAShopWithoutACompanyForWhoeverRunsIt)
 
 TEST_F(AgendaData, BringsAnOlderShopUpToDate)
 {
-    MakeOldest(a_);
+    MakeOld(a_, 1);
     const std::string newest = std::to_string(NewestVersion(CurrentMigrations()));
     EXPECT_EQ(Run({"migrate", a_}), 0);
     EXPECT_TRUE(Said("da versão 1 para a versão " + newest + ".\n")) << output_.str();
     EXPECT_EQ(Said(a_ + ".antes-da-versao-" + newest + ".bak\n"), !TestsRunOnServer()) << output_.str();
     EXPECT_EQ(Run({"migrate", a_}), 0);
     EXPECT_TRUE(Said("já está na versão " + newest)) << output_.str();
+}
+
+TEST_F(AgendaData, FoldsTheTextsOfAnOlderShopAnew)
+{
+    const auto folded = [this](const std::string& column, const std::string& table) {
+        std::string text;
+        OpenForReading(a_)->Session() << "select " + column + " from " + table, soci::into(text);
+        return text;
+    };
+    MakeOld(a_, 4, RowsOfVersion4);
+    EXPECT_EQ(Run({"check", a_}), 0) << error_.str();
+    EXPECT_EQ(folded("nome_de_busca", "cliente"), "ines d’avila 1º");
+
+    EXPECT_EQ(Run({"migrate", a_}), 0) << error_.str();
+    for (const char* table : {"tipo_de_servico", "servico", "funcionario", "especie", "raca", "animal"})
+        EXPECT_EQ(folded("nome_de_busca", table), "d'agua 1o") << table;
+    EXPECT_EQ(folded("nome_de_busca", "cliente"), "ines d'avila 1o");
+    EXPECT_EQ(folded("nomes_de_busca", "cliente"), "d'a\nines d'avila 1o");
+    EXPECT_EQ(folded("endereco_de_busca", "cliente"), "rua 1o de maio, no 7");
+    EXPECT_EQ(folded("texto_de_busca", "agendamento where numero = 5"), "d'a\nlulu no 1");
+    EXPECT_EQ(folded("texto_de_busca", "agendamento where numero = 6"), "");
+    EXPECT_EQ(SelectCustomers(*OpenDatabase(a_), {"d´ávila", "", 0, "nº 7"}).size(), 1U);
+    EXPECT_EQ(Run({"check", a_}), 0) << error_.str();
 }
 
 TEST_F(AgendaData, CopiesAShop)
@@ -188,7 +245,7 @@ TEST_F(AgendaData, TellsTheHistoryOfAnAppointmentAndRestoresIt)
 
 TEST_F(AgendaData, TellsHowAnOlderShopIsBroughtUpToDate)
 {
-    MakeOldest(a_);
+    MakeOld(a_, 1);
     WriteContent(folder_ / "tipos.csv", "Nome\nBanho\n");
     for (const std::vector<std::string>& words :
          std::vector<std::vector<std::string>>{{"history", a_, "3"},

@@ -1,4 +1,5 @@
 #include "family/data/engine/fold_text.hpp"
+#include "family/data/engine/search_text.hpp"
 
 #include <gtest/gtest.h>
 
@@ -14,10 +15,40 @@ TEST(FoldText, DropsCaseAndAccents)
 
 TEST(FoldText, DropsAccentsThatStandApart) { EXPECT_EQ(FoldText("Jose\xCC\x81"), "jose"); }
 
+TEST(FoldText, TakesEveryApostropheDashAndBlankForThePlainOne)
+{
+    for (const char* name : {"D'Ávila", "D’Ávila", "D‘Ávila", "D´Ávila", "D`Ávila", "DʼÁvila"})
+        EXPECT_EQ(FoldText(name), "d'avila") << name;
+    EXPECT_EQ(FoldText("São\u2011João \u2013 X\u00A0Y\u3000Z"), "sao-joao - x y z");
+}
+
+TEST(FoldText, TakesOrdinalsLigaturesAndFullWidthForTheirLetters)
+{
+    EXPECT_EQ(FoldText("1º 2ª nº № ²"), "1o 2a no no 2");
+    EXPECT_EQ(FoldText("ﬁ ½"), "fi 1/2");
+    EXPECT_EQ(FoldText("ＪＯＳＥ　１２３％"), "jose 123%");
+}
+
+TEST(FoldText, TakesLettersWithAStrokeForTheirBase)
+{
+    EXPECT_EQ(FoldText("Øø Łł Đđ Ħħ Ŧŧ ı İ ŋ ĸ Ǿ"), "oo ll dd hh tt i i n k o");
+}
+
+TEST(FoldText, LeavesOutWhatHasNoWidth) { EXPECT_EQ(FoldText("a\u00ADb\u200Bc"), "abc"); }
+
+TEST(FoldText, ChangesNothingThatIsFolded)
+{
+    for (const char* text :
+         {"D´Ávila", "1º Łódź №½", "ＪＯＳＥ　１２３％", "Straße İ", "日本 × €", "\xC3\x28"})
+        EXPECT_EQ(FoldText(FoldText(text)), FoldText(text));
+}
+
 TEST(FoldText, LeavesEverythingElse)
 {
     EXPECT_EQ(FoldText("日本 × 10 €"), "日本 × 10 €");
     EXPECT_EQ(FoldText("\xC3"), "\xC3");
+    EXPECT_EQ(FoldText("Jos\xE9 \xC3\xA9"), "jos\xE9 e");
+    EXPECT_EQ(FoldText("A\r\n\tB"), "a\r\n\tb");
     EXPECT_EQ(FoldText(""), "");
 }
 
@@ -33,6 +64,16 @@ TEST(ContainsPattern, TakesEveryCharacterAsItStands)
 {
     EXPECT_EQ(ContainsPattern("a"), "%a%");
     EXPECT_EQ(ContainsPattern("50%_!"), "%50!%!_!!%");
+}
+
+TEST(SearchText, ReadsAPastedNumberByItsPlainDigits)
+{
+    const SearchText document("\u00A0１２３.456.789\u201009\u00A0");
+    EXPECT_EQ(document.folded, "123.456.789-09");
+    EXPECT_EQ(document.digits.value, "12345678909");
+    EXPECT_TRUE(document.code.IsNull());
+    EXPECT_EQ(SearchText(" １２ ").code.value, 12);
+    EXPECT_TRUE(SearchText("\u00A0 \u200B").IsEmpty());
 }
 
 } // namespace kova::family::test
