@@ -1,9 +1,12 @@
 #include "agenda/contracts/date_time.hpp"
 
 #include <array>
+#include <chrono>
 #include <cstdio>
 
 namespace kova {
+
+namespace chrono = std::chrono;
 
 namespace {
 
@@ -11,20 +14,18 @@ constexpr int FirstYear = 100;
 constexpr int LastYear = 9999;
 constexpr Long MinutesOfDay = 24 * 60;
 
-bool IsLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
-
-/// Days since 01/03/0000. Years are taken to begin in March, so that the leap day is the last of its
-/// year and each month, counted from 0, begins (153 * month + 2) / 5 days after the year's beginning.
-constexpr Long DaysSinceMarch(Date date)
+constexpr chrono::sys_days DayOf(Date date)
 {
-    const int year = date.month > 2 ? date.year : date.year - 1;
-    const int month = (date.month + 9) % 12;
-    return 365 * year + year / 4 - year / 100 + year / 400 + (153 * month + 2) / 5 + date.day - 1;
+    return chrono::year(date.year) / chrono::month(static_cast<unsigned>(date.month))
+        / chrono::day(static_cast<unsigned>(date.day));
 }
 
-constexpr Long DayZero = DaysSinceMarch({1899, 12, 30});
-constexpr Long FirstDay = DaysSinceMarch({FirstYear, 1, 1}) - DayZero;
-constexpr Long LastDay = DaysSinceMarch({LastYear, 12, 31}) - DayZero;
+constexpr chrono::sys_days DayZero = DayOf({1899, 12, 30});
+
+constexpr Long NumberOf(chrono::sys_days day) { return static_cast<Long>((day - DayZero).count()); }
+
+constexpr Long FirstDay = NumberOf(DayOf({FirstYear, 1, 1}));
+constexpr Long LastDay = NumberOf(DayOf({LastYear, 12, 31}));
 
 Date DateOfCheckedDay(std::int64_t day)
 {
@@ -35,24 +36,15 @@ Date DateOfCheckedDay(std::int64_t day)
 
 } // namespace
 
-Long DayNumber(Date date) { return DaysSinceMarch(date) - DayZero; }
+Long DayNumber(Date date) { return NumberOf(DayOf(date)); }
 
 Date DateOfDayNumber(Long day)
 {
     if (day < FirstDay || day > LastDay)
         throw Failure(FailureNumber::Overflow);
-    constexpr Long daysOf400Years = 146097;
-    const Long days = day + DayZero;
-    const Long dayOfEra = days % daysOf400Years;
-    // What the leap days before it have added is taken out, so that each year has 365 days.
-    const Long year = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
-    const Long dayOfYear = dayOfEra - (365 * year + year / 4 - year / 100);
-    const Long month = (5 * dayOfYear + 2) / 153;
-    Date date;
-    date.day = dayOfYear - (153 * month + 2) / 5 + 1;
-    date.month = month < 10 ? month + 3 : month - 9;
-    date.year = days / daysOf400Years * 400 + year + (date.month <= 2 ? 1 : 0);
-    return date;
+    const chrono::year_month_day date(DayZero + chrono::days(day));
+    return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+            static_cast<int>(static_cast<unsigned>(date.day()))};
 }
 
 Date AddDays(Date date, Long days) { return DateOfCheckedDay(std::int64_t(DayNumber(date)) + days); }
@@ -70,18 +62,14 @@ DateTime AddMinutes(DateTime moment, Long minutes)
     return {date, {static_cast<int>(total / 60), static_cast<int>(total % 60), moment.time.second}};
 }
 
-int Weekday(Date date)
-{
-    // Day 0 was a Saturday; 7 before the remainder keeps it positive.
-    return ((DayNumber(date) % 7) + 7 + 6) % 7 + 1;
-}
+int Weekday(Date date) { return static_cast<int>(chrono::weekday(DayOf(date)).c_encoding()) + 1; }
 
 int DaysOfMonth(int year, int month)
 {
-    static constexpr std::array<int, 12> days = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     if (month < 1 || month > 12)
         throw Failure(FailureNumber::InvalidArgument);
-    return month == 2 && IsLeapYear(year) ? 29 : days[static_cast<std::size_t>(month - 1)];
+    const auto end = chrono::year(year) / chrono::month(static_cast<unsigned>(month)) / chrono::last;
+    return static_cast<int>(static_cast<unsigned>(end.day()));
 }
 
 namespace {
