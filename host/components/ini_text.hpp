@@ -14,6 +14,9 @@ namespace kova::host {
 /// Names of sections and keys are compared without the case of ASCII letters. Of equal sections only the
 /// first is looked at, of equal keys in a section the first counts. Blanks, tabs and vertical tabs around
 /// names and values do not belong to them. A line whose first character is ";" is a comment.
+///
+/// No library reads it: those that know such files write them anew, and lose comments, order and spelling of
+/// a file that people edit too.
 class IniText {
 public:
     /// Reads lines that end in CR LF, CR, LF or with the text.

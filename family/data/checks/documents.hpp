@@ -2,6 +2,7 @@
 
 #include <string>
 
+// Two sums of weighted digits: shorter than the use of any library that knows these numbers.
 namespace kova::family {
 
 /// A person's document number: nine digits with their two check digits.

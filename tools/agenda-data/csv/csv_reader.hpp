@@ -18,6 +18,9 @@ struct CsvRecord {
 
 /// Reads records from a text in UTF-8. Fields may stand in quotes, with separators and line breaks inside
 /// and quotes doubled; lines end with LF, CRLF or CR. A copy goes on reading from where it was made.
+///
+/// No library reads them: those for such files stop at the first fault, or mend it in silence, while an
+/// import tells every one of a file with its line and goes on behind it.
 class CsvReader {
 public:
     /// `text` must outlive the reader. A line "sep=x" at its beginning is no record.
