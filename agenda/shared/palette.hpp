@@ -2,10 +2,8 @@
 
 #include "agenda/contracts/widgets/widget.hpp"
 
-namespace kova::agenda {
-
 /// Every colour of the module, once. Black, white and red are the toolkits' own.
-namespace cores {
+namespace kova::agenda::cores {
 
 /// The button that does what its form is for; the message without buttons.
 inline constexpr Colour Azul = Rgb(77, 143, 253);
@@ -49,6 +47,4 @@ inline constexpr Colour CinzaDePainel = Rgb(250, 250, 250);
 inline constexpr Colour Rotulo = CinzaEscuro;
 inline constexpr Colour RotuloRecusado = colours::Red;
 
-} // namespace cores
-
-} // namespace kova::agenda
+} // namespace kova::agenda::cores

@@ -25,11 +25,11 @@ public:
 private:
     std::uint64_t Next()
     {
-        state_ += 0x9E3779B97F4A7C15u;
+        state_ += 0x9E3779B97F4A7C15U;
         std::uint64_t mixed = state_;
-        mixed = (mixed ^ (mixed >> 30u)) * 0xBF58476D1CE4E5B9u;
-        mixed = (mixed ^ (mixed >> 27u)) * 0x94D049BB133111EBu;
-        return mixed ^ (mixed >> 31u);
+        mixed = (mixed ^ (mixed >> 30U)) * 0xBF58476D1CE4E5B9U;
+        mixed = (mixed ^ (mixed >> 27U)) * 0x94D049BB133111EBU;
+        return mixed ^ (mixed >> 31U);
     }
 
     std::uint64_t state_;

@@ -3,6 +3,7 @@
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/migration.hpp"
 #include "family/data/engine/nullable.hpp"
+#include "family/data/sources/data_source.hpp"
 
 namespace kova::family {
 

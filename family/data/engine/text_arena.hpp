@@ -24,7 +24,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t BlockSize = 32 * 1024;
+    static constexpr std::size_t BlockSize = std::size_t{32} * 1024;
 
     void AddBlock(std::size_t atLeast)
     {

@@ -36,7 +36,7 @@ constexpr std::array<const char*, 7> DayNames{"dom", "seg", "ter", "qua", "qui",
 
 QString MonthTitle(Date date)
 {
-    const auto name = MonthNames.at(static_cast<std::size_t>(date.month - 1));
+    const char* const name = MonthNames.at(static_cast<std::size_t>(date.month - 1));
     return QString::fromUtf8(name) + QStringLiteral(" de ") + QString::number(date.year);
 }
 
@@ -90,8 +90,9 @@ Date CalendarPopup::FirstDayShown() const
 
 QRectF CalendarPopup::DayCell(int position) const
 {
-    return QRectF(Margin + position % DaysPerWeek * CellWidth,
-                  Margin + HeadHeight + WeekHeight + position / DaysPerWeek * CellHeight, CellWidth,
+    const int week = position / DaysPerWeek;
+    const int day = position % DaysPerWeek;
+    return QRectF(Margin + day * CellWidth, Margin + HeadHeight + WeekHeight + week * CellHeight, CellWidth,
                   CellHeight);
 }
 

@@ -6,6 +6,7 @@
 #include "family/business/shop/database_component.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/numbering.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
 

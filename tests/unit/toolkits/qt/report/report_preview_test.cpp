@@ -159,7 +159,7 @@ TEST_F(Preview, HandsTheFocusOfAButtonThatGoesOutOfUseToThePages)
 
 TEST_F(Preview, EmptiesTheSearchByItsCross)
 {
-    EXPECT_TRUE(Search()->isClearButtonEnabled());
+    ASSERT_TRUE(Search()->isClearButtonEnabled());
     Type(Search(), QStringLiteral("animal"));
     ASSERT_NE(Label("achados"), "");
     Search()->findChild<QAbstractButton*>()->click();
