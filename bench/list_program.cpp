@@ -12,6 +12,7 @@
 #include "family/business/shop/system_version.hpp"
 #include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/qt/handles.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>

@@ -6,6 +6,7 @@
 #include "bench/list_program.hpp"
 #include "bench/measure.hpp"
 #include "bench/paint_watch.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>

@@ -4,6 +4,7 @@
 #include "host/display.hpp"
 #include "host/messages.hpp"
 #include "host/session/session.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>

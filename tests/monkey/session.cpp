@@ -7,6 +7,7 @@
 #include "tests/monkey/player.hpp"
 #include "tests/monkey/screen.hpp"
 #include "tests/support/platform_remarks.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>

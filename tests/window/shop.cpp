@@ -2,6 +2,7 @@
 
 #include "host/session/session.hpp"
 #include "tests/support/qt_application.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>

@@ -23,6 +23,7 @@
 #include "toolkits/qt/help_window.hpp"
 #include "toolkits/qt/input_gate.hpp"
 #include "toolkits/qt/label.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/text_measure.hpp"
 #include "toolkits/qt/look/theme.hpp"
 #include "toolkits/qt/message_box.hpp"

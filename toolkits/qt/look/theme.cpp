@@ -1,7 +1,5 @@
 #include "toolkits/qt/look/theme.hpp"
 
-#include "toolkits/qt/look/flat_style.hpp"
-
 #include <QApplication>
 #include <QPalette>
 
@@ -284,15 +282,14 @@ Look LookOfDesktop(const QApplication& application)
     return ground < Luminance(palette.color(QPalette::WindowText)) ? Look::Dark : Look::Light;
 }
 
-void ApplyLook(QApplication& application, Look look)
+Look CurrentLook() { return currentLook; }
+
+void CurrentLook(Look look)
 {
     currentLook = look;
     shown = look == Look::Dark ? DarkColours : LightColours;
-    application.setStyle(new FlatStyle);
-    application.setPalette(PaletteOf(shown));
-    application.setFont(MakeFont("Arial", 9.75));
 }
 
-Look CurrentLook() { return currentLook; }
+QPalette CurrentPalette() { return PaletteOf(shown); }
 
 } // namespace kova::qt

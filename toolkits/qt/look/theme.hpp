@@ -8,6 +8,7 @@
 #include <QString>
 
 class QApplication;
+class QPalette;
 
 /// Colours, fonts and lengths of the product's look. Lengths are logical pixels: 15 twips each, however
 /// large the screen draws them.
@@ -77,9 +78,10 @@ inline constexpr double CornerRadius = 4.0;
 
 /// The look of the desktop's own palette, as an application has it before it gets ours.
 Look LookOfDesktop(const QApplication& application);
-/// Gives the application the product's look. It stays as it is until the next call; views that stand already
-/// are not drawn anew.
-void ApplyLook(QApplication& application, Look look = Look::Light);
 Look CurrentLook();
+/// From now on the colours are those of that look.
+void CurrentLook(Look look);
+/// The colours of the current look, as Qt hands them to what it draws itself.
+QPalette CurrentPalette();
 
 } // namespace kova::qt

@@ -1,6 +1,7 @@
 // The look of the buttons that no form draws.
 
 #include "tests/unit/toolkits/qt/support.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>

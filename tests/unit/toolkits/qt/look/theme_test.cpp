@@ -1,4 +1,5 @@
 #include "tests/unit/toolkits/qt/support.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/icons.hpp"
 #include "toolkits/qt/look/pictures.hpp"
 #include "toolkits/qt/look/theme.hpp"
