@@ -47,6 +47,11 @@ void CommandButtonModel::UserPressesInPlace()
     ByUser([this] { GetForm().Raise(click_); });
 }
 
+void CommandButtonModel::UserPressesShortcut()
+{
+    GetForm().PressKeepingFocus(*this, [this] { UserPresses(); });
+}
+
 bool CommandButtonModel::LeavesForm() const
 {
     const ControlDesign& design = Design();

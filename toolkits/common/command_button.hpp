@@ -21,11 +21,14 @@ public:
     /// The user pressed the button: it takes the focus first, and is not pressed where the LostFocus of the
     /// widget before it holds the press up, see WidgetCore::FocusForPress.
     void UserPresses();
-    /// Escape: a press that moves no focus.
-    void UserPressesInPlace();
+    void UserPressesInPlace() override;
+    /// The focus stays where it was.
+    void UserPressesShortcut() override;
+    bool IsField() const override { return false; }
+    bool ConfirmsForm() const override { return Design().isDefault; }
     bool LeavesForm() const override;
 
-    const Text& ShownCaption() const { return caption_; }
+    const Text& ShownCaption() const override { return caption_; }
 
     bool IsFocusable() const override { return true; }
     bool TakesEnter() override;

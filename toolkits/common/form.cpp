@@ -1,9 +1,7 @@
 #include "toolkits/common/form.hpp"
 
-#include "toolkits/common/menu.hpp"
 #include "toolkits/common/toolkit.hpp"
 
-#include <algorithm>
 #include <new>
 
 namespace kova::toolkit {
@@ -112,25 +110,7 @@ void FormModel::Refresh()
 void FormModel::PopupMenu(Menu& parent, Twips x, Twips y)
 {
     Calling("PopupMenu", parent.Name());
-    auto& menu = dynamic_cast<MenuModel&>(parent);
-    std::vector<MenuModel*> entries;
-    for (const auto& widget : widgets_) {
-        auto* entry = dynamic_cast<MenuModel*>(widget.get());
-        if (entry && entry->Container() == &menu && entry->State().visible)
-            entries.push_back(entry);
-    }
-    const EventScope scope(toolkit_);
-    const auto self = weak_from_this().lock();
-    toolkit_.FormPopsUp(*this, menu, x, y);
-    if (entries.empty())
-        return;
-    MenuModel* chosen = nullptr;
-    {
-        const ToolkitModel::Closed closed(toolkit_);
-        chosen = window_->PopupMenu(menu, entries, x, y);
-    }
-    if (chosen && chosen->IsChoosable())
-        chosen->Choose();
+    dynamic_cast<WidgetCore&>(parent).PopUp(*this, x, y);
 }
 
 void FormModel::ByUser(const std::function<void()>& action)

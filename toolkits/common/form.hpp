@@ -12,8 +12,8 @@
 
 namespace kova::toolkit {
 
-class CommandButtonModel;
 class ToolkitModel;
+struct KeyHelp;
 
 /// Keys that act on the form as a whole; a window forwards them unless the focused widget uses them.
 enum class FormKey {
@@ -112,6 +112,9 @@ public:
     std::string Refusal() const;
     /// Whether the window's close button works.
     bool MayBeClosed() const;
+    /// What can be pressed here and now: the keys of the controls that take input in the order of the design,
+    /// then those of the rows and of the form. Empty where only Tab would be left.
+    std::vector<KeyHelp> Keys() const;
 
     // What the user does.
 
@@ -177,13 +180,11 @@ private:
     void LetGo();
     void PressEnter();
     void PressEscape();
-    bool PressDefault();
-    CommandButtonModel* CancelButton() const;
+    /// The first widget of that meaning that takes input, such as the default button; null where there is
+    /// none.
+    WidgetCore* ButtonOf(bool (WidgetCore::*isMeant)() const) const;
     void FocusFirst();
     bool PressShortcut(std::string_view shortcut);
-    bool ActByShortcut(WidgetCore& widget);
-    bool RepeatDate(std::string_view key);
-    bool TurnPage(std::string_view key);
     WidgetCore* NextStop(bool forward) const;
 
     ToolkitModel& toolkit_;

@@ -2,7 +2,6 @@
 
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/toolkit.hpp"
-#include "toolkits/common/widget_factory.hpp"
 
 namespace kova::toolkit {
 
@@ -21,7 +20,7 @@ WidgetCore& FormModel::AddWidget(const ControlDesign& design)
 {
     if (Find(design.name, design.index))
         throw Failure(FailureNumber::BadPropertyValue);
-    widgets_.push_back(MakeWidget(*this, design));
+    widgets_.push_back(toolkit_.MakeWidget(*this, design));
     return *widgets_.back();
 }
 
@@ -32,10 +31,7 @@ void FormModel::ConnectContainers()
         if (name.empty())
             continue;
         WidgetCore* container = Find(name);
-        const bool holds = container && container != widget.get()
-            && (container->KindOfWidget() == WidgetKind::PictureBox
-                || container->KindOfWidget() == WidgetKind::Menu);
-        if (!holds)
+        if (!container || container == widget.get() || !container->HoldsOthers())
             throw Failure(FailureNumber::BadPropertyValue);
         widget->Container(container);
     }

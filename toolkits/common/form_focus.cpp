@@ -1,13 +1,6 @@
-// The focus: who has it, who gets it next, and the keys that act on the form.
+// The focus: who has it, who gets it next, and the keys that move it or end the form.
 
-#include "toolkits/common/boxes/date_box.hpp"
-#include "toolkits/common/boxes/edit_core.hpp"
-#include "toolkits/common/command_button.hpp"
 #include "toolkits/common/form.hpp"
-#include "toolkits/common/grid/grid.hpp"
-#include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/common/shortcuts.hpp"
-#include "toolkits/common/toolkit.hpp"
 
 #include <algorithm>
 
@@ -43,73 +36,6 @@ void FormModel::ReviewFocus()
         MoveFocus(nullptr);
     else if (focused_ && !focused_->HoldsForChain(&WidgetState::enabled))
         MoveFocus(nullptr);
-}
-
-bool FormModel::UserPressesShortcut(std::string_view shortcut)
-{
-    bool means = false;
-    ByUser([&] {
-        if (Refusal().empty())
-            means = PressShortcut(shortcut);
-    });
-    return means;
-}
-
-bool FormModel::PressShortcut(std::string_view shortcut)
-{
-    if (shortcut == HelpKey) {
-        const std::vector<KeyHelp> keys = KeysOf(*this);
-        if (!keys.empty())
-            toolkit_.TellKeys(*this, keys);
-        return !keys.empty();
-    }
-    for (const auto& widget : widgets_) {
-        if (widget->Design().shortcut == shortcut)
-            return ActByShortcut(*widget);
-    }
-    return RepeatDate(shortcut) || TurnPage(shortcut);
-}
-
-bool FormModel::ActByShortcut(WidgetCore& widget)
-{
-    if (!widget.TakesInput())
-        return true;
-    if (auto* button = dynamic_cast<CommandButtonModel*>(&widget)) {
-        PressKeepingFocus(widget, [button] { button->UserPresses(); });
-        return true;
-    }
-    MoveFocus(&widget);
-    if (widget.KindOfWidget() == WidgetKind::OptionButton && widget.HasFocus())
-        widget.TakesEnter();
-    return true;
-}
-
-bool FormModel::RepeatDate(std::string_view key)
-{
-    for (const auto& widget : widgets_) {
-        auto* box = dynamic_cast<DateBoxModel*>(widget.get());
-        if (box && box->Design().repeatKey == key) {
-            box->UserRepeats();
-            return true;
-        }
-    }
-    return false;
-}
-
-// In a box these keys move the caret.
-bool FormModel::TurnPage(std::string_view key)
-{
-    const bool toFirst = key == FirstPageKey;
-    if ((!toFirst && key != LastPageKey) || dynamic_cast<EditCore*>(focused_))
-        return false;
-    for (const auto& widget : widgets_) {
-        auto* grid = dynamic_cast<GridModel*>(widget.get());
-        if (grid && grid->PageBar()) {
-            grid->UserTurnsTo(toFirst ? NavigationBarModel::FirstPage : NavigationBarModel::LastPage);
-            return true;
-        }
-    }
-    return false;
 }
 
 // Whoever walks the rows by key goes on from the same row.
@@ -164,36 +90,16 @@ void FormModel::PressEnter()
 {
     if (focused_ && focused_->TakesEnter())
         return;
-    if (!PressDefault())
+    if (WidgetCore* button = ButtonOf(&WidgetCore::ConfirmsForm))
+        button->TakesEnter();
+    else
         FocusNext(true);
-}
-
-bool FormModel::PressDefault()
-{
-    for (const auto& widget : widgets_) {
-        auto* button = dynamic_cast<CommandButtonModel*>(widget.get());
-        if (button && button->Design().isDefault && button->TakesInput()) {
-            button->UserPresses();
-            return true;
-        }
-    }
-    return false;
-}
-
-CommandButtonModel* FormModel::CancelButton() const
-{
-    for (const auto& widget : widgets_) {
-        auto* button = dynamic_cast<CommandButtonModel*>(widget.get());
-        if (button && button->LeavesForm() && button->TakesInput())
-            return button;
-    }
-    return nullptr;
 }
 
 // Nobody is held in a form: the second Escape leaves even where the field that was left took the focus back.
 void FormModel::PressEscape()
 {
-    CommandButtonModel* cancel = CancelButton();
+    WidgetCore* cancel = ButtonOf(&WidgetCore::LeavesForm);
     if (!cancel)
         return;
     const bool warns = design_.guardsTyping && typedSinceShown_ && !escapeWarned_ && focused_ != cancel;
@@ -207,10 +113,9 @@ void FormModel::PressEscape()
 void FormModel::FocusFirst()
 {
     const bool hasField = std::any_of(widgets_.begin(), widgets_.end(), [](const auto& widget) {
-        return widget->State().tabStop && widget->CanHoldFocus()
-            && widget->KindOfWidget() != WidgetKind::KVCommandButton;
+        return widget->State().tabStop && widget->CanHoldFocus() && widget->IsField();
     });
-    CommandButtonModel* cancel = hasField ? nullptr : CancelButton();
+    WidgetCore* cancel = hasField ? nullptr : ButtonOf(&WidgetCore::LeavesForm);
     if (cancel)
         MoveFocus(cancel);
     else

@@ -1,7 +1,6 @@
 // Place and size of a form, and its place inside a container.
 
 #include "toolkits/common/form.hpp"
-#include "toolkits/common/toolkit.hpp"
 
 #include <algorithm>
 

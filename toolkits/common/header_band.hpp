@@ -16,7 +16,7 @@ public:
     Text DataOfAlteration() const override { return Read("DataOfAlteration", alteration_); }
     void DataOfAlteration(const Text& value) override;
 
-    const Text& ShownCaption() const { return caption_; }
+    const Text& ShownCaption() const override { return caption_; }
     const Text& ShownInclusion() const { return inclusion_; }
     const Text& ShownAlteration() const { return alteration_; }
 

@@ -18,7 +18,7 @@ public:
     Colour ForeColor() const override { return Read("ForeColor", foreColor_); }
     void ForeColor(Colour value) override;
 
-    const Text& ShownCaption() const { return caption_; }
+    const Text& ShownCaption() const override { return caption_; }
     /// The caption with "&" before the letter that leads to the control it names, as designed; a caption
     /// that code has changed has none.
     const Text& CaptionWithMnemonic() const;

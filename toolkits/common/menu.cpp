@@ -1,6 +1,7 @@
 #include "toolkits/common/menu.hpp"
 
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/toolkit.hpp"
 
 namespace kova::toolkit {
 
@@ -16,6 +17,29 @@ void MenuModel::Caption(const Text& value)
     Tell(Aspect::Content);
 }
 
-void MenuModel::Choose() { GetForm().Raise(click_); }
+std::vector<MenuModel*> MenuModel::EntriesOn(const FormModel& form) const
+{
+    std::vector<MenuModel*> entries;
+    for (const auto& widget : form.Widgets()) {
+        auto* entry = dynamic_cast<MenuModel*>(widget.get());
+        if (entry && entry->Container() == this && entry->State().visible)
+            entries.push_back(entry);
+    }
+    return entries;
+}
+
+void MenuModel::PopUp(FormModel& form, Twips x, Twips y)
+{
+    const std::vector<MenuModel*> entries = EntriesOn(form);
+    ToolkitModel& toolkit = form.GetToolkit();
+    const EventScope scope(toolkit);
+    const auto shown = form.weak_from_this().lock();
+    toolkit.FormPopsUp(form, *this, x, y);
+    if (entries.empty())
+        return;
+    MenuModel* chosen = toolkit.AskMenu(form, *this, entries, x, y);
+    if (chosen && chosen->IsChoosable())
+        chosen->GetForm().Raise(chosen->click_);
+}
 
 } // namespace kova::toolkit

@@ -13,16 +13,19 @@ public:
     void Caption(const Text& value) override;
     void OnClick(Handler handler) override { click_ = std::move(handler); }
 
-    const Text& ShownCaption() const { return caption_; }
+    const Text& ShownCaption() const override { return caption_; }
     bool IsRule() const { return caption_ == "-"; }
     /// Whether the user could choose the entry in an open menu.
     bool IsChoosable() const { return State().visible && State().enabled && !IsRule(); }
 
-    /// The entry was chosen in the pop-up menu; FormModel calls it.
-    void Choose();
+    bool HoldsOthers() const override { return true; }
+    void PopUp(FormModel& form, Twips x, Twips y) override;
     void DropHandlers() override { click_ = nullptr; }
 
 private:
+    /// What a menu of that form shows: its entries in design order, visible ones only.
+    std::vector<MenuModel*> EntriesOn(const FormModel& form) const;
+
     Text caption_;
     Handler click_;
 };

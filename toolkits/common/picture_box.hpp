@@ -11,6 +11,7 @@ public:
 
     /// Given by the toolkit, see ToolkitModel::HandleOf.
     Long Handle() const override;
+    bool HoldsOthers() const override { return true; }
 };
 
 } // namespace kova::toolkit

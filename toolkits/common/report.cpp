@@ -1,6 +1,6 @@
 #include "toolkits/common/report.hpp"
 
-#include "toolkits/common/toolkit.hpp"
+#include "toolkits/common/report_owner.hpp"
 
 #include <algorithm>
 #include <set>
@@ -38,8 +38,8 @@ void RestoreContents(std::vector<ReportControlDesign>& controls,
 
 } // namespace
 
-ReportModel::ReportModel(ToolkitModel& toolkit, const ReportDesign& design)
-    : toolkit_(toolkit), design_(design), current_(design)
+ReportModel::ReportModel(ReportOwner& owner, const ReportDesign& design)
+    : owner_(owner), design_(design), current_(design)
 {
     RequireUniqueNames(design_);
     sections_.reserve(current_.sections.size());
@@ -49,7 +49,7 @@ ReportModel::ReportModel(ToolkitModel& toolkit, const ReportDesign& design)
 
 ReportModel::~ReportModel() = default;
 
-AccessObserver* ReportModel::Observer() const { return toolkit_.Observer(); }
+AccessObserver* ReportModel::Observer() const { return owner_.Observer(); }
 
 MemberAccess ReportModel::AccessTo(std::string_view member, std::string_view control) const
 {
@@ -164,7 +164,7 @@ void ReportModel::ShowModal()
             report.Unload();
         }
     } const shown(*this);
-    toolkit_.Preview(*this);
+    owner_.Preview(*this);
 }
 
 // The sections' controls keep their places: members of `current_` are written, never replaced.

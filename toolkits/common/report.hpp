@@ -9,7 +9,7 @@
 
 namespace kova::toolkit {
 
-class ToolkitModel;
+class ReportOwner;
 
 /// A report: its design with what was written to it since. The preview is the screen toolkit's, which
 /// reads Current() and Data() while it shows. Accesses to members of controls carry the report's name as
@@ -17,7 +17,7 @@ class ToolkitModel;
 class ReportModel final : public Report {
 public:
     /// Fails with 380 on a design that names a section or a control twice, or has two sections of a kind.
-    ReportModel(ToolkitModel& toolkit, const ReportDesign& design);
+    ReportModel(ReportOwner& owner, const ReportDesign& design);
     ~ReportModel() override;
     ReportModel(const ReportModel&) = delete;
     ReportModel& operator=(const ReportModel&) = delete;
@@ -103,7 +103,7 @@ private:
     }
     void WriteLength(std::string_view member, Twips& length, Twips value);
 
-    ToolkitModel& toolkit_;
+    ReportOwner& owner_;
     const ReportDesign design_;
     ReportDesign current_;
     /// Over the sections of `current_`, which keep their places.

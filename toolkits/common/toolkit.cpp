@@ -1,5 +1,10 @@
 #include "toolkits/common/toolkit.hpp"
 
+#include "toolkits/common/event_scope.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/report.hpp"
+#include "toolkits/common/widget_core.hpp"
+
 #include <algorithm>
 #include <utility>
 
@@ -23,9 +28,16 @@ EventScope::EventScope(ToolkitModel& toolkit) : toolkit_(toolkit) { toolkit_.Ent
 
 EventScope::~EventScope() { toolkit_.LeaveEvent(); }
 
-ToolkitModel::ToolkitModel() : alive_(std::make_shared<ToolkitModel*>(this)) { }
+ToolkitModel::ToolkitModel(WidgetMaker maker) : maker_(maker), alive_(std::make_shared<ToolkitModel*>(this))
+{
+}
 
 ToolkitModel::~ToolkitModel() = default;
+
+std::unique_ptr<WidgetCore> ToolkitModel::MakeWidget(FormModel& form, const ControlDesign& design) const
+{
+    return maker_(form, design);
+}
 
 FormRef ToolkitModel::CreateForm(const FormDesign& design)
 {
@@ -54,6 +66,13 @@ void ToolkitModel::TellKeys(const FormModel& form, const std::vector<KeyHelp>& k
     const EventScope scope(*this);
     const Closed closed(*this);
     ShowKeys(form, keys);
+}
+
+MenuModel* ToolkitModel::AskMenu(FormModel& form, MenuModel& menu, const std::vector<MenuModel*>& entries,
+                                 Twips x, Twips y)
+{
+    const Closed closed(*this);
+    return form.Window().PopupMenu(menu, entries, x, y);
 }
 
 ReportRef ToolkitModel::CreateReport(const ReportDesign& design)

@@ -3,19 +3,32 @@
 #include "agenda/contracts/platform.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/report.hpp"
+#include "toolkits/common/report_owner.hpp"
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/common/text_measure.hpp"
 
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace kova::toolkit {
 
+class FormModel;
+class FormWindow;
+class MenuModel;
+class TextMeasure;
+class View;
+class WidgetCore;
+struct KeyHelp;
+
+/// Makes the model of a designed control: who gives it knows all kinds.
+using WidgetMaker = std::unique_ptr<WidgetCore> (*)(FormModel& form, const ControlDesign& design);
+
 /// The part of a toolkit that does not depend on the screen. A screen toolkit derives from it, gives
 /// windows, views and measures, and runs its event loop. It must outlive its forms.
-class ToolkitModel : public kova::Toolkit {
+class ToolkitModel : public kova::Toolkit, public ReportOwner {
 public:
-    ToolkitModel();
+    explicit ToolkitModel(WidgetMaker maker);
     ~ToolkitModel() override;
     ToolkitModel(const ToolkitModel&) = delete;
     ToolkitModel& operator=(const ToolkitModel&) = delete;
@@ -27,7 +40,7 @@ public:
     void SendKeys(const Text& keys) final;
 
     /// May be null. It must stay valid until it is replaced.
-    AccessObserver* Observer() const { return observer_; }
+    AccessObserver* Observer() const override { return observer_; }
     void Observer(AccessObserver* observer) { observer_ = observer; }
 
     /// The innermost modal form; null where none is shown.
@@ -87,8 +100,13 @@ public:
     /// Shows the keys of a form and waits until the user has read them; no form takes input meanwhile.
     void TellKeys(const FormModel& form, const std::vector<KeyHelp>& keys);
 
+    /// Shows the entries of a menu over a form, at a place of it, and waits; null where the user chose none.
+    /// No form takes input meanwhile.
+    MenuModel* AskMenu(FormModel& form, MenuModel& menu, const std::vector<MenuModel*>& entries, Twips x,
+                       Twips y);
+
     /// Shows a report and waits until the user has closed it; no form takes input meanwhile.
-    void Preview(const ReportModel& report);
+    void Preview(const ReportModel& report) override;
 
 protected:
     virtual void ShowKeys(const FormModel& form, const std::vector<KeyHelp>& keys) = 0;
@@ -129,6 +147,7 @@ private:
         ToolkitModel& toolkit_;
     };
 
+    std::unique_ptr<WidgetCore> MakeWidget(FormModel& form, const ControlDesign& design) const;
     void EnterEvent() { ++eventDepth_; }
     void LeaveEvent() noexcept;
     void TellPointer();
@@ -139,6 +158,7 @@ private:
     void PushModal(FormModel& form);
     void PopModal(FormModel& form);
 
+    const WidgetMaker maker_;
     AccessObserver* observer_ = nullptr;
     int eventDepth_ = 0;
     /// How many events were on the stack when each of the modal forms was shown.

@@ -1,8 +1,9 @@
 #include "toolkits/common/widget_core.hpp"
 
+#include "agenda/contracts/text.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/toolkit.hpp"
-#include "toolkits/common/widget_factory.hpp"
+#include "toolkits/common/usual_size.hpp"
 
 namespace kova::toolkit {
 
@@ -22,6 +23,16 @@ std::string WidgetCore::FullName() const
     if (design_.index >= 0)
         name += "(" + std::to_string(design_.index) + ")";
     return name;
+}
+
+Text WidgetCore::Purpose() const
+{
+    const Text caption = Trim(ShownCaption());
+    if (!caption.empty() && caption != Trim(design_.caption))
+        return caption;
+    if (!design_.accessibleName.empty())
+        return design_.accessibleName;
+    return state_.toolTipText.empty() ? caption : state_.toolTipText;
 }
 
 bool WidgetCore::HoldsForChain(bool WidgetState::*flag) const
@@ -56,6 +67,8 @@ void WidgetCore::UserFocuses(Entry entry)
 {
     ByUser([this, entry] { form_.MoveFocus(IsFocusable() ? this : form_.Focused(), entry); });
 }
+
+void WidgetCore::UserPressesShortcut() { form_.MoveFocus(this); }
 
 void WidgetCore::MoveTo(Twips WidgetState::*member, Twips value, bool mayBeNegative)
 {

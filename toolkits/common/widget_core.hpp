@@ -10,11 +10,13 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 namespace kova::toolkit {
 
 class FormModel;
 enum class FormKey;
+struct KeyHelp;
 
 /// What every widget holds.
 struct WidgetState {
@@ -65,8 +67,15 @@ public:
     /// The picture box or parent menu that holds the widget; null is the form.
     WidgetCore* Container() const { return container_; }
     void Container(WidgetCore* container) { container_ = container; }
+    /// Whether others may lie in it.
+    virtual bool HoldsOthers() const { return false; }
     /// "frmLista.kvcmdAlterar", "frmFichaCompleta.kvdtpDataInicial(3)".
     std::string FullName() const;
+    /// The caption as it stands now; as designed where the kind's cannot be changed.
+    virtual const Text& ShownCaption() const { return design_.caption; }
+    /// What the widget is for, as help and assistive tools say it: the caption that code has given it, else
+    /// its accessible name, its tool tip, the caption of its design.
+    Text Purpose() const;
 
     /// Whether the widget and all that holds it, the form too, are visible or enabled.
     bool IsOnShow() const;
@@ -93,15 +102,34 @@ public:
     /// Tab, Enter or Escape while the widget has the focus and something of its own open; false leaves the
     /// key to the form.
     virtual bool TakesKey(FormKey) { return false; }
-    /// What "+({HOME})" does: selects from the caret back to the start. Only boxes have a caret.
+    /// Whether keys move a caret in it, as in boxes.
+    virtual bool HasCaret() const { return false; }
+    /// What "+({HOME})" does: selects from the caret back to the start.
     virtual void SelectToStart() { }
     /// The focus has just come, before any event of that: what the widget selects of itself then.
     virtual void Entered(Entry) { }
     /// The focus has moved away or here: the widget's own event, where its kind has one.
     virtual void RaiseLostFocus() { }
     virtual void RaiseGotFocus() { }
-    /// Whether this is the form's cancel button now.
+    /// Whether the user enters something here, rather than only confirming it.
+    virtual bool IsField() const { return true; }
+    /// Whether this is the form's default or cancel button now.
+    virtual bool ConfirmsForm() const { return false; }
     virtual bool LeavesForm() const { return false; }
+    /// Escape, on the cancel button: a press that moves no focus.
+    virtual void UserPressesInPlace() { }
+    /// The widget's own key, from anywhere in the form: enters it. What is pressed rather than entered is
+    /// pressed.
+    virtual void UserPressesShortcut();
+    /// Another key that means something to the widget from anywhere in the form; false where it means
+    /// nothing.
+    virtual bool TakesFormKey(std::string_view) { return false; }
+    /// Adds the keys that lead through the widget's rows, as far as they do something now.
+    virtual void AddRowKeys(std::vector<KeyHelp>&) const { }
+    /// Adds what TakesFormKey takes beside those, as far as it does something now.
+    virtual void AddFormKeys(std::vector<KeyHelp>&) const { }
+    /// Opens over a form, at a place of it, and waits for a choice: menus only.
+    virtual void PopUp(FormModel&, Twips, Twips) { }
     /// Tells the form what has changed under the pointer; false where the form takes no input now, so that it
     /// has to be asked again.
     virtual bool TellPointer() { return true; }

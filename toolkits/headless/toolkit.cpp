@@ -1,13 +1,14 @@
 #include "toolkits/headless/toolkit.hpp"
 
 #include "reports/layout.hpp"
+#include "toolkits/common/factory/widget_factory.hpp"
 #include "toolkits/headless/window.hpp"
 
 #include <utility>
 
 namespace kova::headless {
 
-HeadlessToolkit::HeadlessToolkit() = default;
+HeadlessToolkit::HeadlessToolkit() : ToolkitModel(toolkit::MakeWidget) { }
 
 HeadlessToolkit::~HeadlessToolkit() { ReleaseRetired(); }
 

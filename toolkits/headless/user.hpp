@@ -64,7 +64,7 @@ private:
     /// The number of the row that is meant, beyond the last where there is none; `name` takes what a refusal
     /// calls it.
     using RowFinder =
-        std::function<std::size_t(const std::vector<toolkit::ComboBoxModel::Row>& rows, std::string& name)>;
+        std::function<std::size_t(const std::vector<toolkit::ComboRow>& rows, std::string& name)>;
     std::string ChooseRow(std::string_view form, std::string_view combo, int index, const RowFinder& find);
     /// The control as its model where the user can act on it; otherwise null, with the reason.
     template <class Model>

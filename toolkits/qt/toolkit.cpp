@@ -3,6 +3,7 @@
 #include "agenda/contracts/failure_detail.hpp"
 #include "reports/layout.hpp"
 #include "reports/qt/font_metrics.hpp"
+#include "toolkits/common/factory/widget_factory.hpp"
 #include "toolkits/qt/boxes/check_box.hpp"
 #include "toolkits/qt/boxes/combo_box.hpp"
 #include "toolkits/qt/boxes/date_box.hpp"
@@ -71,7 +72,10 @@ QRegion RoundRect(const QSize& size, int ellipseWidth, int ellipseHeight)
 } // namespace
 
 QtToolkit::QtToolkit(const Clock& clock)
-    : clock_(clock), measure_(std::make_unique<QtTextMeasure>()), gate_(std::make_unique<InputGate>(*this))
+    : ToolkitModel(toolkit::MakeWidget),
+      clock_(clock),
+      measure_(std::make_unique<QtTextMeasure>()),
+      gate_(std::make_unique<InputGate>(*this))
 {
     ApplyLook(*qApp, CurrentLook());
     BurialsWaitFor(this);

@@ -18,7 +18,7 @@ void ComboBoxModel::Text(const kova::Text& value)
 {
     Writing("Text", value);
     const auto found =
-        std::find_if(rows_.begin(), rows_.end(), [&value](const Row& row) { return row.text == value; });
+        std::find_if(rows_.begin(), rows_.end(), [&value](const ComboRow& row) { return row.text == value; });
     if (found != rows_.end())
         return Select(static_cast<int>(found - rows_.begin()));
     row_ = -1;

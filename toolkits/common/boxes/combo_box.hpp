@@ -12,13 +12,14 @@ namespace kova::toolkit {
 /// without an event, and Enter and Tab take the marked row.
 enum class ComboKey { Open, Up, Down, PageUp, PageDown, Home, End, Take, Leave };
 
+/// A row of the list, with the number that code has given it.
+struct ComboRow {
+    Text text;
+    Long data = 0;
+};
+
 class ComboBoxModel final : public WidgetModel<KVComboBox, WidgetKind::KVComboBox> {
 public:
-    struct Row {
-        kova::Text text;
-        Long data = 0;
-    };
-
     ComboBoxModel(FormModel& form, const ControlDesign& design);
 
     kova::Text Text() const override;
@@ -58,7 +59,7 @@ public:
     int MarkedRow() const { return marked_; }
     static constexpr int RowsOfPage = 12;
 
-    const std::vector<Row>& ShownRows() const { return rows_; }
+    const std::vector<ComboRow>& ShownRows() const { return rows_; }
     const kova::Text& ShownText() const { return text_; }
     /// -1 is none.
     int ShownRow() const { return row_; }
@@ -76,7 +77,7 @@ private:
     void Walk(ComboKey key);
     int RowOf(const std::u32string& typed) const;
 
-    std::vector<Row> rows_;
+    std::vector<ComboRow> rows_;
     kova::Text text_;
     int row_ = -1;
     int newRow_ = -1;

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/text.hpp"
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/shortcuts.hpp"
 
 namespace kova::toolkit {
 
@@ -35,6 +36,20 @@ void DateBoxModel::UserPicks(const Date& date)
 void DateBoxModel::UserRepeats()
 {
     ByUser([this] { Edited(); });
+}
+
+bool DateBoxModel::TakesFormKey(std::string_view key)
+{
+    if (Design().repeatKey != key)
+        return false;
+    UserRepeats();
+    return true;
+}
+
+void DateBoxModel::AddFormKeys(std::vector<KeyHelp>& keys) const
+{
+    if (!Design().repeatKey.empty() && TakesInput() && ShownDate())
+        keys.push_back({KeyName(Design().repeatKey), "Atualizar a lista"});
 }
 
 std::optional<Date> DateBoxModel::ShownDate() const

@@ -22,6 +22,8 @@ public:
     void UserPicks(const Date& date);
     /// The user asks for the same day again: Change, where a day is on show.
     void UserRepeats();
+    bool TakesFormKey(std::string_view key) override;
+    void AddFormKeys(std::vector<KeyHelp>& keys) const override;
     /// The day on show, where the text is a complete and valid date.
     std::optional<Date> ShownDate() const;
 

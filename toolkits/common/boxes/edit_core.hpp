@@ -30,6 +30,7 @@ public:
     bool IsFocusable() const override { return true; }
     /// Entered by key or code, a box is selected whole: typing replaces what it holds.
     void Entered(Entry entry) override;
+    bool HasCaret() const override { return true; }
     void SelectToStart() override;
     /// False where the box shows a value only.
     virtual bool AllowsTyping() const { return true; }

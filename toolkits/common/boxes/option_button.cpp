@@ -33,6 +33,13 @@ void OptionButtonModel::UserPresses()
     });
 }
 
+void OptionButtonModel::UserPressesShortcut()
+{
+    GetForm().MoveFocus(this);
+    if (HasFocus())
+        UserPresses();
+}
+
 bool OptionButtonModel::TakesEnter()
 {
     UserPresses();

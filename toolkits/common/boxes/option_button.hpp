@@ -19,8 +19,9 @@ public:
 
     /// The user chose this option: set, its siblings cleared, Click. Takes the focus first.
     void UserPresses();
+    void UserPressesShortcut() override;
 
-    const Text& ShownCaption() const { return caption_; }
+    const Text& ShownCaption() const override { return caption_; }
     bool ShownValue() const { return value_; }
 
     bool IsFocusable() const override { return true; }

@@ -168,6 +168,9 @@ public:
     /// offered. With the focus here, the keys go on at the new page's first row, after the previous and the
     /// last page at its last row; where the mouse rests on a row, the first and the last page leave it there.
     bool UserTurnsTo(int button);
+    /// The keys of the first and the last page, which the bar stands for; in a box they move the caret.
+    bool TakesFormKey(std::string_view key) override;
+    void AddRowKeys(std::vector<KeyHelp>& keys) const override;
     /// Scroll bars and wheel; values beyond the ends are cut. No event.
     void UserScrolls(Long topRow, Long leftCol);
     /// Dragging a header edge; ignored unless AllowUserResizing lets the user.
@@ -265,6 +268,7 @@ private:
     Long WindowWidth() const { return static_cast<Long>(state_.width); }
     Twips MiddleOfFirstColumn() const;
     bool TurnsPage(GridKey key);
+    void AddPageKeys(std::vector<KeyHelp>& keys) const;
     bool PressesRowButton();
 
     GridAxis rows_{DefaultRowHeight};

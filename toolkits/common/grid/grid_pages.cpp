@@ -4,6 +4,7 @@
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/shortcuts.hpp"
 
 namespace kova::toolkit {
 
@@ -46,6 +47,16 @@ bool GridModel::UserTurnsTo(int button)
     return true;
 }
 
+bool GridModel::TakesFormKey(std::string_view key)
+{
+    const bool toFirst = key == FirstPageKey;
+    const WidgetCore* focused = GetForm().Focused();
+    if ((!toFirst && key != LastPageKey) || (focused && focused->HasCaret()) || !PageBar())
+        return false;
+    UserTurnsTo(toFirst ? NavigationBarModel::FirstPage : NavigationBarModel::LastPage);
+    return true;
+}
+
 bool GridModel::TurnsPage(GridKey key)
 {
     const Long last = rows_.Count() - 1;
@@ -67,6 +78,30 @@ bool GridModel::PressesRowButton()
     if (!IsGone() && button->TakesInput())
         GetForm().PressKeepingFocus(*button, [button] { button->UserPresses(); });
     return true;
+}
+
+void GridModel::AddRowKeys(std::vector<KeyHelp>& keys) const
+{
+    if (!TakesInput() || rows_.Count() <= rows_.Fixed())
+        return;
+    keys.push_back({"↑ ↓", "Ir de linha em linha na lista"});
+    if (const CommandButtonModel* button = RowButton())
+        keys.push_back({"Enter", button->Purpose() + " a linha"});
+    else if (HasClick())
+        keys.push_back({"Enter", "Escolher a linha"});
+    AddPageKeys(keys);
+}
+
+void GridModel::AddPageKeys(std::vector<KeyHelp>& keys) const
+{
+    if (OffersPage(NavigationBarModel::NextPage)) {
+        keys.push_back({"PgDn", "Na última linha, ir para a próxima página"});
+        keys.push_back({"Ctrl+End", "Ir para a última página"});
+    }
+    if (OffersPage(NavigationBarModel::PreviousPage)) {
+        keys.push_back({"PgUp", "Na primeira linha, ir para a página anterior"});
+        keys.push_back({"Ctrl+Home", "Ir para a primeira página"});
+    }
 }
 
 } // namespace kova::toolkit

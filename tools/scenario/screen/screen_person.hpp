@@ -33,7 +33,7 @@ public:
 
 private:
     using RowFinder =
-        std::function<std::size_t(const std::vector<toolkit::ComboBoxModel::Row>& rows, std::string& name)>;
+        std::function<std::size_t(const std::vector<toolkit::ComboRow>& rows, std::string& name)>;
     std::string ChooseRow(const ControlName& at, const RowFinder& find);
     /// The control as its model where the user can act on it; otherwise null, with the reason. A hand that
     /// presses there all the same changes nothing.
