@@ -1,6 +1,7 @@
 #include "host/host_toolkit.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "toolkits/common/report.hpp"
 
 #include <iostream>
 

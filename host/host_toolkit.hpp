@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/screen/toolkit.hpp"
 
 namespace kova::host {
 

@@ -4,6 +4,7 @@
 #include "tests/monkey/failure_ear.hpp"
 #include "tests/monkey/finding.hpp"
 #include "tests/monkey/screen.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/label.hpp"
 #include "toolkits/common/toolkit.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"

@@ -3,6 +3,8 @@
 #include "tests/window/appointment_book.hpp"
 
 #include "agenda/contracts/widgets.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include <QWindow>

@@ -1,6 +1,8 @@
 #include "tests/window/receptionist.hpp"
 
+#include "toolkits/common/form.hpp"
 #include "toolkits/common/toolkit.hpp"
+#include "toolkits/common/widget_core.hpp"
 #include "toolkits/qt/boxes/calendar.hpp"
 
 #include <QApplication>

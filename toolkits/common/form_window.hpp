@@ -44,6 +44,8 @@ public:
     /// nest; each form has at most one.
     virtual void RunModal() = 0;
     virtual void EndModal() = 0;
+    /// No widget has the focus: the screen's own goes to the window.
+    virtual void TakeFocus() = 0;
     /// Paints now.
     virtual void Refresh() = 0;
     /// Shows the entries at a place of the inner area and waits; null where the user chose none. Entries

@@ -24,6 +24,7 @@ public:
     void Remove() override;
     void RunModal() override;
     void EndModal() override { }
+    void TakeFocus() override { }
     void Refresh() override { }
     toolkit::MenuModel* PopupMenu(toolkit::MenuModel& parent, const std::vector<toolkit::MenuModel*>& entries,
                                   Twips x, Twips y) override;

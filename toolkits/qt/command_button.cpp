@@ -4,8 +4,8 @@
 
 namespace kova::qt {
 
-CommandButtonView::CommandButtonView(QtToolkit& toolkit, toolkit::CommandButtonModel& model, QWidget* parent)
-    : ViewOf(toolkit, model, new FlatButton(parent))
+CommandButtonView::CommandButtonView(toolkit::CommandButtonModel& model, QWidget* parent)
+    : ViewOf(model, new FlatButton(parent))
 {
     Shown().setFocusPolicy(Qt::TabFocus);
     QObject::connect(&Shown(), &QAbstractButton::clicked, &Shown(), [this] { GetModel().UserPresses(); });

@@ -8,7 +8,7 @@ namespace kova::qt {
 
 class CommandButtonView : public ViewOf<toolkit::CommandButtonModel, FlatButton> {
 public:
-    CommandButtonView(QtToolkit& toolkit, toolkit::CommandButtonModel& model, QWidget* parent);
+    CommandButtonView(toolkit::CommandButtonModel& model, QWidget* parent);
 
 protected:
     void ShowContent() override;

@@ -1,14 +1,17 @@
 #include "toolkits/qt/form.hpp"
 
+#include "toolkits/common/form.hpp"
 #include "toolkits/common/menu.hpp"
+#include "toolkits/common/toolkit.hpp"
 #include "toolkits/qt/burial.hpp"
+#include "toolkits/qt/form_area.hpp"
 #include "toolkits/qt/handles.hpp"
-#include "toolkits/qt/label.hpp"
 #include "toolkits/qt/look/theme.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/top_window.hpp"
 #include "toolkits/qt/widget_view.hpp"
 
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
@@ -17,6 +20,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <functional>
 
 namespace kova::qt {
 
@@ -159,8 +163,8 @@ void FormWidget::focusInEvent(QFocusEvent* event)
         ShowFocusOf(model_);
 }
 
-FormWindow::FormWindow(QtToolkit& toolkit, toolkit::FormModel& model)
-    : toolkit_(toolkit), model_(model), widget_(new FormWidget(model)), handle_(HandleOf(*widget_))
+FormWindow::FormWindow(const TopWindow& top, toolkit::FormModel& model)
+    : top_(top), model_(model), widget_(new FormWidget(model)), handle_(HandleOf(*widget_))
 {
     ShowGeometry();
 }
@@ -283,24 +287,24 @@ void FormWindow::CentreOver(const QWidget* other)
     model_.UserMoves(ToTwips(area.left()), ToTwips(area.top()));
 }
 
-void FormWindow::LinkBuddies() const
+void FormWindow::TellViews() const
 {
     for (const auto& core : model_.Widgets()) {
-        if (auto* label = dynamic_cast<LabelView*>(core->GetView()))
-            label->LinkBuddy();
+        if (auto* view = dynamic_cast<WidgetView*>(core->GetView()))
+            view->FormAppears();
     }
 }
 
 // A form that is shown over a modal one belongs to it: Qt would keep the user out of any other.
 QWidget* FormWindow::WindowBelow() const
 {
-    const toolkit::FormModel* modal = toolkit_.ModalForm();
+    const toolkit::FormModel* modal = model_.GetToolkit().ModalForm();
     if (modal && modal != &model_) {
         const QWidget* widget = static_cast<const FormWindow&>(modal->Window()).Window();
         if (widget && widget->isVisible())
             return widget->window();
     }
-    return toolkit_.WindowBelow(widget_);
+    return top_.Below(widget_);
 }
 
 void FormWindow::Show(ShowMode mode)
@@ -329,7 +333,7 @@ void FormWindow::Appear()
         if (below && below->windowHandle())
             widget_->windowHandle()->setTransientParent(below->windowHandle());
     }
-    LinkBuddies();
+    TellViews();
     widget_->followsModel = true;
     widget_->show();
     widget_->followsModel = false;
@@ -371,6 +375,12 @@ void FormWindow::EndModal()
         loop_->quit();
 }
 
+void FormWindow::TakeFocus()
+{
+    if (widget_)
+        widget_->setFocus(Qt::OtherFocusReason);
+}
+
 void FormWindow::Refresh()
 {
     if (widget_ && widget_->isVisible())
@@ -396,6 +406,17 @@ toolkit::MenuModel* FormWindow::PopupMenu(toolkit::MenuModel&,
     }
     const QPoint place = widget_->Area().ToScreen(QPoint(Pixels(x), Pixels(y)));
     return entryOf.value(menu.exec(place));
+}
+
+FormWidget* FormAround(QWidget* widget)
+{
+    for (; widget; widget = widget->parentWidget()) {
+        if (auto* form = dynamic_cast<FormWidget*>(widget))
+            return form;
+        if (widget->isWindow())
+            return nullptr;
+    }
+    return nullptr;
 }
 
 } // namespace kova::qt

@@ -1,17 +1,21 @@
 #pragma once
 
-#include "toolkits/common/form.hpp"
-#include "toolkits/qt/form_area.hpp"
+#include "toolkits/common/form_window.hpp"
 #include "toolkits/qt/plain_panel.hpp"
 
-#include <QEventLoop>
 #include <QPointer>
 
-#include <functional>
+class QEventLoop;
+
+namespace kova::toolkit {
+class FormModel;
+enum class FormKey;
+} // namespace kova::toolkit
 
 namespace kova::qt {
 
-class QtToolkit;
+class FormArea;
+class TopWindow;
 
 /// The widget that is a form's inner area: a window of its own, or the child of a container.
 class FormWidget : public PlainPanel {
@@ -42,7 +46,8 @@ private:
 
 class FormWindow : public toolkit::FormWindow {
 public:
-    FormWindow(QtToolkit& toolkit, toolkit::FormModel& model);
+    /// The host's window must outlive this one.
+    FormWindow(const TopWindow& top, toolkit::FormModel& model);
     ~FormWindow() override;
 
     Long Handle() const override;
@@ -53,6 +58,7 @@ public:
     void Remove() override;
     void RunModal() override;
     void EndModal() override;
+    void TakeFocus() override;
     void Refresh() override;
     toolkit::MenuModel* PopupMenu(toolkit::MenuModel& parent, const std::vector<toolkit::MenuModel*>& entries,
                                   Twips x, Twips y) override;
@@ -71,10 +77,10 @@ private:
     void FitToContainer();
     void FitToScreen();
     void CentreOver(const QWidget* other);
-    void LinkBuddies() const;
+    void TellViews() const;
     QWidget* WindowBelow() const;
 
-    QtToolkit& toolkit_;
+    const TopWindow& top_;
     toolkit::FormModel& model_;
     QPointer<FormWidget> widget_;
     QPointer<QWidget> container_;
@@ -87,5 +93,8 @@ private:
     bool vanished_ = false;
     Long handle_ = 0;
 };
+
+/// The form that a widget lies in; null in a pop-up, a message box or a window of the host.
+FormWidget* FormAround(QWidget* widget);
 
 } // namespace kova::qt

@@ -1,8 +1,6 @@
 #include "toolkits/qt/form_area.hpp"
 
 #include "toolkits/common/form_window.hpp"
-#include "toolkits/qt/form.hpp"
-#include "toolkits/qt/input_gate.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QGuiApplication>
@@ -73,6 +71,16 @@ int ButtonsEndOf(const FormDesign& design, Twips footTop)
     return end;
 }
 
+// Null for a control in a window of its own.
+FormArea* AreaAround(QWidget* control)
+{
+    for (QWidget* widget = control; widget && !widget->isWindow(); widget = widget->parentWidget()) {
+        if (auto* area = dynamic_cast<FormArea*>(widget))
+            return area;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 Twips FootTopOf(const FormDesign& design)
@@ -116,9 +124,9 @@ QSize RoomFor(const FormDesign& design, const QWidget* near)
 
 void RevealInForm(QWidget* control)
 {
-    FormWidget* form = FormAround(control);
-    if (form && QGuiApplication::mouseButtons() == Qt::NoButton)
-        form->Area().Reveal(*control);
+    FormArea* area = AreaAround(control);
+    if (area && QGuiApplication::mouseButtons() == Qt::NoButton)
+        area->Reveal(*control);
 }
 
 FormArea::FormArea(const FormDesign& design, QWidget* window)

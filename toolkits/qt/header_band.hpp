@@ -19,8 +19,8 @@ private:
 
 class HeaderBandView : public ViewOf<toolkit::HeaderBandModel, HeaderWindow> {
 public:
-    HeaderBandView(QtToolkit& toolkit, toolkit::HeaderBandModel& model, QWidget* parent)
-        : ViewOf(toolkit, model, new HeaderWindow(model, parent))
+    HeaderBandView(toolkit::HeaderBandModel& model, QWidget* parent)
+        : ViewOf(model, new HeaderWindow(model, parent))
     {
     }
 

@@ -1,8 +1,10 @@
 #include "toolkits/qt/input_gate.hpp"
 
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/toolkit.hpp"
+#include "toolkits/qt/enter_key.hpp"
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/grid/grid_canvas.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/mouse_follower.hpp"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -14,8 +16,6 @@
 namespace kova::qt {
 
 namespace {
-
-constexpr const char* KeepsEnterProperty = "kovaKeepsEnter";
 
 bool IsInput(QEvent::Type type)
 {
@@ -56,20 +56,7 @@ QString NameOf(const QKeyEvent& event)
 
 } // namespace
 
-void KeepEnter(QWidget& widget) { widget.setProperty(KeepsEnterProperty, true); }
-
-FormWidget* FormAround(QWidget* widget)
-{
-    for (; widget; widget = widget->parentWidget()) {
-        if (auto* form = dynamic_cast<FormWidget*>(widget))
-            return form;
-        if (widget->isWindow())
-            return nullptr;
-    }
-    return nullptr;
-}
-
-InputGate::InputGate(QtToolkit& toolkit) : QObject(nullptr), toolkit_(toolkit) { }
+InputGate::InputGate(const toolkit::ToolkitModel& toolkit) : QObject(nullptr), toolkit_(toolkit) { }
 
 InputGate::~InputGate() = default;
 
@@ -123,14 +110,16 @@ bool InputGate::EndsAPressElsewhere(const QWidget& target, const QMouseEvent& ev
 // it.
 void InputGate::FollowMouse(QWidget& target, const QEvent& event)
 {
-    if (auto* canvas = dynamic_cast<GridCanvas*>(&target); canvas && event.type() == QEvent::MouseMove) {
-        pointed_ = canvas;
-        if (FormWidget* form = FormAround(canvas); form && !form->Model().Refusal().empty())
-            canvas->MouseIsAt(static_cast<const QMouseEvent&>(event).position());
+    auto* follower = dynamic_cast<MouseFollower*>(&target);
+    if (follower && event.type() == QEvent::MouseMove) {
+        pointed_ = &target;
+        if (FormWidget* form = FormAround(&target); form && !form->Model().Refusal().empty())
+            follower->MouseIsAt(static_cast<const QMouseEvent&>(event).position());
         return;
     }
-    auto* pointed = static_cast<GridCanvas*>(pointed_.data());
-    if (!pointed)
+    QWidget* pointed = pointed_.data();
+    auto* left = dynamic_cast<MouseFollower*>(pointed);
+    if (!left)
         return;
     if (event.type() == QEvent::Leave) {
         const bool leavesWindow = target.isWindow() && target.window() == pointed->window();
@@ -141,12 +130,12 @@ void InputGate::FollowMouse(QWidget& target, const QEvent& event)
         const bool isAbove =
             FormAround(&target) == FormAround(pointed) && QRectF(pointed->rect()).contains(place);
         if (isAbove)
-            return pointed->MouseIsAbove(place);
+            return left->MouseIsAbove(place);
         if (target.window() != pointed->window())
             return;
     }
     pointed_ = nullptr;
-    pointed->MouseLeaves();
+    left->MouseLeaves();
 }
 
 // Only for as long as a pause lasts: who types into a box or a form means that one.
@@ -229,7 +218,7 @@ bool InputGate::TakesKey(FormWidget& form, QWidget& target, const QKeyEvent& eve
     case Qt::Key_Escape: return form.Forward(FormKey::Escape);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (target.property(KeepsEnterProperty).toBool())
+        if (KeepsEnter(target))
             return false;
         return event.isAutoRepeat() || form.Forward(FormKey::Enter);
     default: return false;

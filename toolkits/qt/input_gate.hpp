@@ -13,18 +13,20 @@ class QMouseEvent;
 class QShortcutEvent;
 class QWidget;
 
+namespace kova::toolkit {
+class ToolkitModel;
+}
+
 namespace kova::qt {
 
 class FormWidget;
-class GridCanvas;
-class QtToolkit;
 
 /// Stands before all forms of the process: keeps input away from forms that take none, hands the keys of the
 /// form as a whole (Tab, Enter, Escape) to its model, keeps the keys of a pause for later, and follows the
 /// mouse.
 class InputGate : public QObject {
 public:
-    explicit InputGate(QtToolkit& toolkit);
+    explicit InputGate(const toolkit::ToolkitModel& toolkit);
     ~InputGate() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -57,20 +59,14 @@ private:
     void DeliverKeptKeys();
     static void Deliver(const KeptKey& key, QWidget& target);
 
-    QtToolkit& toolkit_;
+    const toolkit::ToolkitModel& toolkit_;
     Press press_;
-    /// The grid that the mouse was over last.
+    /// The follower that the mouse was over last.
     QPointer<QWidget> pointed_;
     std::vector<KeptKey> kept_;
     /// Of the toolkit, when the first of the kept keys came.
     unsigned interruptions_ = 0;
     bool delivering_ = false;
 };
-
-/// Marks a widget that presses itself by Enter, such as a button inside a bar.
-void KeepEnter(QWidget& widget);
-
-/// The form that a widget lies in; null in a pop-up, a message box or a window of the host.
-FormWidget* FormAround(QWidget* widget);
 
 } // namespace kova::qt

@@ -18,8 +18,7 @@ Qt::Alignment AlignmentOf(int alignment)
 
 } // namespace
 
-LabelView::LabelView(QtToolkit& toolkit, toolkit::LabelModel& model, QWidget* parent)
-    : ViewOf(toolkit, model, new CaptionLabel(parent))
+LabelView::LabelView(toolkit::LabelModel& model, QWidget* parent) : ViewOf(model, new CaptionLabel(parent))
 {
     const ControlDesign& design = model.Design();
     Shown().setTextFormat(Qt::PlainText);
@@ -54,7 +53,7 @@ QColor LabelView::GroundBehind() const
     return GroundColor(colour, look::Paper);
 }
 
-void LabelView::LinkBuddy()
+void LabelView::FormAppears()
 {
     const std::string& name = Core().Design().labelOf;
     // A label of an indexed group names its like in the other group.

@@ -8,10 +8,10 @@ namespace kova::qt {
 
 class LabelView : public ViewOf<toolkit::LabelModel, CaptionLabel> {
 public:
-    LabelView(QtToolkit& toolkit, toolkit::LabelModel& model, QWidget* parent);
+    LabelView(toolkit::LabelModel& model, QWidget* parent);
 
     /// Lets the label's mnemonic reach the control that it names.
-    void LinkBuddy();
+    void FormAppears() override;
 
 protected:
     void ShowContent() override;

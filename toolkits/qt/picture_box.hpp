@@ -25,8 +25,7 @@ private:
 /// can be read, and it lies a little higher.
 class PictureBoxView : public ViewOf<toolkit::PictureBoxModel, PanelWindow> {
 public:
-    PictureBoxView(QtToolkit& toolkit, toolkit::PictureBoxModel& model, QWidget* parent)
-        : ViewOf(toolkit, model, new PanelWindow(parent))
+    PictureBoxView(toolkit::PictureBoxModel& model, QWidget* parent) : ViewOf(model, new PanelWindow(parent))
     {
     }
 

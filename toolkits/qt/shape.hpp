@@ -19,10 +19,7 @@ private:
 
 class ShapeView : public ViewOf<toolkit::ShapeModel, ShapeWindow> {
 public:
-    ShapeView(QtToolkit& toolkit, toolkit::ShapeModel& model, QWidget* parent)
-        : ViewOf(toolkit, model, new ShapeWindow(model, parent))
-    {
-    }
+    ShapeView(toolkit::ShapeModel& model, QWidget* parent) : ViewOf(model, new ShapeWindow(model, parent)) { }
 
 protected:
     void ShowGeometry() override;

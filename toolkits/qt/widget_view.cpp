@@ -2,8 +2,9 @@
 
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/shortcuts.hpp"
-#include "toolkits/qt/form.hpp"
+#include "toolkits/qt/form_area.hpp"
 #include "toolkits/qt/look/theme.hpp"
+#include "toolkits/qt/look/tool_tip.hpp"
 
 #include <QFocusEvent>
 
@@ -72,8 +73,7 @@ QString LabelFor(const toolkit::WidgetCore& core)
 
 } // namespace
 
-WidgetView::WidgetView(QtToolkit& toolkit, toolkit::WidgetCore& core, QWidget* widget)
-    : toolkit_(toolkit), core_(core), widget_(widget)
+WidgetView::WidgetView(toolkit::WidgetCore& core, QWidget* widget) : core_(core), widget_(widget)
 {
     const ControlDesign& design = core.Design();
     widget->setObjectName(FromText(core.FullName()));
@@ -188,8 +188,8 @@ void ShowFocusOf(const toolkit::FormModel& form)
         return;
     if (form.Focused() && form.Focused()->GetView())
         form.Focused()->GetView()->TakeFocus();
-    else if (QWidget* window = static_cast<const FormWindow&>(form.Window()).Window())
-        window->setFocus(Qt::OtherFocusReason);
+    else
+        form.Window().TakeFocus();
 }
 
 QString AccessibleNameOf(const toolkit::WidgetCore& core)
@@ -201,26 +201,6 @@ QString AccessibleNameOf(const toolkit::WidgetCore& core)
             return name;
     }
     return FromText(design.toolTipText);
-}
-
-QString ToolTipOf(const Text& text)
-{
-    constexpr int longestLine = 60;
-    QString lines;
-    qsizetype length = 0;
-    for (const QString& line : Lines(text).split(QLatin1Char('\n'))) {
-        if (!lines.isEmpty())
-            lines += QLatin1Char('\n');
-        length = 0;
-        for (const QString& word : line.split(QLatin1Char(' '))) {
-            const bool breaks = length > 0 && length + 1 + word.size() > longestLine;
-            if (length > 0)
-                lines += breaks ? QLatin1Char('\n') : QLatin1Char(' ');
-            lines += word;
-            length = breaks ? word.size() : length + word.size() + (length > 0 ? 1 : 0);
-        }
-    }
-    return lines;
 }
 
 } // namespace kova::qt

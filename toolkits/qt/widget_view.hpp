@@ -7,14 +7,12 @@
 
 namespace kova::qt {
 
-class QtToolkit;
-
 /// The Qt picture of one widget: geometry, visibility, enabling, tool tip, order and focus are the same
 /// for all kinds; content, selection and look come from the kind's own view.
 class WidgetView : public toolkit::View {
 public:
     /// Takes the widget over. `Begin` must be called once the view is complete.
-    WidgetView(QtToolkit& toolkit, toolkit::WidgetCore& core, QWidget* widget);
+    WidgetView(toolkit::WidgetCore& core, QWidget* widget);
     ~WidgetView() override;
 
     void Begin();
@@ -27,6 +25,8 @@ public:
     virtual QWidget* FocusWindow() const { return widget_; }
     /// Where a child of a panel is drawn that lies that far below the panel's upper edge, in pixels.
     virtual int TopInside(int top) const { return top; }
+    /// The form is about to be seen, with all its views.
+    virtual void FormAppears() { }
 
 protected:
     virtual void ShowContent() { }
@@ -39,7 +39,6 @@ protected:
 
     /// Tells the model when the user moves the focus to this Qt widget.
     void WatchFocus(QWidget* widget);
-    QtToolkit& Toolkit() const { return toolkit_; }
     toolkit::WidgetCore& Core() const { return core_; }
 
 private:
@@ -49,7 +48,6 @@ private:
     void LeaveFocus();
     void StackByKind();
 
-    QtToolkit& toolkit_;
     toolkit::WidgetCore& core_;
     QPointer<QWidget> widget_;
 };
@@ -57,10 +55,7 @@ private:
 /// A view whose model and Qt widget are of known types.
 template <class Model, class QtWidget> class ViewOf : public WidgetView {
 public:
-    ViewOf(QtToolkit& toolkit, Model& model, QtWidget* widget)
-        : WidgetView(toolkit, model, widget), model_(model)
-    {
-    }
+    ViewOf(Model& model, QtWidget* widget) : WidgetView(model, widget), model_(model) { }
 
 protected:
     Model& GetModel() const { return model_; }
@@ -77,8 +72,5 @@ void ShowFocusOf(const toolkit::FormModel& form);
 /// What a screen reader calls the widget: the design's name, its caption, the label in front of it or
 /// its tool tip.
 QString AccessibleNameOf(const toolkit::WidgetCore& core);
-
-/// A tool tip as Qt shows it: long ones break into lines, without marks that a screen reader would read.
-QString ToolTipOf(const Text& text);
 
 } // namespace kova::qt

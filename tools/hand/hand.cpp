@@ -1,5 +1,6 @@
 #include "tools/hand/hand.hpp"
 
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/qt/form.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"
 

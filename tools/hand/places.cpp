@@ -1,8 +1,12 @@
 #include "tools/hand/places.hpp"
 
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/toolkit.hpp"
 #include "toolkits/qt/boxes/field_frame.hpp"
+#include "toolkits/qt/boxes/line_edit.hpp"
 #include "toolkits/qt/form.hpp"
+#include "toolkits/qt/form_area.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"
 #include "toolkits/qt/look/theme.hpp"
 #include "toolkits/qt/widget_view.hpp"

@@ -2,7 +2,7 @@
 
 #include "host/session/session_clock.hpp"
 #include "tests/unit/host/with_application.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/screen/toolkit.hpp"
 
 #include <QWidget>
 

@@ -9,8 +9,8 @@ namespace kova::qt {
 
 class CheckBoxView : public ViewOf<toolkit::CheckBoxModel, Toggle> {
 public:
-    CheckBoxView(QtToolkit& toolkit, toolkit::CheckBoxModel& model, QWidget* parent)
-        : ViewOf(toolkit, model, new Toggle(parent, Toggle::Mark::Box))
+    CheckBoxView(toolkit::CheckBoxModel& model, QWidget* parent)
+        : ViewOf(model, new Toggle(parent, Toggle::Mark::Box))
     {
         Shown().setFocusPolicy(Qt::TabFocus);
         Shown().setText(FromText(model.Design().caption));

@@ -4,8 +4,8 @@
 
 namespace kova::qt {
 
-ComboBoxView::ComboBoxView(QtToolkit& toolkit, toolkit::ComboBoxModel& model, QWidget* parent)
-    : ViewOf(toolkit, model, new ComboField(parent))
+ComboBoxView::ComboBoxView(toolkit::ComboBoxModel& model, QWidget* parent)
+    : ViewOf(model, new ComboField(parent))
 {
     ComboField& field = Shown();
     field.setFocusPolicy(Qt::TabFocus);

@@ -8,7 +8,7 @@ namespace kova::qt {
 
 class ComboBoxView : public ViewOf<toolkit::ComboBoxModel, ComboField> {
 public:
-    ComboBoxView(QtToolkit& toolkit, toolkit::ComboBoxModel& model, QWidget* parent);
+    ComboBoxView(toolkit::ComboBoxModel& model, QWidget* parent);
 
 protected:
     void ShowContent() override;

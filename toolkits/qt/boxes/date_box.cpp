@@ -1,7 +1,9 @@
 #include "toolkits/qt/boxes/date_box.hpp"
 
+#include "agenda/contracts/platform.hpp"
 #include "toolkits/common/form.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/boxes/calendar.hpp"
+#include "toolkits/qt/boxes/line_edit.hpp"
 
 #include <QKeyEvent>
 
@@ -9,8 +11,8 @@
 
 namespace kova::qt {
 
-DateBoxView::DateBoxView(QtToolkit& toolkit, toolkit::DateBoxModel& model, QWidget* parent)
-    : MaskView(toolkit, model, parent), model_(model)
+DateBoxView::DateBoxView(const Clock& clock, toolkit::DateBoxModel& model, QWidget* parent)
+    : MaskView(model, parent), clock_(clock), model_(model)
 {
     // Where F4 is the key of a control of the form, the box never sees it.
     const auto& controls = model.GetForm().Design().controls;
@@ -22,6 +24,8 @@ DateBoxView::DateBoxView(QtToolkit& toolkit, toolkit::DateBoxModel& model, QWidg
     Shown().endPressed = [this] { OpenCalendar(); };
     Editor()->setInputMethodHints(Qt::ImhDate);
 }
+
+CalendarPopup* DateBoxView::Calendar() const { return calendar_; }
 
 bool DateBoxView::TakesKey(const QKeyEvent& event)
 {
@@ -37,7 +41,7 @@ void DateBoxView::OpenCalendar()
     model_.UserFocuses();
     if (calendar_ || !model_.HasFocus() || !model_.TakesInput())
         return;
-    const Date today = Toolkit().Today();
+    const Date today = clock_.Now().date;
     calendar_ = new CalendarPopup(&Shown(), today, [this](Date day) { model_.UserPicks(day); });
     calendar_->Open(QRect(Shown().mapToGlobal(QPoint(0, 0)), Shown().size()),
                     model_.ShownDate().value_or(today));

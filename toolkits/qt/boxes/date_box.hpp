@@ -1,18 +1,24 @@
 #pragma once
 
 #include "toolkits/common/boxes/date_box.hpp"
-#include "toolkits/qt/boxes/calendar.hpp"
 #include "toolkits/qt/boxes/mask_view.hpp"
 
+namespace kova {
+class Clock;
+}
+
 namespace kova::qt {
+
+class CalendarPopup;
 
 /// A date box: the mask, and a calendar that drops down by its button, F4 or Alt+Down.
 class DateBoxView : public MaskView {
 public:
-    DateBoxView(QtToolkit& toolkit, toolkit::DateBoxModel& model, QWidget* parent);
+    /// The clock gives the calendar its "today" and must outlive the view.
+    DateBoxView(const Clock& clock, toolkit::DateBoxModel& model, QWidget* parent);
 
     /// The open calendar; null where it is closed.
-    CalendarPopup* Calendar() const { return calendar_; }
+    CalendarPopup* Calendar() const;
 
 protected:
     bool TakesKey(const QKeyEvent& event) override;
@@ -20,6 +26,7 @@ protected:
 private:
     void OpenCalendar();
 
+    const Clock& clock_;
     toolkit::DateBoxModel& model_;
     QPointer<CalendarPopup> calendar_;
 };

@@ -1,7 +1,9 @@
 #include "toolkits/qt/boxes/edit_view.hpp"
 
 #include "toolkits/common/form.hpp"
+#include "toolkits/qt/boxes/line_edit.hpp"
 #include "toolkits/qt/look/theme.hpp"
+#include "toolkits/qt/look/tool_tip.hpp"
 
 #include <QKeyEvent>
 
@@ -29,8 +31,8 @@ std::size_t CharactersOf(const QString& text, int units)
 
 } // namespace
 
-EditView::EditView(QtToolkit& toolkit, toolkit::EditCore& model, QWidget* parent)
-    : ViewOf(toolkit, model, new FieldFrame(parent)), editor_(&Shown().Editor())
+EditView::EditView(toolkit::EditCore& model, QWidget* parent)
+    : ViewOf(model, new FieldFrame(parent)), editor_(&Shown().Editor())
 {
     editor_->setFont(Shown().font());
     editor_->setAccessibleName(Shown().accessibleName());
@@ -58,6 +60,10 @@ EditView::EditView(QtToolkit& toolkit, toolkit::EditCore& model, QWidget* parent
     QObject::connect(editor_, &QLineEdit::selectionChanged, editor_, [this] { ForwardSelection(); });
     WatchFocus(editor_);
 }
+
+QWidget* EditView::FocusWindow() const { return editor_; }
+
+LineEdit* EditView::Editor() const { return editor_; }
 
 void EditView::ShowContent()
 {

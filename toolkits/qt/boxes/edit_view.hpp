@@ -12,12 +12,12 @@ namespace kova::qt {
 /// editor shows what came of them.
 class EditView : public ViewOf<toolkit::EditCore, FieldFrame> {
 public:
-    EditView(QtToolkit& toolkit, toolkit::EditCore& model, QWidget* parent);
+    EditView(toolkit::EditCore& model, QWidget* parent);
 
-    QWidget* FocusWindow() const override { return Editor(); }
+    QWidget* FocusWindow() const override;
 
 protected:
-    LineEdit* Editor() const { return editor_; }
+    LineEdit* Editor() const;
     void ShowContent() override;
     void ShowSelection() override;
     void ShowLook() override;

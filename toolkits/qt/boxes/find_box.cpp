@@ -1,11 +1,12 @@
 #include "toolkits/qt/boxes/find_box.hpp"
 
+#include "toolkits/qt/boxes/line_edit.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 namespace kova::qt {
 
-FindBoxView::FindBoxView(QtToolkit& toolkit, toolkit::FindBoxModel& model, QWidget* parent)
-    : EditView(toolkit, model, parent), model_(model)
+FindBoxView::FindBoxView(toolkit::FindBoxModel& model, QWidget* parent)
+    : EditView(model, parent), model_(model)
 {
     if (Editor()->placeholderText().isEmpty())
         Editor()->setPlaceholderText(FromText(model.Design().caption));

@@ -8,7 +8,7 @@ namespace kova::qt {
 /// A find box: its button shows a magnifier where a press would search, a cross where it would clear.
 class FindBoxView : public EditView {
 public:
-    FindBoxView(QtToolkit& toolkit, toolkit::FindBoxModel& model, QWidget* parent);
+    FindBoxView(toolkit::FindBoxModel& model, QWidget* parent);
 
 protected:
     void ShowContent() override;

@@ -2,7 +2,7 @@
 
 #include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/look/theme.hpp"
-#include "toolkits/qt/widget_view.hpp"
+#include "toolkits/qt/look/tool_tip.hpp"
 
 #include <QClipboard>
 #include <QContextMenuEvent>

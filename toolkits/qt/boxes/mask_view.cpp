@@ -1,11 +1,11 @@
 #include "toolkits/qt/boxes/mask_view.hpp"
 
+#include "toolkits/qt/boxes/line_edit.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 namespace kova::qt {
 
-MaskView::MaskView(QtToolkit& toolkit, toolkit::MaskEditCore& model, QWidget* parent)
-    : EditView(toolkit, model, parent), model_(model)
+MaskView::MaskView(toolkit::MaskEditCore& model, QWidget* parent) : EditView(model, parent), model_(model)
 {
     Editor()->KeepSelectionAtFirstPress();
 }

@@ -8,7 +8,7 @@ namespace kova::qt {
 /// red.
 class MaskView : public EditView {
 public:
-    MaskView(QtToolkit& toolkit, toolkit::MaskEditCore& model, QWidget* parent);
+    MaskView(toolkit::MaskEditCore& model, QWidget* parent);
 
 protected:
     void ShowContent() override;

@@ -9,8 +9,8 @@ namespace kova::qt {
 
 class OptionButtonView : public ViewOf<toolkit::OptionButtonModel, Toggle> {
 public:
-    OptionButtonView(QtToolkit& toolkit, toolkit::OptionButtonModel& model, QWidget* parent)
-        : ViewOf(toolkit, model, new Toggle(parent, Toggle::Mark::Circle))
+    OptionButtonView(toolkit::OptionButtonModel& model, QWidget* parent)
+        : ViewOf(model, new Toggle(parent, Toggle::Mark::Circle))
     {
         Shown().setFocusPolicy(Qt::TabFocus);
         Shown().pressed = [this] { GetModel().UserPresses(); };

@@ -8,10 +8,7 @@ namespace kova::qt {
 /// A text box is the plain editor; its locked look follows from the model.
 class TextBoxView : public EditView {
 public:
-    TextBoxView(QtToolkit& toolkit, toolkit::TextBoxModel& model, QWidget* parent)
-        : EditView(toolkit, model, parent)
-    {
-    }
+    TextBoxView(toolkit::TextBoxModel& model, QWidget* parent) : EditView(model, parent) { }
 };
 
 } // namespace kova::qt

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "toolkits/common/boxes/time_box.hpp"
+#include "toolkits/qt/boxes/line_edit.hpp"
 #include "toolkits/qt/boxes/mask_view.hpp"
 
 namespace kova::qt {
 
 class TimeBoxView : public MaskView {
 public:
-    TimeBoxView(QtToolkit& toolkit, toolkit::TimeBoxModel& model, QWidget* parent)
-        : MaskView(toolkit, model, parent)
+    TimeBoxView(toolkit::TimeBoxModel& model, QWidget* parent) : MaskView(model, parent)
     {
         Editor()->setInputMethodHints(Qt::ImhTime);
     }

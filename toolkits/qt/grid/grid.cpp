@@ -2,8 +2,7 @@
 
 namespace kova::qt {
 
-GridView::GridView(QtToolkit& toolkit, toolkit::GridModel& model, QWidget* parent)
-    : ViewOf(toolkit, model, new GridCanvas(model, parent))
+GridView::GridView(toolkit::GridModel& model, QWidget* parent) : ViewOf(model, new GridCanvas(model, parent))
 {
     WatchFocus(&Shown());
 }

@@ -8,7 +8,7 @@ namespace kova::qt {
 
 class GridView : public ViewOf<toolkit::GridModel, GridCanvas> {
 public:
-    GridView(QtToolkit& toolkit, toolkit::GridModel& model, QWidget* parent);
+    GridView(toolkit::GridModel& model, QWidget* parent);
 
 protected:
     void ShowContent() override;

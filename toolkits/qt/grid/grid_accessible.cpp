@@ -1,5 +1,6 @@
 #include "toolkits/qt/grid/grid_accessible.hpp"
 
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"
 #include "toolkits/qt/look/pictures.hpp"
 #include "toolkits/qt/look/theme.hpp"

@@ -1,6 +1,7 @@
 #include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/pictures.hpp"
 #include "toolkits/qt/look/theme.hpp"

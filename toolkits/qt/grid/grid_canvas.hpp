@@ -1,30 +1,36 @@
 #pragma once
 
-#include "toolkits/common/grid/grid.hpp"
+#include "agenda/contracts/widgets/widget.hpp"
 #include "toolkits/qt/grid/grid_text.hpp"
+#include "toolkits/qt/mouse_follower.hpp"
 #include "toolkits/qt/plain_panel.hpp"
 
 #include <optional>
+#include <vector>
 
 class QHelpEvent;
 class QScrollBar;
 
+namespace kova::toolkit {
+class GridAxis;
+class GridModel;
+struct CellLook;
+struct GridChange;
+} // namespace kova::toolkit
+
 namespace kova::qt {
 
 /// The grid's one widget: paints the cells on show from the model and forwards mouse, wheel and keys.
-class GridCanvas : public PlainPanel {
+class GridCanvas : public PlainPanel, public MouseFollower {
 public:
     GridCanvas(toolkit::GridModel& model, QWidget* parent);
 
     /// Repaints what changed, and nothing else.
     void Apply(const toolkit::GridChange& change);
 
-    /// The mouse is at a place of the grid while the form takes no input.
-    void MouseIsAt(const QPointF& pixel);
-    /// The mouse is over what covers the grid at that place.
-    void MouseIsAbove(const QPointF& pixel);
-    /// The mouse left the grid and what covers it.
-    void MouseLeaves();
+    void MouseIsAt(const QPointF& pixel) override;
+    void MouseIsAbove(const QPointF& pixel) override;
+    void MouseLeaves() override;
 
     const toolkit::GridModel& Model() const { return model_; }
     /// Place of a row across the whole grid, in pixels; empty where it is not on show.

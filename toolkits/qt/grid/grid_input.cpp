@@ -2,8 +2,9 @@
 
 #include "toolkits/qt/grid/grid_canvas.hpp"
 
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/qt/look/theme.hpp"
-#include "toolkits/qt/widget_view.hpp"
+#include "toolkits/qt/look/tool_tip.hpp"
 
 #include <QHelpEvent>
 #include <QMouseEvent>

@@ -1,10 +1,12 @@
 #include "toolkits/qt/grid/navigation_bar.hpp"
 
-#include "toolkits/qt/input_gate.hpp"
+#include "toolkits/qt/enter_key.hpp"
+#include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
 
 #include <algorithm>
@@ -122,8 +124,8 @@ void NavigationWindow::resizeEvent(QResizeEvent*)
     numbers_->setGeometry(2 * step, top, std::max(0, width() - 4 * step), size);
 }
 
-NavigationBarView::NavigationBarView(QtToolkit& toolkit, toolkit::NavigationBarModel& model, QWidget* parent)
-    : ViewOf(toolkit, model, new NavigationWindow(parent))
+NavigationBarView::NavigationBarView(toolkit::NavigationBarModel& model, QWidget* parent)
+    : ViewOf(model, new NavigationWindow(parent))
 {
     if (Shown().accessibleName().isEmpty())
         Shown().setAccessibleName(QStringLiteral("Páginas da lista"));

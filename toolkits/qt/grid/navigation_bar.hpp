@@ -1,16 +1,17 @@
 #pragma once
 
 #include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/plain_panel.hpp"
 #include "toolkits/qt/widget_view.hpp"
-
-#include <QLabel>
 
 #include <array>
 #include <functional>
 
+class QLabel;
+
 namespace kova::qt {
+
+class FlatButton;
 
 /// Four buttons around the text "1 - 15 de 42". The arrow keys walk along the buttons on offer; Enter
 /// and the space bar press.
@@ -45,7 +46,7 @@ private:
 
 class NavigationBarView : public ViewOf<toolkit::NavigationBarModel, NavigationWindow> {
 public:
-    NavigationBarView(QtToolkit& toolkit, toolkit::NavigationBarModel& model, QWidget* parent);
+    NavigationBarView(toolkit::NavigationBarModel& model, QWidget* parent);
     void TakeFocus() override;
 
 protected:

@@ -6,6 +6,7 @@
 #include "toolkits/common/command_button.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/grid/navigation_bar.hpp"
 #include "toolkits/qt/look/theme.hpp"
 

@@ -3,7 +3,7 @@
 #include "toolkits/common/boxes/combo_box.hpp"
 #include "toolkits/common/boxes/edit_core.hpp"
 #include "toolkits/common/grid/grid.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/screen/toolkit.hpp"
 #include "tools/hand/hand.hpp"
 #include "tools/scenario/person.hpp"
 

@@ -2,6 +2,8 @@
 
 #include "reports/layout.hpp"
 #include "toolkits/common/menu.hpp"
+#include "toolkits/common/report.hpp"
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/headless/log_lines.hpp"
 #include "toolkits/qt/look/theme.hpp"
 #include "tools/scenario/screen/container_window.hpp"
@@ -25,7 +27,7 @@ constexpr Long ContainerNumber = 1001;
 class ScriptedWindow final : public qt::FormWindow {
 public:
     ScriptedWindow(ScreenToolkit& toolkit, toolkit::FormModel& form)
-        : FormWindow(toolkit, form), toolkit_(toolkit), form_(form)
+        : FormWindow(toolkit.Top(), form), toolkit_(toolkit), form_(form)
     {
     }
 

@@ -4,7 +4,7 @@
 #include "toolkits/headless/report_metrics.hpp"
 #include "toolkits/headless/text_measure.hpp"
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/screen/toolkit.hpp"
 #include "tools/hand/hand.hpp"
 #include "tools/scenario/player.hpp"
 #include "tools/scenario/screen/pump.hpp"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/conformance/widgets/bench.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/screen/toolkit.hpp"
 
 namespace kova::conformance {
 

@@ -3,15 +3,19 @@
 #include "tests/conformance/widgets/qt/bench_toolkit.hpp"
 #include "tests/conformance/widgets/qt/input.hpp"
 #include "tests/support/qt_application.hpp"
+#include "toolkits/common/menu.hpp"
 #include "toolkits/qt/boxes/calendar.hpp"
 #include "toolkits/qt/boxes/combo_field.hpp"
 #include "toolkits/qt/boxes/date_box.hpp"
 #include "toolkits/qt/boxes/field_frame.hpp"
+#include "toolkits/qt/boxes/line_edit.hpp"
+#include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"
 #include "toolkits/qt/grid/navigation_bar.hpp"
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
+#include <QListWidget>
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>

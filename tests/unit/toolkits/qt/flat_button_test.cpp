@@ -1,5 +1,6 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 #include "toolkits/qt/boxes/field_frame.hpp"
+#include "toolkits/qt/boxes/line_edit.hpp"
 #include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/look/theme.hpp"
 

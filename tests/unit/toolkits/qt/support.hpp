@@ -1,7 +1,8 @@
 #pragma once
 
+#include "toolkits/common/form.hpp"
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/screen/toolkit.hpp"
 #include "toolkits/qt/widget_view.hpp"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "tools/hand/hand.hpp"
 
 #include "tests/support/qt_application.hpp"
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/screen/toolkit.hpp"
 
 #include <gtest/gtest.h>
 

@@ -4,6 +4,7 @@
 #include "toolkits/qt/boxes/combo_field.hpp"
 #include "toolkits/qt/boxes/field_frame.hpp"
 #include "toolkits/qt/look/theme.hpp"
+#include "toolkits/qt/look/tool_tip.hpp"
 #include "toolkits/qt/widget_view.hpp"
 
 #include <QAccessible>

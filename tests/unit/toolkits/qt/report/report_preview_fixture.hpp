@@ -2,6 +2,7 @@
 
 #include "tests/unit/reports/qt/report_samples.hpp"
 #include "tests/unit/toolkits/qt/support.hpp"
+#include "toolkits/qt/report/report_desk.hpp"
 #include "toolkits/qt/report/report_preview.hpp"
 
 #include <QAbstractButton>

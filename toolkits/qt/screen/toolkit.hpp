@@ -1,14 +1,13 @@
 #pragma once
 
-#include "reports/pages.hpp"
 #include "toolkits/common/toolkit.hpp"
+#include "toolkits/qt/top_window.hpp"
 
-#include <QPointer>
-
-#include <functional>
 #include <memory>
 
-class QWidget;
+namespace kova::reports {
+struct Document;
+}
 
 namespace kova::qt {
 
@@ -26,10 +25,7 @@ public:
     ~QtToolkit() override;
 
     /// The host's main window: dialogs are centred over it while none of its windows is active.
-    void RegisterTopWindow(QWidget* window) { topWindow_ = window; }
-    /// The window over which another one opens: the active one, else the host's main window. May be null.
-    QWidget* WindowBelow(const QWidget* except) const;
-    Date Today() const { return clock_.Now().date; }
+    void RegisterTopWindow(QWidget* window) { top_.Register(window); }
     Double Seconds() const override { return clock_.Timer(); }
 
     void ProcessPendingEvents() override;
@@ -53,10 +49,11 @@ protected:
     void ScheduleRelease() override;
     void EventsEnded() override;
     void InputAwaited() override;
+    const TopWindow& Top() const { return top_; }
 
 private:
     const Clock& clock_;
-    QPointer<QWidget> topWindow_;
+    TopWindow top_;
     std::unique_ptr<toolkit::TextMeasure> measure_;
     std::unique_ptr<InputGate> gate_;
 };

@@ -1,37 +1,29 @@
-#include "toolkits/qt/toolkit.hpp"
+#include "toolkits/qt/screen/toolkit.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "reports/layout.hpp"
 #include "reports/qt/font_metrics.hpp"
 #include "toolkits/common/factory/widget_factory.hpp"
-#include "toolkits/qt/boxes/check_box.hpp"
-#include "toolkits/qt/boxes/combo_box.hpp"
-#include "toolkits/qt/boxes/date_box.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/report.hpp"
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/boxes/field_accessible.hpp"
-#include "toolkits/qt/boxes/find_box.hpp"
-#include "toolkits/qt/boxes/number_box.hpp"
-#include "toolkits/qt/boxes/option_button.hpp"
-#include "toolkits/qt/boxes/text_box.hpp"
-#include "toolkits/qt/boxes/time_box.hpp"
 #include "toolkits/qt/burial.hpp"
-#include "toolkits/qt/command_button.hpp"
 #include "toolkits/qt/form.hpp"
-#include "toolkits/qt/grid/grid.hpp"
+#include "toolkits/qt/form_area.hpp"
 #include "toolkits/qt/grid/grid_accessible.hpp"
-#include "toolkits/qt/grid/navigation_bar.hpp"
 #include "toolkits/qt/handles.hpp"
-#include "toolkits/qt/header_band.hpp"
 #include "toolkits/qt/help_window.hpp"
 #include "toolkits/qt/input_gate.hpp"
-#include "toolkits/qt/label.hpp"
 #include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/text_measure.hpp"
 #include "toolkits/qt/look/theme.hpp"
 #include "toolkits/qt/message_box.hpp"
 #include "toolkits/qt/picture_box.hpp"
 #include "toolkits/qt/report/report_day.hpp"
+#include "toolkits/qt/report/report_desk.hpp"
 #include "toolkits/qt/report/report_preview.hpp"
-#include "toolkits/qt/shape.hpp"
+#include "toolkits/qt/screen/view_factory.hpp"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -43,14 +35,6 @@
 namespace kova::qt {
 
 namespace {
-
-template <class ViewKind, class Model>
-std::unique_ptr<toolkit::View> Make(QtToolkit& toolkit, toolkit::WidgetCore& core, QWidget* parent)
-{
-    auto view = std::make_unique<ViewKind>(toolkit, dynamic_cast<Model&>(core), parent);
-    view->Begin();
-    return view;
-}
 
 QWidget* ParentOf(const toolkit::WidgetCore& core)
 {
@@ -92,18 +76,6 @@ QtToolkit::~QtToolkit()
     BurialsWaitFor(nullptr);
 }
 
-QWidget* QtToolkit::WindowBelow(const QWidget* except) const
-{
-    QWidget* active = QApplication::activeWindow();
-    if (active && active != except && active->isVisible())
-        return active;
-    // The user is in another program.
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal && modal != except && modal->isVisible())
-        return modal;
-    return topWindow_ ? topWindow_->window() : nullptr;
-}
-
 void QtToolkit::ProcessPendingEvents()
 {
     constexpr int longestWaitMilliseconds = 10;
@@ -114,11 +86,7 @@ void QtToolkit::ProcessPendingEvents()
     loop.exec();
 }
 
-Twips QtToolkit::ScreenWidth() const
-{
-    const QScreen* screen = topWindow_ ? topWindow_->screen() : QGuiApplication::primaryScreen();
-    return ToTwips(screen->geometry().width());
-}
+Twips QtToolkit::ScreenWidth() const { return ToTwips(top_.Screen()->geometry().width()); }
 
 void QtToolkit::SetRoundRectRegion(Long handle, int ellipseWidth, int ellipseHeight)
 {
@@ -133,37 +101,13 @@ void QtToolkit::SetRoundRectRegion(Long handle, int ellipseWidth, int ellipseHei
 
 std::unique_ptr<toolkit::FormWindow> QtToolkit::MakeWindow(toolkit::FormModel& form)
 {
-    return std::make_unique<FormWindow>(*this, form);
+    return std::make_unique<FormWindow>(top_, form);
 }
 
 std::unique_ptr<toolkit::View> QtToolkit::MakeView(toolkit::WidgetCore& widget)
 {
-    using namespace toolkit;
     QWidget* parent = ParentOf(widget);
-    if (!parent)
-        return nullptr;
-    switch (widget.KindOfWidget()) {
-    case WidgetKind::KVComboBox: return Make<ComboBoxView, ComboBoxModel>(*this, widget, parent);
-    case WidgetKind::KVTextBox: return Make<TextBoxView, TextBoxModel>(*this, widget, parent);
-    case WidgetKind::KVFind: return Make<FindBoxView, FindBoxModel>(*this, widget, parent);
-    case WidgetKind::KVDTPicker: return Make<DateBoxView, DateBoxModel>(*this, widget, parent);
-    case WidgetKind::KVTime: return Make<TimeBoxView, TimeBoxModel>(*this, widget, parent);
-    case WidgetKind::KVNumberBox: return Make<NumberBoxView, NumberBoxModel>(*this, widget, parent);
-    case WidgetKind::KVCommandButton:
-        return Make<CommandButtonView, CommandButtonModel>(*this, widget, parent);
-    case WidgetKind::KVTheme: return Make<HeaderBandView, HeaderBandModel>(*this, widget, parent);
-    case WidgetKind::KVNavigationBar:
-        return Make<NavigationBarView, NavigationBarModel>(*this, widget, parent);
-    case WidgetKind::MSFlexGrid: return Make<GridView, GridModel>(*this, widget, parent);
-    case WidgetKind::Label: return Make<LabelView, LabelModel>(*this, widget, parent);
-    case WidgetKind::PictureBox: return Make<PictureBoxView, PictureBoxModel>(*this, widget, parent);
-    case WidgetKind::CheckBox: return Make<CheckBoxView, CheckBoxModel>(*this, widget, parent);
-    case WidgetKind::OptionButton: return Make<OptionButtonView, OptionButtonModel>(*this, widget, parent);
-    case WidgetKind::Shape: return Make<ShapeView, ShapeModel>(*this, widget, parent);
-    case WidgetKind::Menu:
-    case WidgetKind::Image: break;
-    }
-    return nullptr;
+    return parent ? ViewOn(*parent, widget, clock_) : nullptr;
 }
 
 const toolkit::TextMeasure& QtToolkit::Measure() const { return *measure_; }
@@ -183,12 +127,12 @@ void QtToolkit::UnhandledFailure(const Failure& failure)
 
 Reply QtToolkit::AskUser(MessageKind kind, const Text& text, const Text& title)
 {
-    return ShowMessageBox(WindowBelow(nullptr), kind, text, title);
+    return ShowMessageBox(top_.Below(nullptr), kind, text, title);
 }
 
 void QtToolkit::ShowKeys(const toolkit::FormModel& form, const std::vector<toolkit::KeyHelp>& keys)
 {
-    ShowHelpWindow(WindowBelow(nullptr), form.Current().caption, keys);
+    ShowHelpWindow(top_.Below(nullptr), form.Current().caption, keys);
 }
 
 void QtToolkit::RunPreview(const toolkit::ReportModel& report)
@@ -199,9 +143,9 @@ void QtToolkit::RunPreview(const toolkit::ReportModel& report)
 
 void QtToolkit::ShowPreview(const toolkit::ReportModel& report, const reports::Document& pages)
 {
-    const Date day = DayOfReport(report.Data(), Today());
+    const Date day = DayOfReport(report.Data(), clock_.Now().date);
     ReportDesk desk;
-    ReportPreview preview(pages, desk, day, WindowBelow(nullptr));
+    ReportPreview preview(pages, desk, day, top_.Below(nullptr));
     if (report.Current().windowState == ReportWindowState::Maximized)
         preview.setWindowState(Qt::WindowMaximized);
     preview.exec();
