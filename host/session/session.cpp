@@ -16,6 +16,7 @@
 #include "host/session/session_user.hpp"
 #include "host/session/shop.hpp"
 #include "system/path_text.hpp"
+#include "toolkits/common/form.hpp"
 #include "toolkits/qt/handles.hpp"
 
 #include <QApplication>

@@ -1,11 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
-#include "toolkits/common/form.hpp"
-#include "toolkits/common/report.hpp"
 #include "toolkits/common/report_owner.hpp"
-#include "toolkits/common/shortcuts.hpp"
-#include "toolkits/common/text_measure.hpp"
 
 #include <memory>
 #include <string_view>

@@ -1,12 +1,17 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
-#include "reports/pages.hpp"
-#include "toolkits/common/form.hpp"
-#include "toolkits/common/menu.hpp"
-#include "toolkits/common/report.hpp"
 
 #include <vector>
+
+namespace kova::reports {
+struct Document;
+}
+namespace kova::toolkit {
+class FormModel;
+class MenuModel;
+class ReportModel;
+} // namespace kova::toolkit
 
 namespace kova::headless {
 

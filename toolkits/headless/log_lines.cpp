@@ -1,7 +1,11 @@
 #include "toolkits/headless/log_lines.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "reports/pages.hpp"
+#include "toolkits/common/form.hpp"
 #include "toolkits/common/menu.hpp"
+#include "toolkits/common/report.hpp"
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/headless/quoted.hpp"
 
 namespace kova::headless {

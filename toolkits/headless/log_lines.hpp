@@ -1,13 +1,20 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
-#include "reports/pages.hpp"
-#include "toolkits/common/report.hpp"
-#include "toolkits/common/shortcuts.hpp"
-#include "toolkits/common/toolkit.hpp"
 
 #include <string>
 #include <vector>
+
+namespace kova::reports {
+struct Document;
+}
+namespace kova::toolkit {
+class FormModel;
+class MenuModel;
+class ReportModel;
+class WidgetCore;
+struct KeyHelp;
+} // namespace kova::toolkit
 
 /// The lines that tell what forms and boxes did, whichever toolkit they did it on.
 namespace kova::headless::lines {

@@ -1,5 +1,10 @@
 #include "toolkits/headless/queue_driver.hpp"
 
+#include "reports/pages.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/menu.hpp"
+#include "toolkits/common/report.hpp"
+
 #include <utility>
 
 namespace kova::headless {

@@ -1,7 +1,10 @@
 #include "toolkits/headless/toolkit.hpp"
 
 #include "reports/layout.hpp"
+#include "toolkits/common/event_scope.hpp"
 #include "toolkits/common/factory/widget_factory.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/report.hpp"
 #include "toolkits/headless/window.hpp"
 
 #include <utility>
@@ -58,8 +61,11 @@ std::unique_ptr<toolkit::FormWindow> HeadlessToolkit::MakeWindow(toolkit::FormMo
 {
     const Long handle = nextHandle_++;
     windows_[handle].form = &form;
-    return std::make_unique<HeadlessWindow>(*this, form, handle);
+    WindowHost& host = *this;
+    return std::make_unique<HeadlessWindow>(host, form, handle);
 }
+
+std::unique_ptr<toolkit::View> HeadlessToolkit::MakeView(toolkit::WidgetCore&) { return nullptr; }
 
 void HeadlessToolkit::Forget(Long handle, toolkit::FormModel& form)
 {

@@ -5,6 +5,7 @@
 #include "toolkits/headless/queue_driver.hpp"
 #include "toolkits/headless/report_metrics.hpp"
 #include "toolkits/headless/text_measure.hpp"
+#include "toolkits/headless/window_host.hpp"
 
 #include <functional>
 #include <map>
@@ -16,7 +17,7 @@ namespace kova::headless {
 
 /// The toolkit without a screen: widgets live in memory, a Driver plays the user wherever the event loop
 /// would run, and time stands still. One pixel is 15 twips.
-class HeadlessToolkit final : public toolkit::ToolkitModel {
+class HeadlessToolkit final : public toolkit::ToolkitModel, private WindowHost {
 public:
     /// The ellipse of the last call of SetRoundRectRegion for a window, in pixels.
     struct Corners {
@@ -44,7 +45,6 @@ public:
     QueueDriver& Queue() { return queue_; }
     /// Null goes back to the queues. The driver must stay valid.
     void SetDriver(Driver* driver) { driver_ = driver; }
-    Driver& GetDriver() { return driver_ ? *driver_ : queue_; }
 
     /// What forms and boxes did, one line each: "show frmLista", "show NAME modal", "hide NAME",
     /// "unload NAME", "repaint NAME", "focus NAME.CONTROL", "popup MENU X Y", "keys TEXT", "pause 1",
@@ -69,7 +69,7 @@ public:
     void SetRoundRectRegion(Long handle, int ellipseWidth, int ellipseHeight) override;
 
     std::unique_ptr<toolkit::FormWindow> MakeWindow(toolkit::FormModel& form) override;
-    std::unique_ptr<toolkit::View> MakeView(toolkit::WidgetCore&) override { return nullptr; }
+    std::unique_ptr<toolkit::View> MakeView(toolkit::WidgetCore& widget) override;
     const toolkit::TextMeasure& Measure() const override { return measure_; }
     Long HandleOf(const toolkit::WidgetCore& widget) override;
     void UnhandledFailure(const Failure& failure) override;
@@ -82,11 +82,6 @@ public:
     void FormPopsUp(const toolkit::FormModel& form, const toolkit::MenuModel& parent, Twips x,
                     Twips y) override;
     void KeysAreSent(const Text& keys) override;
-
-    /// For windows: takes a form into a container, answers the inner size; nothing where there is none.
-    std::optional<toolkit::InnerSize> JoinContainer(Long handle, toolkit::FormModel& form);
-    /// For windows: the form's window is gone, with the handles of its panels.
-    void Forget(Long handle, toolkit::FormModel& form);
 
 protected:
     Reply AskUser(MessageKind kind, const Text& text, const Text& title) override;
@@ -108,6 +103,10 @@ private:
         Double seconds = 0;
         bool asked = false;
     };
+
+    std::optional<toolkit::InnerSize> JoinContainer(Long handle, toolkit::FormModel& form) override;
+    void Forget(Long handle, toolkit::FormModel& form) override;
+    Driver& GetDriver() override { return driver_ ? *driver_ : queue_; }
 
     void Write(std::string line);
     void LogPause(Double seconds);

@@ -1,5 +1,6 @@
 // What forms and boxes did goes into the log.
 
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/headless/log_lines.hpp"
 #include "toolkits/headless/toolkit.hpp"
 

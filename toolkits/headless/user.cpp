@@ -7,7 +7,11 @@
 #include "toolkits/common/boxes/find_box.hpp"
 #include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
+#include "toolkits/common/event_scope.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/headless/toolkit.hpp"
 
 #include <algorithm>
 #include <limits>

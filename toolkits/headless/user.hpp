@@ -1,16 +1,25 @@
 #pragma once
 
-#include "toolkits/common/boxes/combo_box.hpp"
-#include "toolkits/common/grid/grid.hpp"
-#include "toolkits/headless/keys.hpp"
-#include "toolkits/headless/toolkit.hpp"
+#include "agenda/contracts/date_time.hpp"
+#include "agenda/contracts/widgets/widget.hpp"
 
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+namespace kova::toolkit {
+class GridModel;
+class WidgetCore;
+enum class FormKey;
+enum class GridKey;
+struct ComboRow;
+} // namespace kova::toolkit
+
 namespace kova::headless {
+
+class HeadlessToolkit;
+struct KeyPress;
 
 /// What a person at the screen does, by the names of forms and controls. Where several forms carry a
 /// name, the topmost one is meant.

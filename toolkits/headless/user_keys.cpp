@@ -5,8 +5,11 @@
 #include "toolkits/common/boxes/edit_core.hpp"
 #include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/headless/keys.hpp"
+#include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
 
 #include <algorithm>

@@ -8,12 +8,12 @@ class FormModel;
 
 namespace kova::headless {
 
-class HeadlessToolkit;
+class WindowHost;
 
 /// A form's window in memory.
 class HeadlessWindow final : public toolkit::FormWindow {
 public:
-    HeadlessWindow(HeadlessToolkit& toolkit, toolkit::FormModel& form, Long handle);
+    HeadlessWindow(WindowHost& host, toolkit::FormModel& form, Long handle);
     ~HeadlessWindow() override;
 
     Long Handle() const override { return handle_; }
@@ -30,7 +30,7 @@ public:
                                   Twips x, Twips y) override;
 
 private:
-    HeadlessToolkit& toolkit_;
+    WindowHost& host_;
     toolkit::FormModel& form_;
     const Long handle_;
 };

@@ -1,5 +1,6 @@
 #include "toolkits/qt/help_window.hpp"
 
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QDialog>

@@ -1,10 +1,14 @@
 #pragma once
 
-#include "toolkits/common/shortcuts.hpp"
+#include "agenda/contracts/value.hpp"
 
 #include <vector>
 
 class QWidget;
+
+namespace kova::toolkit {
+struct KeyHelp;
+}
 
 namespace kova::qt {
 

@@ -1,5 +1,6 @@
 #include "toolkits/qt/message_box.hpp"
 
+#include "agenda/contracts/platform.hpp"
 #include "toolkits/qt/look/icons.hpp"
 #include "toolkits/qt/look/theme.hpp"
 

@@ -1,8 +1,13 @@
 #pragma once
 
-#include "agenda/contracts/platform.hpp"
+#include "agenda/contracts/value.hpp"
 
 class QWidget;
+
+namespace kova {
+enum class MessageKind;
+enum class Reply;
+} // namespace kova
 
 namespace kova::qt {
 

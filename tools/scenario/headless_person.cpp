@@ -1,10 +1,16 @@
 #include "tools/scenario/headless_person.hpp"
 
 #include "toolkits/common/boxes/check_box.hpp"
+#include "toolkits/common/boxes/combo_box.hpp"
 #include "toolkits/common/boxes/find_box.hpp"
 #include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
+#include "toolkits/common/event_scope.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/headless/keys.hpp"
+#include "toolkits/headless/toolkit.hpp"
 
 namespace kova::scenario {
 

@@ -1,6 +1,8 @@
 #include "tools/scenario/shown_members.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "toolkits/common/access_observer.hpp"
+#include "toolkits/common/form.hpp"
 #include "toolkits/common/grid/grid.hpp"
 #include "tools/scenario/value_text.hpp"
 

@@ -7,7 +7,9 @@
 #include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
 #include "toolkits/common/label.hpp"
+#include "toolkits/common/menu.hpp"
 #include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 #include "toolkits/qt/boxes/combo_field.hpp"
 
+#include "toolkits/common/boxes/combo_box.hpp"
 #include "toolkits/qt/burial.hpp"
 #include "toolkits/qt/look/icons.hpp"
 #include "toolkits/qt/look/painting.hpp"
@@ -9,6 +10,7 @@
 #include <QHash>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -58,6 +60,8 @@ ComboField::ComboField(QWidget* parent) : QWidget(parent)
 }
 
 ComboField::~ComboField() { CloseList(); }
+
+bool ComboField::IsListOpen() const { return list_ != nullptr; }
 
 QListWidget* ComboField::List() const { return list_; }
 

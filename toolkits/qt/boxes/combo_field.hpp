@@ -1,13 +1,16 @@
 #pragma once
 
-#include "toolkits/common/boxes/combo_box.hpp"
-
-#include <QListWidget>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
 #include <functional>
+
+class QListWidget;
+
+namespace kova::toolkit {
+enum class ComboKey;
+}
 
 namespace kova::qt {
 
@@ -23,7 +26,7 @@ public:
     /// Opens the list, where it is closed, and marks a row; -1 is none.
     void ShowList(const QStringList& rows, int marked);
     void CloseList();
-    bool IsListOpen() const { return list_ != nullptr; }
+    bool IsListOpen() const;
     /// The open list; null where it is closed.
     QListWidget* List() const;
 

@@ -1,5 +1,6 @@
 #include "toolkits/qt/boxes/field_frame.hpp"
 
+#include "toolkits/qt/boxes/line_edit.hpp"
 #include "toolkits/qt/look/icons.hpp"
 #include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/theme.hpp"

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "toolkits/qt/boxes/line_edit.hpp"
-
 #include <QColor>
-#include <QPointer>
+#include <QWidget>
 
 #include <functional>
 #include <string>
 
 namespace kova::qt {
+
+class LineEdit;
 
 /// An input field: rounded border, an editor and, where asked for, a button at the right end. The
 /// button takes no focus of its own; what it does is also reached by keys.

@@ -1,5 +1,6 @@
 #include "toolkits/qt/report/report_canvas.hpp"
 
+#include "reports/pages.hpp"
 #include "reports/qt/page_painter.hpp"
 #include "toolkits/qt/look/theme.hpp"
 

@@ -1,5 +1,6 @@
 #include "toolkits/qt/report/report_day.hpp"
 
+#include "agenda/contracts/business_services.hpp"
 #include "agenda/contracts/failure.hpp"
 
 #include <optional>

@@ -1,7 +1,10 @@
 #pragma once
 
-#include "agenda/contracts/business_services.hpp"
 #include "agenda/contracts/date_time.hpp"
+
+namespace kova {
+class RecordSet;
+}
 
 namespace kova::qt {
 

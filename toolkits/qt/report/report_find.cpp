@@ -1,5 +1,6 @@
 #include "toolkits/qt/report/report_find.hpp"
 
+#include "reports/pages.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 namespace kova::qt {

@@ -1,11 +1,13 @@
 #pragma once
 
-#include "reports/pages.hpp"
-
-#include <QString>
-
 #include <cstddef>
 #include <vector>
+
+class QString;
+
+namespace kova::reports {
+struct Document;
+}
 
 namespace kova::qt {
 

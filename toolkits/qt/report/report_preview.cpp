@@ -1,9 +1,12 @@
 #include "toolkits/qt/report/report_preview.hpp"
 
+#include "reports/pages.hpp"
 #include "reports/qt/delivery.hpp"
+#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/help_window.hpp"
 #include "toolkits/qt/look/theme.hpp"
+#include "toolkits/qt/report/report_desk.hpp"
 
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -115,6 +118,8 @@ void ReportPreview::PreviousPage()
     const std::size_t page = canvas_->CurrentPage();
     canvas_->ShowPage(page > 0 ? page - 1 : 0);
 }
+
+void ReportPreview::LastPage() { canvas_->ShowPage(document_.pages.size()); }
 
 void ReportPreview::NextPage() { canvas_->ShowPage(canvas_->CurrentPage() + 1); }
 

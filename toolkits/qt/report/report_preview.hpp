@@ -1,9 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/date_time.hpp"
-#include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/report/report_canvas.hpp"
-#include "toolkits/qt/report/report_desk.hpp"
 
 #include <QDialog>
 
@@ -20,6 +18,7 @@ struct Delivered;
 namespace kova::qt {
 
 class FlatButton;
+class ReportDesk;
 
 /// The window that shows a report before it goes to paper: pages, size, search, printing, saving. Document
 /// and desk must outlive it.
@@ -57,7 +56,7 @@ private:
     void PreviousPage();
     void NextPage();
     void FirstPage() { canvas_->ShowPage(0); }
-    void LastPage() { canvas_->ShowPage(document_.pages.size()); }
+    void LastPage();
     void ZoomIn() { canvas_->ZoomIn(); }
     void ZoomOut() { canvas_->ZoomOut(); }
     void PaperSize() { canvas_->Zoom(1); }

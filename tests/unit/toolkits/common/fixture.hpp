@@ -1,6 +1,9 @@
 #pragma once
 
 #include "agenda/contracts/widgets.hpp"
+#include "toolkits/common/form.hpp"
+#include "toolkits/headless/keys.hpp"
+#include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
 
 #include <gtest/gtest.h>

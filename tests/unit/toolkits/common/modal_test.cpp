@@ -1,4 +1,5 @@
 #include "tests/unit/toolkits/common/fixture.hpp"
+#include "toolkits/common/menu.hpp"
 
 namespace kova::headless {
 
