@@ -5,6 +5,7 @@
 #include "host/components/component_service.hpp"
 #include "host/components/profile_file.hpp"
 #include "host/components/server_host.hpp"
+#include "toolkits/common/form.hpp"
 #include "toolkits/headless/toolkit.hpp"
 #include "tools/scenario/scripted_components.hpp"
 #include "tools/scenario/value_text.hpp"
