@@ -445,6 +445,17 @@ TEST_F(Fields, AFieldIsNamedByTheLabelInFrontOfIt)
     EXPECT_EQ(label->buddy(), Editor<KVTextBox>("kvtxtNome"));
 }
 
+TEST_F(Fields, LabelFillsItsGroundWhereItHasAColourOfItsOwn)
+{
+    ControlDesign filled = Design(WidgetKind::Label, "lblCheia", 300, 300, 1500, 600);
+    filled.backColor = static_cast<Long>(Rgb(1, 2, 3));
+    const FormRef form = Show({filled, Design(WidgetKind::Label, "lblVazia", 300, 1200, 1500, 600)});
+    QWidget* label = WindowOf(Bind<Label>(form, "lblCheia"));
+    const QImage shown = Picture(label->parentWidget());
+    EXPECT_EQ(shown.pixelColor(label->geometry().center()), QColor(1, 2, 3));
+    EXPECT_NE(shown.pixelColor(WindowOf(Bind<Label>(form, "lblVazia"))->geometry().center()), QColor(1, 2, 3));
+}
+
 TEST_F(Fields, LabelOfAutomaticSizeHoldsItsWholeText)
 {
     auto& label = Get<Label>("lblNome");
