@@ -453,7 +453,8 @@ TEST_F(Fields, LabelFillsItsGroundWhereItHasAColourOfItsOwn)
     QWidget* label = WindowOf(Bind<Label>(form, "lblCheia"));
     const QImage shown = Picture(label->parentWidget());
     EXPECT_EQ(shown.pixelColor(label->geometry().center()), QColor(1, 2, 3));
-    EXPECT_NE(shown.pixelColor(WindowOf(Bind<Label>(form, "lblVazia"))->geometry().center()), QColor(1, 2, 3));
+    EXPECT_NE(shown.pixelColor(WindowOf(Bind<Label>(form, "lblVazia"))->geometry().center()),
+              QColor(1, 2, 3));
 }
 
 TEST_F(Fields, LabelOfAutomaticSizeHoldsItsWholeText)
