@@ -53,7 +53,7 @@ public:
     /// Empties all cells, fixed ones included, of text, colours and pictures; Rows and Cols stay.
     virtual void Clear() = 0;
 
-    /// Width in twips; 0 hides the column, -1 is the default width, another negative one counts as 0.
+    /// Width in twips; 0 hides the column, and so does a negative one, which counts as 0.
     virtual Long ColWidth(Long col) const = 0;
     virtual void ColWidth(Long col, Long) = 0;
     virtual Integer ColAlignment(Long col) const = 0;

@@ -2,6 +2,8 @@
 
 #include "toolkits/common/grid/grid.hpp"
 
+#include <algorithm>
+
 namespace kova::toolkit {
 
 Long GridModel::ColWidth(Long col) const
@@ -17,7 +19,7 @@ void GridModel::ColWidth(Long col, Long width)
     if (auto* observer = Observer())
         observer->Write(AccessToElement("ColWidth", col), Value(width));
     CheckCol(col);
-    columns_.Size(col, width);
+    columns_.Size(col, std::max<Long>(width, 0));
     TouchAll();
 }
 

@@ -209,8 +209,8 @@ TEST_F(Grid, HidesColumnsOfWidthZero)
     EXPECT_EQ(grid_->CellWidth(), 5040);
     grid_->Col(0);
     EXPECT_EQ(grid_->CellWidth(), 0);
-    grid_->ColWidth(0, -1);
-    EXPECT_EQ(grid_->ColWidth(0), 960);
+    grid_->ColWidth(2, -1);
+    EXPECT_EQ(grid_->ColWidth(2), 0);
 }
 
 TEST_F(Grid, PlacesTheCurrentCellInsideItself)
