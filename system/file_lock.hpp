@@ -11,7 +11,7 @@ namespace kova::system {
 /// ends; the file stays.
 class FileLock {
 public:
-    /// What to do where there is no such file.
+    /// What to do where there is no such file. One that is made is for this user alone.
     enum class Missing { Make, Fail };
 
     /// Waits until the file is free, and makes it where it is missing. Holds nothing, with `error`, where it

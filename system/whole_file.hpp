@@ -15,7 +15,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path, std::error_cod
 /// `error`, where it cannot be written, and nothing has changed then.
 bool ReplaceWholeFile(const std::string& path, const std::string& content, std::error_code& error);
 
-/// Puts the content and the rights of one file into another, which is there already. Throws
+/// Puts the content of one file into another, which is there already and keeps its rights. Throws
 /// std::filesystem::filesystem_error; then the other holds a part.
 void CopyWholeFile(const std::string& from, const std::string& to);
 

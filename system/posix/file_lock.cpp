@@ -12,7 +12,7 @@ namespace {
 
 int Open(const std::string& path, int flags)
 {
-    return ::open(path.c_str(), flags | O_RDWR | O_CLOEXEC, 0666);
+    return ::open(path.c_str(), flags | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
 }
 
 bool Lock(int file, int how)

@@ -14,7 +14,7 @@ namespace kova::system {
 
 namespace {
 
-bool WriteAll(int descriptor, const std::string& content)
+bool WriteAll(int descriptor, std::string_view content)
 {
     std::size_t written = 0;
     while (written < content.size()) {
@@ -72,6 +72,31 @@ bool Replace(const std::string& target, const std::string& content)
     return false;
 }
 
+enum class Ended { AtTheEnd, ByReading, ByTaking };
+
+/// Hands each block of the file to `take`, which answers whether it goes on. The last error tells why it did
+/// not come to the end.
+template <class Take> Ended ReadBlocks(const Descriptor& file, Take take)
+{
+    std::array<char, 16384> block;
+    while (file.IsOpen()) {
+        const ssize_t count = ::read(file.Get(), block.data(), block.size());
+        if (count == 0)
+            return Ended::AtTheEnd;
+        if (count < 0 && errno != EINTR)
+            break;
+        if (count > 0 && !take(std::string_view(block.data(), static_cast<std::size_t>(count))))
+            return Ended::ByTaking;
+    }
+    return Ended::ByReading;
+}
+
+[[noreturn]] void Fail(const std::string& path)
+{
+    const std::error_code error = LastError();
+    throw std::filesystem::filesystem_error("copy", PathOf(path), error);
+}
+
 /// A rename lasts through a crash once its folder is on disk. Where that cannot be had, it is done all the
 /// same.
 void FlushFolderOf(const std::string& path)
@@ -89,16 +114,12 @@ std::optional<std::string> ReadWholeFile(const std::string& path, std::error_cod
 {
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     std::string content;
-    std::array<char, 16384> block;
-    while (file.IsOpen()) {
-        const ssize_t count = ::read(file.Get(), block.data(), block.size());
-        if (count == 0)
-            return content;
-        if (count > 0)
-            content.append(block.data(), static_cast<std::size_t>(count));
-        else if (errno != EINTR)
-            break;
-    }
+    const auto add = [&](std::string_view block) {
+        content += block;
+        return true;
+    };
+    if (ReadBlocks(file, add) == Ended::AtTheEnd)
+        return content;
     error = LastError();
     return std::nullopt;
 }
@@ -116,7 +137,16 @@ bool ReplaceWholeFile(const std::string& path, const std::string& content, std::
 
 void CopyWholeFile(const std::string& from, const std::string& to)
 {
-    std::filesystem::copy_file(PathOf(from), PathOf(to), std::filesystem::copy_options::overwrite_existing);
+    const Descriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!source.IsOpen())
+        Fail(from);
+    const Descriptor target(::open(to.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC));
+    if (!target.IsOpen())
+        Fail(to);
+    const Ended ended =
+        ReadBlocks(source, [&](std::string_view block) { return WriteAll(target.Get(), block); });
+    if (ended != Ended::AtTheEnd)
+        Fail(ended == Ended::ByReading ? from : to);
 }
 
 } // namespace kova::system

@@ -38,4 +38,6 @@ bool MayWrite(const std::string& path)
     return !IsMarkedReadOnly(PathOf(path)) && May(path, GENERIC_WRITE, FILE_ADD_FILE);
 }
 
+void KeepFromOthers(const std::string&) { }
+
 } // namespace kova::system

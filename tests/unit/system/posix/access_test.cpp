@@ -20,6 +20,12 @@ protected:
     ~AccessOnPosix() override { Become(former_); }
 
     static bool Become(uid_t user) { return ::seteuid(user) == 0; }
+    std::filesystem::perms RightsAfterwards(std::filesystem::perms before)
+    {
+        std::filesystem::permissions(PathOf(file_), before);
+        KeepFromOthers(file_);
+        return std::filesystem::status(PathOf(file_)).permissions();
+    }
 
     const std::string file_ = In("ração");
     const uid_t former_ = ::geteuid();
@@ -37,6 +43,17 @@ TEST_F(AccessOnPosix, GoesByTheRightsThatTheProcessActsWith)
     }
     EXPECT_TRUE(MayRead(file_));
     EXPECT_FALSE(MayWrite(file_));
+}
+
+TEST_F(AccessOnPosix, IsTakenFromOthersAndLeftToAGroupThatMayWrite)
+{
+    const auto rights = [](int mode) { return static_cast<std::filesystem::perms>(mode); };
+    EXPECT_EQ(RightsAfterwards(rights(0644)), rights(0600));
+    EXPECT_EQ(RightsAfterwards(rights(0640)), rights(0600));
+    EXPECT_EQ(RightsAfterwards(rights(0666)), rights(0660));
+    EXPECT_EQ(RightsAfterwards(rights(0660)), rights(0660));
+    EXPECT_EQ(RightsAfterwards(rights(0400)), rights(0400));
+    KeepFromOthers(In("nenhum"));
 }
 
 } // namespace kova::system
