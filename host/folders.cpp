@@ -3,13 +3,34 @@
 #include "system/program_path.hpp"
 #include "system/user_folders.hpp"
 
+#include <stdexcept>
+
 namespace kova::host {
 
 namespace fs = std::filesystem;
 
-fs::path DataFolder() { return system::UserDataFolder() / "kovaris"; }
+namespace {
 
-fs::path SettingsFolder() { return system::UserSettingsFolder() / "kovaris"; }
+fs::path OwnFolderIn(const fs::path& folder)
+{
+    if (folder.empty())
+        throw std::runtime_error(
+            "O programa não sabe onde guardar o que é deste usuário: a variável HOME não indica a pasta "
+            "pessoal dele. Defina HOME e abra o programa novamente.");
+    return folder / "kovaris";
+}
+
+} // namespace
+
+fs::path DataFolder() { return OwnFolderIn(system::UserDataFolder()); }
+
+fs::path SettingsFolder() { return OwnFolderIn(system::UserSettingsFolder()); }
+
+void RequireFolders()
+{
+    DataFolder();
+    SettingsFolder();
+}
 
 fs::path DemonstrationDatabase() { return DataFolder() / "demonstracao.db"; }
 

@@ -5,9 +5,12 @@
 namespace kova::host {
 
 /// Where the application keeps what belongs to the user: a folder "kovaris" in each of the folders that the
-/// system has for it (system/user_folders.hpp).
+/// system has for it (system/user_folders.hpp). Throws std::runtime_error, in Portuguese, where the user has
+/// none: in one that everybody may write to, anybody could name libraries to be loaded.
 std::filesystem::path DataFolder();
 std::filesystem::path SettingsFolder();
+/// Throws where one of them would.
+void RequireFolders();
 
 /// The demonstration shop's database, the registry of components and the picture that a computer without
 /// a display gets.

@@ -6,7 +6,8 @@ namespace kova::system {
 
 /// Where programs keep what belongs to the user, each in a folder of its own within. Not made where they are
 /// missing. On systems of the desktop's conventions XDG_DATA_HOME and XDG_CONFIG_HOME name them, where a
-/// relative path does not count; they lie in the folder for temporary files where the user has no home.
+/// relative path does not count. Empty where the user has no home: what lies where everybody may write is
+/// nobody's own.
 std::filesystem::path UserDataFolder();
 std::filesystem::path UserSettingsFolder();
 

@@ -203,6 +203,10 @@ Session::~Session()
 
 } // namespace
 
-int RunSession(const Options& options, Outlet outlet) { return Session(options, outlet).Run(); }
+int RunSession(const Options& options, Outlet outlet)
+{
+    RequireFolders();
+    return Session(options, outlet).Run();
+}
 
 } // namespace kova::host

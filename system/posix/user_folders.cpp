@@ -22,7 +22,7 @@ fs::path UserFolder(const char* variable, const char* belowHome)
     if (const fs::path folder = AbsolutePathIn(variable); !folder.empty())
         return folder;
     const fs::path home = AbsolutePathIn("HOME");
-    return home.empty() ? fs::temp_directory_path() : home / PathOf(belowHome);
+    return home.empty() ? fs::path() : home / PathOf(belowHome);
 }
 
 } // namespace

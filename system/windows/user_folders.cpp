@@ -16,7 +16,7 @@ fs::path KnownFolder(const KNOWNFOLDERID& id)
 {
     PWSTR answer = nullptr;
     const HRESULT result = ::SHGetKnownFolderPath(id, KF_FLAG_DONT_VERIFY, nullptr, &answer);
-    const fs::path folder = SUCCEEDED(result) ? fs::path(answer) : fs::temp_directory_path();
+    const fs::path folder = SUCCEEDED(result) ? fs::path(answer) : fs::path();
     ::CoTaskMemFree(answer);
     return folder;
 }

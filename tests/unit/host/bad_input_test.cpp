@@ -89,6 +89,16 @@ TEST(BadInput, ADataFolderThatCannotBeMadeIsNamed)
                   (home / ".local/share/kovaris").string());
 }
 
+TEST(BadInput, AUserWithoutAHomeIsToldSoAndNoLibraryIsLoaded)
+{
+    const TemporaryFolder home;
+    ExpectRefusal(RunProgram("/usr/bin/env",
+                             {"-u", "HOME", BuildFolder() / "kovaris", "--picture", home / "agenda.png"},
+                             home.Path()),
+                  "a variável HOME não indica a pasta pessoal");
+    EXPECT_FALSE(fs::exists(home / "agenda.png"));
+}
+
 TEST(BadInput, APictureThatCannotBeWrittenIsNamed)
 {
     const TemporaryFolder home;

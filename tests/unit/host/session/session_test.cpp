@@ -95,6 +95,19 @@ TEST(Folders, LieBelowHomeWhereTheConventionsNameNoneOrARelativeOne)
     EXPECT_EQ(SettingsFolder(), "/casa/ana/.config/kovaris");
 }
 
+TEST(Folders, AreRefusedWithoutAHome)
+{
+    for (const char* name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "HOME"})
+        unsetenv(name);
+    EXPECT_THROW(RegistryFile(), std::runtime_error);
+    EXPECT_THROW(SettingsFolder(), std::runtime_error);
+    setenv("XDG_DATA_HOME", "/dados", 1);
+    EXPECT_NO_THROW(RegistryFile());
+    EXPECT_THROW(RequireFolders(), std::runtime_error);
+    setenv("XDG_CONFIG_HOME", "/ajustes", 1);
+    EXPECT_NO_THROW(RequireFolders());
+}
+
 TEST(Folders, TheProgramsFolderIsThatOfTheRunningExecutable)
 {
     EXPECT_TRUE(std::filesystem::exists(ProgramFolder() / "test_host"));

@@ -23,11 +23,13 @@ TEST(UserFoldersOnPosix, LieInTheUsersHomeWhereTheDesktopNamesNoFullPath)
     EXPECT_EQ(TextOf(UserSettingsFolder()), "/casa/joão/.config");
 }
 
-TEST(UserFoldersOnPosix, AreTheTemporaryOneWithoutAHome)
+TEST(UserFoldersOnPosix, AreNowhereWithoutAHome)
 {
     const test::EnvironmentVariable home("HOME", "");
     const test::EnvironmentVariable data("XDG_DATA_HOME", "");
-    EXPECT_EQ(UserDataFolder(), std::filesystem::temp_directory_path());
+    const test::EnvironmentVariable settings("XDG_CONFIG_HOME", "");
+    EXPECT_EQ(UserDataFolder(), "");
+    EXPECT_EQ(UserSettingsFolder(), "");
 }
 
 } // namespace kova::system
