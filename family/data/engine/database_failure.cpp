@@ -1,35 +1,54 @@
 #include "family/data/engine/database_failure.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "family/data/engine/long_work.hpp"
+#include "system/want_of_room.hpp"
 
 #include <soci/postgresql/soci-postgresql.h>
 #include <soci/soci.h>
+#include <soci/sqlite3/soci-sqlite3.h>
+
+#include <filesystem>
 
 namespace kova::family {
 
 namespace {
 
-struct Translation {
-    std::string_view reported;
+/// Of long work that was asked to end.
+constexpr std::string_view Stopped = "O trabalho foi interrompido antes do fim; nada foi gravado.";
+
+/// What the file engine reports by a code of its own.
+struct FileResult {
+    int code;
     Fault fault;
     std::string_view cause;
 };
 
-constexpr Translation Translations[] = {
-    {"is full", Fault::Shortage,
+constexpr std::string_view AgainstTheRules =
+    "O banco de dados não aceita o que seria gravado, porque não segue as regras dele. Confira os dados.";
+
+constexpr FileResult FileResults[] = {
+    {SQLITE_FULL, Fault::Shortage,
      "O disco está cheio. Libere espaço e tente novamente; nada do que estava gravado se perdeu."},
-    {"is locked", Fault::Locked,
+    {SQLITE_BUSY, Fault::Locked,
      "O banco de dados está em uso por outro programa. Feche-o e tente novamente."},
-    {"readonly", Fault::Lasting,
+    {SQLITE_LOCKED, Fault::Locked,
+     "O banco de dados está em uso por outro programa. Feche-o e tente novamente."},
+    {SQLITE_READONLY, Fault::Lasting,
      "O banco de dados não aceita gravação. Verifique as permissões do arquivo e da pasta."},
-    {"not a database", Fault::Lasting, "O arquivo não é um banco de dados. Escolha outro arquivo."},
-    {"malformed", Fault::Lasting,
+    {SQLITE_PERM, Fault::Lasting,
+     "O banco de dados não aceita gravação. Verifique as permissões do arquivo e da pasta."},
+    {SQLITE_NOTADB, Fault::Lasting, "O arquivo não é um banco de dados. Escolha outro arquivo."},
+    {SQLITE_CORRUPT, Fault::Lasting,
      "O banco de dados está danificado. Restaure a cópia de segurança mais recente."},
-    {"unable to open", Fault::Lasting,
+    {SQLITE_CANTOPEN, Fault::Lasting,
      "O arquivo não pode ser aberto. Verifique o caminho e as permissões da pasta."},
-    {"I/O error", Fault::Lasting,
+    {SQLITE_IOERR, Fault::Lasting,
      "O disco não respondeu à leitura ou à gravação. Verifique o disco e tente novamente."},
-    {"interrupted", Fault::Lasting, "O trabalho foi interrompido antes do fim; nada foi gravado."},
+    {SQLITE_NOMEM, Fault::Shortage,
+     "A memória do computador acabou. Feche outros programas e tente novamente."},
+    {SQLITE_CONSTRAINT, Fault::Lasting, AgainstTheRules},
+    {SQLITE_INTERRUPT, Fault::Lasting, Stopped},
 };
 
 /// A state of a server, or the class of states that begin with it.
@@ -83,6 +102,7 @@ constexpr ServerState ServerStates[] = {
     {"25006", Fault::Lasting,
      "O servidor só aceita leitura, como uma réplica. Informe o endereço do servidor principal."},
     {"58", Fault::Lasting, "O disco do servidor falhou. Fale com quem cuida dele."},
+    {"23", Fault::Lasting, AgainstTheRules},
 };
 
 std::string MessageOf(const std::runtime_error& cause)
@@ -90,6 +110,18 @@ std::string MessageOf(const std::runtime_error& cause)
     if (const auto* reported = dynamic_cast<const soci::soci_error*>(&cause))
         return reported->get_error_message();
     return cause.what();
+}
+
+std::string AdviceFor(const std::error_code& cause)
+{
+    if (system::IsWantOfRoom(cause))
+        return "O disco está cheio. Libere espaço e tente novamente.";
+    if (cause == std::errc::no_such_file_or_directory)
+        return "A pasta não existe. Verifique o caminho.";
+    if (cause == std::errc::permission_denied || cause == std::errc::operation_not_permitted
+        || cause == std::errc::read_only_file_system)
+        return "Verifique as permissões da pasta ou escolha outra.";
+    return "Verifique o caminho e tente novamente.";
 }
 
 std::string Opening(const std::string& path) { return "Falha no banco de dados \"" + path + "\".\r\n"; }
@@ -119,9 +151,31 @@ DatabaseFailure ServerFailure(const std::string& path, std::string_view state, c
     return DatabaseFailure(WithDetail(Opening(path).append(Refused), reported));
 }
 
+DatabaseFailure FileFailure(const std::string& path, int code, const std::string& reported)
+{
+    // What stands in the higher bits tells more than the causes here do.
+    constexpr int Primary = 0xFF;
+    for (const FileResult& known : FileResults) {
+        if (known.code == (code & Primary))
+            return {WithDetail(Opening(path).append(known.cause), reported), known.fault,
+                    std::string(known.cause)};
+    }
+    return DatabaseFailure(WithDetail(Opening(path).append(Refused), reported));
+}
+
 DatabaseFailure LostConnection(const std::string& path)
 {
     return {Opening(path).append(Lost), Fault::ConnectionLost, std::string(Lost)};
+}
+
+DatabaseFailure UnwritableFile(const std::string& path, const std::error_code& cause)
+{
+    if (cause == std::errc::file_exists)
+        return DatabaseFailure("O arquivo \"" + path
+                               + "\" já existe. Escolha outro nome ou apague o arquivo.");
+    const std::string text = "O arquivo \"" + path + "\" não pode ser gravado. " + AdviceFor(cause);
+    return {WithDetail(text, cause.message()), system::IsWantOfRoom(cause) ? Fault::Shortage : Fault::Lasting,
+            text};
 }
 
 DatabaseFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause)
@@ -129,11 +183,12 @@ DatabaseFailure TranslatedFailure(const std::string& path, const std::runtime_er
     const std::string message = MessageOf(cause);
     if (const auto* reported = dynamic_cast<const soci::postgresql_soci_error*>(&cause))
         return ServerFailure(path, reported->sqlstate(), message);
-    for (const Translation& translation : Translations) {
-        if (message.find(translation.reported) != std::string::npos)
-            return {WithDetail(Opening(path).append(translation.cause), message), translation.fault,
-                    std::string(translation.cause)};
-    }
+    if (const auto* reported = dynamic_cast<const soci::sqlite3_soci_error*>(&cause))
+        return FileFailure(path, reported->result(), message);
+    if (const auto* refused = dynamic_cast<const std::filesystem::filesystem_error*>(&cause))
+        return UnwritableFile(path, refused->code());
+    if (dynamic_cast<const Interrupted*>(&cause) != nullptr)
+        return {Opening(path).append(Stopped), Fault::Lasting, std::string(Stopped)};
     return DatabaseFailure(WithDetail(Opening(path).append(Refused), message));
 }
 

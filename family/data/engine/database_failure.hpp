@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace kova::family {
 
@@ -50,11 +51,18 @@ private:
     std::string cause_;
 };
 
-/// What the database library reports, told from the state that the server gave it, or from its message.
+/// What the database library, the file system or interrupted work reports, told by the state or the code that
+/// came with it and never by its words.
 DatabaseFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause);
 
 /// What a server reports under a state of five characters (SQLSTATE); `reported` is its detail.
 DatabaseFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported);
+
+/// What the file engine reports under a result code of its own; `reported` is its detail.
+DatabaseFailure FileFailure(const std::string& path, int code, const std::string& reported);
+
+/// Why a file cannot be made or written.
+DatabaseFailure UnwritableFile(const std::string& path, const std::error_code& cause);
 
 /// A connection that was lost before and could not be made again.
 DatabaseFailure LostConnection(const std::string& path);

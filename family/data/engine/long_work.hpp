@@ -6,6 +6,12 @@
 
 namespace kova::family {
 
+/// Long work was asked to end.
+class Interrupted : public std::runtime_error {
+public:
+    Interrupted() : std::runtime_error("interrupted") { }
+};
+
 /// What follows long work, and may end it before its time.
 struct LongWork {
     /// How much of how much is done; told from time to time. May be empty.
@@ -18,11 +24,11 @@ struct LongWork {
         if (progress)
             progress(done, total);
     }
-    /// Fails with a runtime_error where a stop is asked for.
+    /// Fails with Interrupted where a stop is asked for.
     void RequireGoingOn() const
     {
         if (stop.stop_requested())
-            throw std::runtime_error("interrupted");
+            throw Interrupted();
     }
 };
 

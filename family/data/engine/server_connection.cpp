@@ -49,14 +49,22 @@ bool IsGiven(const PQconninfoOption* parameters, const Default& one)
         || (one.variable != nullptr && std::getenv(one.variable) != nullptr);
 }
 
-/// A connection that has ended one way or the other, with its failure told in full.
-Connection Ask(const std::string& connection)
+/// An attempt that has ended one way or the other, with its failure told in full.
+struct Attempt {
+    Connection connection;
+    /// It was about to be protected when it ended.
+    bool atProtection = false;
+};
+
+Attempt Ask(const std::string& address)
 {
-    Connection asked(PQconnectStart(connection.c_str()), PQfinish);
+    Connection asked(PQconnectStart(address.c_str()), PQfinish);
     PQsetErrorVerbosity(asked.get(), PQERRORS_SQLSTATE);
+    bool atProtection = false;
     PostgresPollingStatusType state = PGRES_POLLING_WRITING;
     while (PQstatus(asked.get()) != CONNECTION_BAD && state != PGRES_POLLING_OK
            && state != PGRES_POLLING_FAILED) {
+        atProtection = PQstatus(asked.get()) == CONNECTION_SSL_STARTUP;
         constexpr int LongestWaitMs = 5000;
         const auto awaited = state == PGRES_POLLING_READING ? system::SocketEvent::CanBeRead
                                                             : system::SocketEvent::CanBeWritten;
@@ -64,7 +72,7 @@ Connection Ask(const std::string& connection)
             break;
         state = PQconnectPoll(asked.get());
     }
-    return asked;
+    return {std::move(asked), atProtection};
 }
 
 /// The five characters behind the severity, as in "FATAL:  28P01"; "" where the server gave none.
@@ -127,21 +135,21 @@ std::string ConnectionTo(const std::string& address)
 DatabaseFailure RefusalOfServer(const std::string& address, const std::string& connection,
                                 const std::runtime_error& cause)
 {
-    const Connection asked = Ask(connection);
-    const std::string reported = PQerrorMessage(asked.get());
-    if (PQconnectionNeedsPassword(asked.get()) != 0)
+    const Attempt attempt = Ask(connection);
+    const PGconn* asked = attempt.connection.get();
+    if (PQconnectionNeedsPassword(asked) != 0)
         return DatabaseFailure(
             Opening(address)
             + "O servidor pede uma senha. Guarde-a no arquivo de senhas (~/.pgpass, ou o que "
               "PGPASSFILE indicar), que só o seu usuário pode ler.");
-    if (const std::string state = StateIn(reported); !state.empty())
+    if (const std::string state = StateIn(PQerrorMessage(asked)); !state.empty())
         return ServerFailure(address, state, cause.what());
-    if (const char* host = PQhost(asked.get()); host != nullptr && IsUnknownHost(host)) {
+    if (const char* host = PQhost(asked); host != nullptr && IsUnknownHost(host)) {
         const std::string unknown = std::string("O servidor \"") + host
             + "\" não foi encontrado pelo nome. Verifique o endereço e a rede.";
         return {Opening(address) + unknown, Fault::ConnectionLost, unknown};
     }
-    if (reported.find("SSL") != std::string::npos || reported.find("certific") != std::string::npos)
+    if (attempt.atProtection)
         return DatabaseFailure(
             WithDetail(Opening(address)
                            + "A conexão protegida (TLS) com o servidor não foi possível. Verifique o "

@@ -1,29 +1,15 @@
 #include "family/data/engine/unfinished_file.hpp"
 
-#include "agenda/contracts/failure_detail.hpp"
 #include "family/data/engine/file_checks.hpp"
 #include "system/flush.hpp"
 #include "system/path_text.hpp"
 #include "system/rename.hpp"
-#include "system/want_of_room.hpp"
 
 namespace kova::family {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string AdviceFor(const std::error_code& cause)
-{
-    if (system::IsWantOfRoom(cause))
-        return "O disco está cheio. Libere espaço e tente novamente.";
-    if (cause == std::errc::no_such_file_or_directory)
-        return "A pasta não existe. Verifique o caminho.";
-    if (cause == std::errc::permission_denied || cause == std::errc::operation_not_permitted
-        || cause == std::errc::read_only_file_system)
-        return "Verifique as permissões da pasta ou escolha outra.";
-    return "Verifique o caminho e tente novamente.";
-}
 
 /// With the log files that the engine may have put beside it. What cannot be removed stays.
 void RemoveUnfinished(const std::string& path)
@@ -34,15 +20,6 @@ void RemoveUnfinished(const std::string& path)
 }
 
 } // namespace
-
-DatabaseFailure UnwritableFile(const std::string& path, const std::error_code& cause)
-{
-    if (cause == std::errc::file_exists)
-        return DatabaseFailure("O arquivo \"" + path
-                               + "\" já existe. Escolha outro nome ou apague o arquivo.");
-    return DatabaseFailure(
-        WithDetail("O arquivo \"" + path + "\" não pode ser gravado. " + AdviceFor(cause), cause.message()));
-}
 
 std::string UnfinishedName(const std::string& path) { return path + ".parcial"; }
 

@@ -7,9 +7,6 @@
 
 namespace kova::family {
 
-/// Why a file cannot be made.
-DatabaseFailure UnwritableFile(const std::string& path, const std::error_code& cause);
-
 /// Where a file is made before it gets its name: "PATH.parcial".
 std::string UnfinishedName(const std::string& path);
 
