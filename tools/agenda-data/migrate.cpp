@@ -1,43 +1,43 @@
-#include "family/data/sources/data_source.hpp"
-#include "family/data/sources/file_source.hpp"
-#include "system/path_text.hpp"
+#include "family/data/copies/database_migration.hpp"
+#include "family/data/engine/server_connection.hpp"
 #include "tools/agenda-data/commands.hpp"
+#include "tools/agenda-data/shown_work.hpp"
 
 namespace kova::data {
 
 namespace {
 
-int VersionOf(const std::string& source)
+std::optional<std::string> CopyAskedFor(const Call& call)
 {
-    return family::StoredVersion(family::OpenForReading(source)->Session());
-}
-
-void TellCopy(const std::string& source, int version, std::ostream& output)
-{
-    const std::string copy = family::BackupName(source, version);
-    if (std::filesystem::exists(system::PathOf(copy)))
-        output << "Cópia de antes da atualização: " << copy << "\n";
+    const std::optional<std::string> copy = call.Option("--backup");
+    if (copy && !family::IsServer(call.Operand(0)))
+        call.Refuse("--backup é só para um servidor: a cópia de um arquivo fica ao lado dele.");
+    return copy;
 }
 
 int Run(const Call& call, Surroundings& surroundings)
 {
     const std::string& source = call.Operand(0);
-    const int before = VersionOf(source);
-    const int after = family::StoredVersion(family::OpenDatabase(source)->Session());
-    if (before == after) {
-        surroundings.output << "O banco de dados já está na versão " << after << ".\n";
+    const family::MigrationReport report = family::MigrateDatabase(
+        source, CopyAskedFor(call), family::CurrentMigrations(), ShownWork(surroundings.error, "Cópia"));
+    if (report.before == report.after) {
+        surroundings.output << "O banco de dados já está na versão " << report.after << ".\n";
         return 0;
     }
-    surroundings.output << "Banco de dados atualizado da versão " << before << " para a versão " << after
-                        << ".\n";
-    TellCopy(source, after, surroundings.output);
+    surroundings.output << "Banco de dados atualizado da versão " << report.before << " para a versão "
+                        << report.after << ".\n"
+                        << "Cópia de antes da atualização: " << report.copy << "\n";
     return 0;
 }
 
 } // namespace
 
 const Command MigrateCommand{
-    {"migrate", "Atualiza o banco para a versão deste programa, depois de o copiar.", {"BANCO"}},
+    {"migrate",
+     "Atualiza o banco para a versão deste programa, depois de o copiar: um arquivo para o\n"
+     "lado dele, um servidor para um arquivo novo. Os postos esperam enquanto isso.",
+     {"BANCO"},
+     {{"--backup", "ARQUIVO", "A cópia de um servidor (padrão: na pasta atual, com o nome do banco)."}}},
     Run,
 };
 

@@ -5,6 +5,7 @@
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/unfinished_file.hpp"
+#include "system/access.hpp"
 #include "system/path_text.hpp"
 
 #include <algorithm>
@@ -61,6 +62,13 @@ void RemoveRests(const std::string& path)
         RemoveAbandoned(file);
 }
 
+/// Earlier versions made copies that everybody could read.
+void KeepFromOthers(const std::string& path)
+{
+    for (const std::string& file : DailyFiles(path, ""))
+        system::KeepFromOthers(file);
+}
+
 /// Their names order as their days. The day's own stays also where a wrong clock once made later ones.
 void RemoveOld(const std::string& path, const std::string& today)
 {
@@ -89,6 +97,7 @@ bool MakeDailyBackup(const std::string& path, Date day, const LongWork& work)
             return false;
         BackUpDatabase(path, file, work);
         RemoveOld(path, file);
+        KeepFromOthers(path);
         return true;
     } catch (const fs::filesystem_error& cause) {
         throw TranslatedFailure(file, cause);

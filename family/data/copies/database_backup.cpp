@@ -1,11 +1,13 @@
 #include "family/data/copies/database_backup.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "family/data/copies/database_copy.hpp"
-#include "family/data/copies/online_copy.hpp"
-#include "family/data/copies/trial_restore.hpp"
+#include "family/data/engine/file_checks.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/sources/online_copy.hpp"
+#include "family/data/sources/trial_restore.hpp"
 #include "system/path_text.hpp"
 #include "system/whole_file.hpp"
 
@@ -30,6 +32,12 @@ void RequireFile(const std::string& file)
                               + "\" não existe ou não é um arquivo. Verifique o caminho.");
 }
 
+DatabaseFailure UnreadableCopy(const std::string& file, const std::error_code& cause)
+{
+    return DatabaseFailure(WithDetail(
+        "A cópia \"" + file + "\" não pode ser lida. Verifique as permissões e o disco.", cause.message()));
+}
+
 std::vector<TableCount> TryRestored(const std::string& restored, const std::string& file,
                                     const LongWork& work)
 {
@@ -46,9 +54,6 @@ void CopyContent(const std::string& file, const std::string& target, const LongW
         CopyOnline(*OpenForReading(file), target, work);
     else
         system::CopyWholeFile(file, target);
-    // A copy is often kept from being written; the database is not.
-    fs::permissions(system::PathOf(target), fs::perms::owner_read | fs::perms::owner_write,
-                    fs::perm_options::add);
 }
 
 } // namespace
@@ -57,7 +62,7 @@ std::vector<TableCount> BackUpDatabase(const std::string& source, const std::str
                                        const LongWork& work)
 {
     if (IsServer(source))
-        return CopyDatabase(source, file, work);
+        return CopyAsItIs(source, file, work);
     const std::unique_ptr<Database> database = OpenForReading(source);
     UnfinishedFile copy(file);
     std::vector<TableCount> counts = CopyOnline(*database, copy.Name(), work);
@@ -72,11 +77,15 @@ std::vector<TableCount> RestoreDatabase(const std::string& file, const std::stri
     RequireFile(file);
     if (IsServer(target))
         return CopyDatabase(file, target, work);
+    if (const auto refusal = CheckLocalDisk(target))
+        throw DatabaseFailure(*refusal);
     UnfinishedFile restored(target);
     try {
         CopyContent(file, restored.Name(), work);
     } catch (const fs::filesystem_error& cause) {
-        throw TranslatedFailure(target, cause);
+        if (cause.path1() == system::PathOf(file))
+            throw UnreadableCopy(file, cause.code());
+        throw UnwritableFile(target, cause.code());
     }
     std::vector<TableCount> counts = TryRestored(restored.Name(), file, work);
     restored.Finish();

@@ -1,11 +1,13 @@
 #include "family/data/copies/database_copy.hpp"
 
 #include "family/data/copies/row_copy.hpp"
-#include "family/data/copies/trial_restore.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_source.hpp"
+#include "family/data/sources/trial_restore.hpp"
+
+#include <algorithm>
 
 namespace kova::family {
 
@@ -33,14 +35,26 @@ void FillFrom(Database& source, Database& target, const LongWork& work, std::vec
     }
 }
 
-/// `fill` has told in `counts` what it has written.
-void MakeFile(const std::string& path, const std::function<void(Database&)>& fill,
-              const std::vector<TableCount>& counts, const LongWork& work)
+std::vector<TableCount> MakeFile(Database& source, const std::string& path, Migrations steps,
+                                 const LongWork& work)
 {
     UnfinishedFile copy(path);
-    BuildFile(copy.Name(), fill);
+    std::vector<TableCount> counts;
+    BuildFile(
+        copy.Name(), [&](Database& target) { FillFrom(source, target, work, counts); }, steps);
     TrialRestore(copy.Name(), counts, work);
     copy.Finish();
+    return counts;
+}
+
+/// The steps that lead to the schema that the database has.
+Migrations StepsOf(Database& database)
+{
+    const int version = StoredVersion(database.Session());
+    const Migrations all = CurrentMigrations();
+    const auto behind =
+        std::find_if(all.begin(), all.end(), [&](const Migration& step) { return step.version > version; });
+    return all.first(static_cast<std::size_t>(behind - all.begin()));
 }
 
 } // namespace
@@ -49,13 +63,21 @@ std::vector<TableCount> CopyDatabase(const std::string& source, const std::strin
                                      const LongWork& work)
 {
     const std::unique_ptr<Database> from = OpenNewestForReading(source);
+    if (!IsServer(target))
+        return MakeFile(*from, target, CurrentMigrations(), work);
     std::vector<TableCount> counts;
-    const auto fill = [&](Database& to) { FillFrom(*from, to, work, counts); };
-    if (IsServer(target))
-        CreateDatabase(target, fill);
-    else
-        MakeFile(target, fill, counts, work);
+    CreateDatabase(target, [&](Database& to) { FillFrom(*from, to, work, counts); });
     return counts;
+}
+
+std::vector<TableCount> CopyAsItIs(const std::string& source, const std::string& file, const LongWork& work)
+{
+    const std::unique_ptr<Database> from = OpenForReading(source);
+    try {
+        return MakeFile(*from, file, StepsOf(*from), work);
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(source, cause);
+    }
 }
 
 } // namespace kova::family

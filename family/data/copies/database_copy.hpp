@@ -14,4 +14,7 @@ namespace kova::family {
 std::vector<TableCount> CopyDatabase(const std::string& source, const std::string& target,
                                      const LongWork& work);
 
+/// The same into a new file with the source's own schema, which may be older.
+std::vector<TableCount> CopyAsItIs(const std::string& source, const std::string& file, const LongWork& work);
+
 } // namespace kova::family

@@ -198,7 +198,7 @@ TableSum CopyTable(Database& source, Database& target, const StoredTable& table,
 std::vector<TableSum> SumTables(Database& database, const LongWork& work)
 {
     std::vector<TableSum> sums;
-    for (const StoredTable& table : StoredTables()) {
+    for (const StoredTable& table : StoredTables(database)) {
         AnyRow row(database, table);
         SumOfRows sum;
         TableReading(database, table, row).ForEach([&] {
@@ -215,7 +215,7 @@ std::vector<TableSum> CopyRows(Database& source, Database& target, const LongWor
     const Snapshot snapshot(source);
     CopyProgress progress(source, work);
     std::vector<TableSum> sums;
-    for (const StoredTable& table : StoredTables())
+    for (const StoredTable& table : StoredTables(source))
         sums.push_back(CopyTable(source, target, table, progress));
     progress.End();
     return sums;

@@ -17,12 +17,12 @@ struct TableSum {
     bool operator==(const TableSum&) const = default;
 };
 
-/// Reads every table. Fails with soci::soci_error, or with a runtime_error where a stop is asked for.
+/// Reads every table. Fails with soci::soci_error, or with Interrupted where a stop is asked for.
 std::vector<TableSum> SumTables(Database& database, const LongWork& work = {});
 
 /// Writes every row that `source` has at one moment into the empty tables of `target`, in its open
-/// transaction, and has the numbers go on there where they are. Both are of the newest schema. Answers what
-/// was read. Fails with soci::soci_error, or with a runtime_error where a stop is asked for.
+/// transaction, and has the numbers go on there where they are. Both are of the same schema. Answers what
+/// was read. Fails with soci::soci_error, or with Interrupted where a stop is asked for.
 std::vector<TableSum> CopyRows(Database& source, Database& target, const LongWork& work);
 
 } // namespace kova::family

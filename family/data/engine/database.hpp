@@ -37,6 +37,9 @@ public:
     soci::session& Session() { return session_; }
     const Dialect& GetDialect() const { return dialect_; }
     const std::string& Path() const { return path_; }
+    /// The version of the schema that writes over this connection expect; 0 where they take any.
+    int SchemaVersion() const { return schemaVersion_; }
+    void ExpectSchema(int version) { schemaVersion_ = version; }
     /// What the session has read over this connection.
     RowVersions& Versions() { return versions_; }
 
@@ -94,6 +97,7 @@ private:
     const Dialect& dialect_;
     std::string connection_, path_;
     RowVersions versions_;
+    int schemaVersion_ = 0;
     bool connected_ = false, inTransaction_ = false;
     soci::session session_;
     std::unordered_map<std::type_index, std::unique_ptr<KeptStatement>> kept_;

@@ -14,9 +14,12 @@ struct Dialect {
     std::string bigInteger;
     /// A text that orders by its bytes, as the folded texts are ordered.
     std::string orderedText;
-    /// Begins a transaction that writes. What it has locked cannot be changed by another connection before it
-    /// ends: that one waits, or fails.
-    std::string beginOfWrite;
+    /// The statements that begin a transaction that writes rows; the last one selects the version of the
+    /// schema, which nobody changes before the transaction ends. What it has locked cannot be changed by
+    /// another connection before it ends: that one waits, or fails.
+    std::vector<std::string> beginOfWrite;
+    /// Begins a transaction that changes the schema. It waits for those that write, and they for it.
+    std::string beginOfSchemaChange;
     /// Begins a transaction that only reads, and sees one moment from its first selection on.
     std::string beginOfSnapshot;
     /// Appended to a selection inside a transaction that writes: nobody else may change or lock the rows
@@ -30,9 +33,6 @@ struct Dialect {
     std::vector<std::string> (*countChanges)(const std::string& table, const std::string& columns);
     /// Counts the tables named versao_do_esquema that a connection sees: 0 or 1.
     std::string countVersionTables;
-    /// Run first in a transaction that changes the schema: a second one waits here. Empty where the beginning
-    /// of the transaction, or its first write, does that.
-    std::string lockSchema;
     /// Run after rows were written with keys of the caller's: the engine then numbers on behind the highest.
     /// Empty where it does so anyway.
     std::string numberOn;

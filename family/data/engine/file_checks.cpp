@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "system/access.hpp"
+#include "system/network_disk.hpp"
 #include "system/path_text.hpp"
 
 #include <fstream>
@@ -26,6 +27,11 @@ bool HasSqliteHeader(const std::string& path)
     std::ifstream file(system::PathOf(path), std::ios::binary);
     file.read(header.data(), static_cast<std::streamsize>(header.size()));
     return file && header == SqliteHeader;
+}
+
+std::string NotADatabase(const std::string& path)
+{
+    return "O arquivo \"" + path + "\" não é um banco de dados. Escolha outro arquivo.";
 }
 
 std::optional<std::string> CheckPathText(const std::string& path)
@@ -63,18 +69,44 @@ std::optional<std::string> CheckKind(const std::string& path)
     return std::nullopt;
 }
 
+std::optional<std::string> CheckLocalDiskUnguarded(const std::string& path)
+{
+    if (!system::IsOnNetworkDisk(FolderOf(path)) && !system::IsOnNetworkDisk(path))
+        return std::nullopt;
+    return "O arquivo \"" + path
+        + "\" está em uma pasta da rede, onde as gravações de vários programas se estragariam. Use um "
+          "arquivo em um disco deste computador ou, para vários postos, um servidor PostgreSQL; "
+          "\"agenda-data copy\" leva os dados para um ou para o outro.";
+}
+
 std::optional<std::string> CheckExistingFileUnguarded(const std::string& path)
 {
     if (auto refusal = CheckPathText(path))
         return refusal;
     if (auto refusal = CheckKind(path))
         return refusal;
+    if (auto refusal = CheckLocalDiskUnguarded(path))
+        return refusal;
     if (!system::MayRead(path) || !system::MayWrite(path))
         return "O arquivo \"" + path
             + "\" não pode ser lido e gravado por este usuário. Verifique as permissões do arquivo.";
     if (!HasSqliteHeader(path))
-        return "O arquivo \"" + path + "\" não é um banco de dados. Escolha outro arquivo.";
+        return NotADatabase(path);
     return CheckFolder(path);
+}
+
+std::optional<std::string> CheckReadableFileUnguarded(const std::string& path)
+{
+    if (auto refusal = CheckPathText(path))
+        return refusal;
+    if (auto refusal = CheckKind(path))
+        return refusal;
+    if (!system::MayRead(path))
+        return "O arquivo \"" + path
+            + "\" não pode ser lido por este usuário. Verifique as permissões do arquivo.";
+    if (!HasSqliteHeader(path))
+        return NotADatabase(path);
+    return std::nullopt;
 }
 
 std::optional<std::string> CheckNewFileUnguarded(const std::string& path)
@@ -103,6 +135,21 @@ template <class Check> std::optional<std::string> Guarded(const std::string& pat
 std::optional<std::string> CheckExistingFile(const std::string& path)
 {
     return Guarded(path, CheckExistingFileUnguarded);
+}
+
+std::optional<std::string> CheckReadableFile(const std::string& path)
+{
+    return Guarded(path, CheckReadableFileUnguarded);
+}
+
+bool MayWriteDatabase(const std::string& path)
+{
+    return system::MayWrite(path) && system::MayWrite(FolderOf(path));
+}
+
+std::optional<std::string> CheckLocalDisk(const std::string& path)
+{
+    return Guarded(path, CheckLocalDiskUnguarded);
 }
 
 std::optional<std::string> CheckNewFile(const std::string& path)

@@ -15,6 +15,16 @@ void Run(soci::session& session, const Dialect& dialect, const Migration& migrat
     session << "insert into versao_do_esquema (versao) values (:versao)", soci::use(migration.version);
 }
 
+void RollBack(soci::session& session)
+{
+    try {
+        session.rollback();
+    } catch (const soci::soci_error&) {
+        // On some failures the engine has already undone everything itself.
+        return;
+    }
+}
+
 } // namespace
 
 int NewestVersion(Migrations migrations) { return migrations.back().version; }
@@ -38,16 +48,30 @@ std::optional<std::string> RefusalOfNewer(const std::string& path, int version, 
 {
     if (version <= NewestVersion(migrations))
         return std::nullopt;
+    return RefusalOfOther(path, version, NewestVersion(migrations));
+}
+
+std::optional<std::string> RefusalOfOther(const std::string& path, int version, int known)
+{
+    if (version == known)
+        return std::nullopt;
+    if (version < known)
+        return RefusalOfOlder(path, version, known);
     return "O banco de dados \"" + path + "\" é da versão " + std::to_string(version)
-        + " e este programa conhece até a versão " + std::to_string(NewestVersion(migrations))
+        + " e este programa conhece até a versão " + std::to_string(known)
         + ". Atualize o programa. Nada foi alterado.";
+}
+
+std::string RefusalOfOlder(const std::string& path, int version, int known)
+{
+    return "O banco de dados \"" + path + "\" é da versão " + std::to_string(version)
+        + " e este programa trabalha com a versão " + std::to_string(known)
+        + ". Atualize o banco com \"agenda-data migrate\", que antes faz uma cópia. Nada foi alterado.";
 }
 
 void RunMissing(soci::session& session, const Dialect& dialect, Migrations migrations)
 {
     session << "create table if not exists versao_do_esquema (versao integer not null primary key)";
-    // A write, although it changes nothing, makes a second program wait here instead of failing later.
-    session << "delete from versao_do_esquema where versao < 0";
     const int stored = StoredVersion(session);
     for (const Migration& migration : migrations) {
         if (migration.version > stored)
@@ -57,11 +81,14 @@ void RunMissing(soci::session& session, const Dialect& dialect, Migrations migra
 
 void Migrate(soci::session& session, const Dialect& dialect, Migrations migrations)
 {
-    soci::transaction transaction(session);
-    if (!dialect.lockSchema.empty())
-        session << dialect.lockSchema;
-    RunMissing(session, dialect, migrations);
-    transaction.commit();
+    session << dialect.beginOfSchemaChange;
+    try {
+        RunMissing(session, dialect, migrations);
+        session.commit();
+    } catch (const soci::soci_error&) {
+        RollBack(session);
+        throw;
+    }
 }
 
 } // namespace kova::family

@@ -9,8 +9,13 @@ namespace kova::family {
 /// and have no other transaction open.
 class WriteTransaction {
 public:
-    /// Fails with a DatabaseFailure where the wait for another connection is over.
-    explicit WriteTransaction(Database& database);
+    /// Of rows, or of the schema too: such a one waits for all that write, and they for it.
+    enum class Of { Rows, Schema };
+
+    /// Fails with a DatabaseFailure where the wait for another connection is over, and where rows are to be
+    /// written and the schema is not the one that the connection was opened for: another program may have
+    /// changed it since.
+    explicit WriteTransaction(Database& database, Of what = Of::Rows);
     ~WriteTransaction();
     WriteTransaction(const WriteTransaction&) = delete;
     WriteTransaction& operator=(const WriteTransaction&) = delete;

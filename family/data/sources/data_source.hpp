@@ -16,21 +16,22 @@ namespace kova::family {
 /// Whether anything stands at that path; on a server, whether the agenda's tables are there.
 bool DataSourceExists(const std::string& path);
 
-/// Why the data source cannot be opened, in Portuguese, with its path and what to do; nothing where it
-/// can. Looks only; changes nothing.
+/// Why the data source cannot be opened for work, in Portuguese, with its path and what to do; nothing where
+/// it can. Looks only; changes nothing.
 std::optional<std::string> CheckDataSource(const std::string& path,
                                            Migrations migrations = CurrentMigrations());
 
-/// Opens an existing database. One of an older schema is brought to the newest version, all or nothing; a
-/// file is copied to "PATH.antes-da-versao-N.bak" before. Fails with the text of CheckDataSource, or with
-/// what the engine reports.
+/// Opens an existing database for work. A file of an older schema is brought to the newest version, all or
+/// nothing, after a copy (file_migration.hpp); on a server, where others may still work on it, it is refused.
+/// Fails with the text of CheckDataSource, or with what the engine reports. Writes fail from the moment that
+/// another program changes the schema.
 std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migrations = CurrentMigrations());
 
 /// The same for one write that takes as long as it takes: a server does not end it.
 std::shared_ptr<Database> OpenForLongWork(const std::string& path);
 
-/// Opens an existing database, of this schema or an older one, without leave to write. Fails with the
-/// text of CheckDataSource.
+/// Opens an existing database, of this schema or an older one, without leave to write; a file also where
+/// nobody may write it. Fails with a DatabaseFailure.
 std::unique_ptr<Database> OpenForReading(const std::string& path);
 
 /// The same where it is of the newest schema. Fails with a DatabaseFailure also where it is of an older one,

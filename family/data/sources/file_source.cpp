@@ -3,39 +3,14 @@
 #include "family/data/engine/file_checks.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/engine/write_transaction.hpp"
-#include "family/data/migrations/current_migrations.hpp"
-#include "system/flush.hpp"
-#include "system/path_text.hpp"
+#include "family/data/sources/file_connection.hpp"
+#include "family/data/sources/file_migration.hpp"
+#include "family/data/sources/filled_schema.hpp"
+#include "system/access.hpp"
 
 namespace kova::family {
 
 namespace {
-
-/// The back end reads its parameters separated by blanks: the path goes in quotes, last.
-std::string Connection(const std::string& path, const std::string& options = {})
-{
-    return options + "dbname=\"" + path + "\"";
-}
-
-const Dialect& ReadingDialect()
-{
-    static const Dialect dialect = [] {
-        Dialect reading = SqliteDialect();
-        reading.settings = {"pragma busy_timeout = 5000", "pragma query_only = on"};
-        return reading;
-    }();
-    return dialect;
-}
-
-/// Leaves nothing behind. A connection without leave to write could not take away the log files that it
-/// makes, so it is only used where they are there already: there one with leave to write would, as the
-/// last to close, carry a dead program's log into the database.
-std::unique_ptr<Database> ConnectForReading(const std::string& path)
-{
-    const bool hasLog = std::filesystem::exists(system::PathOf(path + "-wal"));
-    return std::make_unique<Database>(ReadingDialect(), Connection(path, hasLog ? "readonly=true " : ""),
-                                      path);
-}
 
 /// Version of the schema; 0 where the tables are another program's.
 int ReadVersion(const std::string& path)
@@ -56,49 +31,12 @@ std::optional<std::string> CheckVersion(const std::string& path, Migrations migr
     return RefusalOfNewer(path, version, migrations);
 }
 
-/// A copy of one moment, complete also while somebody else writes. It gets its name only when it is
-/// whole, and takes the place of one left by an attempt that did not come to its end.
-void Backup(Database& database, int version)
-{
-    const std::string name = BackupName(database.Path(), version);
-    const std::string unfinished = UnfinishedName(name);
-    std::filesystem::remove(system::PathOf(unfinished));
-    database.Session() << "vacuum into :copia", soci::use(unfinished);
-    system::FlushFile(unfinished);
-    std::filesystem::rename(system::PathOf(unfinished), system::PathOf(name));
-}
+using FileCheck = std::optional<std::string> (*)(const std::string& path);
 
-void BringUpToDate(Database& database, Migrations migrations)
+std::optional<std::string> CheckBoth(const std::string& path, FileCheck checkFile, Migrations migrations)
 {
     try {
-        if (StoredVersion(database.Session()) == NewestVersion(migrations))
-            return;
-        Backup(database, NewestVersion(migrations));
-        Migrate(database.Session(), database.GetDialect(), migrations);
-    } catch (const std::runtime_error& cause) {
-        throw TranslatedFailure(database.Path(), cause);
-    }
-}
-
-/// A database under construction needs no log and no waiting for the disk: nobody sees it before it is
-/// complete.
-const Dialect& BuildingDialect()
-{
-    static const Dialect dialect = [] {
-        Dialect building = SqliteDialect();
-        building.settings = {"pragma journal_mode = off", "pragma synchronous = off",
-                             "pragma foreign_keys = off", "pragma cache_size = -64000"};
-        return building;
-    }();
-    return dialect;
-}
-
-} // namespace
-
-std::optional<std::string> CheckFileSource(const std::string& path, Migrations migrations)
-{
-    try {
-        if (auto refusal = CheckExistingFile(path))
+        if (auto refusal = checkFile(path))
             return refusal;
         return CheckVersion(path, migrations);
     } catch (const Failure& failure) {
@@ -106,37 +44,60 @@ std::optional<std::string> CheckFileSource(const std::string& path, Migrations m
     }
 }
 
-std::unique_ptr<Database> OpenFileForReading(const std::string& path)
+bool IsOfVersion(Database& database, int version)
 {
-    if (const auto refusal = CheckFileSource(path, CurrentMigrations()))
-        throw DatabaseFailure(*refusal);
-    return ConnectForReading(path);
+    try {
+        return StoredVersion(database.Session()) == version;
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(database.Path(), cause);
+    }
 }
 
-std::string BackupName(const std::string& path, int version)
+/// Earlier versions made files that everybody could read.
+void KeepFromOthers(const std::string& path)
 {
-    return path + ".antes-da-versao-" + std::to_string(version) + ".bak";
+    for (const char* companion : {"", "-wal", "-shm"})
+        system::KeepFromOthers(path + companion);
+}
+
+} // namespace
+
+std::optional<std::string> CheckFileSource(const std::string& path, Migrations migrations)
+{
+    return CheckBoth(path, CheckExistingFile, migrations);
+}
+
+std::unique_ptr<Database> OpenFileForReading(const std::string& path)
+{
+    if (const auto refusal = CheckBoth(path, CheckReadableFile, CurrentMigrations()))
+        throw DatabaseFailure(*refusal);
+    return ConnectForReading(path);
 }
 
 std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migrations)
 {
     if (const auto refusal = CheckFileSource(path, migrations))
         throw DatabaseFailure(*refusal);
-    auto database = std::make_shared<Database>(SqliteDialect(), Connection(path), path);
-    BringUpToDate(*database, migrations);
+    KeepFromOthers(path);
+    const int newest = NewestVersion(migrations);
+    std::shared_ptr<Database> database = ConnectForWork(path);
+    if (!IsOfVersion(*database, newest)) {
+        database.reset();
+        MigrateFile(path, migrations);
+        database = ConnectForWork(path);
+    }
+    database->ExpectSchema(newest);
     return database;
 }
 
-void BuildFile(const std::string& path, const std::function<void(Database&)>& fill)
+void BuildFile(const std::string& path, const std::function<void(Database&)>& fill, Migrations migrations)
 {
-    const Dialect& dialect = BuildingDialect();
-    Database database(dialect, Connection(path), path);
+    const std::unique_ptr<Database> database = ConnectForBuilding(path);
     try {
-        Migrate(database.Session(), dialect, CurrentMigrations());
-        WriteTransaction transaction(database);
-        fill(database);
+        WriteTransaction transaction(*database, WriteTransaction::Of::Schema);
+        FillSchema(*database, migrations, fill);
         transaction.Commit();
-        database.Session() << "analyze";
+        database->Session() << "analyze";
     } catch (const soci::soci_error& cause) {
         throw TranslatedFailure(path, cause);
     }
@@ -144,6 +105,8 @@ void BuildFile(const std::string& path, const std::function<void(Database&)>& fi
 
 void CreateFile(const std::string& path, const std::function<void(Database&)>& fill)
 {
+    if (const auto refusal = CheckLocalDisk(path))
+        throw DatabaseFailure(*refusal);
     UnfinishedFile file(path);
     BuildFile(file.Name(), fill);
     file.Finish();

@@ -4,12 +4,17 @@
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/migrations/current_migrations.hpp"
 #include "family/data/rows/numbering.hpp"
+#include "family/data/sources/filled_schema.hpp"
 
 namespace kova::family {
 
 namespace {
 
 constexpr int OldestServer = 150000;
+
+/// Another program may just be copying and changing the same database, and copying is waiting for the server.
+constexpr const char* WaitForMigration =
+    "set lock_timeout = '10min'; set idle_in_transaction_session_timeout = 0";
 
 std::unique_ptr<Database> Connect(const Dialect& dialect, const std::string& address)
 {
@@ -53,7 +58,8 @@ int ReadVersion(Database& database)
     return Guarded(database, [&](soci::session&) { return VersionOf(database); });
 }
 
-void RequireVersion(Database& database, Migrations migrations)
+/// Answers the version.
+int RequireTables(Database& database, Migrations migrations)
 {
     const int version = ReadVersion(database);
     if (version == 0)
@@ -62,21 +68,39 @@ void RequireVersion(Database& database, Migrations migrations)
                                 "\"agenda-data create\".");
     if (const auto refusal = RefusalOfNewer(database.Path(), version, migrations))
         throw DatabaseFailure(*refusal);
+    return version;
 }
 
+/// Of the newest version or an older one.
+std::unique_ptr<Database> ConnectToTables(const Dialect& dialect, const std::string& address,
+                                          Migrations migrations)
+{
+    std::unique_ptr<Database> database = Connect(dialect, address);
+    RequireServer(*database);
+    RequireTables(*database, migrations);
+    return database;
+}
+
+/// Other desks may still work on an older schema, so that none changes it by itself.
 std::unique_ptr<Database> ConnectAndCheck(const Dialect& dialect, const std::string& address,
                                           Migrations migrations)
 {
     std::unique_ptr<Database> database = Connect(dialect, address);
     RequireServer(*database);
-    RequireVersion(*database, migrations);
+    const int version = RequireTables(*database, migrations), newest = NewestVersion(migrations);
+    if (version < newest)
+        throw DatabaseFailure(RefusalOfOlder(address, version, newest));
+    database->ExpectSchema(newest);
     return database;
 }
 
-void BringUpToDate(const std::string& address, Migrations migrations)
+std::string NameOnServer(Database& database)
 {
-    const auto database = Connect(PostgresqlDialectForLongWork(), address);
-    Guarded(*database, [&](soci::session& session) { Migrate(session, database->GetDialect(), migrations); });
+    return Guarded(database, [](soci::session& session) {
+        std::string name;
+        session << "select current_database()", soci::into(name);
+        return name;
+    });
 }
 
 void ForgetOldMarks(Database& database)
@@ -88,8 +112,6 @@ std::shared_ptr<Database> OpenUpToDate(const Dialect& dialect, const std::string
                                        Migrations migrations)
 {
     std::shared_ptr<Database> database = ConnectAndCheck(dialect, address, migrations);
-    if (ReadVersion(*database) < NewestVersion(migrations))
-        BringUpToDate(address, migrations);
     ForgetOldMarks(*database);
     return database;
 }
@@ -132,25 +154,40 @@ std::shared_ptr<Database> OpenOnServerForLongWork(const std::string& address)
 
 std::unique_ptr<Database> OpenOnServerForReading(const std::string& address)
 {
-    return ConnectAndCheck(PostgresqlDialectForReading(), address, CurrentMigrations());
+    return ConnectToTables(PostgresqlDialectForReading(), address, CurrentMigrations());
 }
 
 void CreateOnServer(const std::string& address, const std::function<void(Database&)>& fill)
 {
     const auto database = Connect(PostgresqlDialectForLongWork(), address);
     RequireServer(*database);
-    WriteTransaction transaction(*database);
-    Guarded(*database, [&](soci::session& session) {
-        session << database->GetDialect().lockSchema;
-        if (VersionOf(*database) > 0)
-            throw DatabaseFailure("O banco de dados \"" + address
-                                  + "\" já tem as tabelas da agenda. Escolha outro, que esteja vazio.");
-        RunMissing(session, database->GetDialect(), CurrentMigrations());
-    });
-    fill(*database);
+    WriteTransaction transaction(*database, WriteTransaction::Of::Schema);
+    if (ReadVersion(*database) > 0)
+        throw DatabaseFailure("O banco de dados \"" + address
+                              + "\" já tem as tabelas da agenda. Escolha outro, que esteja vazio.");
+    Guarded(*database, [&](soci::session&) { FillSchema(*database, CurrentMigrations(), fill); });
     NumberOn(*database);
     transaction.Commit();
     Guarded(*database, [](soci::session& session) { session << "analyze"; });
+}
+
+MigrationReport MigrateOnServer(const std::string& address, Migrations migrations,
+                                const std::function<std::string(const std::string& name)>& prepare)
+{
+    const auto database = ConnectToTables(PostgresqlDialectForLongWork(), address, migrations);
+    Guarded(*database, [](soci::session& session) { session << WaitForMigration; });
+    WriteTransaction transaction(*database, WriteTransaction::Of::Schema);
+    MigrationReport report{RequireTables(*database, migrations), NewestVersion(migrations), {}};
+    if (report.before == report.after)
+        return report;
+    report.copy = prepare(NameOnServer(*database));
+    Guarded(*database, [&](soci::session& session) {
+        // Who reads a table for long is not waited for: those behind would have to wait as well.
+        session << "set local lock_timeout = '5s'";
+        RunMissing(session, database->GetDialect(), migrations);
+    });
+    transaction.Commit();
+    return report;
 }
 
 } // namespace kova::family

@@ -59,6 +59,23 @@ protected:
         return TestsRunOnServer() ? "já tem as tabelas da agenda" : "já existe";
     }
 
+    /// Brings a shop up to date; the copy of a server goes into the test's folder.
+    int Migrate(const std::string& place)
+    {
+        if (!TestsRunOnServer())
+            return Run({"migrate", place});
+        return Run({"migrate", place, "--backup",
+                    folder_ / "loja.antes-da-versao-" + std::to_string(NewestVersion(CurrentMigrations()))
+                        + ".bak"});
+    }
+    /// What it has told about its copy.
+    std::string CopyOfMigration() const
+    {
+        const std::string mark = "Cópia de antes da atualização: ", said = output_.str();
+        const std::size_t at = said.find(mark) + mark.size();
+        return said.substr(at, said.find('\n', at) - at);
+    }
+
     bool Said(const std::string& words) const { return output_.str().find(words) != std::string::npos; }
     bool Complained(const std::string& words) const { return error_.str().find(words) != std::string::npos; }
 
@@ -68,7 +85,7 @@ protected:
     {
         const Dialect& dialect = TestsRunOnServer() ? PostgresqlDialect() : SqliteDialect();
         Database database(dialect, TestsRunOnServer() ? ConnectionTo(place) : "dbname=" + place, place);
-        Migrate(database.Session(), dialect, CurrentMigrations().first(version));
+        family::Migrate(database.Session(), dialect, CurrentMigrations().first(version));
         for (const std::string& statement : statements)
             database.Session() << statement;
     }
@@ -167,11 +184,31 @@ TEST_F(AgendaData, BringsAnOlderShopUpToDate)
 {
     MakeOld(a_, 1);
     const std::string newest = std::to_string(NewestVersion(CurrentMigrations()));
-    EXPECT_EQ(Run({"migrate", a_}), 0);
+    EXPECT_EQ(Migrate(a_), 0);
     EXPECT_TRUE(Said("da versão 1 para a versão " + newest + ".\n")) << output_.str();
-    EXPECT_EQ(Said(a_ + ".antes-da-versao-" + newest + ".bak\n"), !TestsRunOnServer()) << output_.str();
+    EXPECT_TRUE(Said("Cópia de antes da atualização: ")) << output_.str();
+    EXPECT_TRUE(Said(".antes-da-versao-" + newest + ".bak\n")) << output_.str();
     EXPECT_EQ(Run({"migrate", a_}), 0);
     EXPECT_TRUE(Said("já está na versão " + newest)) << output_.str();
+}
+
+TEST_F(AgendaData, KeepsAnOlderShopInACopyThatCanBeRestored)
+{
+    MakeOld(a_, 4, RowsOfVersion4);
+    const std::vector<TableSum> before = SumTables(*OpenForReading(a_));
+    EXPECT_EQ(Migrate(a_), 0) << error_.str();
+    EXPECT_EQ(SumTables(*OpenForReading(CopyOfMigration())), before);
+    EXPECT_EQ(StoredVersion(OpenForReading(CopyOfMigration())->Session()), 4);
+    EXPECT_EQ(Run({"restore", CopyOfMigration(), folder_ / "volta.db"}), 0) << error_.str();
+    EXPECT_EQ(SumTables(*OpenForReading(folder_ / "volta.db")), before);
+}
+
+TEST_F(AgendaData, TakesAPlaceForTheCopyOfAServerAlone)
+{
+    MakeOld(a_, 4);
+    EXPECT_EQ(Run({"migrate", a_, "--backup", folder_ / "antes.bak"}), TestsRunOnServer() ? 0 : 2);
+    EXPECT_EQ(std::filesystem::exists(folder_ / "antes.bak"), TestsRunOnServer());
+    EXPECT_TRUE(TestsRunOnServer() || Complained("--backup é só para um servidor")) << error_.str();
 }
 
 TEST_F(AgendaData, FoldsTheTextsOfAnOlderShopAnew)
@@ -185,7 +222,7 @@ TEST_F(AgendaData, FoldsTheTextsOfAnOlderShopAnew)
     EXPECT_EQ(Run({"check", a_}), 0) << error_.str();
     EXPECT_EQ(folded("nome_de_busca", "cliente"), "ines d’avila 1º");
 
-    EXPECT_EQ(Run({"migrate", a_}), 0) << error_.str();
+    EXPECT_EQ(Migrate(a_), 0) << error_.str();
     for (const char* table : {"tipo_de_servico", "servico", "funcionario", "especie", "raca", "animal"})
         EXPECT_EQ(folded("nome_de_busca", table), "d'agua 1o") << table;
     EXPECT_EQ(folded("nome_de_busca", "cliente"), "ines d'avila 1o");

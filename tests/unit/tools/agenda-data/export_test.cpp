@@ -43,6 +43,12 @@ TEST_F(Export, NeverReplacesAFile)
     EXPECT_NE(Error().find("já existe"), std::string::npos);
 }
 
+TEST_F(Export, IsForItsOwnerAlone)
+{
+    EXPECT_EQ(ExportTo(File("saida.csv")), 0);
+    EXPECT_EQ(fs::status(File("saida.csv")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
 TEST_F(Export, IsMadeByOneAtATime)
 {
     const family::UnfinishedFile other(File("saida.csv"));

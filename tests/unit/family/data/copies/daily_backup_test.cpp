@@ -59,6 +59,17 @@ TEST_F(DailyBackup, KeepsTheLastFourteenAndTouchesNoOtherFile)
     EXPECT_TRUE(fs::is_directory(shopFolder_ / "loja.db.copia-2026-10-02.bak"));
 }
 
+TEST_F(DailyBackup, IsForItsOwnerAloneAndSoAreFormerOnes)
+{
+    const std::string former = DailyBackupName(shop_, {2026, 11, 19});
+    const std::string today = DailyBackupName(shop_, {2026, 11, 20});
+    WriteContent(former, "");
+    fs::permissions(former, static_cast<fs::perms>(0644));
+    EXPECT_TRUE(MakeDailyBackup(shop_, {2026, 11, 20}, {}));
+    for (const std::string& file : {former, today})
+        EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write) << file;
+}
+
 TEST_F(DailyBackup, OfTodayStaysAlsoWhereAWrongClockMadeLaterOnes)
 {
     for (int day = 1; day <= 14; ++day)

@@ -1,13 +1,14 @@
+#include "tests/support/network_disk.hpp"
 #include "tests/support/small_files.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/data/copies/database_backup.hpp"
-#include "family/data/copies/trial_restore.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/rows/insert_new_row.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/numbering.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/sources/trial_restore.hpp"
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -201,6 +202,43 @@ TEST_F(DatabaseBackup, IsRestoredFromWhereNothingCanBeWritten)
     fs::permissions(copy_, fs::perms::owner_read);
     RestoreDatabase(copy_, folder_ / "nova.db", {});
     EXPECT_NO_THROW(Insert(*OpenDatabase(folder_ / "nova.db"), UserRow{7, "Carla"}));
+}
+
+TEST_F(DatabaseBackup, IsForItsOwnerAloneAndSoIsWhatIsRestoredOfIt)
+{
+    constexpr fs::perms Own = fs::perms::owner_read | fs::perms::owner_write;
+    BackUpDatabase(shop_, copy_, {});
+    EXPECT_EQ(fs::status(copy_).permissions(), Own);
+    fs::permissions(copy_, fs::perms::all);
+    RestoreDatabase(copy_, folder_ / "nova.db", {});
+    EXPECT_EQ(fs::status(folder_ / "nova.db").permissions(), Own);
+}
+
+TEST_F(DatabaseBackup, IsNotRestoredWhereThereIsNoRoom)
+{
+    BackUpDatabase(shop_, copy_, {});
+    const kova::test::SmallFiles small(60'000);
+    const std::string told = FailureOf([&] { RestoreDatabase(copy_, folder_ / "nova.db", {}); });
+    EXPECT_NE(told.find(folder_ / "nova.db"), std::string::npos) << told;
+    EXPECT_NE(told.find("O disco está cheio."), std::string::npos) << told;
+    EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
+}
+
+TEST_F(DatabaseBackup, IsNotRestoredIntoAFolderThatIsMissing)
+{
+    BackUpDatabase(shop_, copy_, {});
+    const std::string told = FailureOf([&] { RestoreDatabase(copy_, folder_ / "nenhuma/nova.db", {}); });
+    EXPECT_NE(told.find(folder_ / "nenhuma"), std::string::npos) << told;
+    EXPECT_NE(told.find("não existe"), std::string::npos) << told;
+}
+
+TEST_F(DatabaseBackup, IsNotRestoredOntoADiskOfTheNetworkButMadeThere)
+{
+    const kova::test::NetworkDisk share(folder_.Path());
+    BackUpDatabase(shop_, copy_, {});
+    const std::string told = FailureOf([&] { RestoreDatabase(copy_, folder_ / "nova.db", {}); });
+    EXPECT_NE(told.find("pasta da rede"), std::string::npos) << told;
+    EXPECT_EQ(OtherFiles(), std::vector<std::string>{"copia.bak"});
 }
 
 TEST_F(DatabaseBackup, NeverGivesANumberTwiceAfterItIsRestored)

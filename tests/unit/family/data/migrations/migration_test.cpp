@@ -6,8 +6,12 @@
 #include "family/data/rows/rows.hpp"
 #include "family/data/selections/customer_selection.hpp"
 #include "family/data/sources/data_source.hpp"
-#include "family/data/sources/file_source.hpp"
+#include "family/data/sources/file_migration.hpp"
 #include "family/data/stores/appointment_rows.hpp"
+#include "tests/support/sqlite_file.hpp"
+
+#include <algorithm>
+#include <thread>
 
 namespace kova::family::test {
 
@@ -44,6 +48,18 @@ protected:
         std::string name;
         database.Session() << "select nome from usuario where codigo = 7", soci::into(name);
         return name;
+    }
+
+    /// The copies made before migrations.
+    std::vector<std::string> Copies() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
+            if (entry.path().filename().string().find(".antes-da-versao-") != std::string::npos)
+                names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
     }
 
     static int ColumnsOfUser(Database& database)
@@ -107,10 +123,68 @@ TEST_F(SchemaMigration, ThatFailsChangesNothing)
 TEST_F(SchemaMigration, GoesAheadAfterAnAttemptThatWasCutOff)
 {
     WriteContent(BackupName(path_, Newest + 1) + ".parcial", "resto");
-    WriteContent(BackupName(path_, Newest + 1), "cópia anterior");
     EXPECT_EQ(StoredVersion(OpenDatabase(path_, NextVersion)->Session()), Newest + 1);
     EXPECT_FALSE(std::filesystem::exists(BackupName(path_, Newest + 1) + ".parcial"));
     EXPECT_EQ(StoredVersion(OpenDatabase(BackupName(path_, Newest + 1))->Session()), Newest);
+}
+
+TEST_F(SchemaMigration, ReplacesNoCopyThatIsThere)
+{
+    WriteContent(BackupName(path_, Newest + 1), "cópia anterior");
+    WriteContent(BackupName(path_, Newest + 1) + ".parcial", "resto");
+    OpenDatabase(path_, NextVersion);
+    EXPECT_EQ(ContentOf(BackupName(path_, Newest + 1)), "cópia anterior");
+    const std::string second = path_ + ".antes-da-versao-" + std::to_string(Newest + 1) + "-2.bak";
+    EXPECT_EQ(BackupName(path_, Newest + 1, 2), second);
+    EXPECT_EQ(StoredVersion(OpenDatabase(second)->Session()), Newest);
+    EXPECT_EQ(Copies().size(), 2U);
+}
+
+TEST_F(SchemaMigration, IsMadeOnceByManyProgramsAtOnce)
+{
+    {
+        std::vector<std::jthread> programs;
+        for (int program = 0; program < 6; ++program)
+            programs.emplace_back([&] {
+                try {
+                    OpenDatabase(path_, NextVersion);
+                } catch (const Failure& failure) {
+                    ADD_FAILURE() << failure.Description();
+                }
+            });
+    }
+    EXPECT_EQ(StoredVersion(OpenDatabase(path_, NextVersion)->Session()), Newest + 1);
+    EXPECT_EQ(Copies().size(), 1U);
+}
+
+TEST_F(SchemaMigration, HasInItsCopyWhatADeskWroteUntilItBegan)
+{
+    const auto desk = OpenDatabase(path_);
+    Insert(*desk, UserRow{8, "Lia"});
+    OpenDatabase(path_, NextVersion);
+    EXPECT_EQ(kova::test::SqliteFile(BackupName(path_, Newest + 1)).Run("select nome from usuario"),
+              (std::vector<std::string>{"Carla", "Lia"}));
+}
+
+TEST_F(SchemaMigration, OfADamagedFileIsNotTried)
+{
+    OpenDatabase(path_)->Session() << "create table extra (texto text)";
+    OpenDatabase(path_)->Session() << "insert into extra values ('a'), ('b'), ('c')";
+    std::string content = ContentOf(path_);
+    std::fill(content.end() - 4096 + 8, content.end(), 'x');
+    WriteContent(path_, content);
+    EXPECT_THROW(OpenDatabase(path_, NextVersion), Failure);
+    EXPECT_EQ(Copies().size(), 0U);
+    EXPECT_EQ(kova::test::SqliteFile(path_).Run("select max(versao) from versao_do_esquema").front(),
+              std::to_string(Newest));
+}
+
+TEST_F(SchemaMigration, OfRowsThatReferToNothingKeepsThem)
+{
+    Insert(*OpenDatabase(path_), SpeciesRow{1, "Canina", "canina"});
+    Insert(*OpenDatabase(path_), BreedRow{1, 1, "Poodle", "poodle"});
+    RunUnchecked(path_, "delete from especie");
+    EXPECT_EQ(StoredVersion(OpenDatabase(path_, NextVersion)->Session()), Newest + 1);
 }
 
 TEST_F(SchemaMigration, IsRefusedToAnOlderProgram)

@@ -1,9 +1,12 @@
 // A server as the data source: what is said where it cannot be used, and how its schema is made.
 
 #include "tests/support/environment_variable.hpp"
+#include "tests/support/sqlite_file.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/business/shop/database_component.hpp"
+#include "family/data/copies/database_migration.hpp"
+#include "family/data/engine/safe_write.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/numbering.hpp"
@@ -108,6 +111,10 @@ protected:
         CreateDatabase(database_.Address(), [](Database& database) {
             Insert(database, UserRow{7, "Carla"});
         });
+    }
+    MigrationReport Migrate(Migrations migrations)
+    {
+        return MigrateDatabase(database_.Address(), folder_ / "antes.bak", migrations, {});
     }
     std::vector<std::string> Tables() const
     {
@@ -272,18 +279,72 @@ TEST_F(PostgresqlSource, NumbersNewRowsBehindThoseItWasGiven)
               std::vector<std::string>{"1"});
 }
 
-TEST_F(PostgresqlSource, OfAnOlderSchemaIsBroughtUpToDate)
+TEST_F(PostgresqlSource, OfAnOlderSchemaIsNotChangedByADesk)
 {
     CreateEmptyShop();
-    OpenDatabase(database_.Address(), NextVersion);
+    const auto refusal = CheckDataSource(database_.Address(), NextVersion);
+    ASSERT_TRUE(refusal.has_value());
+    EXPECT_NE(refusal->find("agenda-data migrate"), std::string::npos) << *refusal;
+    EXPECT_EQ(FailureOf([&] { OpenDatabase(database_.Address(), NextVersion); }), *refusal);
+    EXPECT_EQ(Version(), std::to_string(Newest));
+    EXPECT_EQ(CheckDataSource(database_.Address()), std::nullopt);
+}
+
+TEST_F(PostgresqlSource, OfAnOlderSchemaIsBroughtUpToDateAfterACopy)
+{
+    CreateEmptyShop();
+    const MigrationReport report = Migrate(NextVersion);
     EXPECT_EQ(Version(), std::to_string(Newest + 1));
     EXPECT_EQ(database_.Run("select nome || apelido from usuario"), std::vector<std::string>{"Carla"});
+    EXPECT_EQ(report.before, Newest);
+    EXPECT_EQ(report.after, Newest + 1);
+    EXPECT_EQ(report.copy, folder_ / "antes.bak");
+    EXPECT_EQ(kova::test::SqliteFile(report.copy).Run("select nome from usuario"),
+              std::vector<std::string>{"Carla"});
+    EXPECT_EQ(Migrate(NextVersion).copy, "");
+}
+
+TEST_F(PostgresqlSource, IsCopiedUnderItsNameIntoTheWorkingFolder)
+{
+    CreateEmptyShop();
+    const auto former = std::filesystem::current_path();
+    std::filesystem::current_path(folder_.Path());
+    const std::string file = database_.Name() + ".antes-da-versao-" + std::to_string(Newest + 1);
+    WriteContent(folder_ / (file + ".bak"), "nota");
+    const MigrationReport report = MigrateDatabase(database_.Address(), {}, NextVersion, {});
+    std::filesystem::current_path(former);
+    EXPECT_EQ(report.copy, file + "-2.bak");
+    EXPECT_EQ(ContentOf(folder_ / (file + ".bak")), "nota");
+    EXPECT_TRUE(std::filesystem::exists(folder_ / report.copy));
+}
+
+TEST_F(PostgresqlSource, IsNotBroughtUpToDateWhereItCannotBeCopied)
+{
+    CreateEmptyShop();
+    WriteContent(folder_ / "antes.bak", "nota");
+    EXPECT_NE(FailureOf([&] { Migrate(NextVersion); }).find("já existe"), std::string::npos);
+    EXPECT_EQ(Version(), std::to_string(Newest));
+    EXPECT_EQ(ContentOf(folder_ / "antes.bak"), "nota");
+}
+
+TEST_F(PostgresqlSource, TakesNoWritesWhileItIsCopiedAndBroughtUpToDate)
+{
+    CreateEmptyShop();
+    const auto desk = OpenDatabase(database_.Address());
+    desk->Session() << "set lock_timeout = '30ms'";
+    std::string told;
+    LongWork work;
+    work.progress = [&](long long, long long) {
+        told = FailureOf([&] { WriteSafely(*desk, [] { return true; }); });
+    };
+    MigrateDatabase(database_.Address(), folder_ / "antes.bak", NextVersion, work);
+    EXPECT_NE(told.find("Nada foi gravado."), std::string::npos) << told;
 }
 
 TEST_F(PostgresqlSource, StaysAsItIsWhereBringingItUpToDateFails)
 {
     CreateEmptyShop();
-    EXPECT_THROW(OpenDatabase(database_.Address(), BrokenVersion), Failure);
+    EXPECT_THROW(Migrate(BrokenVersion), Failure);
     EXPECT_EQ(Version(), std::to_string(Newest));
     EXPECT_EQ(database_.Run("select count(*) from information_schema.columns where table_name = 'usuario'"),
               std::vector<std::string>{"3"});
@@ -296,9 +357,12 @@ TEST_F(PostgresqlSource, IsBroughtUpToDateOnceByManyProgramsAtOnce)
     {
         std::vector<std::jthread> programs;
         for (int program = 0; program < 6; ++program)
-            programs.emplace_back([&] {
+            programs.emplace_back([&, program] {
+                const std::string file = folder_ / ("antes" + std::to_string(program) + ".bak");
                 failures +=
-                    FailureOf([&] { OpenDatabase(database_.Address(), NextVersion); }).empty() ? 0 : 1;
+                    FailureOf([&] { MigrateDatabase(database_.Address(), file, NextVersion, {}); }).empty()
+                    ? 0
+                    : 1;
             });
     }
     EXPECT_EQ(failures, 0);
@@ -322,6 +386,33 @@ TEST_F(PostgresqlSource, OpenedForReadingTakesNoWrites)
     CreateEmptyShop();
     const auto database = OpenForReading(database_.Address());
     EXPECT_THROW(Insert(*database, UserRow{8, "Lia"}), Failure);
+}
+
+TEST_F(PostgresqlSource, IsFoundWhateverSchemasARolePrefers)
+{
+    CreateEmptyShop();
+    database_.Run("create role desviada login in role pg_read_all_data, pg_write_all_data;"
+                  " create schema alheio;"
+                  " create table alheio.usuario (codigo bigint, nome text, situacao integer default 1);"
+                  " create table alheio.contador_de_alteracoes (tabela text, alteracoes bigint);"
+                  " insert into alheio.contador_de_alteracoes values ('cliente', 0);"
+                  " grant usage on schema alheio to desviada;"
+                  " alter role desviada set search_path = alheio");
+    const auto database = OpenDatabase(AddressFor("desviada"));
+    Insert(*database, UserRow{8, "Lia"});
+    EXPECT_EQ(database_.Run("select nome from public.usuario order by codigo"),
+              (std::vector<std::string>{"Carla", "Lia"}));
+    database_.Run("drop owned by desviada; drop role desviada");
+}
+
+TEST_F(PostgresqlSource, IsFoundInTheOnlySchemaThatHasIt)
+{
+    CreateEmptyShop();
+    database_.Run("alter schema public rename to loja; create schema public");
+    EXPECT_EQ(CheckDataSource(database_.Address()), std::nullopt);
+    database_.Run("create schema outra; create table outra.versao_do_esquema (versao integer)");
+    EXPECT_NE(CheckDataSource(database_.Address()).value_or("").find("não tem as tabelas"),
+              std::string::npos);
 }
 
 TEST_F(PostgresqlSource, SetsLimitsToWaiting)

@@ -11,4 +11,7 @@ namespace kova::family {
 std::vector<TableCount> TrialRestore(const std::string& path, const LongWork& work);
 void TrialRestore(const std::string& path, const std::vector<TableCount>& expected, const LongWork& work);
 
+/// The same of a copy that is only to be as good as its original: references may lead nowhere.
+void TryCopy(const std::string& path, const std::vector<TableCount>& expected);
+
 } // namespace kova::family

@@ -1,8 +1,6 @@
-#include "family/data/copies/online_copy.hpp"
+#include "family/data/sources/online_copy.hpp"
 
 #include <soci/sqlite3/soci-sqlite3.h>
-
-#include <stdexcept>
 
 namespace kova::family {
 
@@ -30,7 +28,7 @@ public:
         if (result != SQLITE_OK) {
             const std::string reason = Reason();
             sqlite_api::sqlite3_close(handle_);
-            throw std::runtime_error(reason);
+            throw soci::sqlite3_soci_error(reason, result);
         }
     }
     ~CopyTarget() { sqlite_api::sqlite3_close(handle_); }
@@ -38,15 +36,20 @@ public:
     CopyTarget& operator=(const CopyTarget&) = delete;
 
     sqlite3* Handle() const { return handle_; }
-    std::string Reason() const { return sqlite_api::sqlite3_errmsg(handle_); }
 
     void Run(const char* statement)
     {
         if (sqlite_api::sqlite3_exec(handle_, statement, nullptr, nullptr, nullptr) != SQLITE_OK)
-            throw std::runtime_error(Reason());
+            Fail();
+    }
+    [[noreturn]] void Fail() const
+    {
+        throw soci::sqlite3_soci_error(Reason(), sqlite_api::sqlite3_errcode(handle_));
     }
 
 private:
+    std::string Reason() const { return sqlite_api::sqlite3_errmsg(handle_); }
+
     sqlite3* handle_ = nullptr;
 };
 
@@ -58,7 +61,7 @@ public:
           copy_(sqlite_api::sqlite3_backup_init(target.Handle(), "main", HandleOf(source), "main"))
     {
         if (copy_ == nullptr)
-            throw std::runtime_error(target_.Reason());
+            target_.Fail();
     }
     ~PageCopy() { sqlite_api::sqlite3_backup_finish(copy_); }
     PageCopy(const PageCopy&) = delete;
@@ -69,7 +72,7 @@ public:
     {
         const int result = sqlite_api::sqlite3_backup_step(copy_, PagesAtOnce);
         if (result != SQLITE_OK && result != SQLITE_DONE)
-            throw std::runtime_error(sqlite_api::sqlite3_errstr(result));
+            throw soci::sqlite3_soci_error(sqlite_api::sqlite3_errstr(result), result);
         const int total = sqlite_api::sqlite3_backup_pagecount(copy_);
         if (result != SQLITE_DONE)
             work.Reach(total - sqlite_api::sqlite3_backup_remaining(copy_), total);

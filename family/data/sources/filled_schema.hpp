@@ -1,0 +1,14 @@
+#pragma once
+
+#include "family/data/engine/database.hpp"
+#include "family/data/engine/migration.hpp"
+
+#include <functional>
+
+namespace kova::family {
+
+/// Makes the schema that those steps lead to in an empty database, and has `fill` write its rows, in the open
+/// transaction. Fails with soci::soci_error.
+void FillSchema(Database& database, Migrations migrations, const std::function<void(Database&)>& fill);
+
+} // namespace kova::family
