@@ -54,7 +54,8 @@ protected:
 TEST_F(Closing, EndsWellAfterACardOfASimplifiedRowThatLeftTheWindowDimmed)
 {
     Execute("update agendamento set tipo_do_agendamento = 1, codigo_do_cliente = null,"
-            " codigo_do_animal = null where data_inicial = '2026-11-20'");
+            " codigo_do_animal = null, nome_do_cliente = 'Rita', nome_do_animal = 'Bidu'"
+            " where data_inicial = '2026-11-20'");
     bool dimmed = false;
     AsksForTransportCard().WaitsFor(List).Looks([&] { dimmed = Dimming() != nullptr; }).Leaves();
     Run();

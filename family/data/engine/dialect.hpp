@@ -1,5 +1,7 @@
 #pragma once
 
+#include "family/data/engine/row_rules.hpp"
+
 #include <string>
 #include <vector>
 
@@ -33,6 +35,17 @@ struct Dialect {
     std::vector<std::string> (*countChanges)(const std::string& table, const std::string& columns);
     /// Counts the tables named versao_do_esquema that a connection sees: 0 or 1.
     std::string countVersionTables;
+    /// The statements after which the engine's own counting finds its tables, whatever schema the names of
+    /// whoever writes stand for. Run over a connection of this program's.
+    std::vector<std::string> pinCounting;
+    /// The statements that make the engine refuse new rows that break a rule of their table; rows that break
+    /// it already stay.
+    std::vector<std::string> (*holdRules)(const TableRules& rules);
+    /// The statements that take that back.
+    std::vector<std::string> (*liftRules)(const TableRules& rules);
+    /// The statement after which the engine knows that no row breaks a rule; fails where one does. Empty
+    /// where it wants no such knowledge.
+    std::string (*confirmRule)(const TableRules& rules, const RowRule& rule);
     /// Run after rows were written with keys of the caller's: the engine then numbers on behind the highest.
     /// Empty where it does so anyway.
     std::string numberOn;

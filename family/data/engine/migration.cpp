@@ -11,7 +11,7 @@ void Run(soci::session& session, const Dialect& dialect, const Migration& migrat
     for (const std::string& statement : migration.statements(dialect))
         session << statement;
     if (migration.work != nullptr)
-        migration.work(session);
+        migration.work(session, dialect);
     session << "insert into versao_do_esquema (versao) values (:versao)", soci::use(migration.version);
 }
 

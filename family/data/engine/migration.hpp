@@ -18,7 +18,7 @@ class Database;
 struct Migration {
     int version;
     std::vector<std::string> (*statements)(const Dialect& dialect);
-    void (*work)(soci::session& session) = nullptr;
+    void (*work)(soci::session& session, const Dialect& dialect) = nullptr;
 };
 
 /// What bringing a database up to date has done.

@@ -1,5 +1,6 @@
 #include "family/data/migrations/current_migrations.hpp"
 
+#include "family/data/migrations/held_rules.hpp"
 #include "family/data/migrations/schemas.hpp"
 
 namespace kova::family {
@@ -12,6 +13,7 @@ constexpr Migration Steps[] = {
     {3, SchemaOfVersion3},
     {4, SchemaOfVersion4},
     {5, SchemaOfVersion5, FoldTextsAnew},
+    {6, SchemaOfVersion6, HoldRules},
 };
 
 } // namespace

@@ -17,6 +17,8 @@ std::vector<std::string> SchemaOfVersion4(const Dialect& dialect);
 /// Changes rows alone.
 std::vector<std::string> SchemaOfVersion5(const Dialect& dialect);
 /// Writes the folded texts that the rows keep where they are not what is folded of their texts today.
-void FoldTextsAnew(soci::session& session);
+void FoldTextsAnew(soci::session& session, const Dialect& dialect);
+/// Rows are held to the rules of held_rules.hpp behind it.
+std::vector<std::string> SchemaOfVersion6(const Dialect& dialect);
 
 } // namespace kova::family

@@ -61,7 +61,7 @@ std::vector<Outdated> FindOutdated(soci::session& session, const FoldedColumn& c
 
 std::vector<std::string> SchemaOfVersion5(const Dialect&) { return {}; }
 
-void FoldTextsAnew(soci::session& session)
+void FoldTextsAnew(soci::session& session, const Dialect&)
 {
     for (const FoldedColumn& column : FoldedColumns) {
         for (const Outdated& row : FindOutdated(session, column))

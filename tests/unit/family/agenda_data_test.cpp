@@ -203,6 +203,19 @@ TEST_F(AgendaData, KeepsAnOlderShopInACopyThatCanBeRestored)
     EXPECT_EQ(SumTables(*OpenForReading(folder_ / "volta.db")), before);
 }
 
+TEST_F(AgendaData, NamesTheRowsThatAnOlderShopHasAgainstTheRules)
+{
+    std::vector<std::string> statements = RowsOfVersion4;
+    statements.emplace_back("update agendamento set hora_final = '08:00' where numero = 5");
+    statements.emplace_back("update animal set porte = 9");
+    MakeOld(a_, 4, statements);
+    EXPECT_EQ(Migrate(a_), 0);
+    EXPECT_TRUE(Complained("Estes registros não seguem as regras e ficaram como estavam")) << error_.str();
+    EXPECT_TRUE(Complained("agendamento 5: o término não é posterior ao início.\n")) << error_.str();
+    EXPECT_TRUE(Complained("animal 3: o porte não existe.\n")) << error_.str();
+    EXPECT_EQ(Run({"check", a_}), 1);
+}
+
 TEST_F(AgendaData, TakesAPlaceForTheCopyOfAServerAlone)
 {
     MakeOld(a_, 4);
@@ -247,6 +260,7 @@ TEST_F(AgendaData, CopiesAShop)
 TEST_F(AgendaData, FindsRowsThatBreakARule)
 {
     Run({"demo", a_});
+    LiftRulesOf(a_);
     OpenDatabase(a_)->Session() << "update agendamento set hora_final = hora_inicial where numero = 12";
     EXPECT_EQ(Run({"check", a_}), 1);
     EXPECT_EQ(error_.str(), "agendamento 12: o término não é posterior ao início.\n");

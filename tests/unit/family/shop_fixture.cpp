@@ -2,6 +2,7 @@
 
 #include "family/business/appointments/agenda.hpp"
 #include "family/data/engine/fold_text.hpp"
+#include "family/data/migrations/held_rules.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/people_rows.hpp"
 #include "family/data/sources/data_source.hpp"
@@ -165,6 +166,12 @@ void RunUnchecked(const std::string& dataSource, const std::string& statement)
     const std::shared_ptr<Database> database = OpenDatabase(dataSource);
     UncheckReferences(database->Session());
     database->Session() << statement;
+}
+
+void LiftRulesOf(const std::string& dataSource)
+{
+    const std::shared_ptr<Database> database = OpenDatabase(dataSource);
+    LiftRules(database->Session(), database->GetDialect());
 }
 
 ShopDatabase::ShopDatabase() : dataSource_(folder_ / "loja.db")

@@ -68,6 +68,8 @@ void MakeShop(const std::string& dataSource);
 void UncheckReferences(soci::session& session);
 /// Runs a statement on such a connection.
 void RunUnchecked(const std::string& dataSource, const std::string& statement);
+/// From now on the schema takes rows that break its rules, as one does that was made before it had them.
+void LiftRulesOf(const std::string& dataSource);
 
 /// A database with the known shop that goes with its owner.
 class ShopDatabase {

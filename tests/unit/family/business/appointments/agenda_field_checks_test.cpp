@@ -117,6 +117,7 @@ TEST_F(FieldChecks, OfACustomerGoByItsSituation)
         Run("update cliente set situacao = " + std::to_string(situation) + " where codigo = 10");
         ExpectRefused(*Full(On("01/12/2026")), "CodigoDoCliente", "O cliente informado não está ativo.");
     }
+    LiftRulesOf(host_.DataSource());
     Run("update cliente set situacao = 5 where codigo = 10");
     EXPECT_EQ(Write(*Full(On("01/12/2026"))), 0);
 }

@@ -98,6 +98,7 @@ class RuleCheck : public ShopTest {
 protected:
     RuleCheck()
     {
+        LiftRulesOf(host_.DataSource());
         database_->Session() << "update funcionario set agendamentos_simultaneos = 0";
         Insert(*database_, PreSaleRow{1, 7, 6000, 1, "2026-11-20 09:00:00"});
     }

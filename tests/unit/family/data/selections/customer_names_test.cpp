@@ -28,6 +28,7 @@ protected:
     {
         CustomerRow row;
         row.codigo = code;
+        row.tipoDePessoa = "PF";
         row.nome = name;
         WriteCustomer(*database_, row, {});
     }
@@ -82,6 +83,7 @@ TEST_F(NamesInMemory, SeeWhatAnotherConnectionWrites)
     const auto other = OpenDatabase(folder_ / "loja.db");
     CustomerRow row;
     row.codigo = 7;
+    row.tipoDePessoa = "PF";
     row.nome = "Bento";
     WriteCustomer(*other, row, {});
     EXPECT_EQ(Found("bento"), 1U);

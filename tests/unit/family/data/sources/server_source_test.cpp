@@ -405,6 +405,25 @@ TEST_F(PostgresqlSource, IsFoundWhateverSchemasARolePrefers)
     database_.Run("drop owned by desviada; drop role desviada");
 }
 
+TEST_F(PostgresqlSource, CountsItsOwnChangesWhoeverWrites)
+{
+    CreateEmptyShop();
+    const auto counted = [&] {
+        return database_.Run("select alteracoes from public.contador_de_alteracoes").front();
+    };
+    const std::string before = counted();
+    database_.Run("create schema alheio;"
+                  " create table alheio.contador_de_alteracoes (tabela text, alteracoes bigint);"
+                  " insert into alheio.contador_de_alteracoes values ('cliente', 0);"
+                  " set search_path = alheio;"
+                  " insert into public.cliente (tipo_de_pessoa, apelido, nome, documento,"
+                  " categoria_da_curva_abc, logradouro, numero, complemento, bairro, cidade, uf, cep,"
+                  " endereco_completo, endereco_completo_com_cep, tipos_e_canais, nome_de_busca)"
+                  " values ('PF', '', 'Zé', '', 'A', '', '', '', '', '', '', '', '', '', '', 'ze')");
+    EXPECT_NE(counted(), before);
+    EXPECT_EQ(database_.Run("select alteracoes from alheio.contador_de_alteracoes").front(), "0");
+}
+
 TEST_F(PostgresqlSource, IsFoundInTheOnlySchemaThatHasIt)
 {
     CreateEmptyShop();

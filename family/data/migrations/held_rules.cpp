@@ -1,0 +1,142 @@
+#include "family/data/migrations/held_rules.hpp"
+
+#include "family/data/engine/key.hpp"
+
+namespace kova::family {
+
+namespace {
+
+constexpr RowRule OfServices[] = {
+    {"duracao", "@duracao_em_minutos < 0", "a duração é negativa"},
+    {"preco", "@preco_em_centavos < 0 or @custo_em_centavos < 0", "o preço ou o custo é negativo"},
+    {"sessoes", "@quantidade_de_sessoes < 1", "a quantidade de sessões não é possível"},
+    {"situacao", "@situacao not in (1, 2)", "a situação não existe"},
+};
+
+constexpr RowRule OfEmployees[] = {
+    {"simultaneos", "@agendamentos_simultaneos < 0", "a quantidade de agendamentos simultâneos é negativa"},
+    {"situacao", "@situacao not in (1, 2)", "a situação não existe"},
+};
+
+constexpr RowRule OfHolidays[] = {
+    {"data", "(@data is null and (@dia is null or @mes is null)) or (@data is not null and @dia is not null)",
+     "não tem ou um dia e um mês, ou uma data"},
+    {"dia",
+     "@mes not between 1 and 12 or @dia < 1 or @dia > 31 or (@dia > 30 and @mes in (4, 6, 9, 11))"
+     " or (@dia > 29 and @mes = 2)",
+     "o dia do ano não existe"},
+};
+
+constexpr RowRule OfCustomers[] = {
+    {"tipo", "@tipo_de_pessoa not in ('PF', 'PJ')", "o tipo de pessoa não é PF nem PJ"},
+    {"situacao", "@situacao not between 1 and 4", "a situação não existe"},
+    {"nome", "trim(@nome) = ''", "falta o nome"},
+};
+
+constexpr RowRule OfAnimals[] = {
+    {"sexo", "@sexo not in ('M', 'F')", "o sexo não é M nem F"},
+    {"porte", "@porte not between 1 and 4", "o porte não existe"},
+    {"situacao", "@situacao not in (1, 2)", "a situação não existe"},
+    {"nome", "trim(@nome) = ''", "falta o nome"},
+};
+
+constexpr RowRule OfAppointments[] = {
+    {"termino",
+     "@data_final < @data_inicial or (@data_final = @data_inicial and @hora_final <= @hora_inicial)",
+     "o término não é posterior ao início"},
+    {"situacao", "@situacao not between 1 and 4", "a situação não existe"},
+    {"tipo", "@tipo_do_agendamento not in (0, 1)", "o tipo do agendamento não existe"},
+    {"cliente", "@tipo_do_agendamento = 0 and (@codigo_do_cliente is null or @codigo_do_animal is null)",
+     "falta o cliente ou o animal"},
+    {"simplificado",
+     "@tipo_do_agendamento = 1 and (@codigo_do_cliente is not null or @codigo_do_animal is not null)",
+     "é simplificado e tem cliente ou animal cadastrado"},
+    {"nomes", "@tipo_do_agendamento = 1 and (trim(@nome_do_cliente) = '' or trim(@nome_do_animal) = '')",
+     "é simplificado e falta o nome do cliente ou do animal"},
+    {"transporte", "@transporte_buscar not in (0, 1) or @transporte_levar not in (0, 1)",
+     "o transporte não é sim nem não"},
+};
+
+constexpr RowRule OfPreSales[] = {
+    {"situacao", "@situacao not between 1 and 3", "a situação não existe"},
+};
+
+constexpr TableRules Tables[] = {
+    {"servico", "duracao_em_minutos, preco_em_centavos, custo_em_centavos, quantidade_de_sessoes, situacao",
+     OfServices},
+    {"funcionario", "agendamentos_simultaneos, situacao", OfEmployees},
+    {"feriado", "dia, mes, data", OfHolidays},
+    {"cliente", "tipo_de_pessoa, situacao, nome", OfCustomers},
+    {"animal", "sexo, porte, situacao, nome", OfAnimals},
+    {"agendamento",
+     "data_inicial, hora_inicial, data_final, hora_final, tipo_do_agendamento, codigo_do_cliente,"
+     " codigo_do_animal, nome_do_cliente, nome_do_animal, transporte_buscar, transporte_levar, situacao",
+     OfAppointments},
+    {"pre_venda", "situacao", OfPreSales},
+};
+
+bool HasBrokenRow(soci::session& session, const TableRules& table, const RowRule& rule)
+{
+    int found = 0;
+    session << std::string("select count(*) from (select 1 from ") + table.table + " where "
+            + BrokenRows(rule) + " limit 1) as primeira",
+        soci::into(found);
+    return found > 0;
+}
+
+void Confirm(soci::session& session, const Dialect& dialect, const TableRules& table)
+{
+    for (const RowRule& rule : table.rules) {
+        const std::string statement = dialect.confirmRule(table, rule);
+        if (!statement.empty() && !HasBrokenRow(session, table, rule))
+            session << statement;
+    }
+}
+
+/// The pre-sales that are not cancelled although their appointment has another, older one: "3, 9", or "".
+std::string SecondPreSales(soci::session& session)
+{
+    const soci::rowset<Key> found =
+        (session.prepare << "select p.codigo from pre_venda p where p.situacao <> 2"
+                            " and exists (select 1 from pre_venda q where q.situacao <> 2"
+                            " and q.numero_do_agendamento = p.numero_do_agendamento and q.codigo < p.codigo)"
+                            " order by p.codigo");
+    std::string codes;
+    for (const Key code : found)
+        codes += (codes.empty() ? "" : ", ") + std::to_string(code);
+    return codes;
+}
+
+constexpr const char* OnePreSale = "pre_venda_unica_por_agendamento";
+
+/// Those that are too many already are left out by their codes, so that the others are held to it.
+void HoldOnePreSale(soci::session& session)
+{
+    const std::string second = SecondPreSales(session);
+    session << std::string("create unique index ") + OnePreSale
+            + " on pre_venda (numero_do_agendamento) where situacao <> 2"
+            + (second.empty() ? "" : " and codigo not in (" + second + ")");
+}
+
+} // namespace
+
+void HoldRules(soci::session& session, const Dialect& dialect)
+{
+    for (const TableRules& table : Tables) {
+        for (const std::string& statement : dialect.holdRules(table))
+            session << statement;
+        Confirm(session, dialect, table);
+    }
+    HoldOnePreSale(session);
+}
+
+void LiftRules(soci::session& session, const Dialect& dialect)
+{
+    for (const TableRules& table : Tables) {
+        for (const std::string& statement : dialect.liftRules(table))
+            session << statement;
+    }
+    session << std::string("drop index if exists ") + OnePreSale;
+}
+
+} // namespace kova::family
