@@ -26,8 +26,9 @@ Value Converted(const Value& value, FieldType type, Long size)
 
 } // namespace
 
-MemoryRecordSet::MemoryRecordSet(std::vector<Text> fieldNames, const std::vector<std::vector<Value>>& rows)
-    : PagedRecordSet(std::move(fieldNames)), columns_(static_cast<std::size_t>(Fields().Count())), open_(true)
+MemoryRecordSet::MemoryRecordSet(const std::vector<Text>& fieldNames,
+                                 const std::vector<std::vector<Value>>& rows)
+    : PagedRecordSet(fieldNames), columns_(static_cast<std::size_t>(Fields().Count())), open_(true)
 {
     cells_.reserve(rows.size() * columns_.size());
     for (const auto& row : rows)
@@ -103,12 +104,14 @@ void MemoryRecordSet::BeginChange(Long row)
 void MemoryRecordSet::Update()
 {
     RequireOpen();
+    CurrentRow();
     EndEdit();
 }
 
 void MemoryRecordSet::CancelUpdate()
 {
     RequireOpen();
+    CurrentRow();
     if (editMode_ == EditMode::Changing) {
         const auto first = cells_.begin() + static_cast<std::ptrdiff_t>(CellNumber(editedRow_, 0));
         std::copy(savedValues_.begin(), savedValues_.end(), first);
@@ -159,7 +162,7 @@ std::shared_ptr<MemoryRecordSet> EmptyCopy(const RecordSet& selection)
     std::vector<Text> names;
     for (int field = 0; field < selection.FieldCount(); ++field)
         names.push_back(selection.FieldName(field));
-    return std::make_shared<MemoryRecordSet>(std::move(names), std::vector<std::vector<Value>>());
+    return std::make_shared<MemoryRecordSet>(names, std::vector<std::vector<Value>>());
 }
 
 std::vector<Value> CurrentRowOf(const RecordSet& selection)

@@ -22,8 +22,9 @@ class MemoryRecordSet : public PagedRecordSet {
 public:
     MemoryRecordSet() = default;
     /// Open, with fields that take every value and with these rows, standing on the first. A row
-    /// shorter than the names ends in Empty; a longer one fails with 5.
-    MemoryRecordSet(std::vector<Text> fieldNames, const std::vector<std::vector<Value>>& rows);
+    /// shorter than the names ends in Empty; a longer one fails with 5. Two names that are equal but for case
+    /// fail with 3001.
+    MemoryRecordSet(const std::vector<Text>& fieldNames, const std::vector<std::vector<Value>>& rows);
 
     /// Adds a field. `size` counts characters and matters to FixedText only. Fails with 3705 while
     /// open, and with 3001 on a name that is there already and on a fixed text without length.
@@ -43,10 +44,11 @@ public:
     /// it keeps the one that it had.
     void SetField(std::string_view name, const Value& value);
     void SetField(int index, const Value& value);
-    /// Saves the edited row, as moving the cursor does. Nothing happens where none is edited.
+    /// Saves the edited row, as moving the cursor does. Nothing happens where it is not edited. Fails with
+    /// 3021 without a current row.
     void Update();
     /// Takes back what was written since the row was last saved. A row added since then goes, and the
-    /// cursor returns to the row that was current before it.
+    /// cursor returns to the row that was current before it. Fails with 3021 without a current row.
     void CancelUpdate();
 
     /// Adds a saved row and leaves the cursor where it is, for filling in bulk. A row shorter than the

@@ -28,10 +28,14 @@ bool FieldNames::Same::operator()(std::string_view a, std::string_view b) const
     return true;
 }
 
-FieldNames::FieldNames(std::vector<Text> names) : names_(std::move(names))
+FieldNames::FieldNames(const std::vector<Text>& names)
 {
-    for (std::size_t index = 0; index < names_.size(); ++index)
-        numbers_.emplace(names_[index], static_cast<int>(index));
+    names_.reserve(names.size());
+    for (const Text& name : names) {
+        if (!Add(name))
+            throw Failure(FailureNumber::BadRecordSetValue,
+                          "O campo '" + name + "' existe duas vezes no conjunto de registros");
+    }
 }
 
 const Text& FieldNames::At(int index) const

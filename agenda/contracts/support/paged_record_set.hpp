@@ -13,7 +13,8 @@ namespace kova {
 class FieldNames {
 public:
     FieldNames() = default;
-    explicit FieldNames(std::vector<Text> names);
+    /// Fails with 3001 where two names are equal but for case.
+    explicit FieldNames(const std::vector<Text>& names);
 
     int Count() const { return static_cast<int>(names_.size()); }
     /// Fails with 3265 outside 0 to Count() - 1.
@@ -73,8 +74,8 @@ public:
 
 protected:
     PagedRecordSet() = default;
-    /// Of names that differ only in case, the first is found.
-    explicit PagedRecordSet(std::vector<Text> fieldNames) : fields_(std::move(fieldNames)) { }
+    /// Fails with 3001 where two names are equal but for case.
+    explicit PagedRecordSet(const std::vector<Text>& fieldNames) : fields_(fieldNames) { }
 
     /// Rows of the store, and one of its cells; both counted from 0 in the store's own order.
     virtual Long RowCount() const = 0;

@@ -54,6 +54,25 @@ TEST(MemoryRecordSet, RefusesFieldsThatCannotBe)
     EXPECT_EQ(set.FieldCount(), 1);
 }
 
+TEST(MemoryRecordSet, CannotBeMadeOfTwoFieldsWithOneName)
+{
+    for (const char* second : {"Nome", "NOME", "nomE"}) {
+        const std::vector<Text> names = {"Nome", "Idade", second};
+        EXPECT_EQ(NumberOfFailure([&] { MemoryRecordSet(names, {}); }), 3001) << second;
+    }
+    EXPECT_EQ(MemoryRecordSet({"Nome", "Nomes", " Nome"}, {}).FieldCount(), 3);
+}
+
+TEST(MemoryRecordSet, SaysWhichFieldItWouldHaveTwice)
+{
+    try {
+        MemoryRecordSet({"Nome", "NOME"}, {});
+        FAIL();
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.Description(), "O campo 'NOME' existe duas vezes no conjunto de registros");
+    }
+}
+
 TEST(MemoryRecordSet, OpensEmpty)
 {
     const auto set = OpenCard();
@@ -164,6 +183,29 @@ TEST(MemoryRecordSet, TakesBackTheOnlyRow)
     EXPECT_EQ(set->RecordCount(), 0);
     EXPECT_TRUE(set->Eof());
     EXPECT_TRUE(set->Bof());
+}
+
+TEST(MemoryRecordSet, HasNothingToSaveOrTakeBackWithoutACurrentRow)
+{
+    const auto refuses = [](MemoryRecordSet& set) {
+        return NumberOfFailure([&] { set.Update(); }) == 3021
+            && NumberOfFailure([&] { set.CancelUpdate(); }) == 3021;
+    };
+    const auto empty = OpenCard();
+    EXPECT_TRUE(refuses(*empty));
+    empty->AddNew();
+    empty->CancelUpdate();
+    EXPECT_TRUE(refuses(*empty));
+    MemoryRecordSet set({"Codigo"}, {{Long(1)}, {Long(2)}});
+    set.MovePrevious();
+    EXPECT_TRUE(refuses(set));
+    set.MoveLast();
+    set.MoveNext();
+    EXPECT_TRUE(refuses(set));
+    set.MoveFirst();
+    set.Update();
+    set.CancelUpdate();
+    EXPECT_EQ(set.Field("Codigo").ToLong(), 1);
 }
 
 TEST(MemoryRecordSet, TakesBackTheChangesOfARow)
