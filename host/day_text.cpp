@@ -31,8 +31,9 @@ using Line = std::array<Text, Columns.size()>;
 
 Text NameOfSituation(const Text& code)
 {
-    const auto number = static_cast<std::size_t>(std::max(Val(code), 0.0));
-    return number < situacao::Nomes.size() ? situacao::Nomes[number] : code;
+    const Double number = std::max(Val(code), 0.0);
+    const bool isNamed = number < static_cast<Double>(situacao::Nomes.size());
+    return isNamed ? situacao::Nomes[static_cast<std::size_t>(number)] : code;
 }
 
 Line TitleLine()

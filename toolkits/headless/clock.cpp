@@ -1,5 +1,6 @@
 #include "toolkits/headless/clock.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kova::headless {
@@ -7,6 +8,7 @@ namespace kova::headless {
 namespace {
 
 constexpr Double SecondsOfDay = 86400;
+constexpr Date LastDay{9999, 12, 31};
 
 } // namespace
 
@@ -32,9 +34,11 @@ void FrozenClock::Advance(Double seconds)
     if (!(seconds > 0))
         return;
     const Double total = seconds_ + seconds;
-    const Double days = std::floor(total / SecondsOfDay);
+    const Double daysLeft = DayNumber(LastDay) - day_;
+    const Double days = std::min(std::floor(total / SecondsOfDay), daysLeft);
     day_ += static_cast<Long>(days);
-    seconds_ = total - days * SecondsOfDay;
+    // Beyond the calendar's last day there is only that day's last moment.
+    seconds_ = std::min(total - days * SecondsOfDay, std::nextafter(SecondsOfDay, 0));
 }
 
 void FrozenClock::HoldTimer()

@@ -11,7 +11,7 @@ public:
     Double Timer() const override;
 
     void Set(const DateTime& moment);
-    /// Seconds, with a fraction; a negative number is ignored.
+    /// Seconds, with a fraction; a negative number is ignored. Stops where the calendar ends.
     void Advance(Double seconds);
 
     /// Between these two the Timer goes on counting past midnight, so that a wait that compares it with

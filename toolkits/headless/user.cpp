@@ -11,6 +11,7 @@
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/whole_number.hpp"
 #include "toolkits/headless/toolkit.hpp"
 
 #include <algorithm>
@@ -201,7 +202,7 @@ User::Point User::MiddleOf(toolkit::GridModel& grid, Long row, std::string& refu
     }
     const bool scrolledOut = row >= rows.Fixed()
         && (row < rows.First()
-            || row >= rows.First() + rows.PageSize(static_cast<Long>(grid.State().height)));
+            || row >= rows.First() + rows.PageSize(toolkit::WholeNumber<Long>(grid.State().height)));
     if (scrolledOut)
         grid.UserScrolls(row, columns.First());
     return {static_cast<Twips>(columns.Start(column)) + static_cast<Twips>(columns.Size(column)) / 2,

@@ -1,6 +1,7 @@
 #include "tools/hand/hand.hpp"
 
 #include "toolkits/common/grid/grid.hpp"
+#include "toolkits/common/whole_number.hpp"
 #include "toolkits/qt/form.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"
 
@@ -364,8 +365,9 @@ Spot Hand::RevealRow(QWidget& grid, Long row)
 {
     // A wheel turns three rows by a notch.
     constexpr double notchesOfRow = 1.0 / 3;
-    const toolkit::GridAxis& rows = dynamic_cast<const qt::GridCanvas&>(grid).Model().RowAxis();
-    const auto height = static_cast<Long>(dynamic_cast<const qt::GridCanvas&>(grid).Model().State().height);
+    const toolkit::GridModel& model = dynamic_cast<const qt::GridCanvas&>(grid).Model();
+    const toolkit::GridAxis& rows = model.RowAxis();
+    const auto height = toolkit::WholeNumber<Long>(model.State().height);
     const auto outside = [&] { return row < rows.First() || row >= rows.First() + rows.PageSize(height); };
     if (row < 0 || row >= rows.Count() || row < rows.Fixed() || !outside() || !WindowUnder(&grid))
         return RowOf(grid, row);

@@ -1,6 +1,7 @@
 #include "family/business/registers/employees.hpp"
 
 #include "family/business/combo_selection.hpp"
+#include "family/business/selection_arguments.hpp"
 
 namespace kova::family {
 
@@ -16,7 +17,7 @@ std::span<const Property<Employees>> Employees::Properties() { return SelectionP
 Value Employees::SelecionarParaComboBox(std::span<Argument> arguments)
 {
     return Select("SelecionarParaComboBox", [&] {
-        const auto key = static_cast<long long>(arguments[0].Get().ToDouble());
+        const Key key = KeyOf(arguments[0].Get());
         return ComboRecordSet("Apelido", "Codigo", SelectEmployees(Data(), key));
     });
 }

@@ -1,6 +1,7 @@
 #include "family/business/registers/service_types.hpp"
 
 #include "family/business/combo_selection.hpp"
+#include "family/business/selection_arguments.hpp"
 
 namespace kova::family {
 
@@ -19,7 +20,7 @@ std::span<const Property<ServiceTypes>> ServiceTypes::Properties()
 Value ServiceTypes::SelecionarParaComboBox(std::span<Argument> arguments)
 {
     return Select("SelecionarParaComboBox", [&] {
-        const auto key = static_cast<long long>(arguments[0].Get().ToDouble());
+        const Key key = KeyOf(arguments[0].Get());
         return ComboRecordSet("Nome", "Numero", SelectServiceTypes(Data(), key));
     });
 }

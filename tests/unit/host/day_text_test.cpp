@@ -59,6 +59,16 @@ TEST_F(DayText, IsATableOfAlignedColumns)
               "10:00           Bia              7\n");
 }
 
+TEST_F(DayText, TellsASituationThatHasNoNameByItsNumberOfAnySize)
+{
+    auto& grid = Bind<MSFlexGrid>(form_, "msfgGrade");
+    for (const Text number : {"5", "99999999999999999999", "1e300"}) {
+        grid.TextMatrix(3, 33, number);
+        EXPECT_NE(DayAsText(*form_, 3).find("Bia              " + number + "\n"), std::string::npos)
+            << number;
+    }
+}
+
 TEST_F(DayText, TellsHowManyRowsThereAreBeyondItsOwn)
 {
     EXPECT_EQ(DayAsText(*form_, 1),

@@ -4,6 +4,7 @@
 #include "toolkits/common/grid/grid_cells.hpp"
 #include "toolkits/common/grid/grid_layout.hpp"
 #include "toolkits/common/text_measure.hpp"
+#include "toolkits/common/whole_number.hpp"
 #include "toolkits/common/widget_model.hpp"
 
 #include <optional>
@@ -264,8 +265,8 @@ private:
     void WalkTo(Long row);
     void ClickHeader();
     Long RowReached(GridKey key) const;
-    Long WindowHeight() const { return static_cast<Long>(state_.height); }
-    Long WindowWidth() const { return static_cast<Long>(state_.width); }
+    Long WindowHeight() const { return WholeNumber<Long>(state_.height); }
+    Long WindowWidth() const { return WholeNumber<Long>(state_.width); }
     Twips MiddleOfFirstColumn() const;
     bool TurnsPage(GridKey key);
     void AddPageKeys(std::vector<KeyHelp>& keys) const;

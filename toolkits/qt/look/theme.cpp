@@ -1,5 +1,7 @@
 #include "toolkits/qt/look/theme.hpp"
 
+#include "toolkits/common/whole_number.hpp"
+
 #include <QApplication>
 #include <QPalette>
 
@@ -214,7 +216,10 @@ QColor DarkInk(const QColor& color, const QColor& ground)
 
 int Pixels(Twips length)
 {
-    return static_cast<int>(std::floor(static_cast<double>(length) / TwipsOfPixel + 0.5));
+    // No widget is larger than that.
+    constexpr double FarthestPixel = 16777215;
+    const double pixel = std::floor(static_cast<double>(length) / TwipsOfPixel + 0.5);
+    return toolkit::WholeNumber<int>(std::clamp(pixel, -FarthestPixel, FarthestPixel));
 }
 
 Twips ToTwips(double pixels) { return static_cast<Twips>(pixels * TwipsOfPixel); }
@@ -258,12 +263,14 @@ QColor InkColor(Colour colour, const QColor& fallback, const QColor& ground)
 // mouse moves.
 QFont MakeFont(const Text& family, double points, bool bold)
 {
+    constexpr double LargestFont = 16384;
     static std::map<std::tuple<Text, double, bool>, QFont> made;
     const auto [place, isNew] = made.try_emplace({family, points, bold});
     QFont& font = place->second;
     if (isNew) {
         font.setFamilies({FromText(family), QStringLiteral("Liberation Sans")});
-        font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 96.0 / 72.0))));
+        font.setPixelSize(
+            toolkit::WholeNumber<int>(std::clamp(std::round(points * 96.0 / 72.0), 1.0, LargestFont)));
         font.setBold(bold);
     }
     return font;

@@ -1,6 +1,8 @@
 #include "tests/unit/toolkits/common/fixture.hpp"
 #include "toolkits/common/menu.hpp"
 
+#include <limits>
+
 namespace kova::headless {
 
 class ModalForms : public ToolkitTest {
@@ -220,6 +222,19 @@ TEST_F(Pauses, AreTheOnlyTimeThatPendingEventsTake)
     EXPECT_EQ(toolkit_.Clock().Timer(), 10 * 3600 + 15 * 60);
     toolkit_.Clock().Advance(90.5);
     EXPECT_EQ(toolkit_.Clock().Timer(), 10 * 3600 + 15 * 60 + 90.5);
+}
+
+TEST_F(Pauses, EndWithTheCalendarHoweverLongTheyAre)
+{
+    constexpr DateTime end{{9999, 12, 31}, {23, 59, 59}};
+    for (const Double seconds : {1e13, 1e300, std::numeric_limits<Double>::infinity()}) {
+        toolkit_.Clock().Set({{2026, 11, 20}, {10, 15, 0}});
+        toolkit_.Clock().Advance(seconds);
+        EXPECT_EQ(toolkit_.Clock().Now(), end) << seconds;
+        EXPECT_LT(toolkit_.Clock().Timer(), 24 * 3600) << seconds;
+        toolkit_.Clock().Advance(1);
+        EXPECT_EQ(toolkit_.Clock().Now(), end) << seconds;
+    }
 }
 
 TEST_F(Pauses, KnowTheWidthOfTheScreen)

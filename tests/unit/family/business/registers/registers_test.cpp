@@ -10,6 +10,8 @@
 #include "family/data/rows/rows.hpp"
 #include "family/data/sources/shared_database.hpp"
 
+#include <limits>
+
 namespace kova::family::test {
 
 class Registers : public ShopTest { };
@@ -72,6 +74,19 @@ TEST_F(Registers, GiveOneRowForAKey)
     Employees employees(host_);
     employees.Call("SelecionarParaComboBox", {ByRef(one)});
     EXPECT_EQ(RowsOf(*ResultOf(employees), "Apelido", "Codigo"), (std::vector<std::string>{"Zeca=1"}));
+}
+
+TEST_F(Registers, GiveNoRowForANumberThatIsNoKey)
+{
+    for (const Double number : {1.5, -1.0, 1e19, -1e300, std::numeric_limits<Double>::infinity(),
+                                std::numeric_limits<Double>::quiet_NaN()}) {
+        Employees employees(host_);
+        ServiceTypes types(host_);
+        for (Component* component : std::initializer_list<Component*>{&employees, &types}) {
+            ASSERT_EQ(component->Call("SelecionarParaComboBox", {number}), Value(Integer(0))) << number;
+            EXPECT_EQ(ResultOf(*component)->RecordCount(), 0) << number;
+        }
+    }
 }
 
 TEST_F(Registers, GiveTheActiveSpeciesByName)

@@ -449,6 +449,18 @@ TEST_F(Grid, ReportsNothingWhereTheSelectionModeStays)
     EXPECT_TRUE(Model().TakeChange().IsEmpty());
 }
 
+TEST_F(Grid, ShowsAllRowsInAWindowOfAnySize)
+{
+    Shape(8, 3);
+    for (const Twips size : {3e9F, 1e30F}) {
+        grid_->Height(size);
+        grid_->Width(size);
+        Model().UserScrolls(7, 2);
+        EXPECT_EQ(Model().RowAxis().First(), 1) << size;
+        EXPECT_EQ(Model().ColumnAxis().First(), 0) << size;
+    }
+}
+
 TEST_F(Grid, KeepsItsOwnLook)
 {
     grid_->FontName("Arial");

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
 
 namespace kova::qt::test {
 namespace {
@@ -70,6 +71,26 @@ TEST_P(Looks, LetEveryIconOfARowStandOut)
     for (const char* icon :
          {"agendado", "atendido", "cancelado", "pre_venda", "detalhar", "alterar", "excluir"})
         EXPECT_GE(Contrast(IconTint(icon), GroundColor(14277081, look::Plate)), 3.0) << icon;
+}
+
+TEST(Pixels, AreTheFarthestOnesForLengthsBeyondThem)
+{
+    const int farthest = Pixels(1e9F);
+    EXPECT_GT(farthest, 1'000'000);
+    for (const Twips length : {3e10F, 1e30F, std::numeric_limits<Twips>::infinity()}) {
+        EXPECT_EQ(Pixels(length), farthest) << length;
+        EXPECT_EQ(Pixels(-length), -farthest) << length;
+        EXPECT_EQ(PixelRect(-length, 0, 2 * length, 150).height(), 10) << length;
+    }
+    EXPECT_EQ(Pixels(std::numeric_limits<Twips>::quiet_NaN()), 0);
+}
+
+TEST(Fonts, AreLargeAndNotBrokenForAnySize)
+{
+    const int largest = MakeFont("Arial", 1e6).pixelSize();
+    EXPECT_GT(largest, 1000);
+    EXPECT_EQ(MakeFont("Arial", 1e30).pixelSize(), largest);
+    EXPECT_EQ(MakeFont("Arial", 1e-30).pixelSize(), 1);
 }
 
 class DarkLook : public ::testing::Test {
