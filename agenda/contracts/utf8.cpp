@@ -94,6 +94,22 @@ void Append(std::string& text, char32_t character)
     }
 }
 
+std::string WellFormed(std::string_view text)
+{
+    constexpr char32_t replacement = 0xFFFD;
+    std::string formed;
+    formed.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = SequenceLength(text, at);
+        if (length == 1 && ByteAt(text, at) >= 0x80)
+            Append(formed, replacement);
+        else
+            formed += text.substr(at, length);
+        at += length;
+    }
+    return formed;
+}
+
 char32_t ToUpper(char32_t character)
 {
     if ((character >= 'a' && character <= 'z') || IsLatin1Small(character))

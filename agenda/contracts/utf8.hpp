@@ -12,6 +12,8 @@ std::size_t SequenceLength(std::string_view text, std::size_t at);
 /// The character of the `length` bytes at `at`, as SequenceLength has measured them.
 char32_t Decode(std::string_view text, std::size_t at, std::size_t length);
 void Append(std::string& text, char32_t character);
+/// The text with the replacement character in the place of each malformed byte.
+std::string WellFormed(std::string_view text);
 
 /// One letter in the other case: ASCII, Latin-1 Supplement and Latin Extended-A. What has no single
 /// counterpart stays as it is.

@@ -1,6 +1,6 @@
 #include "family/business/current_author.hpp"
 
-#include "agenda/contracts/text.hpp"
+#include "family/business/clean_text.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "system/computer_name.hpp"
 
@@ -12,7 +12,7 @@ Author CurrentAuthor(const ObjectRef& user, const Clock& clock)
     const auto session = std::dynamic_pointer_cast<Component>(user);
     if (!session)
         throw missing;
-    Author author{session->Get("Codigo").ToText(), Trim(session->Get("Nome").ToText()),
+    Author author{CleanText(session->Get("Codigo").ToText()), CleanText(session->Get("Nome").ToText()),
                   IsoMoment(clock.Now()), system::ComputerName()};
     if (author.name.empty())
         throw missing;

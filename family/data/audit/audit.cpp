@@ -1,5 +1,6 @@
 #include "family/data/audit/audit.hpp"
 
+#include "agenda/contracts/utf8.hpp"
 #include "family/data/rows/insert_row.hpp"
 
 #include <nlohmann/json.hpp>
@@ -12,8 +13,8 @@ AuditRow RowOf(const Author& author, const char* table, Key key, const char* ope
 {
     AuditRow row;
     row.momento = author.moment;
-    row.usuario = author.code + " - " + author.name;
-    row.posto = author.desk;
+    row.usuario = utf8::WellFormed(author.code + " - " + author.name);
+    row.posto = utf8::WellFormed(author.desk);
     row.tabela = table;
     row.chave = key;
     row.operacao = operation;

@@ -1,5 +1,6 @@
 #include "family/data/audit/audit_lines.hpp"
 
+#include "agenda/contracts/utf8.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/engine/nullable.hpp"
 
@@ -32,7 +33,7 @@ AuditedColumns ColumnsOf(const Nullable<std::string>& written)
     AuditedColumns columns;
     if (written.IsNull())
         return columns;
-    const auto object = nlohmann::json::parse(written.value, nullptr, false);
+    const auto object = nlohmann::json::parse(utf8::WellFormed(written.value), nullptr, false);
     if (!object.is_object())
         throw Unreadable(written.value);
     for (const auto& [column, value] : object.items())
@@ -60,15 +61,23 @@ public:
         most_ = most;
         std::vector<AuditLine> lines;
         statement_.execute();
-        while (statement_.fetch()) {
-            line_.before = ColumnsOf(before_);
-            line_.after = ColumnsOf(after_);
-            lines.push_back(line_);
-        }
+        while (statement_.fetch())
+            lines.push_back(Line());
         return lines;
     }
 
 private:
+    /// A file can hold texts with bytes that are no characters; the line is told all the same.
+    AuditLine Line() const
+    {
+        AuditLine line = line_;
+        for (std::string* text : {&line.moment, &line.user, &line.desk, &line.operation})
+            *text = utf8::WellFormed(*text);
+        line.before = ColumnsOf(before_);
+        line.after = ColumnsOf(after_);
+        return line;
+    }
+
     std::string table_;
     Key key_ = 0, most_ = 0;
     AuditLine line_;

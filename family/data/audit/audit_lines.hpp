@@ -14,7 +14,7 @@ class Database;
 /// Values of a row by their columns, numbers in digits; nothing is Null.
 using AuditedColumns = std::map<std::string, std::optional<std::string>, std::less<>>;
 
-/// One line of the audit.
+/// One line of the audit. Its texts are well-formed, also where a file holds other bytes.
 struct AuditLine {
     /// "yyyy-mm-dd hh:mm:ss"
     std::string moment;

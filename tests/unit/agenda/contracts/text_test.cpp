@@ -1,4 +1,5 @@
 #include "agenda/contracts/text.hpp"
+#include "agenda/contracts/utf8.hpp"
 #include "tests/unit/agenda/contracts/failure_matcher.hpp"
 
 #include <gtest/gtest.h>
@@ -22,6 +23,15 @@ TEST(Text, CountsEachMalformedByteAsOneCharacter)
     EXPECT_EQ(Length("\xE2\x82"), 2U);
     EXPECT_EQ(Length("\xC0\xAF"), 2U);
     EXPECT_EQ(Length("\xED\xA0\x80"), 3U);
+}
+
+TEST(Text, IsWellFormedWithAReplacementForEachMalformedByte)
+{
+    EXPECT_EQ(utf8::WellFormed("Açaí € 🐶\r\n"), "Açaí € 🐶\r\n");
+    EXPECT_EQ(utf8::WellFormed("Jos\xE9"), "Jos\uFFFD");
+    EXPECT_EQ(utf8::WellFormed("\xC3 \xE2\x82"), "\uFFFD \uFFFD\uFFFD");
+    EXPECT_EQ(utf8::WellFormed(std::string_view("a\0b", 3)), std::string("a\0b", 3));
+    EXPECT_EQ(utf8::WellFormed(""), "");
 }
 
 TEST(Text, CutsBetweenCharacters)

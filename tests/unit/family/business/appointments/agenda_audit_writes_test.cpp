@@ -2,6 +2,8 @@
 
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
+#include "family/business/appointments/appointment_history.hpp"
+#include "family/data/sources/shared_database.hpp"
 #include "system/computer_name.hpp"
 
 namespace kova::family::test {
@@ -33,6 +35,22 @@ TEST_F(WritesAudit, KeepsAllColumnsOfWhatIsAdded)
             R"("alterado_por":null,"texto_de_busca":"","versao":1})"});
     EXPECT_EQ(Texts("select momento || ' ' || usuario || ' ' || posto from auditoria"),
               std::vector<std::string>{"2026-11-20 09:04:05 7 - Lia " + system::ComputerName()});
+}
+
+TEST_F(WritesAudit, NamesAUserWhoseNameHoldsBytesThatAreNoCharacters)
+{
+    const auto user = std::make_shared<DeskUser>(" Jos\xE9\r\nSil\xC3va ");
+    const auto added = Full(On("01/12/2026"));
+    added->Set("DadosDoUsuario", user);
+    ASSERT_EQ(Write(*added), 0);
+    const auto changed = DeskTest::Desk(24, 2);
+    changed->Set("DadosDoUsuario", user);
+    ASSERT_EQ(changed->Call("Alterar"), Value(Integer(0)));
+    EXPECT_EQ(Texts("select incluido_por || ', ' || alterado_por from agendamento where numero = 24"),
+              std::vector<std::string>{"Jos\uFFFD Sil\uFFFDva, Jos\uFFFD Sil\uFFFDva"});
+    EXPECT_EQ(Texts("select distinct usuario from auditoria"),
+              std::vector<std::string>{"7 - Jos\uFFFD Sil\uFFFDva"});
+    EXPECT_EQ(HistoryOf(*SharedDatabase(host_.DataSource()), 24).back().user, "7 - Jos\uFFFD Sil\uFFFDva");
 }
 
 TEST_F(WritesAudit, KeepsTheWholeRowBeforeAndAfterAnAlteration)
