@@ -4,7 +4,6 @@
 #include "family/business/appointments/write_in_transaction.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audited_row.hpp"
-#include "family/data/engine/iso_text.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/appointment_store.hpp"
@@ -70,14 +69,8 @@ Obstacle LackOfRoom(Database& database, const AppointmentRow& row)
 {
     if (row.situacao == appointment_status::Cancelled)
         return {};
-    const BookedEmployee employee = *FindByKey<BookedEmployee>(database, row.codigoDoFuncionario);
-    const TimeSpan span{ReadIsoMoment(row.dataInicial, row.horaInicial),
-                        ReadIsoMoment(row.dataFinal, row.horaFinal)};
-    const auto clash = EmployeeRoom(database, employee, 0, span.start.date, span.end.date).ClashWith(span);
-    if (!clash)
-        return {};
-    return employee.nickname + " já tem agendamento das " + FormatTime(clash->start.time) + " às "
-        + FormatTime(clash->end.time) + " em " + FormatDate(clash->start.date) + ".";
+    return WantOfRoom(database, row.codigoDoFuncionario, row.numero,
+                      ReadIsoSpan(row.dataInicial, row.horaInicial, row.dataFinal, row.horaFinal));
 }
 
 WriteAnswer Restore(Database& database, Key number, const Author& author)

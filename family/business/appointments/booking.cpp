@@ -1,8 +1,19 @@
 #include "family/business/appointments/booking.hpp"
 
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/stores/appointment_status.hpp"
 
 namespace kova::family {
+
+Booking::Booking(Database& data, const AppointmentInput& typed, const AppointmentRow& stored)
+    : database(data), input(typed), adds(false)
+{
+    row.numero = stored.numero;
+    row.codigoDoPacote = stored.codigoDoPacote;
+    if (stored.situacao != appointment_status::Cancelled)
+        place = {stored.codigoDoFuncionario,
+                 ReadIsoSpan(stored.dataInicial, stored.horaInicial, stored.dataFinal, stored.horaFinal)};
+}
 
 DaysOff Booking::RuleForDaysOff() const
 {

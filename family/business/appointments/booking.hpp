@@ -16,13 +16,8 @@ enum class DaysOff { Keep, AskAbout, MoveAway };
 struct Booking {
     /// A new booking, with its repetitions.
     Booking(Database& data, const AppointmentInput& typed) : database(data), input(typed), adds(true) { }
-    /// One appointment in the place of a stored one.
-    Booking(Database& data, const AppointmentInput& typed, const AppointmentRow& stored)
-        : database(data), input(typed), adds(false)
-    {
-        row.numero = stored.numero;
-        row.codigoDoPacote = stored.codigoDoPacote;
-    }
+    /// One appointment over a stored one.
+    Booking(Database& data, const AppointmentInput& typed, const AppointmentRow& stored);
 
     bool Repeats() const { return adds && !input.IsSimplified(); }
     /// Whether its dates were picked by hand.
@@ -31,9 +26,17 @@ struct Booking {
     /// One of its appointments.
     AppointmentRow At(const TimeSpan& span) const;
 
+    /// Room that is taken.
+    struct Place {
+        Key employee;
+        TimeSpan span;
+    };
+
     Database& database;
     const AppointmentInput& input;
     const bool adds;
+    /// Of the stored appointment; nothing where it takes none, being cancelled.
+    std::optional<Place> place;
 
     /// What its appointments have in common.
     AppointmentRow row;

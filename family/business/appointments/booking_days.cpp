@@ -27,14 +27,18 @@ bool MovesAway(Booking& booking, const TimeSpan& span)
 
 WriteAnswer NoRoom(const Booking& booking, const TimeSpan& clash)
 {
-    return WriteAnswer::InvalidField("HoraInicial",
-                                     booking.employee.nickname + " já tem agendamento das "
-                                         + FormatTime(clash.start.time) + " às " + FormatTime(clash.end.time)
-                                         + " em " + FormatDate(clash.start.date) + ".");
+    return WriteAnswer::InvalidField("HoraInicial", RoomTakenText(booking.employee, clash));
 }
 
 /// A cancelled appointment takes no room.
 bool NeedsRoom(const Booking& booking) { return booking.row.situacao != appointment_status::Cancelled; }
+
+/// Whether the stored appointment has its room already: it is not asked for again, whoever was booked beside
+/// it since.
+bool StaysInPlace(const Booking& booking, const TimeSpan& span)
+{
+    return booking.place && booking.place->employee == booking.employee.code && booking.place->span == span;
+}
 
 std::optional<TimeSpan> ClashWith(Booking& booking, const TimeSpan& span)
 {
@@ -65,7 +69,7 @@ Refusal EmployeeHasRoom(Booking& booking)
 {
     LookUpDays(booking);
     for (const TimeSpan& span : booking.times) {
-        if (MovesAway(booking, span))
+        if (MovesAway(booking, span) || StaysInPlace(booking, span))
             continue;
         if (const auto clash = ClashWith(booking, span))
             return NoRoom(booking, *clash);

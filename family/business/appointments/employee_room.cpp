@@ -1,6 +1,7 @@
 #include "family/business/appointments/employee_room.hpp"
 
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/booked_times.hpp"
 
 #include <algorithm>
@@ -68,6 +69,22 @@ void EmployeeRoom::LoadUntil(Date until)
         booked_.push_back(
             {ReadIsoMoment(row.startDate, row.startTime), ReadIsoMoment(row.endDate, row.endTime)});
     loadedUntil_ = until;
+}
+
+Text RoomTakenText(const BookedEmployee& employee, const TimeSpan& clash)
+{
+    return employee.nickname + " já tem agendamento das " + FormatTime(clash.start.time) + " às "
+        + FormatTime(clash.end.time) + " em " + FormatDate(clash.start.date) + ".";
+}
+
+Text WantOfRoom(Database& database, Key employee, Key appointment, const TimeSpan& span)
+{
+    const auto found = FindByKey<BookedEmployee>(database, employee);
+    if (!found)
+        return {};
+    const auto clash =
+        EmployeeRoom(database, *found, appointment, span.start.date, span.end.date).ClashWith(span);
+    return clash ? RoomTakenText(*found, *clash) : Text();
 }
 
 } // namespace kova::family

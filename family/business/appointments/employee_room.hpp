@@ -35,4 +35,11 @@ private:
     std::vector<TimeSpan> booked_;
 };
 
+/// That the employee is busy, and when.
+Text RoomTakenText(const BookedEmployee& employee, const TimeSpan& clash);
+
+/// Why an appointment has no room with its employee, for one that was stored and comes back; empty where it
+/// has. Holds the employee in the transaction that is open, as a booking does.
+Text WantOfRoom(Database& database, Key employee, Key appointment, const TimeSpan& span);
+
 } // namespace kova::family

@@ -1,12 +1,15 @@
 #include "family/business/appointments/status_change.hpp"
 
 #include "family/business/appointments/appointment_merge.hpp"
+#include "family/business/appointments/employee_room.hpp"
 #include "family/business/appointments/pre_sale_rules.hpp"
 #include "family/business/appointments/write_in_transaction.hpp"
 #include "family/data/engine/database.hpp"
+#include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/appointment_status.hpp"
 
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace kova::family {
@@ -16,10 +19,26 @@ namespace {
 /// What a transaction has written, each as it was before.
 using Written = std::vector<AppointmentState>;
 
+/// A cancelled appointment takes no room, which it needs again with every other status.
+bool ComesBack(const AppointmentState& appointment, int status)
+{
+    return appointment.status == appointment_status::Cancelled && status != appointment_status::Cancelled;
+}
+
+WriteAnswer CheckRoom(Database& database, const AppointmentState& appointment)
+{
+    const Text want = WantOfRoom(
+        database, appointment.employee, appointment.number,
+        ReadIsoSpan(appointment.startDate, appointment.startTime, appointment.endDate, appointment.endTime));
+    return want.empty() ? WriteAnswer() : WriteAnswer::Refusal(want);
+}
+
 WriteAnswer Change(Database& database, const AppointmentState& appointment, int status, const Author& author,
                    Written& written)
 {
     WriteAnswer answer = FollowWithPreSale(database, appointment, status, author);
+    if (answer.IsDone() && ComesBack(appointment, status))
+        answer = CheckRoom(database, appointment);
     if (answer.IsDone()) {
         WriteStatus(database, appointment, status, author);
         written.push_back(appointment);
@@ -28,13 +47,28 @@ WriteAnswer Change(Database& database, const AppointmentState& appointment, int 
     return answer;
 }
 
+/// Holds the employees whom the appointments come back to, in the order of their codes: two desks that held
+/// them in an order of their own could wait for one another.
+void HoldEmployees(Database& database, const std::vector<AppointmentState>& appointments, int status)
+{
+    std::set<Key> employees;
+    for (const AppointmentState& appointment : appointments) {
+        if (ComesBack(appointment, status))
+            employees.insert(appointment.employee);
+    }
+    for (const Key employee : employees)
+        FindByKey<BookedEmployee>(database, employee);
+}
+
 /// `package` 0 is none.
 WriteAnswer ChangePackage(Database& database, Key package, int status, const Author& author, Written& written)
 {
     if (package == 0)
         return WriteAnswer::Refusal("O agendamento não pertence a um pacote.");
     WriteAnswer answer;
-    for (const AppointmentState& appointment : FindUnattendedOfPackage(database, package)) {
+    const std::vector<AppointmentState> appointments = FindUnattendedOfPackage(database, package);
+    HoldEmployees(database, appointments, status);
+    for (const AppointmentState& appointment : appointments) {
         if (appointment.status != status)
             answer = Change(database, appointment, status, author, written);
         if (!answer.IsDone())

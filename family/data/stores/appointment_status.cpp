@@ -9,7 +9,8 @@ namespace {
 
 constexpr const char* Columns =
     "select a.numero, a.situacao, a.numero_do_tipo_de_servico, a.codigo_do_cliente, a.codigo_do_pacote,"
-    " s.preco_em_centavos, a.alterado_em, a.alterado_por, a.versao"
+    " s.preco_em_centavos, a.alterado_em, a.alterado_por, a.versao, a.codigo_do_funcionario,"
+    " a.data_inicial, a.hora_inicial, a.data_final, a.hora_final"
     " from agendamento a join servico s on s.codigo = a.codigo_do_servico";
 
 /// The appointment alone is locked, not its service.
@@ -40,7 +41,8 @@ protected:
                       soci::into(row_.package.value, row_.package.state), soci::into(row_.priceInCents),
                       soci::into(row_.changedAt.value, row_.changedAt.state),
                       soci::into(row_.changedBy.value, row_.changedBy.state), soci::into(row_.version),
-                      soci::use(key_, "chave")))
+                      soci::into(row_.employee), soci::into(row_.startDate), soci::into(row_.startTime),
+                      soci::into(row_.endDate), soci::into(row_.endTime), soci::use(key_, "chave")))
     {
     }
 

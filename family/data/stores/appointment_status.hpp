@@ -33,6 +33,9 @@ struct AppointmentState {
     Key priceInCents = 0;
     Nullable<std::string> changedAt, changedBy;
     Key version = 0;
+    Key employee = 0;
+    /// "yyyy-mm-dd" and "hh:mm".
+    std::string startDate, startTime, endDate, endTime;
 };
 
 /// Both lock what they find, in the transaction that is open.

@@ -38,4 +38,12 @@ int PostgresqlShop::Booked() const
     return std::stoi(booked);
 }
 
+int PostgresqlShop::WaitingForALock() const
+{
+    return std::stoi(shop_
+                         .Run("select count(*) from pg_stat_activity where wait_event_type = 'Lock'"
+                              " and datname = current_database()")
+                         .front());
+}
+
 } // namespace kova::family::test

@@ -42,6 +42,8 @@ protected:
     static kova::test::PostgresServer& Server() { return kova::test::PostgresServer::Shared(); }
     /// Appointments that were added, each with its line in the audit.
     int Booked() const;
+    /// Connections to the shop that wait for a lock.
+    int WaitingForALock() const;
 
     kova::test::PostgresDatabase shop_{Server(), Server().Model("shop", MakeShop)};
 };

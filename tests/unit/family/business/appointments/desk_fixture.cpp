@@ -30,10 +30,11 @@ DeskTest::DeskTest()
     row.codigoDoPacote = 1;
     row.incluidoEm = "2026-11-01 09:00:00";
     row.incluidoPor = "Carla";
-    for (const char* start : {"09:00", "10:00", "11:00"}) {
+    for (const auto& [start, end] :
+         {std::pair("09:00", "10:00"), std::pair("10:00", "11:00"), std::pair("11:00", "12:00")}) {
         row.numero = row.numero == 0 ? 21 : row.numero + 1;
         row.horaInicial = start;
-        row.horaFinal = "12:00";
+        row.horaFinal = end;
         Insert(database, row);
     }
     NumberOn(database);

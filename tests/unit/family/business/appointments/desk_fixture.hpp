@@ -40,7 +40,7 @@ private:
 };
 
 /// The shop with a user at its desk, who changes statuses. Beside the appointments of the shop there is a
-/// package, 1, of three baths: 21, 22 and 23, booked, on 27/11/2026.
+/// package, 1, of three baths: 21, 22 and 23, booked, on 27/11/2026 one after another from 09:00 to 12:00.
 class DeskTest : public ShopTest {
 protected:
     DeskTest();

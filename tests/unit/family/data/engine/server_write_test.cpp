@@ -5,6 +5,7 @@
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/business/appointments/appointment_writes.hpp"
+#include "family/business/appointments/status_change.hpp"
 #include "family/business/shop/company_selection.hpp"
 #include "family/data/engine/safe_write.hpp"
 #include "family/data/sources/data_source.hpp"
@@ -220,6 +221,53 @@ TEST_F(PostgresqlShop, TellsThatAnotherDeskKeepsTheEmployee)
         EXPECT_TRUE(Holds(told, "Nada foi gravado.")) << told;
     }
     EXPECT_TRUE(AddAppointments(*database, Bath("01/12/2026"), Somebody).IsDone());
+}
+
+TEST_F(PostgresqlShop, LetsNoAppointmentComeBackToAnEmployeeWhomAnotherDeskKeeps)
+{
+    const auto database = OpenDatabase(shop_.Address());
+    const auto other = OpenDatabase(shop_.Address());
+    database->Session() << "set lock_timeout = '30ms'";
+    const auto bringBack = [&] { return FailureOf([&] { ChangeStatus(*database, 8, 1, Somebody); }); };
+    {
+        WriteTransaction writing(*other);
+        other->Session() << "select codigo from funcionario where codigo = 2 for no key update";
+        const std::string told = bringBack();
+        EXPECT_TRUE(Holds(told, "Outro posto está gravando")) << told;
+    }
+    EXPECT_EQ(bringBack(), "");
+}
+
+TEST_F(PostgresqlShop, BringsTwoPackagesBackThatDeskAndDeskReadInOppositeOrders)
+{
+    // By their start, package 1 is of the employees 1 and 2, package 2 of 2 and 1.
+    for (const char* statement :
+         {"update funcionario set agendamentos_simultaneos = 0",
+          "insert into pacote (codigo, codigo_do_servico, criado_em, criado_por)"
+          " values (1, 2, '2026-11-01 09:00:00', 'Lia'), (2, 2, '2026-11-01 09:00:00', 'Lia')",
+          "update agendamento set situacao = 3, codigo_do_pacote = 1 where numero in (1, 2)",
+          "update agendamento set situacao = 3, codigo_do_pacote = 2 where numero in (3, 8)",
+          "create sequence escritas",
+          "create function espera() returns trigger language plpgsql as $$ begin perform nextval('escritas');"
+          " perform pg_advisory_xact_lock_shared(7); return new; end $$",
+          "create trigger espera before update on agendamento for each row execute function espera()"})
+        shop_.Run(statement);
+    const auto gate = OpenDatabase(shop_.Address());
+    gate->Session() << "select pg_advisory_lock(7)";
+    std::atomic<int> done = 0, over = 0;
+    const auto bringBack = [&](Key package) {
+        const auto database = OpenDatabase(shop_.Address());
+        done += ChangeStatusInPackage(*database, package, 1, Somebody).IsDone() ? 1 : 0;
+        ++over;
+    };
+    {
+        const std::jthread one(bringBack, 1), other(bringBack, 2);
+        while (over == 0 && WaitingForALock() < 2) { }
+        gate->Session() << "select pg_advisory_unlock(7)";
+    }
+    EXPECT_EQ(done, 2);
+    // Four rows, each written once: nobody had to begin again.
+    EXPECT_EQ(shop_.Run("select last_value from escritas"), std::vector<std::string>{"4"});
 }
 
 TEST_F(PostgresqlShop, ForgetsTheMarksOfWritesAfterTwoDays)
