@@ -9,6 +9,8 @@
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/appointment_store.hpp"
 
+#include <tuple>
+
 namespace kova::family {
 
 namespace {
@@ -26,6 +28,16 @@ AppointmentState StateOf(const Booking& booking, Key number, int statusBefore)
     state.customer = booking.row.codigoDoCliente;
     state.priceInCents = booking.service.priceInCents;
     return state;
+}
+
+/// Whether a write changes what a pre-sale is made for.
+bool SellsOtherwise(const AppointmentRow& before, const AppointmentRow& after)
+{
+    const auto sold = [](const AppointmentRow& row) {
+        return std::tuple(row.numeroDoTipoDeServico, row.codigoDoServico, row.codigoDoCliente.ValueOr(0),
+                          row.codigoDoAnimal.ValueOr(0));
+    };
+    return sold(before) != sold(after);
 }
 
 bool FormsPackage(const Booking& booking)
@@ -55,8 +67,9 @@ WriteAnswer WriteOver(Database& database, const AppointmentRow& stored, Appointm
     Booking booking(database, input, stored);
     if (const Refusal refusal = Check(booking))
         return *refusal;
-    const WriteAnswer answer = FollowWithPreSale(database, StateOf(booking, stored.numero, stored.situacao),
-                                                 booking.row.situacao, author);
+    const auto follow = SellsOtherwise(stored, booking.row) ? RenewPreSale : FollowWithPreSale;
+    WriteAnswer answer =
+        follow(database, StateOf(booking, stored.numero, stored.situacao), booking.row.situacao, author);
     if (answer.IsDone())
         ReplaceAppointment(database, stored, booking.At(booking.times.front()), author);
     return answer;

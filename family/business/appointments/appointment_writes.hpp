@@ -24,7 +24,8 @@ WriteAnswer AddAppointments(Database& database, const AppointmentInput& input, c
 /// 2. What other desks have changed since this session selected it is kept, or the write refused
 ///    (MergeIntoInput).
 /// 3. The checks, without repetition: one appointment stays one.
-/// 4. A change to or from status 4 is followed by the pre-sale, or refused.
+/// 4. A change to or from status 4 is followed by the pre-sale, or refused; so is a change of service, type,
+///    customer or animal, for which an open pre-sale is made anew and a billed one was not made.
 /// 5. The row is written, with its line in the audit. It stays in its package.
 WriteAnswer AlterAppointment(Database& database, const AppointmentInput& input, const Author& author);
 

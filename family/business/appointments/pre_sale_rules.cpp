@@ -10,6 +10,10 @@ namespace {
 /// Service types below this one are clinical.
 constexpr Key FirstTypeThatSells = 4;
 
+constexpr const char* StatusIsBilled =
+    "Não é possível alterar a situação: a pré-venda deste agendamento já foi faturada.";
+constexpr const char* AppointmentIsBilled = "Não é possível alterar um agendamento com pré-venda faturada.";
+
 WriteAnswer MakePreSale(Database& database, const AppointmentState& appointment, const Author& author)
 {
     if (appointment.serviceType < FirstTypeThatSells)
@@ -20,13 +24,12 @@ WriteAnswer MakePreSale(Database& database, const AppointmentState& appointment,
     return {};
 }
 
-WriteAnswer UndoPreSale(Database& database, const AppointmentState& appointment, const Author& author)
+/// Refused with that text where one was billed.
+WriteAnswer UndoPreSale(Database& database, Key appointment, const char* refusal, const Author& author)
 {
-    for (const PreSale& preSale : FindPreSales(database, appointment.number)) {
-        if (preSale.status == pre_sale_status::Billed)
-            return WriteAnswer::Refusal(
-                "Não é possível alterar a situação: a pré-venda deste agendamento já foi faturada.");
-        CancelPreSale(database, preSale, author);
+    for (const PreSale& preSale : FindPreSales(database, appointment)) {
+        if (preSale.status == pre_sale_status::Billed || !CancelPreSale(database, preSale, author))
+            return WriteAnswer::Refusal(refusal);
     }
     return {};
 }
@@ -40,7 +43,17 @@ WriteAnswer FollowWithPreSale(Database& database, const AppointmentState& appoin
     const bool has = status == appointment_status::PreSaleGenerated;
     if (had == has)
         return {};
-    return has ? MakePreSale(database, appointment, author) : UndoPreSale(database, appointment, author);
+    return has ? MakePreSale(database, appointment, author)
+               : UndoPreSale(database, appointment.number, StatusIsBilled, author);
+}
+
+WriteAnswer RenewPreSale(Database& database, const AppointmentState& appointment, int status,
+                         const Author& author)
+{
+    const WriteAnswer undone = UndoPreSale(database, appointment.number, AppointmentIsBilled, author);
+    if (!undone.IsDone() || status != appointment_status::PreSaleGenerated)
+        return undone;
+    return MakePreSale(database, appointment, author);
 }
 
 WriteAnswer CheckNoPreSale(Database& database, Key appointment, int status)

@@ -15,6 +15,12 @@ struct AppointmentState;
 WriteAnswer FollowWithPreSale(Database& database, const AppointmentState& appointment, int status,
                               const Author& author);
 
+/// The same where the write also changes what the pre-sale was made for: what is open is cancelled, and with
+/// status 4 made anew with the price of `appointment`, which tells of the service and customer that are
+/// written. Refused where it was billed, whatever the status.
+WriteAnswer RenewPreSale(Database& database, const AppointmentState& appointment, int status,
+                         const Author& author);
+
 /// Refused where the appointment with that status has a pre-sale that is not cancelled.
 WriteAnswer CheckNoPreSale(Database& database, Key appointment, int status);
 

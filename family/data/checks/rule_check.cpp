@@ -39,6 +39,10 @@ constexpr Rule Rules[] = {
      "situacao = 4 and not exists (select 1 from pre_venda p"
      " where p.numero_do_agendamento = agendamento.numero and p.situacao <> 2)",
      "está com pré-venda gerada, mas não há pré-venda."},
+    {"agendamento", "numero", "situacao = 4 and numero_do_tipo_de_servico < 4",
+     "está com pré-venda gerada, mas o serviço é do tipo clínico."},
+    {"agendamento", "numero", "situacao = 4 and codigo_do_cliente is null",
+     "está com pré-venda gerada, mas não tem cliente cadastrado."},
     {"agendamento", "numero",
      "(select count(*) from pre_venda p where p.numero_do_agendamento = agendamento.numero"
      " and p.situacao <> 2) > 1",

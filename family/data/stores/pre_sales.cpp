@@ -14,7 +14,8 @@ public:
     explicit PreSaleSelection(Database& database)
         : statement_((database.Session().prepare
                           << "select codigo, situacao from pre_venda"
-                             " where numero_do_agendamento = :numero and situacao <> 2 order by codigo",
+                             " where numero_do_agendamento = :numero and situacao <> 2 order by codigo"
+                              + database.GetDialect().lockRow,
                       soci::into(row_.code), soci::into(row_.status), soci::use(appointment_, "numero")))
     {
     }
@@ -69,16 +70,18 @@ private:
 class PreSaleCancellation : public KeptStatement {
 public:
     explicit PreSaleCancellation(Database& database)
-        : statement_(
-            (database.Session().prepare << "update pre_venda set situacao = 2 where codigo = :codigo",
-             soci::use(code_, "codigo")))
+        : statement_((database.Session().prepare
+                          << "update pre_venda set situacao = 2 where codigo = :codigo and situacao <> 3",
+                      soci::use(code_, "codigo")))
     {
     }
 
-    void Run(Key code)
+    /// False where it was billed: nothing is written then.
+    bool Run(Key code)
     {
         code_ = code;
         statement_.execute(true);
+        return statement_.get_affected_rows() == 1;
     }
 
 private:
@@ -106,11 +109,14 @@ void CreatePreSale(Database& database, Key appointment, Key priceInCents, const 
     AuditInsertion(database, author, Table, code, after);
 }
 
-void CancelPreSale(Database& database, const PreSale& preSale, const Author& author)
+bool CancelPreSale(Database& database, const PreSale& preSale, const Author& author)
 {
-    database.With<PreSaleCancellation>([&](PreSaleCancellation& update) { update.Run(preSale.code); });
-    AuditChange(database, author, Table, preSale.code, AuditValues().Add("situacao", preSale.status),
-                AuditValues().Add("situacao", pre_sale_status::Cancelled));
+    const bool cancelled = database.With<PreSaleCancellation>(
+        [&](PreSaleCancellation& update) { return update.Run(preSale.code); });
+    if (cancelled)
+        AuditChange(database, author, Table, preSale.code, AuditValues().Add("situacao", preSale.status),
+                    AuditValues().Add("situacao", pre_sale_status::Cancelled));
+    return cancelled;
 }
 
 } // namespace kova::family

@@ -21,11 +21,13 @@ struct PreSale {
     int status = 0;
 };
 
-/// An appointment's pre-sales that are open or billed, oldest first.
+/// An appointment's pre-sales that are open or billed, oldest first. Locks them in the transaction that is
+/// open: whoever bills them waits for its end.
 std::vector<PreSale> FindPreSales(Database& database, Key appointment);
 
 /// Each with its line in the audit, in the transaction that is open.
 void CreatePreSale(Database& database, Key appointment, Key priceInCents, const Author& author);
-void CancelPreSale(Database& database, const PreSale& preSale, const Author& author);
+/// False where it was billed meanwhile: nothing is written then.
+bool CancelPreSale(Database& database, const PreSale& preSale, const Author& author);
 
 } // namespace kova::family

@@ -2,6 +2,10 @@
 
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
+#include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/people_rows.hpp"
+#include "family/data/sources/shared_database.hpp"
+
 namespace kova::family::test {
 
 class RecordWrites : public BookingTest {
@@ -15,6 +19,26 @@ protected:
         desk->Set("Situacao", status);
         return desk;
     }
+
+    using Properties = std::vector<std::pair<const char*, Value>>;
+
+    /// Of customer 10.
+    void AddSecondAnimal()
+    {
+        Insert(*SharedDatabase(host_.DataSource()),
+               AnimalRow{52, 10, "Bidu", "M", 1, 2, "Preto", {}, {}, 1, "bidu"});
+    }
+    /// Each changes something for which a pre-sale is made.
+    static std::vector<Properties> ChangesOfWhatIsSold()
+    {
+        return {{{"CodigoDoServico", 3.0}},
+                {{"NumeroDoTipoDeServico", Long(1)}, {"CodigoDoServico", 1.0}},
+                {{"CodigoDoCliente", 11.0}, {"CodigoDoAnimal", Long(51)}},
+                {{"CodigoDoAnimal", Long(52)}}};
+    }
+    static bool IsClinical(const Properties& change) { return change[0].second == Value(Long(1)); }
+    static bool SellsThePackage(const Properties& change) { return change[0].second == Value(3.0); }
+
     static Integer ChangePackage(Component& agenda, std::vector<Argument> arguments = {})
     {
         return agenda.Call("AlterarSituacaoDoAgendamentoNoPacoteDeBanhoETosa", arguments).ToInteger();
@@ -103,6 +127,105 @@ TEST_F(RecordWrites, AreRefusedWhereThePreSaleWasBilled)
     ExpectAnswer(*Record(2, 1), "Alterar", 3, "",
                  "Não é possível alterar a situação: a pré-venda deste agendamento já foi faturada.");
     EXPECT_EQ(Write(*Record(2, 4), "Alterar"), 0);
+}
+
+TEST_F(RecordWrites, ThatChangeWhatWasBilledAreRefused)
+{
+    ASSERT_EQ(Change(2, 4), 0);
+    Run("update pre_venda set situacao = 3");
+    AddSecondAnimal();
+    for (const Long status : {4, 2}) {
+        SCOPED_TRACE(status);
+        for (const Properties& change : ChangesOfWhatIsSold()) {
+            const auto desk = Record(2, status);
+            for (const auto& [name, value] : change)
+                desk->Set(name, value);
+            ExpectAnswer(*desk, "Alterar", 3, "",
+                         "Não é possível alterar um agendamento com pré-venda faturada.");
+        }
+    }
+    const auto simplified = Over(2, Simplified(On("01/12/2026")));
+    ExpectAnswer(*simplified, "Alterar", 3, "",
+                 "Não é possível alterar um agendamento com pré-venda faturada.");
+    Run("update agendamento set situacao = 1 where numero = 2");
+    const auto notAttended = Record(2, 1);
+    notAttended->Set("CodigoDoServico", 3.0);
+    ExpectAnswer(*notAttended, "Alterar", 3, "",
+                 "Não é possível alterar um agendamento com pré-venda faturada.");
+}
+
+TEST_F(RecordWrites, ThatLeaveWhatWasBilledChangeEverythingElse)
+{
+    ASSERT_EQ(Change(2, 4), 0);
+    Run("update pre_venda set situacao = 3");
+    const auto desk = Record(2, 4, On("03/12/2026", "14:00", "15:00"));
+    desk->Set("CodigoDoFuncionario", Long(1));
+    desk->Set("Observacao", "Perfume.");
+    desk->Set("TransporteLevar", Long(-1));
+    ASSERT_EQ(Write(*desk, "Alterar"), 0);
+    EXPECT_EQ(PreSales(), Lines{"2 6000 3 2026-11-20 09:04:05"});
+}
+
+TEST_F(RecordWrites, ThatChangeWhatIsSoldCancelThePreSaleAndMakeItAnewWithThePriceOfToday)
+{
+    AddSecondAnimal();
+    for (const Properties& change : ChangesOfWhatIsSold()) {
+        Run("delete from pre_venda");
+        Run("update servico set preco_em_centavos = 6000 where codigo = 2");
+        const auto before = Record(2, 4);
+        ASSERT_EQ(Write(*before, "Alterar"), 0);
+        Run("delete from pre_venda");
+        Run("insert into pre_venda (numero_do_agendamento, valor_em_centavos, situacao, criada_em)"
+            " values (2, 6000, 1, '2026-11-01 09:00:00')");
+        Run("update servico set preco_em_centavos = 7000 where codigo = 2");
+        const auto desk = Record(2, 4);
+        for (const auto& [name, value] : change)
+            desk->Set(name, value);
+        if (IsClinical(change)) {
+            ExpectAnswer(*desk, "Alterar", 3, "",
+                         "Não é possível gerar pré-venda para serviços tipo clínico.");
+            continue;
+        }
+        ASSERT_EQ(Write(*desk, "Alterar"), 0);
+        const std::string price = SellsThePackage(change) ? "20000" : "7000";
+        EXPECT_EQ(PreSales(),
+                  (Lines{"2 6000 2 2026-11-01 09:00:00", "2 " + price + " 1 2026-11-20 09:04:05"}));
+        EXPECT_EQ(StatusOf(2), 4);
+    }
+}
+
+TEST_F(RecordWrites, ThatChangeWhatIsSoldLeaveTheirLinesInTheAudit)
+{
+    ASSERT_EQ(Change(2, 4), 0);
+    Run("delete from auditoria");
+    const auto desk = Record(2, 4);
+    desk->Set("CodigoDoServico", 3.0);
+    ASSERT_EQ(Write(*desk, "Alterar"), 0);
+    const Lines audit = Audit();
+    ASSERT_EQ(audit.size(), 3U);
+    EXPECT_EQ(audit[0], R"(pre_venda 1 alteracao {"situacao":1} {"situacao":2})");
+    EXPECT_EQ(audit[1],
+              R"(pre_venda 2 inclusao - {"numero_do_agendamento":2,"valor_em_centavos":20000,"situacao":1,)"
+              R"("criada_em":"2026-11-20 09:04:05"})");
+    EXPECT_TRUE(audit[2].starts_with("agendamento 2 alteracao ")) << audit[2];
+}
+
+TEST_F(RecordWrites, ThatChangeWhatIsSoldAndLeaveFourOnlyCancelThePreSale)
+{
+    ASSERT_EQ(Change(2, 4), 0);
+    const auto desk = Record(2, 2);
+    desk->Set("CodigoDoServico", 3.0);
+    ASSERT_EQ(Write(*desk, "Alterar"), 0);
+    EXPECT_EQ(PreSales(), Lines{"2 6000 2 2026-11-20 09:04:05"});
+}
+
+TEST_F(RecordWrites, ThatMakeASimplifiedAppointmentOfOneWithAPreSaleAreRefused)
+{
+    ASSERT_EQ(Change(2, 4), 0);
+    const auto simplified = Over(2, Simplified(On("01/12/2026")));
+    simplified->Set("Situacao", Long(4));
+    ExpectAnswer(*simplified, "Alterar", 3, "",
+                 "Não é possível gerar pré-venda para agendamento simplificado.");
 }
 
 TEST_F(RecordWrites, AreRefusedAPreSaleOfAClinicalTypeOrWithoutACustomer)

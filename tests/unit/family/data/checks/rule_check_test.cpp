@@ -48,6 +48,11 @@ const Breach Breaches[] = {
      {"agendamento 7: está com pré-venda gerada, mas não há pré-venda."}},
     {"delete from agendamento where numero = 7",
      {"pre_venda 1: não foi cancelada, mas não há agendamento com pré-venda gerada."}},
+    {"update agendamento set numero_do_tipo_de_servico = 1, codigo_do_servico = 1 where numero = 7",
+     {"agendamento 7: está com pré-venda gerada, mas o serviço é do tipo clínico."}},
+    {"update agendamento set tipo_do_agendamento = 1, codigo_do_cliente = null, codigo_do_animal = null,"
+     " nome_do_cliente = 'Íris', nome_do_animal = 'Bidu' where numero = 7",
+     {"agendamento 7: está com pré-venda gerada, mas não tem cliente cadastrado."}},
     {"insert into pre_venda (codigo, numero_do_agendamento, valor_em_centavos, situacao, criada_em)"
      " values (2, 7, 6000, 3, '2026-11-20 09:00:00')",
      {"agendamento 7: tem mais de uma pré-venda."}},

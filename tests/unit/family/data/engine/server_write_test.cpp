@@ -10,6 +10,7 @@
 #include "family/data/engine/safe_write.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
+#include "family/data/stores/pre_sales.hpp"
 
 #include <barrier>
 #include <thread>
@@ -268,6 +269,58 @@ TEST_F(PostgresqlShop, BringsTwoPackagesBackThatDeskAndDeskReadInOppositeOrders)
     EXPECT_EQ(done, 2);
     // Four rows, each written once: nobody had to begin again.
     EXPECT_EQ(shop_.Run("select last_value from escritas"), std::vector<std::string>{"4"});
+}
+
+/// The appointment 7 of the shop has a pre-sale, which another program bills.
+class PostgresqlBilling : public PostgresqlShop {
+protected:
+    PostgresqlBilling()
+    {
+        shop_.Run("insert into pre_venda (numero_do_agendamento, valor_em_centavos, situacao, criada_em)"
+                  " values (7, 6000, 1, '2026-11-20 09:00:00')");
+    }
+
+    void Bill() { biller_->Session() << "update pre_venda set situacao = 3"; }
+    void ExpectRefused(const WriteAnswer& answer)
+    {
+        EXPECT_EQ(answer.status, WriteAnswer::Refused);
+        EXPECT_EQ(answer.text,
+                  "Não é possível alterar a situação: a pré-venda deste agendamento já foi faturada.");
+        EXPECT_EQ(shop_.Run("select situacao from pre_venda"), std::vector<std::string>{"3"});
+        EXPECT_EQ(shop_.Run("select situacao from agendamento where numero = 7"),
+                  std::vector<std::string>{"4"});
+    }
+
+    std::shared_ptr<Database> desk_ = OpenDatabase(shop_.Address()), biller_ = OpenDatabase(shop_.Address());
+};
+
+TEST_F(PostgresqlBilling, WaitsForADeskThatHasReadThePreSaleToWriteIt)
+{
+    biller_->Session() << "set lock_timeout = '30ms'";
+    {
+        WriteTransaction writing(*desk_);
+        ASSERT_EQ(FindPreSales(*desk_, 7).size(), 1U);
+        EXPECT_THROW(Bill(), soci::soci_error);
+    }
+    Bill();
+    ExpectRefused(ChangeStatus(*desk_, 7, 1, Somebody));
+}
+
+TEST_F(PostgresqlBilling, IsSeenByADeskThatHasWaitedForIt)
+{
+    biller_->Session().begin();
+    Bill();
+    std::atomic<bool> over = false;
+    WriteAnswer answer;
+    std::jthread cancelling([&] {
+        answer = ChangeStatus(*desk_, 7, 1, Somebody);
+        over = true;
+    });
+    while (!over && WaitingForALock() == 0) { }
+    EXPECT_FALSE(over);
+    biller_->Session().commit();
+    cancelling.join();
+    ExpectRefused(answer);
 }
 
 TEST_F(PostgresqlShop, ForgetsTheMarksOfWritesAfterTwoDays)
