@@ -41,7 +41,8 @@ private:
     // The answer of the last write; "" and False where it was done, or has failed technically.
     Value DescricaoDaFalha() const { return answer_.text; }
     Value NomeDoCampoValidado() const { return answer_.field; }
-    Value RegistroPercenteAUmPacoteDeBanhoETosa() const { return answer_.IsDone() && answer_.package != 0; }
+    /// False for one that is attended, too: the question that follows speaks of booked or cancelled.
+    Value RegistroPercenteAUmPacoteDeBanhoETosa() const;
 
     /// Takes a property that the caller writes, converted to its type.
     template <auto Field, auto Convert> void Take(const Value& value) { input_.*Field = (value.*Convert)(); }

@@ -61,6 +61,12 @@ Value Agenda::Excluir(std::span<Argument>)
     });
 }
 
+Value Agenda::RegistroPercenteAUmPacoteDeBanhoETosa() const
+{
+    return answer_.IsDone() && answer_.package != 0
+        && !appointment_status::IsAttended(answer_.appointmentStatus);
+}
+
 Value Agenda::AlterarSituacaoDoAgendamentoNoPacoteDeBanhoETosa(std::span<Argument> arguments)
 {
     return Write("AlterarSituacaoDoAgendamentoNoPacoteDeBanhoETosa", [&](const Author& author) {

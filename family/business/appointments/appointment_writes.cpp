@@ -72,6 +72,7 @@ WriteAnswer WriteOver(Database& database, const AppointmentRow& stored, Appointm
         follow(database, StateOf(booking, stored.numero, stored.situacao), booking.row.situacao, author);
     if (answer.IsDone())
         ReplaceAppointment(database, stored, booking.At(booking.times.front()), author);
+    answer.appointmentStatus = booking.row.situacao;
     return answer;
 }
 
@@ -117,9 +118,10 @@ WriteAnswer DeleteAppointment(Database& database, const AppointmentInput& input,
     return WithStored(database, input.number, [&](const AppointmentRow& stored) -> WriteAnswer {
         if (const Refusal refusal = CheckUnchanged(database, stored))
             return *refusal;
-        const WriteAnswer answer = CheckNoPreSale(database, stored.numero, stored.situacao);
+        WriteAnswer answer = CheckNoPreSale(database, stored.numero, stored.situacao);
         if (answer.IsDone())
             RemoveAppointment(database, stored, author);
+        answer.appointmentStatus = stored.situacao;
         return answer;
     });
 }

@@ -44,6 +44,7 @@ WriteAnswer Change(Database& database, const AppointmentState& appointment, int 
         written.push_back(appointment);
     }
     answer.package = appointment.package.ValueOr(0);
+    answer.appointmentStatus = status;
     return answer;
 }
 
@@ -111,6 +112,7 @@ WriteAnswer ChangeStatus(Database& database, Key appointment, int status, const 
     return WithStored(database, appointment, status, [&](const AppointmentState& stored, Written& written) {
         if (std::optional<WriteAnswer> answer = AnswerToChangedStatus(database, stored, status)) {
             answer->package = stored.package.ValueOr(0);
+            answer->appointmentStatus = status;
             return *answer;
         }
         return Change(database, stored, status, author, written);

@@ -26,6 +26,8 @@ struct WriteAnswer {
     /// Key of the package that the appointment belongs to, or belonged to before it was deleted; 0 where it
     /// belongs to none.
     long long package = 0;
+    /// Status of that appointment, or the one that it had when it was deleted.
+    int appointmentStatus = 0;
 };
 
 } // namespace kova::family

@@ -17,6 +17,7 @@ inline constexpr int Attended = 2;
 inline constexpr int Cancelled = 3;
 inline constexpr int PreSaleGenerated = 4;
 
+constexpr bool IsAttended(long long status) { return status == Attended || status == PreSaleGenerated; }
 constexpr bool IsKnown(long long status) { return status >= Booked && status <= PreSaleGenerated; }
 } // namespace appointment_status
 

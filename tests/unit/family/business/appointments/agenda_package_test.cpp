@@ -25,6 +25,20 @@ TEST_F(AgendaPackage, IsKnownAfterAChangeOfOneOfItsAppointmentsOnly)
     EXPECT_EQ(agenda->Get("RegistroPercenteAUmPacoteDeBanhoETosa"), Value(false));
 }
 
+TEST_F(AgendaPackage, IsNotAskedAboutWhereTheAppointmentIsAttended)
+{
+    for (const int status : {2, 4}) {
+        const auto agenda = Desk(21, status);
+        ASSERT_EQ(agenda->Call("Alterar"), Value(Integer(0)));
+        EXPECT_EQ(agenda->Get("RegistroPercenteAUmPacoteDeBanhoETosa"), Value(false)) << status;
+    }
+    for (const int status : {1, 3}) {
+        const auto agenda = Desk(21, status);
+        ASSERT_EQ(agenda->Call("Alterar"), Value(Integer(0)));
+        EXPECT_EQ(agenda->Get("RegistroPercenteAUmPacoteDeBanhoETosa"), Value(true)) << status;
+    }
+}
+
 TEST_F(AgendaPackage, TakesTheStatusByReferenceAsTheListSendsIt)
 {
     const auto agenda = Desk(21, 3);

@@ -278,6 +278,19 @@ TEST_F(RecordWrites, TellWhetherTheAppointmentBelongsToAPackage)
     EXPECT_EQ(alone->Get("RegistroPercenteAUmPacoteDeBanhoETosa"), Value(false));
 }
 
+TEST_F(RecordWrites, AskNothingAboutThePackageOfAnAppointmentThatIsAttended)
+{
+    for (const auto& [status, asks] : {std::pair(2, false), std::pair(4, false), std::pair(3, true)}) {
+        const auto desk = Record(21, status);
+        ASSERT_EQ(Write(*desk, "Alterar"), 0);
+        EXPECT_EQ(desk->Get("RegistroPercenteAUmPacoteDeBanhoETosa"), Value(asks)) << status;
+    }
+    ASSERT_EQ(Change(22, 2), 0);
+    const auto desk = Record(22, 1);
+    ASSERT_EQ(Write(*desk, "Excluir"), 0);
+    EXPECT_EQ(desk->Get("RegistroPercenteAUmPacoteDeBanhoETosa"), Value(false));
+}
+
 TEST_F(RecordWrites, LetThePackageBeChangedAfterAnAlteration)
 {
     const auto desk = Record(21, 3);
