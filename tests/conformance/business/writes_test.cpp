@@ -76,6 +76,14 @@ protected:
         return agenda;
     }
 
+    /// What the list sends to change a status alone.
+    ComponentRef Status(int number, Integer status)
+    {
+        return Sent({{"AtualizarSomenteOCampoSituacao", true},
+                     {"SituacaoNova", status},
+                     {"NumeroDeLancamento", static_cast<Double>(number)}});
+    }
+
     Rows DayOf(const char* date) { return ContentOf(*Selected({.date = date}, {})); }
 
     /// The day's rows without the names of their fields.
@@ -161,6 +169,34 @@ TEST_P(Writes, ThatAreRefusedNameTheFieldAndWriteNothing)
     EXPECT_EQ(agenda->Get("NomeDoCampoValidado"), Value("DomingoOuFeriado"));
     EXPECT_EQ(agenda->Get("DescricaoDaFalha"), Value("A data 22/11/2026 é um domingo."));
     EXPECT_TRUE(RowsOf(EmptyDay).empty());
+}
+
+TEST_P(Writes, ThatBringACancelledAppointmentBackNeedRoom)
+{
+    ASSERT_EQ(Sent(Full(), {{"Situacao", Integer(3)}})->Call("Adicionar"), Value(Integer(0)));
+    const ComponentRef second = Sent(Full());
+    ASSERT_EQ(second->Call("Adicionar"), Value(Integer(0)));
+    const ComponentRef status = Status(9, 1);
+    EXPECT_EQ(status->Call("Alterar"), Value(Integer(3)));
+    EXPECT_EQ(status->Get("DescricaoDaFalha"),
+              Value("Bia já tem agendamento das 09:00 às 10:15 em 22/11/2026."));
+    const ComponentRef record = Sent(Full(), {{"NumeroDeLancamento", Double(9)}});
+    EXPECT_EQ(record->Call("Alterar"), Value(Integer(2)));
+    EXPECT_EQ(record->Get("NomeDoCampoValidado"), Value("HoraInicial"));
+    ASSERT_EQ(Status(10, 3)->Call("Alterar"), Value(Integer(0)));
+    EXPECT_EQ(status->Call("Alterar"), Value(Integer(0)));
+}
+
+TEST_P(Writes, ThatChangeWhatAPreSaleWasMadeForGoByItsRules)
+{
+    ASSERT_EQ(Sent(Full(), {{"Situacao", Integer(4)}})->Call("Adicionar"), Value(Integer(0)));
+    const ComponentRef record = Sent(Full(), {{"NumeroDeLancamento", Double(9)}, {"Situacao", Integer(4)}});
+    EXPECT_EQ(record->Call("Alterar"), Value(Integer(0)));
+    record->Set("NumeroDoTipoDeServico", Long(1));
+    record->Set("CodigoDoServico", Double(1));
+    EXPECT_EQ(record->Call("Alterar"), Value(Integer(3)));
+    EXPECT_EQ(record->Get("DescricaoDaFalha"),
+              Value("Não é possível gerar pré-venda para serviços tipo clínico."));
 }
 
 TEST_P(Writes, RepeatedOnOneObjectGoByTheSamePropertiesAndTheAnswer)
