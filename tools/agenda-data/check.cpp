@@ -1,5 +1,6 @@
 #include "family/data/checks/database_check.hpp"
 #include "family/data/checks/rule_check.hpp"
+#include "family/data/engine/snapshot.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
@@ -8,21 +9,34 @@ namespace kova::data {
 
 namespace {
 
-std::vector<std::string> BrokenRules(const std::string& source, DateTime now)
+/// Smaller databases are looked through before anybody asks how far it is.
+constexpr long long RowsWithoutProgress = 50'000;
+
+family::LongWork WorkOn(const family::DatabaseReport& report, Surroundings& surroundings)
+{
+    long long rows = 0;
+    for (const family::TableCount& table : report.tables)
+        rows += table.rows;
+    return rows > RowsWithoutProgress ? ShownWork(surroundings.error, "Verificação") : family::LongWork();
+}
+
+std::vector<std::string> BrokenRules(const std::string& source, DateTime now, const family::LongWork& work)
 {
     const std::unique_ptr<family::Database> database = family::OpenForReading(source);
+    const family::Snapshot snapshot(*database);
     try {
-        return family::FindBrokenRules(*database, now);
+        return family::FindBrokenRules(*database, now, work);
     } catch (const std::runtime_error& cause) {
         throw family::TranslatedFailure(source, cause);
     }
 }
 
 /// Rows of a file that is damaged would only be told to break rules which nobody broke.
-std::vector<std::string> ProblemsOf(const std::string& source, DateTime now,
-                                    const family::DatabaseReport& report)
+std::vector<std::string> ProblemsOf(const std::string& source, const family::DatabaseReport& report,
+                                    Surroundings& surroundings)
 {
-    return report.problems.empty() ? BrokenRules(source, now) : report.problems;
+    return report.problems.empty() ? BrokenRules(source, surroundings.now, WorkOn(report, surroundings))
+                                   : report.problems;
 }
 
 int Run(const Call& call, Surroundings& surroundings)
@@ -30,7 +44,7 @@ int Run(const Call& call, Surroundings& surroundings)
     const family::DatabaseReport report = family::CheckDatabase(call.Operand(0));
     WriteCounts(surroundings.output, report.tables);
     surroundings.output << "versão do esquema: " << report.version << "\n";
-    const std::vector<std::string> problems = ProblemsOf(call.Operand(0), surroundings.now, report);
+    const std::vector<std::string> problems = ProblemsOf(call.Operand(0), report, surroundings);
     for (const std::string& problem : problems)
         surroundings.error << problem << "\n";
     if (!problems.empty())

@@ -3,21 +3,9 @@
 #include "family/data/audit/audit.hpp"
 #include "family/data/rows/insert_new_row.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/key_of_row.hpp"
 
 namespace kova::family {
-
-/// The key of a row: the first of its columns.
-template <class Row> Key& KeyOfRow(Row& row)
-{
-    Key* key = nullptr;
-    row.Columns([&](const char*, auto& field) {
-        if constexpr (std::is_same_v<std::decay_t<decltype(field)>, Key>) {
-            if (!key)
-                key = &field;
-        }
-    });
-    return *key;
-}
 
 /// Writes a new row with its audit line, in the transaction that is open: under the row's own key, or under
 /// one that the engine gives where it is 0. Answers the key. Fails as Database::With.

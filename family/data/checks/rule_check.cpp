@@ -1,4 +1,8 @@
 #include "family/data/checks/rule_check.hpp"
+#include "family/data/rows/page_size.hpp"
+
+#include <iterator>
+#include <limits>
 
 namespace kova::family {
 
@@ -77,26 +81,48 @@ constexpr Rule Rules[] = {
      "o dia do ano não existe."},
 };
 
-} // namespace
-
-void FindBrokenRows(Database& database, std::vector<std::string>& problems)
+/// The rows come in pages.
+void FindRowsThatBreak(const Rule& rule, Database& database, std::vector<std::string>& problems)
 {
-    for (const Rule& rule : Rules) {
-        const std::string table = rule.table, key = rule.key;
-        const soci::rowset<long long> broken =
-            (database.Session().prepare
-             << "select " + key + " from " + table + " where " + rule.condition + " order by " + key);
-        for (const long long number : broken)
+    const std::string table = rule.table, key = rule.key;
+    long long number = 0, after = std::numeric_limits<long long>::min();
+    soci::statement statement =
+        (database.Session().prepare << "select " + key + " from " + table + " where (" + rule.condition
+                 + ") and " + key + " > :apos order by " + key + " limit " + std::to_string(PageSize),
+         soci::into(number), soci::use(after, "apos"));
+    for (std::size_t found = PageSize; found == PageSize;) {
+        found = 0;
+        statement.execute();
+        while (statement.fetch()) {
+            ++found;
+            after = number;
             problems.push_back(table + " " + std::to_string(number) + ": " + rule.text);
+        }
     }
 }
 
-std::vector<std::string> FindBrokenRules(Database& database, DateTime now)
+} // namespace
+
+int PassesOverRows() { return static_cast<int>(std::size(Rules)); }
+
+void FindBrokenRows(Database& database, std::vector<std::string>& problems, const Passed& passed)
+{
+    for (const Rule& rule : Rules) {
+        FindRowsThatBreak(rule, database, problems);
+        passed();
+    }
+}
+
+std::vector<std::string> FindBrokenRules(Database& database, DateTime now, const LongWork& work)
 {
     std::vector<std::string> problems;
-    FindBrokenRows(database, problems);
-    FindBrokenTexts(database, problems);
+    const int passes = PassesOverRows() + PassesOverTexts() + 1;
+    int done = 0;
+    const Passed passed = [&] { work.Reach(++done, passes); };
+    FindBrokenRows(database, problems, passed);
+    FindBrokenTexts(database, problems, passed);
     FindAppointmentsWithoutRoom(database, now, problems);
+    work.Reach(passes, passes);
     return problems;
 }
 

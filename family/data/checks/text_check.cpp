@@ -3,7 +3,11 @@
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/migration.hpp"
 #include "family/data/engine/nullable.hpp"
+#include "family/data/rows/page_size.hpp"
 #include "family/data/sources/data_source.hpp"
+
+#include <iterator>
+#include <limits>
 
 namespace kova::family {
 
@@ -38,27 +42,37 @@ constexpr NamedTable NamedTables[] = {
     {"animal", "codigo"},
 };
 
-/// Calls `visit` with the number of each row of the table and two of its texts; a Null is left out.
+/// Calls `visit` with the number of each row of the table and two of its texts; a Null is left out. The rows
+/// come in pages.
 template <class Visit>
 void ForEachText(Database& database, const NamedTable& table, const std::string& columns, Visit visit)
 {
-    long long number = 0;
+    const std::string key = table.key;
+    long long number = 0, after = std::numeric_limits<long long>::min();
     std::string first;
     Nullable<std::string> second;
     soci::statement statement =
-        (database.Session().prepare << "select " + std::string(table.key) + ", " + columns + " from "
-                 + table.table + " order by " + table.key,
-         soci::into(number), soci::into(first), soci::into(second.value, second.state));
-    statement.execute();
-    while (statement.fetch()) {
-        if (!second.IsNull())
-            visit(table.table + (" " + std::to_string(number)), first, second.value);
+        (database.Session().prepare << "select " + key + ", " + columns + " from " + table.table + " where "
+                 + key + " > :apos order by " + key + " limit " + std::to_string(PageSize),
+         soci::into(number), soci::into(first), soci::into(second.value, second.state),
+         soci::use(after, "apos"));
+    for (std::size_t found = PageSize; found == PageSize;) {
+        found = 0;
+        statement.execute();
+        while (statement.fetch()) {
+            ++found;
+            after = number;
+            if (!second.IsNull())
+                visit(table.table + (" " + std::to_string(number)), first, second.value);
+        }
     }
 }
 
 } // namespace
 
-void FindBrokenTexts(Database& database, std::vector<std::string>& problems)
+int PassesOverTexts() { return static_cast<int>(std::size(DatedColumns) + std::size(NamedTables)); }
+
+void FindBrokenTexts(Database& database, std::vector<std::string>& problems, const Passed& passed)
 {
     for (const DatedColumn& dated : DatedColumns) {
         ForEachText(database, {dated.table, dated.key}, std::string("'', ") + dated.column,
@@ -67,6 +81,7 @@ void FindBrokenTexts(Database& database, std::vector<std::string>& problems)
                             problems.push_back(row + ": \"" + text + "\" em " + dated.column
                                                + " não é uma data ou hora.");
                     });
+        passed();
     }
     // Texts that an older version has folded are folded anew when the database is opened for work.
     if (VersionOf(database) != NewestVersion(CurrentMigrations()))
@@ -78,6 +93,7 @@ void FindBrokenTexts(Database& database, std::vector<std::string>& problems)
                             problems.push_back(row + ": o nome \"" + name
                                                + "\" não é encontrado na pesquisa.");
                     });
+        passed();
     }
 }
 

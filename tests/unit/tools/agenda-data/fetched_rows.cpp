@@ -1,0 +1,104 @@
+#include "tests/unit/tools/agenda-data/fetched_rows.hpp"
+
+#include <libpq-fe.h>
+#include <sqlite3.h>
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <map>
+
+namespace kova::data::test {
+
+namespace {
+
+struct Counts {
+    bool counting = false;
+    long long atOnce = 0, inAll = 0;
+    /// Of the runs of SQLite's statements that are under way.
+    std::map<void*, long long> running;
+    /// The last result of a server that was looked at.
+    const PGresult* result = nullptr;
+};
+
+Counts& TheCounts()
+{
+    static Counts counts;
+    return counts;
+}
+
+int FollowStatement(unsigned event, void*, void* statement, void*)
+{
+    Counts& counts = TheCounts();
+    long long& rows = counts.running[statement];
+    if (event == SQLITE_TRACE_STMT) {
+        rows = 0;
+    } else {
+        counts.atOnce = std::max(counts.atOnce, ++rows);
+        ++counts.inAll;
+    }
+    return SQLITE_OK;
+}
+
+int FollowConnection(sqlite3* connection, char**, const void*)
+{
+    return sqlite3_trace_v2(connection, SQLITE_TRACE_STMT | SQLITE_TRACE_ROW, FollowStatement, nullptr);
+}
+
+void (*AtEachConnection())() { return reinterpret_cast<void (*)()>(FollowConnection); }
+
+void Note(const PGresult* result, long long rows)
+{
+    Counts& counts = TheCounts();
+    if (!counts.counting)
+        return;
+    counts.atOnce = std::max(counts.atOnce, rows);
+    // It is asked for the same result more than once.
+    if (counts.result != result)
+        counts.inAll += rows;
+    counts.result = result;
+}
+
+/// The next result may lie where this one did.
+void Forget(const PGresult* result)
+{
+    if (TheCounts().result == result)
+        TheCounts().result = nullptr;
+}
+
+} // namespace
+
+FetchedRows::FetchedRows()
+{
+    TheCounts() = Counts();
+    TheCounts().counting = true;
+    sqlite3_auto_extension(AtEachConnection());
+}
+
+FetchedRows::~FetchedRows()
+{
+    sqlite3_cancel_auto_extension(AtEachConnection());
+    TheCounts() = Counts();
+}
+
+long long FetchedRows::AtOnce() const { return TheCounts().atOnce; }
+long long FetchedRows::InAll() const { return TheCounts().inAll; }
+
+} // namespace kova::data::test
+
+// They stand before the client library's own, which has no other way to tell how many rows its results hold.
+
+extern "C" __attribute__((visibility("default"))) int PQntuples(const PGresult* result)
+{
+    static const auto ofLibrary = reinterpret_cast<int (*)(const PGresult*)>(dlsym(RTLD_NEXT, "PQntuples"));
+    const int rows = ofLibrary(result);
+    kova::data::test::Note(result, rows);
+    return rows;
+}
+
+extern "C" __attribute__((visibility("default"))) void PQclear(PGresult* result)
+{
+    static const auto ofLibrary = reinterpret_cast<void (*)(PGresult*)>(dlsym(RTLD_NEXT, "PQclear"));
+    kova::data::test::Forget(result);
+    ofLibrary(result);
+}
