@@ -56,6 +56,8 @@ public:
         return lines_ - 1;
     }
 
+    Encoding GetEncoding() const { return encoding_; }
+
 private:
     std::string Encoded(std::string line) const
     {
@@ -84,7 +86,8 @@ int Run(const Call& call, Surroundings& surroundings)
     ExportRun run(call, surroundings, CountRows(*database, from.table));
     from.exportTo(*database, [&](const std::vector<std::string>& fields) { run.Write(fields); });
     const long long records = run.Finish();
-    surroundings.output << records << (records == 1 ? " linha exportada.\n" : " linhas exportadas.\n");
+    surroundings.output << records << (records == 1 ? " linha exportada" : " linhas exportadas") << " em "
+                        << NameOf(run.GetEncoding()) << ".\n";
     return 0;
 }
 

@@ -49,8 +49,9 @@ int Run(const Call& call, Surroundings& surroundings)
     const Register& into = FindRegister(call, 1);
     const auto encoding = GivenEncoding(call);
     const auto separator = GivenSeparator(call);
-    const std::string text = ReadTextFile(call.Operand(2), encoding);
-    ImportRun run(into, text, separator.value_or(RecogniseSeparator(text)), surroundings);
+    const FileText file = ReadTextFile(call.Operand(2), encoding);
+    surroundings.output << "Arquivo lido em " << NameOf(file.encoding) << ".\n";
+    ImportRun run(into, file.text, separator.value_or(RecogniseSeparator(file.text)), surroundings);
     return call.Has("--dry-run") ? Rehearse(run, call.Operand(0), surroundings)
                                  : Import(run, call.Operand(0), surroundings);
 }

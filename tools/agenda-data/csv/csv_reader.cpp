@@ -98,7 +98,7 @@ std::string CsvReader::QuotedField(CsvRecord& record)
         }
         if (quote)
             ++at_;
-        if (text_[at_] == '\n' || (text_[at_] == '\r' && text_.substr(at_, 2) != "\r\n"))
+        if (EndsLine(text_, at_))
             ++line_;
         field += text_[at_];
     }
@@ -116,12 +116,16 @@ char RecogniseSeparator(std::string_view text)
     });
 }
 
+bool EndsLine(std::string_view text, std::size_t at)
+{
+    return text[at] == '\n' || (text[at] == '\r' && text.substr(at, 2) != "\r\n");
+}
+
 long long CountLines(std::string_view text)
 {
     long long lines = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
-        const bool ends = text[at] == '\n' || (text[at] == '\r' && text.substr(at, 2) != "\r\n");
-        if (ends || at + 1 == text.size())
+        if (EndsLine(text, at) || at + 1 == text.size())
             ++lines;
     }
     return lines;

@@ -47,6 +47,9 @@ private:
 /// quotes: ';', ',' or a tab. ';' where it holds none.
 char RecogniseSeparator(std::string_view text);
 
+/// Whether a line ends with that character: LF, or a CR that no LF follows.
+bool EndsLine(std::string_view text, std::size_t at);
+
 /// Number of lines, the last one also where no line break ends it.
 long long CountLines(std::string_view text);
 

@@ -1,6 +1,7 @@
 #include "tools/agenda-data/csv/encoding.hpp"
 
 #include "agenda/contracts/utf8.hpp"
+#include "tools/agenda-data/csv/csv_reader.hpp"
 
 namespace kova::data {
 
@@ -15,18 +16,23 @@ static_assert(std::size(WindowsCharacters) == 0xA0 - 0x80);
 
 } // namespace
 
-std::optional<long long> FirstLineNotUtf8(std::string_view text)
+std::string NameOf(Encoding encoding) { return encoding == Encoding::Utf8 ? "UTF-8" : "Latin-1"; }
+
+Utf8Reading ReadAsUtf8(std::string_view text)
 {
+    Utf8Reading reading;
     long long line = 1;
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t length = utf8::SequenceLength(text, at);
-        if (length == 1 && static_cast<unsigned char>(text[at]) >= 0x80)
-            return line;
-        if (text[at] == '\n')
+        if (length > 1)
+            reading.isLikely = true;
+        else if (static_cast<unsigned char>(text[at]) >= 0x80 && !reading.badLine)
+            reading.badLine = line;
+        if (EndsLine(text, at))
             ++line;
         at += length;
     }
-    return std::nullopt;
+    return reading;
 }
 
 std::string Utf8FromLatin1(std::string_view bytes)

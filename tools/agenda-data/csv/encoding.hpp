@@ -8,8 +8,17 @@ namespace kova::data {
 
 enum class Encoding { Utf8, Latin1 };
 
-/// The first line that is no well-formed UTF-8, from 1; nothing where the whole text is.
-std::optional<long long> FirstLineNotUtf8(std::string_view text);
+/// As messages call it.
+std::string NameOf(Encoding encoding);
+
+/// What the bytes of a text tell of it, taken for UTF-8.
+struct Utf8Reading {
+    /// It holds a character of more than one byte, which hardly comes about by chance.
+    bool isLikely = false;
+    /// The first line that is not well-formed, from 1; nothing where the whole text is.
+    std::optional<long long> badLine;
+};
+Utf8Reading ReadAsUtf8(std::string_view text);
 
 /// The bytes 80 to 9F are read as Windows writes them, which calls its own encoding Latin-1: quotes, dashes
 /// and the euro sign.

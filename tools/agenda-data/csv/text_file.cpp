@@ -49,11 +49,6 @@ std::string ReadBytes(const std::string& path)
     return std::move(content).str();
 }
 
-bool BeginsWith(std::string_view text, std::string_view beginning)
-{
-    return text.substr(0, beginning.size()) == beginning;
-}
-
 /// No text holds a zero byte, but every picture, program, archive and text of two-byte characters does.
 void CheckIsText(const std::string& path, std::string_view bytes)
 {
@@ -61,23 +56,33 @@ void CheckIsText(const std::string& path, std::string_view bytes)
         Refuse(path, "não é um texto. Na planilha, salve como CSV (UTF-8 ou Latin-1).");
 }
 
+[[noreturn]] void RefuseBytes(const std::string& path, const Utf8Reading& reading)
+{
+    const std::string line = "a linha " + std::to_string(*reading.badLine);
+    if (reading.isLikely)
+        Refuse(path,
+               "está em UTF-8, mas " + line
+                   + " tem bytes que não são UTF-8. Corrija essa linha, ou salve a planilha de novo como CSV "
+                     "(UTF-8); se o arquivo for mesmo Latin-1, use --encoding latin-1.");
+    Refuse(path, "não está em UTF-8: veja " + line + ". Use --encoding latin-1 ou deixe a opção fora.");
+}
+
 } // namespace
 
-std::string ReadTextFile(const std::string& path, std::optional<Encoding> encoding)
+FileText ReadTextFile(const std::string& path, std::optional<Encoding> encoding)
 {
     std::string bytes = ReadBytes(path);
     CheckIsText(path, bytes);
-    const bool marked = BeginsWith(bytes, ByteOrderMark);
-    const auto notUtf8 = encoding == Encoding::Latin1 ? std::nullopt : FirstLineNotUtf8(bytes);
-    if (notUtf8 && encoding)
-        Refuse(path,
-               "não está em UTF-8: veja a linha " + std::to_string(*notUtf8)
-                   + ". Use --encoding latin-1 ou deixe a opção fora.");
-    if (encoding == Encoding::Latin1 || notUtf8)
-        return Utf8FromLatin1(bytes);
-    if (marked)
+    if (encoding == Encoding::Latin1)
+        return {Utf8FromLatin1(bytes), Encoding::Latin1};
+    const Utf8Reading reading = ReadAsUtf8(bytes);
+    if (reading.badLine && (encoding || reading.isLikely))
+        RefuseBytes(path, reading);
+    if (reading.badLine)
+        return {Utf8FromLatin1(bytes), Encoding::Latin1};
+    if (bytes.starts_with(ByteOrderMark))
         bytes.erase(0, ByteOrderMark.size());
-    return bytes;
+    return {std::move(bytes), Encoding::Utf8};
 }
 
 } // namespace kova::data

@@ -25,7 +25,7 @@ protected:
 TEST_F(Export, TellsHowMuchItWrote)
 {
     EXPECT_EQ(ExportTo(File("saida.csv")), 0);
-    EXPECT_EQ(Output(), "2 linhas exportadas.\n");
+    EXPECT_EQ(Output(), "2 linhas exportadas em UTF-8.\n");
     EXPECT_EQ(Error(), "");
     EXPECT_FALSE(fs::exists(File("saida.csv.parcial")));
 }
@@ -84,6 +84,7 @@ TEST_F(Export, LeavesNothingOnAFullDisk)
 TEST_F(Export, WritesLatin1AndCommasWhenAsked)
 {
     ASSERT_EQ(ExportTo(File("saida.csv"), {"--encoding", "latin-1", "--separator", ","}), 0) << Error();
+    EXPECT_EQ(Output(), "2 linhas exportadas em Latin-1.\n");
     const std::string content = kova::test::ContentOf(File("saida.csv"));
     EXPECT_EQ(content.substr(0, 7),
               "C\xF3"

@@ -29,7 +29,7 @@ protected:
         EXPECT_EQ(Error(),
                   complaints + count + (count == "1" ? " erro em 1 linha" : " erros em " + count + " linhas")
                       + "; nada foi importado.\n");
-        EXPECT_EQ(Output(), "");
+        EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n");
         EXPECT_EQ(Exported(name), before);
     }
 };

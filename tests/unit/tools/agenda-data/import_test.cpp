@@ -18,7 +18,7 @@ TEST_F(Imports, ReadsCustomers)
                ";Canil Céu Ltda.;11222333000181;;;;;;;;;;\n"),
         0)
         << Error();
-    EXPECT_EQ(Output(), "2 linhas importadas.\n");
+    EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n2 linhas importadas.\n");
     EXPECT_EQ(Error(), "");
     EXPECT_EQ(Exported("clientes"),
               "Código;Tipo de pessoa;Nome;Apelido;Documento;Situação;VIP;Curva ABC;Logradouro;Número;"
@@ -135,7 +135,7 @@ TEST_F(Imports, NumberOnBehindTheirCodes)
 TEST_F(Imports, RehearsesWithoutWriting)
 {
     EXPECT_EQ(Import("tipos", "Nome\nUm\nDois\n", {"--dry-run"}), 0);
-    EXPECT_EQ(Output(), "2 linhas podem ser importadas; nada foi gravado.\n");
+    EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n2 linhas podem ser importadas; nada foi gravado.\n");
     EXPECT_EQ(Ask("select count(*) from tipo_de_servico"), "0");
     EXPECT_EQ(Ask("select count(*) from auditoria"), "0");
     EXPECT_EQ(Import("tipos", "Nome\nUm\n\"\"\nx\n", {"--dry-run"}), 0);
@@ -179,6 +179,35 @@ TEST_F(Imports, TakesTheEncodingAndTheSeparatorItIsTold)
     EXPECT_NE(Error().find("Cadastros: clientes, animais, tipos"), std::string::npos);
 }
 
+TEST_F(Imports, RefusesAFileInUtf8ForOneByteThatIsNot)
+{
+    const std::string begins = "agenda-data: O arquivo \"" + File("entrada.csv") + "\" está em UTF-8, mas ";
+    const std::pair<std::string, const char*> files[] = {
+        {"Nome\nVacinação\nS\xE3o\nPão\n", "a linha 3 "}, {"\xEF\xBB\xBFNome\nS\xE3o\n", "a linha 2 "},
+        {"Nome\rVacinação\rS\xE3o\r", "a linha 3 "},      {"Nome\r\n\xFF\r\nVacinação\r\n", "a linha 2 "},
+        {"Nome\nVacina\xC3\nÃo\n", "a linha 2 "},
+    };
+    for (const auto& [content, line] : files) {
+        for (const std::vector<std::string>& options :
+             std::vector<std::vector<std::string>>{{}, {"--encoding", "utf-8"}, {"--dry-run"}}) {
+            EXPECT_EQ(Import("tipos", content, options), 1);
+            EXPECT_EQ(Error().find(begins + line), 0U) << Error();
+            EXPECT_EQ(Output(), "");
+        }
+    }
+    EXPECT_EQ(Ask("select count(*) from tipo_de_servico"), "0");
+}
+
+TEST_F(Imports, TellTheEncodingAlsoWhereTheFileIsRefused)
+{
+    EXPECT_EQ(Import("tipos", "Nome\n\"\"\nS\xE3o\n"), 0) << Error();
+    EXPECT_EQ(Output(), "Arquivo lido em Latin-1.\n1 linha importada.\n");
+    EXPECT_EQ(Import("tipos", "Nome;Situa\xE7\xE3o\nS\xE3o;x\n", {"--dry-run"}), 1);
+    EXPECT_EQ(Output(), "Arquivo lido em Latin-1.\n");
+    EXPECT_EQ(Import("tipos", "Nome\n\n", {"--encoding", "latin-1"}), 0) << Error();
+    EXPECT_EQ(Output(), "Arquivo lido em Latin-1.\n0 linhas importadas.\n");
+}
+
 TEST_F(Imports, RefusesFilesThatAreNoTable)
 {
     const auto importing = [&](const std::string& path) {
@@ -200,7 +229,7 @@ TEST_F(Imports, RefusesFilesThatAreNoTable)
               "linha 1: o arquivo está vazio: falta a linha com os nomes das colunas.\n"
               "1 erro em 1 linha; nada foi importado.\n");
     EXPECT_EQ(Import("tipos", "Nome\n"), 0);
-    EXPECT_EQ(Output(), "0 linhas importadas.\n");
+    EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n0 linhas importadas.\n");
 }
 
 TEST_F(Imports, NeedsADatabase)
@@ -228,7 +257,7 @@ TEST_F(Imports, OnAFullDiskImportNothing)
     }
     EXPECT_NE(Error().find("Falha no banco de dados \"" + Database() + "\".\r\nO disco "), std::string::npos)
         << Error();
-    EXPECT_EQ(Output(), "");
+    EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n");
     EXPECT_EQ(Run({"check", Database()}), 0) << Error();
     EXPECT_EQ(Ask("select count(*) from cliente"), "2");
     EXPECT_EQ(Import("clientes", content), 0) << Error();
