@@ -1,5 +1,8 @@
+#include "family/data/audit/import_audit.hpp"
+#include "family/data/engine/snapshot.hpp"
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/csv/csv_options.hpp"
 #include "tools/agenda-data/csv/import_run.hpp"
@@ -8,6 +11,8 @@
 namespace kova::data {
 
 namespace {
+
+constexpr const char* Checking = "Conferência";
 
 std::string Counted(long long count, const char* one, const char* many)
 {
@@ -21,9 +26,26 @@ int Refuse(const ImportRun& run, Surroundings& surroundings)
     return 1;
 }
 
+/// What others have changed so far, as a number; nothing where the engine does not tell.
+std::optional<long long> ChangesOfOthers(family::Database& database)
+{
+    const std::string& question = database.GetDialect().changesOfOthers;
+    if (question.empty())
+        return std::nullopt;
+    try {
+        long long changes = 0;
+        database.Session() << question, soci::into(changes);
+        return changes;
+    } catch (const soci::soci_error& cause) {
+        throw family::TranslatedFailure(database.Path(), cause);
+    }
+}
+
 int Rehearse(ImportRun& run, const std::string& path, Surroundings& surroundings)
 {
-    run.Check(*family::OpenNewestForReading(path));
+    const auto database = family::OpenNewestForReading(path);
+    const family::Snapshot snapshot(*database);
+    run.Check(*database, Checking);
     if (run.ProblemCount() > 0)
         return Refuse(run, surroundings);
     surroundings.output << Counted(run.Records(), "linha pode ser importada", "linhas podem ser importadas")
@@ -31,29 +53,63 @@ int Rehearse(ImportRun& run, const std::string& path, Surroundings& surroundings
     return 0;
 }
 
-int Import(ImportRun& run, const std::string& path, Surroundings& surroundings)
-{
-    const std::shared_ptr<family::Database> database = family::OpenForLongWork(path);
-    family::WriteTransaction transaction(*database);
-    run.Check(*database);
-    if (run.ProblemCount() > 0)
-        return Refuse(run, surroundings);
-    run.Write(*database);
-    transaction.Commit();
-    surroundings.output << Counted(run.Records(), "linha importada", "linhas importadas") << ".\n";
-    return 0;
-}
+/// A whole file on its way into a database.
+class Importing {
+public:
+    Importing(ImportRun& run, const std::string& path, const family::Author& author)
+        : run_(run), database_(family::OpenForLongWork(path)), author_(author)
+    {
+    }
+
+    /// Whether there is anything wrong with the file. Nobody waits for it meanwhile.
+    bool IsGood()
+    {
+        const family::Snapshot snapshot(*database_);
+        changes_ = ChangesOfOthers(*database_);
+        run_.Check(*database_, Checking);
+        return run_.ProblemCount() == 0;
+    }
+
+    /// Writes what was good; whether it still was, as others may have written since then.
+    bool Write(family::ImportedFile file)
+    {
+        family::WriteTransaction transaction(*database_);
+        family::LockImports(*database_);
+        run_.LockRoom();
+        if (!changes_ || changes_ != ChangesOfOthers(*database_))
+            run_.Check(*database_, "Nova conferência");
+        if (run_.ProblemCount() > 0)
+            return false;
+        file.records = run_.Records();
+        family::BeginImport(*database_, author_, file);
+        run_.Write(*database_, author_);
+        transaction.Commit();
+        return true;
+    }
+
+private:
+    ImportRun& run_;
+    std::shared_ptr<family::Database> database_;
+    family::Author author_;
+    std::optional<long long> changes_;
+};
 
 int Run(const Call& call, Surroundings& surroundings)
 {
     const Register& into = FindRegister(call, 1);
+    const std::string& path = call.Operand(2);
     const auto encoding = GivenEncoding(call);
     const auto separator = GivenSeparator(call);
-    const FileText file = ReadTextFile(call.Operand(2), encoding);
+    const FileText file = ReadTextFile(path, encoding);
     surroundings.output << "Arquivo lido em " << NameOf(file.encoding) << ".\n";
     ImportRun run(into, file.text, separator.value_or(RecogniseSeparator(file.text)), surroundings);
-    return call.Has("--dry-run") ? Rehearse(run, call.Operand(0), surroundings)
-                                 : Import(run, call.Operand(0), surroundings);
+    if (call.Has("--dry-run"))
+        return Rehearse(run, call.Operand(0), surroundings);
+    Importing importing(run, call.Operand(0), AuthorOf(call, surroundings.now));
+    if (!importing.IsGood() || !importing.Write({path, NameOf(file.encoding), std::string(into.name)}))
+        return Refuse(run, surroundings);
+    surroundings.output << Counted(run.Records(), "linha importada", "linhas importadas") << ".\n";
+    return 0;
 }
 
 } // namespace
@@ -61,10 +117,14 @@ int Run(const Call& call, Surroundings& surroundings)
 const Command ImportCommand{
     {"import",
      "Importa um arquivo CSV: todas as linhas ou, se alguma tem erro, nenhuma; os erros\n"
-     "são mostrados por linha. Com --dry-run só confere. CADASTRO: clientes, animais,\n"
-     "tipos, servicos, funcionarios, feriados ou agendamentos.",
+     "são mostrados por linha. O que já está no banco é um erro: importar de novo não\n"
+     "duplica nada. Com --dry-run só confere. CADASTRO: clientes, animais, tipos,\n"
+     "servicos, funcionarios, feriados ou agendamentos. NOME fica na auditoria.",
      {"BANCO", "CADASTRO", "ARQUIVO"},
-     {{"--dry-run", {}, "Só confere: nada é gravado."}, EncodingOption, SeparatorOption}},
+     {{"--dry-run", {}, "Só confere: nada é gravado."},
+      EncodingOption,
+      SeparatorOption,
+      {"--user", "NOME", "Quem importa (padrão: o usuário do computador)."}}},
     Run,
 };
 

@@ -1,22 +1,11 @@
 #include "family/business/appointments/appointment_restoration.hpp"
-#include "family/data/engine/iso_text.hpp"
 #include "family/data/sources/data_source.hpp"
-#include "host/session/computer_user.hpp"
-#include "system/computer_name.hpp"
+#include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 namespace kova::data {
 
 namespace {
-
-/// The code of whoever is not a user of the agenda.
-constexpr const char* NoUser = "0";
-
-family::Author AuthorOf(const Call& call, DateTime now)
-{
-    return {NoUser, call.Option("--user").value_or(host::NameOfThisUser()), family::IsoMoment(now),
-            system::ComputerName()};
-}
 
 int Run(const Call& call, Surroundings& surroundings)
 {

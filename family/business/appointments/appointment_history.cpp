@@ -65,6 +65,7 @@ constexpr ShownColumn Columns[] = {
     {"transporte_buscar", "Buscar", YesOrNoOf},
     {"transporte_levar", "Levar", YesOrNoOf},
     {"situacao", "Situação", StatusOf},
+    {"importacao", "Importação", AsItIs},
 };
 
 constexpr std::pair<const char*, const char*> Operations[] = {

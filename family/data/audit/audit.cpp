@@ -64,7 +64,15 @@ void AuditInsertion(Database& database, const Author& author, const char* table,
                     const AuditValues& after)
 {
     AuditRow row = RowOf(author, table, key, audit_operation::Insertion);
-    row.depois = after.Line();
+    row.depois = author.importNumber == 0 ? after.Line()
+                                          : AuditValues(after).Add(ImportColumn, author.importNumber).Line();
+    Insert(database, row);
+}
+
+void AuditImport(Database& database, const Author& author, const AuditValues& what)
+{
+    AuditRow row = RowOf(author, ImportsTable, author.importNumber, audit_operation::Import);
+    row.depois = what.Line();
     Insert(database, row);
 }
 

@@ -39,7 +39,14 @@ inline constexpr const char* Change = "alteracao";
 inline constexpr const char* Removal = "exclusao";
 /// A row that was gone is there again.
 inline constexpr const char* Restoration = "restauracao";
+/// A file was brought in.
+inline constexpr const char* Import = "importacao";
 } // namespace audit_operation
+
+/// Stands among the values of a row that has come in an import: the import's number.
+inline constexpr std::string_view ImportColumn = "importacao";
+/// In the place of a table where a line is about an import itself; its key is the import's number.
+inline constexpr const char* ImportsTable = "importacao";
 
 /// A row of the audit; the engine numbers it. `usuario` is "CODE - NAME", `posto` the computer's name.
 struct AuditRow {
@@ -82,5 +89,8 @@ void AuditRemoval(Database& database, const Author& author, const char* table, K
                   const AuditValues& before);
 void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
                       const AuditValues& after);
+
+/// Writes the line of the import that bears the author's number, with what there is to say of it.
+void AuditImport(Database& database, const Author& author, const AuditValues& what);
 
 } // namespace kova::family

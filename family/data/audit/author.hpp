@@ -1,5 +1,7 @@
 #pragma once
 
+#include "family/data/engine/key.hpp"
+
 #include <string>
 
 namespace kova::family {
@@ -13,6 +15,8 @@ struct Author {
     std::string moment;
     /// Name of the computer; empty where it has none.
     std::string desk{};
+    /// Number of the import in which the rows come; 0 where they come in none.
+    Key importNumber = 0;
 };
 
 } // namespace kova::family

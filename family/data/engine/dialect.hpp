@@ -46,6 +46,12 @@ struct Dialect {
     /// The statement after which the engine knows that no row breaks a rule; fails where one does. Empty
     /// where it wants no such knowledge.
     std::string (*confirmRule)(const TableRules& rules, const RowRule& rule);
+    /// Run first in a transaction that brings a file in: a second one waits here. Empty where the beginning
+    /// of the transaction does that.
+    std::string lockImport;
+    /// Selects a number that is another one when another connection has changed what is stored. Empty where
+    /// the engine has none.
+    std::string changesOfOthers;
     /// Run after rows were written with keys of the caller's: the engine then numbers on behind the highest.
     /// Empty where it does so anyway.
     std::string numberOn;

@@ -1,39 +1,42 @@
 #pragma once
 
+#include "agenda/contracts/text.hpp"
 #include "family/data/audit/add_row.hpp"
 #include "family/data/rows/select_rows.hpp"
+#include "family/data/rows/select_where.hpp"
 #include "tools/agenda-data/csv/column_kinds.hpp"
+#include "tools/agenda-data/csv/occurrences.hpp"
 #include "tools/agenda-data/csv/register.hpp"
 
-#include <unordered_map>
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
 
 namespace kova::data {
 
-/// Where a value that may be there only once stands: in the database, or in a line of the file.
-template <class Value> class Occurrences {
-public:
-    void AddStored(const Value& value) { lines_.emplace(value, Stored); }
+/// The code alone of a table's row.
+template <class Row> struct CodeOf {
+    static constexpr const char* Table = Row::Table;
+    Key code = 0;
 
-    bool Has(const Value& value) const { return lines_.find(value) != lines_.end(); }
-
-    /// Adds a value of the file. Answers why it may not be there, or nothing.
-    std::string Add(const Value& value, long long line)
+    template <class Visit> void Columns(Visit visit)
     {
-        const auto [at, isNew] = lines_.emplace(value, line);
-        if (isNew)
-            return {};
-        return at->second == Stored ? "já existe no banco de dados."
-                                    : "já está na linha " + std::to_string(at->second) + ".";
+        Row row;
+        bool isKey = true;
+        row.Columns([&](const char* column, auto&) {
+            if (isKey)
+                visit(column, code);
+            isKey = false;
+        });
     }
-
-private:
-    static constexpr long long Stored = 0;
-
-    std::unordered_map<Value, long long> lines_;
 };
 
 /// An import whose lines become Records: rows of a table with what belongs to them. The first of the columns
 /// is the code.
+///
+/// A record is there already where one has its code or, where its line brings none, where one is like it in
+/// what tells such records apart. Such a line is refused: a file that is imported again adds nothing. A code
+/// of its own brings in a record that is only alike.
 template <class Record> class ImportOf : public Import {
 public:
     ImportOf(family::Database& database, const Columns<Record>& columns)
@@ -44,36 +47,120 @@ public:
     const std::vector<Title>& Titles() const override { return titles_; }
     bool HasCode(const Line& line) const override { return !line.Cell(0).empty(); }
 
-    void Check(Line& line) override
+    void Check(std::span<Line> lines) override
     {
-        Record record = ReadRecord(columns_, line);
-        if (const Key code = family::KeyOfRow(record); code != 0) {
-            if (const std::string why = codes_.Add(code, line.Number()); !why.empty())
-                line.Refuse(columns_.front().name, std::to_string(code), why);
-        }
-        CheckRecord(record, line);
+        std::vector<Record> records;
+        for (Line& line : lines)
+            records.push_back(Read(line));
+        LookUpCodes(records);
+        SeekTraits(records);
+        LookUp(records);
+        for (std::size_t at = 0; at < records.size(); ++at)
+            CheckLine(records[at], lines[at]);
     }
 
     void Write(Line& line, const family::Author& author) override
     {
-        Record record = ReadRecord(columns_, line);
+        Record record = Read(line);
         WriteRecord(record, author);
     }
 
 protected:
+    /// Fills in what follows from the cells.
+    virtual void Complete(Record&) const { }
+    /// Reads what the records refer to, and the stored ones that they may be like.
+    virtual void LookUp(std::span<const Record> records) = 0;
     /// What speaks against a record beyond its single cells. A cell that could not be read is told already
     /// and left 0 or empty.
-    virtual void CheckRecord(Record& record, Line& line) = 0;
+    virtual void CheckRecord(Record&, Line&) { }
+    /// What tells such records apart where they bear no code: two that have any of it in common are alike.
+    virtual std::vector<std::string> TraitsOf(const Record& record) const = 0;
+    /// What speaks against a good record because of those that are there beside it.
+    virtual void TakeRoom(const Record&, Line&) { }
     virtual void WriteRecord(Record& record, const family::Author& author) = 0;
 
-    void AddStoredCode(Key code) { codes_.AddStored(code); }
+    /// Tells of a stored record that those being checked may be like.
+    void AddStored(Record stored)
+    {
+        for (const std::string& trait : TraitsOf(stored)) {
+            if (soughtTraits_.contains(trait))
+                traits_.AddStored(trait, CodeIn(stored));
+        }
+    }
+
+    static Key CodeIn(Record record) { return family::KeyOfRow(record); }
     family::Database& GetDatabase() { return database_; }
 
 private:
+    Record Read(Line& line) const
+    {
+        Record record = ReadRecord(columns_, line);
+        Complete(record);
+        return record;
+    }
+
+    void LookUpCodes(std::span<const Record> records)
+    {
+        std::set<Key> codes;
+        for (const Record& record : records)
+            codes.insert(CodeIn(record));
+        codes.erase(0);
+        using Known = CodeOf<Record>;
+        family::SelectWhere<Known>(database_, codes,
+                                   [this](const Known& known) { codes_.AddStored(known.code, known.code); });
+    }
+
+    void SeekTraits(std::span<const Record> records)
+    {
+        soughtTraits_.clear();
+        for (const Record& record : records) {
+            if (CodeIn(record) == 0)
+                std::ranges::move(TraitsOf(record), std::inserter(soughtTraits_, soughtTraits_.end()));
+        }
+    }
+
+    void CheckLine(Record& record, Line& line)
+    {
+        const Key code = CodeIn(record);
+        if (code != 0)
+            CheckCode(code, line);
+        CheckRecord(record, line);
+        if (code == 0 && line.IsGood())
+            CheckTraits(record, line);
+        if (line.IsGood())
+            TakeRoom(record, line);
+    }
+
+    void CheckCode(Key code, Line& line)
+    {
+        if (const auto place = codes_.Add(code, line.Number()))
+            line.Refuse(CodeName(), std::to_string(code), place->Told() + ".");
+    }
+
+    void CheckTraits(const Record& record, Line& line)
+    {
+        for (const std::string& trait : TraitsOf(record)) {
+            const auto place = traits_.Add(trait, line.Number());
+            if (!place)
+                continue;
+            const std::string code = place->IsStored()
+                ? ", com o " + LowerCase(CodeName()) + " " + std::to_string(place->code)
+                : "";
+            line.Refuse(CodeName(),
+                        "o registro " + place->Told() + code + ". Se for outro, preencha esta coluna.");
+            return;
+        }
+    }
+
+    std::string CodeName() const { return std::string(columns_.front().name); }
+
     family::Database& database_;
     const Columns<Record>& columns_;
     std::vector<Title> titles_;
     Occurrences<Key> codes_;
+    Occurrences<std::string> traits_;
+    /// Of the lines that are being checked.
+    std::unordered_set<std::string> soughtTraits_;
 };
 
 template <class Kind> std::unique_ptr<Import> StartImport(family::Database& database, DateTime now)

@@ -1,8 +1,6 @@
 #include "tools/agenda-data/csv/import_run.hpp"
 
-#include "family/data/engine/iso_text.hpp"
 #include "family/data/rows/numbering.hpp"
-#include "system/computer_name.hpp"
 
 namespace kova::data {
 
@@ -11,68 +9,81 @@ namespace {
 /// Shorter files are done before anybody asks how far they are.
 constexpr long long LinesWithoutProgress = 5000;
 
-/// Who stands in the audit.
-family::Author ImportAuthor(DateTime now)
-{
-    family::Author author;
-    author.code = "0";
-    author.name = "agenda-data";
-    author.moment = family::IsoMoment(now);
-    author.desk = system::ComputerName();
-    return author;
-}
+/// What they are about is asked of the database together.
+constexpr std::size_t LinesAtOnce = 500;
 
 } // namespace
 
 ImportRun::ImportRun(const Register& into, std::string_view text, char separator, Surroundings& surroundings)
     : register_(into),
       text_(text),
+      separator_(separator),
       reader_(text, separator),
       surroundings_(surroundings),
       problems_(surroundings.error)
 {
 }
 
-template <class Use> void ImportRun::ForEachLine(const char* what, Use use)
+bool ImportRun::ReadHeader()
+{
+    reader_ = CsvReader(text_, separator_);
+    CsvRecord header;
+    if (reader_.Next(header))
+        header_.emplace(header, import_->Titles(), register_.name, problems_);
+    else
+        problems_.Add(1, "o arquivo está vazio: falta a linha com os nomes das colunas.");
+    problems_.Tell();
+    return problems_.Count() == 0;
+}
+
+template <class Use> void ImportRun::ForEachGroup(const char* what, Use use)
 {
     const long long lines = CountLines(text_);
     Progress progress(surroundings_.error, what, lines);
-    CsvReader reader = reader_;
-    for (CsvRecord record; reader.Next(record);) {
-        if (!record.IsBlank()) {
-            Line line = header_->Read(record, problems_);
-            use(line);
-        }
+    const auto reach = [&](long long line) {
         if (lines > LinesWithoutProgress)
-            progress.Reach(record.line);
+            progress.Reach(line);
+    };
+    CsvReader reader = reader_;
+    std::vector<Line> group;
+    for (CsvRecord record; reader.Next(record);) {
+        if (record.IsBlank())
+            continue;
+        group.push_back(header_->Read(record, problems_));
+        if (group.size() < LinesAtOnce)
+            continue;
+        use(std::span(group));
+        group.clear();
+        reach(record.line);
     }
-    if (lines > LinesWithoutProgress)
-        progress.Reach(lines);
+    if (!group.empty())
+        use(std::span(group));
+    reach(lines);
 }
 
-void ImportRun::Check(family::Database& database)
+void ImportRun::Check(family::Database& database, const char* what)
 {
     import_ = register_.startImport(database, surroundings_.now);
-    CsvRecord header;
-    if (!reader_.Next(header)) {
-        problems_.Add(1, "o arquivo está vazio: falta a linha com os nomes das colunas.");
-        return;
-    }
-    header_.emplace(header, import_->Titles(), register_.name, problems_);
-    if (problems_.Count() > 0)
-        return;
-    ForEachLine("Conferência", [&](Line& line) {
+    records_ = 0;
+    withoutCode_ = 0;
+    if (ReadHeader())
+        ForEachGroup(what, [this](std::span<Line> lines) { CheckGroup(lines); });
+}
+
+void ImportRun::CheckGroup(std::span<Line> lines)
+{
+    for (const Line& line : lines) {
         ++records_;
         if (!import_->HasCode(line))
             ++withoutCode_;
-        import_->Check(line);
-    });
+    }
+    import_->Check(lines);
+    problems_.Tell();
 }
 
 /// A code that the engine gives could otherwise be the one that a later line brings.
-void ImportRun::Write(family::Database& database)
+void ImportRun::Write(family::Database& database, const family::Author& author)
 {
-    const family::Author author = ImportAuthor(surroundings_.now);
     if (withoutCode_ < records_)
         WriteThose(true, author);
     family::NumberOn(database);
@@ -84,9 +95,11 @@ void ImportRun::Write(family::Database& database)
 
 void ImportRun::WriteThose(bool withCode, const family::Author& author)
 {
-    ForEachLine(withCode ? "Gravação" : "Gravação com novos códigos", [&](Line& line) {
-        if (import_->HasCode(line) == withCode)
-            import_->Write(line, author);
+    ForEachGroup(withCode ? "Gravação" : "Gravação com novos códigos", [&](std::span<Line> lines) {
+        for (Line& line : lines) {
+            if (import_->HasCode(line) == withCode)
+                import_->Write(line, author);
+        }
     });
 }
 

@@ -8,16 +8,21 @@
 
 namespace kova::data {
 
-/// One file on its way into a register. It is read twice, so that nothing has to be kept of its lines.
+/// One file on its way into a register. It is read more than once, so that nothing has to be kept of its
+/// lines.
 class ImportRun {
 public:
     /// `text` must outlive it.
     ImportRun(const Register& into, std::string_view text, char separator, Surroundings& surroundings);
 
-    /// Tells each thing that is wrong with the file, by its line.
-    void Check(family::Database& database);
+    /// Tells each thing that is wrong with the file, by its line, and its progress as that of `what`. Reads
+    /// only; what it was called for before is forgotten.
+    void Check(family::Database& database, const char* what);
+    /// Has everybody else wait who would take the room that the lines take, until the transaction that is
+    /// open ends.
+    void LockRoom() { import_->LockRoom(); }
     /// Writes the lines that Check has found good, first those that bring a code.
-    void Write(family::Database& database);
+    void Write(family::Database& database, const family::Author& author);
 
     long long ProblemCount() const { return problems_.Count(); }
     long long ProblemLines() const { return problems_.Lines(); }
@@ -25,12 +30,15 @@ public:
     long long Records() const { return records_; }
 
 private:
-    /// Calls `use` with each line behind the header.
-    template <class Use> void ForEachLine(const char* what, Use use);
+    bool ReadHeader();
+    /// Calls `use` with the lines behind the header, so many at a time.
+    template <class Use> void ForEachGroup(const char* what, Use use);
+    void CheckGroup(std::span<Line> lines);
     void WriteThose(bool withCode, const family::Author& author);
 
     const Register& register_;
     std::string_view text_;
+    char separator_;
     CsvReader reader_;
     Surroundings& surroundings_;
     Problems problems_;

@@ -2,6 +2,8 @@
 
 #include "agenda/contracts/text.hpp"
 
+#include <algorithm>
+
 namespace kova::data {
 
 namespace {
@@ -19,11 +21,20 @@ std::string Shown(std::string_view value)
 
 void Problems::Add(long long line, std::string_view what)
 {
-    output_ << "linha " << line << ": " << what << "\n";
+    untold_.push_back({line, std::string(what)});
     ++count_;
-    if (line != lastLine_)
-        ++lines_;
-    lastLine_ = line;
+}
+
+void Problems::Tell()
+{
+    std::ranges::stable_sort(untold_, {}, &Problem::line);
+    for (const Problem& problem : untold_) {
+        output_ << "linha " << problem.line << ": " << problem.what << "\n";
+        if (problem.line != lastLine_)
+            ++lines_;
+        lastLine_ = problem.line;
+    }
+    untold_.clear();
 }
 
 void Line::Refuse(std::string_view column, std::string_view value, std::string_view why)
@@ -31,11 +42,13 @@ void Line::Refuse(std::string_view column, std::string_view value, std::string_v
     std::string what(column);
     what.append(" \"").append(Shown(value)).append("\": ").append(why);
     problems_.Add(number_, what);
+    good_ = false;
 }
 
 void Line::Refuse(std::string_view column, std::string_view why)
 {
     problems_.Add(number_, std::string(column).append(": ").append(why));
+    good_ = false;
 }
 
 } // namespace kova::data

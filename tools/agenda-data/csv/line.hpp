@@ -12,14 +12,24 @@ class Problems {
 public:
     explicit Problems(std::ostream& output) : output_(output) { }
 
+    /// Kept until the next Tell.
     void Add(long long line, std::string_view what);
+    /// Writes what was added since the last time, in the order of the file. What is added later is about
+    /// later lines.
+    void Tell();
 
     long long Count() const { return count_; }
-    /// Lines with at least one; they come in order.
+    /// Lines with at least one that is told.
     long long Lines() const { return lines_; }
 
 private:
+    struct Problem {
+        long long line;
+        std::string what;
+    };
+
     std::ostream& output_;
+    std::vector<Problem> untold_;
     long long count_ = 0, lines_ = 0, lastLine_ = 0;
 };
 
@@ -33,6 +43,8 @@ public:
     }
 
     long long Number() const { return number_; }
+    /// Whether nothing was refused so far.
+    bool IsGood() const { return good_; }
     const std::string& Cell(std::size_t column) const { return cells_[column]; }
 
     /// Tells that the line cannot be imported. With a value it is named too.
@@ -43,6 +55,7 @@ private:
     long long number_;
     std::vector<std::string> cells_;
     Problems& problems_;
+    bool good_ = true;
 };
 
 } // namespace kova::data

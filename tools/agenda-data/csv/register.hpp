@@ -15,7 +15,7 @@ class Database;
 
 namespace kova::data {
 
-/// One import into a register: what it has to know of the database is read once, when it is made.
+/// One import into a register. Of the database it reads what its lines are about, as they come.
 class Import {
 public:
     virtual ~Import() = default;
@@ -23,8 +23,11 @@ public:
     virtual const std::vector<Title>& Titles() const = 0;
     /// Whether the line brings its own code.
     virtual bool HasCode(const Line& line) const = 0;
-    /// Tells the line all that speaks against it. Lines count as there for those after them.
-    virtual void Check(Line& line) = 0;
+    /// Tells each of the lines all that speaks against it. Lines count as there for those after them.
+    virtual void Check(std::span<Line> lines) = 0;
+    /// Has everybody else wait who would take the room that the lines checked so far take, until the
+    /// transaction that is open ends.
+    virtual void LockRoom() { }
     /// Writes a line that Check has found good, with its audit, in the transaction that is open.
     virtual void Write(Line& line, const family::Author& author) = 0;
 };

@@ -2,7 +2,6 @@
 #include "tools/agenda-data/csv/import_of.hpp"
 
 #include <unordered_map>
-#include <unordered_set>
 
 namespace kova::data {
 
@@ -65,11 +64,22 @@ class Breeds {
 public:
     explicit Breeds(family::Database& database) : database_(database)
     {
-        family::SelectRows<SpeciesRow>(
-            database, [&](const SpeciesRow& row) { species_.emplace(row.nomeDeBusca, row.codigo); });
+        std::unordered_map<Key, std::string> names;
+        family::SelectRows<SpeciesRow>(database, [&](const SpeciesRow& row) {
+            species_.emplace(row.nomeDeBusca, row.codigo);
+            names[row.codigo] = row.nome;
+        });
         family::SelectRows<BreedRow>(database, [&](const BreedRow& row) {
             breeds_.emplace(BreedName(row.codigoDaEspecie, row.nomeDeBusca), row.codigo);
+            speciesOfBreeds_[row.codigo] = names[row.codigoDaEspecie];
         });
+    }
+
+    /// The species' name of a stored breed.
+    std::string SpeciesOf(Key breed) const
+    {
+        const auto found = speciesOfBreeds_.find(breed);
+        return found == speciesOfBreeds_.end() ? std::string() : found->second;
     }
 
     Key FindOrAdd(const std::string& species, const std::string& breed, const family::Author& author)
@@ -99,14 +109,20 @@ private:
 
     family::Database& database_;
     std::unordered_map<std::string, Key> species_, breeds_;
+    std::unordered_map<Key, std::string> speciesOfBreeds_;
 };
 
-/// A table's codes alone.
-template <class Row> struct CodeOf {
-    static constexpr const char* Table = Row::Table;
-    Key code = 0;
+/// What an animal is told apart from others by.
+struct KnownAnimal : AnimalRow {
+    static constexpr const char* FoundBy = "codigo_do_cliente";
 
-    template <class Visit> void Columns(Visit visit) { visit("codigo", code); }
+    template <class Visit> void Columns(Visit visit)
+    {
+        visit("codigo", codigo);
+        visit("codigo_do_cliente", codigoDoCliente);
+        visit("codigo_da_raca", codigoDaRaca);
+        visit("nome_de_busca", nomeDeBusca);
+    }
 };
 
 class AnimalImport : public ImportOf<AnimalRecord> {
@@ -114,18 +130,37 @@ public:
     AnimalImport(family::Database& database, DateTime)
         : ImportOf(database, AnimalColumns()), breeds_(database)
     {
-        using KnownAnimal = CodeOf<AnimalRow>;
-        using KnownCustomer = CodeOf<family::CustomerRow>;
-        family::SelectRows<KnownAnimal>(database,
-                                        [&](const KnownAnimal& known) { AddStoredCode(known.code); });
-        family::SelectRows<KnownCustomer>(database,
-                                          [&](const KnownCustomer& known) { customers_.insert(known.code); });
     }
 
 private:
+    void Complete(AnimalRecord& record) const override { record.nomeDeBusca = family::FoldText(record.nome); }
+
+    void LookUp(std::span<const AnimalRecord> records) override
+    {
+        std::set<Key> all, ofNewOnes;
+        for (const AnimalRecord& record : records) {
+            all.insert(record.codigoDoCliente);
+            if (CodeIn(record) == 0)
+                ofNewOnes.insert(record.codigoDoCliente);
+        }
+        customers_.clear();
+        using KnownCustomer = CodeOf<family::CustomerRow>;
+        family::SelectWhere<KnownCustomer>(
+            GetDatabase(), all, [this](const KnownCustomer& known) { customers_.insert(known.code); });
+        family::SelectWhere<KnownAnimal>(GetDatabase(), ofNewOnes, [this](const KnownAnimal& known) {
+            AddStored({known, breeds_.SpeciesOf(known.codigoDaRaca), {}});
+        });
+    }
+
+    std::vector<std::string> TraitsOf(const AnimalRecord& record) const override
+    {
+        return {std::to_string(record.codigoDoCliente) + "\n" + record.nomeDeBusca + "\n"
+                + family::FoldText(record.species)};
+    }
+
     void CheckRecord(AnimalRecord& record, Line& line) override
     {
-        if (record.codigoDoCliente != 0 && customers_.count(record.codigoDoCliente) == 0)
+        if (record.codigoDoCliente != 0 && !customers_.contains(record.codigoDoCliente))
             line.Refuse(CustomerColumn, std::to_string(record.codigoDoCliente),
                         "não há cliente com este código.");
     }
@@ -134,11 +169,11 @@ private:
     {
         const std::string breed = record.breed.empty() ? BreedOfNone : record.breed;
         record.codigoDaRaca = breeds_.FindOrAdd(record.species, breed, author);
-        record.nomeDeBusca = family::FoldText(record.nome);
         family::AddRow<AnimalRow>(GetDatabase(), record, author);
     }
 
     Breeds breeds_;
+    /// Those that the lines being checked name.
     std::unordered_set<Key> customers_;
 };
 

@@ -1,7 +1,9 @@
 #include "tools/agenda-data/registers/appointment_checks.hpp"
 
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/select_rows.hpp"
+#include "family/data/rows/select_where.hpp"
 #include "family/data/stores/appointment_status.hpp"
 
 namespace kova::data {
@@ -12,8 +14,8 @@ using family::BookedAnimal;
 using family::BookedCustomer;
 using family::BookedEmployee;
 using family::BookedService;
-using family::BookedServiceType;
 using family::SelectRows;
+using family::SelectWhere;
 using family::TimeSpan;
 namespace status = family::appointment_status;
 namespace name = appointment_columns;
@@ -47,11 +49,23 @@ TimeSpan SpanOf(const AppointmentRecord& record)
 AppointmentChecks::AppointmentChecks(family::Database& database, DateTime now)
     : database_(database), now_(now)
 {
-    SelectRows<BookedCustomer>(database, [&](const BookedCustomer& row) { customers_.insert(row.code); });
-    SelectRows<BookedAnimal>(database, [&](const BookedAnimal& row) { animals_[row.code] = row.customer; });
-    SelectRows<BookedServiceType>(database, [&](const BookedServiceType& row) { types_.insert(row.number); });
     SelectRows<BookedService>(database, [&](const BookedService& row) { services_[row.code] = row; });
     SelectRows<BookedEmployee>(database, [&](const BookedEmployee& row) { employees_[row.code] = row; });
+}
+
+void AppointmentChecks::LookUp(std::span<const AppointmentRecord> records)
+{
+    std::set<Key> customers, animals;
+    for (const AppointmentRecord& record : records) {
+        customers.insert(record.codigoDoCliente.ValueOr(0));
+        animals.insert(record.codigoDoAnimal.ValueOr(0));
+    }
+    customers_.clear();
+    animals_.clear();
+    SelectWhere<BookedCustomer>(database_, customers,
+                                [this](const BookedCustomer& row) { customers_.insert(row.code); });
+    SelectWhere<BookedAnimal>(database_, animals,
+                              [this](const BookedAnimal& row) { animals_[row.code] = row.customer; });
 }
 
 void AppointmentChecks::Complete(AppointmentRecord& record) const
@@ -145,33 +159,37 @@ void AppointmentChecks::CheckPreSale(const AppointmentRecord& record, Line& line
         line.Refuse(name::Status, "Pré-venda gerada", "não existe para serviços clínicos.");
 }
 
-void AppointmentChecks::CheckTimes(const AppointmentRecord& record, Line& line)
+void AppointmentChecks::CheckTimes(const AppointmentRecord& record, Line& line) const
 {
     if (record.dataInicial.empty() || record.horaInicial.empty() || record.horaFinal.empty())
         return;
     const TimeSpan span = SpanOf(record);
     if (span.end <= span.start)
         line.Refuse(name::EndTime, record.horaFinal, "o término deve ser posterior ao início.");
-    else if (record.situacao != status::Cancelled && span.end > now_)
-        CheckRoom(record, span, line);
 }
 
 /// What is over has taken place, room or not; what is to come must not exceed it.
-void AppointmentChecks::CheckRoom(const AppointmentRecord& record, const TimeSpan& span, Line& line)
+void AppointmentChecks::TakeRoom(const AppointmentRecord& record, Line& line)
 {
-    const auto employee = employees_.find(record.codigoDoFuncionario);
-    if (employee == employees_.end())
+    const TimeSpan span = SpanOf(record);
+    if (record.situacao == status::Cancelled || span.end <= now_)
         return;
+    const BookedEmployee& employee = employees_.at(record.codigoDoFuncionario);
     family::EmployeeRoom& room =
-        rooms_.try_emplace(employee->first, database_, employee->second, 0, AddDays(now_.date, -1), now_.date)
+        rooms_.try_emplace(employee.code, database_, employee, 0, AddDays(now_.date, -1), now_.date)
             .first->second;
     const auto clash = room.ClashWith(span);
     room.Reserve(span);
     if (clash)
         line.Refuse(name::StartTime, record.horaInicial,
-                    employee->second.nickname + " já tem agendamento das " + FormatTime(clash->start.time)
-                        + " às " + FormatTime(clash->end.time) + " em " + FormatDate(clash->start.date)
-                        + ".");
+                    employee.nickname + " já tem agendamento das " + FormatTime(clash->start.time) + " às "
+                        + FormatTime(clash->end.time) + " em " + FormatDate(clash->start.date) + ".");
+}
+
+void AppointmentChecks::LockRoom()
+{
+    for (const auto& [employee, room] : rooms_)
+        family::FindByKey<BookedEmployee>(database_, employee);
 }
 
 Key AppointmentChecks::PriceOf(const AppointmentRecord& record) const

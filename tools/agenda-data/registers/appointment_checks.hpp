@@ -5,21 +5,30 @@
 #include "tools/agenda-data/registers/appointment_columns.hpp"
 
 #include <map>
+#include <span>
 #include <unordered_map>
 #include <unordered_set>
 
 namespace kova::data {
 
-/// What an appointment of a file has to fit to, read once.
+/// What an appointment of a file has to fit to. Services, their types and employees are read once.
 class AppointmentChecks {
 public:
     /// Appointments that end after `now` need room.
     AppointmentChecks(family::Database& database, DateTime now);
 
-    /// Tells the line all that speaks against the record, and fills in what the file may leave out: the end
-    /// date, the kind of record and the type of its service.
+    /// Reads the customers and animals of the records that are checked next.
+    void LookUp(std::span<const AppointmentRecord> records);
+    /// Tells the line all that speaks against the record, other appointments aside, and fills in what the
+    /// file may leave out: the end date, the kind of record and the type of its service.
     void Check(AppointmentRecord& record, Line& line);
     void Complete(AppointmentRecord& record) const;
+    /// Tells the line where the record has no room beside the stored appointments and those before it, and
+    /// takes the room. The record is good otherwise.
+    void TakeRoom(const AppointmentRecord& record, Line& line);
+    /// Locks, in the order of their codes, the employees whose room was taken, as a booking does: whoever
+    /// books them waits until the transaction that is open ends.
+    void LockRoom();
 
     /// Today's price of its service.
     Key PriceOf(const AppointmentRecord& record) const;
@@ -30,13 +39,13 @@ private:
     void CheckSimplified(const AppointmentRecord& record, Line& line) const;
     void CheckService(const AppointmentRecord& record, Line& line) const;
     void CheckEmployee(const AppointmentRecord& record, Line& line) const;
-    void CheckTimes(const AppointmentRecord& record, Line& line);
-    void CheckRoom(const AppointmentRecord& record, const family::TimeSpan& span, Line& line);
+    void CheckTimes(const AppointmentRecord& record, Line& line) const;
     void CheckPreSale(const AppointmentRecord& record, Line& line) const;
 
     family::Database& database_;
     DateTime now_;
-    std::unordered_set<Key> customers_, types_;
+    /// Those that the records name.
+    std::unordered_set<Key> customers_;
     /// Each animal's customer.
     std::unordered_map<Key, Key> animals_;
     std::unordered_map<Key, family::BookedService> services_;

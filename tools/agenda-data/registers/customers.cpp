@@ -3,6 +3,8 @@
 #include "tools/agenda-data/csv/channels.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <unordered_map>
 
 namespace kova::data {
@@ -94,9 +96,9 @@ const Columns<CustomerRecord>& CustomerColumns()
     return columns;
 }
 
-/// What makes another customer a double.
-struct KnownCustomer {
+struct KnownDocument {
     static constexpr const char* Table = CustomerRow::Table;
+    static constexpr const char* FoundBy = "documento";
     Key code = 0;
     std::string document;
 
@@ -107,18 +109,92 @@ struct KnownCustomer {
     }
 };
 
+/// What a customer without a document is told apart from others by.
+struct KnownName : CustomerRow {
+    static constexpr const char* FoundBy = "nome_de_busca";
+
+    template <class Visit> void Columns(Visit visit)
+    {
+        visit("codigo", codigo);
+        visit("nome_de_busca", nomeDeBusca);
+        visit("endereco_de_busca", enderecoDeBusca);
+    }
+};
+
+struct ChannelOfCustomer : ChannelRow {
+    static constexpr const char* FoundBy = "codigo_do_cliente";
+};
+
+using ChannelsByCustomer = std::unordered_map<Key, std::vector<ChannelRow>>;
+
+ChannelsByCustomer FindChannels(family::Database& database, const std::set<Key>& customers)
+{
+    ChannelsByCustomer channels;
+    family::SelectWhere<ChannelOfCustomer>(database, customers, [&](const ChannelOfCustomer& row) {
+        channels[row.codigoDoCliente].push_back(row);
+    });
+    return channels;
+}
+
+/// A number is the same however it is written.
+std::string SoughtChannel(const ChannelRow& channel)
+{
+    std::string digits;
+    std::ranges::copy_if(channel.canal, std::back_inserter(digits),
+                         [](char letter) { return letter >= '0' && letter <= '9'; });
+    const bool isNumber = channel.canal.find('@') == std::string::npos && digits.size() > 5;
+    return isNumber ? digits : family::FoldText(channel.canal);
+}
+
 class CustomerImport : public ImportOf<CustomerRecord> {
 public:
-    CustomerImport(family::Database& database, DateTime) : ImportOf(database, CustomerColumns())
-    {
-        family::SelectRows<KnownCustomer>(database, [&](const KnownCustomer& known) {
-            AddStoredCode(known.code);
-            if (!known.document.empty())
-                documents_.AddStored(known.document);
-        });
-    }
+    CustomerImport(family::Database& database, DateTime) : ImportOf(database, CustomerColumns()) { }
 
 private:
+    void Complete(CustomerRecord& record) const override { record.Compose(record.channels); }
+
+    void LookUp(std::span<const CustomerRecord> records) override
+    {
+        std::set<std::string> documents, names;
+        for (const CustomerRecord& record : records) {
+            if (!record.documento.empty())
+                documents.insert(record.documento);
+            else if (CodeIn(record) == 0 && !record.nomeDeBusca.empty())
+                names.insert(record.nomeDeBusca);
+        }
+        family::SelectWhere<KnownDocument>(GetDatabase(), documents, [this](const KnownDocument& known) {
+            documents_.AddStored(known.document, known.code);
+        });
+        LookUpNames(names);
+    }
+
+    void LookUpNames(const std::set<std::string>& names)
+    {
+        std::vector<KnownName> namesakes;
+        std::set<Key> codes;
+        family::SelectWhere<KnownName>(GetDatabase(), names, [&](const KnownName& known) {
+            namesakes.push_back(known);
+            codes.insert(known.codigo);
+        });
+        ChannelsByCustomer channels = FindChannels(GetDatabase(), codes);
+        for (const KnownName& known : namesakes)
+            AddStored({known, channels[known.codigo]});
+    }
+
+    /// The name with each of the channels, or with the address where there is none. A document alone tells
+    /// them apart, with whatever code; CheckRecord sees to it.
+    std::vector<std::string> TraitsOf(const CustomerRecord& record) const override
+    {
+        if (!record.documento.empty())
+            return {};
+        if (record.channels.empty())
+            return {record.nomeDeBusca + "\n\n" + record.enderecoDeBusca};
+        std::vector<std::string> traits;
+        for (const ChannelRow& channel : record.channels)
+            traits.push_back(record.nomeDeBusca + "\n" + SoughtChannel(channel));
+        return traits;
+    }
+
     void CheckRecord(CustomerRecord& record, Line& line) override
     {
         if (record.documento.empty())
@@ -127,8 +203,9 @@ private:
         if (!record.tipoDePessoa.empty() && record.tipoDePessoa != kind)
             line.Refuse(KindColumn, record.tipoDePessoa,
                         "o documento " + record.documento + " é de " + kind + ".");
-        if (const std::string why = documents_.Add(record.documento, line.Number()); !why.empty())
-            line.Refuse(DocumentColumn, record.documento, "um cliente com este documento " + why);
+        if (const auto place = documents_.Add(record.documento, line.Number()))
+            line.Refuse(DocumentColumn, record.documento,
+                        "um cliente com este documento " + place->Told() + ".");
     }
 
     void WriteRecord(CustomerRecord& record, const family::Author& author) override
@@ -148,12 +225,14 @@ private:
 
 void ExportCustomers(family::Database& database, const FieldsSink& sink)
 {
-    std::unordered_map<Key, std::vector<ChannelRow>> channels;
-    family::SelectRows<ChannelRow>(
-        database, [&](const ChannelRow& row) { channels[row.codigoDoCliente].push_back(row); });
     ExportNames(CustomerColumns(), sink);
-    family::SelectRows<CustomerRow>(database, [&](const CustomerRow& row) {
-        ExportRecord(CustomerColumns(), {row, channels[row.codigo]}, sink);
+    family::SelectPages<CustomerRow>(database, [&](const std::vector<CustomerRow>& page) {
+        std::set<Key> codes;
+        for (const CustomerRow& row : page)
+            codes.insert(row.codigo);
+        ChannelsByCustomer channels = FindChannels(database, codes);
+        for (const CustomerRow& row : page)
+            ExportRecord(CustomerColumns(), {row, channels[row.codigo]}, sink);
     });
 }
 

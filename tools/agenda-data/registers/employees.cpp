@@ -21,17 +21,23 @@ const Columns<EmployeeRow>& EmployeeColumns()
 
 class EmployeeImport : public ImportOf<EmployeeRow> {
 public:
-    EmployeeImport(family::Database& database, DateTime) : ImportOf(database, EmployeeColumns())
-    {
-        family::SelectRows<EmployeeRow>(database, [&](const EmployeeRow& row) { AddStoredCode(row.codigo); });
-    }
+    EmployeeImport(family::Database& database, DateTime) : ImportOf(database, EmployeeColumns()) { }
 
 private:
-    void CheckRecord(EmployeeRow&, Line&) override { }
+    void Complete(EmployeeRow& row) const override { row.nomeDeBusca = family::FoldText(row.nome); }
+
+    void LookUp(std::span<const EmployeeRow>) override
+    {
+        family::SelectRows<EmployeeRow>(GetDatabase(), [this](const EmployeeRow& row) { AddStored(row); });
+    }
+
+    std::vector<std::string> TraitsOf(const EmployeeRow& row) const override
+    {
+        return {family::FoldText(row.apelido) + "\n" + row.nomeDeBusca};
+    }
 
     void WriteRecord(EmployeeRow& row, const family::Author& author) override
     {
-        row.nomeDeBusca = family::FoldText(row.nome);
         family::AddRow(GetDatabase(), row, author);
     }
 };

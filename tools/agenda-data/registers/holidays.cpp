@@ -50,13 +50,16 @@ class HolidayImport : public ImportOf<HolidayRow> {
 public:
     HolidayImport(family::Database& database, DateTime) : ImportOf(database, HolidayColumns())
     {
-        family::SelectRows<HolidayRow>(database, [&](const HolidayRow& row) {
-            AddStoredCode(row.codigo);
-            days_.AddStored(DayAndName(row));
-        });
+        family::SelectRows<HolidayRow>(
+            database, [&](const HolidayRow& row) { days_.AddStored(DayAndName(row), row.codigo); });
     }
 
 private:
+    void LookUp(std::span<const HolidayRow>) override { }
+
+    /// A day is the same holiday with whatever code; CheckRecord sees to it.
+    std::vector<std::string> TraitsOf(const HolidayRow&) const override { return {}; }
+
     static std::string DayAndName(const HolidayRow& row)
     {
         return WriteDay(row) + " " + family::FoldText(row.nome);
@@ -67,8 +70,8 @@ private:
     {
         if (row.data.IsNull() && row.dia.IsNull())
             return;
-        if (const std::string why = days_.Add(DayAndName(row), line.Number()); !why.empty())
-            line.Refuse(DateColumn, WriteDay(row), "este feriado " + why);
+        if (const auto place = days_.Add(DayAndName(row), line.Number()))
+            line.Refuse(DateColumn, WriteDay(row), "este feriado " + place->Told() + ".");
     }
 
     void WriteRecord(HolidayRow& row, const family::Author& author) override

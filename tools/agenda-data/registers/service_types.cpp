@@ -19,18 +19,21 @@ const Columns<ServiceTypeRow>& ServiceTypeColumns()
 
 class ServiceTypeImport : public ImportOf<ServiceTypeRow> {
 public:
-    ServiceTypeImport(family::Database& database, DateTime) : ImportOf(database, ServiceTypeColumns())
-    {
-        family::SelectRows<ServiceTypeRow>(database,
-                                           [&](const ServiceTypeRow& row) { AddStoredCode(row.numero); });
-    }
+    ServiceTypeImport(family::Database& database, DateTime) : ImportOf(database, ServiceTypeColumns()) { }
 
 private:
-    void CheckRecord(ServiceTypeRow&, Line&) override { }
+    void Complete(ServiceTypeRow& row) const override { row.nomeDeBusca = family::FoldText(row.nome); }
+
+    void LookUp(std::span<const ServiceTypeRow>) override
+    {
+        family::SelectRows<ServiceTypeRow>(GetDatabase(),
+                                           [this](const ServiceTypeRow& row) { AddStored(row); });
+    }
+
+    std::vector<std::string> TraitsOf(const ServiceTypeRow& row) const override { return {row.nomeDeBusca}; }
 
     void WriteRecord(ServiceTypeRow& row, const family::Author& author) override
     {
-        row.nomeDeBusca = family::FoldText(row.nome);
         family::AddRow(GetDatabase(), row, author);
     }
 };

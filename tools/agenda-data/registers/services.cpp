@@ -1,7 +1,5 @@
 #include "tools/agenda-data/csv/import_of.hpp"
 
-#include <unordered_set>
-
 namespace kova::data {
 
 namespace {
@@ -33,12 +31,23 @@ class ServiceImport : public ImportOf<ServiceRow> {
 public:
     ServiceImport(family::Database& database, DateTime) : ImportOf(database, ServiceColumns())
     {
-        family::SelectRows<ServiceRow>(database, [&](const ServiceRow& row) { AddStoredCode(row.codigo); });
         family::SelectRows<ServiceTypeRow>(database,
                                            [&](const ServiceTypeRow& row) { types_.insert(row.numero); });
     }
 
 private:
+    void Complete(ServiceRow& row) const override { row.nomeDeBusca = family::FoldText(row.nome); }
+
+    void LookUp(std::span<const ServiceRow>) override
+    {
+        family::SelectRows<ServiceRow>(GetDatabase(), [this](const ServiceRow& row) { AddStored(row); });
+    }
+
+    std::vector<std::string> TraitsOf(const ServiceRow& row) const override
+    {
+        return {std::to_string(row.numeroDoTipo) + "\n" + row.nomeDeBusca};
+    }
+
     void CheckRecord(ServiceRow& row, Line& line) override
     {
         if (row.numeroDoTipo != 0 && types_.count(row.numeroDoTipo) == 0)
@@ -48,7 +57,6 @@ private:
 
     void WriteRecord(ServiceRow& row, const family::Author& author) override
     {
-        row.nomeDeBusca = family::FoldText(row.nome);
         family::AddRow(GetDatabase(), row, author);
     }
 

@@ -8,6 +8,34 @@ namespace kova::data::test {
 using kova::test::ContentOf;
 using kova::test::WriteFile;
 
+namespace {
+
+constexpr DateTime Now{{2026, 11, 20}, {9, 0, 0}};
+
+/// Collects what is written, and acts once when a text has come.
+class Listener : public std::stringbuf {
+public:
+    Listener(std::string awaited, std::function<void()> act)
+        : awaited_(std::move(awaited)), act_(std::move(act))
+    {
+    }
+
+    bool HasActed() const { return !act_; }
+
+private:
+    int sync() override
+    {
+        if (act_ && str().find(awaited_) != std::string::npos)
+            std::exchange(act_, nullptr)();
+        return 0;
+    }
+
+    std::string awaited_;
+    std::function<void()> act_;
+};
+
+} // namespace
+
 ImportTest::ImportTest() { MakeEmptyDatabase(Database()); }
 
 void ImportTest::MakeEmptyDatabase(const std::string& path)
@@ -19,14 +47,30 @@ int ImportTest::Run(const std::vector<std::string>& words)
 {
     output_.str("");
     error_.str("");
-    return data::Run(words, {{2026, 11, 20}, {9, 0, 0}}, output_, error_);
+    return data::Run(words, Now, output_, error_);
 }
 
 int ImportTest::Import(const std::string& name, const std::string& content, std::vector<std::string> options)
 {
     WriteFile(File("entrada.csv"), content);
-    options.insert(options.begin(), {"import", Database(), name, File("entrada.csv")});
+    options.insert(options.begin(), {"import", Database(), name, File("entrada.csv"), "--user", "Carla"});
     return Run(options);
+}
+
+int ImportTest::ImportWhile(const std::string& name, const std::string& content, const std::string& told,
+                            std::function<void()> act)
+{
+    constexpr std::size_t EnoughForProgress = 6000;
+    WriteFile(File("entrada.csv"), content + std::string(EnoughForProgress, '\n'));
+    Listener listener(told, std::move(act));
+    std::ostream error(&listener);
+    output_.str("");
+    const std::vector<std::string> words = {"import", Database(), name, File("entrada.csv"),
+                                            "--user", "Carla"};
+    const int result = data::Run(words, Now, output_, error);
+    EXPECT_TRUE(listener.HasActed()) << listener.str();
+    error_.str(listener.str());
+    return result;
 }
 
 void ImportTest::ImportShop()

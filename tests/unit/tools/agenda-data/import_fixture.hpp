@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <sstream>
 #include <vector>
 
@@ -18,8 +19,12 @@ protected:
 
     /// Answers the program's status; Output() and Error() are what it has written.
     int Run(const std::vector<std::string>& words);
-    /// Writes the content to a file and imports it into the database.
+    /// Writes the content to a file that Carla imports into the database.
     int Import(const std::string& name, const std::string& content, std::vector<std::string> options = {});
+    /// The same; `act` runs in the midst of it, when the program has told that text about its progress. Blank
+    /// lines at the end of the file have it tell any.
+    int ImportWhile(const std::string& name, const std::string& content, const std::string& told,
+                    std::function<void()> act);
     /// Imports files without a complaint: types 1 and 4, services 1 and 2 (a clinical one and a bath),
     /// employees 1 and 2 (one appointment at a time, and two), customers 10 and 11, animals 50 and 51.
     void ImportShop();

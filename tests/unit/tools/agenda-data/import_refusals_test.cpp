@@ -208,15 +208,15 @@ TEST_F(ImportRefusals, OfRoomAreForWhatIsToComeOnly)
 {
     const std::string header = "Data inicial;Hora inicial;Hora final;Código do cliente;Código do animal;"
                                "Código do serviço;Código do funcionário;Situação\n";
-    const auto twice = [](const std::string& line) { return line + "\n" + line + "\n"; };
-    EXPECT_EQ(Import("agendamentos", header + twice("19/11/2026;10:00;11:00;10;50;2;1;Agendado")), 0)
-        << Error();
-    EXPECT_EQ(Import("agendamentos", header + twice("25/11/2026;10:00;11:00;10;50;2;1;Cancelado")), 0)
-        << Error();
-    EXPECT_EQ(Import("agendamentos", header + twice("25/11/2026;10:00;11:00;10;50;2;2;")), 0) << Error();
-    EXPECT_EQ(Import("agendamentos", header + twice("25/11/2026;10:00;11:00;10;50;2;1;")), 1);
+    const auto two = [&](const std::string& times, const std::string& rest) {
+        return header + times + ";10;50;2;" + rest + "\n" + times + ";11;51;2;" + rest + "\n";
+    };
+    EXPECT_EQ(Import("agendamentos", two("19/11/2026;10:00;11:00", "1;Agendado")), 0) << Error();
+    EXPECT_EQ(Import("agendamentos", two("25/11/2026;10:00;11:00", "1;Cancelado")), 0) << Error();
+    EXPECT_EQ(Import("agendamentos", two("25/11/2026;10:00;11:00", "2;")), 0) << Error();
+    EXPECT_EQ(Import("agendamentos", two("26/11/2026;10:00;11:00", "1;")), 1);
     EXPECT_EQ(Error(),
-              "linha 3: Hora inicial \"10:00\": Bia já tem agendamento das 10:00 às 11:00 em 25/11/2026.\n"
+              "linha 3: Hora inicial \"10:00\": Bia já tem agendamento das 10:00 às 11:00 em 26/11/2026.\n"
               "1 erro em 1 linha; nada foi importado.\n");
 }
 

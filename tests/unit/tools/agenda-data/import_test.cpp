@@ -95,11 +95,11 @@ TEST_F(Imports, ReadsAppointmentsOfBothKinds)
         << Error();
     EXPECT_EQ(Exported("agendamentos").substr(Exported("agendamentos").find('\n') + 1),
               "1;20/11/2026;10:00;20/11/2026;11:15;10;50;;;;;;;;2;4;2;3;;Sim;Não;Agendado;;;"
-              "20/11/2026 09:00:00;agenda-data;;\r\n"
+              "20/11/2026 09:00:00;Carla;;\r\n"
               "2;20/11/2026;09:00;20/11/2026;09:30;;;Íris;;Bidu;;;;;1;1;1;;;Não;Não;Cancelado;;;"
-              "20/11/2026 09:00:00;agenda-data;;\r\n"
+              "20/11/2026 09:00:00;Carla;;\r\n"
               "3;01/03/2026;09:00;01/03/2026;10:00;11;51;;;;;;;;2;4;2;;;Não;Não;Pré-venda gerada;Aberta;"
-              "60,00;20/11/2026 09:00:00;agenda-data;;\r\n");
+              "60,00;20/11/2026 09:00:00;Carla;;\r\n");
     EXPECT_EQ(Ask("select codigo_do_servico from pacote where codigo = 3"), "2");
     EXPECT_EQ(Ask("select texto_de_busca from agendamento where numero = 2"), "iris\nbidu");
     EXPECT_EQ(Run({"check", Database()}), 0) << Error();
@@ -249,7 +249,7 @@ TEST_F(Imports, OnAFullDiskImportNothing)
     ImportShop();
     std::string content = "Nome;Apelido\n";
     for (int line = 0; line < 5000; ++line)
-        content += "Maria;" + std::string(50, 'x') + "\n";
+        content += "Maria " + std::to_string(line) + ";" + std::string(50, 'x') + "\n";
     {
         // Enough for what the engine puts beside the database to begin with.
         const kova::test::SmallFiles small(400'000);

@@ -1,0 +1,50 @@
+#include "family/data/audit/import_audit.hpp"
+
+#include "family/data/engine/database.hpp"
+
+namespace kova::family {
+
+namespace {
+
+/// Runs what asks the engine directly.
+template <class Use> void Guarded(Database& database, Use use)
+{
+    try {
+        use(database.Session());
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(database.Path(), cause);
+    }
+}
+
+Key NextNumber(Database& database)
+{
+    const std::string table = ImportsTable;
+    Key number = 0;
+    Guarded(database, [&](soci::session& session) {
+        session << "select coalesce(max(chave), 0) + 1 from auditoria where tabela = :tabela",
+            soci::use(table, "tabela"), soci::into(number);
+    });
+    return number;
+}
+
+} // namespace
+
+void LockImports(Database& database)
+{
+    const std::string& statement = database.GetDialect().lockImport;
+    if (!statement.empty())
+        Guarded(database, [&](soci::session& session) { session << statement; });
+}
+
+void BeginImport(Database& database, Author& author, const ImportedFile& file)
+{
+    author.importNumber = NextNumber(database);
+    AuditImport(database, author,
+                AuditValues()
+                    .Add("cadastro", file.registerName)
+                    .Add("arquivo", file.path)
+                    .Add("codificacao", file.encoding)
+                    .Add("linhas", file.records));
+}
+
+} // namespace kova::family

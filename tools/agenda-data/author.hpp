@@ -1,0 +1,12 @@
+#pragma once
+
+#include "family/data/audit/author.hpp"
+#include "tools/agenda-data/command.hpp"
+
+namespace kova::data {
+
+/// Who stands in the audit for what a call writes: the name in its option --user, or else the user of the
+/// computer.
+family::Author AuthorOf(const Call& call, DateTime now);
+
+} // namespace kova::data
