@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <regex>
 #include <string>
 #include <vector>
@@ -169,6 +170,18 @@ Order ReadOrder(const std::vector<std::string>& words)
     return order;
 }
 
+/// Each run attaches itself to the module, which begins anew then: loading it thousands of times would take
+/// most of the time.
+int SweepOver(const Order& order)
+{
+    const kova::host::LoadedLibrary module(MODULE_LIBRARY);
+    Sweep sweep(order);
+    for (const std::string& file : order.scripts)
+        sweep.Over(file);
+    sweep.Tell();
+    return sweep.IsClean() ? 0 : 1;
+}
+
 } // namespace
 
 int main(int count, char** words)
@@ -178,12 +191,10 @@ int main(int count, char** words)
         std::fprintf(stderr, "usage: fault-sweep [--toolkit NAME] [--every N] SCENARIO...\n");
         return 2;
     }
-    // Each run attaches itself to the module, which begins anew then. Loading it thousands of times would
-    // take most of the time.
-    const kova::host::LoadedLibrary module(MODULE_LIBRARY);
-    Sweep sweep(order);
-    for (const std::string& file : order.scripts)
-        sweep.Over(file);
-    sweep.Tell();
-    return sweep.IsClean() ? 0 : 1;
+    try {
+        return SweepOver(order);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 2;
+    }
 }

@@ -41,3 +41,8 @@ foreach(half IN ITEMS first second)
     set_tests_properties(FaultsOnScreen.${half}Half PROPERTIES
         ENVIRONMENT "${sweep_environment};QT_QPA_PLATFORM=offscreen" COST ${cost_of_long_tests})
 endforeach()
+
+add_test(NAME FaultSweepTellsAScriptThatItCannotRead COMMAND fault-sweep ${CMAKE_CURRENT_LIST_DIR}/none.scenario)
+set_tests_properties(FaultSweepTellsAScriptThatItCannotRead PROPERTIES
+    PASS_REGULAR_EXPRESSION "^Não foi possível ler o roteiro .*none.scenario"
+    FAIL_REGULAR_EXPRESSION "terminate")
