@@ -1,5 +1,5 @@
-// The literal tags of the traps: each names its own object and procedure, but for the slips that are fixed.
-// The sources are read as text, so a procedure written tomorrow is held to its row today.
+// The literal tags of the traps: each names its own object and procedure, but for those that borrow one on
+// purpose. The sources are read as text, so a procedure written tomorrow is held to its row today.
 
 #include <gtest/gtest.h>
 
@@ -23,9 +23,9 @@ struct Procedure {
 };
 
 /// Procedures whose tag names another object or procedure: who carries it, and what it says.
-const std::map<Procedure, Procedure>& Slips()
+const std::map<Procedure, Procedure>& Borrowed()
 {
-    static const std::map<Procedure, Procedure> slips{
+    static const std::map<Procedure, Procedure> borrowed{
         {{"frmLista", "PreencherComboboxTiposDeServicos"},
          {"frmFichaCompleta", "PreencherComboboxTiposDeServicos"}},
         {{"frmLista", "PreencherComboboxFuncionarios"},
@@ -52,13 +52,13 @@ const std::map<Procedure, Procedure>& Slips()
         {{"frmSelecionarDatas", "Form_Load"}, {"frmImprimirAgenda", "Form_Load"}},
         {{"frmMensagem", "ArredondarCantosDoObjeto"}, {"frmMensagem", "MontarExibirFormulario"}},
     };
-    return slips;
+    return borrowed;
 }
 
 std::string ExpectedTag(const Procedure& procedure)
 {
-    const auto slip = Slips().find(procedure);
-    return slip == Slips().end() ? procedure.Tag() : slip->second.Tag();
+    const auto found = Borrowed().find(procedure);
+    return found == Borrowed().end() ? procedure.Tag() : found->second.Tag();
 }
 
 struct Tagged {
@@ -94,7 +94,7 @@ std::vector<Tagged> TagsOfTheModule()
     return found;
 }
 
-TEST(Tags, NameTheirOwnProcedureButForTheFixedSlips)
+TEST(Tags, NameTheirOwnProcedureButForThoseThatBorrowOne)
 {
     const auto tags = TagsOfTheModule();
     EXPECT_GT(tags.size(), 20U);
@@ -112,10 +112,10 @@ TEST(Tags, StandOncePerProcedure)
         EXPECT_EQ(times, 1) << procedure.object << "::" << procedure.name;
 }
 
-TEST(Tags, OfTheListsSlipsAreThere)
+TEST(Tags, BorrowedByTheListAreThere)
 {
     const auto tags = TagsOfTheModule();
-    for (const auto& [procedure, said] : Slips()) {
+    for (const auto& [procedure, said] : Borrowed()) {
         if (procedure.object != "frmLista")
             continue;
         const bool there = std::any_of(tags.begin(), tags.end(), [&](const Tagged& tagged) {
