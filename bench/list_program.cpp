@@ -10,7 +10,7 @@
 #include "family/business/registers/employees.hpp"
 #include "family/business/registers/service_types.hpp"
 #include "family/business/shop/system_version.hpp"
-#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"

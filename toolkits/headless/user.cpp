@@ -10,7 +10,7 @@
 #include "toolkits/common/event_scope.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/grid/grid.hpp"
-#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/common/whole_number.hpp"
 #include "toolkits/headless/toolkit.hpp"
 

@@ -7,7 +7,7 @@
 #include "toolkits/common/command_button.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/grid/grid.hpp"
-#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/headless/keys.hpp"
 #include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "toolkits/common/command_button.hpp"
-#include "toolkits/qt/flat_button.hpp"
+#include "toolkits/qt/look/flat_button.hpp"
 #include "toolkits/qt/widget_view.hpp"
 
 namespace kova::qt {

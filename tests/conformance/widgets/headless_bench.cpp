@@ -6,9 +6,9 @@
 #include "toolkits/common/boxes/find_box.hpp"
 #include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/common/label.hpp"
 #include "toolkits/common/menu.hpp"
-#include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
 

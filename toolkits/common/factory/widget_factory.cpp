@@ -10,11 +10,11 @@
 #include "toolkits/common/boxes/time_box.hpp"
 #include "toolkits/common/command_button.hpp"
 #include "toolkits/common/grid/grid.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/common/header_band.hpp"
 #include "toolkits/common/image.hpp"
 #include "toolkits/common/label.hpp"
 #include "toolkits/common/menu.hpp"
-#include "toolkits/common/navigation_bar.hpp"
 #include "toolkits/common/picture_box.hpp"
 #include "toolkits/common/shape.hpp"
 

@@ -3,7 +3,7 @@
 #include "toolkits/common/command_button.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/grid/grid.hpp"
-#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/common/shortcuts.hpp"
 
 namespace kova::toolkit {

@@ -1,7 +1,7 @@
 #include "toolkits/qt/grid/navigation_bar.hpp"
 
 #include "toolkits/qt/enter_key.hpp"
-#include "toolkits/qt/flat_button.hpp"
+#include "toolkits/qt/look/flat_button.hpp"
 #include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/theme.hpp"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/qt/plain_panel.hpp"
 #include "toolkits/qt/widget_view.hpp"
 

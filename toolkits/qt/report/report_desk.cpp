@@ -1,7 +1,7 @@
 #include "toolkits/qt/report/report_desk.hpp"
 
+#include "toolkits/qt/dialogs/message_box.hpp"
 #include "toolkits/qt/look/theme.hpp"
-#include "toolkits/qt/message_box.hpp"
 
 #include <QWidget>
 

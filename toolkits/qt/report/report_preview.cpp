@@ -3,8 +3,8 @@
 #include "reports/pages.hpp"
 #include "reports/qt/delivery.hpp"
 #include "toolkits/common/shortcuts.hpp"
-#include "toolkits/qt/flat_button.hpp"
-#include "toolkits/qt/help_window.hpp"
+#include "toolkits/qt/dialogs/help_window.hpp"
+#include "toolkits/qt/look/flat_button.hpp"
 #include "toolkits/qt/look/theme.hpp"
 #include "toolkits/qt/report/report_desk.hpp"
 

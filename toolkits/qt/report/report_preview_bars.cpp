@@ -2,7 +2,7 @@
 
 #include "toolkits/qt/report/report_preview.hpp"
 
-#include "toolkits/qt/flat_button.hpp"
+#include "toolkits/qt/look/flat_button.hpp"
 
 #include <QHBoxLayout>
 #include <QLabel>

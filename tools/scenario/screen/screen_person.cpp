@@ -5,9 +5,9 @@
 #include "toolkits/common/boxes/option_button.hpp"
 #include "toolkits/common/command_button.hpp"
 #include "toolkits/common/form.hpp"
-#include "toolkits/common/navigation_bar.hpp"
-#include "toolkits/qt/flat_button.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/qt/grid/navigation_bar.hpp"
+#include "toolkits/qt/look/flat_button.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QListWidget>

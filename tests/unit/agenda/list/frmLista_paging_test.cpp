@@ -1,7 +1,7 @@
 // Pages, the bar's numbers, and what a reload keeps.
 
 #include "tests/unit/agenda/module_fixture.hpp"
-#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 
 namespace kova::agenda {
 

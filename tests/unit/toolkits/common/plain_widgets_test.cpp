@@ -1,6 +1,6 @@
 #include "tests/unit/toolkits/common/fixture.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 #include "toolkits/common/label.hpp"
-#include "toolkits/common/navigation_bar.hpp"
 
 namespace kova::headless {
 

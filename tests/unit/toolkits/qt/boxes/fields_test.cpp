@@ -4,8 +4,8 @@
 #include "toolkits/qt/boxes/date_box.hpp"
 #include "toolkits/qt/boxes/field_frame.hpp"
 #include "toolkits/qt/boxes/line_edit.hpp"
-#include "toolkits/qt/flat_button.hpp"
 #include "toolkits/qt/grid/navigation_bar.hpp"
+#include "toolkits/qt/look/flat_button.hpp"
 #include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/theme.hpp"
 

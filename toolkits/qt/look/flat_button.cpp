@@ -1,4 +1,4 @@
-#include "toolkits/qt/flat_button.hpp"
+#include "toolkits/qt/look/flat_button.hpp"
 
 #include "toolkits/qt/look/icons.hpp"
 #include "toolkits/qt/look/painting.hpp"

@@ -1,4 +1,4 @@
-#include "toolkits/qt/message_box.hpp"
+#include "toolkits/qt/dialogs/message_box.hpp"
 
 #include "agenda/contracts/platform.hpp"
 #include "toolkits/qt/look/icons.hpp"

@@ -1,4 +1,4 @@
-#include "toolkits/common/navigation_bar.hpp"
+#include "toolkits/common/grid/navigation_bar.hpp"
 
 #include "agenda/contracts/text.hpp"
 #include "toolkits/common/form.hpp"

@@ -1,7 +1,7 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 #include "toolkits/qt/boxes/field_frame.hpp"
 #include "toolkits/qt/boxes/line_edit.hpp"
-#include "toolkits/qt/flat_button.hpp"
+#include "toolkits/qt/look/flat_button.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QCoreApplication>

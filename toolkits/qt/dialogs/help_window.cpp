@@ -1,4 +1,4 @@
-#include "toolkits/qt/help_window.hpp"
+#include "toolkits/qt/dialogs/help_window.hpp"
 
 #include "toolkits/common/shortcuts.hpp"
 #include "toolkits/qt/look/theme.hpp"
