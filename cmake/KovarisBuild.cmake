@@ -57,14 +57,15 @@ if(KOVARIS_WERROR)
     add_compile_options(-Werror)
 endif()
 if(KOVARIS_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer
-                        -fno-sanitize-recover=undefined)
-    # The database library keeps the type information of its classes to itself, so the check of dynamic
-    # types cannot be linked.
-    add_compile_options(-fno-sanitize=vptr)
-    # The instrumentation misleads the compiler's flow analysis, which then doubts the standard library
-    # itself (std::function inside std::regex). The builds without sanitizers keep this warning.
-    add_compile_options(-Wno-maybe-uninitialized)
+    set(KOVARIS_SANITIZERS
+        -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined
+        # The database library keeps the type information of its classes to itself, so the check of dynamic
+        # types cannot be linked.
+        -fno-sanitize=vptr
+        # The instrumentation misleads the compiler's flow analysis, which then doubts the standard library
+        # itself (std::function inside std::regex). The builds without sanitizers keep this warning.
+        -Wno-maybe-uninitialized)
+    add_compile_options(${KOVARIS_SANITIZERS})
     add_link_options(-fsanitize=address,undefined)
 else()
     # The sanitizers resolve their own symbols at load time.

@@ -2,4 +2,5 @@ if(NOT KOVARIS_CORE_ONLY)
     kovaris_test_program(test_host host_application family_presentation family_business
         test_postgres_server)
     add_dependencies(test_host kovaris agenda-data KOVA_A_Familia)
+    kovaris_precompile(test_host <gtest/gtest.h> <QApplication>)
 endif()
