@@ -10,10 +10,12 @@ namespace kova::system {
 bool IsOnNetworkDisk(const std::string& path)
 {
     constexpr std::wstring_view OfShares = L"\\\\", OfDevices[] = {L"\\\\?\\", L"\\\\.\\"};
+    // Asked before the name is completed: the library takes a share's two strokes for one there.
+    const std::wstring given = PathOf(path).make_preferred().native();
+    if (given.starts_with(OfShares))
+        return !given.starts_with(OfDevices[0]) && !given.starts_with(OfDevices[1]);
     std::error_code unreadable;
-    const std::wstring name = std::filesystem::absolute(PathOf(path), unreadable).native();
-    if (name.starts_with(OfShares))
-        return !name.starts_with(OfDevices[0]) && !name.starts_with(OfDevices[1]);
+    const std::wstring name = std::filesystem::absolute(given, unreadable).native();
     constexpr std::size_t LengthOfDrive = 3;
     return ::GetDriveTypeW(name.substr(0, LengthOfDrive).c_str()) == DRIVE_REMOTE;
 }

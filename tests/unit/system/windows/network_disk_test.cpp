@@ -16,6 +16,7 @@ TEST_F(NetworkDiskOnWindows, IsNotThatOfTheUsersOwnFolders)
 TEST_F(NetworkDiskOnWindows, IsThatOfAServersShare)
 {
     EXPECT_TRUE(IsOnNetworkDisk("\\\\servidor\\loja\\loja.db"));
+    EXPECT_TRUE(IsOnNetworkDisk("//servidor/loja/loja.db"));
 }
 
 } // namespace kova::system
