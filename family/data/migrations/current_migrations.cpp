@@ -14,6 +14,7 @@ constexpr Migration Steps[] = {
     {4, SchemaOfVersion4},
     {5, SchemaOfVersion5, FoldTextsAnew},
     {6, SchemaOfVersion6, HoldRules},
+    {7, SchemaOfVersion7},
 };
 
 } // namespace

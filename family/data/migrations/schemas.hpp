@@ -20,5 +20,6 @@ std::vector<std::string> SchemaOfVersion5(const Dialect& dialect);
 void FoldTextsAnew(soci::session& session, const Dialect& dialect);
 /// Rows are held to the rules of held_rules.hpp behind it.
 std::vector<std::string> SchemaOfVersion6(const Dialect& dialect);
+std::vector<std::string> SchemaOfVersion7(const Dialect& dialect);
 
 } // namespace kova::family

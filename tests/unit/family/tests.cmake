@@ -7,12 +7,11 @@ if(NOT KOVARIS_CORE_ONLY)
     add_dependencies(test_family KOVA_N_Familia)
 
     # All of it again with the fixtures' data on a server. Left out is what is about SQLite files themselves, which
-    # nothing of a server stands for (how they are opened, copied by pages every day, brought up to date, waited for
-    # and searched by their statistics), and what reads the audit by a function of SQLite. The copy in
+    # nothing of a server stands for (how they are opened, copied by pages every day, brought up to date and waited
+    # for), and what reads the audit by a function of SQLite. The copy in
     # ThatIsDamagedOnTheDisk would write the damaged pages again: rows are copied, not pages.
     kovaris_test_on_server(test_family "DataSource.*:SchemaMigration.*:TheDatabaseComponent.*:DailyBackup.*"
         "DatabaseBackup.ThatIsDamagedOnTheDiskIsNotTakenForACopy"
-        "EmployeeRoomRule.OfABigShopIsLookedUpAmongTheEmployeesOwnAppointments"
         "StatusWrite.TellsThatTheDataAreInUseAndWorksWhenTheyAreFree"
         "WritesAudit.KeepsTheWholeRowBeforeAndAfterAnAlteration"
         "WritesAudit.LetsADeletedAppointmentBePutBack")

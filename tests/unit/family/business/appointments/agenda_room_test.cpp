@@ -2,8 +2,6 @@
 
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
-#include "family/data/stores/booked_times.hpp"
-
 namespace kova::family::test {
 
 class EmployeeRoomRule : public BookingTest {
@@ -148,23 +146,6 @@ TEST_F(EmployeeRoomRule, NamesTheRepetitionThatFindsThePlaceTaken)
     desk->Set("QuantidadeDeReagendamentos", Long(5));
     desk->Set("FrequenciaDeReagendamento", Integer(0));
     ExpectRefused(*desk, "HoraInicial", "Bia já tem agendamento das 09:30 às 10:15 em 22/12/2026.");
-}
-
-TEST_F(EmployeeRoomRule, OfABigShopIsLookedUpAmongTheEmployeesOwnAppointments)
-{
-    Run("analyze");
-    Run("delete from sqlite_stat1 where tbl = 'agendamento'");
-    Run("insert into sqlite_stat1 (tbl, idx, stat) values"
-        " ('agendamento', 'agendamento_por_termino', '1000000 15385 6 6'),"
-        " ('agendamento', 'agendamento_por_inicio', '1000000 358 9 1')");
-    Run("analyze sqlite_schema");
-    int id = 0, parent = 0, unused = 0;
-    std::string step;
-    const std::string none;
-    Session() << "explain query plan " + BookedTimesStatement(), soci::into(id), soci::into(parent),
-        soci::into(unused), soci::into(step), soci::use(id, "funcionario"), soci::use(none, "de"),
-        soci::use(none, "apos"), soci::use(none, "ate"), soci::use(id, "exceto");
-    EXPECT_NE(step.find("agendamento_por_termino"), std::string::npos) << step;
 }
 
 } // namespace kova::family::test
