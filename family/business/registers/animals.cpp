@@ -1,9 +1,10 @@
 #include "family/business/registers/animals.hpp"
 
 #include "family/business/combo_selection.hpp"
-#include "family/business/kept_record_set.hpp"
+#include "family/business/fetched_record_set.hpp"
 #include "family/business/selection_arguments.hpp"
 #include "family/business/shown_values.hpp"
+#include "family/data/selections/animal_selection.hpp"
 
 namespace kova::family {
 
@@ -68,28 +69,38 @@ std::span<const Property<Animals>> Animals::Properties()
     return properties;
 }
 
-KeptRows<FoundAnimalOf> Animals::Find(std::span<const Argument> arguments)
-{
-    const Value& sought = arguments[CodeOrText].Get();
-    const Key customer = KeyOf(arguments[Customer].Get());
-    return IsNumber(sought) ? SelectAnimal(Data(), KeyOf(sought), customer)
-                            : SelectAnimals(Data(), sought.ToText(), customer);
-}
-
 Value Animals::Selecionar(std::span<Argument> arguments)
 {
     refusal_.clear();
+    return IsNumber(arguments[CodeOrText].Get()) ? SelectByCode(arguments) : SelectByText(arguments);
+}
+
+Value Animals::SelectByCode(std::span<Argument> arguments)
+{
     KeptRows<FoundAnimalOf> found;
-    const Integer status = Attempt("Selecionar", [&] { found = Find(arguments); });
+    const Integer status = Attempt("Selecionar", [&] {
+        found = SelectAnimal(Data(), KeyOf(arguments[CodeOrText].Get()), KeyOf(arguments[Customer].Get()));
+    });
     if (status != 0)
         return status;
-    if (IsNumber(arguments[CodeOrText].Get()) && !found.rows.empty()
-        && found.rows.front().situacao == Inactive) {
+    if (!found.rows.empty() && found.rows.front().situacao == Inactive) {
         refusal_ = InactiveText;
         return Refused;
     }
     return Select("Selecionar", [&] {
         auto selection = std::make_shared<KeptRecordSet<FoundAnimalOf>>(Fields, std::move(found));
+        selection->PageSize(RowsOfPage(arguments, selection->RecordCount()));
+        return selection;
+    });
+}
+
+Value Animals::SelectByText(std::span<Argument> arguments)
+{
+    return Select("Selecionar", [&] {
+        std::vector<Key> codes =
+            SelectAnimals(Data(), arguments[CodeOrText].Get().ToText(), KeyOf(arguments[Customer].Get()));
+        auto selection = std::make_shared<FetchedRecordSet<FoundAnimalOf>>(Fields, FetchAnimals, SharedData(),
+                                                                           std::move(codes));
         selection->PageSize(RowsOfPage(arguments, selection->RecordCount()));
         return selection;
     });

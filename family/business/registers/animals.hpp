@@ -1,7 +1,6 @@
 #pragma once
 
 #include "family/business/by_name.hpp"
-#include "family/data/selections/animal_selection.hpp"
 
 namespace kova::family {
 
@@ -29,7 +28,8 @@ private:
     /// Why the last selection was refused; "" where it was not.
     Value DescricaoDaFalha() const { return refusal_; }
 
-    KeptRows<FoundAnimalOf> Find(std::span<const Argument> arguments);
+    Value SelectByCode(std::span<Argument> arguments);
+    Value SelectByText(std::span<Argument> arguments);
 
     Text refusal_;
 };

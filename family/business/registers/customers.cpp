@@ -1,9 +1,11 @@
 #include "family/business/registers/customers.hpp"
 
 #include "agenda/contracts/support/memory_record_set.hpp"
-#include "family/business/registers/customer_record_set.hpp"
+#include "family/business/fetched_record_set.hpp"
 #include "family/business/selection_arguments.hpp"
+#include "family/business/shown_values.hpp"
 #include "family/data/selections/customer_address.hpp"
+#include "family/data/selections/customer_selection.hpp"
 
 #include <iterator>
 
@@ -24,6 +26,19 @@ CustomerFilter FilterOf(std::span<const Argument> arguments)
     filter.address = arguments[Address].Get().ToText();
     return filter;
 }
+
+using Row = FoundCustomerOf<std::string_view>;
+
+constexpr KeptField<FoundCustomerOf> Fields[] = {
+    {"CodigoDoCliente", [](const Row& row) { return Value(static_cast<Double>(row.codigo)); }},
+    {"ApelidoOuNomeFantasia", [](const Row& row) { return Value(row.apelido); }},
+    {"NomeOuRazaoSocial", [](const Row& row) { return Value(row.nome); }},
+    {"Situacao", [](const Row& row) { return Value(static_cast<Long>(row.situacao)); }},
+    {"EnderecoCompleto", [](const Row& row) { return Value(row.enderecoCompleto); }},
+    {"TiposECanaisDeComunicacao", [](const Row& row) { return Value(row.tiposECanais); }},
+    {"VIP", [](const Row& row) { return Value(YesOrNo(row.vip != 0)); }},
+    {"CategoriaDaCurvaABC", [](const Row& row) { return Value(row.categoriaDaCurvaABC); }},
+};
 
 constexpr const char* AddressFields[] = {"CodigoDoCliente",
                                          "ApelidoOuNomeFantasia",
@@ -79,8 +94,9 @@ void Customers::DadosDoUsuario(const Value& user) { RequireUserObject(user); }
 Value Customers::Selecionar(std::span<Argument> arguments)
 {
     return Select("Selecionar", [&] {
-        auto selection =
-            std::make_shared<CustomerRecordSet>(SharedData(), SelectCustomers(Data(), FilterOf(arguments)));
+        std::vector<Key> codes = SelectCustomers(Data(), FilterOf(arguments));
+        auto selection = std::make_shared<FetchedRecordSet<FoundCustomerOf>>(Fields, FetchCustomers,
+                                                                             SharedData(), std::move(codes));
         selection->PageSize(RowsOfPage(arguments, selection->RecordCount()));
         return selection;
     });

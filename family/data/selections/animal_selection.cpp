@@ -1,10 +1,15 @@
 #include "family/data/selections/animal_selection.hpp"
 
 #include "family/data/engine/search_text.hpp"
+#include "family/data/selections/codes_by_text.hpp"
+#include "family/data/selections/folded_texts.hpp"
+#include "family/data/selections/rows_by_code.hpp"
 
 namespace kova::family {
 
 namespace {
+
+constexpr int Inactive = 2, OwnerDeleted = 4;
 
 // In the order of FoundAnimalOf::Members.
 constexpr const char* Columns =
@@ -16,14 +21,6 @@ constexpr const char* Columns =
     " join especie e on e.codigo = r.codigo_da_especie";
 
 constexpr const char* OneAnimal = " where n.codigo = :codigo and n.codigo_do_cliente = :cliente";
-
-// The text is looked for on its own so that only what it finds is fetched from the tables.
-constexpr const char* AnimalsWithText =
-    " where n.codigo in (select codigo from animal where nome_de_busca like :padrao escape '!'"
-    " union all select codigo from animal where codigo = :codigo"
-    " union all select codigo from animal where microchip = :digitos)"
-    " and n.situacao = 1 and (:cliente = 0 or n.codigo_do_cliente = :cliente)"
-    " order by n.nome_de_busca, n.codigo";
 
 class AnimalByCode : public RowSelection<FoundAnimalOf> {
 public:
@@ -45,28 +42,72 @@ private:
     Key code_ = 0, customer_ = 0;
 };
 
-class AnimalsByText : public RowSelection<FoundAnimalOf> {
-public:
-    explicit AnimalsByText(Database& database) : RowSelection(database)
+struct AnimalsByCode : RowsByCode<FoundAnimalOf> {
+    explicit AnimalsByCode(Database& database) : RowsByCode(database, Columns, "n.codigo") { }
+};
+
+struct CodesByMicrochip : CodesByText {
+    explicit CodesByMicrochip(Database& database)
+        : CodesByText(database, "select codigo from animal where microchip = :texto")
     {
-        Use(text_.pattern, "padrao");
-        Use(text_.code, "codigo");
-        Use(text_.digits, "digitos");
-        Use(customer_, "cliente");
-        Prepare(std::string(Columns) + AnimalsWithText);
+    }
+};
+
+/// The few animals of one customer, searched where they lie.
+class CodesOfCustomer : public KeptStatement {
+public:
+    explicit CodesOfCustomer(Database& database)
+        : statement_((database.Session().prepare
+                          << "select codigo from animal where codigo_do_cliente = :cliente and situacao = 1"
+                             " and (nome_de_busca like :padrao escape '!' or codigo = :codigo"
+                             " or microchip = :digitos) order by nome_de_busca, codigo",
+                      soci::use(customer_, "cliente"), soci::use(text_.pattern, "padrao"),
+                      soci::use(text_.code.value, text_.code.state, "codigo"),
+                      soci::use(text_.digits.value, text_.digits.state, "digitos"), soci::into(code_)))
+    {
     }
 
-    KeptRows<FoundAnimalOf> Run(const std::string& text, Key customer)
+    std::vector<Key> Run(const SearchText& text, Key customer)
     {
-        text_ = SearchText(text);
+        text_ = text;
         customer_ = customer;
-        return Fetch();
+        std::vector<Key> codes;
+        statement_.execute();
+        while (statement_.fetch())
+            codes.push_back(code_);
+        return codes;
     }
 
 private:
     SearchText text_;
-    Key customer_ = 0;
+    Key customer_ = 0, code_ = 0;
+    soci::statement statement_;
 };
+
+std::vector<Key> SelectOfAllCustomers(Database& database, const SearchText& text)
+{
+    std::vector<Key> exact;
+    if (!text.digits.IsNull())
+        exact = CodesBy<CodesByMicrochip>(database, text.digits.value);
+    if (!text.code.IsNull())
+        exact.push_back(text.code.value);
+    return database.With<AnimalNames>([&](AnimalNames& names) {
+        names.Refresh();
+        std::vector<Key> codes;
+        for (const std::uint32_t place : names.PlacesWith(text.folded, exact))
+            codes.push_back(names.KeyAt(place));
+        return codes;
+    });
+}
+
+FoundAnimalOf<std::string_view> Gone(Key code)
+{
+    FoundAnimalOf<std::string_view> gone;
+    gone.codigo = code;
+    gone.situacao = Inactive;
+    gone.situacaoDoCliente = OwnerDeleted;
+    return gone;
+}
 
 } // namespace
 
@@ -76,10 +117,18 @@ KeptRows<FoundAnimalOf> SelectAnimal(Database& database, Key code, Key customer)
         [&](AnimalByCode& selection) { return selection.Run(code, customer); });
 }
 
-KeptRows<FoundAnimalOf> SelectAnimals(Database& database, const std::string& text, Key customer)
+std::vector<Key> SelectAnimals(Database& database, const std::string& text, Key customer)
 {
-    return database.With<AnimalsByText>(
-        [&](AnimalsByText& selection) { return selection.Run(text, customer); });
+    const SearchText sought(text);
+    if (customer == 0)
+        return SelectOfAllCustomers(database, sought);
+    return database.With<CodesOfCustomer>(
+        [&](CodesOfCustomer& selection) { return selection.Run(sought, customer); });
+}
+
+void FetchAnimals(Database& database, std::span<const Key> codes, KeptRows<FoundAnimalOf>& kept)
+{
+    FetchInOrder<AnimalsByCode>(database, codes, kept, Gone);
 }
 
 } // namespace kova::family

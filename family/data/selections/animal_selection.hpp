@@ -3,6 +3,9 @@
 #include "family/data/rows/kept_rows.hpp"
 #include "family/data/rows/rows.hpp"
 
+#include <span>
+#include <vector>
+
 namespace kova::family {
 
 /// An animal with its owner, as the lookups and the customers' picker show them.
@@ -33,8 +36,14 @@ template <class Text> struct FoundAnimalOf {
 /// The animal of that code, active or not, where it is that customer's.
 KeptRows<FoundAnimalOf> SelectAnimal(Database& database, Key code, Key customer);
 
-/// The active animals with the text in their names, without regard to case and accents, or with exactly
-/// that code or microchip; by name, then code. Of one customer, or of all where `customer` is 0.
-KeptRows<FoundAnimalOf> SelectAnimals(Database& database, const std::string& text, Key customer);
+/// Codes of the active animals with the text in their names, without regard to case and accents, or with
+/// exactly that code or microchip; by name, then code. Of one customer, or of all where `customer` is 0.
+/// Fails as Database::With.
+std::vector<Key> SelectAnimals(Database& database, const std::string& text, Key customer);
+
+/// Adds a row for each of the codes, in their order; MostRowsAtOnce codes and at least one. An animal that is
+/// gone since it was found is added as inactive, of a deleted customer and without texts. Fails as
+/// Database::With.
+void FetchAnimals(Database& database, std::span<const Key> codes, KeptRows<FoundAnimalOf>& kept);
 
 } // namespace kova::family

@@ -3,6 +3,8 @@
 #include "family/data/rows/kept_rows.hpp"
 #include "family/data/rows/rows.hpp"
 
+#include <span>
+
 namespace kova::family {
 
 /// A customer as the pickers show it.
@@ -37,8 +39,8 @@ struct CustomerFilter {
 /// Codes of the customers, of every situation, by name, then code. Fails as Database::With.
 std::vector<Key> SelectCustomers(Database& database, const CustomerFilter& filter);
 
-/// Adds the customer's row to those kept. One that is gone since it was found is added as deleted and
-/// without texts. Fails as Database::With.
-void FetchCustomer(Database& database, Key code, KeptRows<FoundCustomerOf>& kept);
+/// Adds a row for each of the codes, in their order; MostRowsAtOnce codes and at least one. A customer that
+/// is gone since it was found is added as deleted and without texts. Fails as Database::With.
+void FetchCustomers(Database& database, std::span<const Key> codes, KeptRows<FoundCustomerOf>& kept);
 
 } // namespace kova::family

@@ -74,6 +74,47 @@ TEST_F(AnimalSearch, TakesATextWithinACustomerWhereOneIsGiven)
     EXPECT_EQ(Find("", 10), (List{52, 50}));
 }
 
+TEST_F(AnimalSearch, KnowsAnimalsThatComeChangeAndGo)
+{
+    EXPECT_EQ(Find("zorro"), (List{}));
+    Add(60, 10, "Zorro", 1);
+    EXPECT_EQ(Find("zorro"), (List{60}));
+    EXPECT_EQ(Find("60"), (List{60}));
+    soci::session& session = SharedDatabase(host_.DataSource())->Session();
+    session << "update animal set situacao = 2 where codigo = 60";
+    EXPECT_EQ(Find("zorro"), (List{}));
+    EXPECT_EQ(Find("60"), (List{}));
+    session << "update animal set situacao = 1, nome_de_busca = 'tornado' where codigo = 60";
+    EXPECT_EQ(Find("zorro"), (List{}));
+    EXPECT_EQ(Find("tornado"), (List{60}));
+    session << "delete from animal where codigo = 60";
+    EXPECT_EQ(Find("tornado"), (List{}));
+}
+
+TEST_F(AnimalSearch, FixesWhatIsFoundAndFetchesRowsBeyondTheFirstWhenTheyAreReached)
+{
+    for (Key code = 1000; code < 1250; ++code)
+        Add(code, 10, ("Repetido " + std::to_string(code)).c_str(), 1);
+    Animals animals(host_);
+    ASSERT_EQ(Select(animals, "repetido", 0), Value(Integer(0)));
+    const RecordSetRef found = ResultOf(animals);
+    soci::session& session = SharedDatabase(host_.DataSource())->Session();
+    session << "update animal set nome = 'Outro' where codigo = 1000 or codigo = 1190";
+    session << "delete from animal where codigo = 1191";
+    ASSERT_EQ(found->RecordCount(), 250);
+    EXPECT_EQ(found->Field("Nome"), Value("Repetido 1000"));
+    for (int code = 1000; code < 1250; ++code, found->MoveNext())
+        EXPECT_EQ(found->Field("Codigo"), Value(Long(code)));
+    EXPECT_TRUE(found->Eof());
+    found->MoveFirst();
+    for (int row = 0; row < 190; ++row)
+        found->MoveNext();
+    EXPECT_EQ(found->Field("Nome"), Value("Outro"));
+    found->MoveNext();
+    EXPECT_EQ(found->Field("Situacao"), Value(Long(4))) << "gone, so that the picker refuses it";
+    EXPECT_EQ(found->Field("Nome"), Value(""));
+}
+
 TEST_F(AnimalSearch, TakesANumberAsTheCodeWithinTheCustomer)
 {
     for (const Value& code : {Value(Integer(50)), Value(Long(50)), Value(50.0)})

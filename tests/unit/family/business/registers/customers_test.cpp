@@ -164,7 +164,7 @@ TEST_F(CustomerSearch, GivesTypedFields)
 
 TEST_F(CustomerSearch, FixesWhoIsFoundAndFetchesRowsBeyondTheFirstWhenTheyAreReached)
 {
-    for (Key code = 1000; code < 1100; ++code)
+    for (Key code = 1000; code < 1250; ++code)
         Add(code, "Repetido", ("Nome " + std::to_string(code)).c_str(), 1);
     Customers customers(host_);
     ASSERT_EQ(
@@ -173,19 +173,19 @@ TEST_F(CustomerSearch, FixesWhoIsFoundAndFetchesRowsBeyondTheFirstWhenTheyAreRea
         Value(Integer(0)));
     const RecordSetRef found = ResultOf(customers);
     soci::session& session = SharedDatabase(host_.DataSource())->Session();
-    session << "update cliente set nome = 'Outro' where codigo = 1000 or codigo = 1090";
-    session << "delete from canal_de_comunicacao where codigo_do_cliente = 1091";
-    session << "delete from cliente where codigo = 1091";
-    EXPECT_EQ(found->RecordCount(), 100);
+    session << "update cliente set nome = 'Outro' where codigo = 1000 or codigo = 1190";
+    session << "delete from canal_de_comunicacao where codigo_do_cliente = 1191";
+    session << "delete from cliente where codigo = 1191";
+    EXPECT_EQ(found->RecordCount(), 250);
     EXPECT_EQ(found->Field("NomeOuRazaoSocial"), Value("Nome 1000"));
     std::vector<int> codes;
     for (; !found->Eof(); found->MoveNext())
         codes.push_back(found->Field("CodigoDoCliente").ToLong());
-    ASSERT_EQ(codes.size(), 100U);
+    ASSERT_EQ(codes.size(), 250U);
     for (std::size_t row = 0; row < codes.size(); ++row)
         EXPECT_EQ(codes[row], 1000 + static_cast<int>(row));
     found->MoveFirst();
-    for (int row = 0; row < 90; ++row)
+    for (int row = 0; row < 190; ++row)
         found->MoveNext();
     EXPECT_EQ(found->Field("NomeOuRazaoSocial"), Value("Outro"));
     found->MoveNext();

@@ -37,6 +37,10 @@ protected:
     {
         return SelectCustomers(*database_, {name, "", 0, ""}).size();
     }
+    std::size_t FoundByAddress(const std::string& address)
+    {
+        return SelectCustomers(*database_, {"", "", 0, address}).size();
+    }
 
     TemporaryFolder folder_;
     std::shared_ptr<Database> database_;
@@ -110,7 +114,7 @@ TEST(NamesInMemoryOfAShop, AreThoseOfEveryRow)
     std::vector<Known> all;
     KeptRows<FoundCustomerOf> kept;
     for (const Key code : SelectCustomers(*database, {}))
-        FetchCustomer(*database, code, kept);
+        FetchCustomers(*database, std::span(&code, 1), kept);
     for (const auto& row : kept.rows)
         all.push_back({FoldText(row.nome), FoldText(row.apelido) + "\n" + FoldText(row.nome), row.codigo});
     ASSERT_EQ(all.size(), 700U);
@@ -165,13 +169,47 @@ TEST_F(NamesInMemory, AreReadAgainAfterAFailure)
     EXPECT_EQ(Found("marcia"), 1U);
 }
 
+TEST_F(NamesInMemory, StandBesideAddressesThatFollowTheirChangesToo)
+{
+    EXPECT_EQ(FoundByAddress("rua do ipe"), 0U);
+    database_->Session() << "update cliente set endereco_de_busca = 'rua do ipe, 7' where codigo = 1";
+    EXPECT_EQ(FoundByAddress("Rua do Ipê"), 1U);
+    EXPECT_EQ(Found("ipe"), 0U);
+    database_->Session() << "update cliente set endereco_de_busca = '' where codigo = 1";
+    EXPECT_EQ(FoundByAddress("Rua do Ipê"), 0U);
+}
+
 class ChangesCountedPostgresql : public PostgresqlShop {
 protected:
     int Counted() const
     {
-        return std::stoi(shop_.Run("select alteracoes from contador_de_alteracoes").front());
+        return std::stoi(
+            shop_.Run("select alteracoes from contador_de_alteracoes where tabela = 'cliente'").front());
     }
 };
+
+TEST_F(ChangesCountedPostgresql, OfAddressesAnimalsAndHolidaysToo)
+{
+    const auto counted = [this] {
+        return shop_
+            .Run("select string_agg(tabela || ' ' || alteracoes, ', ' order by tabela)"
+                 " from contador_de_alteracoes")
+            .front();
+    };
+    shop_.Run("update contador_de_alteracoes set alteracoes = 0");
+    shop_.Run("update cliente set endereco_de_busca = 'x' where codigo = 10");
+    EXPECT_EQ(counted(), "animal 0, cliente 1, feriado 0");
+    shop_.Run("update animal set situacao = 2 where codigo = 50");
+    shop_.Run("update animal set nome_de_busca = 'x' where codigo = 50");
+    EXPECT_EQ(counted(), "animal 2, cliente 1, feriado 0");
+    shop_.Run("insert into feriado (nome, dia, mes) values ('Feira', 3, 12)");
+    shop_.Run("update feriado set dia = 4");
+    shop_.Run("delete from feriado");
+    EXPECT_EQ(counted(), "animal 2, cliente 1, feriado 3");
+    shop_.Run("update animal set cor = 'Preto' where codigo = 50");
+    shop_.Run("update cliente set vip = 1 where codigo = 10");
+    EXPECT_EQ(counted(), "animal 2, cliente 1, feriado 3") << "nothing that is kept in memory";
+}
 
 TEST_F(ChangesCountedPostgresql, OnceInEachTransaction)
 {

@@ -1,0 +1,108 @@
+#include "family/data/selections/folded_texts.hpp"
+
+#include <algorithm>
+
+namespace kova::family {
+
+namespace {
+
+constexpr char Separator = '\0';
+
+} // namespace
+
+FoldedTexts::FoldedTexts(Database& database, std::string table, const char* selection)
+    : table_(std::move(table)),
+      countChanges_((database.Session().prepare
+                         << "select alteracoes from contador_de_alteracoes where tabela = :tabela",
+                     soci::use(table_, "tabela"), soci::into(changes_))),
+      readTexts_((database.Session().prepare << selection, soci::into(key_), soci::into(text_)))
+{
+}
+
+/// The count is read first: a change that comes in between is then seen at the next search.
+void FoldedTexts::Refresh()
+{
+    countChanges_.execute();
+    while (countChanges_.fetch())
+        continue;
+    if (changes_ == readAt_)
+        return;
+    readAt_ = -1;
+    Read();
+    readAt_ = changes_;
+}
+
+void FoldedTexts::Read()
+{
+    texts_.clear();
+    starts_.clear();
+    keys_.clear();
+    readTexts_.execute();
+    while (readTexts_.fetch()) {
+        starts_.push_back(texts_.size());
+        keys_.push_back(key_);
+        texts_.append(text_).push_back(Separator);
+    }
+    starts_.push_back(texts_.size());
+}
+
+std::string_view FoldedTexts::TextAt(std::uint32_t place) const
+{
+    const std::size_t start = starts_[place];
+    return std::string_view(texts_).substr(start, starts_[place + 1] - start - 1);
+}
+
+/// All texts are looked through as one; after a find it goes on with the next row.
+std::vector<std::uint32_t> FoldedTexts::PlacesWith(std::string_view part) const
+{
+    std::vector<std::uint32_t> places;
+    if (part.find(Separator) != std::string_view::npos)
+        return places;
+    std::uint32_t place = 0;
+    for (std::size_t at = texts_.find(part); at < texts_.size(); at = texts_.find(part, starts_[place])) {
+        while (starts_[place + 1] <= at)
+            ++place;
+        places.push_back(place++);
+    }
+    return places;
+}
+
+std::vector<std::uint32_t> FoldedTexts::PlacesWith(std::string_view part,
+                                                   const std::vector<Key>& others) const
+{
+    std::vector<std::uint32_t> places = PlacesWith(part);
+    if (others.empty())
+        return places;
+    for (const Key key : others)
+        AddPlaceOf(key, places);
+    std::sort(places.begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
+    return places;
+}
+
+void FoldedTexts::AddPlaceOf(Key key, std::vector<std::uint32_t>& places) const
+{
+    const auto found = std::find(keys_.begin(), keys_.end(), key);
+    if (found != keys_.end())
+        places.push_back(static_cast<std::uint32_t>(found - keys_.begin()));
+}
+
+CustomerNames::CustomerNames(Database& database)
+    : FoldedTexts(database, "cliente",
+                  "select codigo, nomes_de_busca from cliente order by nome_de_busca, codigo")
+{
+}
+
+CustomerAddresses::CustomerAddresses(Database& database)
+    : FoldedTexts(database, "cliente", "select codigo, endereco_de_busca from cliente order by codigo")
+{
+}
+
+AnimalNames::AnimalNames(Database& database)
+    : FoldedTexts(
+        database, "animal",
+        "select codigo, nome_de_busca from animal where situacao = 1 order by nome_de_busca, codigo")
+{
+}
+
+} // namespace kova::family

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "family/data/engine/database.hpp"
+#include "family/data/rows/rows.hpp"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace kova::family {
+
+/// A folded text of every row of a table in memory, in an order of the table's own. Kept with the connection,
+/// read again when the database has counted a change of the table. It is the same for both engines: no index
+/// of theirs finds a part of a word without an extension that a shop may be unable to install. Use it through
+/// Database::With.
+class FoldedTexts : public KeptStatement {
+public:
+    /// Reads the texts where they are not those of the database any more.
+    void Refresh();
+
+    /// Places, from 0 in the order of the texts, of the rows with the part in theirs; an empty part is in
+    /// all. A part does not run from one line of a text into the next.
+    std::vector<std::uint32_t> PlacesWith(std::string_view part) const;
+    /// The same with the places of some rows beside, each place once and in order. A key that no row has adds
+    /// none.
+    std::vector<std::uint32_t> PlacesWith(std::string_view part, const std::vector<Key>& others) const;
+
+    Key KeyAt(std::uint32_t place) const { return keys_[place]; }
+    std::string_view TextAt(std::uint32_t place) const;
+
+protected:
+    /// `table` is the name under which the changes are counted; `selection` gives key and text of every row.
+    FoldedTexts(Database& database, std::string table, const char* selection);
+
+private:
+    void Read();
+    void AddPlaceOf(Key key, std::vector<std::uint32_t>& places) const;
+
+    /// One after the other, each with a separator behind it.
+    std::string texts_;
+    /// Where each begins; one more at the end.
+    std::vector<std::size_t> starts_;
+    std::vector<Key> keys_;
+    long long readAt_ = -1;
+
+    std::string table_;
+    long long changes_ = 0;
+    soci::statement countChanges_;
+    Key key_ = 0;
+    std::string text_;
+    soci::statement readTexts_;
+};
+
+/// Nickname and name of every customer with a line break between them, by name, then code. About 50 bytes for
+/// a customer.
+struct CustomerNames : FoldedTexts {
+    explicit CustomerNames(Database& database);
+};
+
+/// The address of every customer, with its postal code, by code. About 70 bytes for a customer, read when
+/// somebody first looks for an address.
+struct CustomerAddresses : FoldedTexts {
+    explicit CustomerAddresses(Database& database);
+};
+
+/// The name of every active animal, by name, then code. About 25 bytes for an animal.
+struct AnimalNames : FoldedTexts {
+    explicit AnimalNames(Database& database);
+};
+
+} // namespace kova::family
