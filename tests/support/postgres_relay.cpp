@@ -142,6 +142,7 @@ bool PostgresRelay::PassToServer(int client, int server)
     const std::string said = Receive(client);
     if (said.empty())
         return false;
+    ++roundTrips_;
     const Breaks breaks = IsCommit(said) ? Take() : Breaks::Nothing;
     if (breaks == Breaks::Nothing)
         return Send(server, said);

@@ -48,6 +48,8 @@ public:
 
     /// Commits that were broken.
     int Broken() const { return broken_; }
+    /// How often a client has said something; it goes on only when it has been answered.
+    int RoundTrips() const { return roundTrips_; }
 
 private:
     void Listen();
@@ -64,7 +66,7 @@ private:
     std::string folder_;
     int listener_ = -1;
     std::atomic<Breaks> breaks_ = Breaks::Nothing;
-    std::atomic<int> more_ = 0, broken_ = 0;
+    std::atomic<int> more_ = 0, broken_ = 0, roundTrips_ = 0;
     std::atomic<bool> refuses_ = false, ends_ = false;
     std::atomic<int> generation_ = 0;
     std::vector<std::thread> passing_;

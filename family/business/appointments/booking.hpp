@@ -4,6 +4,7 @@
 #include "family/business/appointments/employee_room.hpp"
 #include "family/business/appointments/typed_times.hpp"
 #include "family/data/stores/appointment_rows.hpp"
+#include "family/data/stores/booking_registers.hpp"
 #include "family/data/stores/holiday_calendar.hpp"
 
 namespace kova::family {
@@ -38,6 +39,8 @@ struct Booking {
     /// Of the stored appointment; nothing where it takes none, being cancelled.
     std::optional<Place> place;
 
+    /// What it refers to, as it stands in the transaction.
+    BookingRegisters registers;
     /// What its appointments have in common.
     AppointmentRow row;
     BookedService service;

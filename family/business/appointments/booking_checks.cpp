@@ -1,9 +1,7 @@
 #include "family/business/appointments/booking.hpp"
 #include "family/business/appointments/repetition.hpp"
 #include "family/business/clean_text.hpp"
-#include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/appointment_status.hpp"
-#include "family/data/stores/booking_registers.hpp"
 
 #include <span>
 
@@ -50,7 +48,7 @@ constexpr BookingCheck ChecksOfSimplifiedRecord[] = {
 
 Refusal CustomerIsUsable(Booking& booking)
 {
-    const auto customer = FindByKey<BookedCustomer>(booking.database, KeyOf(booking.input.customer));
+    const auto& customer = booking.registers.customer;
     if (!customer)
         return WriteAnswer::InvalidField("CodigoDoCliente", "Informe o cliente.");
     if (!customer->IsUsable())
@@ -71,7 +69,7 @@ Refusal CustomerHasAName(Booking& booking)
 
 Refusal AnimalIsOfCustomer(Booking& booking)
 {
-    const auto animal = FindByKey<BookedAnimal>(booking.database, booking.input.animal);
+    const auto& animal = booking.registers.animal;
     if (!animal || animal->customer != booking.row.codigoDoCliente.value)
         return WriteAnswer::InvalidField("CodigoDoAnimal", "Selecione o animal.");
     booking.row.codigoDoAnimal = animal->code;
@@ -93,7 +91,7 @@ Refusal AnimalHasAName(Booking& booking)
 
 Refusal ServiceTypeIsKnown(Booking& booking)
 {
-    const auto type = FindByKey<BookedServiceType>(booking.database, booking.input.serviceType);
+    const auto& type = booking.registers.serviceType;
     if (!type)
         return WriteAnswer::InvalidField("NumeroDoTipoDeServico", "Selecione o tipo de serviço.");
     booking.row.numeroDoTipoDeServico = type->number;
@@ -102,7 +100,7 @@ Refusal ServiceTypeIsKnown(Booking& booking)
 
 Refusal ServiceIsOfThatType(Booking& booking)
 {
-    const auto service = FindByKey<BookedService>(booking.database, KeyOf(booking.input.service));
+    const auto& service = booking.registers.service;
     if (!service || !service->IsActive())
         return WriteAnswer::InvalidField("CodigoDoServico", "Informe o serviço.");
     if (service->type != booking.row.numeroDoTipoDeServico)
@@ -142,7 +140,7 @@ Refusal TimesArePossible(Booking& booking)
 
 Refusal EmployeeIsActive(Booking& booking)
 {
-    const auto employee = FindByKey<BookedEmployee>(booking.database, booking.input.employee);
+    const auto& employee = booking.registers.employee;
     if (!employee || !employee->IsActive())
         return WriteAnswer::InvalidField("CodigoDoFuncionario", "Selecione o(a) funcionário(a).");
     booking.employee = *employee;
@@ -156,6 +154,14 @@ Refusal StatusIsKnown(Booking& booking)
         return WriteAnswer::InvalidField("Situacao", "Selecione a situação.");
     booking.row.situacao = booking.input.status;
     return std::nullopt;
+}
+
+void LookUpRegisters(Booking& booking)
+{
+    const AppointmentInput& input = booking.input;
+    booking.registers = FindBookingRegisters(
+        booking.database,
+        {KeyOf(input.customer), input.animal, input.serviceType, KeyOf(input.service), input.employee});
 }
 
 /// What no check is about.
@@ -175,6 +181,7 @@ void TakeTheRest(Booking& booking)
 
 Refusal Check(Booking& booking)
 {
+    LookUpRegisters(booking);
     TakeTheRest(booking);
     const std::span<const BookingCheck> checks = booking.input.IsSimplified()
         ? std::span<const BookingCheck>(ChecksOfSimplifiedRecord)

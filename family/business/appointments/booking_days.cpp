@@ -52,7 +52,7 @@ void LookUpDays(Booking& booking)
                             [](const TimeSpan& a, const TimeSpan& b) { return a.start < b.start; });
     booking.room.emplace(booking.database, booking.employee, booking.row.numero, first->start.date,
                          last->end.date);
-    booking.holidays.emplace(booking.database);
+    booking.holidays.emplace(booking.database, booking.registers.changesOfHolidays);
 }
 
 TimeSpan NextDay(Booking& booking, TimeSpan span)

@@ -2,8 +2,12 @@
 
 #include "family/data/rows/rows.hpp"
 
-/// What a booking has to know of the registers that it refers to; read with FindByKey.
+#include <optional>
+
+/// What a booking has to know of the registers that it refers to.
 namespace kova::family {
+
+class Database;
 
 struct BookedCustomer {
     static constexpr const char* Table = "cliente";
@@ -78,5 +82,25 @@ struct BookedEmployee {
         visit("situacao", status);
     }
 };
+
+/// What a booking refers to; 0 is nothing.
+struct BookingKeys {
+    Key customer = 0, animal = 0, serviceType = 0, service = 0, employee = 0;
+};
+
+/// The rows of these keys; nothing where there is none.
+struct BookingRegisters {
+    std::optional<BookedCustomer> customer;
+    std::optional<BookedAnimal> animal;
+    std::optional<BookedServiceType> serviceType;
+    std::optional<BookedService> service;
+    std::optional<BookedEmployee> employee;
+    /// How often the holidays were changed, for HolidayCalendar.
+    long long changesOfHolidays = 0;
+};
+
+/// Reads them all at once, since a server that lies far away answers one question as soon as five. Locks the
+/// employee, as FindByKey does, in the transaction that is open. Fails as Database::With.
+BookingRegisters FindBookingRegisters(Database& database, const BookingKeys& keys);
 
 } // namespace kova::family

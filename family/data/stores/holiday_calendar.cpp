@@ -10,33 +10,6 @@ namespace kova::family {
 
 namespace {
 
-class HolidaySelection : public KeptStatement {
-public:
-    explicit HolidaySelection(Database& database)
-        : statement_((database.Session().prepare
-                          << "select nome, dia, mes, data from feriado"
-                             " where data is null or substr(data, 1, 4) = :ano order by codigo",
-                      soci::into(row_.nome), soci::into(row_.dia.value, row_.dia.state),
-                      soci::into(row_.mes.value, row_.mes.state),
-                      soci::into(row_.data.value, row_.data.state), soci::use(year_, "ano")))
-    {
-    }
-
-    template <class Take> void Run(const std::string& year, Take take)
-    {
-        year_ = year;
-        statement_.execute();
-        while (statement_.fetch())
-            take(row_);
-    }
-
-private:
-    /// "yyyy"
-    std::string year_;
-    HolidayRow row_;
-    soci::statement statement_;
-};
-
 std::string DateOf(const HolidayRow& row)
 {
     if (!row.data.IsNull())
@@ -46,23 +19,65 @@ std::string DateOf(const HolidayRow& row)
     return text;
 }
 
-} // namespace
+class HolidaysInMemory : public KeptStatement {
+public:
+    explicit HolidaysInMemory(Database& database)
+        : countChanges_((database.Session().prepare
+                             << "select alteracoes from contador_de_alteracoes where tabela = 'feriado'",
+                         soci::into(counted_))),
+          readHolidays_(
+              (database.Session().prepare << "select nome, dia, mes, data from feriado order by codigo",
+               soci::into(row_.nome), soci::into(row_.dia.value, row_.dia.state),
+               soci::into(row_.mes.value, row_.mes.state), soci::into(row_.data.value, row_.data.state)))
+    {
+    }
 
-void HolidayCalendar::Read(int year)
-{
-    database_.With<HolidaySelection>([&](HolidaySelection& selection) {
-        selection.Run(IsoDate({year, 1, 1}).substr(0, 4),
-                      [this](const HolidayRow& row) { names_.try_emplace(DateOf(row), row.nome); });
-    });
-}
+    /// `changes` is how often they were changed, read before; nothing where that is to be asked.
+    std::shared_ptr<const HolidayCalendar::Names> After(std::optional<long long> changes)
+    {
+        const long long now = changes ? *changes : Counted();
+        if (!names_ || now != readAt_) {
+            names_ = Read();
+            readAt_ = now;
+        }
+        return names_;
+    }
+
+private:
+    long long Counted()
+    {
+        countChanges_.execute();
+        while (countChanges_.fetch())
+            continue;
+        return counted_;
+    }
+
+    std::shared_ptr<const HolidayCalendar::Names> Read()
+    {
+        auto names = std::make_shared<HolidayCalendar::Names>();
+        readHolidays_.execute();
+        while (readHolidays_.fetch())
+            names->try_emplace(DateOf(row_), row_.nome);
+        return names;
+    }
+
+    std::shared_ptr<const HolidayCalendar::Names> names_;
+    long long readAt_ = 0, counted_ = 0;
+    soci::statement countChanges_;
+    HolidayRow row_;
+    soci::statement readHolidays_;
+};
+
+} // namespace
 
 std::optional<std::string> HolidayCalendar::On(Date date)
 {
-    if (years_.insert(date.year).second)
-        Read(date.year);
+    if (!names_)
+        names_ =
+            database_.With<HolidaysInMemory>([this](HolidaysInMemory& kept) { return kept.After(changes_); });
     const std::string iso = IsoDate(date);
     for (const std::string_view key : {std::string_view(iso), std::string_view(iso).substr(5)}) {
-        if (const auto found = names_.find(key); found != names_.end())
+        if (const auto found = names_->find(key); found != names_->end())
             return found->second;
     }
     return std::nullopt;

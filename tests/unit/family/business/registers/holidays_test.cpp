@@ -90,6 +90,31 @@ TEST_F(RegisteredHolidays, AreTheSameForTheBookingRule)
     }
 }
 
+TEST_F(RegisteredHolidays, StayAsTheyWereForOneBookingAndAreReadAgainForTheNextAfterAChange)
+{
+    Database& database = *SharedDatabase(host_.DataSource());
+    const Date fair{2026, 12, 3};
+    HolidayCalendar calendar(database);
+    EXPECT_EQ(calendar.On(fair), "Feira");
+    Run("update feriado set nome = 'Festa' where codigo = 1002");
+    EXPECT_EQ(calendar.On(fair), "Feira");
+    EXPECT_EQ(HolidayCalendar(database).On(fair), "Festa");
+    Run("delete from feriado where codigo = 1002");
+    EXPECT_EQ(HolidayCalendar(database).On(fair), std::nullopt);
+    Insert(database, HolidayRow{1002, "Feira", {}, {}, std::string("2026-12-03")});
+    EXPECT_EQ(HolidayCalendar(database).On(fair), "Feira");
+}
+
+TEST_F(RegisteredHolidays, OfWhichTheChangesAreKnownAreNotAskedForAgain)
+{
+    Database& database = *SharedDatabase(host_.DataSource());
+    const Date fair{2026, 12, 3};
+    EXPECT_EQ(HolidayCalendar(database, 7).On(fair), "Feira");
+    Run("delete from feriado where codigo = 1002");
+    EXPECT_EQ(HolidayCalendar(database, 7).On(fair), "Feira");
+    EXPECT_EQ(HolidayCalendar(database, 8).On(fair), std::nullopt);
+}
+
 TEST_F(RegisteredHolidays, TellAFailureWhereTheTextIsNoDate)
 {
     Holidays holidays(desk_);

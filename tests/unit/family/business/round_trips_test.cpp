@@ -1,0 +1,109 @@
+// How often a desk asks a server, which may lie far away: each question costs a way there and back.
+
+#include "tests/support/postgres_relay.hpp"
+#include "tests/unit/family/business/appointments/desk_fixture.hpp"
+#include "tests/unit/family/server_fixture.hpp"
+
+#include "family/business/appointments/appointment_writes.hpp"
+#include "family/business/registers/animals.hpp"
+#include "family/business/registers/customers.hpp"
+#include "family/data/sources/shared_database.hpp"
+
+namespace kova::family::test {
+
+class RoundTripsPostgresql : public PostgresqlShop {
+protected:
+    ~RoundTripsPostgresql() override { CloseSharedDatabases(); }
+
+    /// Ways there and back that an action costs.
+    template <class Action> int Count(Action action)
+    {
+        const int before = relay_.RoundTrips();
+        action();
+        return relay_.RoundTrips() - before;
+    }
+
+    Database& Data() { return *SharedDatabase(host_.DataSource()); }
+    void Book(const AppointmentInput& input)
+    {
+        const WriteAnswer answer = AddAppointments(Data(), input, Somebody);
+        EXPECT_TRUE(answer.IsDone()) << answer.field << " " << answer.text;
+    }
+    static AppointmentInput FullBath(const Text& date)
+    {
+        AppointmentInput input = Bath(date);
+        input.kind = 0;
+        input.customer = 10;
+        input.animal = 50;
+        return input;
+    }
+
+    /// Reads every field of every row.
+    static void ReadAll(Component& component)
+    {
+        for (const RecordSetRef rows = ResultOf(component); !rows->Eof(); rows->MoveNext())
+            for (int field = 0; field < rows->FieldCount(); ++field)
+                rows->Field(field);
+    }
+    void PickCustomers()
+    {
+        Customers customers(host_);
+        ASSERT_EQ(customers.Call(
+                      "Selecionar",
+                      {Long(2), Integer(0), Long(0), "repetido", "", Double(0), "", "", "", Double(0), ""}),
+                  Value(Integer(0)));
+        ASSERT_EQ(ResultOf(customers)->RecordCount(), Hits);
+        ReadAll(customers);
+    }
+    void PickAnimals()
+    {
+        Animals animals(host_);
+        ASSERT_EQ(
+            animals.Call("Selecionar", {Long(2), Integer(0), Long(1), "repetido", Integer(1), Double(0)}),
+            Value(Integer(0)));
+        ASSERT_EQ(ResultOf(animals)->RecordCount(), Hits);
+        ReadAll(animals);
+    }
+
+    static constexpr int Hits = 3000;
+
+    kova::test::PostgresRelay relay_{Server()};
+    DeskHost host_{relay_.AddressOf(shop_.Name())};
+};
+
+/// The transaction's beginning and end, the mark by which a repeated write is known, what the booking refers
+/// to, the employee's hours, the appointment and its line in the audit.
+TEST_F(RoundTripsPostgresql, OfABookingAreSeven)
+{
+    // Statements are prepared and the holidays read at the first time.
+    Book(FullBath("01/12/2026"));
+    EXPECT_EQ(Count([&] { Book(FullBath("02/12/2026")); }), 7);
+    EXPECT_EQ(Count([&] { Book(Bath("03/12/2026")); }), 7);
+}
+
+TEST_F(RoundTripsPostgresql, OfABookingAreOneMoreAfterAChangeOfTheHolidays)
+{
+    Book(FullBath("01/12/2026"));
+    shop_.Run("insert into feriado (nome, dia, mes) values ('Feira', 3, 12)");
+    EXPECT_EQ(Count([&] { Book(FullBath("02/12/2026")); }), 8);
+    EXPECT_EQ(AddAppointments(Data(), FullBath("03/12/2026"), Somebody).field, "DomingoOuFeriado");
+}
+
+TEST_F(RoundTripsPostgresql, OfAPickerAreOneForEachHundredFoundAndOneForTheSearch)
+{
+    shop_.Run("insert into cliente (codigo, tipo_de_pessoa, apelido, nome, documento, categoria_da_curva_abc,"
+              " logradouro, numero, complemento, bairro, cidade, uf, cep, endereco_completo,"
+              " endereco_completo_com_cep, tipos_e_canais, nome_de_busca, nomes_de_busca)"
+              " select 1000 + i, 'PF', 'Repetido', 'Nome', '', 'A', '', '', '', '', '', '', '', '', '', '',"
+              " 'nome', 'repetido' from generate_series(1, 3000) as i");
+    shop_.Run("insert into animal (codigo, codigo_do_cliente, nome, sexo, codigo_da_raca, porte, cor,"
+              " nome_de_busca) select 1000 + i, 1000 + i, 'Repetido', 'M', 1, 2, '', 'repetido'"
+              " from generate_series(1, 3000) as i");
+    // Names are read and statements prepared at the first time.
+    PickCustomers();
+    PickAnimals();
+    EXPECT_EQ(Count([&] { PickCustomers(); }), 1 + Hits / 100);
+    EXPECT_EQ(Count([&] { PickAnimals(); }), 1 + Hits / 100);
+}
+
+} // namespace kova::family::test
