@@ -60,6 +60,27 @@ void KeepFromOthers(const std::string& path)
         system::KeepFromOthers(path + companion);
 }
 
+/// Has the engine look again at the tables that have grown a good deal since it looked at them last, so that
+/// its plans suit them. Nobody waits for that, and where somebody else is writing it is left to the next one
+/// who closes.
+void LookAtGrownTables(Database& database)
+{
+    constexpr const char* Settings[] = {"pragma busy_timeout = 0", "pragma analysis_limit = 400",
+                                        "pragma optimize"};
+    try {
+        for (const char* setting : Settings)
+            database.Session() << setting;
+    } catch (const soci::soci_error&) {
+        return;
+    }
+}
+
+void CloseFile(Database* database)
+{
+    const std::unique_ptr<Database> closing(database);
+    LookAtGrownTables(*closing);
+}
+
 } // namespace
 
 std::optional<std::string> CheckFileSource(const std::string& path, Migrations migrations)
@@ -80,14 +101,14 @@ std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migration
         throw DatabaseFailure(*refusal);
     KeepFromOthers(path);
     const int newest = NewestVersion(migrations);
-    std::shared_ptr<Database> database = ConnectForWork(path);
+    std::unique_ptr<Database> database = ConnectForWork(path);
     if (!IsOfVersion(*database, newest)) {
         database.reset();
         MigrateFile(path, migrations);
         database = ConnectForWork(path);
     }
     database->ExpectSchema(newest);
-    return database;
+    return {database.release(), CloseFile};
 }
 
 void BuildFile(const std::string& path, const std::function<void(Database&)>& fill, Migrations migrations)
