@@ -1,5 +1,6 @@
 #include "family/demo/appointments.hpp"
 
+#include "family/data/audit/audit.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/stores/appointment_rows.hpp"
@@ -198,6 +199,25 @@ private:
         Insert(database_, row);
         if (row.situacao == 4)
             WritePreSale(row);
+        if (plan_.audited)
+            WriteAudit(row);
+    }
+
+    /// What the desk has left that booked it, and the one that changed it.
+    void WriteAudit(const AppointmentRow& row)
+    {
+        AppointmentRow booked = row;
+        booked.situacao = 1;
+        booked.alteradoEm = booked.alteradoPor = {};
+        const Author author{"1", row.incluidoPor, row.incluidoEm, "BALCAO"};
+        AuditInsertion(database_, author, AppointmentRow::Table, row.numero, ValuesOf(booked));
+        if (row.alteradoEm.IsNull())
+            return;
+        const Author changer{"1", row.alteradoPor.value, row.alteradoEm.value, "BALCAO"};
+        AuditValues before, after;
+        before.Add("situacao", booked.situacao).Add("alterado_em", booked.alteradoEm);
+        after.Add("situacao", row.situacao).Add("alterado_em", row.alteradoEm);
+        AuditChange(database_, changer, AppointmentRow::Table, row.numero, before, after);
     }
 
     /// What lies before today is over, today is over until noon, the rest is to come.

@@ -14,6 +14,9 @@ struct AppointmentPlan {
     int days = 0;
     long long total = 0;
     int perDay = 40;
+    /// With the lines that the writes of a desk leave in the audit, which make a database several times
+    /// larger.
+    bool audited = false;
 };
 
 /// Writes the appointments with their packages and pre-sales.

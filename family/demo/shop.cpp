@@ -13,6 +13,8 @@ namespace {
 constexpr std::uint64_t Seed = 20081;
 constexpr int DaysAround = 60;
 constexpr int MeasuredDays = 2500;
+/// Appointments a day: of a small shop, and of an employee who has much or as much as usual to do.
+constexpr int UsualPerDay = 40, MostOfEmployee = 6, UsualOfEmployee = 4;
 
 /// What the state and the town add to the national holidays.
 void WriteHolidays(Database& database)
@@ -36,6 +38,18 @@ void Fill(Database& database, const ShopPlan& plan)
     WriteAppointments(database, registers, customers, plan.appointments, random);
 }
 
+ShopPlan PlanOf(Date date, int customers, long long appointments, int employees, int perDay)
+{
+    if (customers < 1 || appointments < 1)
+        throw Failure(FailureNumber::InvalidArgument);
+    const Long days = static_cast<Long>(appointments / perDay) + 1;
+    ShopPlan plan;
+    plan.employees = employees;
+    plan.customers = customers;
+    plan.appointments = {date, AddDays(date, -days / 2), 0, appointments, perDay};
+    return plan;
+}
+
 } // namespace
 
 ShopPlan DemonstrationPlan(Date date)
@@ -47,15 +61,16 @@ ShopPlan DemonstrationPlan(Date date)
 
 ShopPlan MeasuringPlan(Date date, int customers, long long appointments)
 {
-    if (customers < 1 || appointments < 1)
+    const int perDay = static_cast<int>(std::max<long long>(UsualPerDay, appointments / MeasuredDays));
+    return PlanOf(date, customers, appointments, std::max(ShopPlan().employees, perDay / MostOfEmployee),
+                  perDay);
+}
+
+ShopPlan MeasuringPlan(Date date, int customers, long long appointments, int employees)
+{
+    if (employees < FewestEmployees)
         throw Failure(FailureNumber::InvalidArgument);
-    const int perDay = static_cast<int>(std::max<long long>(40, appointments / MeasuredDays));
-    const Long days = static_cast<Long>(appointments / perDay) + 1;
-    ShopPlan plan;
-    plan.employees = std::max(ShopPlan().employees, perDay / 6);
-    plan.customers = customers;
-    plan.appointments = {date, AddDays(date, -days / 2), 0, appointments, perDay};
-    return plan;
+    return PlanOf(date, customers, appointments, employees, employees * UsualOfEmployee);
 }
 
 void CreateShop(const std::string& path, const ShopPlan& plan)

@@ -20,6 +20,11 @@ ShopPlan DemonstrationPlan(Date date);
 /// about 2,500 days around the date. Fails with 5 where a number is below 1.
 ShopPlan MeasuringPlan(Date date, int customers, long long appointments);
 
+/// The same with so few employees that the appointments lie on as many days as they need. Fails with 5 below
+/// FewestEmployees, with whom not every service is given.
+inline constexpr int FewestEmployees = 6;
+ShopPlan MeasuringPlan(Date date, int customers, long long appointments, int employees);
+
 /// Makes the database of the shop at `path`. Fails as CreateDatabase.
 void CreateShop(const std::string& path, const ShopPlan& plan);
 

@@ -117,6 +117,16 @@ TEST_F(AgendaData, GeneratesAsManyAsAskedFor)
     EXPECT_TRUE(Said("agendamento: 700\n"));
 }
 
+TEST_F(AgendaData, GeneratesAShopOfFewEmployeesWithItsAudit)
+{
+    EXPECT_EQ(
+        Run({"generate", a_, "--customers", "50", "--appointments", "200", "--employees", "1", "--audit"}),
+        0);
+    EXPECT_EQ(Run({"check", a_}), 0);
+    EXPECT_TRUE(Said("funcionario: 6\n"));
+    EXPECT_FALSE(Said("auditoria: 0\n"));
+}
+
 TEST_F(AgendaData, NeverReplacesAFile)
 {
     WriteContent(folder_ / "a.db", "nota");

@@ -150,6 +150,28 @@ TEST(MeasuringPlan, MakesExactlyWhatWasAskedFor)
     EXPECT_THROW(MeasuringPlan({2026, 11, 20}, 0, 1), Failure);
 }
 
+TEST(MeasuringPlan, WithFewEmployeesGivesThemAllThereIsToDoAndLeavesItsAudit)
+{
+    const TemporaryFolder folder;
+    ShopPlan plan = MeasuringPlan({2026, 11, 20}, 50, 1000, FewestEmployees);
+    plan.appointments.audited = true;
+    CreateShop(folder / "poucos.db", plan);
+    const DatabaseReport check = CheckDatabase(folder / "poucos.db");
+    EXPECT_EQ(check.problems, std::vector<std::string>());
+    std::map<std::string, long long> rows;
+    for (const TableCount& table : check.tables)
+        rows[table.name] = table.rows;
+    EXPECT_EQ(rows["funcionario"], FewestEmployees);
+    EXPECT_EQ(rows["agendamento"], 1000);
+    long long changed = 0;
+    OpenForReading(folder / "poucos.db")->Session()
+        << "select count(*) from agendamento where alterado_em is not null",
+        soci::into(changed);
+    EXPECT_GT(changed, 0);
+    EXPECT_EQ(rows["auditoria"], 1000 + changed);
+    EXPECT_THROW(MeasuringPlan({2026, 11, 20}, 50, 1000, FewestEmployees - 1), Failure);
+}
+
 TEST(Documents, EndInTheirCheckDigits)
 {
     EXPECT_EQ(WithCpfCheckDigits("123456789"), "12345678909");
