@@ -8,6 +8,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_migration.hpp"
 #include "family/data/stores/appointment_rows.hpp"
+#include "tests/support/small_files.hpp"
 #include "tests/support/sqlite_file.hpp"
 
 #include <algorithm>
@@ -177,6 +178,17 @@ TEST_F(SchemaMigration, OfADamagedFileIsNotTried)
     EXPECT_EQ(Copies().size(), 0U);
     EXPECT_EQ(kova::test::SqliteFile(path_).Run("select max(versao) from versao_do_esquema").front(),
               std::to_string(Newest));
+}
+
+TEST_F(SchemaMigration, WithoutRoomForTheCopyChangesNothing)
+{
+    {
+        // Less than the shop's tables need.
+        const kova::test::SmallFiles small(60'000);
+        EXPECT_THROW(OpenDatabase(path_, NextVersion), Failure);
+    }
+    EXPECT_TRUE(Copies().empty());
+    EXPECT_EQ(StoredVersion(OpenDatabase(path_)->Session()), Newest);
 }
 
 TEST_F(SchemaMigration, OfRowsThatReferToNothingKeepsThem)
