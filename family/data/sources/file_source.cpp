@@ -60,14 +60,23 @@ void KeepFromOthers(const std::string& path)
         system::KeepFromOthers(path + companion);
 }
 
+bool HasWritten(Database& database)
+{
+    int changes = 0;
+    database.Session() << "select total_changes()", soci::into(changes);
+    return changes > 0;
+}
+
 /// Has the engine look again at the tables that have grown a good deal since it looked at them last, so that
 /// its plans suit them. Nobody waits for that, and where somebody else is writing it is left to the next one
-/// who closes.
+/// who closes. Who has only read leaves the file as it is.
 void LookAtGrownTables(Database& database)
 {
     constexpr const char* Settings[] = {"pragma busy_timeout = 0", "pragma analysis_limit = 400",
                                         "pragma optimize"};
     try {
+        if (!HasWritten(database))
+            return;
         for (const char* setting : Settings)
             database.Session() << setting;
     } catch (const soci::soci_error&) {

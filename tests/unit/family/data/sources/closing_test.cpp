@@ -6,6 +6,8 @@
 #include "family/data/selections/day_selection.hpp"
 #include "family/data/sources/data_source.hpp"
 
+#include <filesystem>
+
 namespace kova::family::test {
 
 class ClosingAFile : public testing::Test {
@@ -61,6 +63,17 @@ TEST_F(ClosingAFile, HasItLookAgainWhenATableHasGrownAGoodDeal)
     const int first = Known();
     Work(5000);
     EXPECT_GT(Known(), 10 * first);
+}
+
+TEST_F(ClosingAFile, LeavesItAsItIsWhereNothingWasWritten)
+{
+    Work(1);
+    const auto written = std::filesystem::last_write_time(path_);
+    {
+        const auto database = OpenDatabase(path_);
+        EXPECT_EQ(SelectDay(*database, {"2026-11-21", 0, 0, 0, 0, ""}).rows.size(), 0U);
+    }
+    EXPECT_EQ(std::filesystem::last_write_time(path_), written);
 }
 
 TEST_F(ClosingAFile, WaitsForNobodyWhoIsWriting)
