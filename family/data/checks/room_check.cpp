@@ -1,6 +1,6 @@
 #include "family/data/checks/rule_check.hpp"
+#include "family/data/checks/walk_pages.hpp"
 #include "family/data/engine/iso_text.hpp"
-#include "family/data/rows/page_size.hpp"
 
 #include <map>
 #include <set>
@@ -65,15 +65,8 @@ public:
 
     template <class Visit> void ForEach(Visit visit)
     {
-        for (std::size_t found = PageSize; found == PageSize;) {
-            found = 0;
-            statement_.execute();
-            while (statement_.fetch()) {
-                ++found;
-                visit(row_);
-            }
-            after_ = row_;
-        }
+        WalkPages(
+            statement_, [&] { visit(row_); }, [&] { after_ = row_; });
     }
 
 private:

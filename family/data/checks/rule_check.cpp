@@ -1,5 +1,5 @@
 #include "family/data/checks/rule_check.hpp"
-#include "family/data/rows/page_size.hpp"
+#include "family/data/checks/walk_pages.hpp"
 
 #include <iterator>
 #include <limits>
@@ -90,15 +90,9 @@ void FindRowsThatBreak(const Rule& rule, Database& database, std::vector<std::st
         (database.Session().prepare << "select " + key + " from " + table + " where (" + rule.condition
                  + ") and " + key + " > :apos order by " + key + " limit " + std::to_string(PageSize),
          soci::into(number), soci::use(after, "apos"));
-    for (std::size_t found = PageSize; found == PageSize;) {
-        found = 0;
-        statement.execute();
-        while (statement.fetch()) {
-            ++found;
-            after = number;
-            problems.push_back(table + " " + std::to_string(number) + ": " + rule.text);
-        }
-    }
+    WalkPages(
+        statement, [&] { problems.push_back(table + " " + std::to_string(number) + ": " + rule.text); },
+        [&] { after = number; });
 }
 
 } // namespace

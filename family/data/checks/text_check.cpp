@@ -1,9 +1,9 @@
 #include "family/data/checks/rule_check.hpp"
+#include "family/data/checks/walk_pages.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/migration.hpp"
 #include "family/data/engine/nullable.hpp"
-#include "family/data/rows/page_size.hpp"
 #include "family/data/sources/data_source.hpp"
 
 #include <iterator>
@@ -56,16 +56,13 @@ void ForEachText(Database& database, const NamedTable& table, const std::string&
                  + key + " > :apos order by " + key + " limit " + std::to_string(PageSize),
          soci::into(number), soci::into(first), soci::into(second.value, second.state),
          soci::use(after, "apos"));
-    for (std::size_t found = PageSize; found == PageSize;) {
-        found = 0;
-        statement.execute();
-        while (statement.fetch()) {
-            ++found;
-            after = number;
+    WalkPages(
+        statement,
+        [&] {
             if (!second.IsNull())
                 visit(table.table + (" " + std::to_string(number)), first, second.value);
-        }
-    }
+        },
+        [&] { after = number; });
 }
 
 } // namespace

@@ -78,6 +78,16 @@ protected:
         statement_.define_and_bind();
     }
 
+    /// Runs it and answers all the rows that it finds.
+    std::vector<Row> FetchRows()
+    {
+        std::vector<Row> rows;
+        statement_.execute();
+        while (statement_.fetch())
+            rows.push_back(row_);
+        return rows;
+    }
+
     Row row_;
     soci::statement statement_;
 

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "family/data/rows/key_of_row.hpp"
-#include "family/data/rows/page_size.hpp"
+#include "family/data/rows/read_pages.hpp"
 #include "family/data/rows/row_statement.hpp"
 
 #include <functional>
-#include <limits>
 
 namespace kova::family {
 
@@ -24,11 +22,7 @@ public:
     std::vector<Row> Run(Key after)
     {
         after_ = after;
-        std::vector<Row> page;
-        this->statement_.execute();
-        while (this->statement_.fetch())
-            page.push_back(this->row_);
-        return page;
+        return this->FetchRows();
     }
 
 private:
@@ -40,16 +34,11 @@ private:
 template <class Row>
 void SelectPages(Database& database, const std::function<void(std::vector<Row>& page)>& visit)
 {
-    Key after = std::numeric_limits<Key>::min();
-    for (bool goesOn = true; goesOn;) {
-        std::vector<Row> page =
-            database.With<ReadPage<Row>>([&](ReadPage<Row>& reading) { return reading.Run(after); });
-        goesOn = page.size() == PageSize;
-        if (page.empty())
-            break;
-        after = KeyOfRow(page.back());
-        visit(page);
-    }
+    ReadPages<Row>(
+        [&](Key after) {
+            return database.With<ReadPage<Row>>([&](ReadPage<Row>& reading) { return reading.Run(after); });
+        },
+        visit);
 }
 
 /// The same, one row at a time.

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "family/data/rows/key_of_row.hpp"
-#include "family/data/rows/page_size.hpp"
+#include "family/data/rows/read_pages.hpp"
 #include "family/data/rows/row_statement.hpp"
 
 #include <algorithm>
 #include <functional>
-#include <limits>
 #include <set>
 
 namespace kova::family {
@@ -46,11 +44,7 @@ public:
         const auto end = std::copy(values.begin(), values.end(), values_.begin());
         std::fill(end, values_.end(), values.back());
         after_ = after;
-        std::vector<Row> page;
-        this->statement_.execute();
-        while (this->statement_.fetch())
-            page.push_back(this->row_);
-        return page;
+        return this->FetchRows();
     }
 
 private:
@@ -72,16 +66,11 @@ void SelectGroup(Database& database, const std::vector<Value>& group,
                  const std::function<void(const Row&)>& visit)
 {
     using Reading = ReadPageWhere<Row, Value>;
-    Key after = std::numeric_limits<Key>::min();
-    for (bool goesOn = true; goesOn;) {
-        std::vector<Row> page =
-            database.With<Reading>([&](Reading& reading) { return reading.Run(group, after); });
-        goesOn = page.size() == PageSize;
-        if (goesOn)
-            after = KeyOfRow(page.back());
-        for (const Row& row : page)
-            visit(row);
-    }
+    ReadPages<Row>(
+        [&](Key after) {
+            return database.With<Reading>([&](Reading& reading) { return reading.Run(group, after); });
+        },
+        [&](const std::vector<Row>& page) { std::for_each(page.begin(), page.end(), visit); });
 }
 
 /// The rows that have one of the values in the column that Row is found by; ordered by their key for each of
