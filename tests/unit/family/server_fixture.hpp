@@ -1,18 +1,12 @@
 #pragma once
 
 #include "tests/support/postgres_server.hpp"
+#include "tests/unit/family/bath.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include "family/business/appointments/appointment_input.hpp"
-#include "family/data/audit/author.hpp"
 #include "family/data/engine/write_transaction.hpp"
 
 namespace kova::family::test {
-
-inline const Author Somebody{"7", "Lia", "2026-11-20 09:04:05"};
-
-/// A bath by Bia at nine for somebody without a register.
-AppointmentInput Bath(const Text& date);
 
 /// What the failure of `action` says; "" where it ends well.
 template <class Action> std::string FailureOf(Action action)

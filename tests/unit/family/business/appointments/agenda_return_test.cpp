@@ -1,5 +1,6 @@
 // Cancelled appointments that come back to their employee, and stored ones that stay where they are.
 
+#include "tests/unit/family/bath.hpp"
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
 #include "family/business/appointments/appointment_writes.hpp"
@@ -230,26 +231,12 @@ class ReturnRace : public BookingTest { };
 TEST_F(ReturnRace, NeverGoesBeyondTheLimit)
 {
     constexpr int Days = 25;
-    const Author author{"7", "Lia", "2026-11-20 09:04:05"};
-    const auto inputOf = [](int day) {
-        AppointmentInput input;
-        input.kind = AppointmentInput::SimplifiedKind;
-        input.status = 1;
-        input.serviceType = 4;
-        input.service = 2;
-        input.employee = 2;
-        input.customerName = "Íris";
-        input.animalName = "Bidu";
-        input.startDate = input.endDate = FormatDate({2027, 1, day});
-        input.startTime = "09:00";
-        input.endTime = "10:00";
-        return input;
-    };
+    const auto inputOf = [](int day) { return Bath(FormatDate({2027, 1, day})); };
     const std::shared_ptr<Database> database = OpenDatabase(host_.DataSource());
     for (int day = 1; day <= Days; ++day) {
         AppointmentInput cancelled = inputOf(day);
         cancelled.status = 3;
-        ASSERT_TRUE(AddAppointments(*database, cancelled, author).IsDone());
+        ASSERT_TRUE(AddAppointments(*database, cancelled, Somebody).IsDone());
     }
     std::barrier both(2);
     std::atomic<int> done = 0, refused = 0;
@@ -262,9 +249,9 @@ TEST_F(ReturnRace, NeverGoesBeyondTheLimit)
     };
     {
         const std::jthread books(
-            onEachDay, [&](Database& own, int day) { return AddAppointments(own, inputOf(day), author); });
+            onEachDay, [&](Database& own, int day) { return AddAppointments(own, inputOf(day), Somebody); });
         const std::jthread bringsBack(
-            onEachDay, [&](Database& own, int day) { return ChangeStatus(own, Stored + day, 1, author); });
+            onEachDay, [&](Database& own, int day) { return ChangeStatus(own, Stored + day, 1, Somebody); });
     }
     EXPECT_EQ(done, Days);
     EXPECT_EQ(refused, Days);

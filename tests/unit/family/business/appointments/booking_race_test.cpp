@@ -1,5 +1,6 @@
 // Bookings at the same moment, and bookings whose process ends in the middle.
 
+#include "tests/unit/family/bath.hpp"
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
 #include "family/business/appointments/appointment_writes.hpp"
@@ -18,28 +19,10 @@ namespace kova::family::test {
 
 namespace {
 
-const Author Somebody{"7", "Lia", "2026-11-20 09:04:05"};
-
-AppointmentInput Bath(const Text& date, const Text& start, const Text& end)
-{
-    AppointmentInput input;
-    input.kind = AppointmentInput::SimplifiedKind;
-    input.status = 1;
-    input.serviceType = 4;
-    input.service = 2;
-    input.employee = 2;
-    input.customerName = "Íris";
-    input.animalName = "Bidu";
-    input.startDate = input.endDate = date;
-    input.startTime = start;
-    input.endTime = end;
-    return input;
-}
-
 /// A full record, repeated every week.
 AppointmentInput Series(Long repetitions)
 {
-    AppointmentInput input = Bath("01/12/2026", "09:00", "10:00");
+    AppointmentInput input = Bath("01/12/2026");
     input.kind = 0;
     input.customer = 10;
     input.animal = 50;
@@ -58,7 +41,7 @@ void BookDays(const std::string& path, int days, Answers& answers)
     try {
         const std::shared_ptr<Database> database = OpenDatabase(path);
         for (int day = 1; day <= days; ++day) {
-            const AppointmentInput input = Bath(FormatDate({2027, 1, day}), "09:00", "10:00");
+            const AppointmentInput input = Bath(FormatDate({2027, 1, day}));
             const WriteAnswer answer = AddAppointments(*database, input, Somebody);
             const bool noRoom = answer.field == "HoraInicial";
             ++(answer.IsDone() ? answers.done : noRoom ? answers.noRoom : answers.other);

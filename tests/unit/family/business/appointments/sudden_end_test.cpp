@@ -1,6 +1,7 @@
 // Desks in processes of their own, racing for an employee and ending without notice, and a server that is
 // killed. On an SQLite file, or on a server with KOVARIS_TEST_SERVER.
 
+#include "tests/unit/family/bath.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "agenda/contracts/date_time.hpp"
@@ -25,7 +26,6 @@ using kova::test::PostgresServer;
 
 namespace {
 
-const Author Somebody{"7", "Lia", "2026-11-20 09:04:05"};
 constexpr int AppointmentsOfSeries = 3;
 
 /// A weekly bath for Paçoca with that remark.
