@@ -69,6 +69,11 @@ void AppendFolded(std::string& folded, utf8proc_int32_t character)
         AppendDecomposed(folded, character);
 }
 
+bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+
+/// What stands between the digits of a document number.
+bool IsPunctuation(char letter) { return std::string_view(" .-/").find(letter) != std::string_view::npos; }
+
 } // namespace
 
 std::string FoldText(std::string_view text)
@@ -93,12 +98,31 @@ std::string DigitsOf(std::string_view text)
 {
     std::string digits;
     for (const char letter : text) {
-        if (letter >= '0' && letter <= '9')
+        if (IsDigit(letter))
             digits += letter;
-        else if (std::string_view(" .-/").find(letter) == std::string_view::npos)
+        else if (!IsPunctuation(letter))
             return {};
     }
     return digits;
+}
+
+std::string DocumentOf(std::string_view text)
+{
+    if (std::string digits = DigitsOf(text); !digits.empty())
+        return digits;
+    std::string places;
+    for (char letter : text) {
+        if (letter >= 'a' && letter <= 'z')
+            letter = static_cast<char>(letter - 'a' + 'A');
+        if (IsDigit(letter) || (letter >= 'A' && letter <= 'Z'))
+            places += letter;
+        else if (!IsPunctuation(letter))
+            return {};
+    }
+    constexpr std::size_t Places = 14;
+    const bool isNumber =
+        places.size() == Places && IsDigit(places[Places - 2]) && IsDigit(places[Places - 1]);
+    return isNumber ? places : std::string();
 }
 
 std::string ContainsPattern(std::string_view foldedText)

@@ -15,6 +15,11 @@ std::string FoldText(std::string_view text);
 /// slashes between them. Empty where it holds anything else, or no digit.
 std::string DigitsOf(std::string_view text);
 
+/// A document number without its punctuation, in upper case: digits, as DigitsOf has them, or the fourteen
+/// places of a company's number, the first twelve of which may be letters. Empty where the text has not that
+/// form.
+std::string DocumentOf(std::string_view text);
+
 /// The folded text as a pattern that finds it inside a longer one, every character taken as it stands.
 /// The escape character of the pattern is '!'.
 std::string ContainsPattern(std::string_view foldedText);

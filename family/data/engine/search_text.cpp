@@ -12,15 +12,15 @@ SearchText::SearchText(std::string_view typed)
     folded = Trim(FoldText(typed));
     pattern = ContainsPattern(folded);
     // Folded dashes and digits are plain ones: a pasted number is one too.
-    const std::string found = DigitsOf(folded);
+    const std::string found = DocumentOf(folded);
     if (found.empty())
         return;
-    digits = found;
-    long long number = 0;
+    number = found;
+    long long typedCode = 0;
     const char* end = folded.data() + folded.size();
-    const auto [stop, error] = std::from_chars(folded.data(), end, number);
+    const auto [stop, error] = std::from_chars(folded.data(), end, typedCode);
     if (error == std::errc() && stop == end)
-        code = number;
+        code = typedCode;
 }
 
 } // namespace kova::family

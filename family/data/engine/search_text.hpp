@@ -20,8 +20,8 @@ struct SearchText {
     std::string pattern = "%%";
     /// Where a whole number was typed: a comparison with Null holds for no row.
     Nullable<long long> code;
-    /// The digits of a document or a microchip, with or without punctuation; else Null.
-    Nullable<std::string> digits;
+    /// The places of a document or a microchip (DocumentOf), with or without punctuation; else Null.
+    Nullable<std::string> number;
 };
 
 } // namespace kova::family

@@ -23,7 +23,7 @@ struct ChannelRow {
 struct CustomerRow {
     static constexpr const char* Table = "cliente";
     Key codigo = 0;
-    /// "PF" or "PJ"; `documento` is its CPF or CNPJ, digits only.
+    /// "PF" or "PJ"; `documento` is its CPF or CNPJ without punctuation, letters in upper case.
     std::string tipoDePessoa, apelido, nome, documento;
     int situacao = 1;
     int vip = 0;

@@ -63,7 +63,7 @@ public:
                              " or microchip = :digitos) order by nome_de_busca, codigo",
                       soci::use(customer_, "cliente"), soci::use(text_.pattern, "padrao"),
                       soci::use(text_.code.value, text_.code.state, "codigo"),
-                      soci::use(text_.digits.value, text_.digits.state, "digitos"), soci::into(code_)))
+                      soci::use(text_.number.value, text_.number.state, "digitos"), soci::into(code_)))
     {
     }
 
@@ -87,8 +87,8 @@ private:
 std::vector<Key> SelectOfAllCustomers(Database& database, const SearchText& text)
 {
     std::vector<Key> exact;
-    if (!text.digits.IsNull())
-        exact = CodesBy<CodesByMicrochip>(database, text.digits.value);
+    if (!text.number.IsNull())
+        exact = CodesBy<CodesByMicrochip>(database, text.number.value);
     if (!text.code.IsNull())
         exact.push_back(text.code.value);
     return database.With<AnimalNames>([&](AnimalNames& names) {

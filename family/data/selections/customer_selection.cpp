@@ -42,8 +42,8 @@ struct Sought {
 Sought SoughtBy(Database& database, const CustomerFilter& filter)
 {
     Sought sought{SearchText(filter.text), SearchText(filter.name), {}, {}};
-    if (!sought.text.digits.IsNull())
-        sought.exact = CodesBy<CodesByDocument>(database, sought.text.digits.value);
+    if (!sought.text.number.IsNull())
+        sought.exact = CodesBy<CodesByDocument>(database, sought.text.number.value);
     if (!sought.text.code.IsNull())
         sought.exact.push_back(sought.text.code.value);
     if (const SearchText address(filter.address); !address.IsEmpty())

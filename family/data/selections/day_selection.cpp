@@ -73,7 +73,7 @@ private:
     {
         Use(text_.pattern, "padrao");
         Use(text_.code, "codigo");
-        Use(text_.digits, "digitos");
+        Use(text_.number, "digitos");
     }
 
     DayFilter filter_;

@@ -84,8 +84,8 @@ std::optional<DateTime> ReadMoment(std::string_view text)
 
 std::optional<std::string> ReadDocument(std::string_view text)
 {
-    std::string digits = family::DigitsOf(text);
-    return family::HasCheckDigits(digits) ? std::optional(digits) : std::nullopt;
+    std::string document = family::DocumentOf(text);
+    return family::HasCheckDigits(document) ? std::optional(document) : std::nullopt;
 }
 
 std::optional<std::string> ReadPostalCode(std::string_view text)

@@ -24,7 +24,8 @@ std::optional<Date> ReadDate(std::string_view text);
 /// "dd/mm/yyyy hh:mm[:ss]" with a date as ReadDate takes it.
 std::optional<DateTime> ReadMoment(std::string_view text);
 
-/// The digits of a person's number (11) or a company's (14), punctuation allowed, check digits right.
+/// A person's number (11 places) or a company's (14, digits and letters) without its punctuation, letters in
+/// upper case, check digits right.
 std::optional<std::string> ReadDocument(std::string_view text);
 
 /// Eight digits, punctuation allowed.

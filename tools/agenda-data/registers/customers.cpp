@@ -1,4 +1,5 @@
 #include "agenda/contracts/text.hpp"
+#include "family/data/checks/documents.hpp"
 #include "family/data/stores/customer_store.hpp"
 #include "tools/agenda-data/csv/channels.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
@@ -24,7 +25,6 @@ using Col = Column<CustomerRecord>;
 constexpr Choice Situations[] = {{1, "Ativo"}, {2, "Inativo"}, {3, "Bloqueado"}, {4, "Excluído"}};
 constexpr const char* DocumentColumn = "Documento";
 constexpr const char* KindColumn = "Tipo de pessoa";
-constexpr std::size_t DigitsOfCompany = 14;
 
 /// A column that is read only: its cell is one more channel of that kind.
 Col Channel(const char* kind)
@@ -50,10 +50,10 @@ Col Letters(const char* name, std::string CustomerRow::*member, std::string_view
 
 std::string ReadDocumentCell(const std::string& cell, CustomerRecord& record)
 {
-    const auto digits = ReadDocument(cell);
-    if (!digits)
+    const auto document = ReadDocument(cell);
+    if (!document)
         return "não é um CPF nem um CNPJ válido: confira os dígitos.";
-    record.documento = *digits;
+    record.documento = *document;
     return {};
 }
 
@@ -217,7 +217,7 @@ private:
 
     static const char* KindOf(const CustomerRow& row)
     {
-        return row.documento.size() == DigitsOfCompany ? "PJ" : "PF";
+        return family::IsCompanyDocument(row.documento) ? "PJ" : "PF";
     }
 
     Occurrences<std::string> documents_;

@@ -176,6 +176,16 @@ TEST(Documents, EndInTheirCheckDigits)
 {
     EXPECT_EQ(WithCpfCheckDigits("123456789"), "12345678909");
     EXPECT_EQ(WithCnpjCheckDigits("112223330001"), "11222333000181");
+    EXPECT_EQ(WithCnpjCheckDigits("12ABC34501DE"), "12ABC34501DE35");
+}
+
+TEST(Documents, AreShownWithTheirPunctuation)
+{
+    EXPECT_EQ(ShownDocument("12345678909"), "123.456.789-09");
+    EXPECT_EQ(ShownDocument("11222333000181"), "11.222.333/0001-81");
+    EXPECT_EQ(ShownDocument("12ABC34501DE35"), "12.ABC.345/01DE-35");
+    EXPECT_EQ(ShownDocument("123"), "123");
+    EXPECT_EQ(ShownDocument(""), "");
 }
 
 } // namespace kova::family::test

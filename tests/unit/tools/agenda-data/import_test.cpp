@@ -32,6 +32,14 @@ TEST_F(Imports, ReadsCustomers)
     EXPECT_EQ(Ask("select nome_de_busca from cliente where codigo = 7"), "jose  pecanha");
 }
 
+TEST_F(Imports, ReadsACompanyWhoseDocumentHasLetters)
+{
+    ASSERT_EQ(Import("clientes", "Nome;Documento\nCanil Céu;12.abc.345/01de-35\n"), 0) << Error();
+    EXPECT_EQ(Ask("select tipo_de_pessoa || ' ' || documento from cliente"), "PJ 12ABC34501DE35");
+    EXPECT_EQ(Import("clientes", "Nome;Documento\nOutro;12ABC34501DE35\n"), 1);
+    EXPECT_NE(Error().find("um cliente com este documento já existe"), std::string::npos) << Error();
+}
+
 TEST_F(Imports, MakesTheSpeciesAndBreedsOfAnimals)
 {
     ImportShop();

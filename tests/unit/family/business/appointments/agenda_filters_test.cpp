@@ -79,6 +79,14 @@ TEST_F(AgendaFilters, FindADocumentWithOrWithoutPunctuation)
     EXPECT_EQ(Find("1234567890"), Numbers());
 }
 
+TEST_F(AgendaFilters, FindADocumentThatHasLetters)
+{
+    RunUnchecked(shop_.DataSource(), "update cliente set documento = '12ABC34501DE35' where codigo = 11");
+    EXPECT_EQ(Find("12.abc.345/01de-35"), (Numbers{8, 3, 5, 6, 7}));
+    EXPECT_EQ(Find("12ABC34501DE35"), (Numbers{8, 3, 5, 6, 7}));
+    EXPECT_EQ(Find("12ABC34501DE"), Numbers());
+}
+
 TEST_F(AgendaFilters, FindCodesExactly)
 {
     EXPECT_EQ(Find("10"), (Numbers{1, 2})) << "customer 10; no address holds 10 but its own 110";

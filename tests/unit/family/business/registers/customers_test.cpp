@@ -112,6 +112,16 @@ TEST_F(CustomerSearch, FindsADocumentExactlyWithOrWithoutPunctuation)
     EXPECT_EQ(FindName("12345678909"), (List{}));
 }
 
+TEST_F(CustomerSearch, FindsADocumentThatHasLettersExactlyWithOrWithoutPunctuation)
+{
+    SharedDatabase(host_.DataSource())->Session()
+        << "update cliente set documento = '12ABC34501DE35' where codigo = 11";
+    EXPECT_EQ(Find("12.ABC.345/01DE-35"), (List{11}));
+    EXPECT_EQ(Find("12abc34501de35"), (List{11}));
+    EXPECT_EQ(Find("12ABC34501DE3"), (List{}));
+    EXPECT_EQ(Find("12ABC34501DE36"), (List{}));
+}
+
 TEST_F(CustomerSearch, FindsAPartOfTheAddressWithItsPostalCode)
 {
     EXPECT_EQ(FindAddress("rua do ipe"), (List{11, 10}));

@@ -60,6 +60,17 @@ TEST(DigitsOf, ReadsNumbersWithTheirPunctuation)
     EXPECT_EQ(DigitsOf("-./ "), "");
 }
 
+TEST(DocumentOf, ReadsTheNumberOfACompanyThatHasLetters)
+{
+    EXPECT_EQ(DocumentOf("12.ABC.345/01DE-35"), "12ABC34501DE35");
+    EXPECT_EQ(DocumentOf("12abc34501de35"), "12ABC34501DE35");
+    EXPECT_EQ(DocumentOf("123.456.789-09"), "12345678909");
+    EXPECT_EQ(DocumentOf("1-2"), "12") << "digits of any number may be a microchip";
+    for (const char* text : {"", "12ABC34501DE3", "12ABC34501DE356", "12ABC34501DE3F", "12ABC34501DEF5",
+                             "12ABC34501DÉ35", "12ABC34501D+35", "canil"})
+        EXPECT_EQ(DocumentOf(text), "") << text;
+}
+
 TEST(ContainsPattern, TakesEveryCharacterAsItStands)
 {
     EXPECT_EQ(ContainsPattern("a"), "%a%");
@@ -70,7 +81,7 @@ TEST(SearchText, ReadsAPastedNumberByItsPlainDigits)
 {
     const SearchText document("\u00A0１２３.456.789\u201009\u00A0");
     EXPECT_EQ(document.folded, "123.456.789-09");
-    EXPECT_EQ(document.digits.value, "12345678909");
+    EXPECT_EQ(document.number.value, "12345678909");
     EXPECT_TRUE(document.code.IsNull());
     EXPECT_EQ(SearchText(" １２ ").code.value, 12);
     EXPECT_TRUE(SearchText("\u00A0 \u200B").IsEmpty());

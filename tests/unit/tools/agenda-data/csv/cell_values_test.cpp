@@ -65,6 +65,14 @@ TEST(CellValues, ReadDocumentsByTheirCheckDigits)
         EXPECT_EQ(ReadDocument(text), std::nullopt) << text;
 }
 
+TEST(CellValues, ReadTheDocumentsOfCompaniesThatHaveLetters)
+{
+    EXPECT_EQ(ReadDocument("12.ABC.345/01DE-35"), "12ABC34501DE35");
+    EXPECT_EQ(ReadDocument("12abc34501de35"), "12ABC34501DE35");
+    for (const char* text : {"12.ABC.345/01DE-36", "12.ABC.345/01DF-35", "12ABC34501DEAB", "ABC.456.789-09"})
+        EXPECT_EQ(ReadDocument(text), std::nullopt) << text;
+}
+
 TEST(CellValues, ReadPostalCodes)
 {
     EXPECT_EQ(ReadPostalCode("01234-567"), "01234567");
