@@ -8,10 +8,13 @@ namespace {
 
 int Run(const Call& call, Surroundings& surroundings)
 {
+    const std::string company = call.Option("--company").value_or("");
+    if (company.find_first_not_of(" \t") == std::string::npos)
+        call.Refuse("Informe com --company o nome da empresa, que sai em tudo que a agenda imprime.");
     const std::string user = call.Option("--user").value_or(host::NameOfThisUser());
-    family::CreateNewShop(
-        call.Operand(0),
-        {call.Option("--company").value_or(""), user, call.Option("--employee").value_or(user)});
+    family::NewShop shop{{}, user, call.Option("--employee").value_or(user), ""};
+    shop.company.nomeFantasia = company;
+    family::CreateNewShop(call.Operand(0), shop);
     surroundings.output << "Banco de dados criado: " << call.Operand(0) << "\n";
     return 0;
 }
@@ -24,7 +27,7 @@ const Command CreateCommand{
      "um(a) funcionário(a) (padrão: o usuário), os tipos de serviço 1 a 4, as espécies\n"
      "mais comuns e os feriados nacionais.",
      {"BANCO"},
-     {{"--company", "NOME", "Nome da empresa (padrão: nenhuma)."},
+     {{"--company", "NOME", "Nome da empresa, que precisa ser informado."},
       {"--user", "NOME", "Nome do usuário (padrão: o do computador)."},
       {"--employee", "NOME", "Nome do(a) funcionário(a) (padrão: o do usuário)."}}},
     Run,

@@ -15,13 +15,27 @@ constexpr const char* ServiceTypes[] = {"Consulta", "Retorno", "Vacinação", "B
 constexpr const char* Species[] = {"Canina", "Felina"};
 constexpr const char* AnyBreed = "Sem raça definida";
 
+CompanyRow CompanyOf(const NewShop& shop)
+{
+    CompanyRow company = shop.company;
+    if (company.razaoSocial.empty())
+        company.razaoSocial = company.nomeFantasia;
+    return company;
+}
+
+EmployeeRow EmployeeOf(const NewShop& shop)
+{
+    const std::string& name = shop.nameOfEmployee.empty() ? shop.employee : shop.nameOfEmployee;
+    return {0, shop.employee, name, FoldText(name)};
+}
+
 // The engine numbers the rows, so that its numbers go on behind them.
 void Fill(Database& database, const NewShop& shop)
 {
-    if (!shop.company.empty())
-        InsertNew(database, CompanyRow{0, shop.company, shop.company, "", "", ""});
+    if (!shop.company.nomeFantasia.empty())
+        InsertNew(database, CompanyOf(shop));
     InsertNew(database, UserRow{0, shop.user});
-    InsertNew(database, EmployeeRow{0, shop.employee, shop.employee, FoldText(shop.employee)});
+    InsertNew(database, EmployeeOf(shop));
     for (const char* name : ServiceTypes)
         InsertNew(database, ServiceTypeRow{0, name, FoldText(name)});
     for (const char* name : Species) {

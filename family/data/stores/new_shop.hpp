@@ -1,16 +1,20 @@
 #pragma once
 
+#include "family/data/rows/rows.hpp"
+
 #include <string>
 
 namespace kova::family {
 
 struct NewShop {
-    /// Trade name of the company; "" leaves it for later.
-    std::string company;
+    /// Only a trade name is needed. A company without one is left for later.
+    CompanyRow company;
     /// Name of the first user.
     std::string user;
-    /// Name of the first employee: the agenda opens only where there is one.
+    /// How the first employee is called; the agenda opens only where there is one.
     std::string employee;
+    /// The employee's name; the former where it is "".
+    std::string nameOfEmployee;
 };
 
 /// Makes the database of a shop that has not begun yet: its company, user and employee, the service types

@@ -178,15 +178,25 @@ TEST_F(AgendaData, CreatesAShopThatCanBegin)
     database->Session() << "select nome from usuario where codigo = 1", soci::into(user);
     database->Session() << "select nome from tipo_de_servico where numero = 4", soci::into(type);
     EXPECT_EQ(company + ", " + user + ", " + type, "Pet Shop Céu, Antônia, Banho e tosa");
-    EXPECT_EQ(Run({"create", a_}), 1);
+    EXPECT_EQ(Run({"create", a_, "--company", "Pet Shop Céu"}), 1);
     EXPECT_TRUE(Complained(AlreadyThere())) << error_.str();
 }
 
-TEST_F(AgendaData, CreatesAShopWithoutACompanyForWhoeverRunsIt)
+TEST_F(AgendaData, CreatesNoShopWithoutACompany)
 {
-    EXPECT_EQ(Run({"create", a_}), 0);
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"create", a_}, {"create", a_, "--company", " "}}) {
+        EXPECT_EQ(Run(words), 2);
+        EXPECT_TRUE(Complained("--company")) << error_.str();
+        EXPECT_FALSE(DataSourceExists(a_));
+    }
+}
+
+TEST_F(AgendaData, CreatesAShopForWhoeverRunsIt)
+{
+    EXPECT_EQ(Run({"create", a_, "--company", "Pet Shop Céu"}), 0);
     EXPECT_EQ(Run({"check", a_}), 0);
-    EXPECT_TRUE(Said("empresa: 0\nusuario: 1\n"));
+    EXPECT_TRUE(Said("empresa: 1\nusuario: 1\n"));
     EXPECT_TRUE(Said("funcionario: 1\n"));
 }
 
