@@ -8,7 +8,7 @@
 #include "host/folders.hpp"
 #include "host/host_platform.hpp"
 #include "host/host_toolkit.hpp"
-#include "host/main_window.hpp"
+#include "host/shell/main_window.hpp"
 #include "host/picture.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"

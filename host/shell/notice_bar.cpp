@@ -1,4 +1,4 @@
-#include "host/notice_bar.hpp"
+#include "host/shell/notice_bar.hpp"
 
 #include <QHBoxLayout>
 #include <QLabel>

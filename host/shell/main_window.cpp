@@ -1,15 +1,21 @@
-#include "host/main_window.hpp"
+#include "host/shell/main_window.hpp"
 
-#include "host/icon.hpp"
-#include "host/notice_bar.hpp"
+#include "host/shell/icon.hpp"
+#include "host/shell/notice_bar.hpp"
+#include "host/shell/tab_row.hpp"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QMenu>
 #include <QScreen>
+#include <QShortcut>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 #include <QWindow>
+
+#include <utility>
 
 namespace kova::host {
 
@@ -22,6 +28,9 @@ constexpr QSize Frame(16, 48);
 /// How long a desktop may take to give the window its place.
 constexpr qint64 LongestWaitMilliseconds = 400;
 constexpr int EventSliceMilliseconds = 10;
+constexpr int MostNumberedTabs = 9;
+
+const QString DemonstrationText = QStringLiteral("Demonstração: nada do que é marcado aqui vale");
 
 QString TitleOf(const MainWindow::Heading& heading)
 {
@@ -36,18 +45,69 @@ QString TitleOf(const MainWindow::Heading& heading)
 
 } // namespace
 
-MainWindow::MainWindow(const Heading& heading) : container_(new QWidget(this)), notice_(new NoticeBar(this))
+MainWindow::MainWindow(const Heading& heading)
+    : row_(new TabRow(this)),
+      pages_(new QStackedWidget(this)),
+      container_(new QWidget(this)),
+      notice_(new NoticeBar(this))
 {
     setWindowTitle(TitleOf(heading));
     setWindowIcon(ApplicationIcon());
     setBackgroundRole(QPalette::Base);
 
+    row_->TellUser(heading.user);
+    row_->TellShop(heading.isDemonstration ? DemonstrationText : QString());
     container_->setObjectName(QStringLiteral("container"));
+    row_->GetTabs().addTab(QStringLiteral("Agenda"));
+    pages_->addWidget(container_);
+    unmade_.emplace_back();
+    connect(&row_->GetTabs(), &QTabBar::currentChanged, this, [this](int tab) { TurnTo(tab); });
+    AddShortcuts();
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(container_, 1);
+    layout->setSpacing(0);
+    layout->addWidget(row_);
+    layout->addWidget(pages_, 1);
     layout->addWidget(notice_);
 }
+
+void MainWindow::AddShortcuts()
+{
+    for (int number = 1; number <= MostNumberedTabs; ++number) {
+        const auto key = static_cast<Qt::Key>(Qt::Key_0 + number);
+        connect(new QShortcut(QKeySequence(Qt::ALT | key), this), &QShortcut::activated, this,
+                [this, number] {
+                    if (number <= row_->GetTabs().count())
+                        row_->GetTabs().setCurrentIndex(number - 1);
+                });
+    }
+    connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this,
+            [this] { row_->OpenMenu(); });
+}
+
+void MainWindow::AddTab(const QString& name, MakePage make)
+{
+    unmade_.push_back(std::move(make));
+    const int tab = row_->GetTabs().addTab(name);
+    row_->GetTabs().setTabToolTip(tab, name + QStringLiteral(" (Alt+%1)").arg(tab + 1));
+    pages_->addWidget(new QWidget(pages_));
+}
+
+void MainWindow::TurnTo(int tab)
+{
+    if (const MakePage make = std::exchange(unmade_[static_cast<std::size_t>(tab)], {})) {
+        QWidget* const placeholder = pages_->widget(tab);
+        pages_->insertWidget(tab, make(*pages_));
+        pages_->removeWidget(placeholder);
+        delete placeholder;
+    }
+    pages_->setCurrentIndex(tab);
+    QWidget* const page = pages_->currentWidget();
+    (page->focusWidget() != nullptr ? page->focusWidget() : page)->setFocus();
+}
+
+QMenu& MainWindow::Menu() { return row_->Menu(); }
 
 void MainWindow::ShowNotice(const QString& text) { notice_->Show(text); }
 

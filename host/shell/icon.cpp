@@ -1,4 +1,4 @@
-#include "host/icon.hpp"
+#include "host/shell/icon.hpp"
 
 #include <QIcon>
 #include <QPainter>

@@ -4,12 +4,20 @@
 
 #include <QWidget>
 
+#include <functional>
+#include <vector>
+
+class QMenu;
+class QStackedWidget;
+
 namespace kova::host {
 
 class NoticeBar;
+class TabRow;
 
-/// The application's window: a container that the day's list fills, and a hint in its place where no list
-/// could be opened. Closing it ends the application's event loops, whatever else is on the screen.
+/// The application's window: tabs, the first of which is the agenda, a container that the day's list fills,
+/// with a hint in its place where no list could be opened. Alt with a number turns to the tab of that number.
+/// Closing it ends the application's event loops, whatever else is on the screen.
 class MainWindow : public QWidget {
 public:
     /// What the title tells: whose data is open, whether it is a demonstration, and who works with it.
@@ -22,6 +30,12 @@ public:
     explicit MainWindow(const Heading& heading);
 
     QWidget& Container() { return *container_; }
+
+    /// Makes what a tab shows, when it is turned to for the first time.
+    using MakePage = std::function<QWidget*(QWidget& parent)>;
+    void AddTab(const QString& name, MakePage make);
+    /// The application's menu, at the right end of the tabs.
+    QMenu& Menu();
 
     /// Shown in the container, until something else fills it.
     void ShowHint(const QString& text);
@@ -36,12 +50,18 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void AddShortcuts();
+    void TurnTo(int tab);
     void WaitForPlace();
     /// However small the screen is or however large it draws: no edge of the window has to lie beyond it.
     void FitToScreen();
 
+    TabRow* row_;
+    QStackedWidget* pages_;
     QWidget* container_;
     NoticeBar* notice_;
+    /// By tab; those that were turned to are made and leave nothing here.
+    std::vector<MakePage> unmade_;
 };
 
 } // namespace kova::host

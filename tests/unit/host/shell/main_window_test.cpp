@@ -1,0 +1,193 @@
+#include "host/shell/main_window.hpp"
+#include "host/shell/notice_bar.hpp"
+#include "host/shell/tab_row.hpp"
+#include "tests/unit/host/with_application.hpp"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScreen>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace kova::host {
+
+namespace {
+
+class TheMainWindow : public WithApplication {
+protected:
+    static std::string TitleOf(const MainWindow::Heading& heading)
+    {
+        return MainWindow(heading).windowTitle().toStdString();
+    }
+};
+
+/// A window with a second tab, whose page is a box to type in.
+class TheTabs : public WithApplication {
+protected:
+    TheTabs()
+    {
+        new QLineEdit(&window_.Container());
+        window_.AddTab(QStringLiteral("Cadastros"), [this](QWidget& parent) {
+            ++made_;
+            box_ = new QLineEdit(&parent);
+            return box_;
+        });
+        window_.Open(WindowSize{1000, 700});
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
+    }
+
+    Tabs& Row() { return window_.findChild<TabRow*>()->GetTabs(); }
+    QLineEdit& BoxOfAgenda() { return *window_.Container().findChild<QLineEdit*>(); }
+
+    MainWindow window_{{"Pet Shop Céu", false, "Maria"}};
+    int made_ = 0;
+    QLineEdit* box_ = nullptr;
+};
+
+} // namespace
+
+TEST_F(TheTabs, MakeTheirPageWhenTheyAreTurnedToForTheFirstTime)
+{
+    EXPECT_TRUE(window_.Container().isVisible());
+    EXPECT_EQ(made_, 0);
+    for (int turn = 0; turn < 2; ++turn) {
+        QTest::mouseClick(&Row(), Qt::LeftButton, {}, Row().tabRect(1).center());
+        EXPECT_EQ(made_, 1);
+        EXPECT_TRUE(box_->isVisible());
+        EXPECT_FALSE(window_.Container().isVisible());
+        QTest::mouseClick(&Row(), Qt::LeftButton, {}, Row().tabRect(0).center());
+        EXPECT_TRUE(window_.Container().isVisible());
+        EXPECT_FALSE(box_->isVisible());
+    }
+}
+
+TEST_F(TheTabs, AreTurnedToByAltAndTheirNumber)
+{
+    QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(Row().currentIndex(), 1);
+    ASSERT_EQ(QApplication::focusWidget(), box_);
+    QTest::keyClick(box_, Qt::Key_1, Qt::AltModifier);
+    EXPECT_EQ(Row().currentIndex(), 0);
+    QTest::keyClick(&window_, Qt::Key_3, Qt::AltModifier);
+    EXPECT_EQ(Row().currentIndex(), 0) << "there is no third one";
+}
+
+TEST_F(TheTabs, KeepWhatIsTypedAndThePlaceOfTheKeyboard)
+{
+    BoxOfAgenda().setFocus();
+    QTest::keyClicks(&BoxOfAgenda(), QStringLiteral("Bia"));
+    QTest::keyClick(&BoxOfAgenda(), Qt::Key_2, Qt::AltModifier);
+    QTest::keyClicks(box_, QStringLiteral("Ana"));
+    QTest::keyClick(box_, Qt::Key_1, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), &BoxOfAgenda());
+    EXPECT_EQ(BoxOfAgenda().text(), "Bia");
+    QTest::keyClick(&BoxOfAgenda(), Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), box_);
+    EXPECT_EQ(box_->text(), "Ana");
+}
+
+TEST_F(TheTabs, DoNotTakeTheKeyboardByAPress)
+{
+    BoxOfAgenda().setFocus();
+    QTest::mouseClick(&Row(), Qt::LeftButton, {}, Row().tabRect(0).center());
+    EXPECT_EQ(QApplication::focusWidget(), &BoxOfAgenda());
+}
+
+TEST_F(TheTabs, StandInOneNarrowRow)
+{
+    EXPECT_EQ(window_.Container().height(), window_.height() - 30);
+    EXPECT_EQ(window_.Container().width(), window_.width());
+}
+
+TEST_F(TheMainWindow, OpensItsMenuByF10)
+{
+    MainWindow window({"", false, ""});
+    window.Menu().addAction(QStringLiteral("Abrir outra loja..."));
+    window.Open(WindowSize{1000, 700});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    bool wasOpen = false;
+    QObject::connect(&window.Menu(), &QMenu::aboutToShow, &window, [&] {
+        wasOpen = true;
+        QMetaObject::invokeMethod(&window.Menu(), &QMenu::close, Qt::QueuedConnection);
+    });
+    QTest::keyClick(&window, Qt::Key_F10);
+    EXPECT_TRUE(wasOpen);
+}
+
+TEST_F(TheMainWindow, SaysAllTheTimeThatADemonstrationIsOne)
+{
+    const auto textOf = [](const MainWindow& window) {
+        return window.findChild<QLabel*>(QStringLiteral("loja"))->text().toStdString();
+    };
+    EXPECT_EQ(textOf(MainWindow({"Amigo Fiel", true, "Maria"})),
+              "Demonstração: nada do que é marcado aqui vale");
+    EXPECT_EQ(textOf(MainWindow({"Amigo Fiel", false, "Maria"})), "");
+}
+
+TEST_F(TheMainWindow, CutsALongNameOfItsUserAndTellsItAllInATip)
+{
+    const QString name = QStringLiteral("Maria Antônia da Conceição e Albuquerque Vasconcelos de Souza Lima");
+    const MainWindow window({"", false, name});
+    const auto* label = window.findChild<QLabel*>(QStringLiteral("usuario"));
+    EXPECT_NE(label->text(), name);
+    EXPECT_EQ(label->toolTip(), name);
+}
+
+TEST_F(TheMainWindow, TellsTheShopAndTheUserInItsTitle)
+{
+    EXPECT_EQ(TitleOf({"Pet Shop Céu", false, "Maria"}), "Pet Shop Céu - Maria - Kovaris");
+    EXPECT_EQ(TitleOf({"", false, "Maria"}), "Maria - Kovaris");
+    EXPECT_EQ(TitleOf({"", false, ""}), "Kovaris");
+}
+
+TEST_F(TheMainWindow, SaysThatADemonstrationIsOne)
+{
+    EXPECT_EQ(TitleOf({"Amigo Fiel", true, "Maria"}), "Amigo Fiel (demonstração) - Maria - Kovaris");
+    EXPECT_EQ(TitleOf({"", true, ""}), "(demonstração) - Kovaris");
+}
+
+TEST_F(TheMainWindow, HasAnIconThatIsNotEmptyInAnySize)
+{
+    const QIcon icon = MainWindow({"", false, ""}).windowIcon();
+    for (const int size : {16, 32, 256}) {
+        const QImage picture = icon.pixmap(QSize(size, size), 1.0).toImage();
+        EXPECT_EQ(picture.size(), QSize(size, size));
+        EXPECT_EQ(qAlpha(picture.pixel(0, 0)), 0);
+        EXPECT_EQ(qAlpha(picture.pixel(size / 2, size / 2)), 255);
+    }
+}
+
+TEST_F(TheMainWindow, TellsANoticeOnItsOwnGroundInAsManyLinesAsItNeeds)
+{
+    NoticeBar bar(nullptr);
+    EXPECT_TRUE(bar.isHidden());
+    bar.Show(QStringLiteral("A cópia do dia não foi feita."));
+    EXPECT_FALSE(bar.isHidden());
+    bar.resize(600, 60);
+    EXPECT_EQ(bar.grab().toImage().pixelColor(2, 2), QColor(255, 244, 204));
+    const int oneLine = bar.layout()->heightForWidth(600);
+    bar.Show(QStringLiteral("A cópia do dia não foi feita porque o disco está cheio. ").repeated(5));
+    EXPECT_GT(bar.layout()->heightForWidth(600), oneLine);
+    bar.Show(QString());
+    EXPECT_TRUE(bar.isHidden());
+}
+
+TEST_F(TheMainWindow, NeverHasToBeLargerThanItsScreen)
+{
+    MainWindow window({"", false, ""});
+    window.Open(WindowSize{1366, 768});
+    const QSize room = window.screen()->availableSize();
+    ASSERT_LT(room.width(), 1000) << "the platform's screen is not small";
+    EXPECT_LT(window.minimumWidth(), room.width());
+    EXPECT_LT(window.minimumHeight(), room.height());
+    EXPECT_EQ(window.minimumHeight(), 680);
+}
+
+} // namespace kova::host
