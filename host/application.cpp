@@ -3,7 +3,7 @@
 #include "agenda/contracts/failure.hpp"
 #include "host/display.hpp"
 #include "host/messages.hpp"
-#include "host/session/session.hpp"
+#include "host/session/shops.hpp"
 #include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -57,7 +57,7 @@ void SpeakPortuguese(QApplication& application)
 int RunTelling(const Options& options, Outlet outlet)
 {
     try {
-        return RunSession(options, outlet);
+        return RunShops(options, outlet);
     } catch (const Failure& failure) {
         TellFailure(failure.Description());
     } catch (const std::exception& failure) {

@@ -12,11 +12,12 @@ std::filesystem::path SettingsFolder();
 /// Throws where one of them would.
 void RequireFolders();
 
-/// The demonstration shop's database, the registry of components and the picture that a computer without
-/// a display gets.
+/// The demonstration shop's database, the registry of components, the picture that a computer without
+/// a display gets, and the settings of this user.
 std::filesystem::path DemonstrationDatabase();
 std::filesystem::path RegistryFile();
 std::filesystem::path PictureWithoutDisplay();
+std::filesystem::path SettingsFile();
 
 /// Folder of this executable, where the component libraries lie.
 std::filesystem::path ProgramFolder();

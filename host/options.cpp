@@ -15,7 +15,7 @@ const arguments::Program ThisProgram{
      {{"--database", "BANCO",
        "Abre o banco de dados BANCO: o caminho de um arquivo, ou o endereço de um\n"
        "servidor PostgreSQL, como postgresql://ana@servidor/loja, sem a senha. Sem\n"
-       "esta opção abre a loja de demonstração, que é criada no primeiro uso."},
+       "esta opção abre a última loja, ou pergunta com que loja trabalhar."},
       {"--user", "NOME", "Nome do usuário da sessão, gravado em tudo que for alterado."},
       {"--date", "dd/mm/aaaa", "Abre a agenda como se fosse este dia."},
       {"--time", "hh:mm", "Começa como se fosse esta hora; o relógio anda a partir dela."},

@@ -1,25 +1,29 @@
 #include "host/session/session.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "family/data/engine/server_connection.hpp"
 #include "host/component_setup.hpp"
 #include "host/components/component_service.hpp"
 #include "host/day_text.hpp"
 #include "host/first_paint.hpp"
+#include "host/first_start/ask_for_shop.hpp"
 #include "host/folders.hpp"
 #include "host/host_platform.hpp"
 #include "host/host_toolkit.hpp"
-#include "host/shell/main_window.hpp"
 #include "host/picture.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
+#include "host/session/remembered_shops.hpp"
 #include "host/session/session_clock.hpp"
 #include "host/session/session_user.hpp"
 #include "host/session/shop.hpp"
+#include "host/shell/main_window.hpp"
 #include "system/path_text.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/qt/handles.hpp"
 
 #include <QApplication>
+#include <QMenu>
 
 #include <cstdlib>
 #include <iostream>
@@ -37,6 +41,14 @@ constexpr Long OnlyUser = 1;
 std::filesystem::path DatabaseOf(const Options& options)
 {
     return options.database.empty() ? DemonstrationDatabase() : system::PathOf(options.database);
+}
+
+/// The same wherever the program is started from the next time.
+std::string SourceOf(const Options& options)
+{
+    return family::IsServer(options.database)
+        ? options.database
+        : system::TextOf(std::filesystem::absolute(DatabaseOf(options)));
 }
 
 /// A picture has the usual size unless another is asked for; a window may fit itself to the screen.
@@ -71,9 +83,14 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    int Run();
+    SessionEnd Run();
 
 private:
+    void FillMenu();
+    void AddRememberedShops();
+    void Remember(const Shop& shop);
+    /// Ends this session for one with that shop.
+    void TurnTo(const std::string& source);
     void OpenList();
     std::string NameOfUser() const { return options_.user.empty() ? NameOfThisUser() : options_.user; }
     /// The day's list; null where none was made.
@@ -87,6 +104,8 @@ private:
 
     const Options& options_;
     Outlet outlet_;
+    RememberedShops remembered_{SettingsFile()};
+    std::optional<std::string> next_;
     Registry registry_;
     SessionClock clock_;
     HostToolkit toolkit_;
@@ -98,7 +117,7 @@ private:
     std::unique_ptr<DailyBackup> backup_;
 };
 
-int Session::Run()
+SessionEnd Session::Run()
 {
     SetUpComponents(registry_, server_, ProgramFolder());
     const Shop shop =
@@ -106,10 +125,50 @@ int Session::Run()
     window_ = std::make_unique<MainWindow>(MainWindow::Heading{QString::fromStdString(shop.tradeName),
                                                                options_.database.empty(),
                                                                QString::fromStdString(NameOfUser())});
+    if (outlet_ == Outlet::Window && !options_.firstPaint)
+        Remember(shop);
+    FillMenu();
     OpenList();
     if (options_.firstPaint)
-        return PaintWindow();
-    return outlet_ == Outlet::Window ? RunWindow() : DrawWindow();
+        return {PaintWindow(), std::nullopt};
+    const int status = outlet_ == Outlet::Window ? RunWindow() : DrawWindow();
+    return {status, next_};
+}
+
+void Session::Remember(const Shop& shop) { remembered_.Remember({SourceOf(options_), shop.tradeName}); }
+
+void Session::FillMenu()
+{
+    QMenu& menu = window_->Menu();
+    menu.addAction(QStringLiteral("&Abrir outra loja..."), window_.get(), [this] {
+        if (const auto source = AskForShop(remembered_, {}, window_.get()))
+            TurnTo(*source);
+    });
+    AddRememberedShops();
+}
+
+void Session::AddRememberedShops()
+{
+    QMenu& menu = window_->Menu();
+    for (const RememberedShop& shop : remembered_.All()) {
+        if (shop.source == SourceOf(options_))
+            continue;
+        const std::string& shown = shop.name.empty() ? shop.source : shop.name;
+        QAction* action =
+            menu.addAction(QString::fromStdString(shown).replace(QLatin1Char('&'), QLatin1String("&&")));
+        action->setToolTip(QString::fromStdString(shop.source));
+        QObject::connect(action, &QAction::triggered, window_.get(),
+                         [this, source = shop.source] { TurnTo(source); });
+    }
+    menu.setToolTipsVisible(true);
+}
+
+void Session::TurnTo(const std::string& source)
+{
+    if (source == SourceOf(options_))
+        return;
+    next_ = source;
+    window_->close();
 }
 
 /// The window is there before the list, so that the list finds its place in its final size; both are
@@ -203,7 +262,7 @@ Session::~Session()
 
 } // namespace
 
-int RunSession(const Options& options, Outlet outlet)
+SessionEnd RunSession(const Options& options, Outlet outlet)
 {
     RequireFolders();
     return Session(options, outlet).Run();

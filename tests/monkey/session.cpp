@@ -125,7 +125,7 @@ host::Options OptionsFor(const std::string& database)
 int Run(const host::Options& options)
 {
     try {
-        return host::RunSession(options, host::Outlet::Window);
+        return host::RunSession(options, host::Outlet::Window).status;
     } catch (const std::exception& failure) {
         EndWithFinding("the session throws", failure.what());
     }

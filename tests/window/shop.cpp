@@ -63,7 +63,7 @@ void Shop::Run()
     options.time = TimeOfDay{9, 0, 0};
     options.pace = Pace;
     options.size = host::WindowSize{1366, 768};
-    EXPECT_EQ(host::RunSession(options, host::Outlet::Window), EXIT_SUCCESS);
+    EXPECT_EQ(host::RunSession(options, host::Outlet::Window).status, EXIT_SUCCESS);
 }
 
 std::vector<std::string> Shop::Query(const std::string& statement) const

@@ -1,0 +1,26 @@
+#include "host/first_start/ask_for_shop.hpp"
+
+#include "family/data/sources/data_source.hpp"
+#include "host/first_start/shop_question.hpp"
+#include "host/folders.hpp"
+#include "host/session/computer_user.hpp"
+#include "system/path_text.hpp"
+
+#include <QStandardPaths>
+
+namespace kova::host {
+
+std::optional<std::string> AskForShop(const RememberedShops& remembered, const std::string& told,
+                                      QWidget* parent)
+{
+    const auto look = [](const std::string& source) { return family::CheckDataSource(source); };
+    ShopQuestion question({remembered.All(), system::TextOf(DemonstrationDatabase()), NameOfThisUser(),
+                           QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString(),
+                           look},
+                          parent);
+    question.Tell(told);
+    question.exec();
+    return question.Chosen();
+}
+
+} // namespace kova::host

@@ -1,0 +1,65 @@
+#include "host/session/shops.hpp"
+
+#include "agenda/contracts/failure.hpp"
+#include "host/first_start/ask_for_shop.hpp"
+#include "host/folders.hpp"
+#include "host/session/remembered_shops.hpp"
+#include "system/path_text.hpp"
+
+#include <cstdlib>
+#include <exception>
+
+namespace kova::host {
+
+namespace {
+
+/// The demonstration is made where it is missing; any other shop has to be there.
+std::string AsOption(const std::string& source)
+{
+    return source == system::TextOf(DemonstrationDatabase()) ? std::string() : source;
+}
+
+bool AsksForShops(const Options& options, Outlet outlet)
+{
+    return outlet == Outlet::Window && !options.firstPaint && options.database.empty();
+}
+
+/// Why the shop could not be opened; nothing where the session has begun. `end` is how it ended.
+std::optional<std::string> TryShop(const Options& options, SessionEnd& end)
+{
+    try {
+        end = RunSession(options, Outlet::Window);
+        return std::nullopt;
+    } catch (const Failure& failure) {
+        return failure.Description();
+    } catch (const std::exception& failure) {
+        return failure.what();
+    }
+}
+
+} // namespace
+
+int RunShops(const Options& given, Outlet outlet)
+{
+    RequireFolders();
+    if (!AsksForShops(given, outlet) && outlet != Outlet::Window)
+        return RunSession(given, outlet).status;
+
+    const RememberedShops remembered(SettingsFile());
+    Options options = given;
+    SessionEnd end;
+    if (AsksForShops(given, outlet)) {
+        const auto shops = remembered.All();
+        end.next = shops.empty() ? AskForShop(remembered, {}) : shops.front().source;
+    } else {
+        end = RunSession(options, outlet);
+    }
+    while (end.next) {
+        options.database = AsOption(*end.next);
+        if (const auto refusal = TryShop(options, end))
+            end = {EXIT_FAILURE, AskForShop(remembered, *refusal)};
+    }
+    return end.status;
+}
+
+} // namespace kova::host
