@@ -1,9 +1,11 @@
 #include "family/business/appointments/appointment_merge.hpp"
 
 #include "family/business/appointments/appointment_fields.hpp"
-#include "family/business/appointments/clash_text.hpp"
+#include "family/business/clash_text.hpp"
+#include "family/business/three_ways.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/find_by_key.hpp"
+#include "family/data/stores/appointment_steps.hpp"
 
 namespace kova::family {
 
@@ -16,19 +18,9 @@ std::optional<Key> FormerVersion(Database& database, Key number, Key stored)
     return read == stored ? std::nullopt : read;
 }
 
-/// The three states of an appointment that two desks have changed.
-struct ThreeWays {
-    AppointmentInput base, stored, typed;
+using Ways = ThreeWays<AppointmentInput>;
 
-    bool IsLeftAlone(const AppointmentField& field) const { return field.same(typed, base); }
-    bool IsChangedByOthers(const AppointmentField& field) const { return !field.same(stored, base); }
-    bool Clashes(const AppointmentField& field) const
-    {
-        return !IsLeftAlone(field) && IsChangedByOthers(field) && !field.same(typed, stored);
-    }
-};
-
-FieldStates StatesOf(Database& database, const AppointmentField& field, const ThreeWays& ways)
+FieldStates StatesOf(Database& database, const AppointmentField& field, const Ways& ways)
 {
     return {field.caption, field.show(database, ways.stored), field.show(database, ways.typed)};
 }
@@ -43,7 +35,7 @@ const AuditLine& LastChange(const std::vector<AppointmentStep>& steps, const App
     return steps.front().line;
 }
 
-Refusal RefuseClashes(Database& database, const ThreeWays& ways, const std::vector<AppointmentStep>& steps)
+Refusal RefuseClashes(Database& database, const Ways& ways, const std::vector<AppointmentStep>& steps)
 {
     std::vector<Clash> clashes;
     std::vector<FieldStates> others;
@@ -81,7 +73,7 @@ Refusal MergeIntoInput(Database& database, const AppointmentRow& stored, Appoint
     if (!steps || steps->empty())
         return WriteAnswer::Refusal(UnknownClashText());
     const AppointmentInput latest = InputOf(stored);
-    const ThreeWays ways{Comparable(InputOf(steps->back().before)), Comparable(latest), Comparable(input)};
+    const Ways ways{Comparable(InputOf(steps->back().before)), Comparable(latest), Comparable(input)};
     if (const Refusal refusal = RefuseClashes(database, ways, *steps))
         return refusal;
     for (const AppointmentField& field : AppointmentFields()) {

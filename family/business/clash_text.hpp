@@ -1,12 +1,24 @@
 #pragma once
 
 #include "agenda/contracts/value.hpp"
-#include "family/data/stores/appointment_steps.hpp"
+#include "family/data/audit/audit_lines.hpp"
+
+#include <optional>
 
 namespace kova::family {
 
-// What a user reads who wanted to write an appointment that somebody else has written in the meantime. The
-// form goes with its text, so the text repeats what was typed.
+// What a user reads who wanted to write something that somebody else has written in the meantime. The form
+// may go with its text, so the text repeats what was typed.
+
+/// How the texts speak of the thing.
+struct ClashWords {
+    /// "Este agendamento foi alterado depois que você o abriu."
+    const char* changed;
+    /// What shows how it is now.
+    const char* lookAgain;
+};
+extern const ClashWords OfAppointment;
+extern const ClashWords OfRegister;
 
 /// What stands in a field and what was typed into it.
 struct FieldStates {
@@ -16,7 +28,8 @@ struct FieldStates {
 /// A field that both have changed, and the write that changed it last.
 struct Clash {
     FieldStates field;
-    AuditLine line;
+    /// Nothing where the audit does not tell.
+    std::optional<AuditLine> line;
 };
 
 /// A write by somebody else, with the captions of the fields that it changed.
@@ -26,8 +39,11 @@ struct OthersWrite {
 };
 
 /// `others` are the fields that this user alone has changed: they are not written either.
-Text ClashText(const std::vector<Clash>& clashes, const std::vector<FieldStates>& others);
-/// Newest write first.
+Text ClashText(const std::vector<Clash>& clashes, const std::vector<FieldStates>& others,
+               const ClashWords& words = OfAppointment);
+/// What it says of one of the fields, the caption aside: who has written what, and what was typed.
+Text ClashOf(const Clash& clash);
+/// Of an appointment. Newest write first.
 Text DeletionClashText(const std::vector<OthersWrite>& writes);
 /// `status` is what the write has set.
 Text StatusClashText(const AuditLine& line, int status);

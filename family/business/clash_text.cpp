@@ -1,4 +1,4 @@
-#include "family/business/appointments/clash_text.hpp"
+#include "family/business/clash_text.hpp"
 
 #include "family/business/shown_values.hpp"
 #include "family/data/engine/iso_text.hpp"
@@ -8,16 +8,8 @@ namespace kova::family {
 namespace {
 
 constexpr const char* LineEnd = "\r\n";
-constexpr const char* ChangedMeanwhile = "Este agendamento foi alterado depois que você o abriu.";
-constexpr const char* LookAgain = "Atualize a lista (F5) para ver o agendamento como está agora.";
 
 Text Quoted(const std::string& value) { return value.empty() ? "(vazio)" : "\"" + value + "\""; }
-
-Text LineOf(const Clash& clash)
-{
-    return clash.field.caption + ": " + PersonOf(clash.line) + " gravou " + Quoted(clash.field.stored)
-        + " em " + MomentOf(clash.line) + "; você informou " + Quoted(clash.field.typed) + "." + LineEnd;
-}
 
 Text ListOf(const std::vector<std::string>& captions)
 {
@@ -29,27 +21,41 @@ Text ListOf(const std::vector<std::string>& captions)
 
 } // namespace
 
-Text ClashText(const std::vector<Clash>& clashes, const std::vector<FieldStates>& others)
+const ClashWords OfAppointment{"Este agendamento foi alterado depois que você o abriu.",
+                               "Atualize a lista (F5) para ver o agendamento como está agora."};
+const ClashWords OfRegister{"Este cadastro foi alterado depois que você o abriu.",
+                            "Abra o cadastro de novo para vê-lo como está agora."};
+
+Text ClashOf(const Clash& clash)
 {
-    Text text = Text(ChangedMeanwhile) + " Nada do que você mudou foi gravado." + LineEnd + LineEnd;
+    const Text written = clash.line
+        ? PersonOf(*clash.line) + " gravou " + Quoted(clash.field.stored) + " em " + MomentOf(*clash.line)
+        : "agora está " + Quoted(clash.field.stored);
+    return written + "; você informou " + Quoted(clash.field.typed) + ".";
+}
+
+Text ClashText(const std::vector<Clash>& clashes, const std::vector<FieldStates>& others,
+               const ClashWords& words)
+{
+    Text text = Text(words.changed) + " Nada do que você mudou foi gravado." + LineEnd + LineEnd;
     for (const Clash& clash : clashes)
-        text += LineOf(clash);
+        text += clash.field.caption + ": " + ClashOf(clash) + LineEnd;
     if (!others.empty())
         text += Text(LineEnd) + "Você também informou:" + LineEnd;
     for (const FieldStates& field : others)
         text += field.caption + ": " + Quoted(field.typed) + LineEnd;
-    return text + LineEnd + LookAgain + " Depois refaça as suas mudanças.";
+    return text + LineEnd + words.lookAgain + " Depois refaça as suas mudanças.";
 }
 
 Text DeletionClashText(const std::vector<OthersWrite>& writes)
 {
-    Text text = Text(ChangedMeanwhile) + " Nada foi excluído." + LineEnd + LineEnd;
+    Text text = Text(OfAppointment.changed) + " Nada foi excluído." + LineEnd + LineEnd;
     for (const OthersWrite& write : writes) {
         if (!write.fields.empty())
             text +=
                 PersonOf(write.line) + ", em " + MomentOf(write.line) + ": " + ListOf(write.fields) + LineEnd;
     }
-    return text + LineEnd + LookAgain;
+    return text + LineEnd + OfAppointment.lookAgain;
 }
 
 Text StatusClashText(const AuditLine& line, int status)
@@ -60,8 +66,8 @@ Text StatusClashText(const AuditLine& line, int status)
 
 Text UnknownClashText()
 {
-    return Text(ChangedMeanwhile) + " Nada foi gravado, e não há registro do que mudou." + LineEnd + LineEnd
-        + LookAgain;
+    return Text(OfAppointment.changed) + " Nada foi gravado, e não há registro do que mudou." + LineEnd
+        + LineEnd + OfAppointment.lookAgain;
 }
 
 Text PersonOf(const AuditLine& line)
