@@ -4,7 +4,7 @@
 #include "family/data/audit/add_row.hpp"
 #include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/select_where.hpp"
-#include "tools/agenda-data/csv/column_kinds.hpp"
+#include "family/registers/column.hpp"
 #include "tools/agenda-data/csv/occurrences.hpp"
 #include "tools/agenda-data/csv/register.hpp"
 
@@ -13,6 +13,37 @@
 #include <unordered_set>
 
 namespace kova::data {
+
+using family::Key;
+using family::Nullable;
+using family::registers::Column;
+using family::registers::Columns;
+
+template <class Record> std::vector<Title> TitlesOf(const Columns<Record>& columns)
+{
+    std::vector<Title> titles;
+    for (const Column<Record>& column : columns)
+        titles.push_back({column.field.label, column.field.required});
+    return titles;
+}
+
+/// Reads all cells of a line into a record; what cannot be read is told to the line.
+template <class Record> Record ReadRecord(const Columns<Record>& columns, Line& line)
+{
+    Record record;
+    for (std::size_t at = 0; at < columns.size(); ++at) {
+        const Column<Record>& column = columns[at];
+        const std::string& cell = line.Cell(at);
+        if (cell.empty()) {
+            if (column.field.required)
+                line.Refuse(column.field.label, "deve ser informado.");
+            continue;
+        }
+        if (const std::string why = column.read(cell, record); !why.empty())
+            line.Refuse(column.field.label, cell, why);
+    }
+    return record;
+}
 
 /// The code alone of a table's row.
 template <class Row> struct CodeOf {
@@ -152,7 +183,7 @@ private:
         }
     }
 
-    std::string CodeName() const { return std::string(columns_.front().name); }
+    std::string CodeName() const { return std::string(columns_.front().field.label); }
 
     family::Database& database_;
     const Columns<Record>& columns_;
@@ -174,7 +205,7 @@ template <class Record> void ExportNames(const Columns<Record>& columns, const F
     std::vector<std::string> names;
     for (const Column<Record>& column : columns) {
         if (column.write)
-            names.emplace_back(column.name);
+            names.emplace_back(column.field.label);
     }
     sink(names);
 }

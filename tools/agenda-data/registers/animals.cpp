@@ -1,4 +1,5 @@
-#include "family/data/rows/people_rows.hpp"
+#include "family/registers/animals.hpp"
+#include "family/data/engine/fold_text.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
 
 #include <unordered_map>
@@ -10,54 +11,10 @@ namespace {
 using family::AnimalRow;
 using family::BreedRow;
 using family::SpeciesRow;
-
-/// An animal with the names of its species and breed.
-struct AnimalRecord : AnimalRow {
-    std::string species, breed;
-};
-using Cols = ColumnsOf<AnimalRecord>;
-
-constexpr const char* CustomerColumn = "Código do cliente";
-constexpr const char* BreedOfNone = "Sem raça definida";
-constexpr Choice Sizes[] = {{1, "Pequeno"}, {2, "Médio"}, {3, "Grande"}, {4, "Gigante"}};
-
-std::string ReadSex(const std::string& cell, AnimalRecord& record)
-{
-    const std::string folded = family::FoldText(cell);
-    if (folded == "m" || folded == "macho")
-        record.sexo = "M";
-    else if (folded == "f" || folded == "femea")
-        record.sexo = "F";
-    else
-        return "não é conhecido. Use Macho ou Fêmea.";
-    return {};
-}
-
-/// A chip is looked for by its digits.
-std::string ReadMicrochip(const std::string& cell, AnimalRecord& record)
-{
-    const std::string digits = family::DigitsOf(cell);
-    record.microchip = digits.empty() ? cell : digits;
-    return CheckWidth(cell, 30);
-}
-
-const Columns<AnimalRecord>& AnimalColumns()
-{
-    static const Columns<AnimalRecord> columns = {
-        Cols::Code("Código", &AnimalRow::codigo),
-        Required(Cols::Code(CustomerColumn, &AnimalRow::codigoDoCliente)),
-        Required(Cols::Text("Nome", &AnimalRow::nome, 100)),
-        {"Sexo", ReadSex, [](const AnimalRecord& record) { return family::ShownSex(record.sexo); }, true},
-        Required(Cols::Text("Espécie", &AnimalRecord::species, 50)),
-        Cols::Text("Raça", &AnimalRecord::breed, 50),
-        Required(Cols::OneOf("Porte", &AnimalRow::porte, Sizes)),
-        Cols::Text("Cor", &AnimalRow::cor, 50),
-        {"Microchip", ReadMicrochip, [](const AnimalRecord& record) { return record.microchip.ValueOr(""); }},
-        Cols::Text("Observação", &AnimalRow::observacao, 255),
-        Cols::OneOf("Situação", &AnimalRow::situacao, ActiveOrNot),
-    };
-    return columns;
-}
+using family::registers::AnimalColumns;
+using family::registers::AnimalRecord;
+using family::registers::BreedOfNone;
+namespace column = family::registers::animal_columns;
 
 /// Species and breeds by their folded names; those that are missing are made.
 class Breeds {
@@ -133,7 +90,7 @@ public:
     }
 
 private:
-    void Complete(AnimalRecord& record) const override { record.nomeDeBusca = family::FoldText(record.nome); }
+    void Complete(AnimalRecord& record) const override { record.Complete(); }
 
     void LookUp(std::span<const AnimalRecord> records) override
     {
@@ -161,7 +118,7 @@ private:
     void CheckRecord(AnimalRecord& record, Line& line) override
     {
         if (record.codigoDoCliente != 0 && !customers_.contains(record.codigoDoCliente))
-            line.Refuse(CustomerColumn, std::to_string(record.codigoDoCliente),
+            line.Refuse(column::Customer, std::to_string(record.codigoDoCliente),
                         "não há cliente com este código.");
     }
 

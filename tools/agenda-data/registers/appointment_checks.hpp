@@ -2,6 +2,7 @@
 
 #include "family/business/appointments/employee_room.hpp"
 #include "family/data/stores/booking_registers.hpp"
+#include "tools/agenda-data/csv/line.hpp"
 #include "tools/agenda-data/registers/appointment_columns.hpp"
 
 #include <map>
@@ -10,6 +11,9 @@
 #include <unordered_set>
 
 namespace kova::data {
+
+using family::Key;
+using family::Nullable;
 
 /// What an appointment of a file has to fit to. Services, their types and employees are read once.
 class AppointmentChecks {

@@ -8,7 +8,9 @@ namespace kova::data {
 namespace {
 
 using family::AppointmentRow;
-using Cols = ColumnsOf<AppointmentRecord>;
+using family::registers::Choice;
+using family::registers::Column;
+using Cols = family::registers::ColumnsOf<AppointmentRecord>;
 namespace status = family::appointment_status;
 namespace name = appointment_columns;
 
@@ -28,26 +30,18 @@ Column<AppointmentRecord> PreSaleStatus()
     Column<AppointmentRecord> column =
         Cols::OneOf(name::PreSale, &AppointmentRecord::preSaleStatus, PreSaleStatuses);
     column.write = [](const AppointmentRecord& record) {
-        return record.preSaleStatus == 0 ? "" : WriteChoice(record.preSaleStatus, PreSaleStatuses);
+        return record.preSaleStatus == 0
+            ? ""
+            : family::registers::WriteChoice(record.preSaleStatus, PreSaleStatuses);
     };
     return column;
 }
 
-Column<AppointmentRecord> PreSaleValue()
-{
-    return Cols::Read<long long>(
-        name::PreSaleValue, ReadMoney, WrongMoney,
-        [](long long cents, AppointmentRecord& record) { record.preSaleValue = cents; },
-        [](const AppointmentRecord& record) {
-            return record.preSaleValue.IsNull() ? "" : family::ShownMoney(record.preSaleValue.value);
-        });
-}
-
 } // namespace
 
-const Columns<AppointmentRecord>& AppointmentColumns()
+const family::registers::Columns<AppointmentRecord>& AppointmentColumns()
 {
-    static const Columns<AppointmentRecord> columns = {
+    static const family::registers::Columns<AppointmentRecord> columns = {
         Cols::Code(name::Number, &AppointmentRow::numero),
         Required(Cols::Date("Data inicial", &AppointmentRow::dataInicial)),
         Required(Cols::Time(name::StartTime, &AppointmentRow::horaInicial)),
@@ -71,7 +65,7 @@ const Columns<AppointmentRecord>& AppointmentColumns()
         Cols::YesNo("Levar", &AppointmentRow::transporteLevar),
         Cols::OneOf(name::Status, &AppointmentRow::situacao, Statuses),
         PreSaleStatus(),
-        PreSaleValue(),
+        Cols::Money(name::PreSaleValue, &AppointmentRecord::preSaleValue),
         Cols::Moment("Incluído em", &AppointmentRow::incluidoEm),
         Cols::Text("Incluído por", &AppointmentRow::incluidoPor, 100),
         Cols::Moment("Alterado em", &AppointmentRow::alteradoEm),

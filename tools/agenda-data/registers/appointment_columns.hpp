@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/data/stores/appointment_rows.hpp"
-#include "tools/agenda-data/csv/column_kinds.hpp"
+#include "family/registers/column_kinds.hpp"
 
 namespace kova::data {
 
@@ -10,7 +10,7 @@ struct AppointmentRecord : family::AppointmentRow {
     /// A value of pre_sale_status; 0 where there is no pre-sale or the file does not say.
     int preSaleStatus = 0;
     /// Null where the file does not say.
-    Nullable<Key> preSaleValue;
+    family::Nullable<family::Key> preSaleValue;
 };
 
 namespace appointment_columns {
@@ -34,6 +34,6 @@ inline constexpr const char* PreSale = "Pré-venda";
 inline constexpr const char* PreSaleValue = "Valor da pré-venda";
 } // namespace appointment_columns
 
-const Columns<AppointmentRecord>& AppointmentColumns();
+const family::registers::Columns<AppointmentRecord>& AppointmentColumns();
 
 } // namespace kova::data

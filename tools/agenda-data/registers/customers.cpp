@@ -1,7 +1,6 @@
-#include "agenda/contracts/text.hpp"
-#include "family/data/checks/documents.hpp"
+#include "family/registers/customers.hpp"
+#include "family/data/engine/fold_text.hpp"
 #include "family/data/stores/customer_store.hpp"
-#include "tools/agenda-data/csv/channels.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
 
 #include <algorithm>
@@ -14,100 +13,11 @@ namespace {
 
 using family::ChannelRow;
 using family::CustomerRow;
-
-/// A customer with its contact channels.
-struct CustomerRecord : CustomerRow {
-    std::vector<ChannelRow> channels;
-};
-using Cols = ColumnsOf<CustomerRecord>;
-using Col = Column<CustomerRecord>;
-
-constexpr Choice Situations[] = {{1, "Ativo"}, {2, "Inativo"}, {3, "Bloqueado"}, {4, "Excluído"}};
-constexpr const char* DocumentColumn = "Documento";
-constexpr const char* KindColumn = "Tipo de pessoa";
-
-/// A column that is read only: its cell is one more channel of that kind.
-Col Channel(const char* kind)
-{
-    return {kind,
-            [=](const std::string& cell, CustomerRecord& record) {
-                return AddChannel(kind, cell, record.channels);
-            },
-            {}};
-}
-
-/// An upper case word out of a few.
-Col Letters(const char* name, std::string CustomerRow::*member, std::string_view words, const char* wrong)
-{
-    return {name,
-            [=](const std::string& cell, CustomerRecord& record) {
-                record.*member = UpperCase(cell);
-                const bool known = words.find(" " + record.*member + " ") != std::string_view::npos;
-                return known ? std::string() : std::string(wrong);
-            },
-            [=](const CustomerRecord& record) { return record.*member; }};
-}
-
-std::string ReadDocumentCell(const std::string& cell, CustomerRecord& record)
-{
-    const auto document = ReadDocument(cell);
-    if (!document)
-        return "não é um CPF nem um CNPJ válido: confira os dígitos.";
-    record.documento = *document;
-    return {};
-}
-
-std::string ReadPostalCodeCell(const std::string& cell, CustomerRecord& record)
-{
-    const auto digits = ReadPostalCode(cell);
-    if (!digits)
-        return "não é um CEP: são oito dígitos.";
-    record.cep = *digits;
-    return {};
-}
-
-const Columns<CustomerRecord>& CustomerColumns()
-{
-    static const Columns<CustomerRecord> columns = {
-        Cols::Code("Código", &CustomerRow::codigo),
-        Letters(KindColumn, &CustomerRow::tipoDePessoa, " PF PJ ", "deve ser PF ou PJ."),
-        Required(Cols::Text("Nome", &CustomerRow::nome, 100)),
-        Cols::Text("Apelido", &CustomerRow::apelido, 100),
-        {DocumentColumn, ReadDocumentCell, [](const CustomerRecord& record) { return record.documento; }},
-        Cols::OneOf("Situação", &CustomerRow::situacao, Situations),
-        Cols::YesNo("VIP", &CustomerRow::vip),
-        Letters("Curva ABC", &CustomerRow::categoriaDaCurvaABC, " A B C ", "deve ser A, B ou C."),
-        Cols::Text("Logradouro", &CustomerRow::logradouro, 100),
-        Cols::Text("Número", &CustomerRow::numero, 20),
-        Cols::Text("Complemento", &CustomerRow::complemento, 50),
-        Cols::Text("Bairro", &CustomerRow::bairro, 50),
-        Cols::Text("Cidade", &CustomerRow::cidade, 50),
-        Letters("UF", &CustomerRow::uf,
-                " AC AL AM AP BA CE DF ES GO MA MG MS MT PA PB PE PI PR RJ RN RO RR RS SC SE SP TO ",
-                "não é a sigla de um estado."),
-        {"CEP", ReadPostalCodeCell, [](const CustomerRecord& record) { return record.cep; }},
-        {"Canais",
-         [](const std::string& cell, CustomerRecord& record) { return ReadChannels(cell, record.channels); },
-         [](const CustomerRecord& record) { return WriteChannels(record.channels); }},
-        Channel("Celular"),
-        Channel("Telefone"),
-        Channel("E-mail"),
-    };
-    return columns;
-}
-
-struct KnownDocument {
-    static constexpr const char* Table = CustomerRow::Table;
-    static constexpr const char* FoundBy = "documento";
-    Key code = 0;
-    std::string document;
-
-    template <class Visit> void Columns(Visit visit)
-    {
-        visit("codigo", code);
-        visit("documento", document);
-    }
-};
+using family::registers::ChannelOfCustomer;
+using family::registers::CustomerColumns;
+using family::registers::CustomerRecord;
+using family::registers::KnownDocument;
+namespace column = family::registers::customer_columns;
 
 /// What a customer without a document is told apart from others by.
 struct KnownName : CustomerRow {
@@ -119,10 +29,6 @@ struct KnownName : CustomerRow {
         visit("nome_de_busca", nomeDeBusca);
         visit("endereco_de_busca", enderecoDeBusca);
     }
-};
-
-struct ChannelOfCustomer : ChannelRow {
-    static constexpr const char* FoundBy = "codigo_do_cliente";
 };
 
 using ChannelsByCustomer = std::unordered_map<Key, std::vector<ChannelRow>>;
@@ -151,7 +57,7 @@ public:
     CustomerImport(family::Database& database, DateTime) : ImportOf(database, CustomerColumns()) { }
 
 private:
-    void Complete(CustomerRecord& record) const override { record.Compose(record.channels); }
+    void Complete(CustomerRecord& record) const override { record.Complete(); }
 
     void LookUp(std::span<const CustomerRecord> records) override
     {
@@ -199,25 +105,16 @@ private:
     {
         if (record.documento.empty())
             return;
-        const char* kind = KindOf(record);
-        if (!record.tipoDePessoa.empty() && record.tipoDePessoa != kind)
-            line.Refuse(KindColumn, record.tipoDePessoa,
-                        "o documento " + record.documento + " é de " + kind + ".");
+        if (const std::string why = family::registers::WrongKindOfPerson(record); !why.empty())
+            line.Refuse(column::Kind, record.tipoDePessoa, why);
         if (const auto place = documents_.Add(record.documento, line.Number()))
-            line.Refuse(DocumentColumn, record.documento,
+            line.Refuse(column::Document, record.documento,
                         "um cliente com este documento " + place->Told() + ".");
     }
 
     void WriteRecord(CustomerRecord& record, const family::Author& author) override
     {
-        if (record.tipoDePessoa.empty())
-            record.tipoDePessoa = KindOf(record);
         family::AddCustomer(GetDatabase(), record, record.channels, author);
-    }
-
-    static const char* KindOf(const CustomerRow& row)
-    {
-        return family::IsCompanyDocument(row.documento) ? "PJ" : "PF";
     }
 
     Occurrences<std::string> documents_;

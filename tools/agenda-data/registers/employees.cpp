@@ -1,3 +1,5 @@
+#include "family/data/engine/fold_text.hpp"
+#include "family/registers/shop_columns.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
 
 namespace kova::data {
@@ -5,19 +7,7 @@ namespace kova::data {
 namespace {
 
 using family::EmployeeRow;
-using Cols = ColumnsOf<EmployeeRow>;
-
-const Columns<EmployeeRow>& EmployeeColumns()
-{
-    static const Columns<EmployeeRow> columns = {
-        Cols::Code("Código", &EmployeeRow::codigo),
-        Required(Cols::Text("Apelido", &EmployeeRow::apelido, 50)),
-        Required(Cols::Text("Nome", &EmployeeRow::nome, 100)),
-        Cols::Number("Agendamentos simultâneos", &EmployeeRow::agendamentosSimultaneos, 0, 999),
-        Cols::OneOf("Situação", &EmployeeRow::situacao, ActiveOrNot),
-    };
-    return columns;
-}
+using family::registers::EmployeeColumns;
 
 class EmployeeImport : public ImportOf<EmployeeRow> {
 public:

@@ -1,3 +1,5 @@
+#include "family/data/engine/fold_text.hpp"
+#include "family/registers/shop_columns.hpp"
 #include "tools/agenda-data/csv/import_of.hpp"
 
 namespace kova::data {
@@ -5,17 +7,7 @@ namespace kova::data {
 namespace {
 
 using family::ServiceTypeRow;
-using Cols = ColumnsOf<ServiceTypeRow>;
-
-const Columns<ServiceTypeRow>& ServiceTypeColumns()
-{
-    static const Columns<ServiceTypeRow> columns = {
-        Cols::Code("Número", &ServiceTypeRow::numero),
-        Required(Cols::Text("Nome", &ServiceTypeRow::nome, 100)),
-        Cols::OneOf("Situação", &ServiceTypeRow::situacao, ActiveOrNot),
-    };
-    return columns;
-}
+using family::registers::ServiceTypeColumns;
 
 class ServiceTypeImport : public ImportOf<ServiceTypeRow> {
 public:
