@@ -10,11 +10,13 @@ constexpr char Separator = '\0';
 
 } // namespace
 
-FoldedTexts::FoldedTexts(Database& database, std::string table, const char* selection)
-    : table_(std::move(table)),
+FoldedTexts::FoldedTexts(Database& database, std::vector<std::string> tables, const char* selection)
+    : tables_(std::move(tables)),
       countChanges_((database.Session().prepare
-                         << "select alteracoes from contador_de_alteracoes where tabela = :tabela",
-                     soci::use(table_, "tabela"), soci::into(changes_))),
+                         << "select cast(coalesce(sum(alteracoes), 0) as bigint) from contador_de_alteracoes"
+                            " where tabela in (:uma, :outra)",
+                     soci::use(tables_.front(), "uma"), soci::use(tables_.back(), "outra"),
+                     soci::into(changes_))),
       readTexts_((database.Session().prepare << selection, soci::into(key_), soci::into(text_)))
 {
 }
@@ -41,9 +43,11 @@ void FoldedTexts::Read()
     while (readTexts_.fetch()) {
         starts_.push_back(texts_.size());
         keys_.push_back(key_);
+        Shape(text_);
         texts_.append(text_).push_back(Separator);
     }
     starts_.push_back(texts_.size());
+    placesByKey_.clear();
 }
 
 std::string_view FoldedTexts::TextAt(std::uint32_t place) const
@@ -73,18 +77,26 @@ std::vector<std::uint32_t> FoldedTexts::PlacesWith(std::string_view part,
     std::vector<std::uint32_t> places = PlacesWith(part);
     if (others.empty())
         return places;
-    for (const Key key : others)
-        AddPlaceOf(key, places);
+    for (const Key key : others) {
+        if (const auto place = PlaceOf(key))
+            places.push_back(*place);
+    }
     std::sort(places.begin(), places.end());
     places.erase(std::unique(places.begin(), places.end()), places.end());
     return places;
 }
 
-void FoldedTexts::AddPlaceOf(Key key, std::vector<std::uint32_t>& places) const
+std::optional<std::uint32_t> FoldedTexts::PlaceOf(Key key) const
 {
-    const auto found = std::find(keys_.begin(), keys_.end(), key);
-    if (found != keys_.end())
-        places.push_back(static_cast<std::uint32_t>(found - keys_.begin()));
+    if (placesByKey_.empty()) {
+        for (std::uint32_t place = 0; place < keys_.size(); ++place)
+            placesByKey_.emplace_back(keys_[place], place);
+        std::ranges::sort(placesByKey_);
+    }
+    const auto found = std::ranges::lower_bound(placesByKey_, std::pair(key, std::uint32_t(0)));
+    if (found == placesByKey_.end() || found->first != key)
+        return std::nullopt;
+    return found->second;
 }
 
 CustomerNames::CustomerNames(Database& database)

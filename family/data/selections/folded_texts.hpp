@@ -4,7 +4,9 @@
 #include "family/data/rows/rows.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kova::family {
@@ -26,24 +28,36 @@ public:
     std::vector<std::uint32_t> PlacesWith(std::string_view part, const std::vector<Key>& others) const;
 
     Key KeyAt(std::uint32_t place) const { return keys_[place]; }
+    std::size_t Count() const { return keys_.size(); }
+    /// The place of a row; of several under one key it is any. Nothing for a key that no row has.
+    std::optional<std::uint32_t> PlaceOf(Key key) const;
     std::string_view TextAt(std::uint32_t place) const;
 
 protected:
-    /// `table` is the name under which the changes are counted; `selection` gives key and text of every row.
-    FoldedTexts(Database& database, std::string table, const char* selection);
+    /// `tables` are the names under which the changes are counted, two at most; `selection` gives key and
+    /// text of every row.
+    FoldedTexts(Database& database, std::vector<std::string> tables, const char* selection);
+    FoldedTexts(Database& database, const char* table, const char* selection)
+        : FoldedTexts(database, std::vector<std::string>{table}, selection)
+    {
+    }
+
+    /// Makes what is looked through of what the selection gave; it is that itself where a table keeps it so.
+    virtual void Shape(std::string&) const { }
 
 private:
     void Read();
-    void AddPlaceOf(Key key, std::vector<std::uint32_t>& places) const;
 
     /// One after the other, each with a separator behind it.
     std::string texts_;
     /// Where each begins; one more at the end.
     std::vector<std::size_t> starts_;
     std::vector<Key> keys_;
+    /// Keys with their places, in the order of the keys; made when somebody first asks for one.
+    mutable std::vector<std::pair<Key, std::uint32_t>> placesByKey_;
     long long readAt_ = -1;
 
-    std::string table_;
+    std::vector<std::string> tables_;
     long long changes_ = 0;
     soci::statement countChanges_;
     Key key_ = 0;

@@ -1,0 +1,148 @@
+#include "family/data/selections/register_texts.hpp"
+
+#include "family/data/engine/fold_text.hpp"
+
+#include <algorithm>
+
+namespace kova::family {
+
+namespace {
+
+bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+bool IsNumberMark(char letter) { return std::string_view(" ()+.-/").find(letter) != std::string_view::npos; }
+
+/// The numbers of a text, each a line of its own without its marks.
+std::string NumbersIn(std::string_view text)
+{
+    std::string numbers;
+    bool isInside = false;
+    for (const char letter : text) {
+        if (IsDigit(letter))
+            numbers.append(isInside || numbers.empty() ? "" : "\n").push_back(letter);
+        isInside = IsDigit(letter) || (isInside && IsNumberMark(letter));
+    }
+    return numbers;
+}
+
+/// A set of places, by a flag for each.
+class PlaceSet {
+public:
+    explicit PlaceSet(const FoldedTexts& texts) : texts_(texts), has_(texts.Count()) { }
+
+    void Add(std::uint32_t place) { has_[place] = true; }
+    void AddThoseWith(const std::vector<std::string>& parts)
+    {
+        for (const std::string& part : parts) {
+            for (const std::uint32_t place : texts_.PlacesWith(part))
+                Add(place);
+        }
+    }
+    void AddCode(Key code)
+    {
+        if (const auto place = texts_.PlaceOf(code))
+            Add(*place);
+    }
+
+    std::vector<Key> Keys() const
+    {
+        std::vector<Key> keys;
+        for (std::uint32_t place = 0; place < has_.size(); ++place) {
+            if (has_[place])
+                keys.push_back(texts_.KeyAt(place));
+        }
+        return keys;
+    }
+
+private:
+    const FoldedTexts& texts_;
+    std::vector<bool> has_;
+};
+
+std::vector<Key> OwnersOfAnimalsWith(Database& database, const std::vector<std::string>& parts)
+{
+    return database.With<AnimalNamesOfCustomers>([&](AnimalNamesOfCustomers& names) {
+        names.Refresh();
+        std::vector<Key> owners;
+        for (const std::string& part : parts) {
+            for (const std::uint32_t place : names.PlacesWith(part))
+                owners.push_back(names.KeyAt(place));
+        }
+        return owners;
+    });
+}
+
+/// An empty list of parts finds all.
+std::vector<std::string> OrAll(const std::vector<std::string>& parts)
+{
+    return parts.empty() ? std::vector<std::string>{""} : parts;
+}
+
+} // namespace
+
+std::string WithoutNumberMarks(std::string_view folded)
+{
+    std::string plain(folded);
+    if (std::ranges::any_of(plain, IsDigit))
+        std::erase_if(plain, IsNumberMark);
+    return plain;
+}
+
+CustomerTexts::CustomerTexts(Database& database)
+    : FoldedTexts(database, "cliente",
+                  "select codigo, nomes_de_busca || '\n' || documento || '\n' || tipos_e_canais from cliente"
+                  " order by nome_de_busca, codigo")
+{
+}
+
+/// The names are folded already; folding them again changes nothing.
+void CustomerTexts::Shape(std::string& text) const
+{
+    const std::size_t channels = text.rfind('\n') + 1;
+    const std::string numbers = NumbersIn(std::string_view(text).substr(channels));
+    text = FoldText(text);
+    if (!numbers.empty())
+        text.append("\n").append(numbers);
+}
+
+AnimalNamesOfCustomers::AnimalNamesOfCustomers(Database& database)
+    : FoldedTexts(database, "animal",
+                  "select codigo_do_cliente, nome_de_busca from animal order by codigo_do_cliente")
+{
+}
+
+AnimalTexts::AnimalTexts(Database& database)
+    : FoldedTexts(database, {"animal", "cliente"},
+                  "select n.codigo, n.nome_de_busca || '\n' || coalesce(n.microchip, '') || '\n'"
+                  " || c.nomes_de_busca from animal n join cliente c on c.codigo = n.codigo_do_cliente"
+                  " order by n.nome_de_busca, n.codigo")
+{
+}
+
+void AnimalTexts::Shape(std::string& text) const { text = FoldText(text); }
+
+std::vector<Key> CustomersWith(Database& database, const std::vector<std::string>& parts, Key code)
+{
+    const std::vector<Key> owners = parts.empty() ? std::vector<Key>() : OwnersOfAnimalsWith(database, parts);
+    return database.With<CustomerTexts>([&](CustomerTexts& texts) {
+        texts.Refresh();
+        PlaceSet places(texts);
+        places.AddThoseWith(OrAll(parts));
+        places.AddCode(code);
+        for (const Key owner : owners)
+            places.AddCode(owner);
+        return places.Keys();
+    });
+}
+
+std::vector<Key> AnimalsWith(Database& database, const std::vector<std::string>& parts, Key code)
+{
+    return database.With<AnimalTexts>([&](AnimalTexts& texts) {
+        texts.Refresh();
+        PlaceSet places(texts);
+        places.AddThoseWith(OrAll(parts));
+        places.AddCode(code);
+        return places.Keys();
+    });
+}
+
+} // namespace kova::family

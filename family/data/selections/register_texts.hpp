@@ -1,0 +1,40 @@
+#pragma once
+
+#include "family/data/selections/folded_texts.hpp"
+
+namespace kova::family {
+
+/// A folded text that holds a digit without the marks that stand in numbers, "(11) 91234-5678" as
+/// "11912345678"; one without a digit as it stands.
+std::string WithoutNumberMarks(std::string_view folded);
+
+/// What every customer is looked for by, by name, then code: nickname and name, document, contact channels as
+/// they are written and by their digits. About 150 bytes for a customer.
+struct CustomerTexts : FoldedTexts {
+    explicit CustomerTexts(Database& database);
+
+private:
+    void Shape(std::string& text) const override;
+};
+
+/// The names of all animals, active or not, each under its customer's code.
+struct AnimalNamesOfCustomers : FoldedTexts {
+    explicit AnimalNamesOfCustomers(Database& database);
+};
+
+/// What every animal is looked for by, active or not, by name, then code: its name, its microchip, nickname
+/// and name of its customer.
+struct AnimalTexts : FoldedTexts {
+    explicit AnimalTexts(Database& database);
+
+private:
+    void Shape(std::string& text) const override;
+};
+
+/// Codes of the customers whose own texts, or the names of whose animals, hold one of the parts, or that have
+/// that code; by name, then code. Fails as Database::With.
+std::vector<Key> CustomersWith(Database& database, const std::vector<std::string>& parts, Key code);
+/// The same of animals by their texts.
+std::vector<Key> AnimalsWith(Database& database, const std::vector<std::string>& parts, Key code);
+
+} // namespace kova::family
