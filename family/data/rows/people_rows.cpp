@@ -34,12 +34,12 @@ std::string ComposeChannels(const std::vector<ChannelRow>& channels)
     return text;
 }
 
+} // namespace
+
 std::string ShownPostalCode(const std::string& digits)
 {
     return digits.size() == 8 ? digits.substr(0, 5) + "-" + digits.substr(5) : digits;
 }
-
-} // namespace
 
 void CustomerRow::Compose(const std::vector<ChannelRow>& channels)
 {

@@ -64,6 +64,9 @@ struct CustomerRow {
     }
 };
 
+/// "01234-567"; a text of another length as it stands.
+std::string ShownPostalCode(const std::string& digits);
+
 struct AnimalRow {
     static constexpr const char* Table = "animal";
     Key codigo = 0, codigoDoCliente = 0;

@@ -1,0 +1,77 @@
+#include "family/registers/channel_texts.hpp"
+
+#include "agenda/contracts/text.hpp"
+#include "family/registers/column_kinds.hpp"
+
+#include <algorithm>
+
+namespace kova::family::registers {
+
+namespace {
+
+constexpr std::size_t WidthOfKind = 50;
+constexpr std::size_t WidthOfChannel = 100;
+
+std::string Escaped(const std::string& text, std::string_view marks)
+{
+    std::string escaped;
+    for (const char letter : text) {
+        if (letter == '\\' || marks.find(letter) != std::string_view::npos)
+            escaped += '\\';
+        escaped += letter;
+    }
+    return escaped;
+}
+
+/// Takes the text up to the mark, and the mark itself, away from `rest`.
+std::string TakeUntil(char mark, std::string_view& rest)
+{
+    std::string taken;
+    std::size_t at = 0;
+    for (; at < rest.size() && rest[at] != mark; ++at) {
+        if (rest[at] == '\\' && at + 1 < rest.size())
+            ++at;
+        taken += rest[at];
+    }
+    rest.remove_prefix(std::min(rest.size(), at + 1));
+    return Trim(taken);
+}
+
+} // namespace
+
+std::string WriteChannels(const std::vector<ChannelRow>& channels)
+{
+    std::string cell;
+    for (const ChannelRow& channel : channels) {
+        cell.append(cell.empty() ? "" : "; ").append(Escaped(channel.tipo, ":;"));
+        cell.append(": ").append(Escaped(channel.canal, ";"));
+    }
+    return cell;
+}
+
+std::string AddChannel(std::string kind, std::string channel, std::vector<ChannelRow>& channels)
+{
+    if (kind.empty() || channel.empty())
+        return "não é uma lista de canais. Escreva como \"Celular: (11) 91234-5678; E-mail: "
+               "ze@example.com\".";
+    std::string why = CheckWidth(kind, WidthOfKind);
+    if (why.empty())
+        why = CheckWidth(channel, WidthOfChannel);
+    channels.push_back({0, 0, std::move(kind), std::move(channel)});
+    return why;
+}
+
+std::string ReadChannels(const std::string& cell, std::vector<ChannelRow>& channels)
+{
+    for (std::string_view rest = cell; !rest.empty();) {
+        if (rest.find_first_not_of("; ") == std::string_view::npos)
+            break;
+        std::string kind = TakeUntil(':', rest);
+        std::string channel = TakeUntil(';', rest);
+        if (std::string why = AddChannel(std::move(kind), std::move(channel), channels); !why.empty())
+            return why;
+    }
+    return {};
+}
+
+} // namespace kova::family::registers

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "family/data/rows/people_rows.hpp"
+
+namespace kova::family::registers {
+
+/// Contact channels as one cell: "Celular: (11) 91234-5678; E-mail: ze@example.com". A semicolon or a
+/// backslash inside a channel, and a colon inside its kind, has a backslash before it.
+std::string WriteChannels(const std::vector<ChannelRow>& channels);
+
+/// Adds the cell's channels. Answers why they cannot be read, or nothing.
+std::string ReadChannels(const std::string& cell, std::vector<ChannelRow>& channels);
+
+/// Adds one channel; the same answers.
+std::string AddChannel(std::string kind, std::string channel, std::vector<ChannelRow>& channels);
+
+} // namespace kova::family::registers

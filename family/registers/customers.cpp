@@ -1,0 +1,94 @@
+#include "family/registers/customers.hpp"
+
+#include "family/data/selections/register_texts.hpp"
+#include "family/data/stores/customer_store.hpp"
+#include "family/registers/register_of.hpp"
+#include "family/registers/registers.hpp"
+
+namespace kova::family::registers {
+
+namespace {
+
+class Customers : public RegisterOf<CustomerRecord> {
+public:
+    Customers()
+        : RegisterOf(
+            {"clientes", "Clientes", "cliente"}, CustomerColumns(),
+            ShownColumns(CustomerColumns(),
+                         {"Nome", "Apelido", customer_columns::Document, "Canais", "Situação", "Código"}))
+    {
+    }
+
+    std::vector<Key> Find(Database& database, const std::string& text) const override
+    {
+        const ListSearch sought(text);
+        return CustomersWith(database, sought.Parts(), sought.Code().ValueOr(0));
+    }
+
+private:
+    void Load(Database& database, std::span<CustomerRecord> records) const override
+    {
+        std::unordered_map<Key, CustomerRecord*> byCode;
+        std::set<Key> codes;
+        for (CustomerRecord& record : records) {
+            byCode[record.codigo] = &record;
+            codes.insert(record.codigo);
+        }
+        SelectWhere<ChannelOfCustomer>(database, codes, [&](const ChannelOfCustomer& channel) {
+            byCode[channel.codigoDoCliente]->channels.push_back(channel);
+        });
+    }
+
+    void Check(Database& database, const CustomerRecord* stored, CustomerRecord& record,
+               Refusals& refusals) const override
+    {
+        if (std::string why = WrongKindOfPerson(record); !why.empty())
+            refusals.Add(customer_columns::Kind, std::move(why));
+        record.Complete();
+        const bool isNew = !stored || stored->documento != record.documento;
+        if (!record.documento.empty() && isNew)
+            CheckDocument(database, record, refusals);
+    }
+
+    static void CheckDocument(Database& database, const CustomerRecord& record, Refusals& refusals)
+    {
+        SelectWhere<KnownDocument>(
+            database, std::set<std::string>{record.documento}, [&](const KnownDocument& known) {
+                if (known.code != record.codigo)
+                    refusals.Add(customer_columns::Document,
+                                 "o cliente " + std::to_string(known.code) + " já tem este documento.");
+            });
+    }
+
+    Key WriteRecord(Database& database, const CustomerRecord* stored, CustomerRecord& record,
+                    const Author& author) const override
+    {
+        if (!stored)
+            return AddCustomer(database, record, record.channels, author);
+        if (stored->tiposECanais != record.tiposECanais) {
+            RemoveOwn(database, record.codigo);
+            for (ChannelRow channel : record.channels) {
+                channel.codigoDoCliente = record.codigo;
+                InsertNew(database, channel);
+            }
+        }
+        return RegisterOf::WriteRecord(database, stored, record, author);
+    }
+
+    const char* OwnTable() const override { return ChannelRow::Table; }
+    void RemoveOwn(Database& database, Key key) const override
+    {
+        DeleteWhere(database, ChannelRow::Table, ChannelOfCustomer::FoundBy, key);
+    }
+    const char* BookedBy() const override { return "codigo_do_cliente"; }
+};
+
+} // namespace
+
+const Register& CustomerRegister()
+{
+    static const Customers customers;
+    return customers;
+}
+
+} // namespace kova::family::registers

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "family/data/rows/people_rows.hpp"
+#include "family/registers/column.hpp"
+
+namespace kova::family::registers {
+
+/// A customer with its contact channels.
+struct CustomerRecord : CustomerRow {
+    std::vector<ChannelRow> channels;
+
+    /// Fills in what follows from the rest: the kind of a person who has none, by the document.
+    void Complete();
+};
+
+namespace customer_columns {
+inline constexpr const char* Document = "Documento";
+inline constexpr const char* Kind = "Tipo de pessoa";
+} // namespace customer_columns
+
+const Columns<CustomerRecord>& CustomerColumns();
+
+/// Why the kind of person does not go with the document; empty where it does.
+std::string WrongKindOfPerson(const CustomerRecord& record);
+
+/// A customer's code by its document.
+struct KnownDocument {
+    static constexpr const char* Table = CustomerRow::Table;
+    static constexpr const char* FoundBy = "documento";
+    Key code = 0;
+    std::string document;
+
+    template <class Visit> void Columns(Visit visit)
+    {
+        visit("codigo", code);
+        visit("documento", document);
+    }
+};
+
+/// The channels of a customer.
+struct ChannelOfCustomer : ChannelRow {
+    static constexpr const char* FoundBy = "codigo_do_cliente";
+};
+
+} // namespace kova::family::registers

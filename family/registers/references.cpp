@@ -1,0 +1,101 @@
+#include "family/registers/references.hpp"
+
+#include "family/data/engine/database.hpp"
+#include "family/data/rows/table_layouts.hpp"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+namespace kova::family::registers {
+
+namespace {
+
+/// What rows of a table are called.
+struct Words {
+    std::string_view table, one, many;
+};
+constexpr Words AllWords[] = {
+    {"servico", "serviço", "serviços"},
+    {"raca", "raça", "raças"},
+    {"animal", "animal", "animais"},
+    {"canal_de_comunicacao", "canal de comunicação", "canais de comunicação"},
+    {"pacote", "pacote", "pacotes"},
+    {"agendamento", "agendamento", "agendamentos"},
+};
+
+/// Runs what asks the engine directly.
+template <class Use> void Guarded(Database& database, Use use)
+{
+    try {
+        use(database.Session());
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(database.Path(), cause);
+    }
+}
+
+long long CountOf(Database& database, const std::string& rows, Key key)
+{
+    long long count = 0;
+    Guarded(database, [&](soci::session& session) {
+        session << "select count(*) from " + rows, soci::use(key, "chave"), soci::into(count);
+    });
+    return count;
+}
+
+std::string Counted(std::string_view table, long long count)
+{
+    const auto words = std::ranges::find(AllWords, table, &Words::table);
+    const std::string_view one = words == std::end(AllWords) ? table : words->one;
+    const std::string_view many = words == std::end(AllWords) ? table : words->many;
+    return std::to_string(count).append(" ").append(count == 1 ? one : many);
+}
+
+} // namespace
+
+std::string UsersOf(Database& database, const char* table, Key key, const char* own)
+{
+    std::string users;
+    for (const Reference& reference : References()) {
+        if (std::string_view(reference.target) != table || std::string_view(reference.table) == own)
+            continue;
+        const long long count =
+            CountOf(database, std::string(reference.table) + " where " + reference.column + " = :chave", key);
+        if (count > 0)
+            users.append(users.empty() ? "" : ", ").append(Counted(reference.table, count));
+    }
+    return users;
+}
+
+bool IsBooked(Database& database, const char* column, Key key)
+{
+    return CountOf(database,
+                   std::string("(select 1 from agendamento where ") + column
+                       + " = :chave limit 1) as primeiro",
+                   key)
+        > 0;
+}
+
+long long BookedSince(Database& database, const char* column, Key key, const std::string& moment)
+{
+    constexpr std::size_t Date = 10, Time = 5;
+    const std::string day = moment.substr(0, Date), time = moment.substr(Date + 1, Time);
+    long long count = 0;
+    Guarded(database, [&](soci::session& session) {
+        session << std::string("select count(*) from agendamento where ") + column
+                + " = :chave and situacao = 1 and (data_inicial > :dia"
+                  " or (data_inicial = :dia and hora_inicial >= :hora))",
+            soci::use(key, "chave"), soci::use(day, "dia"), soci::use(time, "hora"), soci::into(count);
+    });
+    return count;
+}
+
+void DeleteWhere(Database& database, const char* table, const std::string& column, Key key)
+{
+    Guarded(database, [&](soci::session& session) {
+        session << std::string("delete from ") + table + " where " + column + " = :chave",
+            soci::use(key, "chave");
+    });
+}
+
+} // namespace kova::family::registers

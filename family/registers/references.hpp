@@ -1,0 +1,28 @@
+#pragma once
+
+#include "family/data/engine/key.hpp"
+
+#include <string>
+#include <vector>
+
+namespace kova::family {
+class Database;
+}
+
+namespace kova::family::registers {
+
+/// Rows of other tables that refer to a row, in words: "3 agendamentos, 1 pacote"; empty where there are
+/// none. Those of the table `own` belong to the row itself and do not count. Fails with a DatabaseFailure.
+std::string UsersOf(Database& database, const char* table, Key key, const char* own = "");
+
+/// Whether an appointment has that key in the column. Fails with a DatabaseFailure.
+bool IsBooked(Database& database, const char* column, Key key);
+
+/// Appointments with that key in the column that are booked and begin at that moment or later
+/// ("yyyy-mm-dd hh:mm:ss"). Fails with a DatabaseFailure.
+long long BookedSince(Database& database, const char* column, Key key, const std::string& moment);
+
+/// Deletes the rows of a table that have the key in that column. Fails with a DatabaseFailure.
+void DeleteWhere(Database& database, const char* table, const std::string& column, Key key);
+
+} // namespace kova::family::registers

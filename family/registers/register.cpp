@@ -1,0 +1,55 @@
+#include "family/registers/register.hpp"
+
+#include "agenda/contracts/failure.hpp"
+#include "family/data/engine/safe_write.hpp"
+
+#include <algorithm>
+
+namespace kova::family::registers {
+
+namespace {
+
+/// `write` may run more than once; the last answer counts.
+template <class Write> auto InTransaction(Database& database, Write write)
+{
+    decltype(write()) answer;
+    WriteSafely(database, [&] {
+        answer = write();
+        return answer.IsDone();
+    });
+    return answer;
+}
+
+} // namespace
+
+SaveAnswer Register::Save(Database& database, Key key, const Texts& before, const Texts& typed,
+                          const Author& author) const
+{
+    return InTransaction(database, [&] { return SaveWithin(database, key, before, typed, author); });
+}
+
+RemoveAnswer Register::Remove(Database& database, Key key, const Author& author) const
+{
+    return InTransaction(database, [&] { return RemoveWithin(database, key, author); });
+}
+
+ListPage Register::Search(Database& database, const std::string& text, std::size_t first,
+                          std::size_t most) const
+{
+    const std::vector<Key> keys = Find(database, text);
+    const std::size_t begin = std::min(first, keys.size());
+    const std::size_t count = std::min(most, keys.size() - begin);
+    return {keys.size(), Rows(database, std::span(keys).subspan(begin, count))};
+}
+
+std::vector<Offer> Register::Offers(Database&, std::size_t, const Texts&) const { return {}; }
+
+std::size_t FieldNamed(const std::vector<FieldInfo>& fields, std::string_view label)
+{
+    const auto found = std::ranges::find(fields, label, &FieldInfo::label);
+    if (found == fields.end())
+        throw Failure(FailureNumber::InvalidArgument);
+    return static_cast<std::size_t>(found - fields.begin());
+}
+
+} // namespace kova::family::registers

@@ -1,0 +1,154 @@
+#pragma once
+
+#include "family/data/audit/author.hpp"
+#include "family/data/engine/key.hpp"
+#include "family/registers/field.hpp"
+
+#include <optional>
+#include <span>
+
+namespace kova::family {
+class Database;
+}
+
+namespace kova::family::registers {
+
+/// A field that cannot be written.
+struct RefusedField {
+    /// Its place among the fields.
+    std::size_t field = 0;
+    /// Why, in lower case and with a full stop; see Sentence.
+    std::string why;
+};
+
+/// What a save answers, technical failures aside.
+struct SaveAnswer {
+    enum class Outcome {
+        Done,
+        /// Nothing was written; `refused` tells every field that stands in the way.
+        Refused,
+        /// The row is not there any more.
+        Gone,
+    };
+
+    bool IsDone() const { return outcome == Outcome::Done; }
+
+    Outcome outcome = Outcome::Done;
+    /// Of the row that was written.
+    Key key = 0;
+    std::vector<RefusedField> refused{};
+    /// Where others have changed the same fields meanwhile: who, when, and what stands there now, for a
+    /// message; else empty.
+    std::string clash{};
+    /// Where the row became inactive by this: the appointments still to come that are booked with it.
+    long long booked = 0;
+};
+
+/// What a removal answers.
+struct RemoveAnswer {
+    enum class Outcome { Done, Kept, Gone };
+
+    bool IsDone() const { return outcome == Outcome::Done; }
+
+    Outcome outcome = Outcome::Done;
+    /// Why the row is kept, and what can be done instead; sentences for a message.
+    std::string text{};
+};
+
+/// A column of a register's list.
+struct ListColumn {
+    std::string_view label;
+    /// A number, to be aligned at the right.
+    bool number = false;
+};
+
+/// A row of a register's list.
+struct ListRow {
+    Key key = 0;
+    /// One for each column.
+    Texts cells;
+    /// False for one that new appointments cannot be booked with.
+    bool active = true;
+};
+
+/// A part of a list.
+struct ListPage {
+    /// Rows of the whole list.
+    std::size_t found = 0;
+    std::vector<ListRow> rows;
+};
+
+/// What can be chosen in a field that refers to another register: the field's text, and what a form shows.
+struct Offer {
+    std::string text, shown;
+};
+
+/// How people speak of a register.
+struct RegisterName {
+    /// In the command line: "clientes".
+    std::string_view name;
+    /// "Clientes"
+    std::string_view title;
+    /// "cliente", "o cliente"
+    std::string_view one;
+    /// Ends what is said of one: 'o' or 'a'.
+    char ending = 'o';
+};
+
+/// A register of the shop, whatever its rows are: its fields, its rows as texts, and its rules. Knows no
+/// screen and no file. Everything fails with a DatabaseFailure; with 5 where there is not one text for each
+/// field.
+class Register {
+public:
+    virtual ~Register() = default;
+
+    virtual const RegisterName& Name() const = 0;
+    /// The table whose rows it has.
+    virtual const char* Table() const = 0;
+    /// The first is the code. They stay where they are as long as the process.
+    virtual const std::vector<FieldInfo>& Fields() const = 0;
+
+    /// What the form of a new row shows.
+    virtual Texts New() const = 0;
+    /// The stored row; nothing where there is none.
+    virtual std::optional<Texts> Read(Database& database, Key key) const = 0;
+
+    /// Writes a row, a new one where `key` is 0, in a transaction of its own, as WriteSafely does. `before`
+    /// is what the form showed when it was opened (not looked at for a new row), `typed` what it shows now.
+    /// Field by field: what the user has left alone stays as it is stored, what only he has changed is as
+    /// typed, and what others have changed too, in another way, is refused. Then the fields are read and the
+    /// rules looked at, and all that is wrong is answered at once. The row is written with its line in the
+    /// audit, unless nothing has changed.
+    SaveAnswer Save(Database& database, Key key, const Texts& before, const Texts& typed,
+                    const Author& author) const;
+    /// The same in the transaction that is open; whatever it answers, nothing was written unless it is Done.
+    virtual SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
+                                  const Author& author) const = 0;
+
+    /// Takes a row away that nothing refers to, in a transaction of its own.
+    RemoveAnswer Remove(Database& database, Key key, const Author& author) const;
+    virtual RemoveAnswer RemoveWithin(Database& database, Key key, const Author& author) const = 0;
+
+    virtual std::span<const ListColumn> ListColumns() const = 0;
+    /// Keys of the rows that hold the text, case, accents and the punctuation of numbers aside, in the order
+    /// of the list; all rows where it is empty.
+    virtual std::vector<Key> Find(Database& database, const std::string& text) const = 0;
+    /// Those rows in that order; one that is gone is left out.
+    virtual std::vector<ListRow> Rows(Database& database, std::span<const Key> keys) const = 0;
+    /// Find and Rows at once: `most` rows from the row `first` on.
+    ListPage Search(Database& database, const std::string& text, std::size_t first, std::size_t most) const;
+
+    /// What can be chosen in a field that refers to another register of few rows, by its name; `typed` tells
+    /// what the choice depends on. Empty for all other fields.
+    virtual std::vector<Offer> Offers(Database& database, std::size_t field, const Texts& typed) const;
+
+protected:
+    Register() = default;
+    Register(const Register&) = delete;
+    Register& operator=(const Register&) = delete;
+};
+
+/// The place of the field that is called so. Fails with 5 where there is none.
+std::size_t FieldNamed(const std::vector<FieldInfo>& fields, std::string_view label);
+
+} // namespace kova::family::registers

@@ -1,0 +1,24 @@
+#include "family/registers/registers.hpp"
+
+namespace kova::family::registers {
+
+std::span<const Register* const> Registers()
+{
+    static const Register* const all[] = {
+        &CustomerRegister(),    &AnimalRegister(),   &ServiceRegister(),
+        &ServiceTypeRegister(), &EmployeeRegister(), &SpeciesRegister(),
+        &BreedRegister(),       &HolidayRegister(),  &CompanyRegister(),
+    };
+    return all;
+}
+
+const Register* RegisterNamed(std::string_view name)
+{
+    for (const Register* one : Registers()) {
+        if (one->Name().name == name)
+            return one;
+    }
+    return nullptr;
+}
+
+} // namespace kova::family::registers

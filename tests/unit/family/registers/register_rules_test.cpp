@@ -1,0 +1,281 @@
+// What each register refuses.
+
+#include "tests/unit/family/registers/register_fixture.hpp"
+
+#include "family/registers/field.hpp"
+
+namespace kova::family::test {
+
+using namespace registers;
+
+class RegisterRules : public RegisterTest {
+protected:
+    struct Case {
+        Key key;
+        Typed typed;
+        std::string told;
+    };
+
+    void ExpectRefusals(const Register& of, const std::vector<Case>& cases)
+    {
+        for (const Case& one : cases)
+            ExpectRefused(of, one.key, one.typed, one.told);
+    }
+};
+
+TEST_F(RegisterRules, OfCustomers)
+{
+    ExpectRefusals(
+        CustomerRegister(),
+        {{0, {}, "Nome: deve ser informado."},
+         {10, {{"Nome", "  "}}, "Nome: deve ser informado."},
+         {10,
+          {{"Tipo de pessoa", "PX"},
+           {"Situação", "Vivo"},
+           {"VIP", "muito"},
+           {"Curva ABC", "D"},
+           {"UF", "XX"},
+           {"CEP", "123"},
+           {"Canais", "12345"}},
+          "Tipo de pessoa: deve ser PF ou PJ. Situação: não é conhecido. Use Ativo, Inativo, Bloqueado ou "
+          "Excluído."
+          " VIP: deve ser Sim ou Não. Curva ABC: deve ser A, B ou C. UF: não é a sigla de um estado."
+          " CEP: não é um CEP: são oito dígitos. Canais: não é uma lista de canais. Escreva como \"Celular:"
+          " (11) 91234-5678; E-mail: ze@example.com\"."},
+         {10,
+          {{"Documento", "11.222.333/0001-81"}, {"Tipo de pessoa", ""}},
+          "Documento: o cliente 11 já tem este documento."},
+         {0,
+          {{"Nome", "Outro"}, {"Documento", "12345678909"}},
+          "Documento: o cliente 10 já tem este documento."},
+         {10, {{"Documento", "12.ABC.345/01DE-35"}}, "Tipo de pessoa: o documento 12ABC34501DE35 é de PJ."},
+         {10,
+          {{"Documento", "12.ABC.345/01DE-36"}},
+          "Documento: não é um CPF nem um CNPJ válido: confira os dígitos."},
+         {10,
+          {{"Bairro", "123456789012345678901234567890123456789012345678901"}},
+          "Bairro: tem 51 caracteres; cabem 50."},
+         {10, {{"Código", "12"}}, "Código: é dado pelo banco de dados e não muda."},
+         {0, {{"Nome", "a"}, {"Código", "12"}}, "Código: é dado pelo banco de dados e não muda."}});
+}
+
+TEST_F(RegisterRules, OfAnimals)
+{
+    Run("insert into especie (codigo, nome, nome_de_busca) values (7, 'Felina', 'felina')");
+    ExpectRefusals(
+        AnimalRegister(),
+        {{0,
+          {},
+          "Código do cliente: deve ser informado. Nome: deve ser informado. Sexo: deve ser informado."
+          " Espécie: deve ser informado. Porte: deve ser informado."},
+         {50,
+          {{"Sexo", "X"}, {"Porte", "Enorme"}},
+          "Sexo: não é conhecido. Use Macho ou Fêmea. Porte: não é conhecido. Use Pequeno, Médio, Grande ou "
+          "Gigante."},
+         {50, {{"Espécie", "Equina"}}, "Espécie: não há espécie com este nome."},
+         {50, {{"Espécie", "Felina"}}, "Raça: não há raça com este nome nesta espécie."},
+         {50, {{"Raça", "Maltês"}}, "Raça: não há raça com este nome nesta espécie."},
+         {50, {{"Código do cliente", "99"}}, "Código do cliente: não há cliente com este código."},
+         {50,
+          {{"Código do cliente", "11"}},
+          "Código do cliente: o animal tem agendamentos com o cliente 10 e fica com ele."}});
+    ExpectDone(AnimalRegister(), 50, {{"Espécie", "felina"}, {"Raça", ""}});
+    EXPECT_EQ(Field(AnimalRegister(), 50, "Espécie"), "Felina");
+    EXPECT_EQ(Field(AnimalRegister(), 50, "Raça"), "Sem raça definida");
+}
+
+TEST_F(RegisterRules, LetAnAnimalWithoutAppointmentsChangeItsCustomer)
+{
+    const Key animal = Add(AnimalRegister(),
+                           {{"Código do cliente", "10"},
+                            {"Nome", "Bidu"},
+                            {"Sexo", "M"},
+                            {"Espécie", "Canina"},
+                            {"Raça", "poodle"},
+                            {"Porte", "Médio"}})
+                           .key;
+    ExpectDone(AnimalRegister(), animal, {{"Código do cliente", "11"}});
+    EXPECT_EQ(Field(AnimalRegister(), animal, "Código do cliente"), "11");
+    EXPECT_EQ(Field(AnimalRegister(), animal, "Raça"), "Poodle");
+}
+
+TEST_F(RegisterRules, OfServices)
+{
+    ExpectRefusals(
+        ServiceRegister(),
+        {{0,
+          {},
+          "Nome: deve ser informado. Número do tipo: deve ser informado. Duração em minutos: deve ser"
+          " informado. Preço: deve ser informado."},
+         {2,
+          {{"Preço", "doze"}, {"Duração em minutos", "0"}, {"Sessões", "0"}},
+          "Duração em minutos: não é um número inteiro de 1 a 1440. Preço: não é um valor. Escreva como"
+          " 1.234,56. Sessões: não é um número inteiro de 1 a 999."},
+         {2, {{"Preço", ""}}, "Preço: deve ser informado."},
+         {2, {{"Número do tipo", "9"}}, "Número do tipo: não há tipo de serviço com este número."},
+         {2,
+          {{"Número do tipo", "1"}},
+          "Número do tipo: há agendamentos deste serviço com o tipo 4, e ele fica assim."},
+         {0,
+          {{"Nome", "BANHO"}, {"Número do tipo", "4"}, {"Duração em minutos", "30"}, {"Preço", "1"}},
+          "Nome: já há um serviço deste tipo com este nome."}});
+    ExpectDone(ServiceRegister(), 0,
+               {{"Nome", "Banho"}, {"Número do tipo", "1"}, {"Duração em minutos", "30"}, {"Preço", "1"}});
+}
+
+TEST_F(RegisterRules, OfEmployeesAndTypes)
+{
+    ExpectRefusals(EmployeeRegister(),
+                   {{0, {}, "Apelido: deve ser informado. Nome: deve ser informado."},
+                    {2,
+                     {{"Agendamentos simultâneos", "-1"}},
+                     "Agendamentos simultâneos: não é um número inteiro de 0 a 999."},
+                    {0,
+                     {{"Apelido", "bia"}, {"Nome", "BEATRIZ"}},
+                     "Apelido: já há um(a) funcionário(a) com este apelido e este nome."}});
+    ExpectDone(EmployeeRegister(), 0, {{"Apelido", "Bia"}, {"Nome", "Bianca"}});
+    ExpectRefusals(ServiceTypeRegister(),
+                   {{0, {{"Nome", "consulta"}}, "Nome: já há um tipo de serviço com este nome."},
+                    {4, {{"Nome", ""}}, "Nome: deve ser informado."}});
+}
+
+TEST_F(RegisterRules, KeepTheLastEmployeeAndTheLastTypeActive)
+{
+    ExpectDone(EmployeeRegister(), 1, {{"Situação", "Inativo"}});
+    ExpectRefused(EmployeeRegister(), 2, {{"Situação", "Inativo"}},
+                  "Situação: a agenda precisa de ao menos um(a) funcionário(a) ativo(a).");
+    ExpectDone(ServiceTypeRegister(), 1, {{"Situação", "Inativo"}});
+    ExpectRefused(ServiceTypeRegister(), 4, {{"Situação", "Inativo"}},
+                  "Situação: a agenda precisa de ao menos um tipo de serviço ativo.");
+}
+
+TEST_F(RegisterRules, OfSpeciesBreedsHolidaysAndTheCompany)
+{
+    ExpectRefusals(SpeciesRegister(), {{0, {{"Nome", "CANINA"}}, "Nome: já há uma espécie com este nome."}});
+    ExpectRefusals(BreedRegister(),
+                   {{0, {{"Nome", "Persa"}, {"Espécie", "Felina"}}, "Espécie: não há espécie com este nome."},
+                    {0,
+                     {{"Nome", "pôodle"}, {"Espécie", "Canina"}},
+                     "Nome: já há uma raça desta espécie com este nome."},
+                    {1, {{"Espécie", ""}}, "Espécie: deve ser informado."}});
+    ExpectDone(HolidayRegister(), 0, {{"Nome", "Natal"}, {"Data", "25/12"}});
+    ExpectDone(HolidayRegister(), 0, {{"Nome", "Natal"}, {"Data", "25/12/2026"}});
+    ExpectDone(HolidayRegister(), 0, {{"Nome", "Aniversário"}, {"Data", "25/12"}});
+    ExpectRefusals(HolidayRegister(),
+                   {{0, {{"Nome", "NATAL"}, {"Data", "25/12"}}, "Data: este feriado já está cadastrado."},
+                    {0,
+                     {{"Nome", "a"}, {"Data", "31/02"}},
+                     "Data: não é uma data válida. Escreva dd/mm, para todos os anos, ou dd/mm/aaaa."},
+                    {0, {{"Nome", "a"}}, "Data: deve ser informado."}});
+    ExpectRefusals(CompanyRegister(),
+                   {{1,
+                     {{"CNPJ", "123.456.789-09"}, {"Nome fantasia", ""}},
+                     "Nome fantasia: deve ser informado. CNPJ: não é um CNPJ válido: confira os dígitos."}});
+}
+
+TEST_F(RegisterRules, LetAHolidayChangeBetweenEveryYearAndOne)
+{
+    const Key key = Add(HolidayRegister(), {{"Nome", "Natal"}, {"Data", "25/12"}}).key;
+    ExpectDone(HolidayRegister(), key, {{"Data", "24/12/2026"}});
+    EXPECT_EQ(Field(HolidayRegister(), key, "Data"), "24/12/2026");
+    ExpectDone(HolidayRegister(), key, {{"Data", "24/12"}});
+    EXPECT_EQ(RowsOf("feriado", "nome = 'Natal'", "codigo"), std::vector<std::string>{"Natal|24|12|-"});
+}
+
+TEST_F(RegisterRules, RemoveOnlyWhatNothingRefersTo)
+{
+    struct InUse {
+        const Register& of;
+        Key key;
+        std::string text;
+    };
+    const std::vector<InUse> kept = {
+        {CustomerRegister(), 10,
+         "Está em uso (1 animal, 5 agendamentos) e não pode ser excluído. Marque a situação como Inativo."},
+        {AnimalRegister(), 50,
+         "Está em uso (5 agendamentos) e não pode ser excluído. Marque a situação como Inativo."},
+        {ServiceRegister(), 2,
+         "Está em uso (1 pacote, 10 agendamentos) e não pode ser excluído. Marque a situação como Inativo."},
+        {SpeciesRegister(), 1,
+         "Está em uso (1 raça) e não pode ser excluída. Marque a situação como Inativo."},
+        {BreedRegister(), 1,
+         "Está em uso (2 animais) e não pode ser excluída. Marque a situação como Inativo."},
+        {ServiceTypeRegister(), 4,
+         "As regras da agenda contam com os tipos de 1 a 4: eles não podem ser excluídos. Marque a situação "
+         "como"
+         " Inativo."},
+        {CompanyRegister(), 1, "A empresa não pode ser excluída: o que se imprime leva o nome dela."},
+    };
+    const std::vector<std::string> before = AllRows();
+    for (const InUse& one : kept) {
+        const RemoveAnswer answer = one.of.Remove(Data(), one.key, lia_);
+        EXPECT_EQ(answer.outcome, RemoveAnswer::Outcome::Kept);
+        EXPECT_EQ(answer.text, one.text);
+    }
+    EXPECT_EQ(AllRows(), before);
+}
+
+TEST_F(RegisterRules, RemoveTheLastActiveEmployeeNever)
+{
+    Run("delete from agendamento");
+    Run("update funcionario set situacao = 2 where codigo = 1");
+    EXPECT_EQ(EmployeeRegister().Remove(Data(), 2, lia_).text,
+              "A agenda precisa de ao menos um(a) funcionário(a) ativo(a).");
+    EXPECT_TRUE(EmployeeRegister().Remove(Data(), 1, lia_).IsDone());
+}
+
+TEST_F(RegisterRules, RemoveARowWithItsLineInTheAudit)
+{
+    const Key holiday = Add(HolidayRegister(), {{"Nome", "Natal"}, {"Data", "25/12"}}).key;
+    EXPECT_TRUE(HolidayRegister().Remove(Data(), holiday, lia_).IsDone());
+    EXPECT_EQ(Count("feriado"), 0);
+    EXPECT_EQ(Count("auditoria where tabela = 'feriado' and operacao = 'exclusao' and depois is null"), 1);
+    EXPECT_EQ(HolidayRegister().Remove(Data(), holiday, lia_).outcome, RemoveAnswer::Outcome::Gone);
+
+    const Key customer = Add(CustomerRegister(), {{"Nome", "Engano"}, {"Canais", "Celular: 1"}}).key;
+    EXPECT_TRUE(CustomerRegister().Remove(Data(), customer, lia_).IsDone());
+    EXPECT_EQ(Count("canal_de_comunicacao"), 2) << "those of customer 10";
+}
+
+TEST_F(RegisterRules, TellWhatThereIsToKnowOfEachField)
+{
+    for (const Register* one : Registers()) {
+        EXPECT_EQ(one->Fields().front().kind, FieldKind::Code) << one->Name().name;
+        EXPECT_EQ(RegisterNamed(one->Name().name), one);
+        for (const FieldInfo& field : one->Fields()) {
+            SCOPED_TRACE(std::string(one->Name().name) + ": " + std::string(field.label));
+            EXPECT_GT(field.longest, 0U);
+            EXPECT_FALSE(field.stored.empty());
+            EXPECT_EQ(field.kind == FieldKind::Choice || field.kind == FieldKind::State,
+                      !field.choices.empty());
+            EXPECT_EQ(field.kind == FieldKind::Reference, !field.refersTo.empty());
+            EXPECT_TRUE(field.refersTo.empty() || RegisterNamed(field.refersTo));
+            EXPECT_TRUE(field.help.empty() || field.help.back() == '.');
+        }
+    }
+    EXPECT_EQ(RegisterNamed("usuarios"), nullptr);
+    EXPECT_EQ(Sentence("é um engano."), "É um engano.");
+}
+
+TEST_F(RegisterRules, OfferWhatAFieldCanReferTo)
+{
+    Run("insert into especie (codigo, nome, nome_de_busca) values (7, 'Ave', 'ave')");
+    Run("insert into especie (codigo, nome, nome_de_busca, situacao) values (8, 'Réptil', 'reptil', 2)");
+    Run("insert into raca (codigo, codigo_da_especie, nome, nome_de_busca) values (7, 7, 'Calopsita', "
+        "'calopsita')");
+    const auto offered = [&](const Register& of, const char* label, const Typed& typed) {
+        std::string all;
+        for (const Offer& offer :
+             of.Offers(Data(), FieldNamed(of.Fields(), label), Over(of, of.New(), typed)))
+            all += offer.text + "=" + offer.shown + ";";
+        return all;
+    };
+    EXPECT_EQ(offered(AnimalRegister(), "Espécie", {}), "Ave=Ave;Canina=Canina;");
+    EXPECT_EQ(offered(AnimalRegister(), "Raça", {{"Espécie", "ave"}}), "Calopsita=Calopsita;");
+    EXPECT_EQ(offered(AnimalRegister(), "Raça", {}), "");
+    EXPECT_EQ(offered(BreedRegister(), "Espécie", {}), "Ave=Ave;Canina=Canina;");
+    EXPECT_EQ(offered(ServiceRegister(), "Número do tipo", {}), "1=1 - Consulta;4=4 - Banho e tosa;");
+    EXPECT_EQ(offered(ServiceRegister(), "Nome", {}), "");
+}
+
+} // namespace kova::family::test
