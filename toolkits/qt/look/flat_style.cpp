@@ -146,8 +146,7 @@ void FlatStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
 {
     const bool isEnabled = option->state & State_Enabled;
     const auto place = [&](SubControl part) { return QRectF(subControlRect(control, option, part, widget)); };
-    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
-    if (control == CC_ComboBox && combo && !combo->editable) {
+    if (control == CC_ComboBox) {
         PaintField(*painter, option->rect, StateOf(*option), look::Paper);
         return PaintChevron(*painter, place(SC_ComboBoxArrow), false, isEnabled);
     }
