@@ -1,0 +1,58 @@
+#include "screens/question.hpp"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace kova::screens {
+
+namespace {
+
+const QString ProductName = QStringLiteral("Kovaris");
+
+bool AskYesNo(QWidget& over, const QString& text)
+{
+    QMessageBox box(QMessageBox::Question, ProductName, text, QMessageBox::NoButton, &over);
+    QPushButton* yes = box.addButton(QStringLiteral("&Sim"), QMessageBox::YesRole);
+    QPushButton* no = box.addButton(QStringLiteral("&Não"), QMessageBox::NoRole);
+    box.setDefaultButton(no);
+    box.setEscapeButton(no);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+} // namespace
+
+WhatOfChanges AskAboutChanges(QWidget& over, const QString& title)
+{
+    QMessageBox box(QMessageBox::Question, ProductName,
+                    title + QStringLiteral(": há alterações que não foram salvas."), QMessageBox::NoButton,
+                    &over);
+    QPushButton* save = box.addButton(QStringLiteral("&Salvar"), QMessageBox::AcceptRole);
+    QPushButton* discard = box.addButton(QStringLiteral("&Descartar"), QMessageBox::DestructiveRole);
+    QPushButton* stay = box.addButton(QStringLiteral("&Continuar aqui"), QMessageBox::RejectRole);
+    box.setDefaultButton(save);
+    box.setEscapeButton(stay);
+    box.exec();
+    if (box.clickedButton() == save)
+        return WhatOfChanges::Save;
+    return box.clickedButton() == discard ? WhatOfChanges::Discard : WhatOfChanges::Stay;
+}
+
+bool AskToDiscard(QWidget& over)
+{
+    return AskYesNo(over, QStringLiteral("Desfazer o que foi digitado e não foi salvo?"));
+}
+
+bool AskToRemove(QWidget& over, const QString& one)
+{
+    return AskYesNo(over, QStringLiteral("Excluir este registro (%1)?").arg(one));
+}
+
+void ShowWarning(QWidget& over, const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, ProductName, text, QMessageBox::Ok, &over);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+} // namespace kova::screens

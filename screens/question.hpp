@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace kova::screens {
+
+/// What becomes of what is typed and not saved.
+enum class WhatOfChanges { Save, Discard, Stay };
+
+/// Escape stays.
+WhatOfChanges AskAboutChanges(QWidget& over, const QString& title);
+/// Whether what is typed may be forgotten; "Não" is offered.
+bool AskToDiscard(QWidget& over);
+/// Whether that row may be removed; "Não" is offered.
+bool AskToRemove(QWidget& over, const QString& one);
+
+void ShowWarning(QWidget& over, const QString& text);
+
+} // namespace kova::screens
