@@ -1,0 +1,119 @@
+#include "registers/record_form.hpp"
+
+#include "screens/field_frame.hpp"
+#include "screens/mnemonics.hpp"
+
+#include <QGridLayout>
+
+namespace kova::registers {
+
+namespace {
+
+using family::registers::FieldInfo;
+using family::registers::FieldKind;
+
+/// Letters that lead to the buttons beside the form.
+const QString LettersOfButtons = QStringLiteral("nsde");
+
+QString Shown(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// Takes a row of the form alone.
+bool IsWide(const FieldInfo& field) { return field.kind == FieldKind::Channels || field.longest > 100; }
+
+QStringList LabelsOf(const std::vector<FieldInfo>& fields)
+{
+    QStringList labels;
+    for (const FieldInfo& field : fields)
+        labels += Shown(field.label);
+    return screens::WithMnemonics(labels, LettersOfButtons);
+}
+
+} // namespace
+
+RecordForm::RecordForm(const Register& of, const Desk& desk, QWidget* parent)
+    : QWidget(parent), register_(of), desk_(desk), touched_(of.Fields().size())
+{
+    auto* grid = new QGridLayout(this);
+    grid->setHorizontalSpacing(14);
+    grid->setVerticalSpacing(8);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    const QStringList labels = LabelsOf(of.Fields());
+    int row = 0, column = 0;
+    for (std::size_t field = 0; field < of.Fields().size(); ++field) {
+        AddField(field, labels[static_cast<qsizetype>(field)]);
+        const bool isWide = IsWide(of.Fields()[field]);
+        if (isWide && column == 1) {
+            ++row;
+            column = 0;
+        }
+        grid->addWidget(frames_[field], row, column, 1, isWide ? 2 : 1);
+        column = isWide ? 2 : column + 1;
+        if (column >= 2) {
+            ++row;
+            column = 0;
+        }
+    }
+    grid->setRowStretch(row + 1, 1);
+}
+
+void RecordForm::AddField(std::size_t field, const QString& label)
+{
+    const FieldInfo& info = register_.Fields()[field];
+    editors_.push_back(MakeEditor(
+        info, [this, field] { return register_.Offers(*desk_.database, field, Typed()); }, desk_));
+    FieldEditor& editor = *editors_.back();
+    editor.Widget().setObjectName(Shown(info.label));
+    editor.Widget().setToolTip(Shown(info.help));
+    editor.Widget().setEnabled(info.kind != FieldKind::Code);
+    frames_.push_back(new screens::FieldFrame(label, &editor.Widget(), this, info.required));
+    editor.onEdited = [this, field] {
+        touched_[field] = true;
+        FrameOf(field).Refuse({});
+        onEdited();
+    };
+}
+
+void RecordForm::Show(family::Key key, const Texts& texts)
+{
+    key_ = key;
+    before_ = texts;
+    touched_.assign(texts.size(), false);
+    for (std::size_t field = 0; field < texts.size(); ++field) {
+        editors_[field]->Show(texts[field]);
+        FrameOf(field).Refuse({});
+    }
+}
+
+RecordForm::Texts RecordForm::Typed() const
+{
+    Texts typed = before_;
+    for (std::size_t field = 0; field < typed.size(); ++field) {
+        if (touched_[field])
+            typed[field] = editors_[field]->Text();
+    }
+    return typed;
+}
+
+void RecordForm::Refuse(std::span<const family::registers::RefusedField> refused)
+{
+    for (screens::FieldFrame* frame : frames_)
+        frame->Refuse({});
+    for (const auto& one : refused)
+        FrameOf(one.field).Refuse(QString::fromStdString(family::registers::Sentence(one.why)));
+    if (!refused.empty())
+        frames_[refused.front().field]->setFocus();
+}
+
+void RecordForm::FocusFirst()
+{
+    for (screens::FieldFrame* frame : frames_) {
+        if (frame->Editor().isEnabled())
+            return frame->setFocus(Qt::TabFocusReason);
+    }
+}
+
+} // namespace kova::registers

@@ -1,0 +1,365 @@
+#include "registers/register_screen.hpp"
+
+#include "family/data/engine/database_failure.hpp"
+#include "screens/question.hpp"
+#include "toolkits/qt/look/theme.hpp"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QTableView>
+
+#include <algorithm>
+
+namespace kova::registers {
+
+namespace {
+
+using family::registers::RemoveAnswer;
+using family::registers::SaveAnswer;
+
+constexpr int RowHeight = 28;
+constexpr int BoxHeight = 32;
+constexpr int RoomInColumn = 8;
+constexpr int WidestColumn = 200;
+constexpr double TitlePoints = 13;
+
+QString Shown(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QPushButton* Button(const QString& name, const QString& text, const QString& tip, QWidget* parent)
+{
+    auto* button = new QPushButton(text, parent);
+    button->setObjectName(name);
+    button->setToolTip(tip);
+    return button;
+}
+
+QLabel* PlainLabel(const QString& name, QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+QTableView* ListOf(RowModel* rows, const QString& name, QWidget* parent)
+{
+    auto* list = new QTableView(parent);
+    list->setModel(rows);
+    list->setAccessibleName(name);
+    list->setObjectName(QStringLiteral("lista"));
+    list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setShowGrid(false);
+    list->setWordWrap(false);
+    list->setTabKeyNavigation(false);
+    list->verticalHeader()->hide();
+    list->verticalHeader()->setDefaultSectionSize(RowHeight);
+    list->horizontalHeader()->setHighlightSections(false);
+    list->horizontalHeader()->setStretchLastSection(true);
+    return list;
+}
+
+} // namespace
+
+RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, QWidget* parent)
+    : QWidget(parent),
+      register_(of),
+      desk_(desk),
+      rows_(new RowModel(of, desk, this)),
+      search_(new QLineEdit(this)),
+      list_(ListOf(rows_, Shown(of.Name().title), this)),
+      found_(PlainLabel(QStringLiteral("encontrados"), this)),
+      title_(PlainLabel(QStringLiteral("titulo"), this)),
+      told_(PlainLabel(QStringLiteral("recado"), this)),
+      form_(new RecordForm(of, desk, this)),
+      new_(Button(QStringLiteral("novo"), QStringLiteral("&Novo"), QStringLiteral("Ctrl+N"), this)),
+      save_(Button(QStringLiteral("salvar"), QStringLiteral("&Salvar"), QStringLiteral("Ctrl+S"), this)),
+      discard_(Button(QStringLiteral("descartar"), QStringLiteral("&Desfazer"), QStringLiteral("Esc"), this)),
+      remove_(
+          Button(QStringLiteral("excluir"), QStringLiteral("&Excluir"), QStringLiteral("Ctrl+Delete"), this))
+{
+    search_->setObjectName(QStringLiteral("pesquisa"));
+    search_->setPlaceholderText(QStringLiteral("Pesquisar (F3)"));
+    search_->setAccessibleName(QStringLiteral("Pesquisar"));
+    search_->setClearButtonEnabled(true);
+    search_->setMinimumHeight(BoxHeight);
+    search_->setMaxLength(100);
+    title_->setFont(qt::MakeFont("Arial", TitlePoints, true));
+    LayOut();
+    Connect();
+    Find();
+    FitColumns();
+    MarkRow(rows_->KeyAt(0));
+    if (rows_->rowCount() > 0)
+        ShowRow(rows_->KeyAt(0));
+    else
+        New();
+    setFocusProxy(search_);
+}
+
+void RegisterScreen::LayOut()
+{
+    auto* left = new QWidget(this);
+    auto* leftColumn = new QVBoxLayout(left);
+    leftColumn->setContentsMargins(0, 0, 8, 0);
+    auto* searchRow = new QHBoxLayout;
+    searchRow->addWidget(search_, 1);
+    searchRow->addWidget(new_);
+    leftColumn->addLayout(searchRow);
+    leftColumn->addWidget(list_, 1);
+    leftColumn->addWidget(found_);
+
+    auto* right = new QWidget(this);
+    auto* rightColumn = new QVBoxLayout(right);
+    rightColumn->setContentsMargins(8, 0, 0, 0);
+    auto* area = new QScrollArea(right);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(form_);
+    area->viewport()->setBackgroundRole(QPalette::Base);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(save_);
+    buttons->addWidget(discard_);
+    buttons->addStretch(1);
+    buttons->addWidget(remove_);
+    rightColumn->addWidget(title_);
+    rightColumn->addWidget(area, 1);
+    rightColumn->addWidget(told_);
+    rightColumn->addLayout(buttons);
+
+    auto* sides = new QSplitter(this);
+    sides->setChildrenCollapsible(false);
+    sides->addWidget(left);
+    sides->addWidget(right);
+    sides->setStretchFactor(0, 1);
+    sides->setStretchFactor(1, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(sides);
+}
+
+void RegisterScreen::Connect()
+{
+    connect(search_, &QLineEdit::textChanged, this, [this] { Find(); });
+    connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& row) {
+                if (!isMarking_ && row.isValid())
+                    TurnTo(rows_->KeyAt(row.row()));
+            });
+    connect(list_, &QTableView::activated, this, [this] { form_->FocusFirst(); });
+    connect(new_, &QPushButton::clicked, this, [this] { New(); });
+    connect(save_, &QPushButton::clicked, this, [this] { Save(); });
+    connect(discard_, &QPushButton::clicked, this, [this] { Discard(); });
+    connect(remove_, &QPushButton::clicked, this, [this] { Remove(); });
+    form_->onEdited = [this] {
+        Tell({});
+        OfferButtons();
+    };
+    search_->installEventFilter(this);
+}
+
+bool RegisterScreen::Try(const std::function<void()>& act)
+{
+    try {
+        act();
+        return true;
+    } catch (const family::DatabaseFailure& failure) {
+        screens::ShowWarning(*this, qt::Lines(failure.Description()));
+        return false;
+    }
+}
+
+void RegisterScreen::Find()
+{
+    isMarking_ = true;
+    Try([this] { rows_->Find(search_->text().toStdString()); });
+    isMarking_ = false;
+    const int count = rows_->rowCount();
+    found_->setText(count == 1 ? QStringLiteral("1 encontrado")
+                               : QStringLiteral("%L1 encontrados").arg(count));
+    MarkRow(form_->Key());
+}
+
+void RegisterScreen::FitColumns()
+{
+    list_->resizeColumnsToContents();
+    for (int column = 0; column < rows_->columnCount(); ++column)
+        list_->setColumnWidth(column, std::min(list_->columnWidth(column) + RoomInColumn, WidestColumn));
+}
+
+void RegisterScreen::MarkRow(family::Key key)
+{
+    isMarking_ = true;
+    const int row = key == 0 ? -1 : rows_->RowOf(key);
+    if (row < 0)
+        list_->selectionModel()->clear();
+    else
+        list_->setCurrentIndex(rows_->index(row, 0));
+    isMarking_ = false;
+}
+
+bool RegisterScreen::IsChanged() const { return form_->IsChanged(); }
+
+bool RegisterScreen::MayLeave()
+{
+    if (!IsChanged())
+        return true;
+    switch (screens::AskAboutChanges(*this, title_->text())) {
+    case screens::WhatOfChanges::Save: Save(); return !IsChanged();
+    case screens::WhatOfChanges::Discard: return true;
+    case screens::WhatOfChanges::Stay: break;
+    }
+    return false;
+}
+
+void RegisterScreen::TurnTo(family::Key key)
+{
+    if (key == form_->Key())
+        return;
+    if (MayLeave())
+        ShowRow(key);
+    MarkRow(form_->Key());
+}
+
+void RegisterScreen::ShowRow(family::Key key)
+{
+    Try([&] {
+        const auto texts = register_.Read(*desk_.database, key);
+        if (!texts)
+            return Tell(QStringLiteral("Este registro não existe mais: alguém o excluiu."));
+        form_->Show(key, *texts);
+        title_->setText(Shown(register_.Name().title));
+        Tell({});
+    });
+    OfferButtons();
+}
+
+void RegisterScreen::New()
+{
+    if (!MayLeave())
+        return;
+    form_->Show(0, register_.New());
+    title_->setText(QStringLiteral("Novo: ") + Shown(register_.Name().one));
+    Tell({});
+    MarkRow(0);
+    OfferButtons();
+    form_->FocusFirst();
+}
+
+void RegisterScreen::Save()
+{
+    Try([this] {
+        ShowAnswer(
+            register_.Save(*desk_.database, form_->Key(), form_->Before(), form_->Typed(), desk_.author()));
+    });
+}
+
+void RegisterScreen::ShowAnswer(const SaveAnswer& answer)
+{
+    form_->Refuse(answer.refused);
+    switch (answer.outcome) {
+    case SaveAnswer::Outcome::Done: return ShowSaved(answer);
+    case SaveAnswer::Outcome::Refused:
+        if (!answer.clash.empty())
+            screens::ShowWarning(*this, qt::Lines(answer.clash));
+        return;
+    case SaveAnswer::Outcome::Gone:
+        screens::ShowWarning(
+            *this,
+            QStringLiteral("Este registro não existe mais: alguém o excluiu. O que foi digitado "
+                           "continua na tela."));
+    }
+}
+
+void RegisterScreen::ShowSaved(const SaveAnswer& answer)
+{
+    const auto stored = register_.Read(*desk_.database, answer.key);
+    form_->Show(answer.key, stored.value_or(form_->Typed()));
+    title_->setText(Shown(register_.Name().title));
+    Find();
+    OfferButtons();
+    Tell(answer.booked == 0 ? QStringLiteral("Salvo.")
+                            : QStringLiteral("Salvo. Continuam marcados %L1 agendamentos de hoje em diante.")
+                                  .arg(answer.booked));
+}
+
+void RegisterScreen::Discard()
+{
+    if (IsChanged() && !screens::AskToDiscard(*this))
+        return;
+    if (form_->Key() == 0)
+        form_->Show(0, register_.New());
+    else
+        ShowRow(form_->Key());
+    OfferButtons();
+}
+
+void RegisterScreen::Remove()
+{
+    if (form_->Key() == 0 || !screens::AskToRemove(*this, Shown(register_.Name().one)))
+        return;
+    Try([this] {
+        const RemoveAnswer answer = register_.Remove(*desk_.database, form_->Key(), desk_.author());
+        if (answer.outcome == RemoveAnswer::Outcome::Kept)
+            return screens::ShowWarning(*this, qt::Lines(answer.text));
+        form_->Show(0, register_.New());
+        title_->setText(QStringLiteral("Novo: ") + Shown(register_.Name().one));
+        Find();
+        OfferButtons();
+        Tell(QStringLiteral("Excluído."));
+    });
+}
+
+void RegisterScreen::Tell(const QString& text)
+{
+    told_->setText(text);
+    told_->setVisible(!text.isEmpty());
+}
+
+void RegisterScreen::OfferButtons()
+{
+    save_->setEnabled(IsChanged() || form_->Key() == 0);
+    discard_->setEnabled(IsChanged());
+    remove_->setEnabled(form_->Key() != 0);
+}
+
+void RegisterScreen::FocusSearch()
+{
+    search_->setFocus(Qt::ShortcutFocusReason);
+    search_->selectAll();
+}
+
+// The arrows walk through the list while the search keeps the keyboard; Enter goes on to the form.
+bool RegisterScreen::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != search_ || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const int row = list_->currentIndex().row();
+    const int next = key == Qt::Key_Down ? row + 1 : key == Qt::Key_Up ? row - 1 : row;
+    if (key == Qt::Key_Down || key == Qt::Key_Up) {
+        if (next >= 0 && next < rows_->rowCount())
+            list_->setCurrentIndex(rows_->index(next, 0));
+        return true;
+    }
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return QWidget::eventFilter(watched, event);
+    if (row < 0 && rows_->rowCount() > 0)
+        list_->setCurrentIndex(rows_->index(0, 0));
+    form_->FocusFirst();
+    return true;
+}
+
+} // namespace kova::registers

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "registers/desk.hpp"
+#include "registers/record_form.hpp"
+#include "registers/row_model.hpp"
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTableView;
+
+namespace kova::registers {
+
+/// One register: a list that searches as one types, and beside it the form of the row that is marked.
+class RegisterScreen : public QWidget {
+public:
+    using Register = family::registers::Register;
+
+    RegisterScreen(const Register& of, const Desk& desk, QWidget* parent);
+
+    /// Whether something is typed that was not saved.
+    bool IsChanged() const;
+    /// Where something is typed that was not saved: asks what becomes of it. False where the user stays with
+    /// it.
+    bool MayLeave();
+
+    void New();
+    void Save();
+    /// Back to what is stored.
+    void Discard();
+    void Remove();
+    void FocusSearch();
+
+private:
+    void Find();
+    void FitColumns();
+    /// The row is shown in the form; a form that is changed is asked about first.
+    void TurnTo(family::Key key);
+    void ShowRow(family::Key key);
+    void MarkRow(family::Key key);
+    void ShowAnswer(const family::registers::SaveAnswer& answer);
+    void ShowSaved(const family::registers::SaveAnswer& answer);
+    void Tell(const QString& text);
+    void OfferButtons();
+    void LayOut();
+    void Connect();
+    /// Runs what needs the database and tells what it reports. False where it failed.
+    bool Try(const std::function<void()>& act);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    const Register& register_;
+    const Desk& desk_;
+    RowModel* rows_;
+    QLineEdit* search_;
+    QTableView* list_;
+    QLabel *found_, *title_, *told_;
+    RecordForm* form_;
+    QPushButton *new_, *save_, *discard_, *remove_;
+    /// The list follows the form and not the other way round.
+    bool isMarking_ = false;
+};
+
+} // namespace kova::registers

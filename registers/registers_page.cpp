@@ -1,0 +1,95 @@
+#include "registers/registers_page.hpp"
+
+#include "family/registers/registers.hpp"
+#include "registers/register_screen.hpp"
+
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QShortcut>
+#include <QStackedWidget>
+
+namespace kova::registers {
+
+namespace {
+
+constexpr int WidthOfNames = 150;
+constexpr int HeightOfName = 32;
+
+QString Shown(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace
+
+RegistersPage::RegistersPage(Desk desk, QWidget* parent)
+    : QWidget(parent),
+      desk_(std::move(desk)),
+      names_(new QListWidget(this)),
+      pages_(new QStackedWidget(this)),
+      screens_(family::registers::Registers().size())
+{
+    names_->setObjectName(QStringLiteral("cadastros"));
+    names_->setAccessibleName(QStringLiteral("Cadastros"));
+    names_->setFixedWidth(WidthOfNames);
+    for (const family::registers::Register* one : family::registers::Registers()) {
+        auto* item = new QListWidgetItem(Shown(one->Name().title), names_);
+        item->setSizeHint({0, HeightOfName});
+        pages_->addWidget(new QWidget(pages_));
+    }
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 12);
+    layout->setSpacing(16);
+    layout->addWidget(names_);
+    layout->addWidget(pages_, 1);
+    connect(names_, &QListWidget::currentRowChanged, this, [this](int row) { TurnTo(row); });
+    AddShortcuts();
+    names_->setCurrentRow(0);
+}
+
+void RegistersPage::AddShortcuts()
+{
+    const std::pair<QKeySequence, void (RegisterScreen::*)()> keys[] = {
+        {Qt::CTRL | Qt::Key_N, &RegisterScreen::New},
+        {Qt::CTRL | Qt::Key_S, &RegisterScreen::Save},
+        {Qt::Key_Escape, &RegisterScreen::Discard},
+        {Qt::CTRL | Qt::Key_Delete, &RegisterScreen::Remove},
+        {Qt::Key_F3, &RegisterScreen::FocusSearch}};
+    for (const auto& [key, act] : keys)
+        connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+                &QShortcut::activated, this, [this, act = act] { (Current()->*act)(); });
+}
+
+RegisterScreen* RegistersPage::Current() const
+{
+    return screens_[static_cast<std::size_t>(names_->currentRow())];
+}
+
+void RegistersPage::TurnTo(int row)
+{
+    RegisterScreen*& screen = screens_[static_cast<std::size_t>(row)];
+    if (screen == nullptr) {
+        screen =
+            new RegisterScreen(*family::registers::Registers()[static_cast<std::size_t>(row)], desk_, pages_);
+        QWidget* const placeholder = pages_->widget(row);
+        pages_->insertWidget(row, screen);
+        pages_->removeWidget(placeholder);
+        delete placeholder;
+    }
+    pages_->setCurrentIndex(row);
+    setFocusProxy(screen);
+}
+
+bool RegistersPage::MayLeave()
+{
+    for (std::size_t row = 0; row < screens_.size(); ++row) {
+        if (screens_[row] == nullptr || !screens_[row]->IsChanged())
+            continue;
+        names_->setCurrentRow(static_cast<int>(row));
+        if (!screens_[row]->MayLeave())
+            return false;
+    }
+    return true;
+}
+
+} // namespace kova::registers

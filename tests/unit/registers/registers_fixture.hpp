@@ -1,0 +1,76 @@
+#pragma once
+
+#include "tests/support/sqlite_file.hpp"
+
+#include "registers/registers_page.hpp"
+#include "system/temporary_folder.hpp"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <optional>
+
+namespace kova::registers::test {
+
+/// "Cadastros" of a shop with three customers, two animals and the usual service types, used by mouse and
+/// keys. What is stored is looked up in the file by the engine's own interface.
+class CadastrosTest : public testing::Test {
+protected:
+    CadastrosTest();
+
+    /// Turns to a register as a press of its name does.
+    void TurnTo(const char* title);
+
+    /// The widget of that kind and name on the screen that is in front.
+    template <class Kind> Kind& Find(const char* name)
+    {
+        for (Kind* one : page_->findChildren<Kind*>(QString::fromUtf8(name))) {
+            if (one->isVisible())
+                return *one;
+        }
+        throw std::runtime_error(std::string("there is no ") + name);
+    }
+
+    void Press(const char* button);
+    /// Keys to whatever has the keyboard.
+    void Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// Into whatever has the keyboard, letter by letter.
+    void Type(const char* text);
+    /// Over what stands in the box.
+    void TypeOver(const char* box, const char* text);
+    std::string TextOf(const char* box) { return Find<QLineEdit>(box).text().toStdString(); }
+    std::string Focused();
+
+    /// The rows on show, the cells of their first columns, joined by "|".
+    std::vector<std::string> Rows(int columns = 1);
+    /// The texts below refused fields.
+    std::vector<std::string> Reasons();
+    std::string Told() { return Find<QLabel>("recado").text().toStdString(); }
+
+    /// The buttons that the next boxes are answered with; what they said is kept in `boxes_`.
+    void Answer(std::initializer_list<const char*> buttons);
+
+    std::vector<std::string> Stored(const char* statement);
+    /// Changes the file as another desk does.
+    void Elsewhere(const char* statement) { Stored(statement); }
+
+    system::TemporaryFolder folder_{"cadastros-"};
+    const std::string file_ = (folder_.Path() / "loja.db").string();
+    std::unique_ptr<RegistersPage> page_;
+    std::vector<std::string> boxes_;
+
+private:
+    void AnswerBox();
+    QWidget& Keyboard();
+
+    std::deque<std::string> answers_;
+};
+
+} // namespace kova::registers::test

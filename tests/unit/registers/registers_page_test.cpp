@@ -1,0 +1,279 @@
+#include "tests/unit/registers/registers_fixture.hpp"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPlainTextEdit>
+
+namespace kova::registers::test {
+
+using Lines = std::vector<std::string>;
+
+TEST_F(CadastrosTest, NamesEveryRegisterOfTheShop)
+{
+    Lines names;
+    auto& list = Find<QListWidget>("cadastros");
+    for (int row = 0; row < list.count(); ++row)
+        names.push_back(list.item(row)->text().toStdString());
+    for (const char* name : {"Clientes", "Animais", "Serviços", "Tipos de serviço", "Funcionários",
+                             "Espécies", "Raças", "Feriados", "Empresa"})
+        EXPECT_NE(std::find(names.begin(), names.end(), name), names.end()) << name;
+}
+
+TEST_F(CadastrosTest, OpensEveryOneOfThemWithoutAChange)
+{
+    auto& list = Find<QListWidget>("cadastros");
+    for (int row = 0; row < list.count(); ++row) {
+        TurnTo(list.item(row)->text().toUtf8());
+        EXPECT_FALSE(Find<QPushButton>("descartar").isEnabled()) << list.item(row)->text().toStdString();
+    }
+    EXPECT_TRUE(page_->MayLeave());
+}
+
+TEST_F(CadastrosTest, SearchesAsOneTypes)
+{
+    EXPECT_EQ(Rows(), (Lines{"Ana Lúcia Prado", "José Antônio Peçanha", "Márcia Lima"}));
+    EXPECT_EQ(Focused(), "pesquisa");
+    Type("marc");
+    EXPECT_EQ(Rows(), Lines{"Márcia Lima"});
+    EXPECT_EQ(Find<QLabel>("encontrados").text(), "1 encontrado");
+    for (const char* text : {"1234-56", "123.456.789-09", "ze@example", "pacoca", "zé"}) {
+        TypeOver("pesquisa", text);
+        EXPECT_EQ(Rows(), Lines{"José Antônio Peçanha"}) << text;
+    }
+    TypeOver("pesquisa", "ninguém");
+    EXPECT_EQ(Rows(), Lines{});
+    EXPECT_EQ(Find<QLabel>("encontrados").text(), "0 encontrados");
+}
+
+TEST_F(CadastrosTest, WalksThroughTheListFromTheSearch)
+{
+    EXPECT_EQ(TextOf("Nome"), "Ana Lúcia Prado");
+    Keys(Qt::Key_Down);
+    EXPECT_EQ(TextOf("Nome"), "José Antônio Peçanha");
+    EXPECT_EQ(Focused(), "pesquisa");
+    Keys(Qt::Key_Down);
+    Keys(Qt::Key_Down);
+    EXPECT_EQ(TextOf("Nome"), "Márcia Lima");
+    Keys(Qt::Key_Up);
+    EXPECT_EQ(TextOf("Nome"), "José Antônio Peçanha");
+    Keys(Qt::Key_Return);
+    EXPECT_EQ(Focused(), "Tipo de pessoa");
+    Keys(Qt::Key_F3);
+    EXPECT_EQ(Focused(), "pesquisa");
+}
+
+TEST_F(CadastrosTest, ShowsTheRowThatIsPressed)
+{
+    auto& list = Find<QTableView>("lista");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                      list.visualRect(list.model()->index(2, 0)).center());
+    EXPECT_EQ(TextOf("Nome"), "Márcia Lima");
+}
+
+TEST_F(CadastrosTest, ChangesWhatIsTypedAndNothingElse)
+{
+    TypeOver("pesquisa", "jose");
+    Keys(Qt::Key_Return);
+    TypeOver("Apelido", "Zezé");
+    EXPECT_TRUE(Find<QPushButton>("salvar").isEnabled());
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Told(), "Salvo.");
+    EXPECT_EQ(
+        Stored("select nome, apelido, documento, tipos_e_canais from cliente where codigo = 1"),
+        Lines{"José Antônio Peçanha|Zezé|12345678909|Celular: (11) 91234-5678; E-mail: ze@example.com"});
+    EXPECT_EQ(Stored("select count(*) from auditoria where tabela = 'cliente' and operacao = 'alteracao'"),
+              Lines{"1"});
+    EXPECT_FALSE(Find<QPushButton>("salvar").isEnabled());
+}
+
+TEST_F(CadastrosTest, AddsACustomerByTheKeyboardAlone)
+{
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Find<QLabel>("titulo").text(), "Novo: cliente");
+    EXPECT_EQ(Focused(), "Tipo de pessoa");
+    Keys(Qt::Key_Tab);
+    EXPECT_EQ(Focused(), "Nome");
+    Type("Otávio Reis");
+    while (Focused() != "Canais")
+        Keys(Qt::Key_Tab);
+    Type("Celular: 11987654321");
+    Keys(Qt::Key_Return);
+    Type("E-mail: otavio@example.com");
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Reasons(), Lines{});
+    EXPECT_EQ(Stored("select nome, (select count(*) from canal_de_comunicacao where codigo_do_cliente = "
+                     "cliente.codigo)"
+                     " from cliente where codigo = 4"),
+              Lines{"Otávio Reis|2"});
+    EXPECT_EQ(Rows(), (Lines{"Ana Lúcia Prado", "José Antônio Peçanha", "Márcia Lima", "Otávio Reis"}));
+    EXPECT_EQ(Find<QTableView>("lista").currentIndex().row(), 3);
+}
+
+TEST_F(CadastrosTest, MarksEveryRefusedFieldAndKeepsWhatIsTyped)
+{
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    TypeOver("Documento", "111");
+    TypeOver("CEP", "12");
+    Press("salvar");
+    EXPECT_EQ(Reasons(),
+              (Lines{"Deve ser informado.", "Não é um CPF nem um CNPJ válido: confira os dígitos.",
+                     "Não é um CEP: são oito dígitos."}));
+    EXPECT_EQ(Focused(), "Nome");
+    EXPECT_EQ(TextOf("Documento"), "111");
+    TypeOver("CEP", "01234567");
+    EXPECT_EQ(Reasons().size(), 2U) << "what is corrected is no longer marked";
+    EXPECT_EQ(Stored("select count(*) from cliente"), Lines{"3"});
+}
+
+TEST_F(CadastrosTest, AsksAboutWhatIsTypedBeforeAnotherRowIsShown)
+{
+    TypeOver("Apelido", "Aninha");
+    Find<QLineEdit>("pesquisa").setFocus();
+    Answer({"Continuar aqui"});
+    Keys(Qt::Key_Down);
+    EXPECT_EQ(boxes_, Lines{"Clientes: há alterações que não foram salvas."});
+    EXPECT_EQ(TextOf("Apelido"), "Aninha");
+    EXPECT_EQ(Find<QTableView>("lista").currentIndex().row(), 0) << "the list marks the row of the form";
+
+    Answer({"Descartar"});
+    Keys(Qt::Key_Down);
+    EXPECT_EQ(TextOf("Nome"), "José Antônio Peçanha");
+    EXPECT_EQ(Stored("select apelido from cliente where codigo = 2"), Lines{""});
+
+    TypeOver("Apelido", "Zezinho");
+    Find<QLineEdit>("pesquisa").setFocus();
+    Answer({"Salvar"});
+    Keys(Qt::Key_Down);
+    EXPECT_EQ(TextOf("Nome"), "Márcia Lima");
+    EXPECT_EQ(Stored("select apelido from cliente where codigo = 1"), Lines{"Zezinho"});
+}
+
+TEST_F(CadastrosTest, UndoesWhatIsTypedAfterAsking)
+{
+    TypeOver("Apelido", "Aninha");
+    Answer({"Não"});
+    Keys(Qt::Key_Escape);
+    EXPECT_EQ(TextOf("Apelido"), "Aninha");
+    Answer({"Sim"});
+    Keys(Qt::Key_Escape);
+    EXPECT_EQ(TextOf("Apelido"), "");
+    EXPECT_TRUE(page_->MayLeave());
+}
+
+TEST_F(CadastrosTest, KeepsWhatIsTypedWhileAnotherRegisterIsOnShow)
+{
+    TypeOver("Apelido", "Aninha");
+    TurnTo("Animais");
+    EXPECT_EQ(Rows(), Lines{"Paçoca"});
+    TurnTo("Clientes");
+    EXPECT_EQ(TextOf("Apelido"), "Aninha");
+    TurnTo("Animais");
+    Answer({"Continuar aqui"});
+    EXPECT_FALSE(page_->MayLeave());
+    EXPECT_EQ(TextOf("Apelido"), "Aninha") << "what is asked about is on show";
+    Answer({"Salvar"});
+    EXPECT_TRUE(page_->MayLeave());
+    EXPECT_EQ(Stored("select apelido from cliente where codigo = 2"), Lines{"Aninha"});
+}
+
+TEST_F(CadastrosTest, MergesWithAnotherDeskAndTellsOfAClash)
+{
+    TypeOver("Apelido", "Aninha");
+    Elsewhere("update cliente set bairro = 'Centro' where codigo = 2");
+    Press("salvar");
+    EXPECT_EQ(Stored("select apelido, bairro from cliente where codigo = 2"), Lines{"Aninha|Centro"});
+    EXPECT_EQ(TextOf("Bairro"), "Centro");
+
+    TypeOver("Apelido", "Nana");
+    Elsewhere("update cliente set apelido = 'Lu' where codigo = 2");
+    Answer({"OK"});
+    Press("salvar");
+    ASSERT_EQ(boxes_.size(), 1U);
+    EXPECT_NE(boxes_[0].find("Lu"), std::string::npos) << boxes_[0];
+    EXPECT_EQ(TextOf("Apelido"), "Nana");
+    EXPECT_EQ(Stored("select apelido from cliente where codigo = 2"), Lines{"Lu"});
+}
+
+TEST_F(CadastrosTest, TellsThatARowIsGoneAndKeepsWhatIsTyped)
+{
+    TypeOver("Apelido", "Aninha");
+    Elsewhere("delete from cliente where codigo = 2");
+    Answer({"OK"});
+    Press("salvar");
+    ASSERT_EQ(boxes_.size(), 1U);
+    EXPECT_NE(boxes_[0].find("não existe mais"), std::string::npos);
+    EXPECT_EQ(TextOf("Apelido"), "Aninha");
+}
+
+TEST_F(CadastrosTest, RemovesOnlyWhatNothingRefersTo)
+{
+    Keys(Qt::Key_Down);
+    Answer({"Sim", "OK"});
+    Keys(Qt::Key_Delete, Qt::ControlModifier);
+    ASSERT_EQ(boxes_.size(), 2U);
+    EXPECT_NE(boxes_[1].find("1 animal"), std::string::npos) << boxes_[1];
+    Keys(Qt::Key_Down);
+    Answer({"Não"});
+    Press("excluir");
+    EXPECT_EQ(Stored("select count(*) from cliente"), Lines{"3"});
+    Answer({"Sim"});
+    Press("excluir");
+    EXPECT_EQ(Stored("select nome from cliente order by nome"),
+              (Lines{"Ana Lúcia Prado", "José Antônio Peçanha"}));
+    EXPECT_EQ(Rows(), (Lines{"Ana Lúcia Prado", "José Antônio Peçanha"}));
+    EXPECT_EQ(Told(), "Excluído.");
+}
+
+TEST_F(CadastrosTest, FindsTheOwnerOfANewAnimalAsOneTypes)
+{
+    TurnTo("Animais");
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Focused(), "Código do cliente");
+    Type("marc");
+    QWidget* proposals = QApplication::activePopupWidget();
+    ASSERT_NE(proposals, nullptr);
+    QTest::keyClick(proposals, Qt::Key_Down);
+    QTest::keyClick(proposals, Qt::Key_Return);
+    EXPECT_EQ(TextOf("Código do cliente"), "3 - Márcia Lima");
+    TypeOver("Nome", "Mel");
+    for (const auto& [box, text] : {std::pair("Sexo", "Fêmea"), {"Porte", "Pequeno"}}) {
+        auto& combo = Find<QComboBox>(box);
+        combo.setFocus();
+        while (combo.currentText() != QString::fromUtf8(text))
+            Keys(Qt::Key_Down);
+    }
+    Find<QComboBox>("Espécie").setFocus();
+    Type("Felina");
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Reasons(), Lines{});
+    EXPECT_EQ(Stored("select nome, sexo, porte, codigo_do_cliente from animal where codigo = 2"),
+              Lines{"Mel|F|1|3"});
+}
+
+TEST_F(CadastrosTest, ShowsTheCompanyAndSavesIt)
+{
+    TurnTo("Empresa");
+    EXPECT_EQ(TextOf("Nome fantasia"), "Pet Shop Céu");
+    TypeOver("Telefone", "(11) 3333-4444");
+    Press("salvar");
+    EXPECT_EQ(Stored("select nome_fantasia, telefone from empresa"), Lines{"Pet Shop Céu|(11) 3333-4444"});
+}
+
+TEST_F(CadastrosTest, GivesEveryFieldANameAndALetterOfItsOwn)
+{
+    std::map<QString, int> letters;
+    for (const QLabel* label : page_->findChildren<QLabel*>()) {
+        if (!label->isVisible() || label->buddy() == nullptr)
+            continue;
+        EXPECT_FALSE(label->buddy()->accessibleName().isEmpty()) << label->text().toStdString();
+        const qsizetype mark = label->text().indexOf(QLatin1Char('&'));
+        if (mark >= 0)
+            ++letters[label->text().mid(mark + 1, 1).toLower()];
+    }
+    EXPECT_GT(letters.size(), 10U);
+    for (const auto& [letter, times] : letters)
+        EXPECT_EQ(times, 1) << letter.toStdString();
+}
+
+} // namespace kova::registers::test
