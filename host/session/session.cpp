@@ -13,6 +13,7 @@
 #include "host/picture.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
+#include "host/session/registers_tab.hpp"
 #include "host/session/remembered_shops.hpp"
 #include "host/session/session_clock.hpp"
 #include "host/session/session_user.hpp"
@@ -86,6 +87,7 @@ public:
     SessionEnd Run();
 
 private:
+    void AddTabs();
     void FillMenu();
     void AddRememberedShops();
     void Remember(const Shop& shop);
@@ -112,6 +114,8 @@ private:
     HostPlatform platform_;
     RegistryServerHost server_;
     RegisteredComponents components_;
+    ObjectRef user_;
+    std::unique_ptr<RegistersTab> registers_;
     std::unique_ptr<MainWindow> window_;
     ComponentRef agenda_;
     std::unique_ptr<DailyBackup> backup_;
@@ -127,6 +131,7 @@ SessionEnd Session::Run()
                                                                QString::fromStdString(NameOfUser())});
     if (outlet_ == Outlet::Window && !options_.firstPaint)
         Remember(shop);
+    AddTabs();
     FillMenu();
     OpenList();
     if (options_.firstPaint)
@@ -136,6 +141,14 @@ SessionEnd Session::Run()
 }
 
 void Session::Remember(const Shop& shop) { remembered_.Remember({SourceOf(options_), shop.tradeName}); }
+
+void Session::AddTabs()
+{
+    user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
+    registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_);
+    registers_->AddTo(*window_);
+    window_->mayClose = [this] { return registers_->MayLeave(); };
+}
 
 void Session::FillMenu()
 {
@@ -168,7 +181,8 @@ void Session::TurnTo(const std::string& source)
     if (source == SourceOf(options_))
         return;
     next_ = source;
-    window_->close();
+    if (!window_->close())
+        next_.reset();
 }
 
 /// The window is there before the list, so that the list finds its place in its final size; both are
@@ -176,7 +190,7 @@ void Session::TurnTo(const std::string& source)
 void Session::OpenList()
 {
     agenda_ = components_.CreateObject("KOVA_A_Agenda.clsAgenda");
-    agenda_->Set("DadosDoUsuario", Value(std::make_shared<SessionUser>(OnlyUser, NameOfUser())));
+    agenda_->Set("DadosDoUsuario", Value(user_));
     agenda_->Set("NomeDaAplicacao", "Kovaris");
     toolkit_.RegisterTopWindow(window_.get());
     window_->Open(SizeOf(options_, outlet_));

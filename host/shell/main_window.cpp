@@ -96,7 +96,8 @@ void MainWindow::AddTab(const QString& name, MakePage make)
 
 void MainWindow::TurnTo(int tab)
 {
-    if (const MakePage make = std::exchange(unmade_[static_cast<std::size_t>(tab)], {})) {
+    const MakePage make = std::exchange(unmade_[static_cast<std::size_t>(tab)], {});
+    if (make) {
         QWidget* const placeholder = pages_->widget(tab);
         pages_->insertWidget(tab, make(*pages_));
         pages_->removeWidget(placeholder);
@@ -104,7 +105,7 @@ void MainWindow::TurnTo(int tab)
     }
     pages_->setCurrentIndex(tab);
     QWidget* const page = pages_->currentWidget();
-    (page->focusWidget() != nullptr ? page->focusWidget() : page)->setFocus();
+    (make || page->focusWidget() == nullptr ? page : page->focusWidget())->setFocus();
 }
 
 QMenu& MainWindow::Menu() { return row_->Menu(); }
@@ -145,7 +146,9 @@ void MainWindow::Open(std::optional<WindowSize> size)
 // The toolkit's own ending would ask every other window, and stay where one of them is busy.
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->accept();
+    event->setAccepted(mayClose());
+    if (!event->isAccepted())
+        return;
     QCoreApplication::exit();
 }
 

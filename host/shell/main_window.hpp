@@ -36,6 +36,8 @@ public:
     void AddTab(const QString& name, MakePage make);
     /// The application's menu, at the right end of the tabs.
     QMenu& Menu();
+    /// Asked before the window closes; false keeps it open.
+    std::function<bool()> mayClose = [] { return true; };
 
     /// Shown in the container, until something else fills it.
     void ShowHint(const QString& text);

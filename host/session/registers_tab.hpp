@@ -1,0 +1,38 @@
+#pragma once
+
+#include "agenda/contracts/platform.hpp"
+
+#include <string>
+
+class QWidget;
+
+namespace kova::registers {
+class RegistersPage;
+}
+
+namespace kova::host {
+
+class MainWindow;
+
+/// The registers' tab over a connection of its own to the shop at that source. It is opened when the tab is
+/// turned to for the first time, so that the start does not wait for it.
+class RegistersTab {
+public:
+    /// `user` and `clock` say who writes, and when. All must outlive the window.
+    RegistersTab(std::string source, ObjectRef user, const Clock& clock);
+
+    void AddTo(MainWindow& window);
+    /// Asks where something is typed that was not saved. False where the user stays with it.
+    bool MayLeave();
+
+private:
+    QWidget* MakePage(QWidget& parent);
+
+    std::string source_;
+    ObjectRef user_;
+    const Clock& clock_;
+    /// Null before the page is made.
+    registers::RegistersPage* page_ = nullptr;
+};
+
+} // namespace kova::host

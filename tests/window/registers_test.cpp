@@ -1,0 +1,99 @@
+// The registers beside the agenda, in the application's own window.
+
+#include "tests/window/shop.hpp"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+
+namespace kova::window_test {
+
+namespace {
+
+constexpr const char* List = "frmLista";
+
+class RegistersOfTheShop : public Shop {
+protected:
+    static QWidget* Window()
+    {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->findChild<QWidget*>(QStringLiteral("container")))
+                return top;
+        }
+        return nullptr;
+    }
+
+    /// The one of the register on show; null before it is there.
+    static QLineEdit* Box(const char* name)
+    {
+        for (QLineEdit* box : Window()->findChildren<QLineEdit*>(QString::fromUtf8(name))) {
+            if (box->isVisible())
+                return box;
+        }
+        return nullptr;
+    }
+
+    static bool HasKeyboard(const char* name)
+    {
+        return Box(name) != nullptr && QApplication::focusWidget() == Box(name);
+    }
+
+    Receptionist& TurnsToCustomers()
+    {
+        return receptionist->WaitsFor(List).Presses("Alt+2").WaitsUntil(
+            "the search of the customers has the keyboard", [] { return HasKeyboard("pesquisa"); });
+    }
+
+    Receptionist& TypesInto(const char* box, const char* text)
+    {
+        return receptionist->Does(std::string("type into ") + box, [box, text] {
+            Box(box)->setFocus();
+            Box(box)->selectAll();
+            QTest::keyClicks(Box(box), QString::fromUtf8(text));
+        });
+    }
+
+    Receptionist& Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        return receptionist->Does(
+            "keys", [key, modifiers] { QTest::keyClick(QApplication::focusWidget(), key, modifiers); });
+    }
+};
+
+} // namespace
+
+TEST_F(RegistersOfTheShop, AreChangedWhileTheAgendaStaysAsItWas)
+{
+    const std::string code = Value("select codigo from cliente order by nome_de_busca, codigo");
+    TurnsToCustomers();
+    TypesInto("Apelido", "Fulaninha");
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    Keys(Qt::Key_1, Qt::AltModifier);
+    std::string page;
+    receptionist->WaitsFor(List).Presses("F5").Looks([&] { page = Receptionist::Focused(); }).Leaves();
+    Run();
+    EXPECT_EQ(Value("select apelido from cliente where codigo = " + code), "Fulaninha");
+    EXPECT_EQ(Value("select usuario from auditoria where tabela = 'cliente' order by codigo desc limit 1"),
+              "1 - Antônia");
+    EXPECT_FALSE(page.empty());
+}
+
+TEST_F(RegistersOfTheShop, AskBeforeTheWindowClosesOverWhatIsNotSaved)
+{
+    const std::string before = Value("select nome from cliente order by nome_de_busca, codigo");
+    TurnsToCustomers();
+    TypesInto("Nome", "Outro nome");
+    receptionist->Does("close", [] { Window()->close(); });
+    receptionist->Answers("Escape").Does("it stays", [] {
+        EXPECT_TRUE(Window()->isVisible());
+        EXPECT_EQ(Box("Nome")->text(), "Outro nome");
+        Window()->close();
+    });
+    receptionist->Answers("Alt+D");
+    Run();
+    EXPECT_EQ(receptionist->Boxes().size(), 2U);
+    EXPECT_EQ(Value("select nome from cliente order by nome_de_busca, codigo"), before);
+}
+
+} // namespace kova::window_test
