@@ -105,8 +105,8 @@ private:
             record.customer = names[record.codigoDoCliente];
     }
 
-    void Check(Database& database, const AnimalRecord* stored, AnimalRecord& record,
-               Refusals& refusals) const override
+    void CheckRecord(Database& database, const AnimalRecord* stored, AnimalRecord& record,
+                     Refusals& refusals) const override
     {
         record.Complete();
         CheckCustomer(database, stored, record, refusals);

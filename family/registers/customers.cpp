@@ -39,8 +39,8 @@ private:
         });
     }
 
-    void Check(Database& database, const CustomerRecord* stored, CustomerRecord& record,
-               Refusals& refusals) const override
+    void CheckRecord(Database& database, const CustomerRecord* stored, CustomerRecord& record,
+                     Refusals& refusals) const override
     {
         if (std::string why = WrongKindOfPerson(record); !why.empty())
             refusals.Add(customer_columns::Kind, std::move(why));

@@ -21,6 +21,12 @@ struct RefusedField {
     std::string why;
 };
 
+/// What a save changes in a field.
+struct ChangedField {
+    std::size_t field = 0;
+    std::string before, after;
+};
+
 /// What a save answers, technical failures aside.
 struct SaveAnswer {
     enum class Outcome {
@@ -37,6 +43,8 @@ struct SaveAnswer {
     /// Of the row that was written.
     Key key = 0;
     std::vector<RefusedField> refused{};
+    /// On Done, the fields that stand otherwise than before; of a new row, those that hold something.
+    std::vector<ChangedField> changed{};
     /// Where others have changed the same fields meanwhile: who, when, and what stands there now, for a
     /// message; else empty.
     std::string clash{};
@@ -124,6 +132,9 @@ public:
     /// The same in the transaction that is open; whatever it answers, nothing was written unless it is Done.
     virtual SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
                                   const Author& author) const = 0;
+
+    /// What SaveWithin would answer now. Writes and locks nothing.
+    virtual SaveAnswer Check(Database& database, Key key, const Texts& before, const Texts& typed) const = 0;
 
     /// Takes a row away that nothing refers to, in a transaction of its own.
     RemoveAnswer Remove(Database& database, Key key, const Author& author) const;

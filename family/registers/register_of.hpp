@@ -89,21 +89,13 @@ public:
     SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
                           const Author& author) const override
     {
-        if (typed.size() != fields_.size() || (key != 0 && before.size() != fields_.size()))
-            throw Failure(FailureNumber::InvalidArgument);
         LockImports(database);
-        if (key == 0)
-            return Write(database, nullptr, Comparable(New()), Comparable(typed), author);
-        const auto stored = FindRow<Locked<Record>>(database, key);
-        if (!stored)
-            return {.outcome = SaveAnswer::Outcome::Gone, .key = key};
-        const Texts now = Comparable(TextsOf(*stored));
-        const MergedTexts merged = MergeTexts(fields_, {Comparable(before), now, Comparable(typed)}, [&] {
-            return FindAuditLines(database, Record::Table, key, LinesToLookAt);
-        });
-        if (!merged.clashes.empty())
-            return {SaveAnswer::Outcome::Refused, key, merged.clashes, merged.text};
-        return Write(database, &*stored, now, merged.wanted, author);
+        return Answer<Locked<Record>>(database, key, before, typed, &author);
+    }
+
+    SaveAnswer Check(Database& database, Key key, const Texts& before, const Texts& typed) const override
+    {
+        return Answer<Record>(database, key, before, typed, nullptr);
     }
 
     RemoveAnswer RemoveWithin(Database& database, Key key, const Author& author) const override
@@ -179,7 +171,7 @@ protected:
     virtual void LoadShown(Database& database, std::span<Record> records) const { Load(database, records); }
     /// What speaks against a record beyond its single fields; `stored` is missing for a new one. Fills in
     /// what follows from the fields. A field that could not be read is refused already.
-    virtual void Check(Database&, const Record* stored, Record& record, Refusals&) const = 0;
+    virtual void CheckRecord(Database&, const Record* stored, Record& record, Refusals&) const = 0;
     /// Writes a record that is good, with its line in the audit. Answers its key.
     virtual Key WriteRecord(Database& database, const Record* stored, Record& record,
                             const Author& author) const
@@ -284,23 +276,51 @@ private:
         return texts;
     }
 
+    /// Without an author nothing is written.
+    template <class Row>
+    SaveAnswer Answer(Database& database, Key key, const Texts& before, const Texts& typed,
+                      const Author* author) const
+    {
+        if (typed.size() != fields_.size() || (key != 0 && before.size() != fields_.size()))
+            throw Failure(FailureNumber::InvalidArgument);
+        if (key == 0)
+            return Write(database, nullptr, Comparable(New()), Comparable(typed), author);
+        const auto stored = FindRow<Row>(database, key);
+        if (!stored)
+            return {.outcome = SaveAnswer::Outcome::Gone, .key = key};
+        const Texts now = Comparable(TextsOf(*stored));
+        const MergedTexts merged = MergeTexts(fields_, {Comparable(before), now, Comparable(typed)}, [&] {
+            return FindAuditLines(database, Record::Table, key, LinesToLookAt);
+        });
+        if (!merged.clashes.empty())
+            return {.outcome = SaveAnswer::Outcome::Refused,
+                    .key = key,
+                    .refused = merged.clashes,
+                    .clash = merged.text};
+        return Write(database, &*stored, now, merged.wanted, author);
+    }
+
     SaveAnswer Write(Database& database, const Record* stored, const Texts& now, const Texts& wanted,
-                     const Author& author) const
+                     const Author* author) const
     {
         Record record = stored ? *stored : Record();
         Refusals refusals(fields_);
+        SaveAnswer answer;
+        answer.key = KeyIn(record);
         for (std::size_t at = 0; at < wanted.size(); ++at) {
             if (!stored || wanted[at] != now[at])
                 Take(at, wanted[at], record, refusals);
+            if (wanted[at] != now[at])
+                answer.changed.push_back({at, now[at], wanted[at]});
         }
-        Check(database, stored, record, refusals);
+        CheckRecord(database, stored, record, refusals);
         if (!refusals.IsEmpty())
-            return {SaveAnswer::Outcome::Refused, stored ? KeyIn(*stored) : 0, refusals.InOrder()};
-        SaveAnswer answer;
-        answer.key =
-            stored && IsSame(*stored, record) ? KeyIn(record) : WriteRecord(database, stored, record, author);
-        if (stored && IsActive(*stored) && !IsActive(record) && *BookedBy())
-            answer.booked = BookedSince(database, BookedBy(), answer.key, author.moment);
+            return {
+                .outcome = SaveAnswer::Outcome::Refused, .key = answer.key, .refused = refusals.InOrder()};
+        if (author && !(stored && IsSame(*stored, record)))
+            answer.key = WriteRecord(database, stored, record, *author);
+        if (author && stored && IsActive(*stored) && !IsActive(record) && *BookedBy())
+            answer.booked = BookedSince(database, BookedBy(), answer.key, author->moment);
         return answer;
     }
 

@@ -18,8 +18,8 @@ public:
     }
 
 private:
-    void Check(Database& database, const ServiceTypeRow* stored, ServiceTypeRow& record,
-               Refusals& refusals) const override
+    void CheckRecord(Database& database, const ServiceTypeRow* stored, ServiceTypeRow& record,
+                     Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
         if (IsTaken(database, stored, record, [](const ServiceTypeRow& row) { return row.nomeDeBusca; }))
@@ -77,8 +77,8 @@ private:
             record.typeName = names[record.numeroDoTipo];
     }
 
-    void Check(Database& database, const ServiceRecord* stored, ServiceRecord& record,
-               Refusals& refusals) const override
+    void CheckRecord(Database& database, const ServiceRecord* stored, ServiceRecord& record,
+                     Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
         CheckType(database, stored, record, refusals);
@@ -116,8 +116,8 @@ public:
     }
 
 private:
-    void Check(Database& database, const EmployeeRow* stored, EmployeeRow& record,
-               Refusals& refusals) const override
+    void CheckRecord(Database& database, const EmployeeRow* stored, EmployeeRow& record,
+                     Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
         const auto trait = [](const EmployeeRow& row) {
@@ -146,8 +146,8 @@ public:
     }
 
 private:
-    void Check(Database& database, const SpeciesRow* stored, SpeciesRow& record,
-               Refusals& refusals) const override
+    void CheckRecord(Database& database, const SpeciesRow* stored, SpeciesRow& record,
+                     Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
         if (IsTaken(database, stored, record, [](const SpeciesRow& row) { return row.nomeDeBusca; }))
@@ -188,8 +188,8 @@ private:
             record.species = names[record.codigoDaEspecie];
     }
 
-    void Check(Database& database, const BreedRecord* stored, BreedRecord& record,
-               Refusals& refusals) const override
+    void CheckRecord(Database& database, const BreedRecord* stored, BreedRecord& record,
+                     Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
         if (!stored || stored->species != record.species)
@@ -224,8 +224,8 @@ public:
 
 private:
     /// Different holidays can fall on one day.
-    void Check(Database& database, const HolidayRow* stored, HolidayRow& record,
-               Refusals& refusals) const override
+    void CheckRecord(Database& database, const HolidayRow* stored, HolidayRow& record,
+                     Refusals& refusals) const override
     {
         const auto trait = [](const HolidayRow& row) { return WriteDay(row) + " " + FoldText(row.nome); };
         if (IsTaken(database, stored, record, trait))
@@ -242,7 +242,8 @@ public:
     }
 
 private:
-    void Check(Database& database, const CompanyRow* stored, CompanyRow&, Refusals& refusals) const override
+    void CheckRecord(Database& database, const CompanyRow* stored, CompanyRow&,
+                     Refusals& refusals) const override
     {
         if (!stored && !AllRows(database).empty())
             refusals.Add(0, "a empresa já está cadastrada.");

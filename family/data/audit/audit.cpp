@@ -21,6 +21,14 @@ AuditRow RowOf(const Author& author, const char* table, Key key, const char* ope
     return row;
 }
 
+/// The values with the number of the import that the author writes in.
+AuditValues WithImport(AuditValues values, const Author& author)
+{
+    if (author.importNumber != 0)
+        values.Add(ImportColumn, author.importNumber);
+    return values;
+}
+
 } // namespace
 
 AuditValues& AuditValues::Add(std::string_view column, long long value) { return Keep(column, value); }
@@ -64,8 +72,7 @@ void AuditInsertion(Database& database, const Author& author, const char* table,
                     const AuditValues& after)
 {
     AuditRow row = RowOf(author, table, key, audit_operation::Insertion);
-    row.depois = author.importNumber == 0 ? after.Line()
-                                          : AuditValues(after).Add(ImportColumn, author.importNumber).Line();
+    row.depois = WithImport(after, author).Line();
     Insert(database, row);
 }
 
@@ -81,7 +88,7 @@ void AuditChange(Database& database, const Author& author, const char* table, Ke
 {
     AuditRow row = RowOf(author, table, key, audit_operation::Change);
     row.antes = before.Line();
-    row.depois = after.Line();
+    row.depois = WithImport(after, author).Line();
     Insert(database, row);
 }
 

@@ -1,0 +1,114 @@
+// Registers on a server: connections that break, and desks that bring the same at the same moment.
+
+#include "tests/support/postgres_relay.hpp"
+#include "tests/unit/family/server_fixture.hpp"
+
+#include "family/data/rows/numbering.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/registers/registers.hpp"
+
+#include <atomic>
+#include <barrier>
+#include <thread>
+
+namespace kova::family::test {
+
+using kova::test::PostgresRelay;
+using Breaks = PostgresRelay::Breaks;
+using registers::FieldNamed;
+using registers::Register;
+using registers::SaveAnswer;
+
+namespace {
+
+const Author Lia{"7", "Lia", "2026-11-20 09:04:05", "BALCAO-1"};
+
+/// Adds a customer whose name and document these are.
+SaveAnswer AddCustomerTo(Database& database, const std::string& name, const char* document)
+{
+    const Register& customers = registers::CustomerRegister();
+    registers::Texts typed = customers.New();
+    typed[FieldNamed(customers.Fields(), "Nome")] = name;
+    typed[FieldNamed(customers.Fields(), "Documento")] = document;
+    return customers.Save(database, 0, {}, typed, Lia);
+}
+
+} // namespace
+
+class PostgresqlRegisters : public PostgresqlShop {
+protected:
+    PostgresqlRegisters()
+    {
+        database_ = OpenDatabase(relay_.AddressOf(shop_.Name()));
+        NumberOn(*database_);
+    }
+
+    SaveAnswer Rename(const std::string& name)
+    {
+        const Register& employees = registers::EmployeeRegister();
+        const registers::Texts before = employees.Read(*database_, 2).value();
+        registers::Texts typed = before;
+        typed[FieldNamed(employees.Fields(), "Nome")] = name;
+        return employees.Save(*database_, 2, before, typed, Lia);
+    }
+    std::string Changes()
+    {
+        return shop_.Run("select count(*) from auditoria where tabela = 'funcionario'").front();
+    }
+
+    PostgresRelay relay_{Server()};
+    std::shared_ptr<Database> database_;
+};
+
+TEST_F(PostgresqlRegisters, SaveOnceWhereTheConnectionBreaksAroundTheCommit)
+{
+    int saved = 0;
+    for (const Breaks breaks : {Breaks::BeforeCommit, Breaks::AfterCommit, Breaks::DuringCommit}) {
+        relay_.Break(breaks);
+        EXPECT_TRUE(Rename("Beatriz " + std::to_string(++saved)).IsDone());
+        EXPECT_EQ(Changes(), std::to_string(saved));
+        EXPECT_EQ(shop_.Run("select nome from funcionario where codigo = 2").front(),
+                  "Beatriz " + std::to_string(saved));
+    }
+}
+
+TEST_F(PostgresqlRegisters, SaveWhereTheConnectionWasLostBefore)
+{
+    relay_.Cut();
+    EXPECT_TRUE(Rename("Beatriz N.").IsDone());
+    EXPECT_EQ(Changes(), "1");
+}
+
+TEST_F(PostgresqlRegisters, TellThatNothingWasWrittenWhereTheServerIsAway)
+{
+    const Register& employees = registers::EmployeeRegister();
+    const registers::Texts before = employees.Read(*database_, 2).value();
+    relay_.Refuse();
+    const std::string told = FailureOf([&] { employees.Save(*database_, 2, before, before, Lia); });
+    EXPECT_NE(told.find("Nada foi gravado."), std::string::npos) << told;
+    relay_.Admit();
+    EXPECT_TRUE(Rename("Beatriz N.").IsDone());
+}
+
+TEST_F(PostgresqlRegisters, TakeADocumentOnceFromDesksThatBringItAtTheSameMoment)
+{
+    constexpr int Desks = 4;
+    std::barrier begin(Desks);
+    std::atomic<int> done = 0, refused = 0;
+    std::vector<std::thread> desks;
+    for (int desk = 0; desk < Desks; ++desk)
+        desks.emplace_back([&, desk] {
+            const auto database = OpenDatabase(shop_.Address());
+            for (const char* document : {"12.ABC.345/01DE-35", "529.982.247-25"}) {
+                begin.arrive_and_wait();
+                ++(AddCustomerTo(*database, "Cliente " + std::to_string(desk), document).IsDone() ? done
+                                                                                                  : refused);
+            }
+        });
+    for (std::thread& desk : desks)
+        desk.join();
+    EXPECT_EQ(done, 2);
+    EXPECT_EQ(refused, 2 * Desks - 2);
+}
+
+} // namespace kova::family::test
