@@ -2,6 +2,7 @@
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/registers/registers.hpp"
 #include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/csv/csv_options.hpp"
@@ -41,6 +42,31 @@ std::optional<long long> ChangesOfOthers(family::Database& database)
     }
 }
 
+/// Lines that bring a record that was not there.
+long long NewRecords(const ImportRun& run) { return run.Records() - run.Updated() - run.LeftOut(); }
+
+/// What becomes of the other lines: "; 2 registros alterados", or nothing.
+std::string Others(const ImportRun& run)
+{
+    std::string text;
+    if (run.Updated() > 0)
+        text += "; " + Counted(run.Changing(), "registro alterado", "registros alterados");
+    if (run.LeftOut() > 0)
+        text += "; " + Counted(run.LeftOut(), "linha já estava no banco", "linhas já estavam no banco");
+    return text;
+}
+
+/// What the options say of lines that are there already.
+Known KnownBy(const Call& call, const Register& into)
+{
+    const bool updates = call.Has("--update"), skips = call.Has("--skip-existing");
+    if (updates && skips)
+        call.Refuse("--update e --skip-existing não valem juntos.");
+    if (updates && !family::registers::RegisterNamed(into.name))
+        call.Refuse("--update não vale para " + std::string(into.name) + ".");
+    return updates ? Known::Updated : skips ? Known::LeftOut : Known::Refused;
+}
+
 int Rehearse(ImportRun& run, const std::string& path, Surroundings& surroundings)
 {
     const auto database = family::OpenNewestForReading(path);
@@ -48,8 +74,9 @@ int Rehearse(ImportRun& run, const std::string& path, Surroundings& surroundings
     run.Check(*database, Checking);
     if (run.ProblemCount() > 0)
         return Refuse(run, surroundings);
-    surroundings.output << Counted(run.Records(), "linha pode ser importada", "linhas podem ser importadas")
-                        << "; nada foi gravado.\n";
+    surroundings.output << run.Changes()
+                        << Counted(NewRecords(run), "linha pode ser importada", "linhas podem ser importadas")
+                        << Others(run) << "; nada foi gravado.\n";
     return 0;
 }
 
@@ -83,6 +110,8 @@ public:
         file.records = run_.Records();
         family::BeginImport(*database_, author_, file);
         run_.Write(*database_, author_);
+        if (run_.ProblemCount() > 0)
+            return false;
         transaction.Commit();
         return true;
     }
@@ -100,15 +129,17 @@ int Run(const Call& call, Surroundings& surroundings)
     const std::string& path = call.Operand(2);
     const auto encoding = GivenEncoding(call);
     const auto separator = GivenSeparator(call);
+    const Known known = KnownBy(call, into);
     const FileText file = ReadTextFile(path, encoding);
     surroundings.output << "Arquivo lido em " << NameOf(file.encoding) << ".\n";
-    ImportRun run(into, file.text, separator.value_or(RecogniseSeparator(file.text)), surroundings);
+    ImportRun run(into, file.text, separator.value_or(RecogniseSeparator(file.text)), known, surroundings);
     if (call.Has("--dry-run"))
         return Rehearse(run, call.Operand(0), surroundings);
     Importing importing(run, call.Operand(0), AuthorOf(call, surroundings.now));
     if (!importing.IsGood() || !importing.Write({path, NameOf(file.encoding), std::string(into.name)}))
         return Refuse(run, surroundings);
-    surroundings.output << Counted(run.Records(), "linha importada", "linhas importadas") << ".\n";
+    surroundings.output << run.Changes() << Counted(NewRecords(run), "linha importada", "linhas importadas")
+                        << Others(run) << ".\n";
     return 0;
 }
 
@@ -118,10 +149,14 @@ const Command ImportCommand{
     {"import",
      "Importa um arquivo CSV: todas as linhas ou, se alguma tem erro, nenhuma; os erros\n"
      "são mostrados por linha. O que já está no banco é um erro: importar de novo não\n"
-     "duplica nada. Com --dry-run só confere. CADASTRO: clientes, animais, tipos,\n"
-     "servicos, funcionarios, feriados ou agendamentos. NOME fica na auditoria.",
+     "duplica nada. Com --dry-run só confere. CADASTRO: clientes, animais, especies,\n"
+     "racas, tipos, servicos, funcionarios, feriados, empresa ou agendamentos. NOME fica na auditoria. Com\n"
+     "--update uma linha que traz o código de um registro do banco muda o que nele é\n"
+     "diferente; cada mudança é mostrada, com o que havia antes.",
      {"BANCO", "CADASTRO", "ARQUIVO"},
      {{"--dry-run", {}, "Só confere: nada é gravado."},
+      {"--update", {}, "Muda os registros que já estão no banco, pelo código."},
+      {"--skip-existing", {}, "Deixa de fora as linhas que já estão no banco."},
       EncodingOption,
       SeparatorOption,
       {"--user", "NOME", "Quem importa (padrão: o usuário do computador)."}}},

@@ -51,6 +51,8 @@ std::size_t Header::Find(const std::string& name) const
     return found == titles_.end() ? None : static_cast<std::size_t>(found - titles_.begin());
 }
 
+bool Header::Has(std::size_t column) const { return std::ranges::find(columns_, column) != columns_.end(); }
+
 void Header::RequireAll(long long line, Problems& problems) const
 {
     for (std::size_t column = 0; column < titles_.size(); ++column) {

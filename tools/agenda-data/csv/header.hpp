@@ -23,6 +23,9 @@ public:
     /// The record's fields by the columns of the titles. What is wrong with its form goes to `problems`.
     Line Read(const CsvRecord& record, Problems& problems) const;
 
+    /// Whether the file has that column.
+    bool Has(std::size_t column) const;
+
 private:
     static constexpr std::size_t None = static_cast<std::size_t>(-1);
 

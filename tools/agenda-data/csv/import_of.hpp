@@ -119,6 +119,9 @@ protected:
         }
     }
 
+    /// Whether the line is left out because a stored record stands there.
+    static bool LeavesOut(const Place& place, Line& line) { return place.IsStored() && line.IsStored(); }
+
     static Key CodeIn(Record record) { return family::KeyOfRow(record); }
     family::Database& GetDatabase() { return database_; }
 
@@ -155,16 +158,18 @@ private:
         const Key code = CodeIn(record);
         if (code != 0)
             CheckCode(code, line);
-        CheckRecord(record, line);
-        if (code == 0 && line.IsGood())
+        if (!line.IsLeftOut())
+            CheckRecord(record, line);
+        if (code == 0 && line.IsGood() && !line.IsLeftOut())
             CheckTraits(record, line);
-        if (line.IsGood())
+        if (line.IsGood() && !line.IsLeftOut())
             TakeRoom(record, line);
     }
 
     void CheckCode(Key code, Line& line)
     {
-        if (const auto place = codes_.Add(code, line.Number()))
+        const auto place = codes_.Add(code, line.Number());
+        if (place && !LeavesOut(*place, line))
             line.Refuse(CodeName(), std::to_string(code), place->Told() + ".");
     }
 
@@ -174,6 +179,8 @@ private:
             const auto place = traits_.Add(trait, line.Number());
             if (!place)
                 continue;
+            if (LeavesOut(*place, line))
+                return;
             const std::string code = place->IsStored()
                 ? ", com o " + LowerCase(CodeName()) + " " + std::to_string(place->code)
                 : "";

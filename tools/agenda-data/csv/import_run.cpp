@@ -1,6 +1,7 @@
 #include "tools/agenda-data/csv/import_run.hpp"
 
 #include "family/data/rows/numbering.hpp"
+#include "family/registers/registers.hpp"
 
 namespace kova::data {
 
@@ -14,13 +15,15 @@ constexpr std::size_t LinesAtOnce = 500;
 
 } // namespace
 
-ImportRun::ImportRun(const Register& into, std::string_view text, char separator, Surroundings& surroundings)
+ImportRun::ImportRun(const Register& into, std::string_view text, char separator, Known known,
+                     Surroundings& surroundings)
     : register_(into),
       text_(text),
       separator_(separator),
       reader_(text, separator),
       surroundings_(surroundings),
-      problems_(surroundings.error)
+      problems_(surroundings.error),
+      known_(known)
 {
 }
 
@@ -64,21 +67,46 @@ template <class Use> void ImportRun::ForEachGroup(const char* what, Use use)
 void ImportRun::Check(family::Database& database, const char* what)
 {
     import_ = register_.startImport(database, surroundings_.now);
+    database_ = &database;
     records_ = 0;
     withoutCode_ = 0;
-    if (ReadHeader())
-        ForEachGroup(what, [this](std::span<Line> lines) { CheckGroup(lines); });
+    updated_ = 0;
+    leftOut_.clear();
+    updates_.reset();
+    if (!ReadHeader())
+        return;
+    if (known_ == Known::Updated)
+        updates_.emplace(*family::registers::RegisterNamed(register_.name), *header_, import_->Titles());
+    ForEachGroup(what, [this](std::span<Line> lines) { CheckGroup(lines); });
 }
 
 void ImportRun::CheckGroup(std::span<Line> lines)
 {
-    for (const Line& line : lines) {
+    std::vector<Line> others;
+    for (Line& line : lines) {
         ++records_;
         if (!import_->HasCode(line))
             ++withoutCode_;
+        if (updates_ && updates_->Take(*database_, line))
+            ++updated_;
+        else
+            others.push_back(line);
+    }
+    CheckNew(others);
+    problems_.Tell();
+}
+
+void ImportRun::CheckNew(std::vector<Line>& lines)
+{
+    for (Line& line : lines) {
+        if (known_ == Known::LeftOut)
+            line.LeaveOutStored();
     }
     import_->Check(lines);
-    problems_.Tell();
+    for (const Line& line : lines) {
+        if (line.IsLeftOut())
+            leftOut_.insert(line.Number());
+    }
 }
 
 /// A code that the engine gives could otherwise be the one that a later line brings.
@@ -91,6 +119,17 @@ void ImportRun::Write(family::Database& database, const family::Author& author)
         WriteThose(false, author);
     // Also a line without a code may name another one, as an appointment does its package's.
     family::NumberOn(database);
+    problems_.Tell();
+}
+
+void ImportRun::WriteLine(Line& line, const family::Author& author)
+{
+    if (leftOut_.contains(line.Number()))
+        return;
+    if (updates_ && updates_->Has(line))
+        updates_->Write(*database_, line, author);
+    else
+        import_->Write(line, author);
 }
 
 void ImportRun::WriteThose(bool withCode, const family::Author& author)
@@ -98,7 +137,7 @@ void ImportRun::WriteThose(bool withCode, const family::Author& author)
     ForEachGroup(withCode ? "Gravação" : "Gravação com novos códigos", [&](std::span<Line> lines) {
         for (Line& line : lines) {
             if (import_->HasCode(line) == withCode)
-                import_->Write(line, author);
+                WriteLine(line, author);
         }
     });
 }

@@ -47,6 +47,18 @@ public:
     bool IsGood() const { return good_; }
     const std::string& Cell(std::size_t column) const { return cells_[column]; }
 
+    /// From now on what is in the database already is no reason to refuse the line: it is left out.
+    void LeaveOutStored() { leavesOutStored_ = true; }
+    /// Whether it is left out, which is nothing wrong with it.
+    bool IsLeftOut() const { return leftOut_; }
+    /// Tells that what it brings is in the database already. True where the line is left out for it; else it
+    /// is to be refused.
+    bool IsStored()
+    {
+        leftOut_ = leftOut_ || leavesOutStored_;
+        return leavesOutStored_;
+    }
+
     /// Tells that the line cannot be imported. With a value it is named too.
     void Refuse(std::string_view column, std::string_view value, std::string_view why);
     void Refuse(std::string_view column, std::string_view why);
@@ -56,6 +68,7 @@ private:
     std::vector<std::string> cells_;
     Problems& problems_;
     bool good_ = true;
+    bool leavesOutStored_ = false, leftOut_ = false;
 };
 
 } // namespace kova::data

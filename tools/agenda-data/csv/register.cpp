@@ -8,8 +8,8 @@ namespace kova::data {
 std::span<const Register* const> Registers()
 {
     static const Register* const registers[] = {
-        &CustomerRegister, &AnimalRegister,  &ServiceTypeRegister, &ServiceRegister,
-        &EmployeeRegister, &HolidayRegister, &AppointmentRegister,
+        &CustomerRegister, &SpeciesRegister,  &BreedRegister,   &AnimalRegister,  &ServiceTypeRegister,
+        &ServiceRegister,  &EmployeeRegister, &HolidayRegister, &CompanyRegister, &AppointmentRegister,
     };
     return registers;
 }

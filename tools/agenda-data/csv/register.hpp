@@ -45,15 +45,18 @@ struct Register {
     const char* table;
 };
 
-// Each in the file of its name.
+// Each in the file of its name; species, breeds and the company in shop.cpp.
 
 extern const Register AnimalRegister;
 extern const Register AppointmentRegister;
+extern const Register BreedRegister;
+extern const Register CompanyRegister;
 extern const Register CustomerRegister;
 extern const Register EmployeeRegister;
 extern const Register HolidayRegister;
 extern const Register ServiceRegister;
 extern const Register ServiceTypeRegister;
+extern const Register SpeciesRegister;
 
 /// All of them, those first that others refer to.
 std::span<const Register* const> Registers();

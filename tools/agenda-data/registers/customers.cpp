@@ -107,7 +107,8 @@ private:
             return;
         if (const std::string why = family::registers::WrongKindOfPerson(record); !why.empty())
             line.Refuse(column::Kind, record.tipoDePessoa, why);
-        if (const auto place = documents_.Add(record.documento, line.Number()))
+        const auto place = documents_.Add(record.documento, line.Number());
+        if (place && !LeavesOut(*place, line))
             line.Refuse(column::Document, record.documento,
                         "um cliente com este documento " + place->Told() + ".");
     }

@@ -35,7 +35,8 @@ private:
     {
         if (row.data.IsNull() && row.dia.IsNull())
             return;
-        if (const auto place = days_.Add(DayAndName(row), line.Number()))
+        const auto place = days_.Add(DayAndName(row), line.Number());
+        if (place && !LeavesOut(*place, line))
             line.Refuse(column::Day, WriteDay(row), "este feriado " + place->Told() + ".");
     }
 

@@ -4,8 +4,8 @@ namespace kova::data::test {
 
 namespace {
 
-constexpr const char* Registers[] = {"clientes",     "animais",  "tipos",       "servicos",
-                                     "funcionarios", "feriados", "agendamentos"};
+constexpr const char* Registers[] = {"clientes", "especies",     "racas",    "animais", "tipos",
+                                     "servicos", "funcionarios", "feriados", "empresa", "agendamentos"};
 
 class RoundTrip : public ImportTest {
 protected:

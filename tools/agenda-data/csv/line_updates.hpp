@@ -1,0 +1,51 @@
+#pragma once
+
+#include "family/registers/register.hpp"
+#include "tools/agenda-data/csv/header.hpp"
+
+#include <unordered_map>
+
+namespace kova::data {
+
+/// The lines of a file that change stored rows of a register by their codes: what a column of the file holds
+/// is typed into the row, an empty cell empties the field, and fields without a column stay.
+class LineUpdates {
+public:
+    /// `header` and `titles` outlive it.
+    LineUpdates(const family::registers::Register& of, const Header& header, const std::vector<Title>& titles)
+        : register_(of), header_(header), titles_(titles)
+    {
+    }
+
+    /// Whether the line has the code of a stored row. Then it is checked: what is wrong is told to it.
+    bool Take(family::Database& database, Line& line);
+    /// Whether Take has taken it.
+    bool Has(const Line& line) const { return keys_.contains(line.Number()); }
+    /// Writes a line that was taken, in the transaction that is open. What others have made impossible
+    /// meanwhile is told to the line.
+    void Write(family::Database& database, Line& line, const family::Author& author) const;
+
+    /// Lines that change something.
+    long long Changing() const { return changing_; }
+    /// What they change, a line of text for each field.
+    const std::string& Changes() const { return changes_; }
+
+private:
+    using Texts = family::registers::Texts;
+
+    void Check(family::Database& database, family::Key key, const Texts& before, Line& line);
+    Texts TypedOver(Texts texts, Line& line) const;
+    void Refuse(const family::registers::SaveAnswer& answer, const Texts& typed, Line& line) const;
+
+    const family::registers::Register& register_;
+    const Header& header_;
+    const std::vector<Title>& titles_;
+    /// Of the lines that were taken.
+    std::unordered_map<long long, family::Key> keys_;
+    /// The line that changes a row.
+    std::unordered_map<family::Key, long long> lines_;
+    long long changing_ = 0;
+    std::string changes_;
+};
+
+} // namespace kova::data
