@@ -22,6 +22,8 @@ constexpr Words AllWords[] = {
     {"canal_de_comunicacao", "canal de comunicação", "canais de comunicação"},
     {"pacote", "pacote", "pacotes"},
     {"agendamento", "agendamento", "agendamentos"},
+    {"horario_do_funcionario", "horário de trabalho", "horários de trabalho"},
+    {"ausencia", "ausência", "ausências"},
 };
 
 /// Runs what asks the engine directly.

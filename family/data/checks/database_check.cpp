@@ -22,15 +22,16 @@ void CheckServer(Database& database, DatabaseReport& report)
     database.Session() << "select count(*) from pg_constraint where contype = 'f' and convalidated"
                           " and connamespace = current_schema()::regnamespace",
         soci::into(held);
-    if (held < References().size())
+    const std::size_t expected = References(database).size();
+    if (held < expected)
         report.problems.push_back("O servidor confere só " + std::to_string(held) + " das "
-                                  + std::to_string(References().size())
+                                  + std::to_string(expected)
                                   + " referências entre as tabelas. Restaure uma cópia em um banco vazio.");
 }
 
 void CheckReferences(Database& database, DatabaseReport& report)
 {
-    for (const Reference& reference : References()) {
+    for (const Reference& reference : References(database)) {
         const std::string table = reference.table, column = reference.column;
         long long lost = 0;
         database.Session() << "select count(*) from " + table + " t where t." + column

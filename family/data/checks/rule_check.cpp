@@ -1,5 +1,6 @@
 #include "family/data/checks/rule_check.hpp"
 #include "family/data/checks/walk_pages.hpp"
+#include "family/data/rows/table_layouts.hpp"
 
 #include <iterator>
 #include <limits>
@@ -79,6 +80,13 @@ constexpr Rule Rules[] = {
      "mes not between 1 and 12 or dia < 1 or dia > 31 or (dia > 30 and mes in (4, 6, 9, 11))"
      " or (dia > 29 and mes = 2)",
      "o dia do ano não existe."},
+    {"expediente", "codigo", "dia_da_semana not between 1 and 7", "o dia da semana não existe."},
+    {"expediente", "codigo", "hora_final <= hora_inicial", "o fim não é posterior ao início."},
+    {"horario_do_funcionario", "codigo", "dia_da_semana not between 1 and 7", "o dia da semana não existe."},
+    {"horario_do_funcionario", "codigo", "hora_final <= hora_inicial", "o fim não é posterior ao início."},
+    {"ausencia", "codigo", "data_final || ' ' || hora_final <= data_inicial || ' ' || hora_inicial",
+     "o fim não é posterior ao início."},
+    {"ausencia", "codigo", "trim(motivo) = ''", "falta o motivo."},
 };
 
 /// The rows come in pages.
@@ -101,8 +109,10 @@ int PassesOverRows() { return static_cast<int>(std::size(Rules)); }
 
 void FindBrokenRows(Database& database, std::vector<std::string>& problems, const Passed& passed)
 {
+    const std::vector<StoredTable> tables = StoredTables(database);
     for (const Rule& rule : Rules) {
-        FindRowsThatBreak(rule, database, problems);
+        if (Has(tables, rule.table))
+            FindRowsThatBreak(rule, database, problems);
         passed();
     }
 }

@@ -4,6 +4,7 @@
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/migration.hpp"
 #include "family/data/engine/nullable.hpp"
+#include "family/data/rows/table_layouts.hpp"
 #include "family/data/sources/data_source.hpp"
 
 #include <iterator>
@@ -30,6 +31,14 @@ constexpr DatedColumn DatedColumns[] = {
     {"pre_venda", "codigo", "criada_em", IsIsoMoment},
     {"auditoria", "codigo", "momento", IsIsoMoment},
     {"feriado", "codigo", "data", IsIsoDate},
+    {"expediente", "codigo", "hora_inicial", IsIsoTime},
+    {"expediente", "codigo", "hora_final", IsIsoEndTime},
+    {"horario_do_funcionario", "codigo", "hora_inicial", IsIsoTime},
+    {"horario_do_funcionario", "codigo", "hora_final", IsIsoEndTime},
+    {"ausencia", "codigo", "data_inicial", IsIsoDate},
+    {"ausencia", "codigo", "hora_inicial", IsIsoTime},
+    {"ausencia", "codigo", "data_final", IsIsoDate},
+    {"ausencia", "codigo", "hora_final", IsIsoEndTime},
 };
 
 struct NamedTable {
@@ -65,19 +74,26 @@ void ForEachText(Database& database, const NamedTable& table, const std::string&
         [&] { after = number; });
 }
 
+void FindWrongTexts(const DatedColumn& dated, Database& database, std::vector<std::string>& problems)
+{
+    ForEachText(database, {dated.table, dated.key}, std::string("'', ") + dated.column,
+                [&](const std::string& row, const std::string&, const std::string& text) {
+                    if (!dated.isRight(text))
+                        problems.push_back(row + ": \"" + text + "\" em " + dated.column
+                                           + " não é uma data ou hora.");
+                });
+}
+
 } // namespace
 
 int PassesOverTexts() { return static_cast<int>(std::size(DatedColumns) + std::size(NamedTables)); }
 
 void FindBrokenTexts(Database& database, std::vector<std::string>& problems, const Passed& passed)
 {
+    const std::vector<StoredTable> tables = StoredTables(database);
     for (const DatedColumn& dated : DatedColumns) {
-        ForEachText(database, {dated.table, dated.key}, std::string("'', ") + dated.column,
-                    [&](const std::string& row, const std::string&, const std::string& text) {
-                        if (!dated.isRight(text))
-                            problems.push_back(row + ": \"" + text + "\" em " + dated.column
-                                               + " não é uma data ou hora.");
-                    });
+        if (Has(tables, dated.table))
+            FindWrongTexts(dated, database, problems);
         passed();
     }
     // Texts that an older version has folded are folded anew when the database is opened for work.

@@ -181,6 +181,8 @@ TableSum CopyTable(Database& source, Database& target, const StoredTable& table,
 {
     AnyRow row(source, table);
     TableReading reading(source, table, row);
+    // What a new schema brings with it stands in the source, or was taken away there.
+    target.Session() << std::string("delete from ") + table.name;
     TableWriting writing(target, table, row);
     SumOfRows sum;
     reading.ForEach([&] {

@@ -67,6 +67,8 @@ bool IsIsoMoment(std::string_view text)
         && IsIsoTime(text.substr(11, 5)) && NumberAt(text, 17, 2) < 60;
 }
 
+bool IsIsoEndTime(std::string_view text) { return IsIsoTime(text) || text == "24:00"; }
+
 std::string ShownDate(std::string_view isoDate)
 {
     if (isoDate.size() < 10)

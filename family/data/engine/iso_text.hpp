@@ -19,6 +19,8 @@ DateTime ReadIsoMoment(std::string_view isoDate, std::string_view time);
 bool IsIsoDate(std::string_view text);
 bool IsIsoTime(std::string_view text);
 bool IsIsoMoment(std::string_view text);
+/// A time of the day or "24:00", with which the day ends.
+bool IsIsoEndTime(std::string_view text);
 
 /// "dd/mm/yyyy" of a kept date, "dd/mm/yyyy hh:mm:ss" of a kept moment.
 std::string ShownDate(std::string_view isoDate);

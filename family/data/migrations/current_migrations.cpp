@@ -1,6 +1,5 @@
 #include "family/data/migrations/current_migrations.hpp"
 
-#include "family/data/migrations/held_rules.hpp"
 #include "family/data/migrations/schemas.hpp"
 
 namespace kova::family {
@@ -13,8 +12,9 @@ constexpr Migration Steps[] = {
     {3, SchemaOfVersion3},
     {4, SchemaOfVersion4},
     {5, SchemaOfVersion5, FoldTextsAnew},
-    {6, SchemaOfVersion6, HoldRules},
+    {6, SchemaOfVersion6, HoldRulesOfVersion6},
     {7, SchemaOfVersion7},
+    {8, SchemaOfVersion8, HoldRulesOfVersion8},
 };
 
 } // namespace

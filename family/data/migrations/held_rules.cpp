@@ -1,6 +1,7 @@
 #include "family/data/migrations/held_rules.hpp"
 
 #include "family/data/engine/key.hpp"
+#include "family/data/engine/migration.hpp"
 
 namespace kova::family {
 
@@ -61,18 +62,50 @@ constexpr RowRule OfPreSales[] = {
     {"situacao", "@situacao not between 1 and 3", "a situação não existe"},
 };
 
-constexpr TableRules Tables[] = {
-    {"servico", "duracao_em_minutos, preco_em_centavos, custo_em_centavos, quantidade_de_sessoes, situacao",
-     OfServices},
-    {"funcionario", "agendamentos_simultaneos, situacao", OfEmployees},
-    {"feriado", "dia, mes, data", OfHolidays},
-    {"cliente", "tipo_de_pessoa, situacao, nome", OfCustomers},
-    {"animal", "sexo, porte, situacao, nome", OfAnimals},
-    {"agendamento",
-     "data_inicial, hora_inicial, data_final, hora_final, tipo_do_agendamento, codigo_do_cliente,"
-     " codigo_do_animal, nome_do_cliente, nome_do_animal, transporte_buscar, transporte_levar, situacao",
-     OfAppointments},
-    {"pre_venda", "situacao", OfPreSales},
+constexpr RowRule OfOpeningHours[] = {
+    {"dia", "@dia_da_semana not between 1 and 7", "o dia da semana não existe"},
+    {"horas",
+     "@hora_inicial not like '__:__' or @hora_final not like '__:__' or @hora_inicial < '00:00'"
+     " or @hora_final > '24:00'",
+     "o início ou o fim não é uma hora do dia"},
+    {"fim", "@hora_final <= @hora_inicial", "o fim não é posterior ao início"},
+};
+
+constexpr RowRule OfAbsences[] = {
+    {"horas",
+     "@hora_inicial not like '__:__' or @hora_final not like '__:__' or @hora_inicial < '00:00'"
+     " or @hora_inicial >= '24:00' or @hora_final < '00:00' or @hora_final > '24:00'",
+     "o início ou o fim não é uma hora do dia"},
+    {"fim", "@data_final < @data_inicial or (@data_final = @data_inicial and @hora_final <= @hora_inicial)",
+     "o fim não é posterior ao início"},
+    {"motivo", "trim(@motivo) = ''", "falta o motivo"},
+};
+
+constexpr const char* ColumnsOfHours = "dia_da_semana, hora_inicial, hora_final";
+
+/// The rules of a table, held from a version on.
+struct HeldTable {
+    int since;
+    TableRules rules;
+};
+
+constexpr HeldTable Tables[] = {
+    {6,
+     {"servico", "duracao_em_minutos, preco_em_centavos, custo_em_centavos, quantidade_de_sessoes, situacao",
+      OfServices}},
+    {6, {"funcionario", "agendamentos_simultaneos, situacao", OfEmployees}},
+    {6, {"feriado", "dia, mes, data", OfHolidays}},
+    {6, {"cliente", "tipo_de_pessoa, situacao, nome", OfCustomers}},
+    {6, {"animal", "sexo, porte, situacao, nome", OfAnimals}},
+    {6,
+     {"agendamento",
+      "data_inicial, hora_inicial, data_final, hora_final, tipo_do_agendamento, codigo_do_cliente,"
+      " codigo_do_animal, nome_do_cliente, nome_do_animal, transporte_buscar, transporte_levar, situacao",
+      OfAppointments}},
+    {6, {"pre_venda", "situacao", OfPreSales}},
+    {8, {"expediente", ColumnsOfHours, OfOpeningHours}},
+    {8, {"horario_do_funcionario", ColumnsOfHours, OfOpeningHours}},
+    {8, {"ausencia", "data_inicial, hora_inicial, data_final, hora_final, motivo", OfAbsences}},
 };
 
 bool HasBrokenRow(soci::session& session, const TableRules& table, const RowRule& rule)
@@ -108,6 +141,7 @@ std::string SecondPreSales(soci::session& session)
 }
 
 constexpr const char* OnePreSale = "pre_venda_unica_por_agendamento";
+constexpr int FirstVersionWithRules = 6;
 
 /// Those that are too many already are left out by their codes, so that the others are held to it.
 void HoldOnePreSale(soci::session& session)
@@ -120,20 +154,33 @@ void HoldOnePreSale(soci::session& session)
 
 } // namespace
 
+void HoldRulesOfVersion(int version, soci::session& session, const Dialect& dialect)
+{
+    for (const HeldTable& table : Tables) {
+        if (table.since != version)
+            continue;
+        for (const std::string& statement : dialect.holdRules(table.rules))
+            session << statement;
+        Confirm(session, dialect, table.rules);
+    }
+    if (version == FirstVersionWithRules)
+        HoldOnePreSale(session);
+}
+
 void HoldRules(soci::session& session, const Dialect& dialect)
 {
-    for (const TableRules& table : Tables) {
-        for (const std::string& statement : dialect.holdRules(table))
-            session << statement;
-        Confirm(session, dialect, table);
-    }
-    HoldOnePreSale(session);
+    const int stored = StoredVersion(session);
+    for (int version = FirstVersionWithRules; version <= stored; ++version)
+        HoldRulesOfVersion(version, session, dialect);
 }
 
 void LiftRules(soci::session& session, const Dialect& dialect)
 {
-    for (const TableRules& table : Tables) {
-        for (const std::string& statement : dialect.liftRules(table))
+    const int stored = StoredVersion(session);
+    for (const HeldTable& table : Tables) {
+        if (table.since > stored)
+            continue;
+        for (const std::string& statement : dialect.liftRules(table.rules))
             session << statement;
     }
     session << std::string("drop index if exists ") + OnePreSale;

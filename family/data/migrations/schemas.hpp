@@ -18,8 +18,13 @@ std::vector<std::string> SchemaOfVersion4(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion5(const Dialect& dialect);
 /// Writes the folded texts that the rows keep where they are not what is folded of their texts today.
 void FoldTextsAnew(soci::session& session, const Dialect& dialect);
-/// Rows are held to the rules of held_rules.hpp behind it.
 std::vector<std::string> SchemaOfVersion6(const Dialect& dialect);
+/// Holds the rows of the tables there are then to their rules (held_rules.hpp).
+void HoldRulesOfVersion6(soci::session& session, const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion7(const Dialect& dialect);
+/// Opening hours, employees' hours and absences; open from Monday to Saturday at all hours.
+std::vector<std::string> SchemaOfVersion8(const Dialect& dialect);
+/// Holds their rows to their rules.
+void HoldRulesOfVersion8(soci::session& session, const Dialect& dialect);
 
 } // namespace kova::family

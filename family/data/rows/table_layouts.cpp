@@ -26,6 +26,9 @@ constexpr StoredTable Tables[] = {
     {"pre_venda", "codigo"},
     {"auditoria", "codigo"},
     {"gravacao", "identificador", 4, false},
+    {"expediente", "codigo", 8},
+    {"horario_do_funcionario", "codigo", 8},
+    {"ausencia", "codigo", 8},
 };
 
 constexpr Reference AllReferences[] = {
@@ -41,6 +44,8 @@ constexpr Reference AllReferences[] = {
     {"agendamento", "codigo_do_servico", "servico", "codigo"},
     {"agendamento", "codigo_do_funcionario", "funcionario", "codigo"},
     {"agendamento", "codigo_do_pacote", "pacote", "codigo"},
+    {"horario_do_funcionario", "codigo_do_funcionario", "funcionario", "codigo"},
+    {"ausencia", "codigo_do_funcionario", "funcionario", "codigo"},
 };
 
 } // namespace
@@ -56,6 +61,21 @@ std::vector<StoredTable> StoredTables(Database& database)
     std::copy_if(std::begin(Tables), std::end(Tables), std::back_inserter(tables),
                  [&](const StoredTable& table) { return table.since <= version; });
     return tables;
+}
+
+std::vector<Reference> References(Database& database)
+{
+    const std::vector<StoredTable> tables = StoredTables(database);
+    std::vector<Reference> references;
+    std::copy_if(std::begin(AllReferences), std::end(AllReferences), std::back_inserter(references),
+                 [&](const Reference& reference) { return Has(tables, reference.table); });
+    return references;
+}
+
+bool Has(const std::vector<StoredTable>& tables, std::string_view name)
+{
+    return std::any_of(tables.begin(), tables.end(),
+                       [&](const StoredTable& table) { return table.name == name; });
 }
 
 // Asked of the database instead of kept in a list: a column that a later version of the schema brings

@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kova::family {
@@ -24,6 +25,7 @@ struct StoredTable {
 std::span<const StoredTable> StoredTables();
 /// Those that the connected database has, which may be of an older schema. Fails with soci::soci_error.
 std::vector<StoredTable> StoredTables(Database& database);
+bool Has(const std::vector<StoredTable>& tables, std::string_view name);
 
 /// A column whose values are keys of another table, where they are not Null.
 struct Reference {
@@ -34,8 +36,10 @@ struct Reference {
     const char* key;
 };
 
-/// All that the engines hold the rows to; those of the oldest schema already.
+/// All that the engines hold the rows of the newest schema to.
 std::span<const Reference> References();
+/// Those of the tables that the connected database has. Fails with soci::soci_error.
+std::vector<Reference> References(Database& database);
 
 struct Column {
     std::string name;

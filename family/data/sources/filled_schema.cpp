@@ -8,13 +8,10 @@ void FillSchema(Database& database, Migrations migrations, const std::function<v
 {
     soci::session& session = database.Session();
     const Dialect& dialect = database.GetDialect();
-    const bool hasRules = NewestVersion(migrations) >= FirstVersionWithRules;
     RunMissing(session, dialect, migrations);
-    if (hasRules)
-        LiftRules(session, dialect);
+    LiftRules(session, dialect);
     fill(database);
-    if (hasRules)
-        HoldRules(session, dialect);
+    HoldRules(session, dialect);
 }
 
 } // namespace kova::family

@@ -1,6 +1,7 @@
 #include "family/data/stores/booking_registers.hpp"
 
 #include "family/data/rows/row_statement.hpp"
+#include "family/data/stores/work_tables.hpp"
 
 #include <deque>
 
@@ -49,6 +50,7 @@ public:
     {
         statement_.alloc();
         statement_.exchange(soci::into(changesOfHolidays_));
+        statement_.exchange(soci::into(changesOfWorkTables_));
         // One after the other: they are fetched in the order of the columns.
         std::string columns = customer_.FetchWith(statement_, "c");
         columns += animal_.FetchWith(statement_, "n");
@@ -70,8 +72,8 @@ public:
         BookingRegisters found;
         statement_.execute();
         while (statement_.fetch())
-            found = {customer_.Found(), animal_.Found(),   serviceType_.Found(),
-                     service_.Found(),  employee_.Found(), changesOfHolidays_};
+            found = {customer_.Found(), animal_.Found(),    serviceType_.Found(), service_.Found(),
+                     employee_.Found(), changesOfHolidays_, changesOfWorkTables_};
         return found;
     }
 
@@ -80,7 +82,8 @@ private:
     static std::string StatementWith(const std::string& columns, const std::string& lockRow)
     {
         return "with f as (select * from funcionario where codigo = :funcionario" + lockRow
-            + ") select (select alteracoes from contador_de_alteracoes where tabela = 'feriado')" + columns
+            + ") select (select alteracoes from contador_de_alteracoes where tabela = 'feriado'), ("
+            + ChangesOfWorkTables() + ")" + columns
             + " from (select 1 as um) as sempre"
               " left join cliente c on c.codigo = :cliente"
               " left join animal n on n.codigo = :animal"
@@ -90,7 +93,7 @@ private:
     }
 
     BookingKeys keys_;
-    long long changesOfHolidays_ = 0;
+    long long changesOfHolidays_ = 0, changesOfWorkTables_ = 0;
     PartOfSelection<BookedCustomer> customer_;
     PartOfSelection<BookedAnimal> animal_;
     PartOfSelection<BookedServiceType> serviceType_;

@@ -97,6 +97,8 @@ struct BookingRegisters {
     std::optional<BookedEmployee> employee;
     /// How often the holidays were changed, for HolidayCalendar.
     long long changesOfHolidays = 0;
+    /// The same of opening hours, employees' hours and absences, for FindWorkTables.
+    long long changesOfWorkTables = 0;
 };
 
 /// Reads them all at once, since a server that lies far away answers one question as soon as five. Locks the

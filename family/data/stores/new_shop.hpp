@@ -18,7 +18,8 @@ struct NewShop {
 };
 
 /// Makes the database of a shop that has not begun yet: its company, user and employee, the service types
-/// that the rules know, the commonest species, and the national holidays. Fails as CreateDatabase.
+/// that the rules know, the commonest species, and the national holidays. As any new database it is open from
+/// Monday to Saturday at all hours. Fails as CreateDatabase.
 void CreateNewShop(const std::string& source, const NewShop& shop);
 
 } // namespace kova::family

@@ -112,6 +112,15 @@ TEST_F(DemonstrationShop, HasTheHolidaysOfACenturyAndThoseOfItsTown)
     EXPECT_EQ(Count("feriado where nome = 'Aniversário de Vale Sereno' and data is null"), 1);
 }
 
+TEST_F(DemonstrationShop, IsOpenFromMondayToSaturdayAtAllHoursAndNobodyIsAway)
+{
+    EXPECT_EQ(Count("expediente"), 6);
+    EXPECT_EQ(Count("expediente where dia_da_semana between 2 and 7 and hora_inicial = '00:00'"
+                    " and hora_final = '24:00'"),
+              6);
+    EXPECT_EQ(Count("horario_do_funcionario") + Count("ausencia"), 0);
+}
+
 TEST_F(DemonstrationShop, NeverBooksAnEmployeeBeyondTheLimit)
 {
     EXPECT_EQ(Count("agendamento a join funcionario f on f.codigo = a.codigo_do_funcionario"

@@ -184,6 +184,11 @@ TEST_F(RegisterRules, LetAHolidayChangeBetweenEveryYearAndOne)
 
 TEST_F(RegisterRules, RemoveOnlyWhatNothingRefersTo)
 {
+    Run("insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial, hora_final)"
+        " values (3, 2, '08:00', '12:00')");
+    Run("insert into ausencia (codigo_do_funcionario, data_inicial, hora_inicial, data_final, hora_final,"
+        " motivo) values (3, '2026-12-01', '08:00', '2026-12-01', '18:00', 'Curso'),"
+        " (3, '2026-12-02', '08:00', '2026-12-02', '18:00', 'Curso')");
     struct InUse {
         const Register& of;
         Key key;
@@ -200,6 +205,9 @@ TEST_F(RegisterRules, RemoveOnlyWhatNothingRefersTo)
          "Está em uso (1 raça) e não pode ser excluída. Marque a situação como Inativo."},
         {BreedRegister(), 1,
          "Está em uso (2 animais) e não pode ser excluída. Marque a situação como Inativo."},
+        {EmployeeRegister(), 3,
+         "Está em uso (1 horário de trabalho, 2 ausências) e não pode ser excluído. Marque a situação como"
+         " Inativo."},
         {ServiceTypeRegister(), 4,
          "As regras da agenda contam com os tipos de 1 a 4: eles não podem ser excluídos. Marque a situação "
          "como"

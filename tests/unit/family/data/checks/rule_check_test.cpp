@@ -84,6 +84,35 @@ const Breach Breaches[] = {
      {"feriado 1: o dia do ano não existe."}},
     {"insert into feriado (codigo, nome, data) values (1, 'Natal', '2026-02-30')",
      {"feriado 1: \"2026-02-30\" em data não é uma data ou hora."}},
+    {"insert into expediente (codigo, dia_da_semana, hora_inicial, hora_final)"
+     " values (70, 8, '08:00', '12:00')",
+     {"expediente 70: o dia da semana não existe."}},
+    {"insert into expediente (codigo, dia_da_semana, hora_inicial, hora_final)"
+     " values (70, 2, '12:00', '12:00')",
+     {"expediente 70: o fim não é posterior ao início."}},
+    {"insert into expediente (codigo, dia_da_semana, hora_inicial, hora_final)"
+     " values (70, 2, '24:00', '25:00')",
+     {"expediente 70: \"24:00\" em hora_inicial não é uma data ou hora.",
+      "expediente 70: \"25:00\" em hora_final não é uma data ou hora."}},
+    {"insert into horario_do_funcionario (codigo, codigo_do_funcionario, dia_da_semana, hora_inicial,"
+     " hora_final) values (70, 1, 0, '12:00', '08:00')",
+     {"horario_do_funcionario 70: o dia da semana não existe.",
+      "horario_do_funcionario 70: o fim não é posterior ao início."}},
+    {"insert into horario_do_funcionario (codigo, codigo_do_funcionario, dia_da_semana, hora_inicial,"
+     " hora_final) values (70, 1, 2, '08:60', '9:00')",
+     {"horario_do_funcionario 70: \"08:60\" em hora_inicial não é uma data ou hora.",
+      "horario_do_funcionario 70: \"9:00\" em hora_final não é uma data ou hora."}},
+    {"insert into ausencia (codigo, data_inicial, hora_inicial, data_final, hora_final, motivo)"
+     " values (70, '2026-12-02', '00:00', '2026-12-01', '24:00', 'Reforma')",
+     {"ausencia 70: o fim não é posterior ao início."}},
+    {"insert into ausencia (codigo, data_inicial, hora_inicial, data_final, hora_final, motivo)"
+     " values (70, '2026-12-01', '24:00', '2026-12-02', '24:00', ' ')",
+     {"ausencia 70: falta o motivo.", "ausencia 70: \"24:00\" em hora_inicial não é uma data ou hora."}},
+    {"insert into ausencia (codigo, data_inicial, hora_inicial, data_final, hora_final, motivo)"
+     " values (70, '2026-02-30', '08:00', '2026-13-01', '25:00', 'Reforma')",
+     {"ausencia 70: \"2026-02-30\" em data_inicial não é uma data ou hora.",
+      "ausencia 70: \"2026-13-01\" em data_final não é uma data ou hora.",
+      "ausencia 70: \"25:00\" em hora_final não é uma data ou hora."}},
     {"update agendamento set data_inicial = '20/11/2026', data_final = '20/11/2026' where numero = 1",
      {"agendamento 1: \"20/11/2026\" em data_inicial não é uma data ou hora.",
       "agendamento 1: \"20/11/2026\" em data_final não é uma data ou hora."}},
@@ -113,6 +142,27 @@ protected:
 
 TEST_F(RuleCheck, FindsNothingInASoundShop)
 {
+    EXPECT_EQ(FindBrokenRules(*database_, Morning), std::vector<std::string>());
+}
+
+TEST_F(RuleCheck, FindsNothingInTheHoursAndAbsencesOfASoundShop)
+{
+    for (const char* change :
+         {"insert into expediente (dia_da_semana, hora_inicial, hora_final) values (1, '08:00', '12:00')",
+          "insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial,"
+          " hora_final) values (1, 2, '18:00', '24:00')",
+          "insert into ausencia (codigo_do_funcionario, data_inicial, hora_inicial, data_final, hora_final,"
+          " motivo) values (1, '2026-11-20', '00:00', '2026-11-20', '24:00', 'Férias')"})
+        database_->Session() << change;
+    EXPECT_EQ(FindBrokenRules(*database_, Morning), std::vector<std::string>())
+        << "what was booked before an absence stays booked";
+}
+
+TEST_F(RuleCheck, LooksOnlyAtTheTablesThatAnOlderSchemaHas)
+{
+    for (const char* table : {"ausencia", "horario_do_funcionario", "expediente"})
+        database_->Session() << std::string("drop table ") + table;
+    database_->Session() << "delete from versao_do_esquema where versao > 7";
     EXPECT_EQ(FindBrokenRules(*database_, Morning), std::vector<std::string>());
 }
 

@@ -8,6 +8,7 @@
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/numbering.hpp"
 #include "family/data/rows/people_rows.hpp"
+#include "family/data/rows/work_rows.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 
@@ -32,6 +33,17 @@ TEST_F(DatabaseCopy, HasEveryValueOfEveryRow)
     EXPECT_EQ(FindByKey<AppointmentRow>(*copied, 2)->observacao.value, "Laço azul.");
     EXPECT_TRUE(FindByKey<AppointmentRow>(*copied, 1)->observacao.IsNull());
     EXPECT_EQ(FindByKey<CustomerRow>(*copied, 10)->nome, "José Antônio Peçanha");
+}
+
+TEST_F(DatabaseCopy, IsOpenWhenTheShopIs)
+{
+    const std::string hours = "select count(*) from expediente where dia_da_semana = 2";
+    int rows = 1;
+    OpenDatabase(shop_)->Session() << "delete from expediente where dia_da_semana = 2";
+    CopyDatabase(shop_, copy_, {});
+    EXPECT_EQ(SumsOf(copy_), SumsOf(shop_));
+    OpenDatabase(copy_)->Session() << hours, soci::into(rows);
+    EXPECT_EQ(rows, 0);
 }
 
 TEST_F(DatabaseCopy, HasRowsBeyondOnePageAndTellsHowFarItHasCome)
@@ -142,6 +154,9 @@ void FillEveryTable(const std::string& shop)
         InsertNew(*database, UserRow{0, text});
     InsertNew(*database, HolidayRow{0, "Natal", 25, 12, {}});
     InsertNew(*database, HolidayRow{0, "Carnaval", {}, {}, std::string("2027-02-09")});
+    InsertNew(*database, EmployeeHoursRow{0, 1, 2, "08:00", "12:00"});
+    InsertNew(*database, AbsenceRow{0, Key(1), "2026-12-01", "08:00", "2026-12-01", "24:00", "Férias"});
+    InsertNew(*database, AbsenceRow{0, {}, "2026-12-24", "00:00", "2026-12-26", "12:00", "Recesso"});
     InsertNew(*database, PackageRow{0, 2, "2026-11-20 09:00:00", "Ana"});
     InsertNew(*database, PreSaleRow{0, 7, 9'000'000'000'000, 1, "2026-11-20 09:00:00"});
     for (int line = 0; line < 2500; ++line)

@@ -47,6 +47,25 @@ constexpr const char* Breaches[] = {
     "insert into feriado (codigo, nome, dia, mes) values (1, 'Natal', 25, 13)",
     "insert into feriado (codigo, nome, dia, mes) values (1, 'Natal', 31, 4)",
     "insert into feriado (codigo, nome, dia, mes) values (1, 'Natal', 30, 2)",
+    "insert into expediente (dia_da_semana, hora_inicial, hora_final) values (0, '08:00', '18:00')",
+    "insert into expediente (dia_da_semana, hora_inicial, hora_final) values (8, '08:00', '18:00')",
+    "insert into expediente (dia_da_semana, hora_inicial, hora_final) values (2, '08:00', '08:00')",
+    "insert into expediente (dia_da_semana, hora_inicial, hora_final) values (2, '18:00', '00:00')",
+    "insert into expediente (dia_da_semana, hora_inicial, hora_final) values (2, '8:00', '18:00')",
+    "insert into expediente (dia_da_semana, hora_inicial, hora_final) values (2, '08:00', '24:01')",
+    "update expediente set hora_final = '00:00' where dia_da_semana = 2",
+    "insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial, hora_final)"
+    " values (1, 9, '08:00', '18:00')",
+    "insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial, hora_final)"
+    " values (1, 2, '18:00', '08:00')",
+    "insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
+    " values ('2026-12-02', '08:00', '2026-12-01', '18:00', 'Reforma')",
+    "insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
+    " values ('2026-12-01', '08:00', '2026-12-01', '08:00', 'Reforma')",
+    "insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
+    " values ('2026-12-01', '24:00', '2026-12-02', '08:00', 'Reforma')",
+    "insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
+    " values ('2026-12-01', '00:00', '2026-12-01', '24:00', ' ')",
 };
 
 } // namespace
@@ -95,6 +114,14 @@ TEST_F(HeldRules, TakeWhatBreaksNone)
           "update servico set quantidade_de_sessoes = null where codigo = 1",
           "insert into feriado (codigo, nome, dia, mes) values (1, 'Ano bissexto', 29, 2)",
           "insert into feriado (codigo, nome, data) values (1, 'Carnaval', '2027-02-09')",
+          "insert into expediente (dia_da_semana, hora_inicial, hora_final)"
+          " values (1, '00:00', '24:00'), (7, '08:00', '12:00')",
+          "insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial,"
+          " hora_final) values (1, 7, '23:59', '24:00')",
+          "insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
+          " values ('2026-12-01', '18:00', '2026-12-02', '08:00', 'Reforma')",
+          "insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
+          " values ('2026-12-01', '00:00', '2026-12-01', '24:00', 'Reforma')",
           "insert into pre_venda (codigo, numero_do_agendamento, valor_em_centavos, situacao, criada_em)"
           " values (2, 7, 6000, 2, '2026-11-20 09:00:00')"})
         EXPECT_EQ(Try(statement), "") << statement;

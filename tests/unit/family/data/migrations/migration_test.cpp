@@ -79,10 +79,26 @@ protected:
 TEST_F(SchemaMigration, MakesEveryRegister)
 {
     const auto database = OpenDatabase(path_);
-    for (const std::string table :
-         {"empresa", "usuario", "tipo_de_servico", "servico", "funcionario", "especie", "raca", "cliente",
-          "canal_de_comunicacao", "animal", "feriado", "agendamento", "pacote", "pre_venda", "auditoria",
-          "versao_do_esquema", "gravacao"}) {
+    for (const std::string table : {"empresa",
+                                    "usuario",
+                                    "tipo_de_servico",
+                                    "servico",
+                                    "funcionario",
+                                    "especie",
+                                    "raca",
+                                    "cliente",
+                                    "canal_de_comunicacao",
+                                    "animal",
+                                    "feriado",
+                                    "agendamento",
+                                    "pacote",
+                                    "pre_venda",
+                                    "auditoria",
+                                    "versao_do_esquema",
+                                    "gravacao",
+                                    "expediente",
+                                    "horario_do_funcionario",
+                                    "ausencia"}) {
         int found = 0;
         database->Session() << "select count(*) from sqlite_master where type = 'table' and name = :nome",
             soci::use(table), soci::into(found);
@@ -256,6 +272,40 @@ TEST_F(SchemaMigration, GivesAppointmentsAVersionAndOldAuditLinesNoDesk)
     std::string desk = "?";
     database->Session() << "select posto from auditoria where chave = 5", soci::into(desk);
     EXPECT_EQ(desk, "");
+}
+
+TEST_F(SchemaMigration, HasAShopOpenFromMondayToSaturdayAtAllHoursAndNobodyAway)
+{
+    const std::string path = folder_ / "antigo.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + path, path);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(7));
+    }
+    OpenDatabase(path);
+    for (const std::string& shop : {path, path_}) {
+        kova::test::SqliteFile file(shop);
+        EXPECT_EQ(file.Run("select dia_da_semana || ' ' || hora_inicial || '-' || hora_final"
+                           " from expediente order by codigo"),
+                  (std::vector<std::string>{"2 00:00-24:00", "3 00:00-24:00", "4 00:00-24:00",
+                                            "5 00:00-24:00", "6 00:00-24:00", "7 00:00-24:00"}));
+        EXPECT_EQ(file.Run("select (select count(*) from horario_do_funcionario) + count(*) from ausencia"),
+                  std::vector<std::string>{"0"});
+    }
+}
+
+TEST_F(SchemaMigration, HoldsTheRowsOfAMigratedShopToTheRulesOfTheNewTables)
+{
+    const std::string path = folder_ / "antigo.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + path, path);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(7));
+    }
+    const auto database = OpenDatabase(path);
+    EXPECT_THROW(database->Session() << "update expediente set dia_da_semana = 0", soci::soci_error);
+    EXPECT_THROW(database->Session() << "insert into ausencia (data_inicial, hora_inicial, data_final,"
+                                        " hora_final, motivo) values ('2026-12-01', '08:00', '2026-12-01',"
+                                        " '18:00', '')",
+                 soci::soci_error);
 }
 
 TEST_F(SchemaMigration, KeepsReferencesWhole)
