@@ -65,12 +65,12 @@ Obstacle MissingReference(Database& database, const AppointmentRow& row)
     return {};
 }
 
-Obstacle LackOfRoom(Database& database, const AppointmentRow& row)
+Obstacle ObjectionOfEmployee(Database& database, const AppointmentRow& row)
 {
     if (row.situacao == appointment_status::Cancelled)
         return {};
-    return WantOfRoom(database, row.codigoDoFuncionario, row.numero,
-                      ReadIsoSpan(row.dataInicial, row.horaInicial, row.dataFinal, row.horaFinal));
+    return ObjectionToReturn(database, row.codigoDoFuncionario, row.numero,
+                             ReadIsoSpan(row.dataInicial, row.horaInicial, row.dataFinal, row.horaFinal));
 }
 
 WriteAnswer Restore(Database& database, Key number, const Author& author)
@@ -80,7 +80,7 @@ WriteAnswer Restore(Database& database, Key number, const Author& author)
     const std::optional<AppointmentRow> row = DeletedRow(database, number);
     if (!row)
         return Refused(number, "não há registro da exclusão dele.");
-    for (const auto obstacle : {MissingReference, LackOfRoom}) {
+    for (const auto obstacle : {MissingReference, ObjectionOfEmployee}) {
         if (const Obstacle found = obstacle(database, *row); !found.empty())
             return Refused(number, found);
     }

@@ -13,7 +13,8 @@ class Database;
 /// 1. where there is an appointment with that number;
 /// 2. where the audit does not know of its deletion, or not of all its columns;
 /// 3. where what it refers to is not registered any more;
-/// 4. where its employee has no room any more; a cancelled appointment needs none.
+/// 4. where its employee is not at work then or has no room any more; neither is asked of a cancelled
+///    appointment.
 /// Fails with a DatabaseFailure.
 WriteAnswer RestoreAppointment(Database& database, Key number, const Author& author);
 

@@ -9,7 +9,8 @@
 
 namespace kova::family {
 
-/// What a booking does about dates that fall on a Sunday or a holiday.
+/// What a booking does about dates that fall on a day off: a holiday, or a day of the week on which the shop
+/// is closed.
 enum class DaysOff { Keep, AskAbout, MoveAway };
 
 /// One booking on its way through the checks: what was typed, what the checks have found out, and in the end
@@ -47,7 +48,7 @@ struct Booking {
     BookedEmployee employee;
     /// When they run; never empty after the checks.
     std::vector<TimeSpan> times;
-    /// Known from the check of the employee's room on.
+    /// Known from the check that the employee is at work on.
     std::optional<EmployeeRoom> room;
     std::optional<HolidayCalendar> holidays;
 };
@@ -57,12 +58,15 @@ Refusal Check(Booking& booking);
 
 // booking_days.cpp
 
+/// Refused where the employee is away or not at work at a date that stays; and where a date that may move has
+/// hours at which the shop is never open: the user is told of it before being asked.
+Refusal EmployeeIsAtWork(Booking& booking);
 /// Refused where a date that stays finds the employee without room.
 Refusal EmployeeHasRoom(Booking& booking);
-/// Refused where the user has still to be asked about a Sunday or a holiday.
+/// Refused where the user has still to be asked about a day off.
 Refusal NoDayIsFree(Booking& booking);
-/// Moves what falls on a Sunday or a holiday to the next day that is neither and has room, where the user
-/// wants that. Refused only where the calendar ends.
+/// Moves what falls on a day off to the next day that is none, on which the employee is at work and has room,
+/// where the user wants that. Refused only where the calendar ends.
 Refusal DaysOffMoveAway(Booking& booking);
 
 } // namespace kova::family

@@ -30,9 +30,10 @@ constexpr BookingCheck ChecksOfFullRecord[] = {
     /* 5. DataInicial ... HoraFinal */ TimesArePossible,
     /* 6. CodigoDoFuncionario       */ EmployeeIsActive,
     /* 7. Situacao                  */ StatusIsKnown,
-    /* 8. HoraInicial               */ EmployeeHasRoom,
-    /* 9. DomingoOuFeriado          */ NoDayIsFree,
-    /* 10. DataInicial              */ DaysOffMoveAway,
+    /* 8. HoraInicial               */ EmployeeIsAtWork,
+    /* 9. HoraInicial               */ EmployeeHasRoom,
+    /* 10. DomingoOuFeriado         */ NoDayIsFree,
+    /* 11. DataInicial              */ DaysOffMoveAway,
 };
 
 constexpr BookingCheck ChecksOfSimplifiedRecord[] = {
@@ -43,7 +44,8 @@ constexpr BookingCheck ChecksOfSimplifiedRecord[] = {
     /* 5. DataInicial ... HoraFinal  */ TimesArePossible,
     /* 6. CodigoDoFuncionario        */ EmployeeIsActive,
     /* 7. Situacao                   */ StatusIsKnown,
-    /* 8. HoraInicial                */ EmployeeHasRoom,
+    /* 8. HoraInicial                */ EmployeeIsAtWork,
+    /* 9. HoraInicial                */ EmployeeHasRoom,
 };
 
 Refusal CustomerIsUsable(Booking& booking)

@@ -1,7 +1,6 @@
 #include "family/business/appointments/employee_room.hpp"
 
 #include "family/data/engine/iso_text.hpp"
-#include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/booked_times.hpp"
 
 #include <algorithm>
@@ -30,9 +29,10 @@ std::optional<DateTime> FullMoment(const std::vector<TimeSpan>& overlapping, con
 } // namespace
 
 EmployeeRoom::EmployeeRoom(Database& database, const BookedEmployee& employee, Key except, Date from,
-                           Date until)
+                           Date until, std::optional<long long> changesOfWorkTables)
     : database_(database),
-      employee_(employee.code),
+      employee_(employee),
+      work_(database, employee, changesOfWorkTables),
       except_(except),
       limit_(static_cast<std::size_t>(std::max(0, employee.limit))),
       from_(from)
@@ -61,11 +61,19 @@ std::optional<TimeSpan> EmployeeRoom::ClashWith(const TimeSpan& span)
                          [&](const TimeSpan& booked) { return booked.Contains(*full); });
 }
 
+Text EmployeeRoom::ObjectionTo(const TimeSpan& span)
+{
+    if (Text objection = work_.ObjectionTo(span); !objection.empty())
+        return objection;
+    const std::optional<TimeSpan> clash = ClashWith(span);
+    return clash ? RoomTakenText(employee_, *clash) : Text();
+}
+
 void EmployeeRoom::LoadUntil(Date until)
 {
     const std::string after = loadedUntil_ ? IsoDate(*loadedUntil_) : std::string();
     for (const BookedTimeRow& row :
-         FindBookedTimes(database_, {employee_, except_, IsoDate(from_), after, IsoDate(until)}))
+         FindBookedTimes(database_, {employee_.code, except_, IsoDate(from_), after, IsoDate(until)}))
         booked_.push_back(
             {ReadIsoMoment(row.startDate, row.startTime), ReadIsoMoment(row.endDate, row.endTime)});
     loadedUntil_ = until;
@@ -77,14 +85,15 @@ Text RoomTakenText(const BookedEmployee& employee, const TimeSpan& clash)
         + FormatTime(clash.end.time) + " em " + FormatDate(clash.start.date) + ".";
 }
 
-Text WantOfRoom(Database& database, Key employee, Key appointment, const TimeSpan& span)
+Text ObjectionToReturn(Database& database, Key employee, Key appointment, const TimeSpan& span)
 {
-    const auto found = FindByKey<BookedEmployee>(database, employee);
-    if (!found)
+    // With the counters of changes, as a booking looks them up.
+    const BookingRegisters found = FindBookingRegisters(database, {.employee = employee});
+    if (!found.employee)
         return {};
-    const auto clash =
-        EmployeeRoom(database, *found, appointment, span.start.date, span.end.date).ClashWith(span);
-    return clash ? RoomTakenText(*found, *clash) : Text();
+    return EmployeeRoom(database, *found.employee, appointment, span.start.date, span.end.date,
+                        found.changesOfWorkTables)
+        .ObjectionTo(span);
 }
 
 } // namespace kova::family

@@ -19,18 +19,19 @@ namespace {
 /// What a transaction has written, each as it was before.
 using Written = std::vector<AppointmentState>;
 
-/// A cancelled appointment takes no room, which it needs again with every other status.
+/// A cancelled appointment takes no room, which it needs again with every other status, and so its employee
+/// at work.
 bool ComesBack(const AppointmentState& appointment, int status)
 {
     return appointment.status == appointment_status::Cancelled && status != appointment_status::Cancelled;
 }
 
-WriteAnswer CheckRoom(Database& database, const AppointmentState& appointment)
+WriteAnswer CheckEmployee(Database& database, const AppointmentState& appointment)
 {
-    const Text want = WantOfRoom(
+    const Text objection = ObjectionToReturn(
         database, appointment.employee, appointment.number,
         ReadIsoSpan(appointment.startDate, appointment.startTime, appointment.endDate, appointment.endTime));
-    return want.empty() ? WriteAnswer() : WriteAnswer::Refusal(want);
+    return objection.empty() ? WriteAnswer() : WriteAnswer::Refusal(objection);
 }
 
 WriteAnswer Change(Database& database, const AppointmentState& appointment, int status, const Author& author,
@@ -38,7 +39,7 @@ WriteAnswer Change(Database& database, const AppointmentState& appointment, int 
 {
     WriteAnswer answer = FollowWithPreSale(database, appointment, status, author);
     if (answer.IsDone() && ComesBack(appointment, status))
-        answer = CheckRoom(database, appointment);
+        answer = CheckEmployee(database, appointment);
     if (answer.IsDone()) {
         WriteStatus(database, appointment, status, author);
         written.push_back(appointment);

@@ -9,12 +9,14 @@ namespace kova::family {
 class Database;
 
 /// Each runs in a transaction of its own: what is not answered with Done has changed nothing. A change to 4
-/// makes the pre-sale with the service's price, one from 4 cancels it, and one from 3 needs room with the
-/// employee. The stored status counts, not the one that a screen shows. They fail with a DatabaseFailure.
+/// makes the pre-sale with the service's price, one from 4 cancels it, and one from 3 needs the employee at
+/// work and room with it. The stored status counts, not the one that a screen shows. They fail with a
+/// DatabaseFailure.
 
 /// Sets the status of one appointment. Refused where it is gone, where another desk has set a different one
 /// since this session selected it, where its pre-sale cannot be made (a clinical type, no registered
-/// customer) or was billed already, and where it comes back to an employee who has no room for it any more.
+/// customer) or was billed already, and where it comes back to an employee who is not at work then or has no
+/// room for it any more.
 WriteAnswer ChangeStatus(Database& database, Key appointment, int status, const Author& author);
 
 /// Sets the status of all appointments of the same package that are neither attended nor billed; those

@@ -104,6 +104,29 @@ struct YearlyHoliday {
     static constexpr const char* Day = "25/12";
 };
 
+/// The shop opens from Monday to Saturday at all hours, but not on this day of the week.
+struct ClosedDay {
+    static constexpr int Weekday = 4;
+    static constexpr const char* Date = "25/11/2026";
+    static constexpr const char* Next = "26/11/2026";
+};
+
+/// Zeca works on Tuesdays, from and until these times; the others whenever the shop is open.
+struct OwnHours {
+    static constexpr Long Employee = 1;
+    static constexpr int Weekday = 3;
+    static constexpr const char* Date = "24/11/2026";
+    static constexpr const char *From = "08:00", *Until = "12:00";
+};
+
+/// Bia is away on one afternoon.
+struct AwayOnce {
+    static constexpr Long Employee = 2;
+    static constexpr const char* Date = "24/11/2026";
+    static constexpr const char *From = "14:00", *Until = "24:00";
+    static constexpr const char* Reason = "Curso de tosa";
+};
+
 const std::vector<Customer>& Customers();
 const std::vector<Service>& Services();
 const std::vector<Employee>& ShopEmployees();

@@ -4,6 +4,7 @@
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/people_rows.hpp"
+#include "family/data/rows/work_rows.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/customer_store.hpp"
 #include "tests/conformance/business/shop.hpp"
@@ -116,6 +117,18 @@ void WriteAppointment(Database& database, const Appointment& appointment)
     Insert(database, row);
 }
 
+void WriteWork(Database& database)
+{
+    database.Session() << "delete from expediente where dia_da_semana = "
+            + std::to_string(ClosedDay::Weekday);
+    Insert(database,
+           EmployeeHoursRow{1, OwnHours::Employee, OwnHours::Weekday, OwnHours::From, OwnHours::Until});
+    const std::string date = IsoDate(RequireDate(AwayOnce::Date));
+    Insert(database,
+           AbsenceRow{1, Key(AwayOnce::Employee), date, AwayOnce::From, date, AwayOnce::Until,
+                      AwayOnce::Reason});
+}
+
 } // namespace
 
 void WriteShop(Database& database)
@@ -143,6 +156,7 @@ void WriteShop(Database& database)
                      2,
                      FoldText(FormerAnimal::Name)});
     Insert(database, HolidayRow{YearlyHoliday::Code, YearlyHoliday::Name, 25, 12, {}});
+    WriteWork(database);
     for (const Appointment& appointment : Appointments())
         WriteAppointment(database, appointment);
 }

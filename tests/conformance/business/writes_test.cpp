@@ -171,6 +171,67 @@ TEST_P(Writes, ThatAreRefusedNameTheFieldAndWriteNothing)
     EXPECT_TRUE(RowsOf(EmptyDay).empty());
 }
 
+TEST_P(Writes, OnADayOfTheWeekOnWhichTheShopIsClosedAreAskedAboutAndMayMove)
+{
+    const ComponentRef agenda =
+        Sent(Full(),
+             {{"DadosValidados", false}, {"DataInicial", ClosedDay::Date}, {"DataFinal", ClosedDay::Date}});
+    EXPECT_EQ(agenda->Call("Adicionar"), Value(Integer(2)));
+    EXPECT_EQ(agenda->Get("NomeDoCampoValidado"), Value("DomingoOuFeriado"));
+    EXPECT_EQ(agenda->Get("DescricaoDaFalha"), Value("A data 25/11/2026 é uma quarta-feira."));
+    agenda->Set("DadosValidados", true);
+    agenda->Set("DomingoOuFeriado", true);
+    EXPECT_EQ(agenda->Call("Adicionar"), Value(Integer(0)));
+    EXPECT_TRUE(RowsOf(ClosedDay::Date).empty());
+    EXPECT_EQ(RowsOf(ClosedDay::Next).size(), 1U);
+}
+
+TEST_P(Writes, AtAnHourAtWhichTheEmployeeDoesNotWorkAreRefused)
+{
+    struct {
+        Properties sent;
+        const char *start, *end;
+        Integer status;
+    } const cases[] = {{Full(), "11:00", "12:00", 0},
+                       {Full(), "11:30", "12:30", 2},
+                       {Simplified(), "07:59", "09:00", 2},
+                       {Simplified(), "08:00", "09:00", 0}};
+    for (const auto& one : cases) {
+        const ComponentRef agenda = Sent(one.sent,
+                                         {{"CodigoDoFuncionario", OwnHours::Employee},
+                                          {"DataInicial", OwnHours::Date},
+                                          {"HoraInicial", one.start},
+                                          {"DataFinal", OwnHours::Date},
+                                          {"HoraFinal", one.end}});
+        EXPECT_EQ(agenda->Call("Adicionar"), Value(one.status)) << one.start;
+        EXPECT_EQ(agenda->Get("NomeDoCampoValidado"), Value(one.status == 0 ? "" : "HoraInicial"));
+        EXPECT_EQ(agenda->Get("DescricaoDaFalha"),
+                  Value(one.status == 0 ? "" : "Zeca não trabalha nesse horário em 24/11/2026."));
+    }
+    EXPECT_EQ(RowsOf(OwnHours::Date).size(), 2U);
+}
+
+TEST_P(Writes, WhileTheEmployeeIsAwayAreRefusedAlsoOnTheirWayBackFromCancelled)
+{
+    const Text away = "Bia está ausente em 24/11/2026 (Curso de tosa).";
+    const Properties afternoon = {{"DataInicial", AwayOnce::Date},
+                                  {"HoraInicial", "13:30"},
+                                  {"DataFinal", AwayOnce::Date},
+                                  {"HoraFinal", "14:01"}};
+    for (const Properties& properties : {Full(), Simplified()}) {
+        const ComponentRef agenda = Sent(properties, afternoon);
+        EXPECT_EQ(agenda->Call("Adicionar"), Value(Integer(2)));
+        EXPECT_EQ(agenda->Get("NomeDoCampoValidado"), Value("HoraInicial"));
+        EXPECT_EQ(agenda->Get("DescricaoDaFalha"), Value(away));
+    }
+    Properties cancelled = afternoon;
+    cancelled.emplace_back("Situacao", Integer(3));
+    ASSERT_EQ(Sent(Full(), cancelled)->Call("Adicionar"), Value(Integer(0)));
+    const ComponentRef status = Status(9, 1);
+    EXPECT_EQ(status->Call("Alterar"), Value(Integer(3)));
+    EXPECT_EQ(status->Get("DescricaoDaFalha"), Value(away));
+}
+
 TEST_P(Writes, ThatBringACancelledAppointmentBackNeedRoom)
 {
     ASSERT_EQ(Sent(Full(), {{"Situacao", Integer(3)}})->Call("Adicionar"), Value(Integer(0)));

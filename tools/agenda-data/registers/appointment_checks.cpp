@@ -168,7 +168,8 @@ void AppointmentChecks::CheckTimes(const AppointmentRecord& record, Line& line) 
         line.Refuse(name::EndTime, record.horaFinal, "o término deve ser posterior ao início.");
 }
 
-/// What is over has taken place, room or not; what is to come must not exceed it.
+/// What is over has taken place, room or not; what is to come must not exceed it, nor lie where the employee
+/// is not at work.
 void AppointmentChecks::TakeRoom(const AppointmentRecord& record, Line& line)
 {
     const TimeSpan span = SpanOf(record);
@@ -178,12 +179,10 @@ void AppointmentChecks::TakeRoom(const AppointmentRecord& record, Line& line)
     family::EmployeeRoom& room =
         rooms_.try_emplace(employee.code, database_, employee, 0, AddDays(now_.date, -1), now_.date)
             .first->second;
-    const auto clash = room.ClashWith(span);
+    const Text objection = room.ObjectionTo(span);
     room.Reserve(span);
-    if (clash)
-        line.Refuse(name::StartTime, record.horaInicial,
-                    employee.nickname + " já tem agendamento das " + FormatTime(clash->start.time) + " às "
-                        + FormatTime(clash->end.time) + " em " + FormatDate(clash->start.date) + ".");
+    if (!objection.empty())
+        line.Refuse(name::StartTime, record.horaInicial, objection);
 }
 
 void AppointmentChecks::LockRoom()

@@ -27,8 +27,8 @@ public:
     /// file may leave out: the end date, the kind of record and the type of its service.
     void Check(AppointmentRecord& record, Line& line);
     void Complete(AppointmentRecord& record) const;
-    /// Tells the line where the record has no room beside the stored appointments and those before it, and
-    /// takes the room. The record is good otherwise.
+    /// Tells the line where the employee is not at work, or the record has no room beside the stored
+    /// appointments and those before it, and takes the room. The record is good otherwise.
     void TakeRoom(const AppointmentRecord& record, Line& line);
     /// Locks, in the order of their codes, the employees whose room was taken, as a booking does: whoever
     /// books them waits until the transaction that is open ends.

@@ -5,6 +5,7 @@
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/business/appointments/appointment_writes.hpp"
+#include "family/business/appointments/status_change.hpp"
 #include "family/business/registers/animals.hpp"
 #include "family/business/registers/customers.hpp"
 #include "family/data/sources/shared_database.hpp"
@@ -87,6 +88,36 @@ TEST_F(RoundTripsPostgresql, OfABookingAreOneMoreAfterAChangeOfTheHolidays)
     shop_.Run("insert into feriado (nome, dia, mes) values ('Feira', 3, 12)");
     EXPECT_EQ(Count([&] { Book(FullBath("02/12/2026")); }), 8);
     EXPECT_EQ(AddAppointments(Data(), FullBath("03/12/2026"), Somebody).field, "DomingoOuFeriado");
+}
+
+TEST_F(RoundTripsPostgresql, OfABookingAreOneMoreAfterAChangeOfHoursOrAbsences)
+{
+    Book(FullBath("01/12/2026"));
+    shop_.Run("update expediente set hora_inicial = '08:00'");
+    shop_.Run("insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial,"
+              " hora_final) values (2, 4, '08:00', '18:00')");
+    shop_.Run("insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
+              " values ('2026-12-09', '08:00', '2026-12-09', '18:00', 'Reforma')");
+    EXPECT_EQ(Count([&] { Book(FullBath("02/12/2026")); }), 8);
+    EXPECT_EQ(Count([&] { Book(FullBath("16/12/2026")); }), 7);
+    EXPECT_EQ(AddAppointments(Data(), FullBath("09/12/2026"), Somebody).text,
+              "Bia está ausente em 09/12/2026 (Reforma).");
+}
+
+/// The transaction's beginning and end, its mark, the appointment, its employee with the counters of changes,
+/// the employee's booked times, the row and the audit's line.
+TEST_F(RoundTripsPostgresql, OfAReturnFromCancelledAreEight)
+{
+    AppointmentInput cancelled = FullBath("01/12/2026");
+    cancelled.status = 3;
+    Book(cancelled);
+    const auto change = [&](int status) {
+        return Count([&] { EXPECT_TRUE(ChangeStatus(Data(), 10, status, Somebody).IsDone()); });
+    };
+    // Statements are prepared at the first time.
+    change(1);
+    change(3);
+    EXPECT_EQ(change(1), 8);
 }
 
 TEST_F(RoundTripsPostgresql, OfAPickerAreOneForEachHundredFoundAndOneForTheSearch)

@@ -1,5 +1,7 @@
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
+#include "family/data/sources/data_source.hpp"
+
 namespace kova::data::test {
 
 namespace {
@@ -205,6 +207,31 @@ TEST_F(ImportRefusals, SayEverythingThatIsWrongWithALine)
               "linha 2: Documento \"1\": não é um CPF nem um CNPJ válido: confira os dígitos.\n"
               "linha 2: CEP \"2\": não é um CEP: são oito dígitos.\n"
               "3 erros em 1 linha; nada foi importado.\n");
+}
+
+TEST_F(ImportRefusals, OfWorkAreForWhatIsToComeOnly)
+{
+    for (const char* change :
+         {"insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
+          " values ('2026-11-01', '00:00', '2026-11-25', '24:00', 'Reforma')",
+          "update expediente set hora_inicial = '08:00', hora_final = '12:00' where dia_da_semana = 6"})
+        family::OpenDatabase(Database())->Session() << change;
+    const auto at = [](const std::string& times, const std::string& status = "") {
+        return "Data inicial;Hora inicial;Hora final;Código do cliente;Código do animal;"
+               "Código do serviço;Código do funcionário;Situação\n"
+            + times + ";10;50;2;1;" + status + "\n";
+    };
+    EXPECT_EQ(Import("agendamentos", at("19/11/2026;10:00;11:00")), 0) << Error();
+    EXPECT_EQ(Import("agendamentos", at("24/11/2026;10:00;11:00", "Cancelado")), 0) << Error();
+    EXPECT_EQ(Import("agendamentos", at("27/11/2026;11:00;12:00")), 0) << Error();
+    EXPECT_EQ(Import("agendamentos", at("25/11/2026;10:00;11:00")), 1);
+    EXPECT_EQ(Error(),
+              "linha 2: Hora inicial \"10:00\": Bia está ausente em 25/11/2026 (Reforma).\n"
+              "1 erro em 1 linha; nada foi importado.\n");
+    EXPECT_EQ(Import("agendamentos", at("27/11/2026;12:00;13:00")), 1);
+    EXPECT_EQ(Error(),
+              "linha 2: Hora inicial \"12:00\": Bia não trabalha nesse horário em 27/11/2026.\n"
+              "1 erro em 1 linha; nada foi importado.\n");
 }
 
 TEST_F(ImportRefusals, OfRoomAreForWhatIsToComeOnly)
