@@ -60,17 +60,18 @@ struct Dialect {
     std::string (*lastGiven)(const std::string& table, const std::string& key);
     /// The statements after which the engine numbers the table's next row one higher than `last`.
     std::vector<std::string> (*numberAfter)(const std::string& table, const std::string& key, long long last);
-    /// Writes the mark :identificador of a transaction that is about to write, unless it stands there
-    /// already; waits for another transaction that is writing the same. Empty where a connection cannot break
-    /// between a commit and its answer.
-    std::string markWrite;
+    /// The same beginning, in one statement, of a transaction that bears a mark of letters and digits. It
+    /// writes the mark, unless it stands there already, and selects how many it has written beside the
+    /// version; it waits for another transaction that is writing the same mark. Null where a connection
+    /// cannot break between a commit and its answer.
+    std::string (*beginOfMarkedWrite)(const std::string& mark);
     /// Takes marks away that nobody will ask for any more.
     std::string forgetMarks;
     /// Run on every connection before anything else.
     std::vector<std::string> settings;
 
     /// Whether the data lie behind a connection that can break.
-    bool IsServer() const { return !markWrite.empty(); }
+    bool IsServer() const { return beginOfMarkedWrite != nullptr; }
 };
 
 const Dialect& SqliteDialect();

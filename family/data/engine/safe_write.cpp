@@ -28,28 +28,6 @@ std::string NewMark()
     return mark;
 }
 
-/// The prepared writing of marks.
-class MarkInsertion : public KeptStatement {
-public:
-    explicit MarkInsertion(Database& database)
-        : statement_((database.Session().prepare << database.GetDialect().markWrite,
-                      soci::use(mark_, "identificador")))
-    {
-    }
-
-    /// False where the mark stands there already.
-    bool Run(const std::string& mark)
-    {
-        mark_ = mark;
-        statement_.execute(true);
-        return statement_.get_affected_rows() == 1;
-    }
-
-private:
-    std::string mark_;
-    soci::statement statement_;
-};
-
 class SafeWrite {
 public:
     SafeWrite(Database& database, const std::function<bool()>& write) : database_(database), write_(write) { }
@@ -70,19 +48,12 @@ public:
 private:
     void Try()
     {
-        WriteTransaction transaction(database_);
-        if (!MarkIsNew())
+        WriteTransaction transaction(database_, mark_);
+        if (transaction.IsKeptAlready())
             return;
         mayBeKept_ = false;
         if (write_())
             Commit(transaction);
-    }
-
-    bool MarkIsNew()
-    {
-        if (!database_.GetDialect().IsServer())
-            return true;
-        return database_.With<MarkInsertion>([&](MarkInsertion& insertion) { return insertion.Run(mark_); });
     }
 
     void Commit(WriteTransaction& transaction)

@@ -16,16 +16,32 @@ void RollBack(Database& database)
     }
 }
 
-/// Answers the version of the schema.
-int BeginOfRows(Database& database)
+/// What the beginning of a transaction that writes rows tells.
+struct Beginning {
+    /// Of the schema.
+    int version = 0;
+    /// How many marks it has written.
+    int marks = 1;
+};
+
+Beginning BeginRows(Database& database)
 {
     const std::vector<std::string>& statements = database.GetDialect().beginOfWrite;
     for (std::size_t at = 0; at + 1 < statements.size(); ++at)
         database.Session() << statements[at];
-    int version = 0;
+    Beginning told;
     soci::indicator found = soci::i_null;
-    database.Session() << statements.back(), soci::into(version, found);
-    return found == soci::i_ok ? version : 0;
+    database.Session() << statements.back(), soci::into(told.version, found);
+    return told;
+}
+
+Beginning BeginMarkedRows(Database& database, const std::string& mark)
+{
+    Beginning told;
+    soci::indicator found = soci::i_null;
+    database.Session() << database.GetDialect().beginOfMarkedWrite(mark), soci::into(told.version, found),
+        soci::into(told.marks);
+    return told;
 }
 
 void RequireSchema(Database& database, int version)
@@ -37,13 +53,11 @@ void RequireSchema(Database& database, int version)
         throw DatabaseFailure(*refusal);
 }
 
-void Begin(Database& database, WriteTransaction::Of what)
+/// Runs what begins a transaction; what has begun is undone where it fails.
+template <class Begin> auto Guarded(Database& database, Begin begin)
 {
     try {
-        if (what == WriteTransaction::Of::Rows)
-            RequireSchema(database, BeginOfRows(database));
-        else
-            database.Session() << database.GetDialect().beginOfSchemaChange;
+        return begin();
     } catch (const soci::soci_error& cause) {
         RollBack(database);
         throw TranslatedFailure(database.Path(), cause);
@@ -54,25 +68,41 @@ void Begin(Database& database, WriteTransaction::Of what)
 }
 
 /// Where the connection turns out to be lost, nothing has been sent over it yet.
-void BeginOnLiveConnection(Database& database, WriteTransaction::Of what)
+template <class Begin> auto BeginOnLiveConnection(Database& database, Begin begin)
 {
     if (database.IsConnected()) {
         try {
-            return Begin(database, what);
+            return Guarded(database, begin);
         } catch (const DatabaseFailure& failure) {
             if (failure.GetFault() != Fault::ConnectionLost)
                 throw;
         }
     }
     database.Reconnect();
-    Begin(database, what);
+    return Guarded(database, begin);
 }
 
 } // namespace
 
 WriteTransaction::WriteTransaction(Database& database, Of what) : database_(database)
 {
-    BeginOnLiveConnection(database_, what);
+    BeginOnLiveConnection(database_, [&] {
+        if (what == Of::Schema)
+            database_.Session() << database_.GetDialect().beginOfSchemaChange;
+        else
+            RequireSchema(database_, BeginRows(database_).version);
+    });
+    database_.SetInTransaction(true);
+}
+
+WriteTransaction::WriteTransaction(Database& database, const std::string& mark) : database_(database)
+{
+    BeginOnLiveConnection(database_, [&] {
+        const Beginning told =
+            database_.GetDialect().IsServer() ? BeginMarkedRows(database_, mark) : BeginRows(database_);
+        RequireSchema(database_, told.version);
+        isKeptAlready_ = told.marks == 0;
+    });
     database_.SetInTransaction(true);
 }
 

@@ -16,9 +16,15 @@ public:
     /// written and the schema is not the one that the connection was opened for: another program may have
     /// changed it since.
     explicit WriteTransaction(Database& database, Of what = Of::Rows);
+    /// One of rows. Where the connection may break during its commit it leaves the mark, which is of letters
+    /// and digits.
+    WriteTransaction(Database& database, const std::string& mark);
     ~WriteTransaction();
     WriteTransaction(const WriteTransaction&) = delete;
     WriteTransaction& operator=(const WriteTransaction&) = delete;
+
+    /// Whether a transaction with the same mark has been kept before.
+    bool IsKeptAlready() const { return isKeptAlready_; }
 
     /// After it the writes outlast the end of the process. Fails with a DatabaseFailure; nothing is written
     /// then, except that with Fault::ConnectionLost it is not known.
@@ -26,7 +32,7 @@ public:
 
 private:
     Database& database_;
-    bool open_ = true;
+    bool open_ = true, isKeptAlready_ = false;
 };
 
 } // namespace kova::family
