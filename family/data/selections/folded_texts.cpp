@@ -1,6 +1,7 @@
 #include "family/data/selections/folded_texts.hpp"
 
 #include <algorithm>
+#include <tuple>
 
 namespace kova::family {
 
@@ -10,8 +11,10 @@ constexpr char Separator = '\0';
 
 } // namespace
 
-FoldedTexts::FoldedTexts(Database& database, std::vector<std::string> tables, const char* selection)
-    : tables_(std::move(tables)),
+FoldedTexts::FoldedTexts(Database& database, std::vector<std::string> tables, const char* selection,
+                         Order order)
+    : order_(order),
+      tables_(std::move(tables)),
       countChanges_((database.Session().prepare
                          << "select cast(coalesce(sum(alteracoes), 0) as bigint) from contador_de_alteracoes"
                             " where tabela in (:uma, :outra)",
@@ -48,6 +51,34 @@ void FoldedTexts::Read()
     }
     starts_.push_back(texts_.size());
     placesByKey_.clear();
+    if (order_ == Order::ByFirstLine)
+        SortByFirstLine();
+}
+
+void FoldedTexts::SortByFirstLine()
+{
+    std::vector<std::tuple<std::string_view, Key, std::uint32_t>> order;
+    order.reserve(keys_.size());
+    for (std::uint32_t place = 0; place < keys_.size(); ++place) {
+        const std::string_view text = TextAt(place);
+        order.emplace_back(text.substr(0, text.find('\n')), keys_[place], place);
+    }
+    std::ranges::sort(order);
+    std::string texts;
+    texts.reserve(texts_.size());
+    std::vector<std::size_t> starts;
+    starts.reserve(starts_.size());
+    std::vector<Key> keys;
+    keys.reserve(keys_.size());
+    for (const auto& [line, key, place] : order) {
+        starts.push_back(texts.size());
+        keys.push_back(key);
+        texts.append(TextAt(place)).push_back(Separator);
+    }
+    starts.push_back(texts.size());
+    texts_ = std::move(texts);
+    starts_ = std::move(starts);
+    keys_ = std::move(keys);
 }
 
 std::string_view FoldedTexts::TextAt(std::uint32_t place) const

@@ -34,11 +34,19 @@ public:
     std::string_view TextAt(std::uint32_t place) const;
 
 protected:
+    enum class Order {
+        AsSelected,
+        /// By the first line of each, then key; put so in memory, where the engine would go through its rows
+        /// here and there.
+        ByFirstLine,
+    };
+
     /// `tables` are the names under which the changes are counted, two at most; `selection` gives key and
     /// text of every row.
-    FoldedTexts(Database& database, std::vector<std::string> tables, const char* selection);
-    FoldedTexts(Database& database, const char* table, const char* selection)
-        : FoldedTexts(database, std::vector<std::string>{table}, selection)
+    FoldedTexts(Database& database, std::vector<std::string> tables, const char* selection,
+                Order order = Order::AsSelected);
+    FoldedTexts(Database& database, const char* table, const char* selection, Order order = Order::AsSelected)
+        : FoldedTexts(database, std::vector<std::string>{table}, selection, order)
     {
     }
 
@@ -47,6 +55,7 @@ protected:
 
 private:
     void Read();
+    void SortByFirstLine();
 
     /// One after the other, each with a separator behind it.
     std::string texts_;
@@ -57,6 +66,7 @@ private:
     mutable std::vector<std::pair<Key, std::uint32_t>> placesByKey_;
     long long readAt_ = -1;
 
+    const Order order_;
     std::vector<std::string> tables_;
     long long changes_ = 0;
     soci::statement countChanges_;

@@ -9,7 +9,20 @@ namespace kova::family {
 namespace {
 
 bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
-bool IsNumberMark(char letter) { return std::string_view(" ()+.-/").find(letter) != std::string_view::npos; }
+
+bool IsNumberMark(char letter)
+{
+    switch (letter) {
+    case ' ':
+    case '(':
+    case ')':
+    case '+':
+    case '.':
+    case '-':
+    case '/': return true;
+    default: return false;
+    }
+}
 
 /// The numbers of a text, each a line of its own without its marks.
 std::string NumbersIn(std::string_view text)
@@ -88,18 +101,20 @@ std::string WithoutNumberMarks(std::string_view folded)
 }
 
 CustomerTexts::CustomerTexts(Database& database)
-    : FoldedTexts(database, "cliente",
-                  "select codigo, nomes_de_busca || '\n' || documento || '\n' || tipos_e_canais from cliente"
-                  " order by nome_de_busca, codigo")
+    : FoldedTexts(
+        database, "cliente",
+        "select codigo, nome_de_busca || '\n' || apelido || '\n' || documento || '\n' || tipos_e_canais"
+        " from cliente",
+        Order::ByFirstLine)
 {
 }
 
-/// The names are folded already; folding them again changes nothing.
 void CustomerTexts::Shape(std::string& text) const
 {
-    const std::size_t channels = text.rfind('\n') + 1;
+    const std::size_t name = text.find('\n'), channels = text.rfind('\n') + 1;
     const std::string numbers = NumbersIn(std::string_view(text).substr(channels));
-    text = FoldText(text);
+    const std::string folded = FoldText(std::string_view(text).substr(name));
+    text.replace(name, std::string::npos, folded);
     if (!numbers.empty())
         text.append("\n").append(numbers);
 }
@@ -113,12 +128,18 @@ AnimalNamesOfCustomers::AnimalNamesOfCustomers(Database& database)
 AnimalTexts::AnimalTexts(Database& database)
     : FoldedTexts(database, {"animal", "cliente"},
                   "select n.codigo, n.nome_de_busca || '\n' || coalesce(n.microchip, '') || '\n'"
-                  " || c.nomes_de_busca from animal n join cliente c on c.codigo = n.codigo_do_cliente"
-                  " order by n.nome_de_busca, n.codigo")
+                  " || c.nomes_de_busca from animal n join cliente c on c.codigo = n.codigo_do_cliente",
+                  Order::ByFirstLine)
 {
 }
 
-void AnimalTexts::Shape(std::string& text) const { text = FoldText(text); }
+/// All but the microchip is folded already.
+void AnimalTexts::Shape(std::string& text) const
+{
+    const std::size_t begin = text.find('\n') + 1, length = text.find('\n', begin) - begin;
+    const std::string folded = FoldText(std::string_view(text).substr(begin, length));
+    text.replace(begin, length, folded);
+}
 
 std::vector<Key> CustomersWith(Database& database, const std::vector<std::string>& parts, Key code)
 {

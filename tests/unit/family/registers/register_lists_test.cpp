@@ -43,6 +43,21 @@ TEST_F(RegisterLists, ShowCustomersByName)
     EXPECT_TRUE(CustomerRegister().Search(Data(), "", 9, 2).rows.empty());
 }
 
+TEST_F(RegisterLists, ShowThoseOfOneNameByCode)
+{
+    const Key second = Add(CustomerRegister(), {{"Nome", "ANA LUZ"}, {"Apelido", "Aa"}}).key;
+    const Key longer = Add(CustomerRegister(), {{"Nome", "Ana Luz Brito"}}).key;
+    EXPECT_EQ(Find("ana luz"), (Keys{ana_, second, longer}));
+    const Key cat = Add(AnimalRegister(),
+                        {{"Código do cliente", "10"},
+                         {"Nome", "Leão"},
+                         {"Sexo", "M"},
+                         {"Espécie", "Canina"},
+                         {"Porte", "Médio"}})
+                        .key;
+    EXPECT_EQ(AnimalRegister().Find(Data(), "leao"), (Keys{51, cat}));
+}
+
 TEST_F(RegisterLists, FindACustomerByAnyPartOfWhatIsKnown)
 {
     struct Case {
