@@ -29,6 +29,16 @@ EmployeeRow EmployeeOf(const NewShop& shop)
     return {0, shop.employee, name, FoldText(name)};
 }
 
+/// In the place of the hours that any new database has.
+void SetHours(Database& database, const std::vector<OpeningHoursRow>& hours)
+{
+    if (hours.empty())
+        return;
+    database.Session() << std::string("delete from ") + OpeningHoursRow::Table;
+    for (const OpeningHoursRow& row : hours)
+        InsertNew(database, row);
+}
+
 // The engine numbers the rows, so that its numbers go on behind them.
 void Fill(Database& database, const NewShop& shop)
 {
@@ -38,10 +48,15 @@ void Fill(Database& database, const NewShop& shop)
     InsertNew(database, EmployeeOf(shop));
     for (const char* name : ServiceTypes)
         InsertNew(database, ServiceTypeRow{0, name, FoldText(name)});
+    for (ServiceRow service : shop.services) {
+        service.nomeDeBusca = FoldText(service.nome);
+        InsertNew(database, service);
+    }
     for (const char* name : Species) {
         const Key species = InsertNew(database, SpeciesRow{0, name, FoldText(name)});
         InsertNew(database, BreedRow{0, species, AnyBreed, FoldText(AnyBreed)});
     }
+    SetHours(database, shop.openingHours);
     for (const HolidayRow& holiday : NationalHolidays(FirstHolidayYear, LastHolidayYear))
         InsertNew(database, holiday);
 }

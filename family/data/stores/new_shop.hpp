@@ -1,8 +1,10 @@
 #pragma once
 
 #include "family/data/rows/rows.hpp"
+#include "family/data/rows/work_rows.hpp"
 
 #include <string>
+#include <vector>
 
 namespace kova::family {
 
@@ -15,6 +17,10 @@ struct NewShop {
     std::string employee;
     /// The employee's name; the former where it is "".
     std::string nameOfEmployee;
+    /// Without their keys and folded names; their types are 1 to 4.
+    std::vector<ServiceRow> services{};
+    /// Without their keys. Where there are none the shop is open from Monday to Saturday at all hours.
+    std::vector<OpeningHoursRow> openingHours{};
 };
 
 /// Makes the database of a shop that has not begun yet: its company, user and employee, the service types
