@@ -187,8 +187,10 @@ void RegisterScreen::Find()
     Try([this] { rows_->Find(search_->text().toStdString()); });
     isMarking_ = false;
     const int count = rows_->rowCount();
-    found_->setText(count == 1 ? QStringLiteral("1 encontrado")
-                               : QStringLiteral("%L1 encontrados").arg(count));
+    found_->setText(count == 0 && search_->text().isEmpty()
+                        ? QStringLiteral("Ainda não há nenhum registro. Preencha a ficha e salve o primeiro.")
+                        : count == 1 ? QStringLiteral("1 encontrado")
+                                     : QStringLiteral("%L1 encontrados").arg(count));
     MarkRow(form_->Key());
 }
 
