@@ -4,6 +4,7 @@
 #include "host/first_start/shop_question.hpp"
 #include "host/folders.hpp"
 #include "host/session/computer_user.hpp"
+#include "screens/run_alone.hpp"
 #include "system/path_text.hpp"
 
 #include <QStandardPaths>
@@ -19,7 +20,10 @@ std::optional<std::string> AskForShop(const RememberedShops& remembered, const s
                            look},
                           parent);
     question.Tell(told);
-    question.exec();
+    if (parent != nullptr)
+        question.exec();
+    else
+        screens::RunAlone(question);
     return question.Chosen();
 }
 

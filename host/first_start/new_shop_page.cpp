@@ -1,189 +1,95 @@
 #include "host/first_start/new_shop_page.hpp"
 
-#include "family/data/checks/documents.hpp"
 #include "family/data/engine/database_failure.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/data/stores/new_shop.hpp"
-#include "screens/field_frame.hpp"
+#include "host/first_start/company_step.hpp"
+#include "host/first_start/hours_step.hpp"
+#include "host/first_start/services_step.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QDir>
-#include <QFileDialog>
-#include <QGridLayout>
-#include <QLabel>
-#include <QLineEdit>
+#include <QHBoxLayout>
 #include <QPushButton>
-#include <QRegularExpression>
+#include <QStackedWidget>
 
 namespace kova::host {
 
-namespace {
-
-using screens::FieldFrame;
-
-constexpr int LongestName = 100;
-constexpr int LongestDocument = 20;
-constexpr int LongestPhone = 30;
-constexpr int LongestAddress = 200;
-constexpr int LongestPath = 1000;
-
-QLineEdit& BoxOf(FieldFrame& frame) { return static_cast<QLineEdit&>(frame.Editor()); }
-
-std::string TextOf(FieldFrame& frame) { return BoxOf(frame).text().trimmed().toStdString(); }
-
-/// Without what a file's name cannot hold on one system or another.
-QString FileNameFor(const QString& shop)
-{
-    static const QRegularExpression unfit(QStringLiteral(R"([\\/:*?"<>|\x00-\x1f]+)"));
-    const QString name = QString(shop).replace(unfit, QStringLiteral(" ")).simplified();
-    return (name.isEmpty() || name.startsWith(QLatin1Char('.')) ? QStringLiteral("loja") : name)
-        + QStringLiteral(".db");
-}
-
-} // namespace
-
-NewShopPage::NewShopPage(const Beginning& beginning, QWidget* parent)
+NewShopPage::NewShopPage(const std::string& user, const std::string& documents, QWidget* parent)
     : QWidget(parent),
-      documents_(beginning.documents),
+      company_(new CompanyStep({user, documents}, this)),
+      pages_(new QStackedWidget(this)),
+      steps_{company_, new ServicesStep(this), new HoursStep(this)},
       failure_(new screens::RefusalLabel(this)),
-      make_(new QPushButton(QStringLiteral("&Criar a loja"), this))
+      next_(new QPushButton(this))
 {
-    auto* grid = new QGridLayout(this);
-    grid->setHorizontalSpacing(16);
-    grid->setVerticalSpacing(10);
-    auto* heading = new QLabel(QStringLiteral("A empresa e quem trabalha nela"), this);
-    heading->setFont(qt::MakeFont("Arial", 14, true));
-    grid->addWidget(heading, 0, 0, 1, 2);
-
-    tradeName_ = AddField(QStringLiteral("fantasia"), QStringLiteral("&Nome fantasia"), LongestName, true);
-    legalName_ = AddField(QStringLiteral("razao"), QStringLiteral("&Razão social"), LongestName, false);
-    document_ = AddField(QStringLiteral("documento"), QStringLiteral("CN&PJ ou CPF"), LongestDocument, false);
-    phone_ = AddField(QStringLiteral("telefone"), QStringLiteral("&Telefone"), LongestPhone, false);
-    address_ = AddField(QStringLiteral("endereco"), QStringLiteral("&Endereço"), LongestAddress, false);
-    user_ = AddField(QStringLiteral("usuario"), QStringLiteral("Nome de quem &usa este computador"),
-                     LongestName, true);
-    nickname_ = AddField(QStringLiteral("apelido"),
-                         QStringLiteral("Primeiro(a) &funcionário(a), como é chamado(a)"), LongestName, true);
-    employee_ = AddField(QStringLiteral("funcionario"), QStringLiteral("Nome co&mpleto do(a) funcionário(a)"),
-                         LongestName, false);
-    file_ = AddField(QStringLiteral("arquivo"), QStringLiteral("Arqu&ivo em que a loja fica guardada"),
-                     LongestPath, true);
-
-    const std::pair<FieldFrame*, QPoint> places[] = {
-        {tradeName_, {0, 1}}, {legalName_, {1, 1}}, {document_, {0, 2}}, {phone_, {1, 2}},
-        {user_, {0, 4}},      {nickname_, {0, 5}},  {employee_, {1, 5}}};
-    for (const auto& [frame, place] : places)
-        grid->addWidget(frame, place.y(), place.x());
-    grid->addWidget(address_, 3, 0, 1, 2);
-    grid->addWidget(file_, 6, 0, 1, 2);
-
-    auto* browse = new QPushButton(QStringLiteral("E&scolher outra pasta..."), this);
-    browse->setObjectName(QStringLiteral("pasta"));
-    grid->addWidget(browse, 7, 0, Qt::AlignLeft);
+    for (NewShopStep* step : steps_)
+        pages_->addWidget(step);
     failure_->setObjectName(QStringLiteral("falha"));
-    grid->addWidget(failure_, 8, 0, 1, 2);
-    grid->setRowStretch(9, 1);
     auto* back = new QPushButton(QStringLiteral("&Voltar"), this);
     back->setObjectName(QStringLiteral("voltar"));
-    make_->setObjectName(QStringLiteral("criar"));
-    grid->addWidget(back, 10, 0, Qt::AlignLeft);
-    grid->addWidget(make_, 10, 1, Qt::AlignRight);
+    next_->setObjectName(QStringLiteral("avancar"));
 
-    setFocusProxy(&BoxOf(*tradeName_));
-    Propose(beginning);
-    connect(back, &QPushButton::clicked, this, [this] { onBack(); });
-    connect(make_, &QPushButton::clicked, this, [this] { Make(); });
-    connect(browse, &QPushButton::clicked, this, [this] { ChooseFile(); });
-    connect(&BoxOf(*tradeName_), &QLineEdit::textEdited, this, [this] { ProposeFile(); });
-    connect(&BoxOf(*file_), &QLineEdit::textEdited, this, [this] { fileIsChosen_ = true; });
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(back);
+    buttons->addStretch(1);
+    buttons->addWidget(next_);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(pages_, 1);
+    layout->addWidget(failure_);
+    layout->addLayout(buttons);
+    connect(back, &QPushButton::clicked, this, [this] { GoBack(); });
+    connect(next_, &QPushButton::clicked, this, [this] { GoOn(); });
+    TurnTo(0);
 }
 
-FieldFrame* NewShopPage::AddField(const QString& name, const QString& label, int longest, bool isRequired)
+NewShopStep& NewShopPage::Current() const
 {
-    auto* box = new QLineEdit;
-    box->setObjectName(name);
-    box->setMaxLength(longest);
-    auto* frame = new FieldFrame(label, box, this, isRequired);
-    connect(box, &QLineEdit::textEdited, frame, [this, frame] {
-        frame->Refuse({});
-        failure_->Tell({});
-    });
-    return frame;
+    return *steps_[static_cast<std::size_t>(pages_->currentIndex())];
 }
 
-void NewShopPage::Propose(const Beginning& beginning)
+void NewShopPage::TurnTo(int step)
 {
-    BoxOf(*user_).setText(QString::fromStdString(beginning.user));
-    BoxOf(*nickname_).setText(QString::fromStdString(beginning.user));
-    ProposeFile();
+    const bool isLast = step + 1 == pages_->count();
+    pages_->setCurrentIndex(step);
+    next_->setText(isLast ? QStringLiteral("&Criar a loja") : QStringLiteral("&Avançar"));
+    failure_->Tell({});
+    setFocusProxy(&Current());
+    Current().setFocus();
 }
 
-/// The file bears the company's name until another was chosen.
-void NewShopPage::ProposeFile()
+void NewShopPage::GoBack()
 {
-    if (!fileIsChosen_)
-        BoxOf(*file_).setText(
-            QDir(QString::fromStdString(documents_)).filePath(FileNameFor(BoxOf(*tradeName_).text())));
+    if (pages_->currentIndex() > 0)
+        TurnTo(pages_->currentIndex() - 1);
+    else
+        onBack();
 }
 
-void NewShopPage::ChooseFile()
+void NewShopPage::GoOn()
 {
-    const QString file = QFileDialog::getSaveFileName(
-        this, QStringLiteral("Onde guardar a loja"), BoxOf(*file_).text(),
-        QStringLiteral("Bancos de dados (*.db)"), nullptr, QFileDialog::DontConfirmOverwrite);
-    if (file.isEmpty())
+    failure_->Tell({});
+    if (!Current().Accepts())
         return;
-    BoxOf(*file_).setText(file);
-    file_->Refuse({});
-    fileIsChosen_ = true;
-}
-
-bool NewShopPage::AcceptsFields()
-{
-    const std::pair<FieldFrame*, const char*> required[] = {
-        {tradeName_, "Informe o nome fantasia da empresa."},
-        {user_, "Informe o nome de quem usa este computador."},
-        {nickname_, "Informe como o(a) primeiro(a) funcionário(a) é chamado(a)."},
-        {file_, "Informe o arquivo em que a loja fica guardada."}};
-    const std::string document = family::DocumentOf(TextOf(*document_));
-    if (!document.empty() && !family::HasCheckDigits(document))
-        document_->Refuse(QStringLiteral("Não é um CNPJ nem um CPF válido: confira os dígitos."));
-    for (const auto& [frame, reason] : required) {
-        if (TextOf(*frame).empty())
-            frame->Refuse(QString::fromUtf8(reason));
-    }
-    for (FieldFrame* frame : {tradeName_, document_, user_, nickname_, file_}) {
-        if (!frame->IsRefused())
-            continue;
-        BoxOf(*frame).setFocus();
-        return false;
-    }
-    return true;
-}
-
-family::NewShop NewShopPage::Shop() const
-{
-    return {{0, TextOf(*tradeName_), TextOf(*legalName_), family::DocumentOf(TextOf(*document_)),
-             TextOf(*address_), TextOf(*phone_)},
-            TextOf(*user_),
-            TextOf(*nickname_),
-            TextOf(*employee_)};
+    if (pages_->currentIndex() + 1 < pages_->count())
+        TurnTo(pages_->currentIndex() + 1);
+    else
+        Make();
 }
 
 void NewShopPage::Make()
 {
-    failure_->Tell({});
-    if (!AcceptsFields())
-        return;
-    const std::string source = TextOf(*file_);
+    const std::string file = company_->File();
+    family::NewShop shop;
+    for (const NewShopStep* step : steps_)
+        step->Fill(shop);
     try {
-        QDir().mkpath(QFileInfo(QString::fromStdString(source)).absolutePath());
-        family::CreateNewShop(source, Shop());
+        QDir().mkpath(QFileInfo(QString::fromStdString(file)).absolutePath());
+        family::CreateNewShop(file, shop);
     } catch (const family::DatabaseFailure& failure) {
-        return failure_->Tell(qt::Lines(failure.what()));
+        return failure_->Tell(qt::Lines(failure.Description()));
     }
-    onMade(source);
+    onMade(file);
 }
 
 } // namespace kova::host

@@ -4,54 +4,44 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
-class QLineEdit;
 class QPushButton;
-
-namespace kova::family {
-struct NewShop;
-}
+class QStackedWidget;
 
 namespace kova::screens {
-class FieldFrame;
 class RefusalLabel;
-} // namespace kova::screens
+}
 
 namespace kova::host {
 
-/// Everything that a shop needs to begin: its company, who works in it, and where its file lies.
+class CompanyStep;
+class NewShopStep;
+
+/// Everything that a shop needs to begin, step by step; then its file is made.
 class NewShopPage : public QWidget {
 public:
-    struct Beginning {
-        /// Proposed as the user's name and as the first employee's.
-        std::string user;
-        /// The folder that is proposed for the file.
-        std::string documents;
-    };
-
-    NewShopPage(const Beginning& beginning, QWidget* parent);
+    /// `user` is the name that the computer knows, `documents` the folder where new shops are put.
+    NewShopPage(const std::string& user, const std::string& documents, QWidget* parent);
 
     std::function<void()> onBack;
-    /// What Enter presses.
-    QPushButton& Offered() { return *make_; }
     /// The shop was made and lies there.
     std::function<void(const std::string& source)> onMade;
+    /// What Enter presses.
+    QPushButton& Offered() { return *next_; }
 
 private:
-    screens::FieldFrame* AddField(const QString& name, const QString& label, int longest, bool isRequired);
-    void Propose(const Beginning& beginning);
-    void ProposeFile();
-    void ChooseFile();
-    bool AcceptsFields();
-    family::NewShop Shop() const;
+    NewShopStep& Current() const;
+    void TurnTo(int step);
+    void GoBack();
+    void GoOn();
     void Make();
 
-    std::string documents_;
-    screens::FieldFrame *tradeName_, *legalName_, *document_, *phone_, *address_, *user_, *nickname_,
-        *employee_, *file_;
-    bool fileIsChosen_ = false;
+    CompanyStep* company_;
+    QStackedWidget* pages_;
+    std::vector<NewShopStep*> steps_;
     screens::RefusalLabel* failure_;
-    QPushButton* make_;
+    QPushButton* next_;
 };
 
 } // namespace kova::host

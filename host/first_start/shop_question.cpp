@@ -46,7 +46,7 @@ ShopQuestion::ShopQuestion(const Surroundings& surroundings, QWidget* parent)
     layout->addWidget(pages_);
 
     welcome_ = new WelcomePage(surroundings.remembered, this);
-    auto* made = new NewShopPage({surroundings.user, surroundings.documents}, this);
+    auto* made = new NewShopPage(surroundings.user, surroundings.documents, this);
     auto* existing = new ExistingShopPage(surroundings.look, this);
     for (QWidget* page : std::initializer_list<QWidget*>{welcome_, made, existing})
         pages_->addWidget(Scrolled(page));

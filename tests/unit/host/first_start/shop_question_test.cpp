@@ -7,10 +7,12 @@
 #include "tests/unit/host/with_application.hpp"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTest>
 
 #include <future>
@@ -50,6 +52,12 @@ protected:
         for (const QChar letter : QString::fromUtf8(text))
             QTest::sendKeyEvent(QTest::Click, &Find<QLineEdit>(box), Qt::Key_unknown, QString(letter),
                                 Qt::NoModifier);
+    }
+    /// From the company to the last step, and on.
+    void MakeWithTheRestAsItIs()
+    {
+        for (int step = 0; step < 3; ++step)
+            Press("avancar");
     }
     std::string TextOf(const char* box) { return Find<QLineEdit>(box).text().toStdString(); }
 
@@ -206,6 +214,9 @@ TEST_F(TheQuestionForAShop, MakesAShop)
     Type("apelido", "Bia");
     Type("funcionario", "Beatriz Souza");
     QTest::keyClick(&Find<QLineEdit>("funcionario"), Qt::Key_Return);
+    ASSERT_TRUE(Find<QTableWidget>("servicos").isVisible());
+    Press("avancar");
+    Press("avancar");
 
     ASSERT_EQ(Answer(), (folder_ / "nova" / "céu.db").string());
     kova::test::SqliteFile made(*Answer());
@@ -226,7 +237,7 @@ TEST_F(TheQuestionForAShop, MakesNoShopWithoutACompanyAUserAndAnEmployee)
     for (const char* box : {"usuario", "apelido", "arquivo"})
         Type(box, " ");
     Type("documento", "123");
-    Press("criar");
+    Press("avancar");
     EXPECT_EQ(Reasons(),
               "Informe o nome fantasia da empresa.\nNão é um CNPJ nem um CPF válido: confira os dígitos.\n"
               "Informe o nome de quem usa este computador.\n"
@@ -245,11 +256,107 @@ TEST_F(TheQuestionForAShop, OverwritesNoFile)
     Press("criar");
     Type("fantasia", "Céu");
     Type("arquivo", (folder_ / "ocupado.db").c_str());
-    Press("criar");
+    MakeWithTheRestAsItIs();
     EXPECT_NE(Find<QLabel>("falha").text().toStdString().find("já existe"), std::string::npos)
         << Find<QLabel>("falha").text().toStdString();
     EXPECT_EQ(ContentOf(folder_ / "ocupado.db"), "conteúdo");
+    Press("voltar");
+    Press("voltar");
     EXPECT_EQ(TextOf("fantasia"), "Céu");
+    EXPECT_EQ(Answer(), std::nullopt);
+    Type("arquivo", (folder_ / "outro.db").c_str());
+    MakeWithTheRestAsItIs();
+    EXPECT_EQ(Answer(), (folder_ / "outro.db").string());
+}
+
+TEST_F(TheQuestionForAShop, BeginsWithTheServicesThatWereLeftAndCorrected)
+{
+    Open();
+    Press("criar");
+    Type("fantasia", "Céu");
+    Press("avancar");
+    auto& table = Find<QTableWidget>("servicos");
+    EXPECT_EQ(QApplication::focusWidget(), &table);
+    const int rows = table.rowCount();
+    ASSERT_GT(rows, 5);
+    QTest::keyClick(&table, Qt::Key_Space);
+    EXPECT_EQ(table.item(0, 0)->checkState(), Qt::Unchecked);
+    const auto correct = [&](int row, int column, const char* text) {
+        table.setCurrentCell(row, column);
+        QTest::keyClick(&table, Qt::Key_F2);
+        QWidget* editor = QApplication::focusWidget();
+        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(editor, QString::fromUtf8(text));
+        QTest::keyClick(editor, Qt::Key_Return);
+    };
+    correct(1, 0, "Banho especial");
+    correct(1, 2, "0");
+    Press("avancar");
+    EXPECT_TRUE(table.isVisible());
+    EXPECT_EQ(Find<QLabel>("recusa").text().toStdString(),
+              "Linha 2: A duração é um número inteiro de minutos, de 1 a 1440.");
+    correct(1, 2, "50");
+    correct(1, 3, "caro");
+    Press("avancar");
+    EXPECT_EQ(Find<QLabel>("recusa").text().toStdString(),
+              "Linha 2: O preço é um valor em reais, como 60,00.");
+    correct(1, 3, "1.055,5");
+    correct(2, 0, "Banho especial");
+    Press("avancar");
+    EXPECT_EQ(Find<QLabel>("recusa").text().toStdString(), "Linha 3: Já há um serviço com este nome.");
+    correct(2, 0, "Banho e tosa");
+    Press("avancar");
+    Press("avancar");
+
+    ASSERT_NE(Answer(), std::nullopt);
+    kova::test::SqliteFile made(*Answer());
+    EXPECT_EQ(made.Run("select count(*) from servico"), std::vector<std::string>{std::to_string(rows - 1)});
+    EXPECT_EQ(
+        made.Run(
+            "select nome, nome_de_busca, duracao_em_minutos, preco_em_centavos, numero_do_tipo_de_servico"
+            " from servico where codigo = 1"),
+        std::vector<std::string>{"Banho especial|banho especial|50|105550|4"});
+    EXPECT_EQ(made.Run("select nome from servico where quantidade_de_sessoes = 4"),
+              std::vector<std::string>{"Pacote de 4 banhos"});
+}
+
+TEST_F(TheQuestionForAShop, BeginsWithTheDaysAndHoursThatWereGiven)
+{
+    Open();
+    Press("criar");
+    Type("fantasia", "Céu");
+    Press("avancar");
+    Press("avancar");
+    EXPECT_FALSE(Find<QLineEdit>("Domingo das").isEnabled());
+    QTest::keyClick(&Find<QCheckBox>("Segunda-feira"), Qt::Key_Space);
+    Type("Terça-feira das", "18:00");
+    Press("avancar");
+    EXPECT_EQ(Find<QLabel>("recusa").text().toStdString(),
+              "Terça-feira: informe duas horas, como 08:00 e 18:00, a segunda depois da primeira.");
+    EXPECT_EQ(QApplication::focusWidget(), &Find<QLineEdit>("Terça-feira às"));
+    Type("Terça-feira das", "9:30");
+    Type("Sábado às", "24:00");
+    Press("avancar");
+    ASSERT_NE(Answer(), std::nullopt);
+    kova::test::SqliteFile made(*Answer());
+    EXPECT_EQ(
+        made.Run("select dia_da_semana, hora_inicial, hora_final from expediente order by dia_da_semana"),
+        (std::vector<std::string>{"3|09:30|18:00", "4|08:00|18:00", "5|08:00|18:00", "6|08:00|18:00",
+                                  "7|08:00|24:00"}));
+}
+
+TEST_F(TheQuestionForAShop, WantsADayOnWhichTheShopIsOpen)
+{
+    Open();
+    Press("criar");
+    Type("fantasia", "Céu");
+    Press("avancar");
+    Press("avancar");
+    for (const char* day :
+         {"Segunda-feira", "Terça-feira", "Quarta-feira", "Quinta-feira", "Sexta-feira", "Sábado"})
+        QTest::keyClick(&Find<QCheckBox>(day), Qt::Key_Space);
+    Press("avancar");
+    EXPECT_EQ(Find<QLabel>("recusa").text().toStdString(), "Marque ao menos um dia em que a loja abre.");
     EXPECT_EQ(Answer(), std::nullopt);
 }
 
