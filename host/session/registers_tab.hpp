@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
+#include "registers/desk.hpp"
 
 #include <string>
 
@@ -22,11 +23,15 @@ public:
     RegistersTab(std::string source, ObjectRef user, const Clock& clock);
 
     void AddTo(MainWindow& window);
+    /// Asks a shop that has no company for it, and answers its trade name: "" where the user leaves that for
+    /// later. Fails with a DatabaseFailure.
+    std::string AskForCompany();
     /// Asks where something is typed that was not saved. False where the user stays with it.
     bool MayLeave();
 
 private:
     QWidget* MakePage(QWidget& parent);
+    registers::Desk OpenDesk() const;
 
     std::string source_;
     ObjectRef user_;

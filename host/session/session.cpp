@@ -87,7 +87,6 @@ public:
     SessionEnd Run();
 
 private:
-    void AddTabs();
     void FillMenu();
     void AddRememberedShops();
     void Remember(const Shop& shop);
@@ -124,14 +123,19 @@ private:
 SessionEnd Session::Run()
 {
     SetUpComponents(registry_, server_, ProgramFolder());
-    const Shop shop =
+    Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
+    user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
+    registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_);
+    if (shop.tradeName.empty() && outlet_ == Outlet::Window && !options_.firstPaint)
+        shop.tradeName = registers_->AskForCompany();
     window_ = std::make_unique<MainWindow>(MainWindow::Heading{QString::fromStdString(shop.tradeName),
                                                                options_.database.empty(),
                                                                QString::fromStdString(NameOfUser())});
     if (outlet_ == Outlet::Window && !options_.firstPaint)
         Remember(shop);
-    AddTabs();
+    registers_->AddTo(*window_);
+    window_->mayClose = [this] { return registers_->MayLeave(); };
     FillMenu();
     OpenList();
     if (options_.firstPaint)
@@ -141,14 +145,6 @@ SessionEnd Session::Run()
 }
 
 void Session::Remember(const Shop& shop) { remembered_.Remember({SourceOf(options_), shop.tradeName}); }
-
-void Session::AddTabs()
-{
-    user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
-    registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_);
-    registers_->AddTo(*window_);
-    window_->mayClose = [this] { return registers_->MayLeave(); };
-}
 
 void Session::FillMenu()
 {

@@ -66,6 +66,7 @@ TEST_F(Closing, EndsWellAfterACardWithoutACompanyThatLeftTheWindowDimmed)
 {
     Execute("delete from empresa");
     bool dimmed = false;
+    receptionist->InWindow("Empresa", "Escape");
     AsksForTransportCard().Answers("Return").WaitsFor(List);
     receptionist->Looks([&] { dimmed = Dimming() != nullptr; }).Leaves();
     Run();

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTableView>
 #include <QTest>
 
@@ -94,6 +95,28 @@ TEST_F(RegistersOfTheShop, AskBeforeTheWindowClosesOverWhatIsNotSaved)
     Run();
     EXPECT_EQ(receptionist->Boxes().size(), 2U);
     EXPECT_EQ(Value("select nome from cliente order by nome_de_busca, codigo"), before);
+}
+
+TEST_F(RegistersOfTheShop, BeginWithTheCompanyWhereThereIsNone)
+{
+    Execute("delete from empresa");
+    receptionist->WaitsUntil("the company is asked for", [] {
+        const QWidget* question = QApplication::activeModalWidget();
+        return question != nullptr && question->windowTitle() == QLatin1String("Empresa");
+    });
+    receptionist->Does("save nothing, then a name", [] {
+        QWidget* question = QApplication::activeModalWidget();
+        QTest::mouseClick(question->findChild<QPushButton*>(QStringLiteral("salvar")), Qt::LeftButton);
+        auto* name = question->findChild<QLineEdit*>(QStringLiteral("Nome fantasia"));
+        EXPECT_EQ(name->accessibleDescription(), QStringLiteral("Deve ser informado."));
+        QTest::keyClicks(name, QStringLiteral("Amigo Novo"));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    std::string title;
+    receptionist->WaitsFor(List).Looks([&] { title = Window()->windowTitle().toStdString(); }).Leaves();
+    Run();
+    EXPECT_EQ(Value("select nome_fantasia from empresa"), "Amigo Novo");
+    EXPECT_EQ(title, "Amigo Novo - Antônia - Kovaris");
 }
 
 } // namespace kova::window_test

@@ -1,0 +1,118 @@
+// From one shop to another without leaving the program.
+
+#include "tests/window/shop.hpp"
+
+#include "host/folders.hpp"
+#include "host/session/remembered_shops.hpp"
+#include "host/session/shops.hpp"
+#include "system/path_text.hpp"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+
+namespace kova::window_test {
+
+namespace {
+
+constexpr const char* List = "frmLista";
+
+class ShopsOfThisComputer : public Shop {
+protected:
+    /// The application without a shop on its command line.
+    static int RunShops()
+    {
+        host::Options options;
+        options.user = "Antônia";
+        options.date = Date{2026, 11, 20};
+        options.size = host::WindowSize{1366, 768};
+        return host::RunShops(options, host::Outlet::Window);
+    }
+
+    host::RememberedShops remembered_{host::SettingsFile()};
+
+    static std::string Title()
+    {
+        for (const QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->isVisible() && top->findChild<QWidget*>(QStringLiteral("container")))
+                return top->windowTitle().toStdString();
+        }
+        return "";
+    }
+
+    /// The question for a shop, once it stands there.
+    static QWidget* Question()
+    {
+        QWidget* modal = QApplication::activeModalWidget();
+        return modal != nullptr && modal->findChild<QPushButton*>(QStringLiteral("demonstracao")) ? modal
+                                                                                                  : nullptr;
+    }
+
+    Receptionist& PressesInTheQuestion(const char* button)
+    {
+        return receptionist->WaitsUntil("a shop is asked for", [] { return Question() != nullptr; })
+            .Does(std::string("press ") + button, [button] {
+                QTest::mouseClick(Question()->findChild<QPushButton*>(QString::fromUtf8(button)),
+                                  Qt::LeftButton);
+            });
+    }
+};
+
+} // namespace
+
+TEST_F(ShopsOfThisComputer, AreAskedForAtFirstAndRememberedThen)
+{
+    PressesInTheQuestion("demonstracao");
+    std::string title;
+    receptionist->WaitsFor(List).Looks([&] { title = Title(); }).Leaves();
+    EXPECT_EQ(RunShops(), EXIT_SUCCESS);
+    EXPECT_NE(title.find("(demonstração)"), std::string::npos) << title;
+
+    title.clear();
+    receptionist->WaitsFor(List).Looks([&] { title = Title(); }).Leaves();
+    EXPECT_EQ(RunShops(), EXIT_SUCCESS);
+    EXPECT_NE(title.find("(demonstração)"), std::string::npos) << title;
+}
+
+TEST_F(ShopsOfThisComputer, AreLeftWhereTheQuestionIsLeft)
+{
+    receptionist->WaitsUntil("a shop is asked for", [] { return Question() != nullptr; }).Does("leave", [] {
+        QTest::keyClick(Question(), Qt::Key_Escape);
+    });
+    EXPECT_EQ(RunShops(), EXIT_SUCCESS);
+    EXPECT_TRUE(remembered_.All().empty());
+}
+
+TEST_F(ShopsOfThisComputer, AreTurnedToByTheMenu)
+{
+    remembered_.Remember({system::TextOf(host::DemonstrationDatabase()), "Outra"});
+    remembered_.Remember({Database(), "Esta"});
+    std::string before, after;
+    receptionist->WaitsFor(List).Looks([&] { before = Title(); }).Presses("F10").Picks("Outra");
+    receptionist->WaitsUntil("the other shop is open",
+                             [] { return Title().find("(demonstração)") != std::string::npos; });
+    receptionist->WaitsFor(List).Looks([&] { after = Title(); }).Leaves();
+    EXPECT_EQ(RunShops(), EXIT_SUCCESS);
+    EXPECT_EQ(before.find("(demonstração)"), std::string::npos) << before;
+    EXPECT_NE(after.find("(demonstração)"), std::string::npos) << after;
+    EXPECT_EQ(remembered_.All().front().source, system::TextOf(host::DemonstrationDatabase()));
+}
+
+TEST_F(ShopsOfThisComputer, ThatCannotBeOpenedAreToldAndAnotherIsAskedFor)
+{
+    remembered_.Remember({"/não/há/loja.db", "Perdida"});
+    remembered_.Remember({Database(), "Esta"});
+    std::string told;
+    receptionist->WaitsFor(List).Presses("F10").Picks("Perdida");
+    receptionist->WaitsUntil("a shop is asked for", [] { return Question() != nullptr; }).Does("look", [&] {
+        told = Question()->findChild<QLabel*>(QStringLiteral("recado"))->text().toStdString();
+    });
+    PressesInTheQuestion("demonstracao");
+    receptionist->WaitsFor(List).Leaves();
+    EXPECT_EQ(RunShops(), EXIT_SUCCESS);
+    EXPECT_NE(told.find("/não/há/loja.db"), std::string::npos) << told;
+}
+
+} // namespace kova::window_test
