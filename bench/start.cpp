@@ -14,7 +14,7 @@ namespace kova::bench {
 namespace {
 
 constexpr int Rounds = 15;
-constexpr double TimeLimit = 1.5;
+constexpr double TimeLimit = 1.4;
 constexpr double MemoryLimit = 1.6;
 constexpr const char* Painted = "desenhado";
 
