@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace kova::paper {
@@ -13,8 +14,8 @@ namespace {
 /// Colours of the screen's own, which are negative, are black on paper.
 QColor ColorOf(const reports::Item& item)
 {
-    const Colour color = item.color;
-    return color < 0 ? QColor(Qt::black) : QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+    const Colour color = std::max(item.color, colours::Black);
+    return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
 }
 
 void PaintLine(QPainter& painter, const reports::Item& item, const reports::TextLine& line)

@@ -27,11 +27,11 @@ void CommandButtonView::ShowLook()
     const QColor ground = GroundColor(design.backColor, look::Plate);
     const QColor highlight = GroundColor(design.highlightColor, ground.darker(106));
     const bool captioned = !FromText(design.caption).trimmed().isEmpty();
-    const bool light = Contrast(ground, look::Paper) < 1.05;
-    const QColor onHighlight = captioned && !light ? look::Paper : look::Ink;
+    const bool standsOut = Contrast(ground, look::Paper) >= 1.05;
+    const QColor onHighlight = captioned && standsOut ? look::Paper : look::Ink;
     Shown().SetColours({ground, highlight, InkColor(design.fontColor, look::Ink, ground), onHighlight});
     Shown().SetIconName(design.icon);
-    Shown().SetBordered(light);
+    Shown().SetBordered(!standsOut);
 }
 
 // A button without a caption is called by what it does now.

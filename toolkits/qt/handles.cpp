@@ -35,7 +35,7 @@ Long HandleOf(QWidget& widget)
     const QVariant known = widget.property(HandleProperty);
     if (known.isValid())
         return known.toInt();
-    if (widget.testAttribute(Qt::WA_WState_Created) && widget.internalWinId() != 0)
+    if (widget.internalWinId() != 0)
         return static_cast<Long>(widget.internalWinId());
     return NewHandle(widget);
 }
@@ -44,7 +44,7 @@ QWidget* WidgetOfHandle(Long handle)
 {
     if (handle >= FirstOwnHandle)
         return OwnHandles().value(handle);
-    return handle > 0 ? QWidget::find(static_cast<WId>(handle)) : nullptr;
+    return QWidget::find(static_cast<WId>(handle));
 }
 
 } // namespace kova::qt

@@ -52,8 +52,8 @@ int PictureBoxView::Missing() const
 
 int PictureBoxView::TopInside(int top) const
 {
-    const int height = Pixels(Core().State().height);
-    return squeezed_ > 0 ? top * (height - squeezed_) / height : top;
+    const int height = std::max(1, Pixels(Core().State().height));
+    return top * (height - squeezed_) / height;
 }
 
 void PictureBoxView::ShowGeometry()

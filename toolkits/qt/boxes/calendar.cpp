@@ -151,17 +151,15 @@ void CalendarPopup::keyPressEvent(QKeyEvent* event)
     case Qt::Key_H:
     case Qt::Key_T: return Choose(today_);
     case Qt::Key_Escape:
-    case Qt::Key_F4: close(); return;
+    case Qt::Key_F4: close(); break;
     default: event->accept();
     }
 }
 
 void CalendarPopup::mousePressEvent(QMouseEvent* event)
 {
-    if (!rect().contains(event->position().toPoint())) {
+    if (!rect().contains(event->position().toPoint()))
         close();
-        return;
-    }
     const Hit hit = HitAt(event->position());
     switch (hit.spot) {
     case Spot::Previous: return MoveByMonths(-1);
@@ -196,8 +194,11 @@ void CalendarPopup::leaveEvent(QEvent*)
 
 void CalendarPopup::wheelEvent(QWheelEvent* event)
 {
-    if (event->angleDelta().y() != 0)
-        MoveByMonths(event->angleDelta().y() > 0 ? -1 : 1);
+    const int turned = event->angleDelta().y();
+    if (turned > 0)
+        MoveByMonths(-1);
+    else if (turned < 0)
+        MoveByMonths(1);
     event->accept();
 }
 

@@ -110,7 +110,6 @@ void ComboField::MakeList(const QStringList& texts)
     list_->verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
     list_->setMouseTracking(true);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list_->setUniformItemSizes(true);
     list_->addItems(texts);
     for (int row = 0; row < list_->count(); ++row)
         list_->item(row)->setSizeHint(
@@ -211,18 +210,18 @@ void ComboField::changeEvent(QEvent* event)
 
 bool ComboField::eventFilter(QObject* watched, QEvent* event)
 {
+    // The list's own keys and letters would walk behind the model.
+    const bool isKey = watched == list_ && event->type() == QEvent::KeyPress;
+    if (isKey)
+        TakesKey(*static_cast<QKeyEvent*>(event));
     // Qt itself closes it for a press elsewhere.
-    if (watched == popup_ && event->type() == QEvent::Hide) {
+    const bool isClosed = watched == popup_ && event->type() == QEvent::Hide;
+    if (isClosed) {
         CloseList();
         if (left)
             left();
-        return false;
     }
-    if (watched != list_ || event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    // The list's own keys and letters would walk behind the model.
-    TakesKey(*static_cast<QKeyEvent*>(event));
-    return true;
+    return isKey;
 }
 
 QRectF ComboField::TextArea() const { return QRectF(rect()).adjusted(Inset, 0, -EndWidth, 0); }

@@ -19,8 +19,12 @@ constexpr std::size_t MostFormerTexts = 50;
 int UnitsOf(const QString& text, std::size_t characters)
 {
     int units = 0;
-    for (; characters > 0 && units < text.size(); --characters)
-        units += text.at(units).isHighSurrogate() && units + 1 < text.size() ? 2 : 1;
+    for (const char32_t character : text.toStdU32String()) {
+        if (characters == 0)
+            break;
+        --characters;
+        units += QChar::requiresSurrogates(character) ? 2 : 1;
+    }
     return units;
 }
 

@@ -128,7 +128,8 @@ void FieldFrame::changeEvent(QEvent* event)
 
 bool FieldFrame::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == editor_ && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
+    // The ring around it all is the frame's.
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         update();
     return QWidget::eventFilter(watched, event);
 }

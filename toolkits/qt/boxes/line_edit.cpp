@@ -30,12 +30,6 @@ LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent)
 
 bool LineEdit::event(QEvent* event)
 {
-    // Keys that a window would otherwise take for its own shortcuts stay with the field.
-    if (event->type() == QEvent::ShortcutOverride) {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
-            return false;
-    }
     if (event->type() == QEvent::ToolTip && ShowsCutText()) {
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), ToolTipOf(text().toStdString()),
                            this);

@@ -57,8 +57,6 @@ QScrollArea* ScrolledTable(const std::vector<toolkit::KeyHelp>& keys, const QWid
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setWidget(lines);
-    area->viewport()->setAutoFillBackground(false);
-    lines->setAutoFillBackground(false);
     const QSize room = window.screen()->availableGeometry().size() - aroundTable;
     const QSize wanted = lines->sizeHint();
     const int bar = wanted.height() > room.height() ? area->verticalScrollBar()->sizeHint().width() : 0;
@@ -81,7 +79,6 @@ void ShowHelpWindow(QWidget* over, const Text& formCaption, const std::vector<to
     column->addWidget(table, 1);
     auto* buttons = new QDialogButtonBox;
     QPushButton* close = buttons->addButton(QStringLiteral("Fechar"), QDialogButtonBox::RejectRole);
-    close->setDefault(true);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
     column->addWidget(buttons);
     // The arrow keys and Page Down are for the lines; Enter and Escape close wherever the focus is.

@@ -157,7 +157,7 @@ std::vector<int> GridText::LineStarts(const QString& text, const KeyView& key, c
 void GridText::Paint(QPainter& painter, const std::string& text, const QRect& area, Qt::Alignment alignment,
                      bool bold, bool wraps)
 {
-    if (text.empty() || area.width() <= 0)
+    if (area.width() <= 0)
         return;
     const Layout& layout = LayoutOf({text, area.width(), area.height(), bold, wraps});
     const QRawFont& font = bold ? boldRaw_ : raw_;

@@ -116,23 +116,21 @@ void FlatButton::PaintContent(QPainter& painter, const QColor& ground) const
     const QRectF area = rect();
     const bool hasIcon = HasIcon(icon_);
     const QColor ink = InkOn(ground);
+    painter.setPen(ink);
+    painter.setFont(font());
     if (caption.isEmpty()) {
         const QColor tint = isEnabled() && Contrast(IconTint(icon_), ground) >= 2.5 ? IconTint(icon_) : ink;
         const QSizeF size(IconSize, IconSize);
         PaintIcon(painter, icon_, QRectF(area.center() - QPointF(IconSize / 2, IconSize / 2), size), tint);
-        return;
-    }
-    painter.setPen(ink);
-    painter.setFont(font());
-    if (!hasIcon) {
+    } else if (!hasIcon) {
         painter.drawText(area, Qt::AlignCenter, caption);
-        return;
+    } else {
+        const double textWidth = QFontMetricsF(font()).horizontalAdvance(caption);
+        const double left = std::max(IconInset, (area.width() - textWidth - IconSize - Gap) / 2);
+        PaintIcon(painter, icon_, QRectF(left, (area.height() - IconSize) / 2, IconSize, IconSize), ink);
+        painter.drawText(area.adjusted(left + IconSize + Gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                         caption);
     }
-    const double textWidth = QFontMetricsF(font()).horizontalAdvance(caption);
-    const double left = std::max(IconInset, (area.width() - textWidth - IconSize - Gap) / 2);
-    PaintIcon(painter, icon_, QRectF(left, (area.height() - IconSize) / 2, IconSize, IconSize), ink);
-    painter.drawText(area.adjusted(left + IconSize + Gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                     caption);
 }
 
 } // namespace kova::qt

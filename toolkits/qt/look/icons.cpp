@@ -94,7 +94,7 @@ private:
     {
         char* end = nullptr;
         const double number = std::strtod(at_, &end);
-        at_ = end == at_ ? at_ + 1 : end;
+        at_ = end;
         return number;
     }
 
