@@ -63,6 +63,14 @@ private:
 /// A printing from a window that shows that page (from 0).
 Printing From(std::size_t page) { return {page, QStringLiteral("A impressora parou."), QString()}; }
 
+QStringList AllOf(const reports::Document& document)
+{
+    QStringList pages;
+    for (std::size_t page = 1; page <= document.pages.size(); ++page)
+        pages += QString::number(page);
+    return pages;
+}
+
 class ReportOutput : public ::testing::Test {
 protected:
     QString File(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
@@ -196,6 +204,8 @@ TEST_F(ReportOutput, PrintsThePagesThatWereAskedFor)
     };
     const Case cases[]{{QPrinter::PageRange, 2, 3, {QStringLiteral("2"), QStringLiteral("3")}},
                        {QPrinter::PageRange, 4, 99, {QStringLiteral("4"), QStringLiteral("5")}},
+                       {QPrinter::PageRange, 0, 0, AllOf(document)},
+                       {QPrinter::AllPages, 2, 3, AllOf(document)},
                        {QPrinter::CurrentPage, 0, 0, {QStringLiteral("2")}}};
     for (const Case& each : cases) {
         QPrinter printer(QPrinter::HighResolution);
@@ -212,6 +222,19 @@ TEST_F(ReportOutput, PrintsThePagesThatWereAskedFor)
         }
         EXPECT_EQ(printed, each.pages);
     }
+}
+
+TEST_F(ReportOutput, CountsFromTheEdgeOfTheSheetWhateverItsDialogSays)
+{
+    const auto document = LaidOut(NumberedList(1));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(File("papel.pdf"));
+    Prepare(printer, document);
+    EXPECT_TRUE(printer.fullPage()) << "the dialog offers no margins";
+    printer.setFullPage(false);
+    ASSERT_EQ(Print(printer, document, From(0)).toStdString(), "");
+    EXPECT_TRUE(printer.fullPage());
 }
 
 TEST_F(ReportOutput, ScalesAPageDownToASmallerSheet)

@@ -107,6 +107,28 @@ TEST_F(LargeForms, BringTheBoxThatIsReachedByKeyIntoSight)
     EXPECT_TRUE(IsSeen(high));
 }
 
+/// How far a box is from the far corner of the part of its form that scrolls, in pixels.
+QSize RoomBehind(const QWidget& box)
+{
+    const QWidget* seen = box.parentWidget()->parentWidget();
+    const QPoint corner = box.mapTo(seen, QPoint(box.width(), box.height()));
+    return seen->size() - QSize(corner.x(), corner.y());
+}
+
+TEST_F(LargeForms, LeaveAMarginBehindTheBoxThatIsReached)
+{
+    FormDesign design = Tall();
+    design.width = ToTwips(Room().width() + 400);
+    design.controls.front().left = design.width - 3600;
+    FormRef form = Open(design);
+    auto& low = Bind<KVTextBox>(form, "kvtxtBaixo");
+    low.SetFocus();
+    EXPECT_EQ(RoomBehind(*WindowOf(low)).height(), 12);
+    auto& far = Bind<KVTextBox>(form, "kvtxtCima");
+    far.SetFocus();
+    EXPECT_EQ(RoomBehind(*WindowOf(far)).width(), 12);
+}
+
 TEST_F(LargeForms, ScrollByTheWheelOverAnyControl)
 {
     FormRef form = Open(Tall());

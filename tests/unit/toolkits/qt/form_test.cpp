@@ -1,5 +1,6 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 #include "toolkits/qt/handles.hpp"
+#include "toolkits/qt/top_window.hpp"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -57,6 +58,78 @@ TEST_F(Forms, AcceptTheNativeHandleOfAHostsWindow)
     form->SetParent(static_cast<Long>(container.winId()));
     form->Show(ShowMode::Modeless);
     EXPECT_EQ(WidgetOf(form)->parentWidget(), &container);
+}
+
+TEST_F(Forms, LeaveTheirContainerItsOwnEvents)
+{
+    class Container : public QWidget {
+    public:
+        int resized = 0;
+
+    protected:
+        void resizeEvent(QResizeEvent*) override { ++resized; }
+    };
+    Container container;
+    container.resize(300, 200);
+    container.show();
+    FormRef form = toolkit_.CreateForm(Form({}));
+    form->SetParent(HandleOf(container));
+    container.resized = 0;
+    container.resize(400, 300);
+    EXPECT_EQ(container.resized, 1);
+}
+
+TEST_F(Forms, AreMovedByCode)
+{
+    FormRef form = Show({});
+    form->Left(1500);
+    form->Top(3000);
+    EXPECT_EQ(WidgetOf(form)->pos(), QPoint(100, 200));
+    form->Left(1500);
+    EXPECT_EQ(WidgetOf(form)->pos(), QPoint(100, 200));
+}
+
+TEST_F(Forms, StackControlsOfAKindInTheOrderOfTheirDesign)
+{
+    FormRef form = Show({Design(WidgetKind::KVCommandButton, "kvcmdUm", 0, 0, 1500, 600),
+                         Design(WidgetKind::KVCommandButton, "kvcmdDois", 0, 0, 1500, 600),
+                         Design(WidgetKind::Label, "lblTexto", 0, 0, 1500, 600)});
+    QWidget* second = WindowOf(form->Control("kvcmdDois"));
+    EXPECT_EQ(second->parentWidget()->childAt(20, 20), second);
+}
+
+TEST_F(Forms, HearOfTheLastFunctionKey)
+{
+    ControlDesign button = Design(WidgetKind::KVCommandButton, "kvcmd", 0, 0, 1500, 510);
+    button.shortcut = "F35";
+    FormRef form = Show({button});
+    int pressed = 0;
+    Bind<KVCommandButton>(form, "kvcmd").OnClick([&] { ++pressed; });
+    Press(WindowOf(form->Control("kvcmd")), Qt::Key_F35);
+    EXPECT_EQ(pressed, 1);
+}
+
+TEST_F(Forms, GiveAPanelWithoutAWindowTheirOwnHandle)
+{
+    FormRef form = Show({Design(WidgetKind::PictureBox, "pic", 0, 0, 3000, 900)});
+    auto& panel = Bind<PictureBox>(form, "pic");
+    EXPECT_NE(panel.Handle(), form->Handle());
+    delete WindowOf(panel);
+    EXPECT_EQ(panel.Handle(), form->Handle());
+}
+
+TEST_F(Forms, OpenOverTheWindowInFrontElseOverTheHosts)
+{
+    QWidget host, front;
+    host.show();
+    front.show();
+    front.activateWindow();
+    Settle();
+    TopWindow top;
+    top.Register(&host);
+    ASSERT_EQ(QApplication::activeWindow(), &front);
+    EXPECT_EQ(top.Below(nullptr), &front);
+    EXPECT_EQ(top.Below(&front), &host);
 }
 
 TEST_F(Forms, FailWith5WhereThereIsNoContainer)

@@ -345,6 +345,14 @@ TEST_F(SecondPress, DoesNotFallThroughAFormThatTheFirstOneClosed)
     EXPECT_EQ(pressed_, 0);
 }
 
+TEST_F(SecondPress, DoesNotFallThroughWhereTheHandHasMovedALittle)
+{
+    ShowAbove();
+    place_ += QPoint(QApplication::startDragDistance(), 0);
+    PressAt(Below(), Begin + 150);
+    EXPECT_EQ(pressed_, 0);
+}
+
 TEST_F(SecondPress, CountsWhereItComesLater)
 {
     ShowAbove();

@@ -4,6 +4,9 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace kova::qt::test {
 
 ControlDesign Design(WidgetKind kind, const char* name, Twips left, Twips top, Twips width, Twips height)
@@ -34,6 +37,8 @@ FormRef QtTest::Show(std::vector<ControlDesign> controls)
     Settle();
     return form;
 }
+
+void Surroundings::keyPressEvent(QKeyEvent* event) { keys.push_back(event->key()); }
 
 void Settle()
 {
@@ -88,6 +93,20 @@ QImage Picture(QWidget* widget)
     image.fill(Qt::magenta);
     widget->render(&image);
     return image;
+}
+
+int MostDifferenceTurned(const QImage& square)
+{
+    int most = 0;
+    for (int x = 0; x < square.width(); ++x) {
+        for (int y = 0; y < x; ++y) {
+            const QColor here = square.pixelColor(x, y);
+            const QColor there = square.pixelColor(y, x);
+            most = std::max({most, std::abs(here.red() - there.red()), std::abs(here.green() - there.green()),
+                             std::abs(here.blue() - there.blue())});
+        }
+    }
+    return most;
 }
 
 } // namespace kova::qt::test

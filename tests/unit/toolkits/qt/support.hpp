@@ -8,6 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QWidget>
+
+#include <vector>
 
 /// What the tests of the screen toolkit share: a toolkit with a frozen clock, designs, keys and mouse.
 namespace kova::qt::test {
@@ -29,6 +32,15 @@ protected:
     QtToolkit toolkit_{clock_};
 };
 
+/// Hears of the keys that nothing in it takes.
+class Surroundings : public QWidget {
+public:
+    std::vector<int> keys;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
 void Settle();
 void Press(QWidget* target, int key, const QString& text = QString(),
            Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -41,5 +53,7 @@ toolkit::WidgetCore& CoreOf(Widget& widget);
 QWidget* WindowOf(Widget& widget);
 QWidget* FocusWindowOf(Widget& widget);
 QImage Picture(QWidget* widget);
+/// How much a square picture differs from itself with rows for columns, in steps of one colour.
+int MostDifferenceTurned(const QImage& square);
 
 } // namespace kova::qt::test

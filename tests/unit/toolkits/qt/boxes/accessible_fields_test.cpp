@@ -101,6 +101,18 @@ TEST_F(AccessibleFields, AHiddenControlIsNotThere)
     EXPECT_TRUE(Tree().contains("opt"));
 }
 
+TEST_F(AccessibleFields, AFormHasNoChildBeyondItsLast)
+{
+    const QAccessibleInterface* form = Read("kvcmb").parent();
+    ASSERT_GT(form->childCount(), 0);
+    EXPECT_NE(form->child(form->childCount() - 1), nullptr);
+    EXPECT_EQ(form->child(form->childCount()), nullptr);
+    EXPECT_EQ(form->child(-1), nullptr);
+    EXPECT_EQ(form->indexOfChild(form->child(0)), 0);
+    EXPECT_EQ(form->indexOfChild(form), -1);
+    EXPECT_EQ(form->indexOfChild(nullptr), -1);
+}
+
 TEST_F(AccessibleFields, ADescriptionHasNoMarks)
 {
     const QString description = Read("kvcmb").text(QAccessible::Description);

@@ -1,5 +1,6 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 #include "toolkits/qt/boxes/calendar.hpp"
+#include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QGuiApplication>
@@ -155,6 +156,7 @@ TEST_F(Calendar, TurnsByItsArrowsAndByTheWheel)
     Wheel(0);
     EXPECT_EQ(sheet_->Current(), (Date{2026, 12, 18}));
     ClickAt(sheet_, QPoint(135, 27));
+    ClickAt(sheet_, QPoint(28, 251));
     EXPECT_TRUE(chosen_.empty());
     ClickAt(sheet_, Foot);
     EXPECT_EQ(chosen_, std::vector<Date>{Today});
@@ -220,6 +222,17 @@ TEST_F(Calendar, PalesTheDaysOfOtherMonths)
         return least;
     };
     EXPECT_GT(darkest(DayAt(4, 4)), darkest(DayAt(3, 4)) + 40) << "the 3rd of December, the 26th of November";
+}
+
+TEST_F(Calendar, OpensBelowItsFieldAsLongAsItFitsThere)
+{
+    const QRect room = RoomForPopup(QGuiApplication::primaryScreen()->availableGeometry());
+    Open(Today);
+    const int lowest = room.bottom() - sheet_->height() - 3;
+    Open(Today, QRect(100, lowest - 29, 150, 30));
+    EXPECT_NEAR(sheet_->y(), lowest + 3, 3);
+    Open(Today, QRect(100, lowest - 28, 150, 30));
+    EXPECT_LT(sheet_->y(), lowest - 28);
 }
 
 // A platform may move a popup by the breadth of its frame.

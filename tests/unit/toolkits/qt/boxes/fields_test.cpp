@@ -284,6 +284,95 @@ TEST_F(Fields, TheKeyThatOpensACalendarGoesNoFurther)
     EXPECT_NE(dynamic_cast<DateBoxView&>(*CoreOf(date).GetView()).Calendar(), nullptr);
 }
 
+TEST_F(Fields, CalendarIsOpenedByF4AndByAltAndDownOnly)
+{
+    auto& date = Get<KVDTPicker>("kvdtpData");
+    date.SetFocus();
+    QWidget* editor = Editor<KVDTPicker>("kvdtpData");
+    const auto opens = [&](int key, Qt::KeyboardModifiers modifiers) {
+        Press(editor, key, QString(), modifiers);
+        CalendarPopup* calendar = dynamic_cast<DateBoxView&>(*CoreOf(date).GetView()).Calendar();
+        if (calendar)
+            calendar->close();
+        Settle();
+        return calendar != nullptr;
+    };
+    EXPECT_TRUE(opens(Qt::Key_F4, Qt::NoModifier));
+    EXPECT_TRUE(opens(Qt::Key_Down, Qt::AltModifier));
+    EXPECT_FALSE(opens(Qt::Key_Down, Qt::NoModifier));
+    EXPECT_FALSE(opens(Qt::Key_Up, Qt::AltModifier));
+}
+
+TEST_F(Fields, CalendarIsOpenedOnceAndOnlyWhereItsBoxTakesADay)
+{
+    auto& date = Get<KVDTPicker>("kvdtpData");
+    date.SetFocus();
+    Press(Editor<KVDTPicker>("kvdtpData"), Qt::Key_F4);
+    Press(Editor<KVDTPicker>("kvdtpData"), Qt::Key_F4);
+    const auto calendars = [&] {
+        int shown = 0;
+        for (const QWidget* child : WindowOf(date)->findChildren<QWidget*>())
+            shown += dynamic_cast<const CalendarPopup*>(child) && child->isVisible();
+        return shown;
+    };
+    EXPECT_EQ(calendars(), 1);
+    dynamic_cast<DateBoxView&>(*CoreOf(date).GetView()).Calendar()->close();
+    Settle();
+    const QPoint end(WindowOf(date)->width() - 10, WindowOf(date)->height() / 2);
+    // The form leads the user elsewhere.
+    Get<KVTextBox>("kvtxtNome").SetFocus();
+    date.OnGotFocus([&] { Get<KVTextBox>("kvtxtNome").SetFocus(); });
+    ClickAt(WindowOf(date), end);
+    EXPECT_EQ(calendars(), 0);
+    date.OnGotFocus({});
+    ClickAt(WindowOf(date), end);
+    EXPECT_EQ(calendars(), 1);
+}
+
+TEST_F(Fields, CalendarTellsItsKeyWhichIsAnotherWhereF4IsTaken)
+{
+    EXPECT_EQ(WindowOf(Get<KVDTPicker>("kvdtpData"))->accessibleDescription(),
+              QStringLiteral("Abre o calendário com F4"));
+    ControlDesign detail = Design(WidgetKind::KVCommandButton, "kvcmdDetalhar", 0, 600, 1500, 510);
+    detail.shortcut = "F4";
+    const FormRef form = Show({detail, Design(WidgetKind::KVDTPicker, "kvdtpData", 0, 0, 1605, 510)});
+    EXPECT_EQ(WindowOf(form->Control("kvdtpData"))->accessibleDescription(),
+              QStringLiteral("Abre o calendário com Alt+↓"));
+}
+
+TEST_F(Fields, KeysThatATextHasNoUseForAreLeftToOthers)
+{
+    auto& name = Get<KVTextBox>("kvtxtNome");
+    name.SetFocus();
+    KeysPassedOn passedOn;
+    WindowOf(name)->installEventFilter(&passedOn);
+    for (const int key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown})
+        Press(Editor<KVTextBox>("kvtxtNome"), key);
+    EXPECT_EQ(passedOn.count, 4);
+    Press(Editor<KVTextBox>("kvtxtNome"), Qt::Key_K, QString(), Qt::ControlModifier);
+    EXPECT_EQ(passedOn.count, 4) << "the editor would do what the model does not know";
+}
+
+TEST_F(Fields, KeysWithControlMoveAndSelectAndDoNothingElse)
+{
+    auto& name = Get<KVTextBox>("kvtxtNome");
+    name.Text("a b c");
+    name.SetFocus();
+    auto* editor = dynamic_cast<QLineEdit*>(Editor<KVTextBox>("kvtxtNome"));
+    const auto control = [editor](int key) { Press(editor, key, QString(), Qt::ControlModifier); };
+    Press(editor, Qt::Key_Home);
+    control(Qt::Key_Right);
+    EXPECT_EQ(editor->cursorPosition(), 2);
+    control(Qt::Key_Left);
+    EXPECT_EQ(editor->cursorPosition(), 0);
+    control(Qt::Key_A);
+    EXPECT_EQ(editor->selectedText(), QStringLiteral("a b c"));
+    control(Qt::Key_Insert);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("a b c"));
+    control(Qt::Key_U);
+    EXPECT_EQ(editor->text(), QStringLiteral("a b c"));
+}
+
 TEST_F(Fields, CalendarStaysInsideItsRange)
 {
     CalendarPopup calendar(nullptr, {2026, 3, 18}, nullptr);
@@ -379,6 +468,18 @@ TEST_F(Fields, TextBoxStopsAtItsLimitPastesAndUndoes)
     EXPECT_EQ(text.Text(), "ab");
 }
 
+TEST_F(Fields, TextBoxUndoesNoMoreForWhatItHasRefused)
+{
+    auto& text = Get<KVTextBox>("kvtxtNome");
+    auto* editor = Editor<KVTextBox>("kvtxtNome");
+    text.SetFocus();
+    Type(editor, "abcdefgh");
+    ASSERT_EQ(text.Text(), "abcde");
+    for (int times = 0; times < 2; ++times)
+        Press(editor, Qt::Key_Z, QString(), Qt::ControlModifier);
+    EXPECT_EQ(text.Text(), "abcd");
+}
+
 TEST_F(Fields, TextBoxCountsASignOfTwoUnitsAsOne)
 {
     auto& text = Get<KVTextBox>("kvtxtNome");
@@ -428,6 +529,7 @@ TEST_F(Fields, NavigationBarOffersWhatItsNumbersAllow)
     EXPECT_EQ(window.Numbers().text(), "16 - 30 de 30");
     EXPECT_TRUE(window.Button(1).isEnabled());
     EXPECT_FALSE(window.Button(4).isEnabled());
+    EXPECT_EQ(Picture(&window.Button(1)).pixelColor(17, 0), look::Border);
     EXPECT_EQ(window.Button(2).accessibleName(), QString::fromUtf8("Página anterior"));
     bar.SetFocus();
     Settle();

@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QTest>
+#include <QToolTip>
 
 namespace kova::qt::test {
 namespace {
@@ -113,6 +115,41 @@ TEST_F(LineEdits, KeepASelectionAtThePressThatBringsTheFocus)
     editor->selectAll();
     ClickAt(editor, QPoint(20, 15));
     EXPECT_FALSE(editor->hasSelectedText()) << "the focus came by a key before";
+}
+
+/// The tip that shows after the mouse has rested there.
+QString ToolTipOver(QWidget& widget)
+{
+    QToolTip::showText(QPoint(), QStringLiteral("nenhuma"));
+    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), widget.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&widget, &help);
+    return QToolTip::text();
+}
+
+TEST_F(LineEdits, TellATextInAToolTipOnlyWhereItIsCut)
+{
+    constexpr int margins = 4;
+    editor_.show();
+    editor_.resize(editor_.fontMetrics().horizontalAdvance(editor_.text()) + margins, 30);
+    EXPECT_EQ(ToolTipOver(editor_), QStringLiteral("nenhuma"));
+    editor_.resize(editor_.width() - 1, 30);
+    EXPECT_EQ(ToolTipOver(editor_), QStringLiteral("20/11/2026"));
+}
+
+TEST_F(LineEdits, TellTheirCutTextRatherThanWhatLiesAroundTheirField)
+{
+    QWidget window;
+    window.setToolTip(QStringLiteral("Cadastro"));
+    auto* field = new QWidget(&window);
+    auto* editor = new LineEdit(field);
+    editor->setText(QStringLiteral("20/11/2026"));
+    editor->resize(300, 30);
+    window.show();
+    EXPECT_EQ(ToolTipOver(*editor), QStringLiteral("Cadastro"));
+    editor->resize(30, 30);
+    EXPECT_EQ(ToolTipOver(*editor), QStringLiteral("20/11/2026"));
+    field->setToolTip(QStringLiteral("Data"));
+    EXPECT_EQ(ToolTipOver(*editor), QStringLiteral("Data")) << "the field's own";
 }
 
 } // namespace

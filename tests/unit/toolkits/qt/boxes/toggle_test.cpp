@@ -41,6 +41,18 @@ TEST_F(Toggles, KeepTheFocusWhereAnArrowIsPressed)
     }
 }
 
+TEST_F(Toggles, LeaveArrowsToWhatHoldsThem)
+{
+    Surroundings around;
+    Toggle toggle(&around, Toggle::Mark::Circle);
+    const std::vector<int> arrows{Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down};
+    for (const int key : arrows)
+        Press(&toggle, key);
+    EXPECT_EQ(around.keys, arrows);
+    Press(&toggle, Qt::Key_Space, QStringLiteral(" "));
+    EXPECT_EQ(around.keys, arrows);
+}
+
 TEST_F(Toggles, ArePressedByTheSpaceBarAndShowOnlyWhatCodeSets)
 {
     int presses = 0;
@@ -110,6 +122,32 @@ TEST_F(Toggles, ShowTheFocusAndWhetherTheyCanBeUsed)
     const QImage usable = Picture(&Middle());
     Middle().setEnabled(false);
     EXPECT_NE(Picture(&Middle()), usable);
+}
+
+TEST_F(Toggles, HaveARingAsFarFromTheirMarkOnEachSideWhereTheyHaveNoText)
+{
+    QWidget window;
+    Toggle toggle(&window, Toggle::Mark::Circle);
+    toggle.setFocusPolicy(Qt::StrongFocus);
+    toggle.resize(24, 24);
+    window.show();
+    window.activateWindow();
+    Settle();
+    toggle.clearFocus();
+    const QImage without = Picture(&toggle);
+    toggle.setFocus();
+    ASSERT_NE(Picture(&toggle), without);
+    EXPECT_LT(MostDifferenceTurned(Picture(&toggle)), 16);
+    EXPECT_LT(MostDifferenceTurned(Picture(&toggle).mirrored(true, false)), 16);
+}
+
+TEST_F(Toggles, KeepTheSizeOfTheirMarkBesideAText)
+{
+    const QRect mark(3, 6, 12, 12);
+    Middle().clearFocus();
+    const QImage without = Picture(&Middle()).copy(mark);
+    Middle().setFocus();
+    EXPECT_EQ(Picture(&Middle()).copy(mark), without);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -34,6 +35,28 @@ TEST_F(HelpWindow, ListsTheKeysOnF1AndClosesOnEscape)
     });
     Press(WindowOf(form->Control("kvcmdDetalhar")), Qt::Key_F1);
     EXPECT_EQ(texts, "F4|Detalhar|Tab|Ir para o próximo campo|F1|Mostrar esta ajuda|");
+}
+
+TEST_F(HelpWindow, OfFewLinesHasNothingToScrollAndOffersToBeClosed)
+{
+    FormRef form = Show({Detail()});
+    QTimer::singleShot(0, qApp, [] {
+        auto* window = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(window, nullptr);
+        auto* area = window->findChild<QScrollArea*>();
+        auto* close = window->findChild<QPushButton*>();
+        EXPECT_EQ(window->focusWidget(), close);
+        EXPECT_EQ(area->focusPolicy(), Qt::NoFocus);
+        EXPECT_TRUE(close->isDefault());
+        window->resize(window->size() + QSize(100, 100));
+        Settle();
+        EXPECT_EQ(area->widget()->size(), area->viewport()->size()) << "the lines take all the room";
+        const QImage picture = Picture(window);
+        EXPECT_EQ(picture.pixel(2, 2), picture.pixel(area->geometry().bottomRight() - QPoint(3, 3)));
+        Press(window, Qt::Key_Return);
+    });
+    Press(WindowOf(form->Control("kvcmdDetalhar")), Qt::Key_F1);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(HelpWindow, FitsTheScreenAndScrollsByKeyWhereItHasManyLines)

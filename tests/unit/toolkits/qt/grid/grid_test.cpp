@@ -1,12 +1,15 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QRegion>
 #include <QTest>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -133,7 +136,10 @@ TEST_F(Grid, RulesItsCellsAndItsHeaderEachWhereItIsTold)
 {
     const auto isRuled = [&](Long row) {
         const QRect cell = Cell(row, 0);
-        return Picture(&Canvas()).pixelColor(cell.center().x(), cell.bottom()) == QColor(Qt::red);
+        const QImage shown = Picture(&Canvas());
+        const bool isRuledBelow = shown.pixelColor(cell.center().x(), cell.bottom()) == QColor(Qt::red);
+        EXPECT_EQ(shown.pixelColor(cell.right(), cell.center().y()) == QColor(Qt::red), isRuledBelow);
+        return isRuledBelow;
     };
     grid_->GridColor(Rgb(255, 0, 0));
     grid_->GridColorFixed(Rgb(255, 0, 0));
@@ -290,6 +296,47 @@ TEST_F(Grid, ResizesAColumnByDraggingItsHeaderEdge)
     EXPECT_EQ(grid_->ColWidth(0), 2100);
 }
 
+TEST_F(Grid, OffersTheEdgeOfAColumnWithinFourPixels)
+{
+    const auto isOffered = [&](int x, int y = 10) {
+        MoveMouse(&Canvas(), QPoint(x, y));
+        return Canvas().cursor().shape() == Qt::SplitHCursor;
+    };
+    EXPECT_FALSE(isOffered(100));
+    grid_->AllowUserResizing(1);
+    EXPECT_FALSE(isOffered(100, 100)) << "below the header";
+    EXPECT_FALSE(isOffered(95));
+    EXPECT_TRUE(isOffered(96));
+    EXPECT_TRUE(isOffered(104));
+    EXPECT_FALSE(isOffered(105));
+}
+
+TEST_F(Grid, TellsATextInAToolTipOnlyWhereItsCellMayCutIt)
+{
+    Canvas().window()->setToolTip(QStringLiteral("Agenda"));
+    const auto tipOver = [&](const QPoint& place) {
+        QToolTip::showText(QPoint(), QStringLiteral("nenhuma"));
+        QHelpEvent help(QEvent::ToolTip, place, Canvas().mapToGlobal(place));
+        QCoreApplication::sendEvent(&Canvas(), &help);
+        return QToolTip::text();
+    };
+    // Widths are counted in parts of a pixel; that many of one letter are whole pixels wide.
+    const QString text(64, QLatin1Char('i'));
+    const QFont font = MakeFont(grid_->FontName(), grid_->FontSize());
+    const double width = QFontMetricsF(font).horizontalAdvance(text);
+    ASSERT_EQ(width, std::floor(width));
+    constexpr double beside = 12;
+    grid_->TextMatrix(2, 2, text.toStdString());
+    grid_->ColWidth(2, static_cast<Long>((width + beside - 1) * TwipsOfPixel));
+    EXPECT_EQ(tipOver(Cell(2, 2).center()), text);
+    grid_->TextMatrix(0, 2, text.toStdString());
+    EXPECT_NE(tipOver(Cell(0, 2).center()), text) << "a header";
+    EXPECT_NE(tipOver(QPoint(Canvas().width() - 2, Canvas().height() - 2)), text) << "beside the cells";
+    grid_->ColWidth(2, static_cast<Long>((width + beside) * TwipsOfPixel));
+    EXPECT_NE(tipOver(Cell(2, 2).center()), text);
+    EXPECT_NE(tipOver(Cell(2, 2).center()), QStringLiteral("Agenda"));
+}
+
 TEST_F(Grid, ScrollsFiftyThousandRowsByTheWheel)
 {
     grid_->Rows(50001);
@@ -322,6 +369,20 @@ TEST_F(Grid, ReadsTheCurrentRowToAssistiveTools)
     EXPECT_EQ(table->tableInterface()->selectedRows(), QList<int>{2});
 }
 
+TEST_F(Grid, ReadsARowWithTheHeadsOfItsColumnsWhereThereAreSome)
+{
+    grid_->TextMatrix(0, 2, "Animal");
+    grid_->TextMatrix(2, 2, "Rex");
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(Canvas().RowAsText(0).toStdString(), "Animal");
+    EXPECT_EQ(Canvas().RowAsText(2).toStdString(), "Animal: Rex");
+    EXPECT_EQ(Canvas().RowAsText(-1).toStdString(), "");
+    EXPECT_EQ(Canvas().RowAsText(11).toStdString(), "");
+    grid_->FixedRows(0);
+    EXPECT_EQ(Canvas().RowAsText(2).toStdString(), "Rex");
+}
+
 TEST_F(Grid, TellsAssistiveToolsOfEachCell)
 {
     grid_->TextMatrix(0, 0, "Hora");
@@ -345,6 +406,60 @@ TEST_F(Grid, TellsAssistiveToolsOfEachCell)
     ASSERT_EQ(place->columnHeaderCells().size(), 1);
     EXPECT_EQ(place->columnHeaderCells().front()->role(), QAccessible::ColumnHeader);
     EXPECT_EQ(place->columnHeaderCells().front()->text(QAccessible::Name), QStringLiteral("Nome do Animal"));
+}
+
+TEST_F(Grid, TellsAssistiveToolsNothingOfWhatIsNotThere)
+{
+    grid_->TextMatrix(10, 2, "Rex");
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
+    ASSERT_NE(table, nullptr);
+    QAccessibleInterface* cell = table->tableInterface()->cellAt(10, 1);
+    ASSERT_NE(cell, nullptr);
+    EXPECT_EQ(cell->text(QAccessible::Name), QStringLiteral("Rex"));
+    EXPECT_EQ(cell->text(QAccessible::Value), QStringLiteral("Rex"));
+    EXPECT_EQ(cell->text(QAccessible::Description), QString());
+    grid_->Rows(5);
+    EXPECT_FALSE(cell->isValid());
+    EXPECT_EQ(cell->text(QAccessible::Name), QString());
+    grid_->TextMatrix(0, 0, "Hora");
+    EXPECT_EQ(table->tableInterface()->columnDescription(0), QStringLiteral("Hora"));
+    grid_->FixedRows(0);
+    EXPECT_EQ(table->tableInterface()->columnDescription(0), QString());
+    grid_->ColWidth(0, 0);
+    grid_->ColWidth(2, 0);
+    EXPECT_EQ(table->child(0), nullptr);
+}
+
+TEST_F(Grid, HasABorderWhereItIsTold)
+{
+    const auto edge = [&] { return Picture(&Canvas()).pixelColor(0, Cell(2, 0).center().y()); };
+    EXPECT_NE(edge(), look::Border);
+    grid_->BorderStyle(1);
+    EXPECT_EQ(edge(), look::Border);
+}
+
+TEST_F(Grid, FramesTheChosenRowAtItsEdges)
+{
+    ControlDesign design = Design(WidgetKind::MSFlexGrid, "msfgGrade", 0, 0, 9000, 6000);
+    design.selectionMode = 1;
+    form_ = Show({design});
+    grid_ = &Bind<MSFlexGrid>(form_, "msfgGrade");
+    Fill();
+    SelectRow(2);
+    const QImage shown = Picture(&Canvas());
+    const QRect row(Cell(2, 0).topLeft(), Cell(2, 2).bottomRight());
+    for (const QPoint& place : {QPoint(row.left(), row.center().y()), QPoint(row.right(), row.center().y()),
+                                QPoint(row.center().x(), row.top()), QPoint(row.center().x(), row.bottom())})
+        EXPECT_EQ(shown.pixelColor(place), look::Accent) << place.x() << ' ' << place.y();
+}
+
+TEST_F(Grid, LeavesTheWheelToOthersWhereItHasNoBar)
+{
+    const QPoint place(50, 100);
+    QWheelEvent wheel(place, Canvas().mapToGlobal(QPointF(place)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&Canvas(), &wheel);
+    EXPECT_FALSE(wheel.isAccepted());
 }
 
 TEST_F(Grid, TellsAssistiveToolsOfItsCellsAsChildren)

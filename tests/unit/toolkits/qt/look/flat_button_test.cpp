@@ -2,6 +2,7 @@
 #include "toolkits/qt/boxes/field_frame.hpp"
 #include "toolkits/qt/boxes/line_edit.hpp"
 #include "toolkits/qt/look/flat_button.hpp"
+#include "toolkits/qt/look/icons.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QCoreApplication>
@@ -81,6 +82,16 @@ TEST_F(FlatButtons, KeepTheFocusAmongOthersWhereAnArrowIsPressed)
     }
 }
 
+TEST_F(FlatButtons, LeaveArrowsToWhatHoldsThem)
+{
+    Surroundings around;
+    FlatButton button(&around);
+    const std::vector<int> arrows{Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down};
+    for (const int key : arrows)
+        Press(&button, key);
+    EXPECT_EQ(around.keys, arrows);
+}
+
 TEST_F(FlatButtons, ShowWhetherTheMouseIsOverThem)
 {
     EXPECT_EQ(Ground(), QColor(Qt::red));
@@ -131,6 +142,47 @@ TEST_F(FlatButtons, DrawTheirIconInTheMiddleOrBeforeTheirText)
     EXPECT_GT(ink(middle), 0);
 }
 
+TEST_F(FlatButtons, DrawAnIconInItsOwnColourWhereThatIsReadAndCanBePressed)
+{
+    const char* const green = "atendido";
+    const QColor tint = IconTint(green);
+    ASSERT_NE(tint, look::Ink);
+    button_.SetIconName(green);
+    const auto hasTint = [&] {
+        const QImage image = Picture(&button_);
+        for (int y = 7; y < 27; ++y)
+            for (int x = 40; x < 60; ++x)
+                if (image.pixelColor(x, y) == tint)
+                    return true;
+        return false;
+    };
+    button_.SetColours({Qt::white, Qt::white, Qt::black, Qt::black});
+    EXPECT_TRUE(hasTint());
+    button_.setEnabled(false);
+    EXPECT_FALSE(hasTint());
+    button_.setEnabled(true);
+    button_.SetColours({tint.lighter(101), tint.lighter(101), Qt::black, Qt::black});
+    EXPECT_FALSE(hasTint()) << "on a ground of nearly that colour";
+}
+
+TEST_F(FlatButtons, WriteInAnotherColourUnderTheMouse)
+{
+    button_.SetColours({Qt::white, Qt::blue, Qt::black, Qt::yellow});
+    button_.setText(QStringLiteral("Salvar"));
+    const auto has = [&](const QColor& ink) {
+        const QImage image = Picture(&button_);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) == ink)
+                    return true;
+        return false;
+    };
+    EXPECT_TRUE(has(Qt::black));
+    EXPECT_FALSE(has(Qt::yellow));
+    Hover(true);
+    EXPECT_TRUE(has(Qt::yellow));
+}
+
 TEST_F(FlatButtons, ShowTheFocus)
 {
     const QImage before = Picture(&button_);
@@ -166,6 +218,32 @@ TEST_F(FieldFrames, ArePressedAtTheirEndOnly)
     EXPECT_EQ(presses_, 1);
     frame_.endPressed = nullptr;
     ClickAt(&frame_, End);
+}
+
+TEST_F(FieldFrames, KeepTheFocusWhereItIsWhereTheirEndIsPressed)
+{
+    window_.activateWindow();
+    frame_.Editor().clearFocus();
+    ClickAt(&frame_, End);
+    EXPECT_FALSE(frame_.Editor().hasFocus());
+    ClickAt(&frame_, QPoint(3, 3));
+    EXPECT_TRUE(frame_.Editor().hasFocus());
+}
+
+TEST_F(FieldFrames, DrawTheirIconInTheMiddleOfTheirEndClearOfTheEdge)
+{
+    frame_.SetEndIcon("limpar", QStringLiteral("Limpar"));
+    const QImage picture = Picture(&frame_);
+    QRect ink;
+    for (int x = 171; x < 196; ++x) {
+        for (int y = 4; y < 30; ++y) {
+            if (Contrast(picture.pixelColor(x, y), look::Paper) > 1.2)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    // Of the 30 pixels the last two are the field's edge and its ring.
+    EXPECT_EQ(ink.left() - 170, 197 - ink.right());
+    EXPECT_EQ(ink.top(), 33 - ink.bottom());
 }
 
 TEST_F(FieldFrames, OfferNoEndWhereTheyAreShutOrHaveNoIcon)

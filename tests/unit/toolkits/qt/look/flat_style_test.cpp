@@ -11,8 +11,10 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStyleOption>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -108,6 +110,20 @@ TEST_F(PlainButtons, StandBesideCheckBoxesThatAreSeen)
         EXPECT_GE(inks(), 3.0);
         EXPECT_NE(Picture(&box), open);
     }
+}
+
+TEST_F(PlainButtons, StandBesideCheckBoxesAsRoundAcrossAsDown)
+{
+    QImage box(16, 16, QImage::Format_RGB32);
+    box.fill(look::Paper);
+    QPainter painter(&box);
+    QStyleOption option;
+    option.rect = box.rect();
+    option.state = QStyle::State_Enabled;
+    qApp->style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter);
+    painter.end();
+    EXPECT_NE(box.pixel(8, 0), look::Paper.rgb());
+    EXPECT_LT(MostDifferenceTurned(box), 16);
 }
 
 TEST_F(PlainButtons, ShowTheFocus)

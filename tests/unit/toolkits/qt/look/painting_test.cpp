@@ -55,6 +55,16 @@ TEST(FocusRing, IsInkWhereTheAccentWouldNotBeSeen)
     EXPECT_EQ(AtTop(ring, 2), look::Paper);
 }
 
+TEST(FocusRing, IsAsRoundAcrossAsDown)
+{
+    QImage ring(40, 40, QImage::Format_RGB32);
+    ring.fill(Qt::black);
+    QPainter painter(&ring);
+    PaintFocusRing(painter, ring.rect(), Qt::black);
+    painter.end();
+    EXPECT_LT(MostDifferenceTurned(ring), 16);
+}
+
 TEST(FieldBorder, StandsOutUnderTheMouseWhereTheFieldTakesTyping)
 {
     const auto border = [](const FieldState& state) {
@@ -158,7 +168,9 @@ TEST(Panels, AreSquareUntilTheirCornersAreRounded)
     panel.SetCorners(8);
     EXPECT_NE(Picture(&panel).pixelColor(0, 0), QColor(Qt::red));
     EXPECT_EQ(Picture(&panel).pixelColor(30, 15), QColor(Qt::red));
+    EXPECT_FALSE(panel.testAttribute(Qt::WA_OpaquePaintEvent)) << "what lies below shows at the corners";
     panel.SetCorners(0);
+    EXPECT_TRUE(panel.testAttribute(Qt::WA_OpaquePaintEvent));
     EXPECT_EQ(Picture(&panel).pixelColor(0, 0), QColor(Qt::red));
 }
 
@@ -245,7 +257,11 @@ TEST_F(Drawings, ARuleIsFilledAndAFrameIsAnOutline)
     ControlDesign filled = Design(WidgetKind::Shape, "filled", 0, 900, 900, 450);
     rule.foreColor = frame.foreColor = filled.foreColor = colours::Red;
     filled.backColor = Rgb(0, 0, 255);
-    FormRef form = Show({rule, frame, filled});
+    ControlDesign tinted = rule;
+    tinted.name = "tinted";
+    tinted.top = 150;
+    tinted.backColor = Rgb(0, 255, 0);
+    FormRef form = Show({rule, tinted, frame, filled});
     const auto middle = [&](const char* name) {
         const QImage image = Picture(WindowOf(form->Control(name)));
         return image.pixelColor(image.width() / 2, image.height() / 2);
@@ -254,6 +270,7 @@ TEST_F(Drawings, ARuleIsFilledAndAFrameIsAnOutline)
         return Picture(WindowOf(form->Control(name))).pixelColor(5, 0);
     };
     EXPECT_EQ(edge("rule"), QColor(Qt::red));
+    EXPECT_EQ(edge("tinted"), QColor(Qt::green)) << "no line of another colour around it";
     EXPECT_EQ(edge("frame"), QColor(Qt::red));
     EXPECT_EQ(edge("filled"), QColor(Qt::red));
     EXPECT_EQ(middle("filled"), QColor(Qt::blue));

@@ -63,6 +63,7 @@ TEST_P(Looks, LetEveryStatusBeRead)
         for (int x = 20; x < 100; ++x)
             best = std::max(best, Contrast(image.pixelColor(x, 12), ground));
         EXPECT_GE(best, LeastTextContrast) << name;
+        EXPECT_EQ(ground.lightness() > 128, GetParam() == Look::Light) << name;
     }
 }
 
@@ -136,7 +137,7 @@ TEST_F(DarkLook, KeepsTheOrderOfGrounds)
 
 TEST_F(DarkLook, GivesGreysTheTintOfThePaper)
 {
-    for (const Colour grey : {Rgb(242, 242, 242), Rgb(246, 245, 245), Rgb(217, 217, 217)})
+    for (const Colour grey : {Rgb(242, 242, 242), Rgb(246, 245, 245), Rgb(217, 217, 217), Rgb(240, 236, 236)})
         EXPECT_NEAR(GroundColor(grey, look::Paper).hslHue(), look::Paper.hslHue(), 6) << grey;
 }
 

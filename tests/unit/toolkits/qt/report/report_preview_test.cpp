@@ -43,6 +43,56 @@ TEST_F(Preview, TurnsPagesByKeyAndByButton)
     EXPECT_TRUE(Button("PgUp")->isEnabled());
     Click("End");
     EXPECT_FALSE(Button("PgDown")->isEnabled());
+    Click("PgUp");
+    EXPECT_TRUE(Button("PgDown")->isEnabled());
+}
+
+TEST_F(Preview, TurnsWholePagesAndScrollsByArrowsHoweverLargeItIs)
+{
+    for (int times = 0; times < 8; ++times)
+        Press(Qt::Key_Plus, Qt::ControlModifier);
+    const QScrollBar* bar = Canvas().verticalScrollBar();
+    const int top = bar->value();
+    Press(Qt::Key_Down);
+    EXPECT_GT(bar->value(), top);
+    Press(Qt::Key_Up);
+    EXPECT_EQ(bar->value(), top);
+    Press(Qt::Key_PageDown);
+    EXPECT_EQ(Canvas().CurrentPage(), 1u);
+}
+
+TEST_F(Preview, BringsWhatIsFoundIntoSightAcrossToo)
+{
+    for (int times = 0; times < 8; ++times)
+        Press(Qt::Key_Plus, Qt::ControlModifier);
+    const QScrollBar* across = Canvas().horizontalScrollBar();
+    ASSERT_GT(across->maximum(), 0);
+    Type(Search(), QStringLiteral("Nome do funcionário"));
+    const int right = across->value();
+    EXPECT_GT(right, Canvas().viewport()->width());
+    Search()->clear();
+    Type(Search(), QStringLiteral("Patinhas"));
+    EXPECT_LT(across->value(), right);
+}
+
+TEST_F(Preview, DrawsNothingBehindItsLastPage)
+{
+    const reports::Document one = LaidOut(NumberedList(1));
+    ReportCanvas canvas(one, nullptr);
+    canvas.resize(1400, 2000);
+    canvas.show();
+    Settle();
+    const QImage picture = Picture(canvas.viewport());
+    EXPECT_EQ(picture.pixelColor(700, 100), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(700, 1000), look::Desk);
+}
+
+TEST_F(Preview, HasButtonsWithABorderAsWideAsTheirTexts)
+{
+    EXPECT_EQ(Button("Home")->width(), 34);
+    const QFontMetrics metrics(Button("Ctrl+P")->font());
+    EXPECT_EQ(Button("Ctrl+P")->width(), metrics.horizontalAdvance(QStringLiteral("Imprimir")) + 46);
+    EXPECT_EQ(Picture(Button("Ctrl+P")).pixelColor(20, 0), look::Border);
 }
 
 TEST_F(Preview, FollowsTheWheel)
@@ -51,6 +101,8 @@ TEST_F(Preview, FollowsTheWheel)
         Wheel(-120, Qt::NoModifier);
     EXPECT_GT(Canvas().CurrentPage(), 0u);
     const double zoom = Canvas().Zoom();
+    Wheel(0, Qt::ControlModifier);
+    EXPECT_EQ(Canvas().Zoom(), zoom);
     Wheel(120, Qt::ControlModifier);
     EXPECT_GT(Canvas().Zoom(), zoom);
 }
