@@ -102,6 +102,8 @@ void ComboField::MakeList(const QStringList& texts)
     popup_->installEventFilter(this);
     auto* layout = new QVBoxLayout(popup_);
     layout->setContentsMargins(0, 0, 0, 0);
+    // A list by itself wants room for several rows, also where it has one.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
     list_ = new QListWidget(popup_);
     layout->addWidget(list_);
     list_->setAccessibleName(accessibleName());

@@ -3,11 +3,13 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 #include "toolkits/common/boxes/combo_box.hpp"
 #include "toolkits/qt/boxes/combo_field.hpp"
+#include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QListWidget>
+#include <QScreen>
 #include <QToolTip>
 
 #include <cmath>
@@ -72,6 +74,17 @@ TEST_F(ComboFields, BeginTheirRowsBelowTheirText)
     const int begin = BeginOfText(Picture(&field_), 1);
     ASSERT_GT(begin, 5);
     EXPECT_EQ(BeginOfText(list, 29), begin);
+}
+
+TEST_F(ComboFields, OpenTheirListAtTheEdgeOfTheScreenWhereTheyLieBeyondIt)
+{
+    const QRect room = RoomForPopup(QGuiApplication::primaryScreen()->availableGeometry());
+    ComboField lost(nullptr);
+    lost.setGeometry(room.right() + 40, room.bottom() + 60, 200, 30);
+    lost.show();
+    lost.ShowList({QStringLiteral("Banho")}, 0);
+    EXPECT_EQ(lost.List()->window()->geometry().bottomRight(), room.bottomRight());
+    lost.CloseList();
 }
 
 TEST_F(ComboFields, WidenTheirListForABarOnlyWhereRowsAreOutOfSight)
