@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <array>
+
 namespace kova::qt::test {
 namespace {
 
@@ -72,6 +74,19 @@ TEST_F(CellTexts, BreakAtLineEnds)
 {
     EXPECT_GT(InkOf(Painted("Rex\r\nBia")).height(), InkOf(Painted("Rex")).height() + 8);
     EXPECT_EQ(Painted("Rex\r\nBia"), Painted("Rex\nBia"));
+}
+
+TEST_F(CellTexts, KeepEachLineToItself)
+{
+    const QRect sheet(0, 0, 120, 60);
+    const QImage lines = Painted("i\nmmm\ni\nmm", {}, false, false, sheet);
+    const int height = QFontMetrics(MakeFont("Arial", 9)).height();
+    ASSERT_GE(sheet.height(), 4 * height);
+    const std::array<const char*, 4> texts{"i", "mmm", "i", "mm"};
+    for (std::size_t at = 0; at < texts.size(); ++at) {
+        const QRect line(0, static_cast<int>(at) * height, sheet.width(), height);
+        EXPECT_NEAR(InkOf(lines.copy(line)).width(), InkOf(Painted(texts[at])).width(), 1) << at;
+    }
 }
 
 TEST_F(CellTexts, EndWithAnEllipsisWhereLinesDoNotFit)
