@@ -205,6 +205,21 @@ template <class Record> struct ColumnsOf {
             [=](const Record& record) { return record.*member; });
     }
 
+    /// "hh:mm" in the row; "24:00" ends the day.
+    static Col EndTime(std::string_view label, std::string Record::*member)
+    {
+        Col column = Time(label, member);
+        column.read = [=, readTime = column.read](const std::string& text, Record& record) {
+            if (text == "24:00") {
+                record.*member = text;
+                return std::string();
+            }
+            const bool isTime = readTime(text, record).empty();
+            return std::string(isTime ? "" : "não é uma hora válida. Escreva hh:mm, até 24:00.");
+        };
+        return column;
+    }
+
     /// "yyyy-mm-dd hh:mm:ss" in the row.
     static Col Moment(std::string_view label, std::string Record::*member)
     {

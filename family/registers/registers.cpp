@@ -5,9 +5,9 @@ namespace kova::family::registers {
 std::span<const Register* const> Registers()
 {
     static const Register* const all[] = {
-        &CustomerRegister(),    &AnimalRegister(),   &ServiceRegister(),
-        &ServiceTypeRegister(), &EmployeeRegister(), &SpeciesRegister(),
-        &BreedRegister(),       &HolidayRegister(),  &CompanyRegister(),
+        &CustomerRegister(), &AnimalRegister(),        &ServiceRegister(),      &ServiceTypeRegister(),
+        &EmployeeRegister(), &EmployeeHoursRegister(), &AbsenceRegister(),      &SpeciesRegister(),
+        &BreedRegister(),    &HolidayRegister(),       &OpeningHoursRegister(), &CompanyRegister(),
     };
     return all;
 }

@@ -14,6 +14,10 @@ const Register& BreedRegister();
 const Register& HolidayRegister();
 /// The shop itself: one row.
 const Register& CompanyRegister();
+/// When the shop is open.
+const Register& OpeningHoursRegister();
+const Register& EmployeeHoursRegister();
+const Register& AbsenceRegister();
 
 /// All of them, in the order in which people look for them.
 std::span<const Register* const> Registers();

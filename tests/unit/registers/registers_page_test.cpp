@@ -15,8 +15,9 @@ TEST_F(CadastrosTest, NamesEveryRegisterOfTheShop)
     auto& list = Find<QListWidget>("cadastros");
     for (int row = 0; row < list.count(); ++row)
         names.push_back(list.item(row)->text().toStdString());
-    for (const char* name : {"Clientes", "Animais", "Serviços", "Tipos de serviço", "Funcionários",
-                             "Espécies", "Raças", "Feriados", "Empresa"})
+    for (const char* name :
+         {"Clientes", "Animais", "Serviços", "Tipos de serviço", "Funcionários", "Horários dos funcionários",
+          "Ausências", "Espécies", "Raças", "Feriados", "Expediente", "Empresa"})
         EXPECT_NE(std::find(names.begin(), names.end(), name), names.end()) << name;
 }
 
@@ -108,6 +109,44 @@ TEST_F(CadastrosTest, AddsACustomerByTheKeyboardAlone)
               Lines{"Otávio Reis|2"});
     EXPECT_EQ(Rows(), (Lines{"Ana Lúcia Prado", "José Antônio Peçanha", "Márcia Lima", "Otávio Reis"}));
     EXPECT_EQ(Find<QTableView>("lista").currentIndex().row(), 3);
+}
+
+TEST_F(CadastrosTest, AddsOpeningHoursByTheKeyboardAlone)
+{
+    Elsewhere("delete from expediente where dia_da_semana <> 2");
+    Elsewhere("update expediente set hora_inicial = '08:00', hora_final = '18:00'");
+    TurnTo("Expediente");
+    EXPECT_EQ(Rows(3), Lines{"Segunda-feira|08:00|18:00"});
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Focused(), "Dia da semana");
+    Keys(Qt::Key_Down);
+    Keys(Qt::Key_Tab);
+    EXPECT_EQ(Focused(), "Hora inicial");
+    Type("9:00");
+    Keys(Qt::Key_Tab);
+    Type("24:00");
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Reasons(), Lines{});
+    EXPECT_EQ(Rows(3), (Lines{"Domingo|09:00|24:00", "Segunda-feira|08:00|18:00"}));
+    EXPECT_EQ(Stored("select dia_da_semana, hora_inicial, hora_final from expediente order by 1"),
+              (Lines{"1|09:00|24:00", "2|08:00|18:00"}));
+}
+
+TEST_F(CadastrosTest, AddsAnAbsenceByTheKeyboardAlone)
+{
+    TurnTo("Ausências");
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Focused(), "Código do funcionário");
+    Type("1");
+    for (const char* text : {"01/12/2026", "0:00", "02/12/2026", "24:00", "Curso"}) {
+        Keys(Qt::Key_Tab);
+        Type(text);
+    }
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Reasons(), Lines{});
+    EXPECT_EQ(Rows(6), Lines{"Bia|01/12/2026|00:00|02/12/2026|24:00|Curso"});
+    EXPECT_EQ(Stored("select codigo_do_funcionario, motivo from ausencia"), Lines{"1|Curso"});
+    EXPECT_EQ(Find<QComboBox>("Código do funcionário").currentText(), "1 - Bia");
 }
 
 TEST_F(CadastrosTest, MarksEveryRefusedFieldAndKeepsWhatIsTyped)

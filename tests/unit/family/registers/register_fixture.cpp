@@ -61,8 +61,9 @@ void RegisterTest::ExpectDone(const Register& of, Key key, const Typed& typed)
 std::vector<std::string> RegisterTest::AllRows()
 {
     std::vector<std::string> all;
-    for (const char* table : {"cliente", "canal_de_comunicacao", "animal", "servico", "tipo_de_servico",
-                              "funcionario", "especie", "raca", "feriado", "empresa", "auditoria"}) {
+    for (const char* table :
+         {"cliente", "canal_de_comunicacao", "animal", "servico", "tipo_de_servico", "funcionario", "especie",
+          "raca", "feriado", "empresa", "expediente", "horario_do_funcionario", "ausencia", "auditoria"}) {
         for (std::string& row : RowsOf(table, "1 = 1"))
             all.push_back(table + (" " + row));
     }

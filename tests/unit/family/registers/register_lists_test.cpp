@@ -126,6 +126,71 @@ TEST_F(RegisterLists, FindTheOthersByWhatTheyShow)
     EXPECT_EQ(page.rows[0].cells, (registers::Texts{"Banho", "Banho e tosa", "75", "60,00", "Ativo", "2"}));
 }
 
+TEST_F(RegisterLists, ShowHoursInTheOrderOfTheWeek)
+{
+    const Register& open = OpeningHoursRegister();
+    const Key evening =
+        Add(open, {{"Dia da semana", "Domingo"}, {"Hora inicial", "18:00"}, {"Hora final", "24:00"}}).key;
+    const Key morning =
+        Add(open, {{"Dia da semana", "Domingo"}, {"Hora inicial", "8:00"}, {"Hora final", "12:00"}}).key;
+    const ListPage page = open.Search(Data(), "", 0, 3);
+    EXPECT_EQ(page.found, 8U);
+    ASSERT_EQ(page.rows.size(), 3U);
+    EXPECT_EQ(page.rows[0].cells, (registers::Texts{"Domingo", "08:00", "12:00", std::to_string(morning)}));
+    EXPECT_EQ(page.rows[1].key, evening);
+    EXPECT_EQ(page.rows[2].cells[0], "Segunda-feira");
+    EXPECT_EQ(open.Find(Data(), "domin"), (Keys{morning, evening}));
+    EXPECT_EQ(open.Find(Data(), "18:00"), (Keys{evening}));
+    EXPECT_EQ(open.Find(Data(), "sabado").size(), 1U);
+
+    const Register& hours = EmployeeHoursRegister();
+    const auto add = [&](const char* employee, const char* day, const char* from, const char* until) {
+        return Add(hours,
+                   {{"Código do funcionário", employee},
+                    {"Dia da semana", day},
+                    {"Hora inicial", from},
+                    {"Hora final", until}})
+            .key;
+    };
+    const Key zeca = add("1", "Domingo", "08:00", "12:00");
+    const Key saturday = add("2", "Sábado", "08:00", "12:00");
+    const Key afternoon = add("2", "Segunda-feira", "13:00", "18:00");
+    const Key early = add("2", "Segunda-feira", "08:00", "12:00");
+    EXPECT_EQ(hours.Find(Data(), ""), (Keys{early, afternoon, saturday, zeca}));
+    EXPECT_EQ(hours.Find(Data(), "bia"), (Keys{early, afternoon, saturday}));
+    EXPECT_EQ(hours.Search(Data(), "", 0, 1).rows.at(0).cells,
+              (registers::Texts{"Bia", "Segunda-feira", "08:00", "12:00", std::to_string(early)}));
+}
+
+TEST_F(RegisterLists, ShowTheNewestAbsenceFirst)
+{
+    const Register& absences = AbsenceRegister();
+    const auto add = [&](const char* employee, const char* from, const char* time, const char* reason) {
+        return Add(absences,
+                   {{"Código do funcionário", employee},
+                    {"Data inicial", from},
+                    {"Hora inicial", time},
+                    {"Data final", "31/01/2027"},
+                    {"Hora final", "24:00"},
+                    {"Motivo", reason}})
+            .key;
+    };
+    const Key first = add("2", "30/11/2026", "08:00", "Dentista");
+    const Key newest = add("", "02/01/2027", "00:00", "Recesso");
+    const Key late = add("1", "01/12/2026", "14:00", "Férias");
+    const Key early = add("2", "01/12/2026", "09:00", "Férias");
+    EXPECT_EQ(absences.Find(Data(), ""), (Keys{newest, late, early, first}));
+    EXPECT_EQ(absences.Find(Data(), "ferias"), (Keys{late, early}));
+    EXPECT_EQ(absences.Find(Data(), "todos"), (Keys{newest}));
+    EXPECT_EQ(absences.Find(Data(), "01/12/2026"), (Keys{late, early}));
+    const ListPage page = absences.Search(Data(), "", 0, 2);
+    ASSERT_EQ(page.rows.size(), 2U);
+    EXPECT_EQ(page.rows[0].cells,
+              (registers::Texts{"Todos", "02/01/2027", "00:00", "31/01/2027", "24:00", "Recesso",
+                                std::to_string(newest)}));
+    EXPECT_EQ(page.rows[1].cells[0], "Zeca");
+}
+
 TEST_F(RegisterLists, LeaveOutARowThatIsGoneSinceItWasFound)
 {
     const Keys found = EmployeeRegister().Find(Data(), "");

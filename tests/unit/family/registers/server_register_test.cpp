@@ -111,4 +111,44 @@ TEST_F(PostgresqlRegisters, TakeADocumentOnceFromDesksThatBringItAtTheSameMoment
     EXPECT_EQ(refused, 2 * Desks - 2);
 }
 
+TEST_F(PostgresqlRegisters, KeepOneRowOfTheOpeningHoursFromDesksThatRemoveThemAtTheSameMoment)
+{
+    const Register& open = registers::OpeningHoursRegister();
+    const std::vector<Key> keys = open.Find(*database_, "");
+    ASSERT_EQ(keys.size(), 6U);
+    std::barrier begin(static_cast<std::ptrdiff_t>(keys.size()));
+    std::atomic<int> done = 0;
+    std::vector<std::thread> desks;
+    for (const Key key : keys)
+        desks.emplace_back([&, key] {
+            const auto database = OpenDatabase(shop_.Address());
+            begin.arrive_and_wait();
+            done += open.Remove(*database, key, Lia).IsDone() ? 1 : 0;
+        });
+    for (std::thread& desk : desks)
+        desk.join();
+    EXPECT_EQ(done, 5);
+    EXPECT_EQ(shop_.Run("select count(*) from expediente").front(), "1");
+}
+
+TEST_F(PostgresqlRegisters, WriteAnAbsenceOfOneAndOfAll)
+{
+    const Register& absences = registers::AbsenceRegister();
+    registers::Texts typed = {"", "2", "01/12/2026", "08:00", "02/12/2026", "24:00", "Curso"};
+    const SaveAnswer added = absences.Save(*database_, 0, {}, typed, Lia);
+    ASSERT_TRUE(added.IsDone());
+    registers::Texts before = absences.Read(*database_, added.key).value();
+    typed[0] = before[0];
+    EXPECT_EQ(before, typed);
+    typed[FieldNamed(absences.Fields(), "Código do funcionário")].clear();
+    EXPECT_TRUE(absences.Save(*database_, added.key, before, typed, Lia).IsDone());
+    EXPECT_EQ(shop_
+                  .Run("select coalesce(codigo_do_funcionario, 0) || ' ' || data_inicial || ' ' ||"
+                       " hora_final from ausencia")
+                  .front(),
+              "0 2026-12-01 24:00");
+    EXPECT_TRUE(absences.Remove(*database_, added.key, Lia).IsDone());
+    EXPECT_EQ(shop_.Run("select count(*) from ausencia").front(), "0");
+}
+
 } // namespace kova::family::test
