@@ -8,11 +8,14 @@
 #include <QShortcut>
 #include <QStackedWidget>
 
+#include <algorithm>
+
 namespace kova::registers {
 
 namespace {
 
-constexpr int WidthOfNames = 150;
+constexpr int LeastWidthOfNames = 150;
+constexpr int RoomBesideNames = 16;
 constexpr int HeightOfName = 32;
 
 QString Shown(std::string_view text)
@@ -31,15 +34,18 @@ RegistersPage::RegistersPage(Desk desk, QWidget* parent)
 {
     names_->setObjectName(QStringLiteral("cadastros"));
     names_->setAccessibleName(QStringLiteral("Cadastros"));
-    names_->setFixedWidth(WidthOfNames);
+    names_->ensurePolished();
+    int widest = 0;
     for (const family::registers::Register* one : family::registers::Registers()) {
         auto* item = new QListWidgetItem(Shown(one->Name().title), names_);
+        widest = std::max(widest, names_->fontMetrics().horizontalAdvance(item->text()));
         item->setSizeHint({0, HeightOfName});
         pages_->addWidget(new QWidget(pages_));
     }
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 12);
     layout->setSpacing(16);
+    names_->setFixedWidth(std::max(LeastWidthOfNames, widest + RoomBesideNames));
     layout->addWidget(names_);
     layout->addWidget(pages_, 1);
     connect(names_, &QListWidget::currentRowChanged, this, [this](int row) { TurnTo(row); });

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPlainTextEdit>
+#include <QStyle>
 
 namespace kova::registers::test {
 
@@ -19,6 +20,17 @@ TEST_F(CadastrosTest, NamesEveryRegisterOfTheShop)
          {"Clientes", "Animais", "Serviços", "Tipos de serviço", "Funcionários", "Horários dos funcionários",
           "Ausências", "Espécies", "Raças", "Feriados", "Expediente", "Empresa"})
         EXPECT_NE(std::find(names.begin(), names.end(), name), names.end()) << name;
+}
+
+TEST_F(CadastrosTest, HasRoomForTheLongestName)
+{
+    auto& list = Find<QListWidget>("cadastros");
+    const int margin = 1 + list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list);
+    for (int row = 0; row < list.count(); ++row) {
+        const QString name = list.item(row)->text();
+        EXPECT_GE(list.viewport()->width(), list.fontMetrics().horizontalAdvance(name) + 2 * margin)
+            << name.toStdString();
+    }
 }
 
 TEST_F(CadastrosTest, OpensEveryOneOfThemWithoutAChange)
