@@ -179,7 +179,7 @@ public:
                      Of(WhoIsAway,
                         ShownColumns(AbsenceColumns(),
                                      {column::FromDate, column::FromTime, column::UntilDate,
-                                      column::UntilTime, column::Reason, "Código"})))
+                                      column::UntilTime, column::Reason})))
     {
     }
 
