@@ -11,9 +11,10 @@ int Run(const Call& call, Surroundings& surroundings)
     const std::string company = call.Option("--company").value_or("");
     if (company.find_first_not_of(" \t") == std::string::npos)
         call.Refuse("Informe com --company o nome da empresa, que sai em tudo que a agenda imprime.");
-    const std::string user = call.Option("--user").value_or(host::NameOfThisUser());
-    family::NewShop shop{{}, user, call.Option("--employee").value_or(user), ""};
+    family::NewShop shop;
     shop.company.nomeFantasia = company;
+    shop.user = call.Option("--user").value_or(host::NameOfThisUser());
+    shop.employee = call.Option("--employee").value_or(shop.user);
     family::CreateNewShop(call.Operand(0), shop);
     surroundings.output << "Banco de dados criado: " << call.Operand(0) << "\n";
     return 0;

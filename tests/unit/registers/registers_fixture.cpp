@@ -29,8 +29,10 @@ void Add(family::Database& database, const Register& to,
 
 void FillShop(const std::string& file)
 {
-    family::NewShop shop{{}, "Ana", "Bia", ""};
+    family::NewShop shop;
     shop.company.nomeFantasia = "Pet Shop Céu";
+    shop.user = "Ana";
+    shop.employee = "Bia";
     family::CreateNewShop(file, shop);
     const auto database = family::OpenDatabase(file);
     const Register& customers = family::registers::CustomerRegister();
