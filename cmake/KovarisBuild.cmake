@@ -72,10 +72,15 @@ else()
     add_link_options(-Wl,--no-undefined)
 endif()
 
-# A component library: a shared object that exports its entry points and nothing else.
-function(kovaris_component_library target)
+# A library that is loaded by its name and exports what the file names, one of this folder, and nothing else.
+function(kovaris_loaded_library target exports)
     add_library(${target} SHARED ${ARGN})
-    set(exports ${CMAKE_SOURCE_DIR}/cmake/component_library.exports)
+    set(exports ${CMAKE_SOURCE_DIR}/cmake/${exports})
     target_link_options(${target} PRIVATE -Wl,--version-script=${exports})
     set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
+endfunction()
+
+# A component library: what it exports are its entry points.
+function(kovaris_component_library target)
+    kovaris_loaded_library(${target} component_library.exports ${ARGN})
 endfunction()

@@ -7,4 +7,8 @@ namespace kova::system {
 /// The file of the program that runs, without links. Throws std::filesystem::filesystem_error.
 std::filesystem::path ProgramPath();
 
+/// The file that the caller is part of, without links: the program's, or that of a library which is loaded.
+/// Throws std::filesystem::filesystem_error.
+std::filesystem::path OwnPath();
+
 } // namespace kova::system

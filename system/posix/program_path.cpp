@@ -1,7 +1,22 @@
 #include "system/program_path.hpp"
 
+#include <dlfcn.h>
+#include <link.h>
+
 namespace kova::system {
 
 std::filesystem::path ProgramPath() { return std::filesystem::canonical("/proc/self/exe"); }
+
+std::filesystem::path OwnPath()
+{
+    // Each library is linked with a function of this name for itself.
+    Dl_info place{};
+    link_map* file = nullptr;
+    const int found = ::dladdr1(reinterpret_cast<const void*>(&OwnPath), &place,
+                                reinterpret_cast<void**>(&file), RTLD_DL_LINKMAP);
+    // The program itself goes without a name there.
+    const bool isLibrary = found != 0 && file != nullptr && *file->l_name != '\0';
+    return isLibrary ? std::filesystem::canonical(file->l_name) : ProgramPath();
+}
 
 } // namespace kova::system

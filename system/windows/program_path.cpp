@@ -4,11 +4,14 @@
 
 namespace kova::system {
 
-std::filesystem::path ProgramPath()
+namespace {
+
+/// The file that is loaded there; the program's where it is null.
+std::filesystem::path FileOf(HMODULE module)
 {
     std::wstring name(MAX_PATH, L'\0');
     for (;;) {
-        const DWORD length = ::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()));
+        const DWORD length = ::GetModuleFileNameW(module, name.data(), static_cast<DWORD>(name.size()));
         if (length == 0)
             throw std::filesystem::filesystem_error("program", LastError());
         if (length < name.size())
@@ -16,6 +19,21 @@ std::filesystem::path ProgramPath()
         // It was cut off.
         name.resize(2 * name.size());
     }
+}
+
+} // namespace
+
+std::filesystem::path ProgramPath() { return FileOf(nullptr); }
+
+std::filesystem::path OwnPath()
+{
+    // Each library is linked with a function of this name for itself.
+    HMODULE module = nullptr;
+    if (!::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS
+                                  | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                              reinterpret_cast<LPCWSTR>(&OwnPath), &module))
+        throw std::filesystem::filesystem_error("library", LastError());
+    return FileOf(module);
 }
 
 } // namespace kova::system

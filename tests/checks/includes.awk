@@ -55,7 +55,7 @@ function families_of(header) {
         return "utf8proc"
     if (header ~ /^(gtest|gmock)\//)
         return "gtest"
-    if (header ~ /^(sys\/[a-z]+|dlfcn|netdb|poll|pwd|unistd)\.h$/)
+    if (header ~ /^(sys\/[a-z]+|dlfcn|link|netdb|poll|pwd|unistd)\.h$/)
         return "posix"
     if (header ~ /^(initguid|io|knownfolders|lm|shellapi|shlobj|windows|winsock2|ws2tcpip)\.h$/)
         return "windows"

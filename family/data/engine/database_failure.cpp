@@ -2,13 +2,14 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "family/data/engine/long_work.hpp"
+#include "family/data/engine/server_client.hpp"
 #include "system/want_of_room.hpp"
 
-#include <soci/postgresql/soci-postgresql.h>
 #include <soci/soci.h>
 #include <soci/sqlite3/soci-sqlite3.h>
 
 #include <filesystem>
+#include <optional>
 
 namespace kova::family {
 
@@ -112,6 +113,13 @@ std::string MessageOf(const std::runtime_error& cause)
     return cause.what();
 }
 
+/// Nothing where no server has reported it; without its client none has been asked.
+std::optional<std::string> StateOnServer(const std::runtime_error& cause)
+{
+    const ServerClient* client = LoadedServerClient();
+    return client != nullptr ? client->StateOf(cause) : std::nullopt;
+}
+
 std::string AdviceFor(const std::error_code& cause)
 {
     if (system::IsWantOfRoom(cause))
@@ -181,8 +189,8 @@ DatabaseFailure UnwritableFile(const std::string& path, const std::error_code& c
 DatabaseFailure TranslatedFailure(const std::string& path, const std::runtime_error& cause)
 {
     const std::string message = MessageOf(cause);
-    if (const auto* reported = dynamic_cast<const soci::postgresql_soci_error*>(&cause))
-        return ServerFailure(path, reported->sqlstate(), message);
+    if (const auto state = StateOnServer(cause))
+        return ServerFailure(path, *state, message);
     if (const auto* reported = dynamic_cast<const soci::sqlite3_soci_error*>(&cause))
         return FileFailure(path, reported->result(), message);
     if (const auto* refused = dynamic_cast<const std::filesystem::filesystem_error*>(&cause))

@@ -1,34 +1,19 @@
 #include "family/data/engine/server_connection.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "family/data/engine/server_client.hpp"
 #include "system/network.hpp"
 
-#include <libpq-fe.h>
-
 #include <cstdlib>
-#include <memory>
-#include <vector>
 
 namespace kova::family {
 
 namespace {
 
-using Parameters = std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)>;
-using Connection = std::unique_ptr<PGconn, decltype(&PQfinish)>;
-
-/// What the address says and nothing else; null where it cannot be understood.
-Parameters ParametersOf(const std::string& address)
+std::string ValueOf(const AddressParts& parts, const char* keyword)
 {
-    return Parameters(PQconninfoParse(address.c_str(), nullptr), PQconninfoFree);
-}
-
-std::string ValueOf(const PQconninfoOption* parameters, std::string_view keyword)
-{
-    for (const PQconninfoOption* one = parameters; one != nullptr && one->keyword != nullptr; ++one) {
-        if (keyword == one->keyword && one->val != nullptr)
-            return one->val;
-    }
-    return {};
+    const auto found = parts.find(keyword);
+    return found == parts.end() ? std::string() : found->second;
 }
 
 /// What an address gets where it does not say otherwise. An environment variable counts before it.
@@ -43,50 +28,10 @@ constexpr Default Defaults[] = {
     {"client_encoding", "UTF8", nullptr},
 };
 
-bool IsGiven(const PQconninfoOption* parameters, const Default& one)
+bool IsGiven(const AddressParts& parts, const Default& one)
 {
-    return !ValueOf(parameters, one.keyword).empty()
+    return !ValueOf(parts, one.keyword).empty()
         || (one.variable != nullptr && std::getenv(one.variable) != nullptr);
-}
-
-/// An attempt that has ended one way or the other, with its failure told in full.
-struct Attempt {
-    Connection connection;
-    /// It was about to be protected when it ended.
-    bool atProtection = false;
-};
-
-Attempt Ask(const std::string& address)
-{
-    Connection asked(PQconnectStart(address.c_str()), PQfinish);
-    PQsetErrorVerbosity(asked.get(), PQERRORS_SQLSTATE);
-    bool atProtection = false;
-    PostgresPollingStatusType state = PGRES_POLLING_WRITING;
-    while (PQstatus(asked.get()) != CONNECTION_BAD && state != PGRES_POLLING_OK
-           && state != PGRES_POLLING_FAILED) {
-        atProtection = PQstatus(asked.get()) == CONNECTION_SSL_STARTUP;
-        constexpr int LongestWaitMs = 5000;
-        const auto awaited = state == PGRES_POLLING_READING ? system::SocketEvent::CanBeRead
-                                                            : system::SocketEvent::CanBeWritten;
-        if (!system::AwaitSocket(PQsocket(asked.get()), awaited, LongestWaitMs))
-            break;
-        state = PQconnectPoll(asked.get());
-    }
-    return {std::move(asked), atProtection};
-}
-
-/// The five characters behind the severity, as in "FATAL:  28P01"; "" where the server gave none.
-std::string StateIn(const std::string& reported)
-{
-    constexpr std::string_view Mark = ":  ";
-    constexpr std::size_t Length = 5;
-    const std::size_t at = reported.rfind(Mark);
-    if (at == std::string::npos)
-        return {};
-    const std::string state = reported.substr(at + Mark.size(), Length);
-    const bool isState = state.size() == Length
-        && state.find_first_not_of("0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ") == std::string::npos;
-    return isState ? state : std::string();
 }
 
 bool IsUnknownHost(const std::string& host)
@@ -107,11 +52,11 @@ bool IsServer(const std::string& source)
 
 std::optional<std::string> CheckAddress(const std::string& address)
 {
-    const Parameters parameters = ParametersOf(address);
-    if (!parameters)
+    const auto parts = RequireServerClient().Read(address);
+    if (!parts)
         return "O endereço do servidor não foi entendido. Informe-o como "
                "postgresql://usuario@servidor/banco ou postgresql:///?service=NOME.";
-    if (!ValueOf(parameters.get(), "password").empty() || !ValueOf(parameters.get(), "sslpassword").empty())
+    if (!ValueOf(*parts, "password").empty() || !ValueOf(*parts, "sslpassword").empty())
         return "O endereço do servidor contém uma senha, que outras pessoas podem ler na linha de comando. "
                "Tire a senha do endereço e guarde-a no arquivo de senhas (~/.pgpass, ou o que PGPASSFILE "
                "indicar) ou em um arquivo de serviço.";
@@ -120,11 +65,11 @@ std::optional<std::string> CheckAddress(const std::string& address)
 
 std::string ConnectionTo(const std::string& address)
 {
-    const Parameters parameters = ParametersOf(address);
+    const AddressParts parts = RequireServerClient().Read(address).value_or(AddressParts());
     std::string connection = address;
     char separator = address.find('?') == std::string::npos ? '?' : '&';
     for (const Default& one : Defaults) {
-        if (IsGiven(parameters.get(), one))
+        if (IsGiven(parts, one))
             continue;
         connection.append(1, separator).append(one.keyword).append("=").append(one.value);
         separator = '&';
@@ -135,17 +80,16 @@ std::string ConnectionTo(const std::string& address)
 DatabaseFailure RefusalOfServer(const std::string& address, const std::string& connection,
                                 const std::runtime_error& cause)
 {
-    const Attempt attempt = Ask(connection);
-    const PGconn* asked = attempt.connection.get();
-    if (PQconnectionNeedsPassword(asked) != 0)
+    const ConnectionAttempt attempt = RequireServerClient().TryConnection(connection);
+    if (attempt.wantsPassword)
         return DatabaseFailure(
             Opening(address)
             + "O servidor pede uma senha. Guarde-a no arquivo de senhas (~/.pgpass, ou o que "
               "PGPASSFILE indicar), que só o seu usuário pode ler.");
-    if (const std::string state = StateIn(PQerrorMessage(asked)); !state.empty())
-        return ServerFailure(address, state, cause.what());
-    if (const char* host = PQhost(asked); host != nullptr && IsUnknownHost(host)) {
-        const std::string unknown = std::string("O servidor \"") + host
+    if (!attempt.state.empty())
+        return ServerFailure(address, attempt.state, cause.what());
+    if (IsUnknownHost(attempt.host)) {
+        const std::string unknown = "O servidor \"" + attempt.host
             + "\" não foi encontrado pelo nome. Verifique o endereço e a rede.";
         return {Opening(address) + unknown, Fault::ConnectionLost, unknown};
     }

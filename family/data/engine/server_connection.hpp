@@ -7,7 +7,8 @@
 
 namespace kova::family {
 
-/// Whether a data source is a database server ("postgresql://...") and not a file.
+/// Whether a data source is a database server ("postgresql://...") and not a file. The only one here that
+/// does not need the client library: the others fail with a DatabaseFailure where this installation lacks it.
 bool IsServer(const std::string& source);
 
 /// Why a server's address cannot be used, in Portuguese; nothing where it can. Asks nobody. The text never

@@ -21,17 +21,6 @@ ProgramResult Open(const fs::path& database, const fs::path& home)
                       home);
 }
 
-/// A copy of the programs' folder, in which a test may damage what it likes.
-fs::path CopyOfPrograms(const fs::path& home)
-{
-    const fs::path copy = home / "programas";
-    fs::create_directory(copy);
-    fs::copy(BuildFolder() / "kovaris", copy);
-    for (const char* library : {"libKOVA_A_Agenda.so", "libKOVA_A_Familia.so", "libKOVA_N_Familia.so"})
-        fs::copy(BuildFolder() / library, copy);
-    return copy;
-}
-
 fs::path RegistryIn(const fs::path& home) { return home / ".local/share/kovaris/componentes.reg"; }
 
 } // namespace

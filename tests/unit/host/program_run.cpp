@@ -78,6 +78,16 @@ fs::path BuildFolder()
     return folder;
 }
 
+fs::path CopyOfPrograms(const fs::path& home)
+{
+    const fs::path copy = home / "programas";
+    fs::create_directory(copy);
+    for (const char* file : {"kovaris", "agenda-data", "libKOVA_A_Agenda.so", "libKOVA_A_Familia.so",
+                             "libKOVA_N_Familia.so", "libkovaris-postgresql.so"})
+        fs::copy(BuildFolder() / file, copy);
+    return copy;
+}
+
 std::string ContentOf(const fs::path& file)
 {
     std::ifstream stream(file, std::ios::binary);

@@ -36,8 +36,10 @@ ProgramResult RunProgram(const fs::path& program, const std::vector<std::string>
 /// The application.
 ProgramResult RunKovaris(const std::vector<std::string>& arguments, const fs::path& home);
 
-/// Folder of the programs and component libraries.
+/// Folder of the programs and their libraries.
 fs::path BuildFolder();
+/// A copy of that folder in the user's home, in which a test may damage what it likes.
+fs::path CopyOfPrograms(const fs::path& home);
 
 /// Whole content of a file; "" where there is none.
 std::string ContentOf(const fs::path& file);

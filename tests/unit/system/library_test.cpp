@@ -1,4 +1,5 @@
 #include "system/library.hpp"
+#include "system/program_path.hpp"
 #include "tests/unit/system/folder_fixture.hpp"
 
 namespace kova::system {
@@ -29,6 +30,17 @@ TEST_F(LibraryTest, IsLoadedFromAFolderWithAccents)
     const auto answer = reinterpret_cast<int (*)()>(library.Find("Answer"));
     ASSERT_NE(answer, nullptr);
     EXPECT_EQ(answer(), 42);
+}
+
+TEST_F(LibraryTest, KnowsItsOwnFileWhereTheProgramKnowsItsOwn)
+{
+    const std::string file = In(LibraryFile("ração"));
+    std::filesystem::copy_file(PathOf(TEST_LIBRARY), PathOf(file));
+    const Library library(file);
+    const auto ownFile = reinterpret_cast<const char* (*)()>(library.Find("OwnFile"));
+    ASSERT_NE(ownFile, nullptr);
+    EXPECT_EQ(ownFile(), TextOf(std::filesystem::canonical(PathOf(file))));
+    EXPECT_EQ(OwnPath(), ProgramPath());
 }
 
 TEST_F(LibraryTest, FindsNothingUnderANameThatItDoesNotExport)

@@ -1,5 +1,6 @@
 # What the operating system does, by tests that hold on each and those of this one.
 add_library(test_system_library SHARED ${CMAKE_CURRENT_LIST_DIR}/libraries/answering.cpp)
+target_link_libraries(test_system_library PRIVATE system)
 
 kovaris_test_program(test_system system)
 get_target_property(system_tests test_system SOURCES)

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace kova::family {
+
+/// What an address says, by keyword.
+using AddressParts = std::map<std::string, std::string>;
+
+/// What came of an attempt to connect.
+struct ConnectionAttempt {
+    bool wantsPassword = false;
+    /// The state of five characters (SQLSTATE) that the server gave; "" where it gave none.
+    std::string state;
+    /// Whom the attempt was about last; "" where it came to nobody.
+    std::string host;
+    /// The connection was about to be protected when the attempt ended.
+    bool atProtection = false;
+};
+
+/// What is asked of the client library of servers. It brings some thirty libraries with it, which take longer
+/// to load than a shop in a file takes to open: only a library of its own needs it, which is loaded when a
+/// server is asked for first.
+class ServerClient {
+public:
+    virtual ~ServerClient() = default;
+
+    /// Nothing where the address cannot be understood. Asks nobody.
+    virtual std::optional<AddressParts> Read(const std::string& address) const = 0;
+    /// Connects for the sake of what comes of it, and ends the connection.
+    virtual ConnectionAttempt TryConnection(const std::string& connection) const = 0;
+    /// The state (SQLSTATE) under which a server's back end reported this; nothing where none has.
+    virtual std::optional<std::string> StateOf(const std::runtime_error& reported) const = 0;
+};
+
+/// The name of that library, and of the function that it exports; its ServerClient stays as long as it does.
+inline constexpr const char* ServerClientLibrary = "kovaris-postgresql";
+inline constexpr const char* ServerClientEntry = "KovaServerClient";
+using ServerClientFunction = const ServerClient* (*)();
+
+/// Loads the library that lies beside the program or library which this is part of, the first time; it then
+/// stays for the rest of the process. Fails with a DatabaseFailure where it is missing or damaged. For any
+/// thread.
+const ServerClient& RequireServerClient();
+
+/// Null where nobody has asked for a server so far. For any thread.
+const ServerClient* LoadedServerClient();
+
+} // namespace kova::family
