@@ -223,11 +223,11 @@ Act Chooser::Keys()
         "Tab",  "Tab",   "Tab",    "Shift+Tab", "Return", "Return", "Esc",   "Down",      "Down", "Up",
         "Left", "Right", "PgDown", "PgUp",      "Home",   "End",    "Space", "Backspace", "Del"};
     static const std::vector<std::string> commands{
-        "F1",     "F2",        "F3",       "F4",       "F5",          "F6",        "F7",        "F8",
-        "F9",     "F10",       "F11",      "F12",      "Ctrl+1",      "Ctrl+2",    "Ctrl+3",    "Ctrl+4",
-        "Ctrl+5", "Ctrl+S",    "Ctrl+S",   "Ctrl+P",   "Ctrl+A",      "Ctrl+C",    "Ctrl+V",    "Ctrl+X",
-        "Ctrl+Z", "Ctrl+Home", "Ctrl+End", "Alt+Down", "Alt+Left",    "Alt+Right", "Alt+A",     "Alt+C",
-        "Alt+S",  "Alt+F",     "Alt+R",    "Ctrl+F",   "Ctrl+PgDown", "Ctrl+PgUp", "Ctrl+Left", "Ctrl+Right"};
+        "F1",        "F2",       "F3",       "F4",          "F5",        "F6",        "F7",        "F8",
+        "F9",        "F11",      "F12",      "Ctrl+1",      "Ctrl+2",    "Ctrl+3",    "Ctrl+4",    "Ctrl+5",
+        "Ctrl+S",    "Ctrl+S",   "Ctrl+P",   "Ctrl+A",      "Ctrl+C",    "Ctrl+V",    "Ctrl+X",    "Ctrl+Z",
+        "Ctrl+Home", "Ctrl+End", "Alt+Down", "Alt+Left",    "Alt+Right", "Alt+A",     "Alt+C",     "Alt+S",
+        "Alt+F",     "Alt+R",    "Ctrl+F",   "Ctrl+PgDown", "Ctrl+PgUp", "Ctrl+Left", "Ctrl+Right"};
     return Key(chance_.InHundred(60) ? chance_.OneOf(common) : chance_.OneOf(commands));
 }
 

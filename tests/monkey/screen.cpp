@@ -13,6 +13,16 @@ namespace kova::monkey {
 
 namespace {
 
+// The agenda is what is tried: the row above it leads to other areas and other shops.
+bool LeadsAway(const QWidget& widget)
+{
+    for (const QWidget* one = &widget; one != nullptr; one = one->parentWidget()) {
+        if (one->objectName() == QLatin1String("barra"))
+            return true;
+    }
+    return false;
+}
+
 qt::FormWidget* FormIn(QWidget* top)
 {
     if (auto* form = dynamic_cast<qt::FormWidget*>(top))
@@ -152,7 +162,7 @@ std::vector<std::pair<std::string, QWidget*>> Targets()
     QMap<QString, int> counts;
     const auto children = front ? front->findChildren<QWidget*>() : QList<QWidget*>();
     for (QWidget* child : children) {
-        if (!child->isVisible())
+        if (!child->isVisible() || LeadsAway(*child))
             continue;
         const QString kind = QString::fromLatin1(child->metaObject()->className());
         const int number = counts[kind]++;
