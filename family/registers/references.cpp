@@ -21,6 +21,8 @@ constexpr Words AllWords[] = {
     {"animal", "animal", "animais"},
     {"canal_de_comunicacao", "canal de comunicação", "canais de comunicação"},
     {"pacote", "pacote", "pacotes"},
+    {"horario_do_funcionario", "horário de trabalho", "horários de trabalho"},
+    {"ausencia", "ausência", "ausências"},
     {"agendamento", "agendamento", "agendamentos"},
     {"horario_do_funcionario", "horário de trabalho", "horários de trabalho"},
     {"ausencia", "ausência", "ausências"},

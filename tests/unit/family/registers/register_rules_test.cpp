@@ -223,6 +223,14 @@ TEST_F(RegisterRules, RemoveOnlyWhatNothingRefersTo)
     EXPECT_EQ(AllRows(), before);
 }
 
+TEST_F(RegisterRules, HaveAWordForEveryTableThatRefersToThem)
+{
+    Run("insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial, hora_final)"
+        " values (3, 2, '08:00', '12:00')");
+    EXPECT_EQ(EmployeeRegister().Remove(Data(), 3, lia_).text,
+              "Está em uso (1 horário de trabalho) e não pode ser excluído. Marque a situação como Inativo.");
+}
+
 TEST_F(RegisterRules, RemoveTheLastActiveEmployeeNever)
 {
     Run("delete from agendamento");
