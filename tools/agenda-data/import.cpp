@@ -1,4 +1,5 @@
 #include "family/data/audit/import_audit.hpp"
+#include "family/data/copies/import_copy.hpp"
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/sources/data_source.hpp"
@@ -8,12 +9,26 @@
 #include "tools/agenda-data/csv/csv_options.hpp"
 #include "tools/agenda-data/csv/import_run.hpp"
 #include "tools/agenda-data/csv/text_file.hpp"
+#include "tools/agenda-data/shown_work.hpp"
 
 namespace kova::data {
 
 namespace {
 
 constexpr const char* Checking = "Conferência";
+
+/// A smaller file is copied before anybody asks how far it is.
+constexpr long long PagesWithoutProgress = 10'000;
+
+family::LongWork WorkOfCopy(std::ostream& output)
+{
+    family::LongWork work = ShownWork(output, "Cópia");
+    work.progress = [tell = work.progress](long long done, long long total) {
+        if (total > PagesWithoutProgress)
+            tell(done, total);
+    };
+    return work;
+}
 
 std::string Counted(long long count, const char* one, const char* many)
 {
@@ -44,6 +59,9 @@ std::optional<long long> ChangesOfOthers(family::Database& database)
 
 /// Lines that bring a record that was not there.
 long long NewRecords(const ImportRun& run) { return run.Records() - run.Updated() - run.LeftOut(); }
+
+/// Whether anything would stand otherwise in the database than before.
+bool Writes(const ImportRun& run) { return NewRecords(run) + run.Changing() > 0; }
 
 /// What becomes of the other lines: "; 2 registros alterados", or nothing.
 std::string Others(const ImportRun& run)
@@ -97,7 +115,8 @@ public:
         return run_.ProblemCount() == 0;
     }
 
-    /// Writes what was good; whether it still was, as others may have written since then.
+    /// Writes what was good; whether it still was, as others may have written since then. What changes
+    /// nothing leaves no trace.
     bool Write(family::ImportedFile file)
     {
         family::WriteTransaction transaction(*database_);
@@ -105,9 +124,11 @@ public:
         run_.LockRoom();
         if (!changes_ || changes_ != ChangesOfOthers(*database_))
             run_.Check(*database_, "Nova conferência");
-        if (run_.ProblemCount() > 0)
-            return false;
+        if (run_.ProblemCount() > 0 || !Writes(run_))
+            return run_.ProblemCount() == 0;
         file.records = run_.Records();
+        file.added = NewRecords(run_);
+        file.changed = run_.Changing();
         family::BeginImport(*database_, author_, file);
         run_.Write(*database_, author_);
         if (run_.ProblemCount() > 0)
@@ -123,6 +144,28 @@ private:
     std::optional<long long> changes_;
 };
 
+std::string CopyFor(const Call& call, Surroundings& surroundings)
+{
+    return call.Has("--no-copy")
+        ? std::string()
+        : family::CopyBeforeImport(call.Operand(0), surroundings.now, WorkOfCopy(surroundings.error));
+}
+
+int Bring(ImportRun& run, const Call& call, family::ImportedFile file, Surroundings& surroundings)
+{
+    Importing importing(run, call.Operand(0), AuthorOf(call, surroundings.now));
+    if (!importing.IsGood())
+        return Refuse(run, surroundings);
+    const std::string copy = Writes(run) ? CopyFor(call, surroundings) : std::string();
+    if (Writes(run) && !importing.Write(std::move(file)))
+        return Refuse(run, surroundings);
+    surroundings.output << run.Changes() << Counted(NewRecords(run), "linha importada", "linhas importadas")
+                        << Others(run) << ".\n";
+    if (!copy.empty())
+        surroundings.output << "Cópia de antes da importação: " << copy << "\n";
+    return 0;
+}
+
 int Run(const Call& call, Surroundings& surroundings)
 {
     const Register& into = FindRegister(call, 1);
@@ -135,12 +178,7 @@ int Run(const Call& call, Surroundings& surroundings)
     ImportRun run(into, file.text, separator.value_or(RecogniseSeparator(file.text)), known, surroundings);
     if (call.Has("--dry-run"))
         return Rehearse(run, call.Operand(0), surroundings);
-    Importing importing(run, call.Operand(0), AuthorOf(call, surroundings.now));
-    if (!importing.IsGood() || !importing.Write({path, NameOf(file.encoding), std::string(into.name)}))
-        return Refuse(run, surroundings);
-    surroundings.output << run.Changes() << Counted(NewRecords(run), "linha importada", "linhas importadas")
-                        << Others(run) << ".\n";
-    return 0;
+    return Bring(run, call, {path, NameOf(file.encoding), std::string(into.name)}, surroundings);
 }
 
 } // namespace
@@ -152,11 +190,13 @@ const Command ImportCommand{
      "duplica nada. Com --dry-run só confere. CADASTRO: clientes, animais, especies,\n"
      "racas, tipos, servicos, funcionarios, feriados, empresa ou agendamentos. NOME fica na auditoria. Com\n"
      "--update uma linha que traz o código de um registro do banco muda o que nele é\n"
-     "diferente; cada mudança é mostrada, com o que havia antes.",
+     "diferente; cada mudança é mostrada, com o que havia antes. Antes de gravar, o arquivo\n"
+     "do banco é copiado para o lado dele; as últimas cinco destas cópias ficam.",
      {"BANCO", "CADASTRO", "ARQUIVO"},
      {{"--dry-run", {}, "Só confere: nada é gravado."},
       {"--update", {}, "Muda os registros que já estão no banco, pelo código."},
       {"--skip-existing", {}, "Deixa de fora as linhas que já estão no banco."},
+      {"--no-copy", {}, "Não copia o arquivo do banco antes, como quando falta espaço no disco."},
       EncodingOption,
       SeparatorOption,
       {"--user", "NOME", "Quem importa (padrão: o usuário do computador)."}}},

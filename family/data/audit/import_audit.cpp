@@ -44,7 +44,9 @@ void BeginImport(Database& database, Author& author, const ImportedFile& file)
                     .Add("cadastro", file.registerName)
                     .Add("arquivo", file.path)
                     .Add("codificacao", file.encoding)
-                    .Add("linhas", file.records));
+                    .Add("linhas", file.records)
+                    .Add("novos", file.added)
+                    .Add("alterados", file.changed));
 }
 
 } // namespace kova::family

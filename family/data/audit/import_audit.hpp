@@ -11,7 +11,8 @@ struct ImportedFile {
     std::string encoding;
     /// The name of the register that it goes into.
     std::string registerName;
-    long long records = 0;
+    /// Its lines with a record; those of them that bring a new one, and those that change a stored one.
+    long long records = 0, added = 0, changed = 0;
 };
 
 /// Waits until no other import is writing; from then on, until the end of the transaction that is open, none

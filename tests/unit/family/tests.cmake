@@ -10,7 +10,7 @@ if(NOT KOVARIS_CORE_ONLY)
     # nothing of a server stands for (how they are opened, copied by pages every day, brought up to date and waited
     # for), and what reads the audit by a function of SQLite. The copy in
     # ThatIsDamagedOnTheDisk would write the damaged pages again: rows are copied, not pages.
-    kovaris_test_on_server(test_family "DataSource.*:SchemaMigration.*:TheDatabaseComponent.*:DailyBackup.*"
+    kovaris_test_on_server(test_family "DataSource.*:SchemaMigration.*:TheDatabaseComponent.*:DailyBackup.*:ImportCopy.*"
         "DatabaseBackup.ThatIsDamagedOnTheDiskIsNotTakenForACopy"
         "StatusWrite.TellsThatTheDataAreInUseAndWorksWhenTheyAreFree"
         "WritesAudit.KeepsTheWholeRowBeforeAndAfterAnAlteration"

@@ -41,7 +41,7 @@ void LineUpdates::Check(family::Database& database, Key key, const Texts& before
     if (!answer.IsDone())
         return Refuse(answer, typed, line);
     if (!answer.changed.empty())
-        ++changing_;
+        changing_.insert(line.Number());
     for (const ChangedField& changed : answer.changed)
         changes_ += "linha " + std::to_string(line.Number()) + ": "
             + std::string(register_.Fields()[changed.field].label) + " " + Quoted(changed.before) + " → "
@@ -63,6 +63,8 @@ LineUpdates::Texts LineUpdates::TypedOver(Texts texts, Line& line) const
 
 void LineUpdates::Write(family::Database& database, Line& line, const family::Author& author) const
 {
+    if (!changing_.contains(line.Number()))
+        return;
     const Key key = keys_.at(line.Number());
     const auto before = register_.Read(database, key);
     if (!before)

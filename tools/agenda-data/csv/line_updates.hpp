@@ -4,6 +4,7 @@
 #include "tools/agenda-data/csv/header.hpp"
 
 #include <unordered_map>
+#include <unordered_set>
 
 namespace kova::data {
 
@@ -21,12 +22,12 @@ public:
     bool Take(family::Database& database, Line& line);
     /// Whether Take has taken it.
     bool Has(const Line& line) const { return keys_.contains(line.Number()); }
-    /// Writes a line that was taken, in the transaction that is open. What others have made impossible
-    /// meanwhile is told to the line.
+    /// Writes a line that was taken and changes something, in the transaction that is open. What others have
+    /// made impossible meanwhile is told to the line.
     void Write(family::Database& database, Line& line, const family::Author& author) const;
 
     /// Lines that change something.
-    long long Changing() const { return changing_; }
+    long long Changing() const { return static_cast<long long>(changing_.size()); }
     /// What they change, a line of text for each field.
     const std::string& Changes() const { return changes_; }
 
@@ -44,7 +45,8 @@ private:
     std::unordered_map<long long, family::Key> keys_;
     /// The line that changes a row.
     std::unordered_map<family::Key, long long> lines_;
-    long long changing_ = 0;
+    /// Lines that change something.
+    std::unordered_set<long long> changing_;
     std::string changes_;
 };
 

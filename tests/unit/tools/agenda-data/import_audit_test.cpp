@@ -29,7 +29,9 @@ TEST_F(ImportAudit, TellsWhoBroughtWhichFileInWhenAndWhere)
               (nlohmann::json{{"cadastro", "tipos"},
                               {"arquivo", File("entrada.csv")},
                               {"codificacao", "UTF-8"},
-                              {"linhas", 2}}));
+                              {"linhas", 2},
+                              {"novos", 2},
+                              {"alterados", 0}}));
 }
 
 TEST_F(ImportAudit, NumbersImportsAndNamesTheirsInTheLineOfEachRow)

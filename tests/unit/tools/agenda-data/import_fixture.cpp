@@ -3,6 +3,8 @@
 #include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
 
+#include <algorithm>
+
 namespace kova::data::test {
 
 using kova::test::ContentOf;
@@ -96,6 +98,13 @@ void ImportTest::ImportShop()
                      "50;10;Paçoca;F;Canina;Médio\n51;11;Leão;M;Canina;Gigante\n"),
               0)
         << Error();
+}
+
+std::string ImportTest::Answer() const
+{
+    const std::string output = Output();
+    const std::size_t wayBack = std::min(output.find("Cópia de antes"), output.find("Para desfazer"));
+    return output.substr(0, wayBack);
 }
 
 std::string ImportTest::Exported(const std::string& name, const std::string& database)

@@ -34,6 +34,8 @@ protected:
     std::string Exported(const std::string& name) { return Exported(name, Database()); }
 
     std::string Output() const { return output_.str(); }
+    /// The same without what an import tells of the way back.
+    std::string Answer() const;
     std::string Error() const { return error_.str(); }
     const std::string& Database() const { return database_; }
     std::string Place(const std::string& name) { return places_.Place(name); }

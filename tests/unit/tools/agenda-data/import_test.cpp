@@ -18,7 +18,7 @@ TEST_F(Imports, ReadsCustomers)
                ";Canil Céu Ltda.;11222333000181;;;;;;;;;;\n"),
         0)
         << Error();
-    EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n2 linhas importadas.\n");
+    EXPECT_EQ(Answer(), "Arquivo lido em UTF-8.\n2 linhas importadas.\n");
     EXPECT_EQ(Error(), "");
     EXPECT_EQ(Exported("clientes"),
               "Código;Tipo de pessoa;Nome;Apelido;Documento;Situação;VIP;Curva ABC;Logradouro;Número;"
@@ -209,7 +209,7 @@ TEST_F(Imports, RefusesAFileInUtf8ForOneByteThatIsNot)
 TEST_F(Imports, TellTheEncodingAlsoWhereTheFileIsRefused)
 {
     EXPECT_EQ(Import("tipos", "Nome\n\"\"\nS\xE3o\n"), 0) << Error();
-    EXPECT_EQ(Output(), "Arquivo lido em Latin-1.\n1 linha importada.\n");
+    EXPECT_EQ(Answer(), "Arquivo lido em Latin-1.\n1 linha importada.\n");
     EXPECT_EQ(Import("tipos", "Nome;Situa\xE7\xE3o\nS\xE3o;x\n", {"--dry-run"}), 1);
     EXPECT_EQ(Output(), "Arquivo lido em Latin-1.\n");
     EXPECT_EQ(Import("tipos", "Nome\n\n", {"--encoding", "latin-1"}), 0) << Error();

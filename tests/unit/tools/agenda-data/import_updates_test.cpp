@@ -24,7 +24,7 @@ TEST_F(ImportUpdates, ChangeWhatTheColumnsOfTheFileHoldAndNothingElse)
                      "2;65;Com secagem;Banho;4;75\n1;150,00;;Consulta clínica;1;30\n"),
               0)
         << Error();
-    EXPECT_EQ(Output(),
+    EXPECT_EQ(Answer(),
               "Arquivo lido em UTF-8.\n"
               "linha 2: Descrição (vazio) → \"Com secagem\"\n"
               "linha 2: Preço \"60,00\" → \"65,00\"\n"
@@ -131,7 +131,7 @@ TEST_F(ImportUpdates, LeaveOutWhatIsThereAlready)
                {"--skip-existing"}),
         0)
         << Error();
-    EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n1 linha importada; 3 linhas já estavam no banco.\n");
+    EXPECT_EQ(Answer(), "Arquivo lido em UTF-8.\n1 linha importada; 3 linhas já estavam no banco.\n");
     EXPECT_EQ(Ask("select nome from cliente order by codigo"), "José Peçanha,Canil Céu Azul Ltda.,Ana");
     ASSERT_EQ(Import("funcionarios", "Apelido;Nome\nBIA;beatriz nogueira\nLu;Luana\n", {"--skip-existing"}),
               0);

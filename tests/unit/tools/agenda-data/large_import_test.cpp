@@ -62,7 +62,7 @@ TEST_F(LargeImport, TellsHowFarItIs)
     for (const char* line : {"Conferência: 10% (5001 de 50001)\n", "Conferência: 100% (50001 de 50001)\n",
                              "Gravação: 50% (25001 de 50001)\n", "Gravação: 100% (50001 de 50001)\n"})
         EXPECT_NE(Error().find(line), std::string::npos) << line << Error();
-    EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n50000 linhas importadas.\n");
+    EXPECT_EQ(Answer(), "Arquivo lido em UTF-8.\n50000 linhas importadas.\n");
     // Of a server nobody knows whether others have written since the first look.
     EXPECT_EQ(Error().find("Nova conferência") != std::string::npos, kova::test::TestsRunOnServer());
     EXPECT_EQ(Ask("select count(*) from cliente"), "50000");
