@@ -61,6 +61,24 @@ std::string AddChannel(std::string kind, std::string channel, std::vector<Channe
     return why;
 }
 
+std::vector<ChannelRow> ShownChannels(std::string_view shown)
+{
+    constexpr std::string_view Between = "; ", BehindKind = ": ";
+    std::vector<ChannelRow> channels;
+    while (!shown.empty()) {
+        const std::size_t end = std::min(shown.find(Between), shown.size());
+        const std::string_view part = shown.substr(0, end);
+        shown.remove_prefix(std::min(end + Between.size(), shown.size()));
+        const std::size_t kind = part.find(BehindKind);
+        if (kind != std::string_view::npos)
+            channels.push_back({0, 0, std::string(part.substr(0, kind)),
+                                std::string(part.substr(kind + BehindKind.size()))});
+        else if (!channels.empty())
+            channels.back().canal.append(Between).append(part);
+    }
+    return channels;
+}
+
 std::string ReadChannels(const std::string& cell, std::vector<ChannelRow>& channels)
 {
     for (std::string_view rest = cell; !rest.empty();) {

@@ -2,6 +2,7 @@
 
 #include "family/data/selections/register_texts.hpp"
 #include "family/data/stores/customer_store.hpp"
+#include "family/registers/channel_texts.hpp"
 #include "family/registers/register_of.hpp"
 #include "family/registers/registers.hpp"
 
@@ -37,6 +38,15 @@ private:
         SelectWhere<ChannelOfCustomer>(database, codes, [&](const ChannelOfCustomer& channel) {
             byCode[channel.codigoDoCliente]->channels.push_back(channel);
         });
+    }
+
+    /// The audit keeps the channels as lists show them.
+    void LoadFormer(Database&, CustomerRecord& record) const override
+    {
+        CustomerRow shown = record;
+        shown.Compose(record.channels);
+        if (shown.tiposECanais != record.tiposECanais)
+            record.channels = ShownChannels(record.tiposECanais);
     }
 
     void CheckRecord(Database& database, const CustomerRecord* stored, CustomerRecord& record,

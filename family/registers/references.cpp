@@ -1,5 +1,6 @@
 #include "family/registers/references.hpp"
 
+#include "family/data/audit/audited_row.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/table_layouts.hpp"
 
@@ -26,6 +27,10 @@ constexpr Words AllWords[] = {
     {"agendamento", "agendamento", "agendamentos"},
     {"horario_do_funcionario", "horário de trabalho", "horários de trabalho"},
     {"ausencia", "ausência", "ausências"},
+    {"cliente", "cliente", "clientes"},
+    {"especie", "espécie", "espécies"},
+    {"tipo_de_servico", "tipo de serviço", "tipos de serviço"},
+    {"funcionario", "funcionário(a)", "funcionários"},
 };
 
 /// Runs what asks the engine directly.
@@ -47,12 +52,24 @@ long long CountOf(Database& database, const std::string& rows, Key key)
     return count;
 }
 
+std::string_view One(std::string_view table)
+{
+    const auto words = std::ranges::find(AllWords, table, &Words::table);
+    return words == std::end(AllWords) ? table : words->one;
+}
+
+/// The row's key in that column, as the audit writes it; nothing where it has none.
+std::optional<std::string> KeyIn(const AuditedColumns& columns, std::string_view column)
+{
+    const auto found = columns.find(column);
+    return found == columns.end() ? std::nullopt : found->second;
+}
+
 std::string Counted(std::string_view table, long long count)
 {
     const auto words = std::ranges::find(AllWords, table, &Words::table);
-    const std::string_view one = words == std::end(AllWords) ? table : words->one;
     const std::string_view many = words == std::end(AllWords) ? table : words->many;
-    return std::to_string(count).append(" ").append(count == 1 ? one : many);
+    return std::to_string(count).append(" ").append(count == 1 ? One(table) : many);
 }
 
 } // namespace
@@ -69,6 +86,23 @@ std::string UsersOf(Database& database, const char* table, Key key, const char* 
             users.append(users.empty() ? "" : ", ").append(Counted(reference.table, count));
     }
     return users;
+}
+
+std::string MissingTarget(Database& database, const char* table, const AuditedColumns& former,
+                          const AuditedColumns& now)
+{
+    for (const Reference& reference : References()) {
+        const auto key = KeyIn(former, reference.column);
+        Key target = 0;
+        if (std::string_view(reference.table) != table || !TakeColumn(key, target)
+            || key == KeyIn(now, reference.column))
+            continue;
+        const std::string rows = std::string(reference.target) + " where " + reference.key + " = :chave";
+        if (CountOf(database, rows, target) == 0)
+            return std::string("O que havia antes se refere a ").append(One(reference.target)).append(" ")
+                + *key + ", que não existe mais.";
+    }
+    return {};
 }
 
 bool IsBooked(Database& database, const char* column, Key key)

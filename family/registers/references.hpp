@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/data/audit/audit_lines.hpp"
 #include "family/data/engine/key.hpp"
 
 #include <string>
@@ -14,6 +15,11 @@ namespace kova::family::registers {
 /// Rows of other tables that refer to a row, in words: "3 agendamentos, 1 pacote"; empty where there are
 /// none. Those of the table `own` belong to the row itself and do not count. Fails with a DatabaseFailure.
 std::string UsersOf(Database& database, const char* table, Key key, const char* own = "");
+
+/// Why a row of the table cannot have its former columns again: one of them, where it differs from what is
+/// there now, refers to a row that is gone. Empty where none does. Fails with a DatabaseFailure.
+std::string MissingTarget(Database& database, const char* table, const AuditedColumns& former,
+                          const AuditedColumns& now);
 
 /// Whether an appointment has that key in the column. Fails with a DatabaseFailure.
 bool IsBooked(Database& database, const char* column, Key key);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/data/audit/audit_lines.hpp"
 #include "family/data/audit/author.hpp"
 #include "family/data/engine/key.hpp"
 #include "family/registers/field.hpp"
@@ -139,6 +140,12 @@ public:
     /// Takes a row away that nothing refers to, in a transaction of its own.
     RemoveAnswer Remove(Database& database, Key key, const Author& author) const;
     virtual RemoveAnswer RemoveWithin(Database& database, Key key, const Author& author) const = 0;
+
+    /// Takes back, in the transaction that is open, a write of which the audit has kept these columns: a row
+    /// that was new (`before` is empty then) goes, one that was changed gets its former values, both by the
+    /// rules of the register. It is kept, with the reason, where it stands otherwise than that write left it.
+    virtual RemoveAnswer TakeBackWithin(Database& database, Key key, const AuditedColumns& before,
+                                        const AuditedColumns& after, const Author& author) const = 0;
 
     virtual std::span<const ListColumn> ListColumns() const = 0;
     /// Keys of the rows that hold the text, case, accents and the punctuation of numbers aside, in the order

@@ -3,6 +3,7 @@
 #include "agenda/contracts/failure.hpp"
 #include "family/business/clean_text.hpp"
 #include "family/data/audit/add_row.hpp"
+#include "family/data/audit/audited_row.hpp"
 #include "family/data/audit/import_audit.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/find_by_key.hpp"
@@ -14,6 +15,7 @@
 #include "family/registers/list_search.hpp"
 #include "family/registers/references.hpp"
 #include "family/registers/refusals.hpp"
+#include "family/registers/taken_back.hpp"
 
 #include <algorithm>
 #include <unordered_map>
@@ -114,6 +116,22 @@ public:
         return {};
     }
 
+    RemoveAnswer TakeBackWithin(Database& database, Key key, const AuditedColumns& before,
+                                const AuditedColumns& after, const Author& author) const override
+    {
+        LockImports(database);
+        const auto stored = FindRow<Locked<Record>>(database, key);
+        if (!stored)
+            return {RemoveAnswer::Outcome::Gone, {}};
+        if (!StandsAs<Record>(*stored, after))
+            return {RemoveAnswer::Outcome::Kept, StandsOtherwise};
+        if (before.empty())
+            return RemoveWithin(database, key, author);
+        if (std::string missing = MissingTarget(database, Record::Table, before, after); !missing.empty())
+            return {RemoveAnswer::Outcome::Kept, std::move(missing)};
+        return PutBack(database, *stored, before, author);
+    }
+
     std::span<const ListColumn> ListColumns() const override { return listColumns_; }
 
     std::vector<Key> Find(Database& database, const std::string& text) const override
@@ -169,6 +187,11 @@ protected:
     virtual void Load(Database&, std::span<Record>) const { }
     /// The same, as far as a list shows it.
     virtual void LoadShown(Database& database, std::span<Record> records) const { Load(database, records); }
+    /// The same of a record that was put back to the values of an earlier row.
+    virtual void LoadFormer(Database& database, Record& record) const
+    {
+        Load(database, std::span(&record, 1));
+    }
     /// What speaks against a record beyond its single fields; `stored` is missing for a new one. Fills in
     /// what follows from the fields. A field that could not be read is refused already.
     virtual void CheckRecord(Database&, const Record* stored, Record& record, Refusals&) const = 0;
@@ -339,6 +362,27 @@ private:
             return;
         if (std::string why = column.read(text, record); !why.empty())
             refusals.Add(at, std::move(why));
+    }
+
+    RemoveAnswer PutBack(Database& database, const Record& stored, const AuditedColumns& before,
+                         const Author& author) const
+    {
+        Record record = stored;
+        if (!TakeColumns(before, record))
+            return {RemoveAnswer::Outcome::Kept, StandsOtherwise};
+        LoadFormer(database, record);
+        Refusals refusals(fields_);
+        CheckRecord(database, &stored, record, refusals);
+        std::string why;
+        for (const RefusedField& refused : refusals.InOrder())
+            why.append(why.empty() ? "" : " ")
+                .append(fields_[refused.field].label)
+                .append(": ")
+                .append(refused.why);
+        if (!why.empty())
+            return {RemoveAnswer::Outcome::Kept, "O que havia antes não cabe mais. " + why};
+        WriteRecord(database, &stored, record, author);
+        return {};
     }
 
     static bool IsSame(const Record& one, const Record& other)

@@ -8,8 +8,9 @@ namespace {
 
 /// In the order of the help.
 constexpr const Command* Commands[] = {
-    &CreateCommand, &DemoCommand,   &GenerateCommand, &MigrateCommand, &CheckCommand,   &ImportCommand,
-    &ExportCommand, &BackupCommand, &RestoreCommand,  &CopyCommand,    &HistoryCommand, &UndeleteCommand,
+    &CreateCommand, &DemoCommand,       &GenerateCommand, &MigrateCommand, &CheckCommand,
+    &ImportCommand, &UndoImportCommand, &ExportCommand,   &BackupCommand,  &RestoreCommand,
+    &CopyCommand,   &HistoryCommand,    &UndeleteCommand,
 };
 
 arguments::Program ThisProgram()

@@ -22,5 +22,6 @@ extern const Command ImportCommand;
 extern const Command MigrateCommand;
 extern const Command RestoreCommand;
 extern const Command UndeleteCommand;
+extern const Command UndoImportCommand;
 
 } // namespace kova::data

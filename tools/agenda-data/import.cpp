@@ -137,6 +137,9 @@ public:
         return true;
     }
 
+    /// In the audit; 0 where nothing was written.
+    family::Key Number() const { return author_.importNumber; }
+
 private:
     ImportRun& run_;
     std::shared_ptr<family::Database> database_;
@@ -151,6 +154,14 @@ std::string CopyFor(const Call& call, Surroundings& surroundings)
         : family::CopyBeforeImport(call.Operand(0), surroundings.now, WorkOfCopy(surroundings.error));
 }
 
+void TellWayBack(const std::string& path, const std::string& copy, family::Key number, std::ostream& output)
+{
+    if (!copy.empty())
+        output << "Cópia de antes da importação: " << copy << "\n";
+    output << "Para desfazer esta importação: agenda-data undo-import \"" << path << "\" --import " << number
+           << "\n";
+}
+
 int Bring(ImportRun& run, const Call& call, family::ImportedFile file, Surroundings& surroundings)
 {
     Importing importing(run, call.Operand(0), AuthorOf(call, surroundings.now));
@@ -161,8 +172,8 @@ int Bring(ImportRun& run, const Call& call, family::ImportedFile file, Surroundi
         return Refuse(run, surroundings);
     surroundings.output << run.Changes() << Counted(NewRecords(run), "linha importada", "linhas importadas")
                         << Others(run) << ".\n";
-    if (!copy.empty())
-        surroundings.output << "Cópia de antes da importação: " << copy << "\n";
+    if (importing.Number() != 0)
+        TellWayBack(call.Operand(0), copy, importing.Number(), surroundings.output);
     return 0;
 }
 
@@ -191,7 +202,8 @@ const Command ImportCommand{
      "racas, tipos, servicos, funcionarios, feriados, empresa ou agendamentos. NOME fica na auditoria. Com\n"
      "--update uma linha que traz o código de um registro do banco muda o que nele é\n"
      "diferente; cada mudança é mostrada, com o que havia antes. Antes de gravar, o arquivo\n"
-     "do banco é copiado para o lado dele; as últimas cinco destas cópias ficam.",
+     "do banco é copiado para o lado dele; as últimas cinco destas cópias ficam. undo-import\n"
+     "desfaz uma importação.",
      {"BANCO", "CADASTRO", "ARQUIVO"},
      {{"--dry-run", {}, "Só confere: nada é gravado."},
       {"--update", {}, "Muda os registros que já estão no banco, pelo código."},

@@ -83,6 +83,13 @@ void AuditImport(Database& database, const Author& author, const AuditValues& wh
     Insert(database, row);
 }
 
+void AuditUndoneImport(Database& database, const Author& author, Key number, const AuditValues& what)
+{
+    AuditRow row = RowOf(author, ImportsTable, number, audit_operation::ImportUndone);
+    row.depois = what.Line();
+    Insert(database, row);
+}
+
 void AuditChange(Database& database, const Author& author, const char* table, Key key,
                  const AuditValues& before, const AuditValues& after)
 {

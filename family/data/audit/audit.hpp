@@ -41,6 +41,8 @@ inline constexpr const char* Removal = "exclusao";
 inline constexpr const char* Restoration = "restauracao";
 /// A file was brought in.
 inline constexpr const char* Import = "importacao";
+/// What it had brought was taken back.
+inline constexpr const char* ImportUndone = "importacao_desfeita";
 } // namespace audit_operation
 
 /// Stands among the values of a row that has come in an import: the import's number.
@@ -92,5 +94,7 @@ void AuditRestoration(Database& database, const Author& author, const char* tabl
 
 /// Writes the line of the import that bears the author's number, with what there is to say of it.
 void AuditImport(Database& database, const Author& author, const AuditValues& what);
+/// The same of an import that was taken back.
+void AuditUndoneImport(Database& database, const Author& author, Key number, const AuditValues& what);
 
 } // namespace kova::family

@@ -28,7 +28,9 @@ std::optional<std::string> TextOf(const nlohmann::json& value, const std::string
     throw Unreadable(values);
 }
 
-AuditedColumns ColumnsOf(const Nullable<std::string>& written)
+} // namespace
+
+AuditedColumns ReadAuditedColumns(const Nullable<std::string>& written)
 {
     AuditedColumns columns;
     if (written.IsNull())
@@ -41,16 +43,18 @@ AuditedColumns ColumnsOf(const Nullable<std::string>& written)
     return columns;
 }
 
+namespace {
+
 class AuditSelection : public KeptStatement {
 public:
     explicit AuditSelection(Database& database)
         : statement_((database.Session().prepare
-                          << "select momento, usuario, posto, operacao, antes, depois from auditoria"
+                          << "select codigo, momento, usuario, posto, operacao, antes, depois from auditoria"
                              " where tabela = :tabela and chave = :chave order by codigo desc limit :quantas",
-                      soci::into(line_.moment), soci::into(line_.user), soci::into(line_.desk),
-                      soci::into(line_.operation), soci::into(before_.value, before_.state),
-                      soci::into(after_.value, after_.state), soci::use(table_, "tabela"),
-                      soci::use(key_, "chave"), soci::use(most_, "quantas")))
+                      soci::into(line_.code), soci::into(line_.moment), soci::into(line_.user),
+                      soci::into(line_.desk), soci::into(line_.operation),
+                      soci::into(before_.value, before_.state), soci::into(after_.value, after_.state),
+                      soci::use(table_, "tabela"), soci::use(key_, "chave"), soci::use(most_, "quantas")))
     {
     }
 
@@ -73,8 +77,8 @@ private:
         AuditLine line = line_;
         for (std::string* text : {&line.moment, &line.user, &line.desk, &line.operation})
             *text = utf8::WellFormed(*text);
-        line.before = ColumnsOf(before_);
-        line.after = ColumnsOf(after_);
+        line.before = ReadAuditedColumns(before_);
+        line.after = ReadAuditedColumns(after_);
         return line;
     }
 

@@ -26,7 +26,13 @@ struct AuditLine {
     std::string operation;
     /// The written columns; `before` is empty for a new or restored row, `after` for one that is gone.
     AuditedColumns before, after;
+    /// Orders the lines as they were written.
+    Key code = 0;
 };
+
+/// The columns in a line's `antes` or `depois`; none where it is Null. Fails with a DatabaseFailure where it
+/// does not hold what the audit writes.
+AuditedColumns ReadAuditedColumns(const Nullable<std::string>& written);
 
 /// The lines of one row, newest first, `most` at most. Fails as Database::With, and where a line does not
 /// hold what the audit writes.

@@ -349,6 +349,9 @@ TEST_F(AgendaData, RefusesAWrongCommandLine)
                                                {"history", file},
                                                {"history", file, "x"},
                                                {"undelete", file, "0"},
+                                               {"undo-import"},
+                                               {"undo-import", file, "--import", "0"},
+                                               {"undo-import", file, "--list", "--keep-changed"},
                                                {"migrate"}}) {
         EXPECT_EQ(Run(words), 2);
         EXPECT_TRUE(Complained(" --help")) << error_.str();
@@ -370,8 +373,8 @@ TEST_F(AgendaData, ExplainsEachOfItsCommands)
 {
     Run({"--help"});
     const std::string all = output_.str();
-    for (const char* command : {"create", "demo", "generate", "migrate", "check", "import", "export",
-                                "backup", "restore", "copy", "history", "undelete"}) {
+    for (const char* command : {"create", "demo", "generate", "migrate", "check", "import", "undo-import",
+                                "export", "backup", "restore", "copy", "history", "undelete"}) {
         EXPECT_NE(all.find(std::string("\n  ") + command + " "), std::string::npos) << command;
         EXPECT_EQ(Run({command, "--help"}), 0);
         EXPECT_TRUE(Said("Uso: agenda-data " + std::string(command) + " ")) << output_.str();
