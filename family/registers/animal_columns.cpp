@@ -35,12 +35,23 @@ Col NamedBy(Col column)
     return column;
 }
 
+/// "9,82E+14": what a spreadsheet makes of a long number. Its last digits are lost.
+bool IsShortened(std::string_view text)
+{
+    const std::size_t at = text.find_first_of("Ee");
+    return at != std::string_view::npos && at > 0 && text.find_first_not_of("0123456789.,") == at
+        && text.substr(at + 1).starts_with('+');
+}
+
 /// A chip is looked for by its digits.
 Col Microchip()
 {
     constexpr std::size_t Width = 30;
     Col column = Cols::Text("Microchip", &AnimalRecord::microchip, Width);
-    column.read = [](const std::string& text, AnimalRecord& record) {
+    column.read = [](const std::string& text, AnimalRecord& record) -> std::string {
+        if (IsShortened(text))
+            return "é um número que a planilha abreviou. Nela, dê à coluna o formato de texto e escreva o "
+                   "número inteiro.";
         const std::string digits = DigitsOf(text);
         record.microchip = digits.empty() ? text : digits;
         return CheckWidth(text, Width);

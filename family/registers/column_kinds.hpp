@@ -205,13 +205,13 @@ template <class Record> struct ColumnsOf {
             [=](const Record& record) { return record.*member; });
     }
 
-    /// "hh:mm" in the row; "24:00" ends the day.
+    /// "hh:mm" in the row; "24:00" ends the day. Spreadsheets write seconds behind it.
     static Col EndTime(std::string_view label, std::string Record::*member)
     {
         Col column = Time(label, member);
         column.read = [=, readTime = column.read](const std::string& text, Record& record) {
-            if (text == "24:00") {
-                record.*member = text;
+            if (text == "24:00" || text == "24:00:00") {
+                record.*member = "24:00";
                 return std::string();
             }
             const bool isTime = readTime(text, record).empty();

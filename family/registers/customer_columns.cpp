@@ -28,8 +28,8 @@ Col Document()
         record.documento = *document;
         return {};
     };
-    column.write = [](const CustomerRecord& record) { return record.documento; };
-    column.show = [](const CustomerRecord& record) { return ShownDocument(record.documento); };
+    // With its punctuation no spreadsheet takes it for a number, without the zeros before it.
+    column.write = [](const CustomerRecord& record) { return ShownDocument(record.documento); };
     return column;
 }
 
@@ -50,8 +50,7 @@ Col PostalCode()
         record.cep = *digits;
         return {};
     };
-    column.write = [](const CustomerRecord& record) { return record.cep; };
-    column.show = [](const CustomerRecord& record) { return ShownPostalCode(record.cep); };
+    column.write = [](const CustomerRecord& record) { return ShownPostalCode(record.cep); };
     return column;
 }
 

@@ -56,8 +56,7 @@ Column<CompanyRow> CompanyDocument()
         company.cnpj = *document;
         return {};
     };
-    column.write = [](const CompanyRow& company) { return company.cnpj; };
-    column.show = [](const CompanyRow& company) { return ShownDocument(company.cnpj); };
+    column.write = [](const CompanyRow& company) { return ShownDocument(company.cnpj); };
     return column;
 }
 

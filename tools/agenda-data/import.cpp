@@ -199,8 +199,9 @@ const Command ImportCommand{
      "Importa um arquivo CSV: todas as linhas ou, se alguma tem erro, nenhuma; os erros\n"
      "são mostrados por linha. O que já está no banco é um erro: importar de novo não\n"
      "duplica nada. Com --dry-run só confere. CADASTRO: clientes, animais, especies,\n"
-     "racas, tipos, servicos, funcionarios, feriados, empresa ou agendamentos. NOME fica na auditoria. Com\n"
-     "--update uma linha que traz o código de um registro do banco muda o que nele é\n"
+     "racas, tipos, servicos, funcionarios, feriados, empresa, expediente, horarios, ausencias\n"
+     "ou agendamentos. NOME fica na auditoria. Com --update uma linha que traz o código de um registro do "
+     "banco muda o que nele é\n"
      "diferente; cada mudança é mostrada, com o que havia antes. Antes de gravar, o arquivo\n"
      "do banco é copiado para o lado dele; as últimas cinco destas cópias ficam. undo-import\n"
      "desfaz uma importação.",

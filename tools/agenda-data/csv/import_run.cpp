@@ -76,7 +76,9 @@ void ImportRun::Check(family::Database& database, const char* what)
     if (!ReadHeader())
         return;
     if (known_ == Known::Updated)
-        updates_.emplace(*family::registers::RegisterNamed(register_.name), *header_, import_->Titles());
+        updates_.emplace(
+            *family::registers::RegisterNamed(register_.name), *header_, import_->Titles(),
+            [this](family::Key key, const std::vector<std::string>& texts) { import_->Replace(key, texts); });
     ForEachGroup(what, [this](std::span<Line> lines) { CheckGroup(lines); });
 }
 

@@ -42,6 +42,7 @@ void LineUpdates::Check(family::Database& database, Key key, const Texts& before
         return Refuse(answer, typed, line);
     if (!answer.changed.empty())
         changing_.insert(line.Number());
+    onChange_(key, typed);
     for (const ChangedField& changed : answer.changed)
         changes_ += "linha " + std::to_string(line.Number()) + ": "
             + std::string(register_.Fields()[changed.field].label) + " " + Quoted(changed.before) + " → "

@@ -3,6 +3,7 @@
 #include "family/registers/register.hpp"
 #include "tools/agenda-data/csv/header.hpp"
 
+#include <functional>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -12,9 +13,14 @@ namespace kova::data {
 /// is typed into the row, an empty cell empties the field, and fields without a column stay.
 class LineUpdates {
 public:
-    /// `header` and `titles` outlive it.
-    LineUpdates(const family::registers::Register& of, const Header& header, const std::vector<Title>& titles)
-        : register_(of), header_(header), titles_(titles)
+    using Texts = family::registers::Texts;
+    /// What a row will be.
+    using OnChange = std::function<void(family::Key key, const Texts& texts)>;
+
+    /// `header` and `titles` outlive it. `onChange` is told of each line that can be written.
+    LineUpdates(const family::registers::Register& of, const Header& header, const std::vector<Title>& titles,
+                OnChange onChange)
+        : register_(of), header_(header), titles_(titles), onChange_(std::move(onChange))
     {
     }
 
@@ -32,8 +38,6 @@ public:
     const std::string& Changes() const { return changes_; }
 
 private:
-    using Texts = family::registers::Texts;
-
     void Check(family::Database& database, family::Key key, const Texts& before, Line& line);
     Texts TypedOver(Texts texts, Line& line) const;
     void Refuse(const family::registers::SaveAnswer& answer, const Texts& typed, Line& line) const;
@@ -41,6 +45,7 @@ private:
     const family::registers::Register& register_;
     const Header& header_;
     const std::vector<Title>& titles_;
+    OnChange onChange_;
     /// Of the lines that were taken.
     std::unordered_map<long long, family::Key> keys_;
     /// The line that changes a row.

@@ -8,8 +8,10 @@ namespace kova::data {
 std::span<const Register* const> Registers()
 {
     static const Register* const registers[] = {
-        &CustomerRegister, &SpeciesRegister,  &BreedRegister,   &AnimalRegister,  &ServiceTypeRegister,
-        &ServiceRegister,  &EmployeeRegister, &HolidayRegister, &CompanyRegister, &AppointmentRegister,
+        &CustomerRegister,    &SpeciesRegister,      &BreedRegister,         &AnimalRegister,
+        &ServiceTypeRegister, &ServiceRegister,      &EmployeeRegister,      &HolidayRegister,
+        &CompanyRegister,     &OpeningHoursRegister, &EmployeeHoursRegister, &AbsenceRegister,
+        &AppointmentRegister,
     };
     return registers;
 }

@@ -25,6 +25,9 @@ public:
     virtual bool HasCode(const Line& line) const = 0;
     /// Tells each of the lines all that speaks against it. Lines count as there for those after them.
     virtual void Check(std::span<Line> lines) = 0;
+    /// Tells that a line changes the stored row of that key: what stands in it from now on, a text for each
+    /// column that is written.
+    virtual void Replace(family::Key, const std::vector<std::string>&) { }
     /// Has everybody else wait who would take the room that the lines checked so far take, until the
     /// transaction that is open ends.
     virtual void LockRoom() { }
@@ -45,15 +48,18 @@ struct Register {
     const char* table;
 };
 
-// Each in the file of its name; species, breeds and the company in shop.cpp.
+// Each in the file of its name; species, breeds and the company in shop.cpp, hours and absences in work.cpp.
 
+extern const Register AbsenceRegister;
 extern const Register AnimalRegister;
 extern const Register AppointmentRegister;
 extern const Register BreedRegister;
 extern const Register CompanyRegister;
 extern const Register CustomerRegister;
+extern const Register EmployeeHoursRegister;
 extern const Register EmployeeRegister;
 extern const Register HolidayRegister;
+extern const Register OpeningHoursRegister;
 extern const Register ServiceRegister;
 extern const Register ServiceTypeRegister;
 extern const Register SpeciesRegister;

@@ -48,6 +48,20 @@ const CodelessFile Files[] = {
       "25/11/2026;10:00;11:00;10;50;;;2;1", "02/11/2026;10:00;11:00;10;50;;;1;1",
       "02/11/2026;10:00;11:00;10;50;;;2;1", "02/11/2026;10:00;11:00;;;Íris;Bidu;2;1",
       "02/11/2026;10:00;11:00;;;Íris;Lulu;2;1", "02/11/2026;10:00;11:00;;;Caio;Lulu;2;1"}},
+    {"expediente",
+     "expediente",
+     "Dia da semana;Hora inicial;Hora final",
+     {"Domingo;08:00;12:00", "Domingo;12:00;13:00", "Domingo;14:00;24:00"}},
+    {"horarios",
+     "horario_do_funcionario",
+     "Código do funcionário;Dia da semana;Hora inicial;Hora final",
+     {"1;Segunda-feira;08:00;12:00", "1;Segunda-feira;13:00;18:00", "1;Sábado;08:00;12:00",
+      "2;Segunda-feira;08:00;12:00"}},
+    {"ausencias",
+     "ausencia",
+     "Código do funcionário;Data inicial;Hora inicial;Data final;Hora final;Motivo",
+     {"1;24/12/2026;00:00;24/12/2026;24:00;Natal", "2;24/12/2026;00:00;24/12/2026;24:00;Natal",
+      ";31/12/2026;12:00;31/12/2026;24:00;Festa", "1;24/12/2026;00:00;26/12/2026;24:00;Férias"}},
 };
 
 } // namespace

@@ -23,9 +23,9 @@ TEST_F(Imports, ReadsCustomers)
     EXPECT_EQ(Exported("clientes"),
               "Código;Tipo de pessoa;Nome;Apelido;Documento;Situação;VIP;Curva ABC;Logradouro;Número;"
               "Complemento;Bairro;Cidade;UF;CEP;Canais\r\n"
-              "7;PF;José  Peçanha;;12345678909;Bloqueado;Sim;B;Rua do Ipê;10;;;;SP;01234567;"
+              "7;PF;José  Peçanha;;123.456.789-09;Bloqueado;Sim;B;Rua do Ipê;10;;;;SP;01234-567;"
               "\"Telefone: 1; Celular: 2; E-mail: 3\"\r\n"
-              "8;PJ;Canil Céu Ltda.;;11222333000181;Ativo;Não;;;;;;;;;\r\n");
+              "8;PJ;Canil Céu Ltda.;;11.222.333/0001-81;Ativo;Não;;;;;;;;;\r\n");
     EXPECT_EQ(Ask("select endereco_completo_com_cep from cliente where codigo = 7"),
               "Rua do Ipê, 10/SP - CEP 01234-567");
     EXPECT_EQ(Ask("select endereco_completo_com_cep from cliente where codigo = 8"), "");
