@@ -1,6 +1,7 @@
 #include "registers/register_screen.hpp"
 
 #include "family/data/engine/database_failure.hpp"
+#include "registers/more_button.hpp"
 #include "screens/question.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -72,7 +73,8 @@ QTableView* ListOf(RowModel* rows, const QString& name, QWidget* parent)
 
 } // namespace
 
-RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, QWidget* parent)
+RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const RecordActions& actions,
+                               QWidget* parent)
     : QWidget(parent),
       register_(of),
       desk_(desk),
@@ -87,7 +89,8 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, QWidget* pa
       save_(Button(QStringLiteral("salvar"), QStringLiteral("&Salvar"), QStringLiteral("Ctrl+S"), this)),
       discard_(Button(QStringLiteral("descartar"), QStringLiteral("&Desfazer"), QStringLiteral("Esc"), this)),
       remove_(
-          Button(QStringLiteral("excluir"), QStringLiteral("&Excluir"), QStringLiteral("Ctrl+Delete"), this))
+          Button(QStringLiteral("excluir"), QStringLiteral("&Excluir"), QStringLiteral("Ctrl+Delete"), this)),
+      more_(new MoreButton(actions, of.Name().name, this))
 {
     search_->setObjectName(QStringLiteral("pesquisa"));
     search_->setPlaceholderText(QStringLiteral("Pesquisar (F3)"));
@@ -133,6 +136,7 @@ void RegisterScreen::LayOut()
     buttons->addWidget(save_);
     buttons->addWidget(discard_);
     buttons->addStretch(1);
+    buttons->addWidget(more_);
     buttons->addWidget(remove_);
     rightColumn->addWidget(title_);
     rightColumn->addWidget(area, 1);
@@ -163,6 +167,7 @@ void RegisterScreen::Connect()
     connect(save_, &QPushButton::clicked, this, [this] { Save(); });
     connect(discard_, &QPushButton::clicked, this, [this] { Discard(); });
     connect(remove_, &QPushButton::clicked, this, [this] { Remove(); });
+    more_->onPicked = [this](const RecordAction& action) { Run(action); };
     form_->onEdited = [this] {
         Tell({});
         OfferButtons();
@@ -252,12 +257,17 @@ void RegisterScreen::New()
 {
     if (!MayLeave())
         return;
-    form_->Show(0, register_.New());
-    title_->setText(QStringLiteral("Novo: ") + Shown(register_.Name().one));
+    ShowNew();
     Tell({});
     MarkRow(0);
     OfferButtons();
     form_->FocusFirst();
+}
+
+void RegisterScreen::ShowNew()
+{
+    form_->Show(0, register_.New());
+    title_->setText(QStringLiteral("Novo: ") + Shown(register_.Name().one));
 }
 
 void RegisterScreen::Save()
@@ -316,11 +326,28 @@ void RegisterScreen::Remove()
         const RemoveAnswer answer = register_.Remove(*desk_.database, form_->Key(), desk_.author());
         if (answer.outcome == RemoveAnswer::Outcome::Kept)
             return screens::ShowWarning(*this, qt::Lines(answer.text));
-        form_->Show(0, register_.New());
-        title_->setText(QStringLiteral("Novo: ") + Shown(register_.Name().one));
+        ShowNew();
         Find();
         OfferButtons();
         Tell(QStringLiteral("Excluído."));
+    });
+}
+
+void RegisterScreen::Run(const RecordAction& action)
+{
+    const family::Key key = form_->Key();
+    if (!MayLeave())
+        return;
+    ShowRow(key);
+    Try([&] {
+        const ActionResult result = action.run({*this, desk_, key});
+        if (result.key == 0)
+            ShowNew();
+        else
+            ShowRow(result.key);
+        Find();
+        OfferButtons();
+        Tell(result.told);
     });
 }
 
@@ -335,6 +362,7 @@ void RegisterScreen::OfferButtons()
     save_->setEnabled(IsChanged() || form_->Key() == 0);
     discard_->setEnabled(IsChanged());
     remove_->setEnabled(form_->Key() != 0);
+    more_->setEnabled(form_->Key() != 0);
 }
 
 void RegisterScreen::FocusSearch()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "registers/desk.hpp"
+#include "registers/record_actions.hpp"
 #include "registers/record_form.hpp"
 #include "registers/row_model.hpp"
 
@@ -13,12 +14,15 @@ class QTableView;
 
 namespace kova::registers {
 
+class MoreButton;
+
 /// One register: a list that searches as one types, and beside it the form of the row that is marked.
 class RegisterScreen : public QWidget {
 public:
     using Register = family::registers::Register;
 
-    RegisterScreen(const Register& of, const Desk& desk, QWidget* parent);
+    /// Of `actions` it offers those of its register.
+    RegisterScreen(const Register& of, const Desk& desk, const RecordActions& actions, QWidget* parent);
 
     /// Whether something is typed that was not saved.
     bool IsChanged() const;
@@ -39,9 +43,12 @@ private:
     /// The row is shown in the form; a form that is changed is asked about first.
     void TurnTo(family::Key key);
     void ShowRow(family::Key key);
+    void ShowNew();
     void MarkRow(family::Key key);
     void ShowAnswer(const family::registers::SaveAnswer& answer);
     void ShowSaved(const family::registers::SaveAnswer& answer);
+    /// What the user has picked behind "Mais...".
+    void Run(const RecordAction& action);
     void Tell(const QString& text);
     void OfferButtons();
     void LayOut();
@@ -58,6 +65,7 @@ private:
     QLabel *found_, *title_, *told_;
     RecordForm* form_;
     QPushButton *new_, *save_, *discard_, *remove_;
+    MoreButton* more_;
     /// The list follows the form and not the other way round.
     bool isMarking_ = false;
 };

@@ -25,9 +25,10 @@ QString Shown(std::string_view text)
 
 } // namespace
 
-RegistersPage::RegistersPage(Desk desk, QWidget* parent)
+RegistersPage::RegistersPage(Desk desk, QWidget* parent, RecordActions actions)
     : QWidget(parent),
       desk_(std::move(desk)),
+      actions_(std::move(actions)),
       names_(new QListWidget(this)),
       pages_(new QStackedWidget(this)),
       screens_(family::registers::Registers().size())
@@ -75,8 +76,8 @@ void RegistersPage::TurnTo(int row)
 {
     RegisterScreen*& screen = screens_[static_cast<std::size_t>(row)];
     if (screen == nullptr) {
-        screen =
-            new RegisterScreen(*family::registers::Registers()[static_cast<std::size_t>(row)], desk_, pages_);
+        screen = new RegisterScreen(*family::registers::Registers()[static_cast<std::size_t>(row)], desk_,
+                                    actions_, pages_);
         QWidget* const placeholder = pages_->widget(row);
         pages_->insertWidget(row, screen);
         pages_->removeWidget(placeholder);

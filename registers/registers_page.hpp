@@ -1,6 +1,7 @@
 #pragma once
 
 #include "registers/desk.hpp"
+#include "registers/record_actions.hpp"
 
 #include <QWidget>
 
@@ -17,7 +18,7 @@ class RegisterScreen;
 /// they are first turned to, and keep what is typed in them.
 class RegistersPage : public QWidget {
 public:
-    RegistersPage(Desk desk, QWidget* parent);
+    RegistersPage(Desk desk, QWidget* parent, RecordActions actions = UsualActions());
 
     /// Where something is typed in any of them that was not saved: asks, one after the other. False where the
     /// user stays.
@@ -29,6 +30,7 @@ private:
     RegisterScreen* Current() const;
 
     const Desk desk_;
+    const RecordActions actions_;
     QListWidget* names_;
     QStackedWidget* pages_;
     /// By register; null until it is turned to.

@@ -57,7 +57,13 @@ void FillShop(const std::string& file)
 CadastrosTest::CadastrosTest()
 {
     FillShop(file_);
-    page_ = std::make_unique<RegistersPage>(Desk{family::OpenDatabase(file_), [] { return Ana; }}, nullptr);
+    Open(UsualActions());
+}
+
+void CadastrosTest::Open(RecordActions actions)
+{
+    page_ = std::make_unique<RegistersPage>(Desk{family::OpenDatabase(file_), [] { return Ana; }}, nullptr,
+                                            std::move(actions));
     page_->resize(1100, 700);
     page_->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(page_.get()));
@@ -77,10 +83,21 @@ void CadastrosTest::Press(const char* button)
     QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton);
 }
 
-// A desktop gives the keyboard back to the window behind a box that closed; there is none here.
+void CadastrosTest::Pick(Qt::Key letter)
+{
+    Keys(Qt::Key_M, Qt::AltModifier);
+    QWidget* menu = nullptr;
+    ASSERT_TRUE(QTest::qWaitFor([&menu] {
+        menu = QApplication::activePopupWidget();
+        return menu != nullptr;
+    }));
+    QTest::keyClick(menu, letter);
+}
+
+// A desktop gives the keyboard back to the window behind a box or a menu that closed; there is none here.
 QWidget& CadastrosTest::Keyboard()
 {
-    if (QApplication::focusWidget() == nullptr) {
+    if (QApplication::focusWidget() == nullptr || QApplication::activeWindow() == nullptr) {
         page_->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(page_.get()));
     }

@@ -25,6 +25,9 @@ class CadastrosTest : public testing::Test {
 protected:
     CadastrosTest();
 
+    /// Shows the page, in the place of another one, with those actions behind "Mais...".
+    void Open(RecordActions actions);
+
     /// Turns to a register as a press of its name does.
     void TurnTo(const char* title);
 
@@ -39,6 +42,8 @@ protected:
     }
 
     void Press(const char* button);
+    /// Picks an entry of "Mais..." by its letter.
+    void Pick(Qt::Key letter);
     /// Keys to whatever has the keyboard.
     void Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Into whatever has the keyboard, letter by letter.

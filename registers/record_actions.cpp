@@ -1,0 +1,7 @@
+#include "registers/record_actions.hpp"
+
+namespace kova::registers {
+
+RecordActions UsualActions() { return {}; }
+
+} // namespace kova::registers
