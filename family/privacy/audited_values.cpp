@@ -1,0 +1,132 @@
+#include "family/privacy/audited_values.hpp"
+
+#include "agenda/contracts/utf8.hpp"
+#include "family/data/engine/database.hpp"
+#include "family/data/rows/people_rows.hpp"
+#include "family/data/rows/select_those.hpp"
+
+#include <algorithm>
+
+namespace kova::family::privacy {
+
+namespace {
+
+constexpr std::string_view CustomerColumn = "\"codigo_do_cliente\":";
+/// Stands in the values of an appointment without a registered customer.
+constexpr std::string_view Simplified = "\"tipo_do_agendamento\":1";
+
+/// Looked for in the text itself: most lines are of other customers, and reading their values takes much
+/// longer.
+bool NamesCustomer(std::string_view text, Key code)
+{
+    const std::string wanted = std::string(CustomerColumn) + std::to_string(code);
+    for (std::size_t at = text.find(wanted); at != std::string_view::npos; at = text.find(wanted, at + 1)) {
+        const std::size_t behind = at + wanted.size();
+        if (behind == text.size() || text[behind] < '0' || text[behind] > '9')
+            return true;
+    }
+    return false;
+}
+
+class LastLine : public KeptStatement {
+public:
+    explicit LastLine(Database& database)
+        : statement_((database.Session().prepare << "select coalesce(max(codigo), 0) from auditoria",
+                      soci::into(last_)))
+    {
+    }
+
+    Key Run()
+    {
+        Key last = 0;
+        statement_.execute();
+        while (statement_.fetch())
+            last = last_;
+        return last;
+    }
+
+private:
+    Key last_ = 0;
+    soci::statement statement_;
+};
+
+/// The values decide: what somebody typed may look like a column.
+bool IsOfCustomer(const std::string& text, const std::set<Key>& codes)
+{
+    return std::ranges::any_of(codes, [&](Key code) {
+        return NamesCustomer(text, code)
+            && ValueOf(ReadValues(text), "codigo_do_cliente") == std::to_string(code);
+    });
+}
+
+} // namespace
+
+Key LastAuditLine(Database& database)
+{
+    return database.With<LastLine>([](LastLine& statement) { return statement.Run(); });
+}
+
+void VisitAudit(Database& database, Key behind, const LongWork& work,
+                const std::function<void(const StoredAuditLine&)>& visit)
+{
+    constexpr int LinesAtOnce = 1000;
+    const Key last = LastAuditLine(database);
+    int lines = 0;
+    SelectThose<StoredAuditLine>(database, behind, [&](const StoredAuditLine& line) {
+        if (lines++ % LinesAtOnce == 0) {
+            work.RequireGoingOn();
+            work.Reach(std::min(line.codigo, last) - behind, last - behind);
+        }
+        visit(line);
+    });
+    work.Reach(last - behind, last - behind);
+}
+
+AuditedValues ReadValues(const std::string& text)
+{
+    AuditedValues values = AuditedValues::parse(utf8::WellFormed(text), nullptr, false);
+    return values.is_object() ? values : AuditedValues::object();
+}
+
+std::string ValueOf(const AuditedValues& values, const char* column)
+{
+    const auto found = values.find(column);
+    if (found == values.end() || found->is_null())
+        return {};
+    return found->is_string() ? found->get<std::string>() : found->dump();
+}
+
+Likeness LinesOfPerson::Of(const StoredAuditLine& line, const Nullable<std::string>& text)
+{
+    if (text.IsNull())
+        return Likeness::None;
+    if (line.tabela == CustomerRow::Table)
+        return person_.codes.contains(line.chave) ? Likeness::Contact : Likeness::None;
+    if (IsOfCustomer(text.value, person_.codes)) {
+        if (line.tabela == AppointmentRow::Table)
+            appointments_.insert(line.chave);
+        return Likeness::Contact;
+    }
+    return line.tabela == AppointmentRow::Table ? OfAppointment(line, text.value) : Likeness::None;
+}
+
+Likeness LinesOfPerson::OfAppointment(const StoredAuditLine& line, const std::string& text) const
+{
+    // A change of the status alone keeps few columns.
+    if (text.find(CustomerColumn) == std::string::npos)
+        return appointments_.contains(line.chave) ? Likeness::Contact : Likeness::None;
+    if (text.find(Simplified) == std::string::npos)
+        return Likeness::None;
+    const AuditedValues values = ReadValues(text);
+    return person_.identity.LikenessTo(ValueOf(values, "nome_do_cliente"),
+                                       ValueOf(values, "canais_do_cliente"),
+                                       ValueOf(values, "nome_do_animal"));
+}
+
+bool LinesOfPerson::IsAboutHis(const StoredAuditLine& line) const
+{
+    return (line.tabela == CustomerRow::Table && person_.codes.contains(line.chave))
+        || (line.tabela == AppointmentRow::Table && appointments_.contains(line.chave));
+}
+
+} // namespace kova::family::privacy

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "family/data/engine/long_work.hpp"
+#include "family/data/engine/nullable.hpp"
+#include "family/privacy/person.hpp"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+namespace kova::family::privacy {
+
+/// A line of the audit as it is stored, of a table that holds something about customers.
+struct StoredAuditLine {
+    static constexpr const char* Table = "auditoria";
+    /// Written so that the lines are gone through in their order.
+    static constexpr const char* Condition =
+        "tabela || '' in ('cliente', 'canal_de_comunicacao', 'animal', 'agendamento')";
+    Key codigo = 0;
+    std::string momento, usuario, tabela;
+    Key chave = 0;
+    std::string operacao;
+    Nullable<std::string> antes, depois;
+
+    template <class Visit> void Columns(Visit visit)
+    {
+        visit("codigo", codigo);
+        visit("momento", momento);
+        visit("usuario", usuario);
+        visit("tabela", tabela);
+        visit("chave", chave);
+        visit("operacao", operacao);
+        visit("antes", antes);
+        visit("depois", depois);
+    }
+};
+
+/// The number of the last line; 0 where there is none. Fails as Database::With.
+Key LastAuditLine(Database& database);
+
+/// Goes through the lines behind that number. Fails as Database::With, and with Interrupted where a stop is
+/// asked for.
+void VisitAudit(Database& database, Key behind, const LongWork& work,
+                const std::function<void(const StoredAuditLine&)>& visit);
+
+/// In the order in which they were written.
+using AuditedValues = nlohmann::ordered_json;
+
+/// The values of a row that a line keeps; an empty object where they cannot be read.
+AuditedValues ReadValues(const std::string& text);
+/// The text of a column; "" where it is not there or Null. Numbers in digits.
+std::string ValueOf(const AuditedValues& values, const char* column);
+
+/// Tells the lines of a person from those of others. To be asked in the order of the lines: a number that was
+/// his once stays his.
+class LinesOfPerson {
+public:
+    /// `appointments` are the numbers of those that are his today.
+    LinesOfPerson(const Person& person, std::set<Key> appointments)
+        : person_(person), appointments_(std::move(appointments))
+    {
+    }
+
+    /// What speaks for it that the values which a line keeps, before or after, are of the person's rows:
+    /// Contact where they are of his registered ones.
+    Likeness Of(const StoredAuditLine& line, const Nullable<std::string>& text);
+    /// Whether the line is about a row of his, whatever values it keeps.
+    bool IsAboutHis(const StoredAuditLine& line) const;
+
+private:
+    Likeness OfAppointment(const StoredAuditLine& line, const std::string& text) const;
+
+    const Person& person_;
+    std::set<Key> appointments_;
+};
+
+} // namespace kova::family::privacy
