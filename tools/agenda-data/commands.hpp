@@ -20,6 +20,7 @@ extern const Command GenerateCommand;
 extern const Command HistoryCommand;
 extern const Command ImportCommand;
 extern const Command MigrateCommand;
+extern const Command PersonCommand;
 extern const Command RestoreCommand;
 extern const Command UndeleteCommand;
 extern const Command UndoImportCommand;
