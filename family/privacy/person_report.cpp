@@ -174,6 +174,7 @@ ReportGroup PreSales(const PersonData& data)
 constexpr std::pair<const char*, const char*> Operations[] = {
     {audit_operation::Insertion, "Inclusão"},         {audit_operation::Change, "Alteração"},
     {audit_operation::Removal, "Exclusão"},           {audit_operation::Restoration, "Restauração"},
+    {audit_operation::Anonymisation, "Anonimização"},
 };
 
 std::string ShownOperation(const std::string& operation)

@@ -10,7 +10,7 @@ namespace {
 constexpr const Command* Commands[] = {
     &CreateCommand, &DemoCommand,       &GenerateCommand, &MigrateCommand, &CheckCommand,
     &ImportCommand, &UndoImportCommand, &ExportCommand,   &BackupCommand,  &RestoreCommand,
-    &CopyCommand,   &HistoryCommand,    &UndeleteCommand, &PersonCommand,
+    &CopyCommand,   &HistoryCommand,    &UndeleteCommand, &PersonCommand,  &ForgetCommand,
 };
 
 arguments::Program ThisProgram()

@@ -16,6 +16,7 @@ extern const Command CopyCommand;
 extern const Command CreateCommand;
 extern const Command DemoCommand;
 extern const Command ExportCommand;
+extern const Command ForgetCommand;
 extern const Command GenerateCommand;
 extern const Command HistoryCommand;
 extern const Command ImportCommand;

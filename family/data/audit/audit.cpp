@@ -115,4 +115,12 @@ void AuditRestoration(Database& database, const Author& author, const char* tabl
     Insert(database, row);
 }
 
+void AuditAnonymisation(Database& database, const Author& author, const char* table, Key key,
+                        const AuditValues& what)
+{
+    AuditRow row = RowOf(author, table, key, audit_operation::Anonymisation);
+    row.depois = what.Line();
+    Insert(database, row);
+}
+
 } // namespace kova::family

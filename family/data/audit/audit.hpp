@@ -43,6 +43,8 @@ inline constexpr const char* Restoration = "restauracao";
 inline constexpr const char* Import = "importacao";
 /// What it had brought was taken back.
 inline constexpr const char* ImportUndone = "importacao_desfeita";
+/// What tells who somebody is was taken out of all tables.
+inline constexpr const char* Anonymisation = "anonimizacao";
 } // namespace audit_operation
 
 /// Stands among the values of a row that has come in an import: the import's number.
@@ -96,5 +98,9 @@ void AuditRestoration(Database& database, const Author& author, const char* tabl
 void AuditImport(Database& database, const Author& author, const AuditValues& what);
 /// The same of an import that was taken back.
 void AuditUndoneImport(Database& database, const Author& author, Key number, const AuditValues& what);
+
+/// Writes the line of a person who was made anonymous, with figures of what it was done to.
+void AuditAnonymisation(Database& database, const Author& author, const char* table, Key key,
+                        const AuditValues& what);
 
 } // namespace kova::family

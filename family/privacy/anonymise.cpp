@@ -1,0 +1,328 @@
+#include "family/privacy/anonymise.hpp"
+
+#include "family/data/audit/audit.hpp"
+#include "family/data/audit/import_audit.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/engine/safe_write.hpp"
+#include "family/data/engine/snapshot.hpp"
+#include "family/data/rows/find_by_key.hpp"
+#include "family/data/rows/people_rows.hpp"
+#include "family/data/rows/select_where.hpp"
+#include "family/data/rows/update_row.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/privacy/affected.hpp"
+#include "family/privacy/clean_values.hpp"
+#include "family/privacy/remains.hpp"
+
+namespace kova::family::privacy {
+
+namespace {
+
+using Outcome = AnonymiseAnswer::Outcome;
+
+/// A customer's values of `situacao`, and an animal's.
+constexpr int DeletedCustomer = 4, InactiveAnimal = 2;
+
+struct ChannelOfPerson : ChannelRow {
+    static constexpr const char* FoundBy = "codigo_do_cliente";
+};
+
+struct AnimalOfPerson : AnimalRow {
+    static constexpr const char* FoundBy = "codigo_do_cliente";
+};
+
+/// What is written of a line of the audit.
+struct AuditTexts {
+    static constexpr const char* Table = "auditoria";
+    Key codigo = 0;
+    Nullable<std::string> antes, depois;
+
+    template <class Visit> void Columns(Visit visit)
+    {
+        visit("codigo", codigo);
+        visit("antes", antes);
+        visit("depois", depois);
+    }
+};
+
+class ChannelRemoval : public KeptStatement {
+public:
+    explicit ChannelRemoval(Database& database)
+        : statement_((database.Session().prepare
+                          << "delete from canal_de_comunicacao where codigo_do_cliente = :codigo",
+                      soci::use(customer_, "codigo")))
+    {
+    }
+
+    void Run(Key customer)
+    {
+        customer_ = customer;
+        statement_.execute(true);
+    }
+
+private:
+    Key customer_ = 0;
+    soci::statement statement_;
+};
+
+template <class Row> bool IsSame(const Row& one, const Row& other)
+{
+    return ValuesOf(one).Line() == ValuesOf(other).Line();
+}
+
+template <class Row> std::vector<Row> RowsOf(Database& database, Key customer)
+{
+    std::vector<Row> rows;
+    SelectWhere<Row>(database, std::set<Key>{customer}, [&](const Row& row) { rows.push_back(row); });
+    return rows;
+}
+
+/// The text without what tells who somebody is.
+std::string Cleaned(const StoredAuditLine& line, const std::string& text)
+{
+    AuditedValues values = ReadValues(text);
+    CleanValues(line.tabela, line.chave, values);
+    return values.dump(-1, ' ', false, AuditedValues::error_handler_t::replace);
+}
+
+class Anonymiser {
+public:
+    Anonymiser(Database& database, const AnonymiseRequest& request) : database_(database), request_(request)
+    {
+    }
+
+    /// Looks for what has to be written, and whether it may be. Goes through the audit behind the last line
+    /// that was looked at, unless the person is known by other names and numbers since.
+    AnonymiseAnswer Look(const std::string& moment, const LongWork& work)
+    {
+        const std::optional<Person> person = FindPerson(database_, request_.code);
+        if (!person)
+            return {.outcome = Outcome::Gone,
+                    .text = "Não há cliente com o código " + std::to_string(request_.code) + "."};
+        if (person != person_)
+            BeginAnew();
+        person_ = person;
+        affected_ = FindAffected(database_, *person_, request_.sameName);
+        CollectLines(work);
+        AnonymiseAnswer answer = Counted();
+        answer.text = WhyNotNow(database_, *person_, affected_, moment);
+        answer.outcome = answer.text.empty() ? Outcome::Done : Outcome::Refused;
+        return answer;
+    }
+
+    /// Cleans the lines that a desk had written, but not yet kept, when the audit was looked through. To be
+    /// run where several write at a time, after what Write has written is kept.
+    void CleanLateLines(const LongWork& work)
+    {
+        BeginAnew();
+        CollectLines(work);
+        if (lines_.empty())
+            return;
+        WriteSafely(database_, [&] {
+            WriteLines();
+            return true;
+        });
+    }
+
+    /// Writes what Look has found, in the transaction that is open.
+    void Write(const AnonymiseAnswer& answer, const Author& author)
+    {
+        WriteCustomer();
+        WriteAnimals();
+        database_.With<ChannelRemoval>([&](ChannelRemoval& removal) { removal.Run(person_->code); });
+        for (const AppointmentRow& row : affected_.all)
+            WriteAppointment(row.numero);
+        WriteLines();
+        AuditAnonymisation(database_, author, CustomerRow::Table, person_->code,
+                           AuditValues()
+                               .Add("canais", answer.channels)
+                               .Add("animais", answer.animals)
+                               .Add("agendamentos", answer.appointments)
+                               .Add("linhas_da_auditoria", answer.auditLines));
+    }
+
+private:
+    void BeginAnew()
+    {
+        lines_.clear();
+        lastLine_ = 0;
+    }
+
+    void WriteLines()
+    {
+        for (const AuditTexts& line : lines_)
+            Update(database_, line);
+    }
+
+    AnonymiseAnswer Counted() const
+    {
+        AnonymiseAnswer answer;
+        answer.channels = static_cast<long long>(RowsOf<ChannelOfPerson>(database_, person_->code).size());
+        answer.animals = static_cast<long long>(RowsOf<AnimalOfPerson>(database_, person_->code).size());
+        answer.appointments = static_cast<long long>(affected_.all.size());
+        answer.auditLines = static_cast<long long>(lines_.size());
+        answer.undecided = affected_.undecided;
+        return answer;
+    }
+
+    bool IsMeant(Likeness likeness) const
+    {
+        return IsHis(likeness) || (likeness == Likeness::Name && request_.sameName.value_or(false));
+    }
+
+    void CollectLines(const LongWork& work)
+    {
+        std::set<Key> numbers;
+        for (const AppointmentRow& row : affected_.all)
+            numbers.insert(row.numero);
+        LinesOfPerson judge(*person_, std::move(numbers));
+        VisitAudit(database_, lastLine_, work, [&](const StoredAuditLine& line) {
+            lastLine_ = line.codigo;
+            AuditTexts cleaned{line.codigo, CleanedText(judge, line, line.antes),
+                               CleanedText(judge, line, line.depois)};
+            if (!IsUnchanged(cleaned.antes, line.antes) || !IsUnchanged(cleaned.depois, line.depois))
+                lines_.push_back(std::move(cleaned));
+        });
+    }
+
+    Nullable<std::string> CleanedText(LinesOfPerson& judge, const StoredAuditLine& line,
+                                      const Nullable<std::string>& text) const
+    {
+        if (!IsMeant(judge.Of(line, text)))
+            return text;
+        return Cleaned(line, text.value);
+    }
+
+    static bool IsUnchanged(const Nullable<std::string>& one, const Nullable<std::string>& other)
+    {
+        return one.IsNull() == other.IsNull() && (one.IsNull() || one.value == other.value);
+    }
+
+    void WriteCustomer()
+    {
+        auto customer = FindByKey<CustomerRow>(database_, person_->code);
+        if (!customer)
+            return;
+        CleanRow(*customer);
+        customer->situacao = DeletedCustomer;
+        customer->Compose({});
+        Update(database_, *customer);
+    }
+
+    void WriteAnimals()
+    {
+        for (AnimalRow animal : RowsOf<AnimalOfPerson>(database_, person_->code)) {
+            CleanRow(animal);
+            animal.situacao = InactiveAnimal;
+            animal.nomeDeBusca = FoldText(animal.nome);
+            Update(database_, animal);
+        }
+    }
+
+    /// Read again and locked: another desk may have written it meanwhile.
+    void WriteAppointment(Key number)
+    {
+        const auto stored = FindByKey<LockedAppointmentRow>(database_, number);
+        if (!stored)
+            return;
+        AppointmentRow row = *stored;
+        CleanRow(row);
+        row.Compose();
+        if (IsSame<AppointmentRow>(*stored, row))
+            return;
+        ++row.versao;
+        Update(database_, row);
+    }
+
+    Database& database_;
+    const AnonymiseRequest request_;
+    std::optional<Person> person_;
+    AffectedAppointments affected_;
+    Key lastLine_ = 0;
+    std::vector<AuditTexts> lines_;
+};
+
+/// Overwrites what it frees, from now on.
+void EraseWhatIsFreed(Database& database)
+{
+    if (database.GetDialect().IsServer())
+        return;
+    try {
+        database.Session() << "pragma secure_delete = on";
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(database.Path(), cause);
+    }
+}
+
+template <class Act> auto Told(const std::string& source, Act act)
+{
+    try {
+        return act();
+    } catch (const Interrupted& cause) {
+        throw TranslatedFailure(source, cause);
+    }
+}
+
+/// Empty where none stays.
+std::string WhyLateLinesStay(Anonymiser& anonymiser)
+{
+    try {
+        anonymiser.CleanLateLines({});
+        return {};
+    } catch (const DatabaseFailure& failure) {
+        return "O histórico não pôde ser conferido até o fim; torne o cliente anônimo mais uma vez. "
+            + failure.Cause();
+    }
+}
+
+/// Most of the audit is looked through before anybody has to wait.
+AnonymiseAnswer WriteAll(Database& database, const AnonymiseRequest& request, const Author& author,
+                         const LongWork& work)
+{
+    Anonymiser anonymiser(database, request);
+    AnonymiseAnswer answer = anonymiser.Look(author.moment, work);
+    if (!answer.IsDone())
+        return answer;
+    WriteSafely(database, [&] {
+        LockImports(database);
+        answer = anonymiser.Look(author.moment, {});
+        if (answer.IsDone())
+            anonymiser.Write(answer, author);
+        return answer.IsDone();
+    });
+    if (answer.IsDone() && database.GetDialect().IsServer())
+        answer.remains = WhyLateLinesStay(anonymiser);
+    return answer;
+}
+
+} // namespace
+
+AnonymiseAnswer PlanToAnonymise(const std::string& source, const AnonymiseRequest& request,
+                                const std::string& moment, const LongWork& work)
+{
+    return Told(source, [&] {
+        const std::unique_ptr<Database> database = OpenNewestForReading(source);
+        const Snapshot snapshot(*database);
+        AnonymiseAnswer answer = Anonymiser(*database, request).Look(moment, work);
+        answer.copies = CopiesBeside(source);
+        return answer;
+    });
+}
+
+AnonymiseAnswer Anonymise(const std::string& source, const AnonymiseRequest& request, const Author& author,
+                          const LongWork& work)
+{
+    AnonymiseAnswer answer = Told(source, [&] {
+        const std::shared_ptr<Database> database = OpenForLongWork(source);
+        EraseWhatIsFreed(*database);
+        return WriteAll(*database, request, author, work);
+    });
+    if (!answer.IsDone())
+        return answer;
+    if (const std::string remains = DropRemains(source); !remains.empty())
+        answer.remains += (answer.remains.empty() ? "" : "\n") + remains;
+    answer.copies = CopiesBeside(source);
+    return answer;
+}
+
+} // namespace kova::family::privacy
