@@ -33,7 +33,10 @@ void SavePicture(QWidget& window, const std::filesystem::path& file)
         std::filesystem::create_directories(file.parent_path(), ignored);
     const std::string name = system::TextOf(file);
     QSaveFile target(QString::fromStdString(name));
-    if (!target.open(QIODevice::WriteOnly) || !window.grab().save(&target, "PNG") || !target.commit()) {
+    const bool isOpen = target.open(QIODevice::WriteOnly);
+    // Customers stand in it. Where a disk knows no rights, it is written all the same.
+    target.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    if (!isOpen || !window.grab().save(&target, "PNG") || !target.commit()) {
         throw std::runtime_error("A imagem \"" + name
                                  + "\" não pôde ser gravada: " + target.errorString().toStdString()
                                  + ". Informe em --picture um arquivo de uma pasta em que você pode gravar.");

@@ -11,8 +11,9 @@ namespace kova::system {
 std::optional<std::string> ReadWholeFile(const std::string& path, std::error_code& error);
 
 /// Replaces a file's content in one step: whoever reads it, also after a crash, finds the old content or
-/// the new one whole. A link stays and its target is replaced; the file keeps its permissions. False, with
-/// `error`, where it cannot be written, and nothing has changed then.
+/// the new one whole. A link stays and its target is replaced; the file keeps its permissions, and one that
+/// is new is for this user alone, or gets its rights from its folder where files do so. False, with `error`,
+/// where it cannot be written, and nothing has changed then.
 bool ReplaceWholeFile(const std::string& path, const std::string& content, std::error_code& error);
 
 /// Puts the content of one file into another, which is there already and keeps its rights. Throws

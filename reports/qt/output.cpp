@@ -95,6 +95,8 @@ QString WritePdf(const reports::Document& document, const QString& path)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return NotWritten(path, WhyClosed(path));
+    // People's names and addresses stand in it. Where a disk knows no rights, it is written all the same.
+    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     QPdfWriter writer(&file);
     writer.setResolution(static_cast<int>(TwipsOfInch));
     writer.setTitle(QString::fromStdString(document.title));

@@ -12,7 +12,7 @@ namespace kova::paper {
 
 /// Writes a document as PDF in its paper's size, with texts that can be selected, fonts inside and its title.
 /// Answers "" or, in Portuguese, what kept it from being written; an older file of that name stays as it was
-/// then.
+/// then. The file is for this user alone.
 QString WritePdf(const reports::Document& document, const QString& path);
 
 /// Gives a printer the paper and the title of a document, before its dialog is shown.

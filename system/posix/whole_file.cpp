@@ -27,15 +27,11 @@ bool WriteAll(int descriptor, std::string_view content)
     return true;
 }
 
-/// The permissions of the file that is replaced, or those that a new file gets.
+/// The permissions of the file that is replaced. A new file is for its owner alone.
 mode_t ModeFor(const std::string& path)
 {
     struct stat status;
-    if (::stat(path.c_str(), &status) == 0)
-        return status.st_mode & 07777;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
+    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : S_IRUSR | S_IWUSR;
 }
 
 /// The file behind a chain of links, so that a rename does not put a plain file in a link's place.

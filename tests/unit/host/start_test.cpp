@@ -60,6 +60,22 @@ TEST(Start, DrawsTheDemonstrationDayIntoAPictureAndPrintsItsFirstRows)
     EXPECT_GE(RowsIn(result.output), 5) << result.output;
 }
 
+TEST(Start, LeavesNothingThatOthersMayRead)
+{
+    const TemporaryFolder home;
+    ASSERT_EQ(RunKovaris({"--date", "25/03/2026"}, home.Path()).status, 0);
+    int files = 0;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(home.Path())) {
+        constexpr fs::perms OfOthers = fs::perms::group_all | fs::perms::others_all;
+        if (!entry.is_regular_file())
+            continue;
+        ++files;
+        EXPECT_EQ(entry.status().permissions() & OfOthers, fs::perms::none) << entry.path();
+    }
+    // The registry, the demonstration and the picture at least.
+    EXPECT_GE(files, 3);
+}
+
 TEST(Start, WithoutADisplaySaysWhereThePictureIsAndWhatADisplayIsFor)
 {
     const TemporaryFolder home;

@@ -178,6 +178,19 @@ TEST_F(ReportOutput, TellsInPortugueseWhyAFileCannotBeWritten)
     EXPECT_TRUE(WritePdf(document, folder_.path()).contains(QStringLiteral("não permite gravação")));
 }
 
+TEST_F(ReportOutput, IsReadByItsOwnerAloneWhateverItReplaces)
+{
+    constexpr auto Everybody = QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther
+        | QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    constexpr auto OfOthers =
+        QFileDevice::ReadGroup | QFileDevice::ReadOther | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    for (int times = 0; times < 2; ++times) {
+        ASSERT_EQ(WritePdf(LaidOut(NumberedList(1)), File("lista.pdf")).toStdString(), "");
+        EXPECT_EQ(QFile::permissions(File("lista.pdf")) & OfOthers, QFileDevice::Permissions());
+        QFile::setPermissions(File("lista.pdf"), Everybody);
+    }
+}
+
 TEST_F(ReportOutput, KeepsTheOlderFileWhereTheDiskIsFull)
 {
     ASSERT_EQ(WritePdf(LaidOut(NumberedList(1)), File("lista.pdf")).toStdString(), "");

@@ -25,6 +25,16 @@ TEST_F(RightsOnPosix, ToALockedFileThatIsMadeAreTheOwnersAlone)
     EXPECT_EQ(RightsTo("outra"), OwnersAlone);
 }
 
+TEST_F(RightsOnPosix, ToANewFileThatIsWrittenWholeAreTheOwnersAlone)
+{
+    std::error_code error;
+    ASSERT_TRUE(ReplaceWholeFile(In("ajustes"), "x", error)) << error.message();
+    EXPECT_EQ(RightsTo("ajustes"), OwnersAlone);
+    std::filesystem::permissions(PathOf(In("ajustes")), std::filesystem::perms::all);
+    ASSERT_TRUE(ReplaceWholeFile(In("ajustes"), "y", error)) << error.message();
+    EXPECT_EQ(RightsTo("ajustes"), std::filesystem::perms::all);
+}
+
 TEST_F(RightsOnPosix, ToAFileStayWhenItTakesTheContentOfAnother)
 {
     Write(In("ração"), "x");
