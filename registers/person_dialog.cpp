@@ -1,0 +1,255 @@
+#include "registers/person_dialog.hpp"
+
+#include "family/data/engine/database.hpp"
+#include "family/data/engine/iso_text.hpp"
+#include "family/privacy/anonymise_words.hpp"
+#include "family/privacy/person_files.hpp"
+#include "registers/background_work.hpp"
+#include "screens/field_frame.hpp"
+#include "screens/refusal_label.hpp"
+#include "toolkits/qt/look/theme.hpp"
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace kova::registers {
+
+namespace {
+
+using family::privacy::AnonymiseAnswer;
+using family::privacy::PersonFiles;
+
+constexpr int UsualWidth = 640;
+constexpr int RoomBetweenParts = 14;
+
+QLabel* Heading(const QString& text, QWidget* parent)
+{
+    constexpr double Points = 12;
+    auto* label = new QLabel(text, parent);
+    label->setFont(qt::MakeFont("Arial", Points, true));
+    return label;
+}
+
+/// "yyyy-mm-dd hh:mm:ss" as a moment.
+DateTime MomentOf(const std::string& kept)
+{
+    constexpr std::size_t Date = 10, Time = 5;
+    return family::ReadIsoMoment(kept.substr(0, Date), kept.substr(Date + 1, Time));
+}
+
+} // namespace
+
+PersonDialog::PersonDialog(const Desk& desk, family::Key customer, QWidget* parent)
+    : QDialog(parent),
+      desk_(desk),
+      customer_(customer),
+      source_(desk.database->Path()),
+      folder_(new QLineEdit(this)),
+      code_(new QLineEdit(this)),
+      choose_(Button("escolherPasta", QStringLiteral("&Escolher..."))),
+      export_(Button("exportar", QStringLiteral("&Gravar arquivos"))),
+      anonymise_(Button("anonimizar", QStringLiteral("&Tornar anônimo"))),
+      close_(Button("fechar", QStringLiteral("&Fechar"))),
+      sameName_(new QCheckBox(
+          QStringLiteral("Os agendamentos &sem cadastro que têm só o mesmo nome também são desta pessoa"),
+          this)),
+      progress_(new QProgressBar(this)),
+      failure_(new screens::RefusalLabel(this)),
+      told_(new QLabel(this)),
+      work_(new BackgroundWork(this))
+{
+    setObjectName(QStringLiteral("DadosDaPessoa"));
+    setWindowTitle(QStringLiteral("Dados da pessoa: cliente %1").arg(customer));
+    setBackgroundRole(QPalette::Base);
+    auto* layout = new QVBoxLayout(this);
+    AddExport(*layout);
+    layout->addSpacing(RoomBetweenParts);
+    AddAnonymising(*layout);
+    layout->addSpacing(RoomBetweenParts);
+    AddOutcome(*layout);
+    connect(close_, &QPushButton::clicked, this, [this] { reject(); });
+    Offer();
+    resize(UsualWidth, sizeHint().height());
+    folder_->setFocus();
+}
+
+QPushButton* PersonDialog::Button(const char* name, const QString& text)
+{
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QString::fromLatin1(name));
+    // Enter in a field does what stands beside that field.
+    button->setAutoDefault(false);
+    return button;
+}
+
+QLabel* PersonDialog::AddText(QVBoxLayout& layout, const QString& text)
+{
+    auto* label = new QLabel(text, this);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    layout.addWidget(label);
+    return label;
+}
+
+void PersonDialog::AddExport(QVBoxLayout& layout)
+{
+    layout.addWidget(Heading(QStringLiteral("Exportar"), this));
+    AddText(
+        layout,
+        QStringLiteral("Grava tudo que a loja guarda sobre esta pessoa em dois arquivos: uma página para ler "
+                       "e imprimir, e um JSON. Só o seu usuário do computador pode lê-los."));
+    folder_->setObjectName(QStringLiteral("pasta"));
+    folder_->setText(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    auto* row = new QHBoxLayout;
+    row->addWidget(new screens::FieldFrame(QStringLiteral("&Pasta"), folder_, this), 1);
+    row->addWidget(choose_, 0, Qt::AlignBottom);
+    row->addWidget(export_, 0, Qt::AlignBottom);
+    layout.addLayout(row);
+    connect(choose_, &QPushButton::clicked, this, [this] { ChooseFolder(); });
+    connect(export_, &QPushButton::clicked, this, [this] { Export(); });
+    connect(folder_, &QLineEdit::returnPressed, export_, &QPushButton::click);
+}
+
+void PersonDialog::AddAnonymising(QVBoxLayout& layout)
+{
+    layout.addWidget(Heading(QStringLiteral("Tornar anônimo"), this));
+    AddText(layout,
+            QStringLiteral(
+                "Tira o nome, o documento, o endereço, os contatos e as observações desta pessoa, e os "
+                "nomes dos seus animais, de todos os registros, também do histórico. Ficam os "
+                "agendamentos com datas, serviços, funcionários e valores. O cadastro passa a "
+                "excluído. Isso não pode ser desfeito."));
+    code_->setObjectName(QStringLiteral("codigo"));
+    code_->setMaxLength(18);
+    sameName_->setObjectName(QStringLiteral("mesmoNome"));
+    sameName_->hide();
+    auto* row = new QHBoxLayout;
+    const QString label = QStringLiteral("Para confirmar, digite o &código do cliente (%1)").arg(customer_);
+    row->addWidget(new screens::FieldFrame(label, code_, this), 1);
+    row->addWidget(anonymise_, 0, Qt::AlignBottom);
+    layout.addWidget(sameName_);
+    layout.addLayout(row);
+    connect(code_, &QLineEdit::textChanged, this, [this] { Offer(); });
+    connect(code_, &QLineEdit::returnPressed, anonymise_, &QPushButton::click);
+    connect(anonymise_, &QPushButton::clicked, this, [this] { Anonymise(); });
+}
+
+void PersonDialog::AddOutcome(QVBoxLayout& layout)
+{
+    progress_->setObjectName(QStringLiteral("andamento"));
+    progress_->setAccessibleName(QStringLiteral("Andamento"));
+    progress_->hide();
+    failure_->setObjectName(QStringLiteral("falha"));
+    told_->setObjectName(QStringLiteral("recado"));
+    told_->setTextFormat(Qt::PlainText);
+    told_->setWordWrap(true);
+    told_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    told_->hide();
+    layout.addWidget(progress_);
+    layout.addWidget(failure_);
+    layout.addWidget(told_);
+    layout.addStretch(1);
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    row->addWidget(close_);
+    layout.addLayout(row);
+}
+
+void PersonDialog::ChooseFolder()
+{
+    const QString chosen =
+        QFileDialog::getExistingDirectory(this, QStringLiteral("Pasta dos arquivos"), folder_->text());
+    if (!chosen.isEmpty())
+        folder_->setText(chosen);
+}
+
+void PersonDialog::Export()
+{
+    const std::string folder = folder_->text().toStdString();
+    const DateTime now = MomentOf(desk_.author().moment);
+    auto files = std::make_shared<PersonFiles>();
+    Begin(
+        [source = source_, code = customer_, folder, now, files](const family::LongWork& work) {
+            *files = family::privacy::ExportPerson(source, code, folder, now, work);
+        },
+        [this, files] {
+            told_->setText(
+                QStringLiteral("Gravados:\n%1\n%2")
+                    .arg(QString::fromStdString(files->page), QString::fromStdString(files->json)));
+        });
+}
+
+void PersonDialog::Anonymise()
+{
+    family::privacy::AnonymiseRequest request{customer_};
+    if (!sameName_->isHidden())
+        request.sameName = sameName_->isChecked();
+    auto answer = std::make_shared<AnonymiseAnswer>();
+    Begin(
+        [source = source_, request, author = desk_.author(), answer](const family::LongWork& work) {
+            *answer = family::privacy::Anonymise(source, request, author, work);
+        },
+        [this, answer] { ShowAnswer(*answer); });
+}
+
+void PersonDialog::ShowAnswer(const AnonymiseAnswer& answer)
+{
+    if (!answer.undecided.empty())
+        sameName_->show();
+    if (!answer.IsDone())
+        return failure_->Tell(qt::Lines(answer.text));
+    isAnonymous_ = true;
+    told_->setText(qt::Lines(family::privacy::DoneInWords(source_, customer_, answer)));
+}
+
+void PersonDialog::Begin(const std::function<void(const family::LongWork&)>& act, std::function<void()> done)
+{
+    failure_->Tell({});
+    told_->hide();
+    progress_->setValue(0);
+    progress_->show();
+    work_->Begin(act,
+                 {[this](int hundredths) { progress_->setValue(hundredths); },
+                  [this, done = std::move(done)](const std::string& failure) {
+                      progress_->hide();
+                      told_->clear();
+                      if (failure.empty())
+                          done();
+                      else
+                          failure_->Tell(qt::Lines(failure));
+                      told_->setVisible(!told_->text().isEmpty());
+                      Offer();
+                      adjustSize();
+                  }});
+    Offer();
+}
+
+void PersonDialog::Offer()
+{
+    const bool isFree = !work_->IsUnderWay();
+    export_->setEnabled(isFree);
+    choose_->setEnabled(isFree);
+    folder_->setEnabled(isFree);
+    code_->setEnabled(isFree && !isAnonymous_);
+    sameName_->setEnabled(isFree && !isAnonymous_);
+    anonymise_->setEnabled(isFree && !isAnonymous_ && code_->text().trimmed() == QString::number(customer_));
+    close_->setText(isFree ? QStringLiteral("&Fechar") : QStringLiteral("&Cancelar"));
+}
+
+void PersonDialog::reject()
+{
+    if (work_->IsUnderWay())
+        return work_->Stop();
+    QDialog::reject();
+}
+
+} // namespace kova::registers

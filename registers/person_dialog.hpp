@@ -1,0 +1,64 @@
+#pragma once
+
+#include "registers/desk.hpp"
+
+#include "family/privacy/anonymise.hpp"
+
+#include <QDialog>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QProgressBar;
+class QPushButton;
+class QVBoxLayout;
+
+namespace kova::screens {
+class RefusalLabel;
+}
+
+namespace kova::registers {
+
+class BackgroundWork;
+
+/// What a customer can ask of the shop about his data: to get all of them, and to be made anonymous.
+class PersonDialog : public QDialog {
+public:
+    PersonDialog(const Desk& desk, family::Key customer, QWidget* parent);
+
+    /// Whether the customer was made anonymous.
+    bool IsAnonymous() const { return isAnonymous_; }
+
+    /// Ends work that is under way, and closes the dialog where there is none.
+    void reject() override;
+
+private:
+    void AddExport(QVBoxLayout& layout);
+    void AddAnonymising(QVBoxLayout& layout);
+    void AddOutcome(QVBoxLayout& layout);
+    QLabel* AddText(QVBoxLayout& layout, const QString& text);
+    QPushButton* Button(const char* name, const QString& text);
+
+    void ChooseFolder();
+    void Export();
+    void Anonymise();
+    void ShowAnswer(const family::privacy::AnonymiseAnswer& answer);
+    /// Runs in the background; `done` tells what has come of it where it has not failed.
+    void Begin(const std::function<void(const family::LongWork&)>& act, std::function<void()> done);
+    void Offer();
+
+    const Desk& desk_;
+    const family::Key customer_;
+    /// Where the shop's data lie.
+    const std::string source_;
+    QLineEdit *folder_, *code_;
+    QPushButton *choose_, *export_, *anonymise_, *close_;
+    QCheckBox* sameName_;
+    QProgressBar* progress_;
+    screens::RefusalLabel* failure_;
+    QLabel* told_;
+    BackgroundWork* work_;
+    bool isAnonymous_ = false;
+};
+
+} // namespace kova::registers
