@@ -11,30 +11,18 @@ constexpr char Separator = '\0';
 
 } // namespace
 
-FoldedTexts::FoldedTexts(Database& database, std::vector<std::string> tables, const char* selection,
+FoldedTexts::FoldedTexts(Database& database, const std::vector<std::string>& tables, const char* selection,
                          Order order)
     : order_(order),
-      tables_(std::move(tables)),
-      countChanges_((database.Session().prepare
-                         << "select cast(coalesce(sum(alteracoes), 0) as bigint) from contador_de_alteracoes"
-                            " where tabela in (:uma, :outra)",
-                     soci::use(tables_.front(), "uma"), soci::use(tables_.back(), "outra"),
-                     soci::into(changes_))),
+      changes_(database, tables),
       readTexts_((database.Session().prepare << selection, soci::into(key_), soci::into(text_)))
 {
 }
 
-/// The count is read first: a change that comes in between is then seen at the next search.
+/// The count is asked first: a change that comes in between is then seen at the next search.
 void FoldedTexts::Refresh()
 {
-    countChanges_.execute();
-    while (countChanges_.fetch())
-        continue;
-    if (changes_ == readAt_)
-        return;
-    readAt_ = -1;
-    Read();
-    readAt_ = changes_;
+    changes_.ReadAgain(std::nullopt, [this] { Read(); });
 }
 
 void FoldedTexts::Read()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/data/engine/change_count.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/rows.hpp"
 
@@ -41,9 +42,9 @@ protected:
         ByFirstLine,
     };
 
-    /// `tables` are the names under which the changes are counted, two at most; `selection` gives key and
-    /// text of every row.
-    FoldedTexts(Database& database, std::vector<std::string> tables, const char* selection,
+    /// `tables` are the names under which the changes are counted; `selection` gives key and text of every
+    /// row.
+    FoldedTexts(Database& database, const std::vector<std::string>& tables, const char* selection,
                 Order order = Order::AsSelected);
     FoldedTexts(Database& database, const char* table, const char* selection, Order order = Order::AsSelected)
         : FoldedTexts(database, std::vector<std::string>{table}, selection, order)
@@ -64,12 +65,9 @@ private:
     std::vector<Key> keys_;
     /// Keys with their places, in the order of the keys; made when somebody first asks for one.
     mutable std::vector<std::pair<Key, std::uint32_t>> placesByKey_;
-    long long readAt_ = -1;
 
     const Order order_;
-    std::vector<std::string> tables_;
-    long long changes_ = 0;
-    soci::statement countChanges_;
+    ChangeCount changes_;
     Key key_ = 0;
     std::string text_;
     soci::statement readTexts_;

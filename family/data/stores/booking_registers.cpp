@@ -1,6 +1,8 @@
 #include "family/data/stores/booking_registers.hpp"
 
+#include "family/data/engine/change_count.hpp"
 #include "family/data/rows/row_statement.hpp"
+#include "family/data/stores/holiday_calendar.hpp"
 #include "family/data/stores/work_tables.hpp"
 
 #include <deque>
@@ -81,9 +83,9 @@ private:
     /// An employee cannot be locked in the selection itself, where there may be none.
     static std::string StatementWith(const std::string& columns, const std::string& lockRow)
     {
-        return "with f as (select * from funcionario where codigo = :funcionario" + lockRow
-            + ") select (select alteracoes from contador_de_alteracoes where tabela = 'feriado'), ("
-            + ChangesOfWorkTables() + ")" + columns
+        return "with f as (select * from funcionario where codigo = :funcionario" + lockRow + ") select ("
+            + ChangeCount::Selection({HolidayCalendar::Table}) + "), ("
+            + ChangeCount::Selection(NamesOfWorkTables()) + ")" + columns
             + " from (select 1 as um) as sempre"
               " left join cliente c on c.codigo = :cliente"
               " left join animal n on n.codigo = :animal"

@@ -1,5 +1,6 @@
 #include "family/data/stores/holiday_calendar.hpp"
 
+#include "family/data/engine/change_count.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/rows/rows.hpp"
@@ -22,9 +23,7 @@ std::string DateOf(const HolidayRow& row)
 class HolidaysInMemory : public KeptStatement {
 public:
     explicit HolidaysInMemory(Database& database)
-        : countChanges_((database.Session().prepare
-                             << "select alteracoes from contador_de_alteracoes where tabela = 'feriado'",
-                         soci::into(counted_))),
+        : changes_(database, {HolidayCalendar::Table}),
           readHolidays_(
               (database.Session().prepare << "select nome, dia, mes, data from feriado order by codigo",
                soci::into(row_.nome), soci::into(row_.dia.value, row_.dia.state),
@@ -35,23 +34,11 @@ public:
     /// `changes` is how often they were changed, read before; nothing where that is to be asked.
     std::shared_ptr<const HolidayCalendar::Names> After(std::optional<long long> changes)
     {
-        const long long now = changes ? *changes : Counted();
-        if (!names_ || now != readAt_) {
-            names_ = Read();
-            readAt_ = now;
-        }
+        changes_.ReadAgain(changes, [this] { names_ = Read(); });
         return names_;
     }
 
 private:
-    long long Counted()
-    {
-        countChanges_.execute();
-        while (countChanges_.fetch())
-            continue;
-        return counted_;
-    }
-
     std::shared_ptr<const HolidayCalendar::Names> Read()
     {
         auto names = std::make_shared<HolidayCalendar::Names>();
@@ -62,8 +49,7 @@ private:
     }
 
     std::shared_ptr<const HolidayCalendar::Names> names_;
-    long long readAt_ = 0, counted_ = 0;
-    soci::statement countChanges_;
+    ChangeCount changes_;
     HolidayRow row_;
     soci::statement readHolidays_;
 };

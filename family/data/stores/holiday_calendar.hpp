@@ -19,6 +19,9 @@ public:
     /// By "mm-dd" and by "yyyy-mm-dd".
     using Names = std::map<std::string, std::string, std::less<>>;
 
+    /// Where they stand, and the name under which their changes are counted.
+    static constexpr const char* Table = "feriado";
+
     /// As the holidays stand when they are first asked for.
     explicit HolidayCalendar(Database& database) : database_(database) { }
     /// The same where it is known already how often they were changed.

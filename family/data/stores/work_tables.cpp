@@ -1,5 +1,6 @@
 #include "family/data/stores/work_tables.hpp"
 
+#include "family/data/engine/change_count.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/engine/iso_text.hpp"
 
@@ -54,7 +55,7 @@ constexpr const char* ReadAll =
 class WorkInMemory : public KeptStatement {
 public:
     explicit WorkInMemory(Database& database)
-        : countChanges_((database.Session().prepare << ChangesOfWorkTables(), soci::into(counted_))),
+        : changes_(database, NamesOfWorkTables()),
           readAll_((database.Session().prepare << ReadAll, soci::into(row_.kind), soci::into(row_.employee),
                     soci::into(row_.weekday), soci::into(row_.startDate), soci::into(row_.startTime),
                     soci::into(row_.endDate), soci::into(row_.endTime), soci::into(row_.reason)))
@@ -63,23 +64,11 @@ public:
 
     std::shared_ptr<const WorkTables> After(std::optional<long long> changes)
     {
-        const long long now = changes ? *changes : Counted();
-        if (!tables_ || now != readAt_) {
-            tables_ = Read();
-            readAt_ = now;
-        }
+        changes_.ReadAgain(changes, [this] { tables_ = Read(); });
         return tables_;
     }
 
 private:
-    long long Counted()
-    {
-        countChanges_.execute();
-        while (countChanges_.fetch())
-            continue;
-        return counted_;
-    }
-
     std::shared_ptr<const WorkTables> Read()
     {
         auto tables = std::make_shared<WorkTables>();
@@ -90,8 +79,7 @@ private:
     }
 
     std::shared_ptr<const WorkTables> tables_;
-    long long readAt_ = 0, counted_ = 0;
-    soci::statement countChanges_;
+    ChangeCount changes_;
     WorkRow row_;
     soci::statement readAll_;
 };
@@ -118,11 +106,6 @@ std::shared_ptr<const WorkTables> FindWorkTables(Database& database, std::option
     return database.With<WorkInMemory>([&](WorkInMemory& kept) { return kept.After(changes); });
 }
 
-// None of them is ever set back, so that their sum stands still only where all of them do.
-std::string ChangesOfWorkTables()
-{
-    return "select cast(sum(alteracoes) as bigint) from contador_de_alteracoes"
-           " where tabela in ('expediente', 'horario_do_funcionario', 'ausencia')";
-}
+std::vector<std::string> NamesOfWorkTables() { return {"expediente", "horario_do_funcionario", "ausencia"}; }
 
 } // namespace kova::family

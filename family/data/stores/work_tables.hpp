@@ -53,7 +53,7 @@ struct WorkTables {
 /// asked. Whoever holds them has them as they stood then. Fails as Database::With.
 std::shared_ptr<const WorkTables> FindWorkTables(Database& database, std::optional<long long> changes);
 
-/// A selection without parentheses, of one row: how often any of them was changed.
-std::string ChangesOfWorkTables();
+/// Where they stand, and the names under which their changes are counted.
+std::vector<std::string> NamesOfWorkTables();
 
 } // namespace kova::family

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <soci/soci.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+class Database;
+
+/// How often the rows of some tables were changed, by any program: what a connection keeps of them in memory
+/// is read again where they were. The Database must outlive it.
+class ChangeCount {
+public:
+    /// A selection without parentheses, of one row: how often they were changed, all together. None is ever
+    /// set back, so that the sum stands still only where all of them do.
+    static std::string Selection(const std::vector<std::string>& tables);
+
+    ChangeCount(Database& database, const std::vector<std::string>& tables);
+    ChangeCount(const ChangeCount&) = delete;
+    ChangeCount& operator=(const ChangeCount&) = delete;
+
+    /// Calls `read` the first time and where the tables were changed since it last came to its end. `known`
+    /// is how often they were, asked before what is read; nothing where that is to be asked now. Fails as the
+    /// statements do, and then reads again the next time.
+    template <typename Read> void ReadAgain(std::optional<long long> known, Read read)
+    {
+        const long long now = known ? *known : Asked();
+        if (readAt_ == now)
+            return;
+        readAt_.reset();
+        read();
+        readAt_ = now;
+    }
+
+private:
+    long long Asked();
+
+    std::optional<long long> readAt_;
+    long long counted_ = 0;
+    soci::statement count_;
+};
+
+} // namespace kova::family
