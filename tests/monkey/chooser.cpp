@@ -88,6 +88,8 @@ Act Chooser::Choose()
         return InBox();
     if (dynamic_cast<QFileDialog*>(QApplication::activeModalWidget()))
         return InFileDialog();
+    if (IsInOtherArea())
+        return InOtherArea();
     return FormInFront() ? InForm() : InOtherWindow();
 }
 
@@ -170,6 +172,20 @@ Act Chooser::InOtherWindow()
     }
 }
 
+Act Chooser::InOtherArea()
+{
+    switch (chance_.ByWeight({50, 25, 20, 5})) {
+    case 0: return AtTarget();
+    case 1:
+        return Key(chance_.OneOf<std::string>(
+            {"Tab", "Tab",  "Tab",    "Shift+Tab", "Down",  "Up",       "Return",
+             "Esc", "F3",   "Ctrl+N", "Ctrl+S",    "Space", "Alt+Down", "PgDown",
+             "End", "Home", "Ctrl+A", "Del",       "Alt+1", "Alt+2",    "Ctrl+PgDown"}));
+    case 2: return Type(words_.Any(chance_));
+    default: return Somewhere(Verb::Press, "@front");
+    }
+}
+
 Act Chooser::AtTarget()
 {
     const auto targets = Targets();
@@ -223,11 +239,11 @@ Act Chooser::Keys()
         "Tab",  "Tab",   "Tab",    "Shift+Tab", "Return", "Return", "Esc",   "Down",      "Down", "Up",
         "Left", "Right", "PgDown", "PgUp",      "Home",   "End",    "Space", "Backspace", "Del"};
     static const std::vector<std::string> commands{
-        "F1",        "F2",       "F3",       "F4",          "F5",        "F6",        "F7",        "F8",
-        "F9",        "F11",      "F12",      "Ctrl+1",      "Ctrl+2",    "Ctrl+3",    "Ctrl+4",    "Ctrl+5",
-        "Ctrl+S",    "Ctrl+S",   "Ctrl+P",   "Ctrl+A",      "Ctrl+C",    "Ctrl+V",    "Ctrl+X",    "Ctrl+Z",
-        "Ctrl+Home", "Ctrl+End", "Alt+Down", "Alt+Left",    "Alt+Right", "Alt+A",     "Alt+C",     "Alt+S",
-        "Alt+F",     "Alt+R",    "Ctrl+F",   "Ctrl+PgDown", "Ctrl+PgUp", "Ctrl+Left", "Ctrl+Right"};
+        "F1",        "F2",       "F3",       "F4",          "F5",        "F6",        "F7",         "F8",
+        "F9",        "F11",      "F12",      "Ctrl+1",      "Ctrl+2",    "Ctrl+3",    "Ctrl+4",     "Ctrl+5",
+        "Ctrl+S",    "Ctrl+S",   "Ctrl+P",   "Ctrl+A",      "Ctrl+C",    "Ctrl+V",    "Ctrl+X",     "Ctrl+Z",
+        "Ctrl+Home", "Ctrl+End", "Alt+Down", "Alt+Left",    "Alt+Right", "Alt+A",     "Alt+C",      "Alt+S",
+        "Alt+F",     "Alt+R",    "Ctrl+F",   "Ctrl+PgDown", "Ctrl+PgUp", "Ctrl+Left", "Ctrl+Right", "Alt+2"};
     return Key(chance_.InHundred(60) ? chance_.OneOf(common) : chance_.OneOf(commands));
 }
 

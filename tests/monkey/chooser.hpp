@@ -52,6 +52,7 @@ private:
     Act InFileDialog();
     Act InForm();
     Act InOtherWindow();
+    Act InOtherArea();
     Act AtTarget();
     Act AtControl(const std::string& name, QWidget& widget);
     Act Keys();

@@ -20,6 +20,8 @@ constexpr int LongestWaitInTurns = 400;
 /// Going home may have to wait for a pause, not for ever.
 constexpr int LongestWaitForHomeInTurns = 20'000;
 constexpr int MostStepsHome = 60;
+/// A button that was struck is down for a moment before it acts, and begins it anew when it is struck again.
+constexpr int TurnsForAnAnswer = 500;
 
 QPoint PlaceIn(const QWidget& widget, int x, int y)
 {
@@ -65,6 +67,7 @@ void Player::Turn()
     if (isGone_)
         return;
     rules_.Look();
+    StayInThisShop();
     GiveKeyboardToFront();
     if (!strokes_.empty()) {
         const Stroke stroke = std::move(strokes_.front());
@@ -87,6 +90,16 @@ void Player::Turn()
     }
     if (MayBegin())
         Begin(*std::exchange(next_, std::nullopt));
+}
+
+// The menu leads to other shops, and there is none.
+void Player::StayInThisShop()
+{
+    QWidget* menu = staysInThisShop_ || !MainWindow() ? nullptr : MainWindow()->findChild<QWidget*>("menu");
+    if (!menu)
+        return;
+    menu->setEnabled(false);
+    staysInThisShop_ = true;
 }
 
 bool Player::MayBegin()
@@ -193,7 +206,7 @@ void Player::Close(const std::string& target)
     });
 }
 
-// Escape first of all; a question that comes again is answered with yes.
+// Escape first of all, from another area its key; a question that comes again is answered with yes.
 void Player::StepHome()
 {
     const toolkit::FormModel* form = FormInFront();
@@ -210,15 +223,18 @@ void Player::StepHome()
     }
     if (++stepsHome_ > MostStepsHome)
         EndWithFinding("locked out", WhatIsInFront());
-    Strike(BoxInFront() && stepsHome_ % 3 == 0 ? "S" : "Esc");
+    Strike(IsInOtherArea() ? "Alt+1" : BoxInFront() && stepsHome_ % 3 == 0 ? "S" : "Esc");
 }
 
+// What was typed in another area and not saved is discarded.
 void Player::Leave()
 {
     if (++waited_ > LongestWaitForHomeInTurns)
         EndWithFinding("the window does not close", WhatIsInFront());
     if (waited_ == 1)
         MainWindow()->close();
+    else if (BoxInFront() && waited_ % TurnsForAnAnswer == 0)
+        Strike("D");
 }
 
 } // namespace kova::monkey

@@ -33,6 +33,7 @@ private:
 
     void Arm();
     void Turn();
+    void StayInThisShop();
     bool MayBegin();
     void Begin(const Act& act);
     void Do(const Act& act);
@@ -60,6 +61,7 @@ private:
     bool goesHome_ = false;
     bool leaves_ = false;
     bool isGone_ = false;
+    bool staysInThisShop_ = false;
 };
 
 } // namespace kova::monkey

@@ -13,16 +13,6 @@ namespace kova::monkey {
 
 namespace {
 
-// The agenda is what is tried: the row above it leads to other areas and other shops.
-bool LeadsAway(const QWidget& widget)
-{
-    for (const QWidget* one = &widget; one != nullptr; one = one->parentWidget()) {
-        if (one->objectName() == QLatin1String("barra"))
-            return true;
-    }
-    return false;
-}
-
 qt::FormWidget* FormIn(QWidget* top)
 {
     if (auto* form = dynamic_cast<qt::FormWidget*>(top))
@@ -116,9 +106,15 @@ QWidget* ControlOnShow(const toolkit::FormModel& form, const std::string& name)
     return view && control->IsOnShow() ? view->Window() : nullptr;
 }
 
+bool IsInOtherArea()
+{
+    const QWidget* main = MainWindow();
+    return main && Front() == main && !main->findChild<QWidget*>("container")->isVisible();
+}
+
 bool IsSettled()
 {
-    if (QApplication::activePopupWidget() || BoxInFront())
+    if (QApplication::activePopupWidget() || BoxInFront() || IsInOtherArea())
         return true;
     const toolkit::FormModel* form = FormInFront();
     if (form)
@@ -162,7 +158,7 @@ std::vector<std::pair<std::string, QWidget*>> Targets()
     QMap<QString, int> counts;
     const auto children = front ? front->findChildren<QWidget*>() : QList<QWidget*>();
     for (QWidget* child : children) {
-        if (!child->isVisible() || LeadsAway(*child))
+        if (!child->isVisible())
             continue;
         const QString kind = QString::fromLatin1(child->metaObject()->className());
         const int number = counts[kind]++;

@@ -26,6 +26,8 @@ toolkit::FormModel* FormOnShow(const std::string& name);
 /// The form's control where it is on show, with its widget; null where not.
 QWidget* ControlOnShow(const toolkit::FormModel& form, const std::string& name);
 
+/// Whether another area than the agenda is on show, with nothing before it.
+bool IsInOtherArea();
 /// Whether what is in front takes input now.
 bool IsSettled();
 /// "frmLista" and why it takes no input, what a box says, the name of another window.
