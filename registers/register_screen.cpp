@@ -2,6 +2,7 @@
 
 #include "family/data/engine/database_failure.hpp"
 #include "registers/more_button.hpp"
+#include "screens/field_frame.hpp"
 #include "screens/question.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -97,6 +98,7 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
     search_->setAccessibleName(QStringLiteral("Pesquisar"));
     search_->setClearButtonEnabled(true);
     search_->setMinimumHeight(BoxHeight);
+    search_->setTextMargins(screens::RoomBesideText, 0, screens::RoomBesideText, 0);
     search_->setMaxLength(100);
     title_->setFont(qt::MakeFont("Arial", TitlePoints, true));
     LayOut();

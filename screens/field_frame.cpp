@@ -12,7 +12,6 @@ namespace {
 
 constexpr int RoomBelowLabel = 2;
 constexpr int BoxHeight = 32;
-constexpr int RoomBesideText = 6;
 
 } // namespace
 

@@ -7,6 +7,9 @@ namespace kova::screens {
 
 class RefusalLabel;
 
+/// On each side of the text in a box of one line.
+inline constexpr int RoomBesideText = 6;
+
 /// A field with its label above it and, where what it holds cannot stand, the reason below it.
 class FieldFrame : public QWidget {
 public:

@@ -4,6 +4,7 @@
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr QSize SmallestButton(96, 34);
 constexpr QSize RoomBesideText(16, 0);
+constexpr int FieldFrameWidth = 3;
 
 const QStyleOptionButton* ButtonOf(const QStyleOption* option)
 {
@@ -71,14 +73,21 @@ void PaintCheckBox(QPainter& painter, const QStyleOption& option)
     painter.restore();
 }
 
-/// Around lists and menus, which else would not stand out from what lies below them.
+/// Around lists and menus, which else would not stand out from what lies below them. Each side is as wide as
+/// the frame that is kept free for it, at every scale: a line would lie half below what stands inside.
 void PaintFrame(QPainter& painter, const QRect& area)
 {
-    painter.save();
-    painter.setPen(QPen(look::BorderUnderMouse, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(area.adjusted(0, 0, -1, -1));
-    painter.restore();
+    painter.fillRect(QRect(area.topLeft(), QSize(area.width(), 1)), look::BorderUnderMouse);
+    painter.fillRect(QRect(area.bottomLeft(), QSize(area.width(), 1)), look::BorderUnderMouse);
+    painter.fillRect(QRect(area.topLeft(), QSize(1, area.height())), look::BorderUnderMouse);
+    painter.fillRect(QRect(area.topRight(), QSize(1, area.height())), look::BorderUnderMouse);
+}
+
+/// A box of several lines to type in, which looks like one of a single line.
+bool IsTypedInto(const QWidget* widget)
+{
+    const auto* box = qobject_cast<const QPlainTextEdit*>(widget);
+    return box && !box->isReadOnly();
 }
 
 FieldState StateOf(const QStyleOption& option)
@@ -130,6 +139,8 @@ void FlatStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (element == PE_PanelLineEdit && frame && frame->lineWidth > 0)
         return PaintField(*painter, option->rect, StateOf(*option), look::Paper);
+    if (element == PE_Frame && IsTypedInto(widget))
+        return PaintField(*painter, option->rect, StateOf(*option), look::Paper);
     if (element == PE_IndicatorCheckBox)
         return PaintCheckBox(*painter, *option);
     if (element == PE_PanelMenu)
@@ -166,6 +177,24 @@ QSize FlatStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     return type == CT_PushButton && button && !button->text.isEmpty()
         ? (usual + RoomBesideText).expandedTo(SmallestButton)
         : usual;
+}
+
+// A frame asks for its width while the box is being made, when nobody can tell yet what becomes of it.
+void FlatStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (IsTypedInto(widget)) {
+        auto* box = static_cast<QPlainTextEdit*>(widget);
+        box->setFrameStyle(box->frameStyle());
+    }
+}
+
+// The corners of a field are round, what stands inside of it is not.
+int FlatStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    return metric == PM_DefaultFrameWidth && IsTypedInto(widget)
+        ? FieldFrameWidth
+        : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 int FlatStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStyleOption>
@@ -74,6 +75,20 @@ TEST_F(PlainButtons, StandBesideFieldsThatAreFlatToo)
         for (int y = 2; y < 28; ++y)
             EXPECT_EQ(picture.pixel(150, y), look::Paper.rgb()) << field->metaObject()->className();
     }
+}
+
+TEST_F(PlainButtons, StandBesideBoxesOfSeveralLinesThatLookLikeFields)
+{
+    QPlainTextEdit box;
+    box.resize(200, 80);
+    const QImage picture = Picture(&box);
+    for (const QPoint edge : {QPoint(100, 0), QPoint(100, 79), QPoint(0, 40), QPoint(199, 40)})
+        EXPECT_EQ(picture.pixel(edge), look::Border.rgb()) << edge.x() << "," << edge.y();
+    EXPECT_NE(picture.pixel(0, 0), look::Border.rgb()) << "its corners are round";
+    EXPECT_EQ(picture.pixel(100, 40), look::Paper.rgb());
+
+    box.setReadOnly(true);
+    EXPECT_EQ(Picture(&box).pixel(0, 0), look::BorderUnderMouse.rgb());
 }
 
 TEST_F(PlainButtons, StandBesideListsAndMenusWithAFrame)
