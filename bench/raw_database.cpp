@@ -17,8 +17,10 @@ void Require(sqlite3* database, int result)
 const std::vector<std::string>& RawDatabase::Settings()
 {
     static const std::vector<std::string> settings{
-        "pragma busy_timeout = 5000", "pragma journal_mode = wal",  "pragma synchronous = full",
-        "pragma foreign_keys = on",   "pragma cache_size = -16000",
+        "pragma busy_timeout = 5000",
+        "pragma synchronous = full",
+        "pragma foreign_keys = on",
+        "pragma cache_size = -16000",
     };
     return settings;
 }
@@ -26,6 +28,7 @@ const std::vector<std::string>& RawDatabase::Settings()
 RawDatabase::RawDatabase(const std::string& path)
 {
     Require(handle_, sqlite3_open_v2(path.c_str(), &handle_, SQLITE_OPEN_READWRITE, nullptr));
+    Require(handle_, sqlite3_exec(handle_, "pragma journal_mode = wal", nullptr, nullptr, nullptr));
     for (const std::string& setting : Settings())
         Require(handle_, sqlite3_exec(handle_, setting.c_str(), nullptr, nullptr, nullptr));
 }

@@ -171,9 +171,8 @@ const Dialect& SqliteDialect()
         .numberAfter = NumberFileAfter,
         .beginOfMarkedWrite = nullptr,
         .forgetMarks = "",
-        // The wait comes first: switching to the write-ahead log may itself have to wait.
-        .settings = {"pragma busy_timeout = 5000", "pragma journal_mode = wal", "pragma synchronous = full",
-                     "pragma foreign_keys = on", "pragma cache_size = -16000"},
+        .settings = {"pragma busy_timeout = 5000", "pragma synchronous = full", "pragma foreign_keys = on",
+                     "pragma cache_size = -16000"},
     };
     return dialect;
 }

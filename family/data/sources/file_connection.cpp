@@ -3,6 +3,9 @@
 #include "family/data/engine/file_checks.hpp"
 #include "system/path_text.hpp"
 
+#include <chrono>
+#include <thread>
+
 namespace kova::family {
 
 namespace {
@@ -73,15 +76,39 @@ std::string ConnectionForReading(const std::string& path)
                                   : FileConnection(AddressOfUnwritable(path), Unwritable);
 }
 
-void RequireLog(Database& database)
+/// The mode that the file has then.
+std::string SwitchToLog(Database& database)
 {
     std::string mode;
     try {
-        database.Session() << "pragma journal_mode", soci::into(mode);
+        database.Session() << "pragma journal_mode = wal", soci::into(mode);
     } catch (const soci::soci_error& cause) {
         throw TranslatedFailure(database.Path(), cause);
     }
-    if (mode != "wal")
+    return mode;
+}
+
+/// A file that nobody has opened yet is switched by its first program. Where two come at once, the engine
+/// refuses one of them without waiting, since each has read what the other is going to write.
+std::string ModeWithLog(Database& database)
+{
+    constexpr int MostRefusals = 250;
+    constexpr std::chrono::milliseconds Wait(20);
+    for (int refusals = 0;; ++refusals) {
+        try {
+            return SwitchToLog(database);
+        } catch (const DatabaseFailure& failure) {
+            if (failure.GetFault() != Fault::Locked || refusals == MostRefusals)
+                throw;
+        }
+        std::this_thread::sleep_for(Wait);
+    }
+}
+
+/// Several programs work with one file only where it has a write-ahead log.
+void RequireLog(Database& database)
+{
+    if (ModeWithLog(database) != "wal")
         throw DatabaseFailure(
             "O arquivo \"" + database.Path()
             + "\" está em um disco que não deixa vários programas gravar com segurança, como um da "

@@ -1,6 +1,7 @@
 #include "tests/support/network_disk.hpp"
 #include "tests/support/ordinary_rights.hpp"
 #include "tests/support/sqlite_file.hpp"
+#include "tests/support/statement_watch.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/data/rows/insert_row.hpp"
@@ -294,6 +295,18 @@ TEST_F(DataSource, IsOpenedToKeepWhatItIsGiven)
     EXPECT_EQ(ValueOfSetting(*database, "synchronous"), "2");
     EXPECT_EQ(ValueOfSetting(*database, "foreign_keys"), "1");
     EXPECT_EQ(ValueOfSetting(*database, "busy_timeout"), "5000");
+}
+
+TEST_F(DataSource, WaitsForTheProgramThatOpensItForTheFirstTime)
+{
+    const std::string path = MakeEmptyShop("loja.db");
+    kova::test::SqliteFile other(path);
+    other.Run("begin immediate");
+    const kova::test::StatementWatch watch("pragma journal_mode = wal", [&](int time) {
+        if (time == 2)
+            other.Run("commit");
+    });
+    EXPECT_NO_THROW(OpenDatabase(path));
 }
 
 TEST_F(DataSource, ThatIsFullSaysSoAndLosesNothing)
