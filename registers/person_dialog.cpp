@@ -252,4 +252,15 @@ void PersonDialog::reject()
     QDialog::reject();
 }
 
+RecordAction PersonAction()
+{
+    const auto open = [](const ActionTarget& target) {
+        PersonDialog dialog(target.desk, target.key, &target.over);
+        dialog.exec();
+        return ActionResult{target.key,
+                            dialog.IsAnonymous() ? QStringLiteral("O cliente ficou anônimo.") : QString()};
+    };
+    return {"clientes", QStringLiteral("&Dados da pessoa..."), open};
+}
+
 } // namespace kova::registers

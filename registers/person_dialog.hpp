@@ -1,6 +1,6 @@
 #pragma once
 
-#include "registers/desk.hpp"
+#include "registers/record_actions.hpp"
 
 #include "family/privacy/anonymise.hpp"
 
@@ -60,5 +60,8 @@ private:
     BackgroundWork* work_;
     bool isAnonymous_ = false;
 };
+
+/// "Dados da pessoa..." of a customer.
+RecordAction PersonAction();
 
 } // namespace kova::registers

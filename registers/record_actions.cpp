@@ -1,7 +1,9 @@
 #include "registers/record_actions.hpp"
 
+#include "registers/person_dialog.hpp"
+
 namespace kova::registers {
 
-RecordActions UsualActions() { return {}; }
+RecordActions UsualActions() { return {PersonAction()}; }
 
 } // namespace kova::registers
