@@ -3,6 +3,7 @@
 #include "tests/unit/registers/registers_fixture.hpp"
 
 #include "family/data/sources/data_source.hpp"
+#include "family/registers/registers.hpp"
 #include "registers/person_dialog.hpp"
 
 #include <QApplication>
@@ -101,11 +102,17 @@ TEST_F(DataOfThePerson, AreMadeAnonymousOnlyWhereTheCodeWasTyped)
     }
     EXPECT_EQ(Stored("select nome from cliente where codigo = 1"),
               std::vector<std::string>{"José Antônio Peçanha"});
+    // What is looked through in memory is read by now.
+    const auto& customers = family::registers::CustomerRegister();
+    for (const char* sought : {"jose", "ze@example", "91234", "pacoca"})
+        ASSERT_EQ(customers.Find(*desk_.database, sought).size(), 1U) << sought;
     TypeCode("1");
     EXPECT_TRUE(In<QPushButton>("anonimizar").isEnabled());
     QTest::keyClick(&Line("codigo"), Qt::Key_Return);
     Await();
     EXPECT_EQ(Text("falha"), "");
+    for (const char* sought : {"jose", "ze@example", "91234", "pacoca"})
+        EXPECT_TRUE(customers.Find(*desk_.database, sought).empty()) << sought;
     EXPECT_NE(Text("recado").find("ficou anônimo: 2 canais de comunicação, 1 animal"), std::string::npos)
         << Text("recado");
     EXPECT_TRUE(dialog_.IsAnonymous());
