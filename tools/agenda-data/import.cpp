@@ -1,195 +1,138 @@
-#include "family/data/audit/import_audit.hpp"
-#include "family/data/copies/import_copy.hpp"
-#include "family/data/engine/snapshot.hpp"
-#include "family/data/engine/write_transaction.hpp"
-#include "family/data/sources/data_source.hpp"
-#include "family/registers/registers.hpp"
+#include "family/csv/csv_reader.hpp"
+#include "family/csv/importing.hpp"
 #include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
-#include "tools/agenda-data/csv/csv_options.hpp"
-#include "tools/agenda-data/csv/import_run.hpp"
-#include "tools/agenda-data/csv/text_file.hpp"
-#include "tools/agenda-data/shown_work.hpp"
+#include "tools/agenda-data/csv_options.hpp"
+#include "tools/agenda-data/progress.hpp"
+
+#include <algorithm>
 
 namespace kova::data {
 
 namespace {
 
-constexpr const char* Checking = "Conferência";
+using csv::ImportOrder;
+using csv::ImportReport;
+using csv::ImportStep;
+using csv::Known;
 
-/// A smaller file is copied before anybody asks how far it is.
-constexpr long long PagesWithoutProgress = 10'000;
-
-family::LongWork WorkOfCopy(std::ostream& output)
-{
-    family::LongWork work = ShownWork(output, "Cópia");
-    work.progress = [tell = work.progress](long long done, long long total) {
-        if (total > PagesWithoutProgress)
-            tell(done, total);
-    };
-    return work;
-}
+/// What a step is called, and what is done before anybody asks how far it is: in lines, or in pages of a
+/// copy.
+struct ShownStep {
+    ImportStep step;
+    const char* name;
+    long long withoutProgress;
+};
+constexpr ShownStep Steps[] = {
+    {ImportStep::Checking, "Conferência", 5000},
+    {ImportStep::CheckingAgain, "Nova conferência", 5000},
+    {ImportStep::Copying, "Cópia", 10'000},
+    {ImportStep::Writing, "Gravação", 5000},
+    {ImportStep::WritingNew, "Gravação com novos códigos", 5000},
+};
 
 std::string Counted(long long count, const char* one, const char* many)
 {
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-int Refuse(const ImportRun& run, Surroundings& surroundings)
+/// Tells on a stream what is wrong with the file and how far the import is.
+csv::ImportWatch WatchOn(std::ostream& output)
 {
-    surroundings.error << Counted(run.ProblemCount(), "erro", "erros") << " em "
-                       << Counted(run.ProblemLines(), "linha", "linhas") << "; nada foi importado.\n";
+    csv::ImportWatch watch;
+    watch.problem = [&output](const csv::Problem& problem) {
+        output << "linha " << problem.line << ": " << problem.Told() << "\n";
+    };
+    watch.progress = [&output, at = std::optional<ImportStep>(), told = std::shared_ptr<Progress>()](
+                         ImportStep step, long long done, long long total) mutable {
+        const auto& shown = *std::ranges::find(Steps, step, &ShownStep::step);
+        if (total <= shown.withoutProgress)
+            return;
+        if (at != step)
+            told = std::make_shared<Progress>(output, shown.name, total);
+        at = step;
+        told->Reach(done);
+    };
+    return watch;
+}
+
+int Refuse(const ImportReport& report, Surroundings& surroundings)
+{
+    surroundings.error << Counted(report.problems, "erro", "erros") << " em "
+                       << Counted(report.problemLines, "linha", "linhas") << "; nada foi importado.\n";
     return 1;
 }
 
-/// What others have changed so far, as a number; nothing where the engine does not tell.
-std::optional<long long> ChangesOfOthers(family::Database& database)
-{
-    const std::string& question = database.GetDialect().changesOfOthers;
-    if (question.empty())
-        return std::nullopt;
-    try {
-        long long changes = 0;
-        database.Session() << question, soci::into(changes);
-        return changes;
-    } catch (const soci::soci_error& cause) {
-        throw family::TranslatedFailure(database.Path(), cause);
-    }
-}
-
-/// Lines that bring a record that was not there.
-long long NewRecords(const ImportRun& run) { return run.Records() - run.Updated() - run.LeftOut(); }
-
-/// Whether anything would stand otherwise in the database than before.
-bool Writes(const ImportRun& run) { return NewRecords(run) + run.Changing() > 0; }
-
 /// What becomes of the other lines: "; 2 registros alterados", or nothing.
-std::string Others(const ImportRun& run)
+std::string Others(const ImportReport& report)
 {
     std::string text;
-    if (run.Updated() > 0)
-        text += "; " + Counted(run.Changing(), "registro alterado", "registros alterados");
-    if (run.LeftOut() > 0)
-        text += "; " + Counted(run.LeftOut(), "linha já estava no banco", "linhas já estavam no banco");
+    if (report.changed + report.same > 0)
+        text += "; " + Counted(report.changed, "registro alterado", "registros alterados");
+    if (report.leftOut > 0)
+        text += "; " + Counted(report.leftOut, "linha já estava no banco", "linhas já estavam no banco");
     return text;
 }
 
 /// What the options say of lines that are there already.
-Known KnownBy(const Call& call, const Register& into)
+Known KnownBy(const Call& call, const csv::Register& into)
 {
     const bool updates = call.Has("--update"), skips = call.Has("--skip-existing");
     if (updates && skips)
         call.Refuse("--update e --skip-existing não valem juntos.");
-    if (updates && !family::registers::RegisterNamed(into.name))
+    if (updates && !csv::TakesUpdates(into))
         call.Refuse("--update não vale para " + std::string(into.name) + ".");
     return updates ? Known::Updated : skips ? Known::LeftOut : Known::Refused;
 }
 
-int Rehearse(ImportRun& run, const std::string& path, Surroundings& surroundings)
+ImportOrder OrderOf(const Call& call)
 {
-    const auto database = family::OpenNewestForReading(path);
-    const family::Snapshot snapshot(*database);
-    run.Check(*database, Checking);
-    if (run.ProblemCount() > 0)
-        return Refuse(run, surroundings);
-    surroundings.output << run.Changes()
-                        << Counted(NewRecords(run), "linha pode ser importada", "linhas podem ser importadas")
-                        << Others(run) << "; nada foi gravado.\n";
-    return 0;
-}
-
-/// A whole file on its way into a database.
-class Importing {
-public:
-    Importing(ImportRun& run, const std::string& path, const family::Author& author)
-        : run_(run), database_(family::OpenForLongWork(path)), author_(author)
-    {
-    }
-
-    /// Whether there is anything wrong with the file. Nobody waits for it meanwhile.
-    bool IsGood()
-    {
-        const family::Snapshot snapshot(*database_);
-        changes_ = ChangesOfOthers(*database_);
-        run_.Check(*database_, Checking);
-        return run_.ProblemCount() == 0;
-    }
-
-    /// Writes what was good; whether it still was, as others may have written since then. What changes
-    /// nothing leaves no trace.
-    bool Write(family::ImportedFile file)
-    {
-        family::WriteTransaction transaction(*database_);
-        family::LockImports(*database_);
-        run_.LockRoom();
-        if (!changes_ || changes_ != ChangesOfOthers(*database_))
-            run_.Check(*database_, "Nova conferência");
-        if (run_.ProblemCount() > 0 || !Writes(run_))
-            return run_.ProblemCount() == 0;
-        file.records = run_.Records();
-        file.added = NewRecords(run_);
-        file.changed = run_.Changing();
-        family::BeginImport(*database_, author_, file);
-        run_.Write(*database_, author_);
-        if (run_.ProblemCount() > 0)
-            return false;
-        transaction.Commit();
-        return true;
-    }
-
-    /// In the audit; 0 where nothing was written.
-    family::Key Number() const { return author_.importNumber; }
-
-private:
-    ImportRun& run_;
-    std::shared_ptr<family::Database> database_;
-    family::Author author_;
-    std::optional<long long> changes_;
-};
-
-std::string CopyFor(const Call& call, Surroundings& surroundings)
-{
-    return call.Has("--no-copy")
-        ? std::string()
-        : family::CopyBeforeImport(call.Operand(0), surroundings.now, WorkOfCopy(surroundings.error));
-}
-
-void TellWayBack(const std::string& path, const std::string& copy, family::Key number, std::ostream& output)
-{
-    if (!copy.empty())
-        output << "Cópia de antes da importação: " << copy << "\n";
-    output << "Para desfazer esta importação: agenda-data undo-import \"" << path << "\" --import " << number
-           << "\n";
-}
-
-int Bring(ImportRun& run, const Call& call, family::ImportedFile file, Surroundings& surroundings)
-{
-    Importing importing(run, call.Operand(0), AuthorOf(call, surroundings.now));
-    if (!importing.IsGood())
-        return Refuse(run, surroundings);
-    const std::string copy = Writes(run) ? CopyFor(call, surroundings) : std::string();
-    if (Writes(run) && !importing.Write(std::move(file)))
-        return Refuse(run, surroundings);
-    surroundings.output << run.Changes() << Counted(NewRecords(run), "linha importada", "linhas importadas")
-                        << Others(run) << ".\n";
-    if (importing.Number() != 0)
-        TellWayBack(call.Operand(0), copy, importing.Number(), surroundings.output);
-    return 0;
-}
-
-int Run(const Call& call, Surroundings& surroundings)
-{
-    const Register& into = FindRegister(call, 1);
+    const csv::Register& into = FindRegister(call, 1);
     const std::string& path = call.Operand(2);
     const auto encoding = GivenEncoding(call);
     const auto separator = GivenSeparator(call);
     const Known known = KnownBy(call, into);
-    const FileText file = ReadTextFile(path, encoding);
-    surroundings.output << "Arquivo lido em " << NameOf(file.encoding) << ".\n";
-    ImportRun run(into, file.text, separator.value_or(RecogniseSeparator(file.text)), known, surroundings);
+    csv::FileText file = csv::ReadTextFile(path, encoding);
+    const char between = separator.value_or(csv::RecogniseSeparator(file.text));
+    return {&into, path, std::move(file), between, known, !call.Has("--no-copy")};
+}
+
+int Rehearse(const Call& call, const ImportOrder& order, Surroundings& surroundings)
+{
+    const ImportReport report =
+        csv::RehearseImport(call.Operand(0), order, surroundings.now, WatchOn(surroundings.error));
+    if (!report.IsGood())
+        return Refuse(report, surroundings);
+    surroundings.output << report.changes
+                        << Counted(report.added, "linha pode ser importada", "linhas podem ser importadas")
+                        << Others(report) << "; nada foi gravado.\n";
+    return 0;
+}
+
+void TellWayBack(const std::string& path, const ImportReport& report, std::ostream& output)
+{
+    if (report.number == 0)
+        return;
+    if (!report.copy.empty())
+        output << "Cópia de antes da importação: " << report.copy << "\n";
+    output << "Para desfazer esta importação: agenda-data undo-import \"" << path << "\" --import "
+           << report.number << "\n";
+}
+
+int Run(const Call& call, Surroundings& surroundings)
+{
+    const ImportOrder order = OrderOf(call);
+    surroundings.output << "Arquivo lido em " << csv::NameOf(order.file.encoding) << ".\n";
     if (call.Has("--dry-run"))
-        return Rehearse(run, call.Operand(0), surroundings);
-    return Bring(run, call, {path, NameOf(file.encoding), std::string(into.name)}, surroundings);
+        return Rehearse(call, order, surroundings);
+    const ImportReport report = csv::BringIn(call.Operand(0), order, AuthorOf(call, surroundings.now),
+                                             surroundings.now, WatchOn(surroundings.error));
+    if (!report.IsGood())
+        return Refuse(report, surroundings);
+    surroundings.output << report.changes << Counted(report.added, "linha importada", "linhas importadas")
+                        << Others(report) << ".\n";
+    TellWayBack(call.Operand(0), report, surroundings.output);
+    return 0;
 }
 
 } // namespace

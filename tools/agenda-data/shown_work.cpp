@@ -14,6 +14,16 @@ family::LongWork ShownWork(std::ostream& output, const std::string& what)
     return work;
 }
 
+family::LongWork LongWorkOf(std::ostream& output, const std::string& what, long long withoutProgress)
+{
+    family::LongWork work = ShownWork(output, what);
+    work.progress = [tell = work.progress, withoutProgress](long long done, long long total) {
+        if (total > withoutProgress)
+            tell(done, total);
+    };
+    return work;
+}
+
 void WriteCounts(std::ostream& output, const std::vector<family::TableCount>& counts)
 {
     for (const family::TableCount& table : counts)

@@ -88,16 +88,6 @@ int Refuse(const UndoneImport& undone, std::ostream& error)
     return 1;
 }
 
-family::LongWork WorkOfUndoing(std::ostream& output)
-{
-    family::LongWork work = ShownWork(output, "Desfazendo");
-    work.progress = [tell = work.progress](long long done, long long total) {
-        if (total > RowsWithoutProgress)
-            tell(done, total);
-    };
-    return work;
-}
-
 std::optional<family::Key> GivenNumber(const Call& call)
 {
     if (!call.Has(Number))
@@ -110,8 +100,9 @@ int Undo(const Call& call, Surroundings& surroundings)
     const std::optional<family::Key> number = GivenNumber(call);
     const ChangedRows changed = call.Has(KeepChanged) ? ChangedRows::Keep : ChangedRows::Refuse;
     const auto database = family::OpenForLongWork(call.Operand(0));
-    const UndoneImport undone = family::registers::UndoImport(
-        *database, number, changed, AuthorOf(call, surroundings.now), WorkOfUndoing(surroundings.error));
+    const UndoneImport undone =
+        family::registers::UndoImport(*database, number, changed, AuthorOf(call, surroundings.now),
+                                      LongWorkOf(surroundings.error, "Desfazendo", RowsWithoutProgress));
     if (!undone.IsDone())
         return Refuse(undone, surroundings.error);
     const ImportLine& of = undone.import;

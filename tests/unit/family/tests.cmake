@@ -11,6 +11,7 @@ if(NOT KOVARIS_CORE_ONLY)
     # for), and what reads the audit by a function of SQLite. The copy in
     # ThatIsDamagedOnTheDisk would write the damaged pages again: rows are copied, not pages.
     kovaris_test_on_server(test_family "DataSource.*:SchemaMigration.*:TheDatabaseComponent.*:DailyBackup.*:ImportCopy.*"
+        "Encodings.*:Csv.*"
         "DatabaseBackup.ThatIsDamagedOnTheDiskIsNotTakenForACopy"
         "StatusWrite.TellsThatTheDataAreInUseAndWorksWhenTheyAreFree"
         "WritesAudit.KeepsTheWholeRowBeforeAndAfterAnAlteration"

@@ -98,7 +98,7 @@ TEST_F(Export, NamesALineThatLatin1CannotHold)
 {
     ASSERT_EQ(Import("clientes", "Nome\nCafé €\n"), 0);
     EXPECT_EQ(ExportTo(File("saida.csv"), {"--encoding", "latin-1"}), 1);
-    EXPECT_NE(Error().find("não existem em Latin-1. Use --encoding utf-8. (12;PF;Café €;"), std::string::npos)
+    EXPECT_NE(Error().find("não existem em Latin-1. Use utf-8. (12;PF;Café €;"), std::string::npos)
         << Error();
     EXPECT_FALSE(fs::exists(File("saida.csv")));
     EXPECT_FALSE(fs::exists(File("saida.csv.parcial")));

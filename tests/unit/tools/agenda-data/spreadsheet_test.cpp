@@ -2,12 +2,12 @@
 
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
+#include "family/csv/csv_reader.hpp"
+#include "family/csv/encoding.hpp"
 #include "family/data/copies/row_copy.hpp"
 #include "family/data/rows/table_layouts.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/registers/registers.hpp"
-#include "tools/agenda-data/csv/csv_reader.hpp"
-#include "tools/agenda-data/csv/encoding.hpp"
 
 #include <algorithm>
 #include <map>
@@ -16,6 +16,11 @@
 namespace kova::data::test {
 
 namespace {
+
+using family::csv::ByteOrderMark;
+using family::csv::CsvReader;
+using family::csv::CsvRecord;
+using family::csv::Latin1FromUtf8;
 
 using Records = std::vector<std::vector<std::string>>;
 
