@@ -13,7 +13,7 @@ using family::registers::FieldInfo;
 using family::registers::FieldKind;
 
 /// Letters that lead to the buttons beside the form.
-const QString LettersOfButtons = QStringLiteral("nsdem");
+const QString LettersOfButtons = QStringLiteral("nsdemix");
 
 QString Shown(std::string_view text)
 {

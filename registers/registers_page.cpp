@@ -1,10 +1,13 @@
 #include "registers/registers_page.hpp"
 
+#include "family/data/engine/database.hpp"
 #include "family/registers/registers.hpp"
+#include "registers/importing/export_dialog.hpp"
 #include "registers/register_screen.hpp"
 
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
 
@@ -43,15 +46,26 @@ RegistersPage::RegistersPage(Desk desk, QWidget* parent, RecordActions actions)
         item->setSizeHint({0, HeightOfName});
         pages_->addWidget(new QWidget(pages_));
     }
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(20, 16, 20, 12);
-    layout->setSpacing(16);
-    names_->setFixedWidth(std::max(LeastWidthOfNames, widest + RoomBesideNames));
-    layout->addWidget(names_);
-    layout->addWidget(pages_, 1);
+    LayOut(std::max(LeastWidthOfNames, widest + RoomBesideNames));
     connect(names_, &QListWidget::currentRowChanged, this, [this](int row) { TurnTo(row); });
     AddShortcuts();
     names_->setCurrentRow(0);
+}
+
+void RegistersPage::LayOut(int widthOfNames)
+{
+    QPushButton* save = FileButton(QStringLiteral("exportarPlanilha"),
+                                   QStringLiteral("E&xportar planilha..."), &RegistersPage::Export);
+    names_->setFixedWidth(std::max(widthOfNames, save->sizeHint().width()));
+    auto* left = new QVBoxLayout;
+    left->setSpacing(8);
+    left->addWidget(names_, 1);
+    left->addWidget(save);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(20, 16, 20, 12);
+    layout->setSpacing(16);
+    layout->addLayout(left);
+    layout->addWidget(pages_, 1);
 }
 
 void RegistersPage::AddShortcuts()
@@ -65,6 +79,30 @@ void RegistersPage::AddShortcuts()
     for (const auto& [key, act] : keys)
         connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
                 &QShortcut::activated, this, [this, act = act] { (Current()->*act)(); });
+}
+
+QPushButton* RegistersPage::FileButton(const QString& name, const QString& text, void (RegistersPage::*act)())
+{
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(name);
+    connect(button, &QPushButton::clicked, this, [this, act] { (this->*act)(); });
+    return button;
+}
+
+std::string_view RegistersPage::CurrentName() const
+{
+    return family::registers::Registers()[static_cast<std::size_t>(names_->currentRow())]->Name().name;
+}
+
+void RegistersPage::Open(QDialog& dialog)
+{
+    dialog.setAttribute(Qt::WA_DeleteOnClose);
+    dialog.open();
+}
+
+void RegistersPage::Export()
+{
+    Open(*new ExportDialog({desk_.database->Path(), desk_.author}, CurrentName(), this));
 }
 
 RegisterScreen* RegistersPage::Current() const

@@ -7,7 +7,9 @@
 
 #include <vector>
 
+class QDialog;
 class QListWidget;
+class QPushButton;
 class QStackedWidget;
 
 namespace kova::registers {
@@ -25,7 +27,13 @@ public:
     bool MayLeave();
 
 private:
+    void LayOut(int widthOfNames);
     void AddShortcuts();
+    QPushButton* FileButton(const QString& name, const QString& text, void (RegistersPage::*act)());
+    void Export();
+    void Open(QDialog& dialog);
+    /// The name of the register on show.
+    std::string_view CurrentName() const;
     void TurnTo(int row);
     RegisterScreen* Current() const;
 
