@@ -367,6 +367,13 @@ void RegisterScreen::OfferButtons()
     more_->setEnabled(form_->Key() != 0);
 }
 
+void RegisterScreen::Refresh()
+{
+    Find();
+    if (!IsChanged() && form_->Key() != 0)
+        ShowRow(form_->Key());
+}
+
 void RegisterScreen::FocusSearch()
 {
     search_->setFocus(Qt::ShortcutFocusReason);

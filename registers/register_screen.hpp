@@ -36,6 +36,8 @@ public:
     void Discard();
     void Remove();
     void FocusSearch();
+    /// Shows what is stored now; what is typed and not saved stays.
+    void Refresh();
 
 private:
     void Find();

@@ -3,6 +3,7 @@
 #include "family/data/engine/database.hpp"
 #include "family/registers/registers.hpp"
 #include "registers/importing/export_dialog.hpp"
+#include "registers/importing/import_wizard.hpp"
 #include "registers/register_screen.hpp"
 
 #include <QHBoxLayout>
@@ -54,12 +55,15 @@ RegistersPage::RegistersPage(Desk desk, QWidget* parent, RecordActions actions)
 
 void RegistersPage::LayOut(int widthOfNames)
 {
+    QPushButton* import = FileButton(QStringLiteral("importarPlanilha"),
+                                     QStringLiteral("&Importar planilha..."), &RegistersPage::Import);
     QPushButton* save = FileButton(QStringLiteral("exportarPlanilha"),
                                    QStringLiteral("E&xportar planilha..."), &RegistersPage::Export);
-    names_->setFixedWidth(std::max(widthOfNames, save->sizeHint().width()));
+    names_->setFixedWidth(std::max({widthOfNames, import->sizeHint().width(), save->sizeHint().width()}));
     auto* left = new QVBoxLayout;
     left->setSpacing(8);
     left->addWidget(names_, 1);
+    left->addWidget(import);
     left->addWidget(save);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 12);
@@ -100,9 +104,24 @@ void RegistersPage::Open(QDialog& dialog)
     dialog.open();
 }
 
+void RegistersPage::Import()
+{
+    auto* wizard = new ImportWizard({desk_.database->Path(), desk_.author}, CurrentName(), this);
+    wizard->onWritten = [this] { Refresh(); };
+    Open(*wizard);
+}
+
 void RegistersPage::Export()
 {
     Open(*new ExportDialog({desk_.database->Path(), desk_.author}, CurrentName(), this));
+}
+
+void RegistersPage::Refresh()
+{
+    for (RegisterScreen* screen : screens_) {
+        if (screen != nullptr)
+            screen->Refresh();
+    }
 }
 
 RegisterScreen* RegistersPage::Current() const

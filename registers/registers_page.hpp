@@ -30,10 +30,13 @@ private:
     void LayOut(int widthOfNames);
     void AddShortcuts();
     QPushButton* FileButton(const QString& name, const QString& text, void (RegistersPage::*act)());
+    void Import();
     void Export();
     void Open(QDialog& dialog);
     /// The name of the register on show.
     std::string_view CurrentName() const;
+    /// Shows in every list what is stored now.
+    void Refresh();
     void TurnTo(int row);
     RegisterScreen* Current() const;
 

@@ -145,4 +145,10 @@ ImportReport BringIn(const std::string& source, const ImportOrder& order, const 
     }
 }
 
+registers::UndoneImport TakeBack(const std::string& source, std::optional<Key> number,
+                                 registers::ChangedRows changed, const Author& author, const LongWork& work)
+{
+    return registers::UndoImport(*OpenForLongWork(source), number, changed, author, work);
+}
+
 } // namespace kova::family::csv

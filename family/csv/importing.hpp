@@ -2,6 +2,7 @@
 
 #include "family/csv/import_run.hpp"
 #include "family/csv/text_file.hpp"
+#include "family/registers/import_undo.hpp"
 
 namespace kova::family::csv {
 
@@ -50,5 +51,9 @@ ImportReport RehearseImport(const std::string& source, const ImportOrder& order,
 /// that tells who, when and what in the audit. Fails with a DatabaseFailure; nothing is written then.
 ImportReport BringIn(const std::string& source, const ImportOrder& order, const Author& author, DateTime now,
                      const ImportWatch& watch);
+
+/// Takes an import of the shop at `source` back; see UndoImport.
+registers::UndoneImport TakeBack(const std::string& source, std::optional<Key> number,
+                                 registers::ChangedRows changed, const Author& author, const LongWork& work);
 
 } // namespace kova::family::csv

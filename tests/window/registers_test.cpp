@@ -3,10 +3,13 @@
 #include "tests/window/shop.hpp"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+
+#include <fstream>
 
 namespace kova::window_test {
 
@@ -38,6 +41,20 @@ protected:
     static bool HasKeyboard(const char* name)
     {
         return Box(name) != nullptr && QApplication::focusWidget() == Box(name);
+    }
+
+    static bool KeyboardIsIn(const char* name)
+    {
+        return QApplication::focusWidget() != nullptr
+            && QApplication::focusWidget()->objectName() == QString::fromUtf8(name);
+    }
+
+    /// What the label of that name in the dialog in front says; "" where there is none.
+    static QString Told(const char* name)
+    {
+        const QWidget* dialog = QApplication::activeModalWidget();
+        const auto* label = dialog == nullptr ? nullptr : dialog->findChild<QLabel*>(QString::fromUtf8(name));
+        return label == nullptr || !label->isVisible() ? QString() : label->text();
     }
 
     Receptionist& TurnsToCustomers()
@@ -95,6 +112,36 @@ TEST_F(RegistersOfTheShop, AskBeforeTheWindowClosesOverWhatIsNotSaved)
     Run();
     EXPECT_EQ(receptionist->Boxes().size(), 2U);
     EXPECT_EQ(Value("select nome from cliente order by nome_de_busca, codigo"), before);
+}
+
+TEST_F(RegistersOfTheShop, BringAFileInAndTakeItBackByKeys)
+{
+    const std::string file = (Folder() / "clientes.csv").string(),
+                      before = Value("select count(*) from cliente");
+    std::ofstream(file) << "Nome;Apelido\nXerxes da Silva;Xex\nYasmin da Silva;\n";
+    std::string between;
+    TurnsToCustomers();
+    Keys(Qt::Key_I, Qt::AltModifier);
+    receptionist->WaitsUntil("the file is asked for", [] { return KeyboardIsIn("arquivo"); });
+    receptionist->Does("paste its name", [file] {
+        qobject_cast<QLineEdit*>(QApplication::focusWidget())->insert(QString::fromStdString(file));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
+    receptionist->WaitsUntil("it was checked", [] { return KeyboardIsIn("importar"); });
+    Keys(Qt::Key_Return);
+    receptionist->WaitsUntil("it was written",
+                             [] { return Told("resumo").contains(QStringLiteral("concluída")); });
+    receptionist->Does("look", [&] { between = Value("select count(*) from cliente"); });
+    Keys(Qt::Key_D, Qt::AltModifier);
+    receptionist->WaitsUntil("it was taken back",
+                             [] { return Told("resumo").contains(QStringLiteral("desfeita")); });
+    Keys(Qt::Key_Escape);
+    Keys(Qt::Key_1, Qt::AltModifier);
+    receptionist->WaitsFor(List).Leaves();
+    Run();
+    EXPECT_EQ(std::stoi(between), std::stoi(before) + 2);
+    EXPECT_EQ(Value("select count(*) from cliente"), before);
+    EXPECT_EQ(Value("select usuario from auditoria where operacao = 'importacao_desfeita'"), "1 - Antônia");
 }
 
 TEST_F(RegistersOfTheShop, BeginWithTheCompanyWhereThereIsNone)
