@@ -19,6 +19,7 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <memory>
 
 namespace kova::registers {
@@ -215,11 +216,13 @@ void PersonDialog::Begin(const std::function<void(const family::LongWork&)>& act
 {
     failure_->Tell({});
     told_->hide();
+    // It goes out of use for the time of the work, and would lose the keyboard for good.
+    QWidget* const used = focusWidget();
     progress_->setValue(0);
     progress_->show();
     work_->Begin(act,
                  {[this](int hundredths) { progress_->setValue(hundredths); },
-                  [this, done = std::move(done)](const std::string& failure) {
+                  [this, used, done = std::move(done)](const std::string& failure) {
                       progress_->hide();
                       told_->clear();
                       if (failure.empty())
@@ -228,10 +231,13 @@ void PersonDialog::Begin(const std::function<void(const family::LongWork&)>& act
                           failure_->Tell(qt::Lines(failure));
                       told_->setVisible(!told_->text().isEmpty());
                       Offer();
-                      adjustSize();
+                      (used != nullptr && used->isEnabled() ? used : close_)->setFocus();
+                      MakeRoom();
                   }});
     Offer();
 }
+
+void PersonDialog::MakeRoom() { resize(width(), std::max(height(), layout()->totalHeightForWidth(width()))); }
 
 void PersonDialog::Offer()
 {

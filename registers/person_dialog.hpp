@@ -46,6 +46,8 @@ private:
     /// Runs in the background; `done` tells what has come of it where it has not failed.
     void Begin(const std::function<void(const family::LongWork&)>& act, std::function<void()> done);
     void Offer();
+    /// As high as its texts want it.
+    void MakeRoom();
 
     const Desk& desk_;
     const family::Key customer_;

@@ -78,10 +78,18 @@ protected:
 
 TEST_F(DataOfThePerson, AreWrittenIntoTheFolderByTheKeyboardAlone)
 {
+    const int width = dialog_.width();
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "pasta");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     Await();
     EXPECT_EQ(Text("falha"), "");
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "pasta");
+    EXPECT_EQ(dialog_.width(), width);
+    // The keyboard stays where it is taken to then.
+    Line("codigo").setFocus();
+    for (const char letter : {'2', '3', '1'})
+        QTest::keyClick(QApplication::focusWidget(), letter);
+    EXPECT_EQ(Line("codigo").text(), "231");
     EXPECT_NE(Text("recado").find("cliente-1.html"), std::string::npos) << Text("recado");
     QFile page(to_ + QStringLiteral("/cliente-1.html"));
     ASSERT_TRUE(page.open(QIODevice::ReadOnly));
@@ -122,6 +130,7 @@ TEST_F(DataOfThePerson, AreMadeAnonymousOnlyWhereTheCodeWasTyped)
               std::vector<std::string>{"1 - Ana|2026-12-01 10:00:00"});
     EXPECT_FALSE(In<QPushButton>("anonimizar").isEnabled());
     EXPECT_FALSE(Line("codigo").isEnabled());
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "fechar");
 }
 
 TEST_F(DataOfThePerson, AreKeptWhereSomethingSpeaksAgainstIt)
