@@ -4,7 +4,7 @@
 #include "family/data/engine/iso_text.hpp"
 #include "family/privacy/anonymise_words.hpp"
 #include "family/privacy/person_files.hpp"
-#include "registers/background_work.hpp"
+#include "registers/importing/background_job.hpp"
 #include "screens/field_frame.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
@@ -21,6 +21,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace kova::registers {
 
@@ -66,7 +67,7 @@ PersonDialog::PersonDialog(const Desk& desk, family::Key customer, QWidget* pare
       progress_(new QProgressBar(this)),
       failure_(new screens::RefusalLabel(this)),
       told_(new QLabel(this)),
-      work_(new BackgroundWork(this))
+      job_(new BackgroundJob(this))
 {
     setObjectName(QStringLiteral("DadosDaPessoa"));
     setWindowTitle(QStringLiteral("Dados da pessoa: cliente %1").arg(customer));
@@ -212,7 +213,7 @@ void PersonDialog::ShowAnswer(const AnonymiseAnswer& answer)
     told_->setText(qt::Lines(family::privacy::DoneInWords(source_, customer_, answer)));
 }
 
-void PersonDialog::Begin(const std::function<void(const family::LongWork&)>& act, std::function<void()> done)
+void PersonDialog::Begin(std::function<void(const family::LongWork&)> act, std::function<void()> done)
 {
     failure_->Tell({});
     told_->hide();
@@ -220,28 +221,38 @@ void PersonDialog::Begin(const std::function<void(const family::LongWork&)>& act
     QWidget* const used = focusWidget();
     progress_->setValue(0);
     progress_->show();
-    work_->Begin(act,
-                 {[this](int hundredths) { progress_->setValue(hundredths); },
-                  [this, used, done = std::move(done)](const std::string& failure) {
-                      progress_->hide();
-                      told_->clear();
-                      if (failure.empty())
-                          done();
-                      else
-                          failure_->Tell(qt::Lines(failure));
-                      told_->setVisible(!told_->text().isEmpty());
-                      Offer();
-                      (used != nullptr && used->isEnabled() ? used : close_)->setFocus();
-                      MakeRoom();
-                  }});
+    job_->Begin([this, act = std::move(act)](std::stop_token stop) { act(Followed(std::move(stop))); },
+                [this, used, done = std::move(done)](const std::string& failure) {
+                    progress_->hide();
+                    told_->clear();
+                    if (failure.empty())
+                        done();
+                    else
+                        failure_->Tell(qt::Lines(failure));
+                    told_->setVisible(!told_->text().isEmpty());
+                    Offer();
+                    (used != nullptr && used->isEnabled() ? used : close_)->setFocus();
+                    MakeRoom();
+                });
     Offer();
+}
+
+family::LongWork PersonDialog::Followed(std::stop_token stop)
+{
+    const auto tell = [this, told = -1](long long done, long long total) mutable {
+        constexpr long long All = 100;
+        const int hundredths = static_cast<int>(total <= 0 ? All : done * All / total);
+        if (std::exchange(told, hundredths) != hundredths)
+            job_->Post([this, hundredths] { progress_->setValue(hundredths); });
+    };
+    return {tell, std::move(stop)};
 }
 
 void PersonDialog::MakeRoom() { resize(width(), std::max(height(), layout()->totalHeightForWidth(width()))); }
 
 void PersonDialog::Offer()
 {
-    const bool isFree = !work_->IsUnderWay();
+    const bool isFree = !job_->IsUnderWay();
     export_->setEnabled(isFree);
     choose_->setEnabled(isFree);
     folder_->setEnabled(isFree);
@@ -253,8 +264,8 @@ void PersonDialog::Offer()
 
 void PersonDialog::reject()
 {
-    if (work_->IsUnderWay())
-        return work_->Stop();
+    if (job_->IsUnderWay())
+        return job_->Stop();
     QDialog::reject();
 }
 

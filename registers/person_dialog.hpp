@@ -19,7 +19,7 @@ class RefusalLabel;
 
 namespace kova::registers {
 
-class BackgroundWork;
+class BackgroundJob;
 
 /// What a customer can ask of the shop about his data: to get all of them, and to be made anonymous.
 class PersonDialog : public QDialog {
@@ -44,7 +44,9 @@ private:
     void Anonymise();
     void ShowAnswer(const family::privacy::AnonymiseAnswer& answer);
     /// Runs in the background; `done` tells what has come of it where it has not failed.
-    void Begin(const std::function<void(const family::LongWork&)>& act, std::function<void()> done);
+    void Begin(std::function<void(const family::LongWork&)> act, std::function<void()> done);
+    /// For the thread of the work.
+    family::LongWork Followed(std::stop_token stop);
     void Offer();
     /// As high as its texts want it.
     void MakeRoom();
@@ -59,7 +61,7 @@ private:
     QProgressBar* progress_;
     screens::RefusalLabel* failure_;
     QLabel* told_;
-    BackgroundWork* work_;
+    BackgroundJob* job_;
     bool isAnonymous_ = false;
 };
 
