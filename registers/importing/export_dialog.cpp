@@ -90,6 +90,7 @@ void ExportDialog::LayOut()
     grid->addWidget(export_, 3, 1);
     grid->addWidget(cancel_, 3, 2);
     grid->setColumnStretch(0, 1);
+    grid->setRowStretch(2, 1);
     resize(UsualWidth, sizeHint().height());
 }
 

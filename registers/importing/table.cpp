@@ -29,6 +29,7 @@ QTableWidget* ReadOnlyTable(const QString& objectName, const QString& name, QWid
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(RowHeight);
     table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table->horizontalHeader()->setStretchLastSection(true);
     return table;
 }
