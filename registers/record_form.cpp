@@ -3,6 +3,7 @@
 #include "screens/field_frame.hpp"
 #include "screens/mnemonics.hpp"
 
+#include <QFocusEvent>
 #include <QGridLayout>
 
 namespace kova::registers {
@@ -70,6 +71,7 @@ void RecordForm::AddField(std::size_t field, const QString& label)
     editor.Widget().setToolTip(Shown(info.help));
     editor.Widget().setEnabled(info.kind != FieldKind::Code);
     frames_.push_back(new screens::FieldFrame(label, &editor.Widget(), this, info.required));
+    editor.Widget().installEventFilter(this);
     editor.onEdited = [this, field] {
         touched_[field] = true;
         FrameOf(field).Refuse({});
@@ -96,6 +98,34 @@ RecordForm::Texts RecordForm::Typed() const
             typed[field] = editors_[field]->Text();
     }
     return typed;
+}
+
+void RecordForm::Tidy(std::size_t field)
+{
+    const FieldInfo& info = register_.Fields()[field];
+    if (!touched_[field] || info.kind == FieldKind::Reference)
+        return;
+    const std::string typed = editors_[field]->Text();
+    const auto tidy = register_.Tidy(field, before_[field], typed);
+    if (tidy.text != typed)
+        editors_[field]->Show(tidy.text);
+    if (!tidy.why.empty())
+        FrameOf(field).Refuse(QString::fromStdString(family::registers::Sentence(tidy.why)));
+}
+
+// A list or a menu that opens, and another window, leave the user where he types.
+bool RecordForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::FocusOut)
+        return QWidget::eventFilter(watched, event);
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason)
+        return QWidget::eventFilter(watched, event);
+    for (std::size_t field = 0; field < editors_.size(); ++field) {
+        if (&editors_[field]->Widget() == watched)
+            Tidy(field);
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void RecordForm::Refuse(std::span<const family::registers::RefusedField> refused)

@@ -39,6 +39,9 @@ public:
 
 private:
     void AddField(std::size_t field, const QString& label);
+    /// A field that is left shows what was typed in the usual way, or why it cannot stand.
+    void Tidy(std::size_t field);
+    bool eventFilter(QObject* watched, QEvent* event) override;
     screens::FieldFrame& FrameOf(std::size_t field) { return *frames_[field]; }
 
     const Register& register_;

@@ -1,6 +1,7 @@
 #include "family/registers/channel_texts.hpp"
 
 #include "agenda/contracts/text.hpp"
+#include "family/registers/channel_kinds.hpp"
 #include "family/registers/column_kinds.hpp"
 
 #include <algorithm>
@@ -37,6 +38,12 @@ std::string TakeUntil(char mark, std::string_view& rest)
     return Trim(taken);
 }
 
+bool IsAmong(std::span<const ChannelRow> channels, const std::string& kind, const std::string& channel)
+{
+    return std::ranges::any_of(
+        channels, [&](const ChannelRow& one) { return one.tipo == kind && one.canal == channel; });
+}
+
 } // namespace
 
 std::string WriteChannels(const std::vector<ChannelRow>& channels)
@@ -49,7 +56,8 @@ std::string WriteChannels(const std::vector<ChannelRow>& channels)
     return cell;
 }
 
-std::string AddChannel(std::string kind, std::string channel, std::vector<ChannelRow>& channels)
+std::string AddChannel(std::string kind, std::string channel, std::vector<ChannelRow>& channels,
+                       std::span<const ChannelRow> former)
 {
     if (kind.empty() || channel.empty())
         return "não é uma lista de canais. Escreva como \"Celular: (11) 91234-5678; E-mail: "
@@ -57,6 +65,12 @@ std::string AddChannel(std::string kind, std::string channel, std::vector<Channe
     std::string why = CheckWidth(kind, WidthOfKind);
     if (why.empty())
         why = CheckWidth(channel, WidthOfChannel);
+    if (why.empty() && !IsAmong(former, kind, channel)) {
+        KeptChannel kept = ReadChannel(kind, channel);
+        why = std::move(kept.why);
+        if (why.empty())
+            channel = std::move(kept.text);
+    }
     channels.push_back({0, 0, std::move(kind), std::move(channel)});
     return why;
 }
@@ -79,17 +93,20 @@ std::vector<ChannelRow> ShownChannels(std::string_view shown)
     return channels;
 }
 
-std::string ReadChannels(const std::string& cell, std::vector<ChannelRow>& channels)
+std::string ReadChannels(const std::string& cell, std::vector<ChannelRow>& channels,
+                         std::span<const ChannelRow> former)
 {
+    std::string why;
     for (std::string_view rest = cell; !rest.empty();) {
         if (rest.find_first_not_of("; ") == std::string_view::npos)
             break;
         std::string kind = TakeUntil(':', rest);
         std::string channel = TakeUntil(';', rest);
-        if (std::string why = AddChannel(std::move(kind), std::move(channel), channels); !why.empty())
-            return why;
+        std::string wrong = AddChannel(std::move(kind), std::move(channel), channels, former);
+        if (why.empty())
+            why = std::move(wrong);
     }
-    return {};
+    return why;
 }
 
 } // namespace kova::family::registers

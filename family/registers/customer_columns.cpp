@@ -2,6 +2,9 @@
 #include "family/registers/channel_texts.hpp"
 #include "family/registers/column_kinds.hpp"
 #include "family/registers/customers.hpp"
+#include "family/registers/postal_codes.hpp"
+
+#include <utility>
 
 namespace kova::family::registers {
 
@@ -42,7 +45,7 @@ Col State()
 
 Col PostalCode()
 {
-    Col column = Cols::InMember("CEP", FieldKind::PostalCode, 9, &CustomerRecord::cep);
+    Col column = Cols::InMember(customer_columns::PostalCode, FieldKind::PostalCode, 9, &CustomerRecord::cep);
     column.read = [](const std::string& text, CustomerRecord& record) -> std::string {
         const auto digits = ReadPostalCode(text);
         if (!digits)
@@ -59,8 +62,9 @@ Col Channels()
     Col column = Cols::InMember("Canais", FieldKind::Channels, 1000, &CustomerRecord::channels);
     column.field.stored = {"tipos_e_canais"};
     column.read = [](const std::string& text, CustomerRecord& record) {
-        return ReadChannels(text, record.channels);
+        return ReadChannels(text, record.channels, record.formerChannels);
     };
+    column.clear = [](CustomerRecord& record) { record.formerChannels = std::exchange(record.channels, {}); };
     column.write = [](const CustomerRecord& record) { return WriteChannels(record.channels); };
     return column;
 }
@@ -116,6 +120,15 @@ std::string WrongKindOfPerson(const CustomerRecord& record)
     if (record.tipoDePessoa == kind)
         return {};
     return "o documento " + record.documento + " é de " + kind + ".";
+}
+
+std::string WrongPostalCode(const CustomerRecord& record)
+{
+    const std::string_view state = StateOfPostalCode(record.cep);
+    if (record.cep.empty() || record.uf.empty() || state.empty() || state == record.uf)
+        return {};
+    return "o CEP " + ShownPostalCode(record.cep) + " é de " + std::string(state) + ", e não de " + record.uf
+        + ".";
 }
 
 void CustomerRecord::Complete()

@@ -54,10 +54,20 @@ private:
     {
         if (std::string why = WrongKindOfPerson(record); !why.empty())
             refusals.Add(customer_columns::Kind, std::move(why));
+        CheckPostalCode(stored, record, refusals);
         record.Complete();
         const bool isNew = !stored || stored->documento != record.documento;
         if (!record.documento.empty() && isNew)
             CheckDocument(database, record, refusals);
+    }
+
+    static void CheckPostalCode(const CustomerRecord* stored, const CustomerRecord& record,
+                                Refusals& refusals)
+    {
+        if (stored && stored->cep == record.cep && stored->uf == record.uf)
+            return;
+        if (std::string why = WrongPostalCode(record); !why.empty())
+            refusals.Add(customer_columns::PostalCode, std::move(why));
     }
 
     static void CheckDocument(Database& database, const CustomerRecord& record, Refusals& refusals)

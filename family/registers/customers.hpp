@@ -8,6 +8,8 @@ namespace kova::family::registers {
 /// A customer with its contact channels.
 struct CustomerRecord : CustomerRow {
     std::vector<ChannelRow> channels;
+    /// Those that stood there before the channels were cleared for others.
+    std::vector<ChannelRow> formerChannels{};
 
     /// Fills in what follows from the rest: the kind of a person who has none, by the document.
     void Complete();
@@ -16,12 +18,16 @@ struct CustomerRecord : CustomerRow {
 namespace customer_columns {
 inline constexpr const char* Document = "Documento";
 inline constexpr const char* Kind = "Tipo de pessoa";
+inline constexpr const char* PostalCode = "CEP";
 } // namespace customer_columns
 
 const Columns<CustomerRecord>& CustomerColumns();
 
 /// Why the kind of person does not go with the document; empty where it does.
 std::string WrongKindOfPerson(const CustomerRecord& record);
+
+/// Why the postal code does not lie in the state; empty where it does, or one of them is missing.
+std::string WrongPostalCode(const CustomerRecord& record);
 
 /// A customer's code by its document.
 struct KnownDocument {

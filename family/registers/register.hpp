@@ -53,6 +53,14 @@ struct SaveAnswer {
     long long booked = 0;
 };
 
+/// What becomes of a text that was typed into a field.
+struct TidyText {
+    /// In the way in which a form shows the stored one; as it was typed where it cannot be read.
+    std::string text;
+    /// Why it cannot be read, in lower case and with a full stop; else empty.
+    std::string why{};
+};
+
 /// What a removal answers.
 struct RemoveAnswer {
     enum class Outcome { Done, Kept, Gone };
@@ -155,6 +163,10 @@ public:
     virtual std::vector<ListRow> Rows(Database& database, std::span<const Key> keys) const = 0;
     /// Find and Rows at once: `most` rows from the row `first` on.
     ListPage Search(Database& database, const std::string& text, std::size_t first, std::size_t most) const;
+
+    /// What a typed text becomes, other fields and rows aside. `before` is what the form showed there. An
+    /// empty text is never wrong here.
+    virtual TidyText Tidy(std::size_t field, const std::string& before, const std::string& typed) const = 0;
 
     /// What can be chosen in a field that refers to another register of few rows, by its name; `typed` tells
     /// what the choice depends on. Empty for all other fields.

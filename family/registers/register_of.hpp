@@ -88,6 +88,20 @@ public:
         return record ? std::optional(TextsOf(*record)) : std::nullopt;
     }
 
+    TidyText Tidy(std::size_t field, const std::string& before, const std::string& typed) const override
+    {
+        const Column<Record>& column = *columns_.at(field);
+        const std::string text = CleanText(typed);
+        if (text.empty() || text == CleanText(before))
+            return {typed};
+        Record record;
+        if (!before.empty())
+            column.read(before, record);
+        column.clear(record);
+        std::string why = column.read(text, record);
+        return why.empty() ? TidyText{column.Show(record)} : TidyText{typed, std::move(why)};
+    }
+
     SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
                           const Author& author) const override
     {

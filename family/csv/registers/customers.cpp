@@ -103,6 +103,8 @@ private:
 
     void CheckRecord(CustomerRecord& record, Line& line) override
     {
+        if (const std::string why = family::registers::WrongPostalCode(record); !why.empty())
+            line.Refuse(column::PostalCode, family::ShownPostalCode(record.cep), why);
         if (record.documento.empty())
             return;
         if (const std::string why = family::registers::WrongKindOfPerson(record); !why.empty())

@@ -177,6 +177,34 @@ TEST_F(CadastrosTest, MarksEveryRefusedFieldAndKeepsWhatIsTyped)
     EXPECT_EQ(Stored("select count(*) from cliente"), Lines{"3"});
 }
 
+TEST_F(CadastrosTest, WritesWhatIsLeftInTheUsualWayOrSaysWhyNot)
+{
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    TypeOver("CEP", "01234567");
+    Keys(Qt::Key_Tab);
+    EXPECT_EQ(TextOf("CEP"), "01234-567");
+    EXPECT_EQ(Focused(), "Canais");
+    Type("Celular: 5511912345678");
+    Keys(Qt::Key_Tab);
+    EXPECT_EQ(Find<QPlainTextEdit>("Canais").toPlainText(), QStringLiteral("Celular: (11) 91234-5678"));
+    EXPECT_EQ(Reasons(), Lines{});
+
+    TypeOver("CEP", "0123");
+    Keys(Qt::Key_Tab);
+    EXPECT_EQ(TextOf("CEP"), "0123");
+    EXPECT_EQ(Reasons(), Lines{"Não é um CEP: são oito dígitos."});
+    TypeOver("Nome", "Otávio Reis");
+    TypeOver("CEP", "20040002");
+    auto& state = Find<QComboBox>("UF");
+    state.setFocus();
+    while (state.currentText() != QStringLiteral("SP"))
+        Keys(Qt::Key_Down);
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Reasons(), Lines{"O CEP 20040-002 é de RJ, e não de SP."});
+    EXPECT_EQ(Focused(), "CEP");
+    EXPECT_EQ(Stored("select count(*) from cliente"), Lines{"3"});
+}
+
 TEST_F(CadastrosTest, AsksAboutWhatIsTypedBeforeAnotherRowIsShown)
 {
     TypeOver("Apelido", "Aninha");

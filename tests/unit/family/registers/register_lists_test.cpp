@@ -85,7 +85,7 @@ TEST_F(RegisterLists, FindACustomerByAnyPartOfWhatIsKnown)
 TEST_F(RegisterLists, FollowEveryChange)
 {
     EXPECT_EQ(Find("7777"), Keys());
-    ExpectDone(CustomerRegister(), 11, {{"Canais", "Celular: 7777"}});
+    ExpectDone(CustomerRegister(), 11, {{"Canais", "Celular: (11) 97777-0000"}});
     EXPECT_EQ(Find("7777"), (Keys{11}));
     ExpectDone(CustomerRegister(), 11, {{"Documento", ""}});
     EXPECT_EQ(Find("11222333"), Keys());

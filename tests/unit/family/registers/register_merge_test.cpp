@@ -33,11 +33,12 @@ TEST_F(RegisterMerge, KeepsWhatTheOtherDeskHasChanged)
 {
     const Register& customers = CustomerRegister();
     const registers::Texts before = Shown(customers, 10);
-    OtherChanges(customers, 10, {{"Bairro", "Centro"}, {"Canais", "Celular: 5"}, {"VIP", "Sim"}});
+    OtherChanges(customers, 10,
+                 {{"Bairro", "Centro"}, {"Canais", "Celular: (11) 95555-0000"}, {"VIP", "Sim"}});
     EXPECT_EQ(Told(customers, ChangeFrom(customers, 10, before, {{"Cidade", "Outra"}, {"VIP", "sim"}})),
               "feito");
     EXPECT_EQ(Field(customers, 10, "Bairro"), "Centro");
-    EXPECT_EQ(Field(customers, 10, "Canais"), "Celular: 5");
+    EXPECT_EQ(Field(customers, 10, "Canais"), "Celular: (11) 95555-0000");
     EXPECT_EQ(Field(customers, 10, "Cidade"), "Outra");
     EXPECT_EQ(Field(customers, 10, "VIP"), "Sim") << "both wanted the same";
     EXPECT_EQ(Texts("select endereco_completo from cliente where codigo = 10"),

@@ -59,6 +59,57 @@ TEST_F(RegisterRules, OfCustomers)
          {0, {{"Nome", "a"}, {"Código", "12"}}, "Código: é dado pelo banco de dados e não muda."}});
 }
 
+TEST_F(RegisterRules, OfAddressesAndContactChannels)
+{
+    ExpectRefusals(CustomerRegister(),
+                   {{10, {{"UF", "RJ"}, {"CEP", "01234567"}}, "CEP: o CEP 01234-567 é de SP, e não de RJ."},
+                    {10, {{"CEP", "20040-002"}}, "CEP: o CEP 20040-002 é de RJ, e não de SP."},
+                    {10,
+                     {{"Canais", "Celular: 11 91234-5678; E-mail: ze"}},
+                     "Canais: o e-mail ze não é um endereço, como ana@exemplo.com."},
+                    {0,
+                     {{"Nome", "a"}, {"Canais", "Telefone: (20) 3123-4567"}},
+                     "Canais: o DDD 20, de (20) 3123-4567, não existe."}});
+    ExpectDone(CustomerRegister(), 10, {{"UF", "RJ"}, {"CEP", "20040-002"}});
+    ExpectDone(CustomerRegister(), 10, {{"UF", ""}, {"CEP", "01234567"}});
+}
+
+TEST_F(RegisterRules, LeaveAnAddressAloneThatIsOlderThanThem)
+{
+    Run("update cliente set uf = 'RJ', cep = '01234567', tipos_e_canais = 'Celular: 7' where codigo = 10");
+    Run("update canal_de_comunicacao set canal = '7', tipo = 'Celular' where codigo_do_cliente = 10");
+    ExpectDone(CustomerRegister(), 10, {{"Apelido", "Zezinho"}});
+    ExpectDone(CustomerRegister(), 10, {{"Canais", "Celular: 7; Telefone: 1131234567"}});
+    EXPECT_EQ(Field(CustomerRegister(), 10, "Canais"), "Celular: 7; Telefone: (11) 3123-4567");
+    ExpectRefused(CustomerRegister(), 10, {{"CEP", "01234-568"}},
+                  "CEP: o CEP 01234-568 é de SP, e não de RJ.");
+}
+
+TEST_F(RegisterRules, TidyWhatIsTyped)
+{
+    struct Typing {
+        const Register& of;
+        const char *label, *before, *typed, *text, *why;
+    };
+    const Typing typings[] = {
+        {CustomerRegister(), "CEP", "", " 01234567 ", "01234-567", ""},
+        {CustomerRegister(), "CEP", "", "123", "123", "não é um CEP: são oito dígitos."},
+        {CustomerRegister(), "CEP", "123", "123", "123", ""},
+        {CustomerRegister(), "CEP", "01234-567", "", "", ""},
+        {CustomerRegister(), "Documento", "", "12abc34501de35", "12.ABC.345/01DE-35", ""},
+        {CustomerRegister(), "Nome", "Ana", "", "", ""},
+        {CustomerRegister(), "Canais", "", "Celular: 11912345678", "Celular: (11) 91234-5678", ""},
+        {CustomerRegister(), "Canais", "Celular: 7; Fixo: 8", "Fixo: 8; Recado: 9", "Fixo: 8; Recado: 9", ""},
+        {ServiceRegister(), "Preço", "60,00", "1050", "1.050,00", ""},
+        {OpeningHoursRegister(), "Hora inicial", "", "9:00", "09:00", ""},
+    };
+    for (const Typing& one : typings) {
+        const TidyText tidy = one.of.Tidy(FieldNamed(one.of.Fields(), one.label), one.before, one.typed);
+        EXPECT_EQ(tidy.text, one.text) << one.label << " " << one.typed;
+        EXPECT_EQ(tidy.why, one.why) << one.label << " " << one.typed;
+    }
+}
+
 TEST_F(RegisterRules, OfAnimals)
 {
     Run("insert into especie (codigo, nome, nome_de_busca) values (7, 'Felina', 'felina')");
@@ -248,7 +299,8 @@ TEST_F(RegisterRules, RemoveARowWithItsLineInTheAudit)
     EXPECT_EQ(Count("auditoria where tabela = 'feriado' and operacao = 'exclusao' and depois is null"), 1);
     EXPECT_EQ(HolidayRegister().Remove(Data(), holiday, lia_).outcome, RemoveAnswer::Outcome::Gone);
 
-    const Key customer = Add(CustomerRegister(), {{"Nome", "Engano"}, {"Canais", "Celular: 1"}}).key;
+    const Key customer =
+        Add(CustomerRegister(), {{"Nome", "Engano"}, {"Canais", "Celular: 11912345678"}}).key;
     EXPECT_TRUE(CustomerRegister().Remove(Data(), customer, lia_).IsDone());
     EXPECT_EQ(Count("canal_de_comunicacao"), 2) << "those of customer 10";
 }

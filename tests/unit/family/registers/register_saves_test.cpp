@@ -82,7 +82,7 @@ TEST_F(RegisterSaves, AddARowThatCanBeReadBack)
         {&CustomerRegister(),
          {{"Nome", "Canil Novo"},
           {"Documento", "12.abc.345/01de-35"},
-          {"Canais", "Celular: 1; E-mail: a@b"}}},
+          {"Canais", "Celular: 11912345678; E-mail: a@b.com"}}},
         {&AnimalRegister(),
          {{"Código do cliente", "10"},
           {"Nome", "Bidu"},
@@ -110,8 +110,8 @@ TEST_F(RegisterSaves, AddARowThatCanBeReadBack)
     EXPECT_EQ(
         Texts("select tipo_de_pessoa || ' ' || documento || ' ' || tipos_e_canais from cliente where nome ="
               " 'Canil Novo'"),
-        std::vector<std::string>{"PJ 12ABC34501DE35 Celular: 1; E-mail: a@b"});
-    EXPECT_EQ(Count("canal_de_comunicacao where canal in ('1', 'a@b')"), 2);
+        std::vector<std::string>{"PJ 12ABC34501DE35 Celular: (11) 91234-5678; E-mail: a@b.com"});
+    EXPECT_EQ(Count("canal_de_comunicacao where canal in ('(11) 91234-5678', 'a@b.com')"), 2);
     EXPECT_EQ(
         Texts("select r.nome from animal a join raca r on r.codigo = a.codigo_da_raca where a.nome = 'Bidu'"),
         std::vector<std::string>{"Sem raça definida"});
@@ -162,10 +162,10 @@ TEST_F(RegisterSaves, LeaveNothingWhereTheDataBreakOff)
 {
     Break("auditoria", "before insert");
     const std::vector<std::string> before = AllRows();
-    EXPECT_THROW(Change(CustomerRegister(), 10, {{"Canais", "Celular: 1"}}), DatabaseFailure);
+    EXPECT_THROW(Change(CustomerRegister(), 10, {{"Canais", "Celular: 11912345678"}}), DatabaseFailure);
     EXPECT_EQ(AllRows(), before);
     Mend("auditoria");
-    ExpectDone(CustomerRegister(), 10, {{"Canais", "Celular: 1"}});
+    ExpectDone(CustomerRegister(), 10, {{"Canais", "Celular: 11912345678"}});
 }
 
 TEST_F(RegisterSaves, LeaveAFieldAloneThatCouldNotBeReadAnyMore)

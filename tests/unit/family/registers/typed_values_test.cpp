@@ -90,7 +90,7 @@ TEST(TypedValues, ReadChannelsThatWereWritten)
     EXPECT_EQ(channels[1].tipo, "E-mail");
     EXPECT_EQ(channels[1].canal, "ze@example.com");
 
-    channels = {{0, 0, "Site: da; loja", "http://a;b\\c"}, {0, 0, "Telefone", "1"}};
+    channels = {{0, 0, "Site: da; loja", "http://a;b\\c"}, {0, 0, "Recado", "1"}};
     std::vector<ChannelRow> read;
     EXPECT_EQ(ReadChannels(WriteChannels(channels), read), "");
     ASSERT_EQ(read.size(), 2u);

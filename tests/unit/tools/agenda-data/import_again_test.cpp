@@ -148,11 +148,11 @@ TEST_F(ImportAgain, KnowsOneAmongManyNamesakes)
 {
     std::string content = "Código;Nome;Celular\n";
     for (int code = 1001; code <= 2300; ++code)
-        content += std::to_string(code) + ";Maria;11 9000-" + std::to_string(code) + "\n";
+        content += std::to_string(code) + ";Maria;11 90000-" + std::to_string(code) + "\n";
     ASSERT_EQ(Import("clientes", content), 0) << Error();
-    EXPECT_EQ(Import("clientes", "Nome;Celular\nMaria;11 9000-2300\n"), 1);
+    EXPECT_EQ(Import("clientes", "Nome;Celular\nMaria;11 90000-2300\n"), 1);
     EXPECT_NE(Error().find("com o código 2300."), std::string::npos) << Error();
-    EXPECT_EQ(Import("clientes", "Nome;Celular\nMaria;11 9000-2301\n"), 0) << Error();
+    EXPECT_EQ(Import("clientes", "Nome;Celular\nMaria;11 90000-2301\n"), 0) << Error();
 }
 
 TEST_F(ImportAgain, BringsInWhatIsOnlyAlikeWithACodeOfItsOwn)

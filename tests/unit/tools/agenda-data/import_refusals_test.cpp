@@ -90,7 +90,7 @@ TEST_F(ImportRefusals, OfCustomers)
 {
     Refuses(
         "clientes", "Nome;Tipo de pessoa;Documento;Situação;VIP;Curva ABC;UF;CEP;Canais",
-        {{";;;;;;;;Celular: 1", "Nome: deve ser informado."},
+        {{";;;;;;;;Celular: 11912345678", "Nome: deve ser informado."},
          {"a;PX;;;;;;;", "Tipo de pessoa \"PX\": deve ser PF ou PJ."},
          {"a;;123.456.789-00;;;;;;",
           "Documento \"123.456.789-00\": não é um CPF nem um CNPJ válido: confira os dígitos."},
@@ -107,6 +107,10 @@ TEST_F(ImportRefusals, OfCustomers)
          {"a;;;;;D;;;", "Curva ABC \"D\": deve ser A, B ou C."},
          {"a;;;;;;XX;;", "UF \"XX\": não é a sigla de um estado."},
          {"a;;;;;;;123;", "CEP \"123\": não é um CEP: são oito dígitos."},
+         {"a;;;;;;RJ;01234-567;", "CEP \"01234-567\": o CEP 01234-567 é de SP, e não de RJ."},
+         {"a;;;;;;;;Celular: 11 1234-5678",
+          "Canais \"Celular: 11 1234-5678\": o celular 11 1234-5678 não tem DDD e nove dígitos a partir do 9,"
+          " como (11) 91234-5678."},
          {"a;;;;;;;;12345",
           "Canais \"12345\": não é uma lista de canais. Escreva como \"Celular: (11) 91234-5678; E-mail: "
           "ze@example.com\"."}});

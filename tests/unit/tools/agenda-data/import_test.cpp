@@ -14,7 +14,8 @@ TEST_F(Imports, ReadsCustomers)
     ASSERT_EQ(
         Import("clientes",
                "codigo;NOME;Documento;vip;situação;CEP;Logradouro;Número;UF;Curva ABC;Canais;Celular;E-mail\n"
-               "7; José  Peçanha ;123.456.789-09;sim;bloqueado;01234-567;Rua do Ipê;10;sp;b;Telefone: 1;2;3\n"
+               "7; José  Peçanha ;123.456.789-09;sim;bloqueado;01234-567;Rua do Ipê;10;sp;b;Telefone: "
+               "1131234567;+55 11 912345678;ze@example.com\n"
                ";Canil Céu Ltda.;11222333000181;;;;;;;;;;\n"),
         0)
         << Error();
@@ -24,7 +25,7 @@ TEST_F(Imports, ReadsCustomers)
               "Código;Tipo de pessoa;Nome;Apelido;Documento;Situação;VIP;Curva ABC;Logradouro;Número;"
               "Complemento;Bairro;Cidade;UF;CEP;Canais\r\n"
               "7;PF;José  Peçanha;;123.456.789-09;Bloqueado;Sim;B;Rua do Ipê;10;;;;SP;01234-567;"
-              "\"Telefone: 1; Celular: 2; E-mail: 3\"\r\n"
+              "\"Telefone: (11) 3123-4567; Celular: (11) 91234-5678; E-mail: ze@example.com\"\r\n"
               "8;PJ;Canil Céu Ltda.;;11.222.333/0001-81;Ativo;Não;;;;;;;;;\r\n");
     EXPECT_EQ(Ask("select endereco_completo_com_cep from cliente where codigo = 7"),
               "Rua do Ipê, 10/SP - CEP 01234-567");

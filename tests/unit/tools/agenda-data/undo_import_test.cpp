@@ -104,7 +104,7 @@ TEST_F(UndoImport, GivesChangedRowsTheirFormerValues)
     const std::pair<const char*, std::string> files[] = {
         {"clientes",
          "Código;Nome;Canais;Logradouro;CEP;Curva ABC;Documento;VIP\n"
-         "12;Ana Sá;Telefone: 3333-4444;;;A;52998224725;Sim\n10;José P.;;;;;12345678909;Não\n"},
+         "12;Ana Sá;Telefone: (11) 3333-4444;;;A;52998224725;Sim\n10;José P.;;;;;12345678909;Não\n"},
         {"animais",
          "Código;Código do cliente;Nome;Sexo;Espécie;Raça;Porte;Microchip\n"
          "50;11;Paçoca II;M;Canina;Poodle;Grande;123\n"},
