@@ -2,6 +2,7 @@
 
 #include "family/data/engine/database_failure.hpp"
 #include "registers/more_button.hpp"
+#include "registers/suggestions_dialog.hpp"
 #include "screens/field_frame.hpp"
 #include "screens/question.hpp"
 #include "toolkits/qt/look/theme.hpp"
@@ -123,7 +124,11 @@ void RegisterScreen::LayOut()
     searchRow->addWidget(new_);
     leftColumn->addLayout(searchRow);
     leftColumn->addWidget(list_, 1);
-    leftColumn->addWidget(found_);
+    auto* belowList = new QHBoxLayout;
+    belowList->addWidget(found_, 1);
+    if (!register_.SuggestionsTitle().empty())
+        belowList->addWidget(SuggestButton());
+    leftColumn->addLayout(belowList);
 
     auto* right = new QWidget(this);
     auto* rightColumn = new QVBoxLayout(right);
@@ -154,6 +159,14 @@ void RegisterScreen::LayOut()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(sides);
+}
+
+QPushButton* RegisterScreen::SuggestButton()
+{
+    auto* suggest = Button(QStringLiteral("sugestoes"), Shown(register_.SuggestionsTitle()),
+                           QStringLiteral("Mostra o que outras lojas costumam ter, para escolher"), this);
+    connect(suggest, &QPushButton::clicked, this, [this] { Suggest(); });
+    return suggest;
 }
 
 void RegisterScreen::Connect()
@@ -269,7 +282,24 @@ void RegisterScreen::New()
 void RegisterScreen::ShowNew()
 {
     form_->Show(0, register_.New());
-    title_->setText(QStringLiteral("Novo: ") + Shown(register_.Name().one));
+    title_->setText(TitleOfNew());
+}
+
+// "Novo: cliente", "Nova: espécie"
+QString RegisterScreen::TitleOfNew() const
+{
+    const auto& name = register_.Name();
+    return QStringLiteral("Nov%1: %2").arg(QLatin1Char(name.ending)).arg(Shown(name.one));
+}
+
+void RegisterScreen::Suggest()
+{
+    SuggestionsDialog dialog(register_, desk_, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    Find();
+    Tell(dialog.Added() == 1 ? QStringLiteral("1 incluído.")
+                             : QStringLiteral("%L1 incluídos.").arg(dialog.Added()));
 }
 
 void RegisterScreen::Save()

@@ -53,6 +53,10 @@ private:
     void Run(const RecordAction& action);
     void Tell(const QString& text);
     void OfferButtons();
+    QString TitleOfNew() const;
+    /// Offers rows that many shops have.
+    void Suggest();
+    QPushButton* SuggestButton();
     void LayOut();
     void Connect();
     /// Runs what needs the database and tells what it reports. False where it failed.

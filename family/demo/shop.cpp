@@ -16,12 +16,16 @@ constexpr int MeasuredDays = 2500;
 /// Appointments a day: of a small shop, and of an employee who has much or as much as usual to do.
 constexpr int UsualPerDay = 40, MostOfEmployee = 6, UsualOfEmployee = 4;
 
-/// What the state and the town add to the national holidays.
+/// What the state, the town and the shop itself add to the national holidays.
 void WriteHolidays(Database& database)
 {
     std::vector<HolidayRow> holidays = NationalHolidays(FirstHolidayYear, LastHolidayYear);
     holidays.push_back({0, "Revolução Constitucionalista", 9, 7, {}});
     holidays.push_back({0, "Aniversário de Vale Sereno", 19, 8, {}});
+    for (int year = FirstHolidayYear; year <= LastHolidayYear; ++year) {
+        for (HolidayRow& day : UsualDaysOff(year))
+            holidays.push_back(std::move(day));
+    }
     Key code = 0;
     for (HolidayRow& holiday : holidays) {
         holiday.codigo = ++code;

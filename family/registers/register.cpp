@@ -33,6 +33,21 @@ RemoveAnswer Register::Remove(Database& database, Key key, const Author& author)
     return InTransaction(database, [&] { return RemoveWithin(database, key, author); });
 }
 
+std::vector<Suggestion> Register::Suggestions(Database&, int) const { return {}; }
+
+SaveAnswer Register::AddAll(Database& database, std::span<const Texts> rows, const Author& author) const
+{
+    return InTransaction(database, [&] {
+        SaveAnswer answer;
+        for (const Texts& row : rows) {
+            answer = SaveWithin(database, 0, {}, row, author);
+            if (!answer.IsDone())
+                break;
+        }
+        return answer;
+    });
+}
+
 ListPage Register::Search(Database& database, const std::string& text, std::size_t first,
                           std::size_t most) const
 {

@@ -100,6 +100,16 @@ struct Offer {
     std::string text, shown;
 };
 
+/// A row that many shops have, for the user to choose.
+struct Suggestion {
+    /// What is typed for it into a new row.
+    Texts texts;
+    /// As a list shows it.
+    std::string shown;
+    /// Whether such a row is there already.
+    bool isStored = false;
+};
+
 /// How people speak of a register.
 struct RegisterName {
     /// In the command line: "clientes".
@@ -147,6 +157,14 @@ public:
 
     /// Takes a row away that nothing refers to, in a transaction of its own.
     RemoveAnswer Remove(Database& database, Key key, const Author& author) const;
+
+    /// What a button calls the suggestions; empty where a register has none.
+    virtual std::string_view SuggestionsTitle() const { return {}; }
+    /// Rows that many shops have in that year.
+    virtual std::vector<Suggestion> Suggestions(Database& database, int year) const;
+    /// Adds new rows, all of them or none, in a transaction of its own. Answers as the save of the first that
+    /// is refused.
+    SaveAnswer AddAll(Database& database, std::span<const Texts> rows, const Author& author) const;
     virtual RemoveAnswer RemoveWithin(Database& database, Key key, const Author& author) const = 0;
 
     /// Takes back, in the transaction that is open, a write of which the audit has kept these columns: a row

@@ -231,6 +231,15 @@ protected:
     /// What the list is ordered by, before the code.
     virtual std::string OrderOf(const Record& record) const { return FoldText(shown_.front().cell(record)); }
 
+    /// As a form shows them.
+    Texts TextsOf(const Record& record) const
+    {
+        Texts texts;
+        for (const Column<Record>* column : columns_)
+            texts.push_back(column->Show(record));
+        return texts;
+    }
+
     static Key KeyIn(Record record) { return KeyOfRow(record); }
     static bool IsActive(const Record& record)
     {
@@ -289,14 +298,6 @@ private:
                 name = column;
         });
         return name;
-    }
-
-    Texts TextsOf(const Record& record) const
-    {
-        Texts texts;
-        for (const Column<Record>* column : columns_)
-            texts.push_back(column->Show(record));
-        return texts;
     }
 
     /// The texts in one way, as the stored ones would be shown. What cannot be read stays as it was typed.

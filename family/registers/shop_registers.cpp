@@ -1,6 +1,10 @@
+#include "family/data/stores/national_holidays.hpp"
 #include "family/registers/register_of.hpp"
 #include "family/registers/registers.hpp"
 #include "family/registers/shop_columns.hpp"
+#include "family/registers/usual_days.hpp"
+
+#include <set>
 
 // The registers whose rows are few.
 namespace kova::family::registers {
@@ -222,7 +226,28 @@ public:
     {
     }
 
+    std::string_view SuggestionsTitle() const override { return UsualDaysTitle; }
+    std::vector<Suggestion> Suggestions(Database& database, int year) const override
+    {
+        std::set<std::string> stored;
+        for (const HolidayRow& row : AllRows(database))
+            stored.insert(WriteDay(row));
+        std::vector<Suggestion> suggestions;
+        for (const HolidayRow& day : UsualDaysOff(year)) {
+            const std::string date = WriteDay(day);
+            Texts texts = New();
+            texts[FieldNamed(Fields(), column::Name)] = day.nome;
+            texts[FieldNamed(Fields(), column::Day)] = date;
+            const bool isStored = stored.contains(date) || stored.contains(date.substr(0, DayAndMonth));
+            suggestions.push_back({std::move(texts), day.nome + ", " + DayInWords(date), isStored});
+        }
+        return suggestions;
+    }
+
 private:
+    /// "dd/mm"
+    static constexpr std::size_t DayAndMonth = 5;
+
     /// Different holidays can fall on one day.
     void CheckRecord(Database& database, const HolidayRow* stored, HolidayRow& record,
                      Refusals& refusals) const override

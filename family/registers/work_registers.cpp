@@ -1,5 +1,8 @@
+#include "family/data/engine/iso_text.hpp"
+#include "family/data/stores/national_holidays.hpp"
 #include "family/registers/register_of.hpp"
 #include "family/registers/registers.hpp"
+#include "family/registers/usual_days.hpp"
 #include "family/registers/work_columns.hpp"
 
 // The registers that tell when the shop is open and who is at work.
@@ -183,6 +186,22 @@ public:
     {
     }
 
+    std::string_view SuggestionsTitle() const override { return UsualDaysTitle; }
+    std::vector<Suggestion> Suggestions(Database& database, int year) const override
+    {
+        AbsenceRecord morning;
+        morning.dataInicial = morning.dataFinal = IsoDate(AshWednesday(year));
+        morning.horaInicial = "00:00";
+        morning.horaFinal = "12:00";
+        morning.motivo = "Quarta-feira de Cinzas";
+        const bool isStored = std::ranges::any_of(AllRows(database), [&](const AbsenceRecord& row) {
+            return row.codigoDoFuncionario.IsNull() && Span(row).first <= Span(morning).first
+                && Span(morning).second <= Span(row).second;
+        });
+        return {{TextsOf(morning),
+                 morning.motivo + " até as 12:00, " + DayInWords(ShownDate(morning.dataInicial)), isStored}};
+    }
+
     std::vector<Offer> Offers(Database& database, std::size_t field, const Texts&) const override
     {
         return field == FieldNamed(Fields(), column::Employee) ? OfferedEmployees(database)
@@ -190,6 +209,12 @@ public:
     }
 
 private:
+    /// From when until when, as moments that can be compared.
+    static std::pair<std::string, std::string> Span(const AbsenceRecord& record)
+    {
+        return {record.dataInicial + record.horaInicial, record.dataFinal + record.horaFinal};
+    }
+
     static std::string WhoIsAway(const AbsenceRecord& record)
     {
         return record.codigoDoFuncionario.IsNull() ? "Todos" : record.nickname;

@@ -26,8 +26,14 @@ struct MovableHoliday {
     const char* name;
     int daysFromEaster;
 };
-constexpr MovableHoliday MovableHolidays[] = {
-    {"Carnaval", -48}, {"Carnaval", -47}, {"Sexta-feira Santa", -2}, {"Corpus Christi", 60}};
+constexpr MovableHoliday GoodFriday = {"Sexta-feira Santa", -2};
+constexpr MovableHoliday OfShops[] = {{"Carnaval", -48}, {"Carnaval", -47}, {"Corpus Christi", 60}};
+constexpr int DaysFromAshWednesdayToEaster = 46;
+
+HolidayRow InYear(int year, const MovableHoliday& movable)
+{
+    return {0, movable.name, {}, {}, IsoDate(AddDays(EasterSunday(year), movable.daysFromEaster))};
+}
 
 } // namespace
 
@@ -53,11 +59,19 @@ std::vector<HolidayRow> NationalHolidays(int firstYear, int lastYear)
     };
     for (const FixedHoliday& fixed : FixedHolidays)
         add({0, fixed.name, fixed.day, fixed.month, {}});
-    for (int year = firstYear; year <= lastYear; ++year) {
-        for (const MovableHoliday& movable : MovableHolidays)
-            add({0, movable.name, {}, {}, IsoDate(AddDays(EasterSunday(year), movable.daysFromEaster))});
-    }
+    for (int year = firstYear; year <= lastYear; ++year)
+        add(InYear(year, GoodFriday));
     return holidays;
 }
+
+std::vector<HolidayRow> UsualDaysOff(int year)
+{
+    std::vector<HolidayRow> days;
+    for (const MovableHoliday& movable : OfShops)
+        days.push_back(InYear(year, movable));
+    return days;
+}
+
+Date AshWednesday(int year) { return AddDays(EasterSunday(year), -DaysFromAshWednesdayToEaster); }
 
 } // namespace kova::family

@@ -18,4 +18,11 @@ inline constexpr int LastHolidayYear = 2100;
 /// the range, as dates. Codes count from 1.
 std::vector<HolidayRow> NationalHolidays(int firstYear, int lastYear);
 
+/// Days of a year on which many shops are closed although no law says so: Monday and Tuesday of Carnival,
+/// and Corpus Christi. Without codes, by date.
+std::vector<HolidayRow> UsualDaysOff(int year);
+
+/// The day on which many shops open at noon.
+Date AshWednesday(int year);
+
 } // namespace kova::family

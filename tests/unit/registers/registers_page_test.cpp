@@ -4,7 +4,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPlainTextEdit>
+#include <QSpinBox>
 #include <QStyle>
+#include <QTimer>
 
 namespace kova::registers::test {
 
@@ -328,6 +330,53 @@ TEST_F(CadastrosTest, FindsTheOwnerOfANewAnimalAsOneTypes)
     EXPECT_EQ(Reasons(), Lines{});
     EXPECT_EQ(Stored("select nome, sexo, porte, codigo_do_cliente from animal where codigo = 2"),
               Lines{"Mel|F|1|3"});
+}
+
+TEST_F(CadastrosTest, OffersUsualDaysOffByTheKeyboardAlone)
+{
+    TurnTo("Feriados");
+    EXPECT_EQ(Stored("select count(*) from feriado where nome in ('Carnaval', 'Corpus Christi')"),
+              Lines{"0"});
+    const auto offered = [] {
+        Lines days;
+        const auto* list = QApplication::activeModalWidget()->findChild<QListWidget*>(QStringLiteral("dias"));
+        for (int row = 0; row < list->count(); ++row)
+            days.push_back(list->item(row)->text().toStdString());
+        return days;
+    };
+    Lines first, later;
+    QTimer::singleShot(0, page_.get(), [&] {
+        auto* dialog = QApplication::activeModalWidget();
+        auto* year = dialog->findChild<QSpinBox*>(QStringLiteral("ano"));
+        first = offered();
+        QTest::keyClick(year, Qt::Key_Up);
+        later = offered();
+        auto* list = dialog->findChild<QListWidget*>(QStringLiteral("dias"));
+        QTest::keyClick(list, Qt::Key_Space);
+        QTest::keyClick(list, Qt::Key_Return);
+    });
+    QTest::keyClick(&Find<QPushButton>("sugestoes"), Qt::Key_Space);
+    EXPECT_EQ(first,
+              (Lines{"Carnaval, segunda-feira, 16/02/2026", "Carnaval, terça-feira, 17/02/2026",
+                     "Corpus Christi, quinta-feira, 04/06/2026"}));
+    EXPECT_EQ(later.front(), "Carnaval, segunda-feira, 08/02/2027");
+    EXPECT_EQ(Stored("select data from feriado where nome in ('Carnaval', 'Corpus Christi') order by data"),
+              (Lines{"2027-02-09", "2027-05-27"}))
+        << "the mark of the first was taken away";
+    EXPECT_EQ(Told(), "2 incluídos.");
+    TurnTo("Clientes");
+    EXPECT_EQ(page_->findChild<QPushButton*>(QStringLiteral("sugestoes"))->isVisible(), false);
+}
+
+TEST_F(CadastrosTest, SaysOfANewRowWhetherItIsHeOrShe)
+{
+    const std::pair<const char*, const char*> titles[] = {
+        {"Clientes", "Novo: cliente"}, {"Ausências", "Nova: ausência"}, {"Espécies", "Nova: espécie"}};
+    for (const auto& [page, title] : titles) {
+        TurnTo(page);
+        Keys(Qt::Key_N, Qt::ControlModifier);
+        EXPECT_EQ(Find<QLabel>("titulo").text(), QString::fromUtf8(title));
+    }
 }
 
 TEST_F(CadastrosTest, ShowsTheCompanyAndSavesIt)

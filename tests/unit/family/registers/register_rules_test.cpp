@@ -224,6 +224,55 @@ TEST_F(RegisterRules, OfSpeciesBreedsHolidaysAndTheCompany)
                      "Nome fantasia: deve ser informado. CNPJ: não é um CNPJ válido: confira os dígitos."}});
 }
 
+TEST_F(RegisterRules, OfferTheDaysOnWhichManyShopsAreClosed)
+{
+    const auto offered = [&](const Register& of, int year) {
+        std::vector<std::string> shown;
+        for (const Suggestion& one : of.Suggestions(Data(), year))
+            shown.push_back((one.isStored ? "+ " : "- ") + one.shown);
+        return shown;
+    };
+    using Lines = std::vector<std::string>;
+    const Register& holidays = HolidayRegister();
+    EXPECT_EQ(offered(holidays, 2026),
+              (Lines{"- Carnaval, segunda-feira, 16/02/2026", "- Carnaval, terça-feira, 17/02/2026",
+                     "- Corpus Christi, quinta-feira, 04/06/2026"}));
+    ExpectDone(holidays, 0, {{"Nome", "Terça-feira gorda"}, {"Data", "17/02/2026"}});
+    ExpectDone(holidays, 0, {{"Nome", "Dia da loja"}, {"Data", "04/06"}});
+    EXPECT_EQ(offered(holidays, 2026),
+              (Lines{"- Carnaval, segunda-feira, 16/02/2026", "+ Carnaval, terça-feira, 17/02/2026",
+                     "+ Corpus Christi, quinta-feira, 04/06/2026"}));
+    EXPECT_EQ(offered(AbsenceRegister(), 2027),
+              Lines{"- Quarta-feira de Cinzas até as 12:00, quarta-feira, 10/02/2027"});
+    EXPECT_EQ(offered(CustomerRegister(), 2026), Lines());
+    EXPECT_EQ(CustomerRegister().SuggestionsTitle(), "");
+}
+
+TEST_F(RegisterRules, AddWhatIsOfferedWholeOrNotAtAll)
+{
+    std::vector<registers::Texts> rows;
+    for (Suggestion& one : HolidayRegister().Suggestions(Data(), 2026))
+        rows.push_back(std::move(one.texts));
+    EXPECT_EQ(Told(HolidayRegister(), HolidayRegister().AddAll(Data(), rows, lia_)), "feito");
+    EXPECT_EQ(Texts("select nome || ' ' || data from feriado where data is not null order by data"),
+              (std::vector<std::string>{"Carnaval 2026-02-16", "Carnaval 2026-02-17",
+                                        "Corpus Christi 2026-06-04"}));
+    EXPECT_EQ(Count("auditoria where operacao = 'inclusao' and tabela = 'feriado'"), 3);
+    const std::vector<std::string> before = AllRows();
+    rows.front() = Over(HolidayRegister(), HolidayRegister().New(), {{"Nome", "a"}, {"Data", "01/02/2026"}});
+    EXPECT_EQ(Told(HolidayRegister(), HolidayRegister().AddAll(Data(), rows, lia_)),
+              "Data: este feriado já está cadastrado.");
+    EXPECT_EQ(AllRows(), before);
+
+    const Suggestion morning = AbsenceRegister().Suggestions(Data(), 2027).front();
+    EXPECT_EQ(Told(AbsenceRegister(), AbsenceRegister().AddAll(Data(), std::span(&morning.texts, 1), lia_)),
+              "feito");
+    EXPECT_EQ(Texts("select data_inicial || hora_inicial || data_final || hora_final || motivo from ausencia"
+                    " where codigo_do_funcionario is null"),
+              std::vector<std::string>{"2027-02-1000:002027-02-1012:00Quarta-feira de Cinzas"});
+    EXPECT_TRUE(AbsenceRegister().Suggestions(Data(), 2027).front().isStored);
+}
+
 TEST_F(RegisterRules, LetAHolidayChangeBetweenEveryYearAndOne)
 {
     const Key key = Add(HolidayRegister(), {{"Nome", "Natal"}, {"Data", "25/12"}}).key;

@@ -17,6 +17,11 @@ protected:
         soci::transaction transaction(database.Session());
         for (const HolidayRow& holiday : NationalHolidays(FirstHolidayYear, LastHolidayYear))
             Insert(database, holiday);
+        Key code = 2000;
+        for (HolidayRow day : UsualDaysOff(2026)) {
+            day.codigo = ++code;
+            Insert(database, day);
+        }
         Insert(database, HolidayRow{1001, "Aniversário da cidade", 20, 11, {}});
         Insert(database, HolidayRow{1002, "Feira", {}, {}, std::string("2026-12-03")});
         transaction.commit();
