@@ -38,6 +38,8 @@ fs::path RegistryFile() { return DataFolder() / "componentes.reg"; }
 
 fs::path PictureWithoutDisplay() { return DataFolder() / "agenda.png"; }
 
+fs::path DraftsFolder() { return SettingsFolder() / "rascunhos"; }
+
 fs::path SettingsFile() { return SettingsFolder() / "kovaris.ini"; }
 
 fs::path ProgramFolder() { return system::ProgramPath().parent_path(); }

@@ -18,6 +18,8 @@ std::filesystem::path DemonstrationDatabase();
 std::filesystem::path RegistryFile();
 std::filesystem::path PictureWithoutDisplay();
 std::filesystem::path SettingsFile();
+/// What is typed and not saved, of all shops.
+std::filesystem::path DraftsFolder();
 
 /// Folder of this executable, where the component libraries lie.
 std::filesystem::path ProgramFolder();

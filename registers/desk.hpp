@@ -1,6 +1,7 @@
 #pragma once
 
 #include "family/data/audit/author.hpp"
+#include "screens/draft_folder.hpp"
 
 #include <functional>
 #include <memory>
@@ -15,6 +16,8 @@ namespace kova::registers {
 struct Desk {
     std::shared_ptr<family::Database> database;
     std::function<family::Author()> author;
+    /// Where what is typed and not saved is kept; may be missing.
+    std::shared_ptr<screens::DraftFolder> drafts{};
 };
 
 } // namespace kova::registers

@@ -90,6 +90,17 @@ void RecordForm::Show(family::Key key, const Texts& texts)
     }
 }
 
+void RecordForm::ShowChanged(family::Key key, const Texts& before, const Texts& typed)
+{
+    Show(key, before);
+    for (std::size_t field = 0; field < typed.size(); ++field) {
+        if (typed[field] == before[field])
+            continue;
+        editors_[field]->Show(typed[field]);
+        touched_[field] = true;
+    }
+}
+
 RecordForm::Texts RecordForm::Typed() const
 {
     Texts typed = before_;

@@ -25,6 +25,8 @@ public:
 
     /// A stored row, or a new one with the key 0.
     void Show(family::Key key, const Texts& texts);
+    /// A row that was shown as `before`, with what was typed into it since.
+    void ShowChanged(family::Key key, const Texts& before, const Texts& typed);
     family::Key Key() const { return key_; }
     /// What was shown, and what stands there now; a field that the user has not touched has the same in both.
     const Texts& Before() const { return before_; }

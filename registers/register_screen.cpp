@@ -1,6 +1,7 @@
 #include "registers/register_screen.hpp"
 
 #include "family/data/engine/database_failure.hpp"
+#include "registers/form_draft.hpp"
 #include "registers/more_button.hpp"
 #include "registers/suggestions_dialog.hpp"
 #include "screens/field_frame.hpp"
@@ -87,6 +88,7 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
       title_(PlainLabel(QStringLiteral("titulo"), this)),
       told_(PlainLabel(QStringLiteral("recado"), this)),
       form_(new RecordForm(of, desk, this)),
+      draft_(new FormDraft(of, desk, *form_)),
       new_(Button(QStringLiteral("novo"), QStringLiteral("&Novo"), QStringLiteral("Ctrl+N"), this)),
       save_(Button(QStringLiteral("salvar"), QStringLiteral("&Salvar"), QStringLiteral("Ctrl+S"), this)),
       discard_(Button(QStringLiteral("descartar"), QStringLiteral("&Desfazer"), QStringLiteral("Esc"), this)),
@@ -240,10 +242,39 @@ bool RegisterScreen::MayLeave()
         return true;
     switch (screens::AskAboutChanges(*this, title_->text())) {
     case screens::WhatOfChanges::Save: Save(); return !IsChanged();
-    case screens::WhatOfChanges::Discard: return true;
+    case screens::WhatOfChanges::Discard:
+        form_->Show(form_->Key(), form_->Before());
+        OfferButtons();
+        return true;
     case screens::WhatOfChanges::Stay: break;
     }
     return false;
+}
+
+// "Clientes: Ana Luz", "Novo: cliente"
+QString RegisterScreen::NameOf(family::Key key) const
+{
+    const auto rows = register_.Rows(*desk_.database, std::span(&key, 1));
+    const QString title = Shown(register_.Name().title);
+    if (key == 0 || rows.empty())
+        return key == 0 ? TitleOfNew() : title;
+    return title + QStringLiteral(": ") + QString::fromStdString(rows.front().cells.front());
+}
+
+void RegisterScreen::OfferDraft()
+{
+    if (!draft_->Left())
+        return;
+    Try([this] {
+        const family::Key key = draft_->Left()->key;
+        if (!screens::AskToContinue(*this, NameOf(key)))
+            return draft_->Forget();
+        draft_->Continue();
+        title_->setText(key == 0 ? TitleOfNew() : Shown(register_.Name().title));
+        MarkRow(key);
+        form_->FocusFirst();
+    });
+    OfferButtons();
 }
 
 void RegisterScreen::TurnTo(family::Key key)
@@ -395,6 +426,14 @@ void RegisterScreen::OfferButtons()
     discard_->setEnabled(IsChanged());
     remove_->setEnabled(form_->Key() != 0);
     more_->setEnabled(form_->Key() != 0);
+    draft_->Follow();
+}
+
+bool RegisterScreen::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::Hide)
+        draft_->WriteNow();
+    return QWidget::event(event);
 }
 
 void RegisterScreen::Refresh()

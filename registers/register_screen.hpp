@@ -14,6 +14,7 @@ class QTableView;
 
 namespace kova::registers {
 
+class FormDraft;
 class MoreButton;
 
 /// One register: a list that searches as one types, and beside it the form of the row that is marked.
@@ -29,6 +30,8 @@ public:
     /// Where something is typed that was not saved: asks what becomes of it. False where the user stays with
     /// it.
     bool MayLeave();
+    /// Asks about what was typed when the program ended without a word, where there is such.
+    void OfferDraft();
 
     void New();
     void Save();
@@ -62,6 +65,8 @@ private:
     /// Runs what needs the database and tells what it reports. False where it failed.
     bool Try(const std::function<void()>& act);
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool event(QEvent* event) override;
+    QString NameOf(family::Key key) const;
 
     const Register& register_;
     const Desk& desk_;
@@ -70,6 +75,7 @@ private:
     QTableView* list_;
     QLabel *found_, *title_, *told_;
     RecordForm* form_;
+    FormDraft* draft_;
     QPushButton *new_, *save_, *discard_, *remove_;
     MoreButton* more_;
     /// The list follows the form and not the other way round.

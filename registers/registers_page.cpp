@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -70,6 +71,13 @@ void RegistersPage::LayOut(int widthOfNames)
     layout->setSpacing(16);
     layout->addLayout(left);
     layout->addWidget(pages_, 1);
+}
+
+// The screens use the desk as long as they are there; hidden, they write what is not written yet.
+RegistersPage::~RegistersPage()
+{
+    hide();
+    delete pages_;
 }
 
 void RegistersPage::AddShortcuts()
@@ -139,6 +147,8 @@ void RegistersPage::TurnTo(int row)
         pages_->insertWidget(row, screen);
         pages_->removeWidget(placeholder);
         delete placeholder;
+        // The page is on show by then.
+        QTimer::singleShot(0, screen, [screen] { screen->OfferDraft(); });
     }
     pages_->setCurrentIndex(row);
     setFocusProxy(screen);

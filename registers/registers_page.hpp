@@ -21,6 +21,7 @@ class RegisterScreen;
 class RegistersPage : public QWidget {
 public:
     RegistersPage(Desk desk, QWidget* parent, RecordActions actions = UsualActions());
+    ~RegistersPage() override;
 
     /// Where something is typed in any of them that was not saved: asks, one after the other. False where the
     /// user stays.

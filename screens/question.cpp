@@ -43,6 +43,22 @@ bool AskToDiscard(QWidget& over)
     return AskYesNo(over, QStringLiteral("Desfazer o que foi digitado e não foi salvo?"));
 }
 
+bool AskToContinue(QWidget& over, const QString& row)
+{
+    QMessageBox box(QMessageBox::Question, ProductName,
+                    QStringLiteral("Há alterações não salvas de %1.\n\nO programa foi interrompido antes que "
+                                   "fossem salvas.")
+                        .arg(row),
+                    QMessageBox::NoButton, &over);
+    box.setTextFormat(Qt::PlainText);
+    QPushButton* go = box.addButton(QStringLiteral("&Continuar"), QMessageBox::AcceptRole);
+    box.addButton(QStringLiteral("&Descartar"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(go);
+    box.setEscapeButton(go);
+    box.exec();
+    return box.clickedButton() == go;
+}
+
 bool AskToRemove(QWidget& over, const QString& one)
 {
     return AskYesNo(over, QStringLiteral("Excluir este registro (%1)?").arg(one));

@@ -13,6 +13,8 @@ enum class WhatOfChanges { Save, Discard, Stay };
 WhatOfChanges AskAboutChanges(QWidget& over, const QString& title);
 /// Whether what is typed may be forgotten; "Não" is offered.
 bool AskToDiscard(QWidget& over);
+/// Whether to go on with what was typed into that row when the program ended without a word; Escape does.
+bool AskToContinue(QWidget& over, const QString& row);
 /// Whether that row may be removed; "Não" is offered.
 bool AskToRemove(QWidget& over, const QString& one);
 

@@ -2,12 +2,15 @@
 
 #include "family/business/current_author.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "host/folders.hpp"
 #include "host/shell/main_window.hpp"
 #include "registers/company_question.hpp"
 #include "registers/registers_page.hpp"
 #include "screens/run_alone.hpp"
+#include "system/path_text.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
+#include <QCryptographicHash>
 #include <QLabel>
 
 namespace kova::host {
@@ -23,6 +26,16 @@ QWidget* Explanation(const QString& text, QWidget& parent)
     label->setMargin(80);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     return label;
+}
+
+/// A folder for each shop; the name tells nobody where it lies.
+QString DraftsOf(const std::string& source)
+{
+    constexpr int Digits = 16;
+    const QByteArray hash =
+        QCryptographicHash::hash(QByteArray::fromStdString(source), QCryptographicHash::Sha256);
+    return QString::fromStdString(system::TextOf(DraftsFolder())) + QLatin1Char('/')
+        + QString::fromLatin1(hash.toHex().left(Digits));
 }
 
 } // namespace
@@ -55,7 +68,9 @@ bool RegistersTab::MayLeave() { return page_ == nullptr || page_->MayLeave(); }
 QWidget* RegistersTab::MakePage(QWidget& parent)
 {
     try {
-        page_ = new registers::RegistersPage(OpenDesk(), &parent);
+        registers::Desk desk = OpenDesk();
+        desk.drafts = std::make_shared<screens::DraftFolder>(DraftsOf(source_));
+        page_ = new registers::RegistersPage(std::move(desk), &parent);
         return page_;
     } catch (const Failure& failure) {
         return Explanation(QStringLiteral("Os cadastros não puderam ser abertos.\n\n")

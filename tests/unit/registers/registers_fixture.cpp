@@ -64,8 +64,30 @@ void CadastrosTest::Open(RecordActions actions)
 {
     page_ = std::make_unique<RegistersPage>(Desk{family::OpenDatabase(file_), [] { return Ana; }}, nullptr,
                                             std::move(actions));
+    ShowPage({});
+}
+
+void CadastrosTest::OpenWithDrafts(const QString& drafts, std::initializer_list<const char*> answers)
+{
+    page_.reset();
+    Desk desk{family::OpenDatabase(file_), [] { return Ana; }};
+    if (!drafts.isEmpty())
+        desk.drafts = std::make_shared<screens::DraftFolder>(drafts);
+    page_ = std::make_unique<RegistersPage>(std::move(desk), nullptr);
+    ShowPage(answers);
+}
+
+void CadastrosTest::ShowPage(std::initializer_list<const char*> answers)
+{
+    if (answers.size() > 0)
+        Answer(answers);
     page_->resize(1100, 700);
     page_->show();
+    if (answers.size() > 0) {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] { return answers_.empty() && QApplication::activeModalWidget() == nullptr; }));
+        page_->activateWindow();
+    }
     EXPECT_TRUE(QTest::qWaitForWindowActive(page_.get()));
     page_->setFocus();
 }

@@ -27,6 +27,9 @@ protected:
 
     /// Shows the page, in the place of another one, with those actions behind "Mais...".
     void Open(RecordActions actions);
+    /// The same with drafts, where a folder is named for them. `answers` are those to the boxes that
+    /// open with them.
+    void OpenWithDrafts(const QString& drafts, std::initializer_list<const char*> answers = {});
 
     /// Turns to a register as a press of its name does.
     void TurnTo(const char* title);
@@ -73,6 +76,7 @@ protected:
 
 private:
     void AnswerBox();
+    void ShowPage(std::initializer_list<const char*> answers);
     QWidget& Keyboard();
 
     std::deque<std::string> answers_;
