@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kova::family {
@@ -32,6 +33,18 @@ public:
             return;
         readAt_.reset();
         read();
+        readAt_ = now;
+    }
+
+    /// The same, asked now, where `read` takes over single changes: it is told how many there were since it
+    /// last came to its end, nothing the first time.
+    template <typename Read> void ReadOn(Read read)
+    {
+        const long long now = Asked();
+        if (readAt_ == now)
+            return;
+        const std::optional<long long> before = std::exchange(readAt_, std::nullopt);
+        read(before ? std::optional(now - *before) : std::nullopt);
         readAt_ = now;
     }
 

@@ -22,7 +22,10 @@ FoldedTexts::FoldedTexts(Database& database, const std::vector<std::string>& tab
 /// The count is asked first: a change that comes in between is then seen at the next search.
 void FoldedTexts::Refresh()
 {
-    changes_.ReadAgain(std::nullopt, [this] { Read(); });
+    changes_.ReadOn([this](std::optional<long long> since) {
+        if (!since || !TakeChanges(*since))
+            Read();
+    });
 }
 
 void FoldedTexts::Read()
@@ -30,11 +33,12 @@ void FoldedTexts::Read()
     texts_.clear();
     starts_.clear();
     keys_.clear();
+    BeginReading();
     readTexts_.execute();
     while (readTexts_.fetch()) {
         starts_.push_back(texts_.size());
         keys_.push_back(key_);
-        Shape(text_);
+        Shape(key_, text_);
         texts_.append(text_).push_back(Separator);
     }
     starts_.push_back(texts_.size());
@@ -67,6 +71,48 @@ void FoldedTexts::SortByFirstLine()
     texts_ = std::move(texts);
     starts_ = std::move(starts);
     keys_ = std::move(keys);
+}
+
+bool FoldedTexts::StandsBehind(std::uint32_t place, Key key, std::string_view text) const
+{
+    if (order_ == Order::AsSelected)
+        return false;
+    const std::string_view stored = TextAt(place);
+    return std::pair(stored.substr(0, stored.find('\n')), keys_[place])
+        > std::pair(text.substr(0, text.find('\n')), key);
+}
+
+void FoldedTexts::Replace(const std::set<Key>& gone, const std::map<Key, std::string>& come)
+{
+    std::vector<std::pair<Key, std::string_view>> coming(come.begin(), come.end());
+    std::ranges::sort(coming, {}, [](const auto& one) {
+        return std::pair(one.second.substr(0, one.second.find('\n')), one.first);
+    });
+    std::string texts;
+    texts.reserve(texts_.size() + 1024);
+    std::vector<std::size_t> starts;
+    starts.reserve(starts_.size() + coming.size());
+    std::vector<Key> keys;
+    keys.reserve(keys_.size() + coming.size());
+    const auto put = [&](Key key, std::string_view text) {
+        starts.push_back(texts.size());
+        keys.push_back(key);
+        texts.append(text).push_back(Separator);
+    };
+    auto next = coming.begin();
+    for (std::uint32_t place = 0; place < keys_.size(); ++place) {
+        for (; next != coming.end() && StandsBehind(place, next->first, next->second); ++next)
+            put(next->first, next->second);
+        if (!gone.contains(keys_[place]))
+            put(keys_[place], TextAt(place));
+    }
+    for (; next != coming.end(); ++next)
+        put(next->first, next->second);
+    starts.push_back(texts.size());
+    texts_ = std::move(texts);
+    starts_ = std::move(starts);
+    keys_ = std::move(keys);
+    placesByKey_.clear();
 }
 
 std::string_view FoldedTexts::TextAt(std::uint32_t place) const

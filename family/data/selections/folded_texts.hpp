@@ -5,7 +5,9 @@
 #include "family/data/rows/rows.hpp"
 
 #include <cstdint>
+#include <map>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -52,11 +54,20 @@ protected:
     }
 
     /// Makes what is looked through of what the selection gave; it is that itself where a table keeps it so.
-    virtual void Shape(std::string&) const { }
+    virtual void Shape(Key, std::string&) { }
+
+    /// Called before all texts are read.
+    virtual void BeginReading() { }
+    /// Takes over the changes that were counted since the texts were read. False where all are to be read.
+    virtual bool TakeChanges(long long) { return false; }
+    /// Takes the texts of some keys away and puts others in, each where its order wants it. No key has two.
+    void Replace(const std::set<Key>& gone, const std::map<Key, std::string>& come);
 
 private:
     void Read();
     void SortByFirstLine();
+    /// Whether a text stands behind that of a row that comes.
+    bool StandsBehind(std::uint32_t place, Key key, std::string_view text) const;
 
     /// One after the other, each with a separator behind it.
     std::string texts_;

@@ -78,7 +78,7 @@ std::vector<Key> OwnersOfAnimalsWith(Database& database, const std::vector<std::
         std::vector<Key> owners;
         for (const std::string& part : parts) {
             for (const std::uint32_t place : names.PlacesWith(part))
-                owners.push_back(names.KeyAt(place));
+                owners.push_back(names.OwnerAt(place));
         }
         return owners;
     });
@@ -101,15 +101,15 @@ std::string WithoutNumberMarks(std::string_view folded)
 }
 
 CustomerTexts::CustomerTexts(Database& database)
-    : FoldedTexts(
-        database, "cliente",
+    : AuditedTexts(
+        database, {"cliente"},
         "select codigo, nome_de_busca || '\n' || apelido || '\n' || documento || '\n' || tipos_e_canais"
         " from cliente",
-        Order::ByFirstLine)
+        {" where codigo = :chave"}, Order::ByFirstLine)
 {
 }
 
-void CustomerTexts::Shape(std::string& text) const
+void CustomerTexts::Shape(Key, std::string& text)
 {
     const std::size_t name = text.find('\n'), channels = text.rfind('\n') + 1;
     const std::string numbers = NumbersIn(std::string_view(text).substr(channels));
@@ -120,21 +120,30 @@ void CustomerTexts::Shape(std::string& text) const
 }
 
 AnimalNamesOfCustomers::AnimalNamesOfCustomers(Database& database)
-    : FoldedTexts(database, "animal",
-                  "select codigo_do_cliente, nome_de_busca from animal order by codigo_do_cliente")
+    : AuditedTexts(database, {"animal"},
+                   "select codigo, codigo_do_cliente || '\n' || nome_de_busca from animal",
+                   {" where codigo = :chave"}, Order::AsSelected)
 {
 }
 
+/// The owner stands apart: nobody looks for his code among the names.
+void AnimalNamesOfCustomers::Shape(Key key, std::string& text)
+{
+    const std::size_t end = text.find('\n');
+    owners_[key] = std::stoll(text.substr(0, end));
+    text.erase(0, end + 1);
+}
+
 AnimalTexts::AnimalTexts(Database& database)
-    : FoldedTexts(database, {"animal", "cliente"},
-                  "select n.codigo, n.nome_de_busca || '\n' || coalesce(n.microchip, '') || '\n'"
-                  " || c.nomes_de_busca from animal n join cliente c on c.codigo = n.codigo_do_cliente",
-                  Order::ByFirstLine)
+    : AuditedTexts(database, {"animal", "cliente"},
+                   "select n.codigo, n.nome_de_busca || '\n' || coalesce(n.microchip, '') || '\n'"
+                   " || c.nomes_de_busca from animal n join cliente c on c.codigo = n.codigo_do_cliente",
+                   {" where n.codigo = :chave", " where c.codigo = :chave"}, Order::ByFirstLine)
 {
 }
 
 /// All but the microchip is folded already.
-void AnimalTexts::Shape(std::string& text) const
+void AnimalTexts::Shape(Key, std::string& text)
 {
     const std::size_t begin = text.find('\n') + 1, length = text.find('\n', begin) - begin;
     const std::string folded = FoldText(std::string_view(text).substr(begin, length));

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "family/data/selections/folded_texts.hpp"
+#include "family/data/selections/audited_texts.hpp"
+
+#include <unordered_map>
 
 namespace kova::family {
 
@@ -10,25 +12,32 @@ std::string WithoutNumberMarks(std::string_view folded);
 
 /// What every customer is looked for by, by name, then code: nickname and name, document, contact channels as
 /// they are written and by their digits. About 150 bytes for a customer.
-struct CustomerTexts : FoldedTexts {
+struct CustomerTexts : AuditedTexts {
     explicit CustomerTexts(Database& database);
 
 private:
-    void Shape(std::string& text) const override;
+    void Shape(Key key, std::string& text) override;
 };
 
-/// The names of all animals, active or not, each under its customer's code.
-struct AnimalNamesOfCustomers : FoldedTexts {
+/// The names of all animals, active or not, with their customers.
+struct AnimalNamesOfCustomers : AuditedTexts {
     explicit AnimalNamesOfCustomers(Database& database);
+
+    Key OwnerAt(std::uint32_t place) const { return owners_.at(KeyAt(place)); }
+
+private:
+    void Shape(Key key, std::string& text) override;
+
+    std::unordered_map<Key, Key> owners_;
 };
 
 /// What every animal is looked for by, active or not, by name, then code: its name, its microchip, nickname
 /// and name of its customer.
-struct AnimalTexts : FoldedTexts {
+struct AnimalTexts : AuditedTexts {
     explicit AnimalTexts(Database& database);
 
 private:
-    void Shape(std::string& text) const override;
+    void Shape(Key key, std::string& text) override;
 };
 
 /// Codes of the customers whose own texts, or the names of whose animals, hold one of the parts, or that have
