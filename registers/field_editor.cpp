@@ -1,6 +1,7 @@
 #include "registers/field_editor.hpp"
 
 #include "family/data/engine/database_failure.hpp"
+#include "family/data/engine/fold_text.hpp"
 #include "family/registers/registers.hpp"
 
 #include <QCheckBox>
@@ -18,11 +19,13 @@ namespace {
 
 using family::registers::FieldInfo;
 using family::registers::FieldKind;
+using family::registers::Listed;
 using family::registers::Offer;
 
 constexpr int LinesOfChannels = 3;
 constexpr int MostProposals = 12;
 constexpr int BoxHeight = 32;
+const std::string SeveralMeant = "há mais de um com este nome: escolha na lista.";
 
 QString Shown(std::string_view text)
 {
@@ -145,6 +148,19 @@ public:
         if (row < 0)
             box_->setEditText(QString::fromStdString(text));
     }
+    // A new breed or species has a name that nobody offers: saving tells.
+    std::string Settle() override
+    {
+        const std::string typed = family::FoldText(box_->currentText().toStdString());
+        if (typed.empty() || box_->findText(box_->currentText()) >= 0)
+            return {};
+        try {
+            box_->Fill();
+        } catch (const family::DatabaseFailure&) {
+            return {};
+        }
+        return Choose(typed);
+    }
     std::string Text() const override
     {
         const int row = box_->findText(box_->currentText());
@@ -152,6 +168,23 @@ public:
     }
 
 private:
+    std::string Choose(const std::string& typed)
+    {
+        std::vector<int> with;
+        for (int row = 0; row < box_->count(); ++row) {
+            const std::string shown = family::FoldText(box_->itemText(row).toStdString());
+            if (shown == typed || box_->itemData(row).toString().toStdString() == typed) {
+                box_->setCurrentIndex(row);
+                return {};
+            }
+            if (shown.find(typed) != std::string::npos)
+                with.push_back(row);
+        }
+        if (with.size() == 1)
+            box_->setCurrentIndex(with.front());
+        return with.size() > 1 ? SeveralMeant : std::string();
+    }
+
     OfferBox* box_;
 };
 
@@ -181,6 +214,21 @@ public:
         LineEditor::Show(rows.empty() ? text : ShownRow(rows.front()));
     }
 
+    std::string Settle() override
+    {
+        const std::string typed = Text();
+        if (typed.empty() || KeyIn(typed) != 0)
+            return {};
+        try {
+            const auto found = register_.Search(*desk_.database, typed, 0, 2, Listed::Active);
+            if (found.found == 1)
+                LineEditor::Show(ShownRow(found.rows.front()));
+            return found.found == 1 ? "" : found.found == 0 ? "não foi encontrado." : SeveralMeant;
+        } catch (const family::DatabaseFailure&) {
+            return {};
+        }
+    }
+
     /// The code alone, where one stands at the beginning.
     std::string Text() const override
     {
@@ -208,7 +256,7 @@ private:
         QStringList found;
         try {
             for (const auto& row :
-                 register_.Search(*desk_.database, text.toStdString(), 0, MostProposals).rows)
+                 register_.Search(*desk_.database, text.toStdString(), 0, MostProposals, Listed::Active).rows)
                 found += QString::fromStdString(ShownRow(row));
         } catch (const family::DatabaseFailure&) {
             found.clear();

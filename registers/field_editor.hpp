@@ -19,6 +19,9 @@ public:
     virtual QWidget& Widget() = 0;
     virtual void Show(const std::string& text) = 0;
     virtual std::string Text() const = 0;
+    /// Chooses what a typed part of a name stands for, where that is one row only. Answers, in lower case
+    /// and with a full stop, why it stands for none; "" for an editor that takes what is typed.
+    virtual std::string Settle() { return {}; }
 
     /// What the user has typed or chosen, not what was shown.
     std::function<void()> onEdited = [] {};

@@ -28,7 +28,7 @@ QStringList LabelsOf(const std::vector<FieldInfo>& fields)
 {
     QStringList labels;
     for (const FieldInfo& field : fields)
-        labels += Shown(field.label);
+        labels += Shown(family::registers::FormLabel(field));
     return screens::WithMnemonics(labels, LettersOfButtons);
 }
 
@@ -111,11 +111,27 @@ RecordForm::Texts RecordForm::Typed() const
     return typed;
 }
 
+void RecordForm::Settle(std::size_t field)
+{
+    const std::string why = editors_[field]->Settle();
+    if (!why.empty())
+        FrameOf(field).Refuse(QString::fromStdString(family::registers::Sentence(why)));
+}
+
+void RecordForm::SettleAll()
+{
+    for (std::size_t field = 0; field < editors_.size(); ++field) {
+        if (touched_[field])
+            editors_[field]->Settle();
+    }
+}
+
 void RecordForm::Tidy(std::size_t field)
 {
-    const FieldInfo& info = register_.Fields()[field];
-    if (!touched_[field] || info.kind == FieldKind::Reference)
+    if (!touched_[field])
         return;
+    if (register_.Fields()[field].kind == FieldKind::Reference)
+        return Settle(field);
     const std::string typed = editors_[field]->Text();
     const auto tidy = register_.Tidy(field, before_[field], typed);
     if (tidy.text != typed)

@@ -31,6 +31,8 @@ public:
     /// What was shown, and what stands there now; a field that the user has not touched has the same in both.
     const Texts& Before() const { return before_; }
     Texts Typed() const;
+    /// Where names of other rows were typed that stand for one only, those rows are chosen.
+    void SettleAll();
     bool IsChanged() const { return Typed() != before_; }
     /// Tells below each refused field why, and takes the keyboard to the first; none takes away what was
     /// told.
@@ -41,6 +43,8 @@ public:
 
 private:
     void AddField(std::size_t field, const QString& label);
+    /// A reference that is left becomes the row that was meant.
+    void Settle(std::size_t field);
     /// A field that is left shows what was typed in the usual way, or why it cannot stand.
     void Tidy(std::size_t field);
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -8,6 +8,8 @@
 #include "screens/question.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
+#include <QApplication>
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -83,6 +85,7 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
       desk_(desk),
       rows_(new RowModel(of, desk, this)),
       search_(new QLineEdit(this)),
+      inactive_(new QCheckBox(QStringLiteral("Mostrar inativos"), this)),
       list_(ListOf(rows_, Shown(of.Name().title), this)),
       found_(PlainLabel(QStringLiteral("encontrados"), this)),
       title_(PlainLabel(QStringLiteral("titulo"), this)),
@@ -103,6 +106,9 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
     search_->setMinimumHeight(BoxHeight);
     search_->setTextMargins(screens::RoomBesideText, 0, screens::RoomBesideText, 0);
     search_->setMaxLength(100);
+    inactive_->setObjectName(QStringLiteral("inativos"));
+    inactive_->setToolTip(QStringLiteral("Ctrl+I"));
+    inactive_->setVisible(of.HasInactive());
     title_->setFont(qt::MakeFont("Arial", TitlePoints, true));
     LayOut();
     Connect();
@@ -128,6 +134,7 @@ void RegisterScreen::LayOut()
     leftColumn->addWidget(list_, 1);
     auto* belowList = new QHBoxLayout;
     belowList->addWidget(found_, 1);
+    belowList->addWidget(inactive_);
     if (!register_.SuggestionsTitle().empty())
         belowList->addWidget(SuggestButton());
     leftColumn->addLayout(belowList);
@@ -174,6 +181,7 @@ QPushButton* RegisterScreen::SuggestButton()
 void RegisterScreen::Connect()
 {
     connect(search_, &QLineEdit::textChanged, this, [this] { Find(); });
+    connect(inactive_, &QCheckBox::toggled, this, [this] { Find(); });
     connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& row) {
                 if (!isMarking_ && row.isValid())
@@ -206,14 +214,39 @@ bool RegisterScreen::Try(const std::function<void()>& act)
 void RegisterScreen::Find()
 {
     isMarking_ = true;
-    Try([this] { rows_->Find(search_->text().toStdString()); });
+    Try([this] {
+        rows_->Find(search_->text().toStdString(), WhichRows());
+        found_->setText(Found());
+    });
     isMarking_ = false;
-    const int count = rows_->rowCount();
-    found_->setText(count == 0 && search_->text().isEmpty()
-                        ? QStringLiteral("Ainda não há nenhum registro. Preencha a ficha e salve o primeiro.")
-                        : count == 1 ? QStringLiteral("1 encontrado")
-                                     : QStringLiteral("%L1 encontrados").arg(count));
     MarkRow(form_->Key());
+}
+
+family::registers::Listed RegisterScreen::WhichRows() const
+{
+    return register_.HasInactive() && !inactive_->isChecked() ? family::registers::Listed::Active
+                                                              : family::registers::Listed::All;
+}
+
+QString RegisterScreen::Found() const
+{
+    const int count = rows_->rowCount();
+    if (count > 0)
+        return count == 1 ? QStringLiteral("1 encontrado") : QStringLiteral("%L1 encontrados").arg(count);
+    const bool isAll = WhichRows() == family::registers::Listed::All;
+    const std::size_t hidden =
+        isAll ? 0 : register_.Find(*desk_.database, search_->text().toStdString()).size();
+    if (hidden > 0)
+        return QStringLiteral("Nenhum ativo; %L1 entre os inativos").arg(hidden);
+    return search_->text().isEmpty()
+        ? QStringLiteral("Ainda não há nenhum registro. Preencha a ficha e salve o primeiro.")
+        : QStringLiteral("0 encontrados");
+}
+
+void RegisterScreen::TurnInactive()
+{
+    if (register_.HasInactive())
+        inactive_->toggle();
 }
 
 void RegisterScreen::FitColumns()
@@ -336,6 +369,7 @@ void RegisterScreen::Suggest()
 void RegisterScreen::Save()
 {
     Try([this] {
+        form_->SettleAll();
         ShowAnswer(
             register_.Save(*desk_.database, form_->Key(), form_->Before(), form_->Typed(), desk_.author()));
     });
@@ -372,6 +406,11 @@ void RegisterScreen::ShowSaved(const SaveAnswer& answer)
 
 void RegisterScreen::Discard()
 {
+    // Escape closes a list of proposals, and nothing else with it.
+    if (QWidget* list = QApplication::activePopupWidget()) {
+        list->close();
+        return;
+    }
     if (IsChanged() && !screens::AskToDiscard(*this))
         return;
     if (form_->Key() == 0)

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -41,9 +42,14 @@ public:
     void FocusSearch();
     /// Shows what is stored now; what is typed and not saved stays.
     void Refresh();
+    /// Shows the inactive rows, too, or leaves them out again.
+    void TurnInactive();
 
 private:
     void Find();
+    family::registers::Listed WhichRows() const;
+    /// How many were found, and what there is to do where none was.
+    QString Found() const;
     void FitColumns();
     /// The row is shown in the form; a form that is changed is asked about first.
     void TurnTo(family::Key key);
@@ -72,6 +78,7 @@ private:
     const Desk& desk_;
     RowModel* rows_;
     QLineEdit* search_;
+    QCheckBox* inactive_;
     QTableView* list_;
     QLabel *found_, *title_, *told_;
     RecordForm* form_;

@@ -87,6 +87,7 @@ void RegistersPage::AddShortcuts()
         {Qt::CTRL | Qt::Key_S, &RegisterScreen::Save},
         {Qt::Key_Escape, &RegisterScreen::Discard},
         {Qt::CTRL | Qt::Key_Delete, &RegisterScreen::Remove},
+        {Qt::CTRL | Qt::Key_I, &RegisterScreen::TurnInactive},
         {Qt::Key_F3, &RegisterScreen::FocusSearch}};
     for (const auto& [key, act] : keys)
         connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),

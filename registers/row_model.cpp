@@ -19,9 +19,9 @@ RowModel::RowModel(const Register& of, const Desk& desk, QObject* parent)
 {
 }
 
-void RowModel::Find(const std::string& text)
+void RowModel::Find(const std::string& text, family::registers::Listed listed)
 {
-    std::vector<family::Key> found = register_.Find(*desk_.database, text);
+    std::vector<family::Key> found = register_.Find(*desk_.database, text, listed);
     beginResetModel();
     keys_ = std::move(found);
     read_.clear();
@@ -55,14 +55,20 @@ QVariant RowModel::data(const QModelIndex& index, int role) const
     if (role == Qt::TextAlignmentRole)
         return static_cast<int>(Qt::AlignVCenter
                                 | (register_.ListColumns()[column].number ? Qt::AlignRight : Qt::AlignLeft));
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::ForegroundRole)
+    const bool isShown = role == Qt::DisplayRole || role == Qt::ToolTipRole || role == Qt::ForegroundRole
+        || role == Qt::AccessibleTextRole;
+    if (!isShown)
         return {};
     const ListRow* row = RowAt(index.row());
     if (row == nullptr)
         return {};
     if (role == Qt::ForegroundRole)
         return row->active ? QVariant() : QVariant(qt::look::DisabledInk);
-    return QString::fromStdString(row->cells[column]);
+    const QString text = QString::fromStdString(row->cells[column]);
+    // Who cannot see the colour hears of it at the row's first cell.
+    if (role == Qt::AccessibleTextRole && column == 0 && !row->active)
+        return text + QStringLiteral(" (não ativo)");
+    return text;
 }
 
 QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -21,7 +21,7 @@ public:
     RowModel(const Register& of, const Desk& desk, QObject* parent);
 
     /// Finds anew. Fails with a DatabaseFailure; the rows stay as they were then.
-    void Find(const std::string& text);
+    void Find(const std::string& text, family::registers::Listed listed);
     family::Key KeyAt(int row) const;
     /// -1 where it is not among those found.
     int RowOf(family::Key key) const;

@@ -68,7 +68,8 @@ const Columns<AnimalRecord>& AnimalColumns()
     using namespace animal_columns;
     static const Columns<AnimalRecord> columns = {
         Cols::Code("Código", &AnimalRecord::codigo),
-        RefersTo("clientes", Required(Cols::Code(Customer, &AnimalRecord::codigoDoCliente))),
+        AskedAs("Cliente",
+                RefersTo("clientes", Required(Cols::Code(Customer, &AnimalRecord::codigoDoCliente)))),
         Required(Cols::Text("Nome", &AnimalRecord::nome, 100)),
         Required(Sex()),
         RefersTo("especies", Required(NamedBy(Cols::Text(Species, &AnimalRecord::species, 50)))),

@@ -53,12 +53,6 @@ class Animals : public RegisterOf<AnimalRecord> {
 public:
     Animals() : RegisterOf({"animais", "Animais", "animal"}, AnimalColumns(), ListOfAnimals()) { }
 
-    std::vector<Key> Find(Database& database, const std::string& text) const override
-    {
-        const ListSearch sought(text);
-        return AnimalsWith(database, sought.Parts(), sought.Code().ValueOr(0));
-    }
-
     std::vector<Offer> Offers(Database& database, std::size_t field, const Texts& typed) const override
     {
         const std::size_t species = FieldNamed(Fields(), animal_columns::Species);
@@ -72,6 +66,12 @@ public:
     }
 
 private:
+    std::vector<Key> FindRows(Database& database, const std::string& text, Listed listed) const override
+    {
+        const ListSearch sought(text);
+        return AnimalsWith(database, sought.Parts(), sought.Code().ValueOr(0), listed == Listed::Active);
+    }
+
     static std::vector<ShownColumn<AnimalRecord>> ListOfAnimals()
     {
         auto shown = ShownColumns(

@@ -48,6 +48,13 @@ template <class Record> Column<Record> RefersTo(std::string_view registerName, C
     return column;
 }
 
+/// Under another name in forms.
+template <class Record> Column<Record> AskedAs(std::string_view asked, Column<Record> column)
+{
+    column.field.asked = asked;
+    return column;
+}
+
 /// With a sentence that helps whoever fills it in.
 template <class Record> Column<Record> Helped(std::string_view help, Column<Record> column)
 {

@@ -20,13 +20,13 @@ public:
     {
     }
 
-    std::vector<Key> Find(Database& database, const std::string& text) const override
+private:
+    std::vector<Key> FindRows(Database& database, const std::string& text, Listed listed) const override
     {
         const ListSearch sought(text);
-        return CustomersWith(database, sought.Parts(), sought.Code().ValueOr(0));
+        return CustomersWith(database, sought.Parts(), sought.Code().ValueOr(0), listed == Listed::Active);
     }
 
-private:
     void Load(Database& database, std::span<CustomerRecord> records) const override
     {
         std::unordered_map<Key, CustomerRecord*> byCode;

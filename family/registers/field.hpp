@@ -41,8 +41,10 @@ enum class FieldKind {
 
 /// What there is to know of a field: for forms, files and checks alike.
 struct FieldInfo {
-    /// As forms and files call it.
+    /// As files call it, and forms too where `asked` is empty.
     std::string_view label;
+    /// As a form asks for it: for "Cliente", where a file has his code.
+    std::string_view asked{};
     FieldKind kind = FieldKind::Text;
     /// Most characters that it can have.
     std::size_t longest = 0;
@@ -62,6 +64,12 @@ struct FieldInfo {
     /// The columns of the table that keep it.
     std::vector<std::string> stored;
 };
+
+/// What a form calls the field.
+inline std::string_view FormLabel(const FieldInfo& field)
+{
+    return field.asked.empty() ? field.label : field.asked;
+}
 
 /// One text for each field, as a form shows it.
 using Texts = std::vector<std::string>;

@@ -73,7 +73,7 @@ public:
 private:
     FieldStates StatesOf(std::size_t at) const
     {
-        return {std::string(fields_[at].label), ways_.stored[at], ways_.typed[at]};
+        return {std::string(FormLabel(fields_[at])), ways_.stored[at], ways_.typed[at]};
     }
 
     void Refuse(const std::vector<Group>& groups, const std::vector<AuditLine>& lines,

@@ -48,10 +48,10 @@ SaveAnswer Register::AddAll(Database& database, std::span<const Texts> rows, con
     });
 }
 
-ListPage Register::Search(Database& database, const std::string& text, std::size_t first,
-                          std::size_t most) const
+ListPage Register::Search(Database& database, const std::string& text, std::size_t first, std::size_t most,
+                          Listed listed) const
 {
-    const std::vector<Key> keys = Find(database, text);
+    const std::vector<Key> keys = Find(database, text, listed);
     const std::size_t begin = std::min(first, keys.size());
     const std::size_t count = std::min(most, keys.size() - begin);
     return {keys.size(), Rows(database, std::span(keys).subspan(begin, count))};

@@ -88,6 +88,13 @@ struct ListRow {
     bool active = true;
 };
 
+/// Which rows a list has.
+enum class Listed {
+    All,
+    /// Those that are inactive, or deleted, are left out; who is blocked is there.
+    Active,
+};
+
 /// A part of a list.
 struct ListPage {
     /// Rows of the whole list.
@@ -174,13 +181,19 @@ public:
                                         const AuditedColumns& after, const Author& author) const = 0;
 
     virtual std::span<const ListColumn> ListColumns() const = 0;
+    /// Whether its rows can be inactive.
+    virtual bool HasInactive() const = 0;
     /// Keys of the rows that hold the text, case, accents and the punctuation of numbers aside, in the order
     /// of the list; all rows where it is empty.
-    virtual std::vector<Key> Find(Database& database, const std::string& text) const = 0;
+    std::vector<Key> Find(Database& database, const std::string& text, Listed listed = Listed::All) const
+    {
+        return FindRows(database, text, listed);
+    }
     /// Those rows in that order; one that is gone is left out.
     virtual std::vector<ListRow> Rows(Database& database, std::span<const Key> keys) const = 0;
     /// Find and Rows at once: `most` rows from the row `first` on.
-    ListPage Search(Database& database, const std::string& text, std::size_t first, std::size_t most) const;
+    ListPage Search(Database& database, const std::string& text, std::size_t first, std::size_t most,
+                    Listed listed = Listed::All) const;
 
     /// What a typed text becomes, other fields and rows aside. `before` is what the form showed there. An
     /// empty text is never wrong here.
@@ -191,6 +204,8 @@ public:
     virtual std::vector<Offer> Offers(Database& database, std::size_t field, const Texts& typed) const;
 
 protected:
+    virtual std::vector<Key> FindRows(Database& database, const std::string& text, Listed listed) const = 0;
+
     Register() = default;
     Register(const Register&) = delete;
     Register& operator=(const Register&) = delete;

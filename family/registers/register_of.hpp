@@ -10,6 +10,7 @@
 #include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/select_where.hpp"
 #include "family/data/rows/update_row.hpp"
+#include "family/data/selections/register_texts.hpp"
 #include "family/registers/column.hpp"
 #include "family/registers/field_merge.hpp"
 #include "family/registers/list_search.hpp"
@@ -148,22 +149,7 @@ public:
 
     std::span<const ListColumn> ListColumns() const override { return listColumns_; }
 
-    std::vector<Key> Find(Database& database, const std::string& text) const override
-    {
-        const ListSearch sought(text);
-        std::vector<std::pair<std::string, Key>> found;
-        for (const Record& record : AllRows(database)) {
-            const Key key = KeyIn(record);
-            const bool isSought = sought.IsIn(SearchedText(record)) || sought.Code().ValueOr(0) == key;
-            if (sought.IsEmpty() || isSought)
-                found.emplace_back(OrderOf(record), key);
-        }
-        std::ranges::sort(found);
-        std::vector<Key> keys;
-        for (const auto& [order, key] : found)
-            keys.push_back(key);
-        return keys;
-    }
+    bool HasInactive() const override { return HasSituation; }
 
     std::vector<ListRow> Rows(Database& database, std::span<const Key> keys) const override
     {
@@ -246,6 +232,32 @@ protected:
         if constexpr (HasSituation)
             return record.situacao == Active;
         return true;
+    }
+
+    std::vector<Key> FindRows(Database& database, const std::string& text, Listed listed) const override
+    {
+        const ListSearch sought(text);
+        std::vector<std::pair<std::string, Key>> found;
+        for (const Record& record : AllRows(database)) {
+            const Key key = KeyIn(record);
+            const bool isSought = sought.IsIn(SearchedText(record)) || sought.Code().ValueOr(0) == key;
+            const bool isLeftOut = listed == Listed::Active && IsHidden(record);
+            if (!isLeftOut && (sought.IsEmpty() || isSought))
+                found.emplace_back(OrderOf(record), key);
+        }
+        std::ranges::sort(found);
+        std::vector<Key> keys;
+        for (const auto& [order, key] : found)
+            keys.push_back(key);
+        return keys;
+    }
+
+    /// Inactive or deleted; who is blocked is not.
+    static bool IsHidden(const Record& record)
+    {
+        if constexpr (HasSituation)
+            return IsHiddenSituation(record.situacao);
+        return false;
     }
 
     std::vector<Record> AllRows(Database& database) const

@@ -92,7 +92,7 @@ const Columns<ServiceRecord>& ServiceColumns()
         Helped("Um só serviço de cada tipo tem este nome.",
                Unique(Required(Cols::Text(Name, &ServiceRecord::nome, 100)))),
         Cols::Text("Descrição", &ServiceRecord::descricao, 255),
-        RefersTo("tipos", Required(Cols::Code(TypeOfService, &ServiceRecord::numeroDoTipo))),
+        AskedAs("Tipo", RefersTo("tipos", Required(Cols::Code(TypeOfService, &ServiceRecord::numeroDoTipo)))),
         Required(Cols::Number("Duração em minutos", &ServiceRecord::duracaoEmMinutos, 1, MinutesOfADay)),
         Helped("O preço novo vale para o que se agendar; as pré-vendas feitas ficam como estão.",
                Required(Cols::Money("Preço", &ServiceRecord::precoEmCentavos))),

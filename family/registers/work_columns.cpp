@@ -47,9 +47,10 @@ const Columns<EmployeeHoursRecord>& EmployeeHoursColumns()
     using Cols = ColumnsOf<Record>;
     static const Columns<Record> columns = {
         Cols::Code("Código", &Record::codigo),
-        RefersTo("funcionarios",
-                 Required(Helped("Quem não tem nenhum horário aqui trabalha sempre que a loja abre.",
-                                 Cols::Code(Employee, &Record::codigoDoFuncionario)))),
+        AskedAs("Funcionário(a)",
+                RefersTo("funcionarios",
+                         Required(Helped("Quem não tem nenhum horário aqui trabalha sempre que a loja abre.",
+                                         Cols::Code(Employee, &Record::codigoDoFuncionario))))),
         Helped("Quem tem horários não trabalha nos dias da semana em que não tem nenhum.", Weekday<Record>()),
         Helped("Um dia com intervalo tem dois horários.", Start<Record>()),
         Helped("24:00 é o fim do dia.", End<Record>()),
@@ -63,8 +64,10 @@ const Columns<AbsenceRecord>& AbsenceColumns()
     using Cols = ColumnsOf<Record>;
     static const Columns<Record> columns = {
         Cols::Code("Código", &Record::codigo),
-        RefersTo("funcionarios",
-                 Helped("Vazio, a ausência é de todos.", Cols::Code(Employee, &Record::codigoDoFuncionario))),
+        AskedAs("Funcionário(a)",
+                RefersTo("funcionarios",
+                         Helped("Vazio, a ausência é de todos.",
+                                Cols::Code(Employee, &Record::codigoDoFuncionario)))),
         Required(Cols::Date(FromDate, &Record::dataInicial)),
         Helped("Um dia inteiro vai das 00:00 às 24:00.", Start<Record>()),
         Helped("O último dia da ausência.", Required(Cols::Date(UntilDate, &Record::dataFinal))),

@@ -24,6 +24,20 @@ bool IsNumberMark(char letter)
     }
 }
 
+/// Ends the text of a row that is hidden among active ones; nobody can type it.
+constexpr char Hidden = '\x01';
+
+/// Takes the situation away, which is the last line. Answers whether it hides the row.
+bool TakeSituation(std::string& text)
+{
+    const std::size_t last = text.rfind('\n');
+    const bool isHidden = IsHiddenSituation(std::stoi(text.substr(last + 1)));
+    text.erase(last);
+    return isHidden;
+}
+
+bool EndsHidden(std::string_view text) { return !text.empty() && text.back() == Hidden; }
+
 /// The numbers of a text, each a line of its own without its marks.
 std::string NumbersIn(std::string_view text)
 {
@@ -38,9 +52,9 @@ std::string NumbersIn(std::string_view text)
 }
 
 /// A set of places, by a flag for each.
-class PlaceSet {
+template <class Texts> class PlaceSet {
 public:
-    explicit PlaceSet(const FoldedTexts& texts) : texts_(texts), has_(texts.Count()) { }
+    explicit PlaceSet(const Texts& texts) : texts_(texts), has_(texts.Count()) { }
 
     void Add(std::uint32_t place) { has_[place] = true; }
     void AddThoseWith(const std::vector<std::string>& parts)
@@ -56,18 +70,18 @@ public:
             Add(*place);
     }
 
-    std::vector<Key> Keys() const
+    std::vector<Key> Keys(bool activeOnly) const
     {
         std::vector<Key> keys;
         for (std::uint32_t place = 0; place < has_.size(); ++place) {
-            if (has_[place])
+            if (has_[place] && !(activeOnly && texts_.IsHidden(place)))
                 keys.push_back(texts_.KeyAt(place));
         }
         return keys;
     }
 
 private:
-    const FoldedTexts& texts_;
+    const Texts& texts_;
     std::vector<bool> has_;
 };
 
@@ -104,20 +118,25 @@ CustomerTexts::CustomerTexts(Database& database)
     : AuditedTexts(
         database, {"cliente"},
         "select codigo, nome_de_busca || '\n' || apelido || '\n' || documento || '\n' || tipos_e_canais"
-        " from cliente",
+        " || '\n' || situacao from cliente",
         {" where codigo = :chave"}, Order::ByFirstLine)
 {
 }
 
 void CustomerTexts::Shape(Key, std::string& text)
 {
+    const bool isHidden = TakeSituation(text);
     const std::size_t name = text.find('\n'), channels = text.rfind('\n') + 1;
     const std::string numbers = NumbersIn(std::string_view(text).substr(channels));
     const std::string folded = FoldText(std::string_view(text).substr(name));
     text.replace(name, std::string::npos, folded);
     if (!numbers.empty())
         text.append("\n").append(numbers);
+    if (isHidden)
+        text.push_back(Hidden);
 }
+
+bool CustomerTexts::IsHidden(std::uint32_t place) const { return EndsHidden(TextAt(place)); }
 
 AnimalNamesOfCustomers::AnimalNamesOfCustomers(Database& database)
     : AuditedTexts(database, {"animal"},
@@ -137,7 +156,8 @@ void AnimalNamesOfCustomers::Shape(Key key, std::string& text)
 AnimalTexts::AnimalTexts(Database& database)
     : AuditedTexts(database, {"animal", "cliente"},
                    "select n.codigo, n.nome_de_busca || '\n' || coalesce(n.microchip, '') || '\n'"
-                   " || c.nomes_de_busca from animal n join cliente c on c.codigo = n.codigo_do_cliente",
+                   " || c.nomes_de_busca || '\n' || n.situacao from animal n join cliente c on c.codigo = "
+                   "n.codigo_do_cliente",
                    {" where n.codigo = :chave", " where c.codigo = :chave"}, Order::ByFirstLine)
 {
 }
@@ -145,12 +165,18 @@ AnimalTexts::AnimalTexts(Database& database)
 /// All but the microchip is folded already.
 void AnimalTexts::Shape(Key, std::string& text)
 {
+    const bool isHidden = TakeSituation(text);
     const std::size_t begin = text.find('\n') + 1, length = text.find('\n', begin) - begin;
     const std::string folded = FoldText(std::string_view(text).substr(begin, length));
     text.replace(begin, length, folded);
+    if (isHidden)
+        text.push_back(Hidden);
 }
 
-std::vector<Key> CustomersWith(Database& database, const std::vector<std::string>& parts, Key code)
+bool AnimalTexts::IsHidden(std::uint32_t place) const { return EndsHidden(TextAt(place)); }
+
+std::vector<Key> CustomersWith(Database& database, const std::vector<std::string>& parts, Key code,
+                               bool activeOnly)
 {
     const std::vector<Key> owners = parts.empty() ? std::vector<Key>() : OwnersOfAnimalsWith(database, parts);
     return database.With<CustomerTexts>([&](CustomerTexts& texts) {
@@ -160,18 +186,19 @@ std::vector<Key> CustomersWith(Database& database, const std::vector<std::string
         places.AddCode(code);
         for (const Key owner : owners)
             places.AddCode(owner);
-        return places.Keys();
+        return places.Keys(activeOnly);
     });
 }
 
-std::vector<Key> AnimalsWith(Database& database, const std::vector<std::string>& parts, Key code)
+std::vector<Key> AnimalsWith(Database& database, const std::vector<std::string>& parts, Key code,
+                             bool activeOnly)
 {
     return database.With<AnimalTexts>([&](AnimalTexts& texts) {
         texts.Refresh();
         PlaceSet places(texts);
         places.AddThoseWith(OrAll(parts));
         places.AddCode(code);
-        return places.Keys();
+        return places.Keys(activeOnly);
     });
 }
 

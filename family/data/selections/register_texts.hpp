@@ -10,10 +10,15 @@ namespace kova::family {
 /// "11912345678"; one without a digit as it stands.
 std::string WithoutNumberMarks(std::string_view folded);
 
+/// Whether a list that shows only what is active leaves rows of that situation out: 2 inactive, 4 deleted.
+constexpr bool IsHiddenSituation(int situation) { return situation == 2 || situation == 4; }
+
 /// What every customer is looked for by, by name, then code: nickname and name, document, contact channels as
 /// they are written and by their digits. About 150 bytes for a customer.
 struct CustomerTexts : AuditedTexts {
     explicit CustomerTexts(Database& database);
+
+    bool IsHidden(std::uint32_t place) const;
 
 private:
     void Shape(Key key, std::string& text) override;
@@ -36,14 +41,19 @@ private:
 struct AnimalTexts : AuditedTexts {
     explicit AnimalTexts(Database& database);
 
+    bool IsHidden(std::uint32_t place) const;
+
 private:
     void Shape(Key key, std::string& text) override;
 };
 
 /// Codes of the customers whose own texts, or the names of whose animals, hold one of the parts, or that have
-/// that code; by name, then code. Fails as Database::With.
-std::vector<Key> CustomersWith(Database& database, const std::vector<std::string>& parts, Key code);
+/// that code; by name, then code. Those that are inactive or deleted are left out where only the active ones
+/// are wanted. Fails as Database::With.
+std::vector<Key> CustomersWith(Database& database, const std::vector<std::string>& parts, Key code,
+                               bool activeOnly);
 /// The same of animals by their texts.
-std::vector<Key> AnimalsWith(Database& database, const std::vector<std::string>& parts, Key code);
+std::vector<Key> AnimalsWith(Database& database, const std::vector<std::string>& parts, Key code,
+                             bool activeOnly);
 
 } // namespace kova::family

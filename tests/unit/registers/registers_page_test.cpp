@@ -379,6 +379,78 @@ TEST_F(CadastrosTest, SaysOfANewRowWhetherItIsHeOrShe)
     }
 }
 
+TEST_F(CadastrosTest, TakesTheOwnerThatATypedNameStandsFor)
+{
+    TurnTo("Animais");
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    Type("márcia");
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    Keys(Qt::Key_Tab);
+    EXPECT_EQ(TextOf("Código do cliente"), "3 - Márcia Lima");
+    for (const auto& [typed, reason] : {std::pair("a", "Há mais de um com este nome: escolha na lista."),
+                                        {"ninguém", "Não foi encontrado."}}) {
+        TypeOver("Código do cliente", typed);
+        if (QWidget* proposals = QApplication::activePopupWidget())
+            QTest::keyClick(proposals, Qt::Key_Escape);
+        Keys(Qt::Key_Tab);
+        EXPECT_EQ(Reasons(), Lines{reason});
+        EXPECT_EQ(TextOf("Código do cliente"), typed);
+    }
+}
+
+TEST_F(CadastrosTest, TakesTheEmployeeThatATypedNicknameStandsFor)
+{
+    TurnTo("Ausências");
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    Type("bia");
+    Keys(Qt::Key_Tab);
+    EXPECT_EQ(Find<QComboBox>("Código do funcionário").currentText(), "1 - Bia");
+    for (const char* text : {"01/12/2026", "0:00", "02/12/2026", "24:00", "Curso"}) {
+        Type(text);
+        Keys(Qt::Key_Tab);
+    }
+    Find<QComboBox>("Código do funcionário").setFocus();
+    Find<QComboBox>("Código do funcionário").lineEdit()->selectAll();
+    Type("BIA");
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Reasons(), Lines{});
+    EXPECT_EQ(Stored("select codigo_do_funcionario, motivo from ausencia"), Lines{"1|Curso"});
+}
+
+TEST_F(CadastrosTest, CallsAnOwnerByWhatPeopleLookFor)
+{
+    TurnTo("Animais");
+    QStringList labels;
+    for (const QLabel* label : page_->findChildren<QLabel*>()) {
+        if (label->isVisible() && label->buddy() != nullptr)
+            labels += label->text().remove(QLatin1Char('&'));
+    }
+    EXPECT_TRUE(labels.contains(QStringLiteral("Cliente *"))) << labels.join(u',').toStdString();
+    EXPECT_FALSE(labels.contains(QStringLiteral("Código do cliente *")));
+    EXPECT_EQ(Find<QLineEdit>("Código do cliente").accessibleName(), QStringLiteral("Cliente (obrigatório)"));
+}
+
+TEST_F(CadastrosTest, HidesWhatIsInactiveUntilItIsAskedFor)
+{
+    Elsewhere("update cliente set situacao = 2, nome_de_busca = nome_de_busca where codigo = 3");
+    TypeOver("pesquisa", "lima");
+    EXPECT_EQ(Rows(), Lines{});
+    EXPECT_EQ(Find<QLabel>("encontrados").text(), "Nenhum ativo; 1 entre os inativos");
+    Keys(Qt::Key_I, Qt::ControlModifier);
+    EXPECT_EQ(Rows(), Lines{"Márcia Lima"});
+    const auto& model = *Find<QTableView>("lista").model();
+    EXPECT_EQ(model.index(0, 0).data(Qt::AccessibleTextRole).toString(), "Márcia Lima (não ativo)");
+    EXPECT_TRUE(model.index(0, 0).data(Qt::ForegroundRole).isValid()) << "it is subdued";
+    TypeOver("pesquisa", "ana");
+    EXPECT_EQ(model.index(0, 0).data(Qt::AccessibleTextRole).toString(), "Ana Lúcia Prado");
+    EXPECT_FALSE(model.index(0, 0).data(Qt::ForegroundRole).isValid());
+    Keys(Qt::Key_I, Qt::ControlModifier);
+    TypeOver("pesquisa", "");
+    EXPECT_EQ(Rows(), (Lines{"Ana Lúcia Prado", "José Antônio Peçanha"}));
+    TurnTo("Feriados");
+    EXPECT_FALSE(page_->findChildren<QCheckBox*>(QStringLiteral("inativos")).back()->isVisible());
+}
+
 TEST_F(CadastrosTest, ShowsTheCompanyAndSavesIt)
 {
     TurnTo("Empresa");

@@ -2,6 +2,8 @@
 
 #include "tests/unit/family/registers/register_fixture.hpp"
 
+#include <algorithm>
+
 namespace kova::family::test {
 
 using namespace registers;
@@ -80,6 +82,34 @@ TEST_F(RegisterLists, FindACustomerByAnyPartOfWhatIsKnown)
         EXPECT_EQ(Find(one.text), one.found) << one.text;
     EXPECT_EQ(Find("10"), (Keys{10})) << "the code";
     EXPECT_EQ(Find("12343333"), Keys()) << "no number runs from one channel into the next";
+}
+
+TEST_F(RegisterLists, LeaveOutWhatIsInactiveWhereOnlyTheActiveIsWanted)
+{
+    const auto active = [&](const Register& of, const char* text) {
+        return of.Find(Data(), text, Listed::Active);
+    };
+    EXPECT_EQ(active(CustomerRegister(), ""), (Keys{ana_, 11, 10, canil_}));
+    ExpectDone(CustomerRegister(), ana_, {{"Situação", "Inativo"}});
+    ExpectDone(CustomerRegister(), 11, {{"Situação", "Bloqueado"}});
+    ExpectDone(CustomerRegister(), canil_, {{"Situação", "Excluído"}});
+    EXPECT_EQ(active(CustomerRegister(), ""), (Keys{11, 10}));
+    EXPECT_EQ(active(CustomerRegister(), "luz"), Keys());
+    EXPECT_EQ(Find("luz"), Keys{ana_});
+    EXPECT_EQ(Find("98888"), Keys{ana_}) << "its numbers, too";
+    ExpectDone(AnimalRegister(), 50, {{"Situação", "Inativo"}});
+    EXPECT_EQ(active(AnimalRegister(), ""), Keys{51});
+    EXPECT_EQ(AnimalRegister().Find(Data(), "").size(), 2U);
+    ExpectDone(ServiceRegister(), 2, {{"Situação", "Inativo"}});
+    EXPECT_EQ(active(ServiceRegister(), "banho"), Keys());
+    EXPECT_EQ(ServiceRegister().Find(Data(), "banho"), Keys{2});
+    ExpectDone(CustomerRegister(), ana_, {{"Situação", "Ativo"}});
+    EXPECT_EQ(active(CustomerRegister(), "luz"), Keys{ana_});
+    for (const Register* one : Registers()) {
+        const bool hasStatus = std::ranges::any_of(
+            one->Fields(), [](const FieldInfo& field) { return field.label == "Situação"; });
+        EXPECT_EQ(one->HasInactive(), hasStatus) << one->Name().name;
+    }
 }
 
 TEST_F(RegisterLists, FollowEveryChange)
