@@ -370,9 +370,20 @@ void RegisterScreen::Save()
 {
     Try([this] {
         form_->SettleAll();
+        if (!MayBeSaved())
+            return;
         ShowAnswer(
             register_.Save(*desk_.database, form_->Key(), form_->Before(), form_->Typed(), desk_.author()));
     });
+}
+
+// What would be refused is not asked about.
+bool RegisterScreen::MayBeSaved()
+{
+    const std::string concern = register_.ConcernAbout(*desk_.database, form_->Key(), form_->Typed());
+    return concern.empty()
+        || !register_.Check(*desk_.database, form_->Key(), form_->Before(), form_->Typed()).IsDone()
+        || screens::AskToSave(*this, QString::fromStdString(concern));
 }
 
 void RegisterScreen::ShowAnswer(const SaveAnswer& answer)

@@ -56,6 +56,7 @@ private:
     void ShowRow(family::Key key);
     void ShowNew();
     void MarkRow(family::Key key);
+    bool MayBeSaved();
     void ShowAnswer(const family::registers::SaveAnswer& answer);
     void ShowSaved(const family::registers::SaveAnswer& answer);
     /// What the user has picked behind "Mais...".

@@ -59,6 +59,11 @@ bool AskToContinue(QWidget& over, const QString& row)
     return box.clickedButton() == go;
 }
 
+bool AskToSave(QWidget& over, const QString& concern)
+{
+    return AskYesNo(over, concern + QStringLiteral("\n\nSalvar mesmo assim?"));
+}
+
 bool AskToRemove(QWidget& over, const QString& one)
 {
     return AskYesNo(over, QStringLiteral("Excluir este registro (%1)?").arg(one));

@@ -15,6 +15,8 @@ WhatOfChanges AskAboutChanges(QWidget& over, const QString& title);
 bool AskToDiscard(QWidget& over);
 /// Whether to go on with what was typed into that row when the program ended without a word; Escape does.
 bool AskToContinue(QWidget& over, const QString& row);
+/// Whether to save although of something that is told; "Não" is offered.
+bool AskToSave(QWidget& over, const QString& concern);
 /// Whether that row may be removed; "Não" is offered.
 bool AskToRemove(QWidget& over, const QString& one);
 

@@ -61,6 +61,13 @@ private:
             CheckDocument(database, record, refusals);
     }
 
+    void JudgeRecord(const CustomerRecord& record, Refusals& refusals) const override
+    {
+        if (std::string why = WrongKindOfPerson(record); !why.empty())
+            refusals.Add(customer_columns::Kind, std::move(why));
+        CheckPostalCode(nullptr, record, refusals);
+    }
+
     static void CheckPostalCode(const CustomerRecord* stored, const CustomerRecord& record,
                                 Refusals& refusals)
     {

@@ -33,6 +33,8 @@ RemoveAnswer Register::Remove(Database& database, Key key, const Author& author)
     return InTransaction(database, [&] { return RemoveWithin(database, key, author); });
 }
 
+std::string Register::ConcernAbout(Database&, Key, const Texts&) const { return {}; }
+
 std::vector<Suggestion> Register::Suggestions(Database&, int) const { return {}; }
 
 SaveAnswer Register::AddAll(Database& database, std::span<const Texts> rows, const Author& author) const

@@ -5,6 +5,7 @@
 #include "family/data/engine/key.hpp"
 #include "family/registers/field.hpp"
 
+#include <functional>
 #include <optional>
 #include <span>
 
@@ -59,6 +60,14 @@ struct TidyText {
     std::string text;
     /// Why it cannot be read, in lower case and with a full stop; else empty.
     std::string why{};
+};
+
+/// A field of a stored row that a form would not take.
+struct JudgedField {
+    Key key = 0;
+    std::size_t field = 0;
+    /// As a file has it, and why it cannot stand, in lower case and with a full stop.
+    std::string text, why;
 };
 
 /// What a removal answers.
@@ -164,6 +173,13 @@ public:
 
     /// Takes a row away that nothing refers to, in a transaction of its own.
     RemoveAnswer Remove(Database& database, Key key, const Author& author) const;
+
+    /// What a save would leave behind that its user may not have thought of, as sentences before a question;
+    /// empty where there is nothing to ask, or what is typed would be refused.
+    virtual std::string ConcernAbout(Database& database, Key key, const Texts& typed) const;
+
+    /// Tells of each stored field that could not be typed so today.
+    virtual void Judge(Database& database, const std::function<void(const JudgedField&)>& tell) const = 0;
 
     /// What a button calls the suggestions; empty where a register has none.
     virtual std::string_view SuggestionsTitle() const { return {}; }

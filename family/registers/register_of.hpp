@@ -147,6 +147,15 @@ public:
         return PutBack(database, *stored, before, author);
     }
 
+    void Judge(Database& database, const std::function<void(const JudgedField&)>& tell) const override
+    {
+        SelectPages<Record>(database, [&](std::vector<Record>& page) {
+            Load(database, page);
+            for (const Record& record : page)
+                JudgeFields(record, tell);
+        });
+    }
+
     std::span<const ListColumn> ListColumns() const override { return listColumns_; }
 
     bool HasInactive() const override { return HasSituation; }
@@ -207,6 +216,8 @@ protected:
                     ValuesOf<Record>(record));
         return key;
     }
+    /// What speaks against a record by itself, beyond its single fields.
+    virtual void JudgeRecord(const Record&, Refusals&) const { }
     /// Why a row may not go although nothing refers to it.
     virtual std::string WhyKept(Database&, const Record&) const { return {}; }
     /// The table whose rows belong to the register's own and go with them.
@@ -216,6 +227,20 @@ protected:
     virtual const char* BookedBy() const { return ""; }
     /// What the list is ordered by, before the code.
     virtual std::string OrderOf(const Record& record) const { return FoldText(shown_.front().cell(record)); }
+
+    /// What a form's texts make; nothing where one cannot be read, or is missing.
+    std::optional<Record> RecordOf(const Texts& typed) const
+    {
+        Record record;
+        for (std::size_t at = 1; at < typed.size(); ++at) {
+            const Column<Record>& column = *columns_[at];
+            const std::string text = CleanText(typed[at]);
+            column.clear(record);
+            if (text.empty() ? column.field.required : !column.read(text, record).empty())
+                return std::nullopt;
+        }
+        return record;
+    }
 
     /// As a form shows them.
     Texts TextsOf(const Record& record) const
@@ -372,6 +397,26 @@ private:
         if (author && stored && IsActive(*stored) && !IsActive(record) && *BookedBy())
             answer.booked = BookedSince(database, BookedBy(), answer.key, author->moment);
         return answer;
+    }
+
+    void JudgeFields(const Record& record, const std::function<void(const JudgedField&)>& tell) const
+    {
+        Refusals refusals(fields_);
+        for (std::size_t at = 1; at < columns_.size(); ++at) {
+            const std::string text = columns_[at]->write(record);
+            Record scratch;
+            if (text.empty() && columns_[at]->field.required)
+                refusals.Add(at, "deve ser informado.");
+            if (text.empty())
+                continue;
+            columns_[at]->clear(scratch);
+            if (std::string why = columns_[at]->read(text, scratch); !why.empty())
+                refusals.Add(at, std::move(why));
+        }
+        JudgeRecord(record, refusals);
+        for (RefusedField& refused : refusals.InOrder())
+            tell({KeyIn(record), refused.field, columns_[refused.field]->write(record),
+                  std::move(refused.why)});
     }
 
     void Take(std::size_t at, const std::string& text, Record& record, Refusals& refusals) const

@@ -1,5 +1,6 @@
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/stores/national_holidays.hpp"
+#include "family/registers/booked_in_span.hpp"
 #include "family/registers/register_of.hpp"
 #include "family/registers/registers.hpp"
 #include "family/registers/usual_days.hpp"
@@ -208,7 +209,25 @@ public:
                                                                : std::vector<Offer>();
     }
 
+    std::string ConcernAbout(Database& database, Key key, const Texts& typed) const override
+    {
+        const auto wanted = RecordOf(typed);
+        if (!wanted)
+            return {};
+        const auto shown = key == 0 ? std::nullopt : Read(database, key);
+        const auto stored = shown ? RecordOf(*shown) : std::nullopt;
+        if (stored && SpanOf(*stored) == SpanOf(*wanted))
+            return {};
+        return BookedInSpan(database, SpanOf(*wanted));
+    }
+
 private:
+    static SpanOfEmployee SpanOf(const AbsenceRecord& record)
+    {
+        return {record.codigoDoFuncionario.ValueOr(0), record.dataInicial + " " + record.horaInicial,
+                record.dataFinal + " " + record.horaFinal};
+    }
+
     /// From when until when, as moments that can be compared.
     static std::pair<std::string, std::string> Span(const AbsenceRecord& record)
     {

@@ -1,8 +1,10 @@
 #include "family/data/checks/database_check.hpp"
 #include "family/data/checks/rule_check.hpp"
 #include "family/data/engine/snapshot.hpp"
+#include "family/data/migrations/current_migrations.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/commands.hpp"
+#include "tools/agenda-data/older_rows.hpp"
 #include "tools/agenda-data/shown_work.hpp"
 
 namespace kova::data {
@@ -49,6 +51,8 @@ int Run(const Call& call, Surroundings& surroundings)
         surroundings.error << problem << "\n";
     if (!problems.empty())
         return 1;
+    if (report.version == family::NewestVersion(family::CurrentMigrations()))
+        TellOlderRows(call.Operand(0), surroundings.error);
     surroundings.output << "O banco de dados está íntegro.\n";
     return 0;
 }
@@ -58,7 +62,8 @@ int Run(const Call& call, Surroundings& surroundings)
 const Command CheckCommand{
     {"check",
      "Verifica se o banco está íntegro e se o que contém segue as regras, e conta as suas\n"
-     "linhas; escreve cada problema com a tabela e o número do registro.",
+     "linhas; escreve cada problema com a tabela e o número do registro. O que os cadastros não\n"
+     "aceitariam mais, mas está lá desde antes, é só um aviso.",
      {"BANCO"}},
     Run,
 };

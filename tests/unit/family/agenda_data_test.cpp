@@ -109,6 +109,18 @@ TEST_F(AgendaData, MakesAndChecksADemonstration)
     EXPECT_EQ(error_.str(), "");
 }
 
+TEST_F(AgendaData, WarnsOfWhatOlderRulesAllowed)
+{
+    Run({"demo", a_});
+    RunUnchecked(a_, "update cliente set cep = '123' where codigo = 5");
+    EXPECT_EQ(Run({"check", a_}), 0);
+    EXPECT_TRUE(Said("está íntegro"));
+    EXPECT_EQ(
+        error_.str(),
+        "aviso: clientes 5, CEP \"123\": não é um CEP: são oito dígitos.\n"
+        "1 aviso: campos que regras mais antigas aceitavam; ficam como estão até que alguém os altere.\n");
+}
+
 TEST_F(AgendaData, GeneratesAsManyAsAskedFor)
 {
     EXPECT_EQ(Run({"generate", "--customers", "50", a_, "--appointments", "700"}), 0);

@@ -163,6 +163,34 @@ TEST_F(CadastrosTest, AddsAnAbsenceByTheKeyboardAlone)
     EXPECT_EQ(Find<QComboBox>("Código do funcionário").currentText(), "1 - Bia");
 }
 
+TEST_F(CadastrosTest, AsksAboutAnAbsenceOverWhatIsBooked)
+{
+    Elsewhere("insert into agendamento (numero, data_inicial, hora_inicial, data_final, hora_final,"
+              " tipo_do_agendamento, nome_do_cliente, nome_do_animal, numero_do_tipo_de_servico,"
+              " codigo_do_servico, codigo_do_funcionario, situacao, incluido_em, incluido_por) values"
+              " (1, '2026-12-01', '09:00', '2026-12-01', '10:00', 1, 'Íris', 'Bidu', 4, 1, 1, 1,"
+              " '2026-11-01 09:00:00', '1 - Ana')");
+    TurnTo("Ausências");
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    for (const char* text : {"Bia", "01/12/2026", "0:00", "02/12/2026", "24:00"}) {
+        Type(text);
+        Keys(Qt::Key_Tab);
+    }
+    Press("salvar");
+    EXPECT_EQ(Reasons(), Lines{"Deve ser informado."}) << "what is refused is not asked about";
+    Type("Curso");
+    Answer({"Não"});
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(boxes_,
+              Lines{"Há 1 agendamento nesse período: 01/12/2026 09:00, Íris, com Bia.\n\nSalvar mesmo"
+                    " assim?"});
+    EXPECT_EQ(Stored("select count(*) from ausencia"), Lines{"0"});
+    EXPECT_EQ(TextOf("Motivo"), "Curso");
+    Answer({"Sim"});
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Stored("select motivo from ausencia"), Lines{"Curso"});
+}
+
 TEST_F(CadastrosTest, MarksEveryRefusedFieldAndKeepsWhatIsTyped)
 {
     Keys(Qt::Key_N, Qt::ControlModifier);
@@ -384,6 +412,7 @@ TEST_F(CadastrosTest, TakesTheOwnerThatATypedNameStandsFor)
     TurnTo("Animais");
     Keys(Qt::Key_N, Qt::ControlModifier);
     Type("márcia");
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     Keys(Qt::Key_Tab);
     EXPECT_EQ(TextOf("Código do cliente"), "3 - Márcia Lima");

@@ -85,6 +85,31 @@ TEST_F(RegisterRules, LeaveAnAddressAloneThatIsOlderThanThem)
                   "CEP: o CEP 01234-568 é de SP, e não de RJ.");
 }
 
+TEST_F(RegisterRules, JudgeWhatIsStoredByWhatAFormWouldTake)
+{
+    const auto judged = [&] {
+        std::vector<std::string> lines;
+        for (const Register* one : Registers())
+            one->Judge(Data(), [&](const JudgedField& field) {
+                lines.push_back(std::string(one->Name().name) + " " + std::to_string(field.key) + " "
+                                + std::string(one->Fields()[field.field].label) + " " + field.text + ": "
+                                + field.why);
+            });
+        return lines;
+    };
+    EXPECT_EQ(judged(), std::vector<std::string>());
+    Run("update cliente set documento = '123', cep = '20040002' where codigo = 10");
+    Run("insert into canal_de_comunicacao (codigo_do_cliente, tipo, canal) values (11, 'Fixo', '7')");
+    Run("update empresa set nome_fantasia = ''");
+    EXPECT_EQ(judged(),
+              (std::vector<std::string>{
+                  "clientes 10 Documento 123: não é um CPF nem um CNPJ válido: confira os dígitos.",
+                  "clientes 10 CEP 20040-002: o CEP 20040-002 é de RJ, e não de SP.",
+                  "clientes 11 Canais Fixo: 7: o telefone fixo 7 não tem DDD e oito dígitos, como (11) "
+                  "3123-4567.",
+                  "empresa 1 Nome fantasia : deve ser informado."}));
+}
+
 TEST_F(RegisterRules, TidyWhatIsTyped)
 {
     struct Typing {

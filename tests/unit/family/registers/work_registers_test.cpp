@@ -53,6 +53,41 @@ protected:
     static constexpr const char* Twice = "Hora inicial: este horário já está cadastrado.";
 };
 
+TEST_F(WorkRegisters, TellWhatIsBookedInAnAbsence)
+{
+    const Register& absences = AbsenceRegister();
+    const auto concern = [&](const Typed& typed) {
+        return absences.ConcernAbout(Data(), 0, Over(absences, absences.New(), typed));
+    };
+    EXPECT_EQ(concern(Away("2", "27/11/2026", "00:00", "27/11/2026", "24:00")),
+              "Há 3 agendamentos nesse período; o primeiro: 27/11/2026 09:00, Zé, com Bia.");
+    EXPECT_EQ(concern(Away("2", "27/11/2026", "11:30", "27/11/2026", "24:00")),
+              "Há 1 agendamento nesse período: 27/11/2026 11:00, Zé, com Bia.");
+    EXPECT_EQ(concern(Away("2", "27/11/2026", "12:00", "27/11/2026", "24:00")), "");
+    EXPECT_EQ(concern(Away("2", "27/11/2026", "00:00", "27/11/2026", "09:00")), "");
+    EXPECT_EQ(concern(Away("3", "27/11/2026", "00:00", "27/11/2026", "24:00")), "");
+    EXPECT_EQ(concern(Away("", "27/11/2026", "00:00", "27/11/2026", "24:00")),
+              "Há 3 agendamentos nesse período; o primeiro: 27/11/2026 09:00, Zé, com Bia.");
+    EXPECT_EQ(concern(Away("2", "27/11/2026", "00:00", "x", "24:00")), "") << "that is refused";
+    Run("update agendamento set situacao = 3 where numero = 21");
+    EXPECT_EQ(concern(Away("2", "27/11/2026", "00:00", "27/11/2026", "24:00")),
+              "Há 2 agendamentos nesse período; o primeiro: 27/11/2026 10:00, Zé, com Bia.");
+    Run("update agendamento set data_final = '2026-12-02', hora_final = '08:00' where numero = 22");
+    EXPECT_EQ(concern(Away("2", "02/12/2026", "07:00", "02/12/2026", "24:00")),
+              "Há 1 agendamento nesse período: 27/11/2026 10:00, Zé, com Bia.");
+    EXPECT_EQ(concern(Away("2", "02/12/2026", "08:00", "02/12/2026", "24:00")), "");
+}
+
+TEST_F(WorkRegisters, TellNothingOfAnAbsenceWhoseTimeStaysAsItIs)
+{
+    const Register& absences = AbsenceRegister();
+    const Key key = Add(absences, Away("2", "27/11/2026", "00:00", "27/11/2026", "24:00")).key;
+    const registers::Texts stored = absences.Read(Data(), key).value();
+    EXPECT_EQ(absences.ConcernAbout(Data(), key, Over(absences, stored, {{"Motivo", "Férias"}})), "");
+    EXPECT_NE(absences.ConcernAbout(Data(), key, Over(absences, stored, {{"Hora final", "23:00"}})), "");
+    EXPECT_EQ(CustomerRegister().ConcernAbout(Data(), 0, CustomerRegister().New()), "");
+}
+
 TEST_F(WorkRegisters, OfOpeningHoursRefuseWhatIsNoPartOfADay)
 {
     ExpectRefusals(
