@@ -3,6 +3,7 @@
 #include "reports/qt/page_painter.hpp"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QPageLayout>
 #include <QPainter>
@@ -83,6 +84,24 @@ double ScaleOf(const QPrinter& printer, const reports::Document& document, bool 
                      sheet.height() / static_cast<double>(document.paperHeight)});
 }
 
+/// People's names and addresses stand in it. Where a disk knows no rights, it is written all the same.
+void KeepFromOthers(QFileDevice& file)
+{
+    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+}
+
+/// A file into which is printed is made here, so that it is its owner's alone from the first byte on. What
+/// keeps it from being made, the printing tells.
+void PrepareFileOf(const QPrinter& printer)
+{
+    const QFileInfo place(printer.outputFileName());
+    if (place.filePath().isEmpty() || (place.exists() && !place.isFile()))
+        return;
+    QFile file(place.filePath());
+    if (file.open(QIODevice::WriteOnly))
+        KeepFromOthers(file);
+}
+
 bool HasFailed(const QPrinter& printer)
 {
     return printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted;
@@ -95,8 +114,7 @@ QString WritePdf(const reports::Document& document, const QString& path)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return NotWritten(path, WhyClosed(path));
-    // People's names and addresses stand in it. Where a disk knows no rights, it is written all the same.
-    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    KeepFromOthers(file);
     QPdfWriter writer(&file);
     writer.setResolution(static_cast<int>(TwipsOfInch));
     writer.setTitle(QString::fromStdString(document.title));
@@ -130,6 +148,7 @@ QString Print(QPrinter& printer, const reports::Document& document, const Printi
         return printing.otherPaper;
     const Range range = RangeOf(printer, document.pages.size(), printing.currentPage);
     printer.setFullPage(true);
+    PrepareFileOf(printer);
     QPainter painter;
     if (!painter.begin(&printer))
         return printing.printerGone;

@@ -184,10 +184,18 @@ TEST_F(ReportOutput, IsReadByItsOwnerAloneWhateverItReplaces)
         | QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
     constexpr auto OfOthers =
         QFileDevice::ReadGroup | QFileDevice::ReadOther | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    const auto document = LaidOut(NumberedList(1));
     for (int times = 0; times < 2; ++times) {
-        ASSERT_EQ(WritePdf(LaidOut(NumberedList(1)), File("lista.pdf")).toStdString(), "");
-        EXPECT_EQ(QFile::permissions(File("lista.pdf")) & OfOthers, QFileDevice::Permissions());
-        QFile::setPermissions(File("lista.pdf"), Everybody);
+        ASSERT_EQ(WritePdf(document, File("lista.pdf")).toStdString(), "");
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(File("papel.pdf"));
+        Prepare(printer, document);
+        ASSERT_EQ(Print(printer, document, From(0)).toStdString(), "");
+        for (const char* name : {"lista.pdf", "papel.pdf"}) {
+            EXPECT_EQ(QFile::permissions(File(name)) & OfOthers, QFileDevice::Permissions()) << name;
+            QFile::setPermissions(File(name), Everybody);
+        }
     }
 }
 
