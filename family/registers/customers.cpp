@@ -10,6 +10,11 @@ namespace kova::family::registers {
 
 namespace {
 
+/// A statement for many customers takes several times as long for one.
+struct ChannelOfOne : ChannelOfCustomer {
+    static constexpr std::size_t ValuesAtOnce = 1;
+};
+
 class Customers : public RegisterOf<CustomerRecord> {
 public:
     Customers()
@@ -35,9 +40,13 @@ private:
             byCode[record.codigo] = &record;
             codes.insert(record.codigo);
         }
-        SelectWhere<ChannelOfCustomer>(database, codes, [&](const ChannelOfCustomer& channel) {
+        const auto keep = [&](const ChannelRow& channel) {
             byCode[channel.codigoDoCliente]->channels.push_back(channel);
-        });
+        };
+        if (codes.size() == 1)
+            SelectWhere<ChannelOfOne>(database, codes, keep);
+        else
+            SelectWhere<ChannelOfCustomer>(database, codes, keep);
     }
 
     /// The audit keeps the channels as lists show them.
