@@ -26,12 +26,16 @@ const ClashWords OfAppointment{"Este agendamento foi alterado depois que você o
 const ClashWords OfRegister{"Este cadastro foi alterado depois que você o abriu.",
                             "Abra o cadastro de novo para vê-lo como está agora."};
 
-Text ClashOf(const Clash& clash)
+Text WriteOf(const Clash& clash)
 {
-    const Text written = clash.line
+    return clash.line
         ? PersonOf(*clash.line) + " gravou " + Quoted(clash.field.stored) + " em " + MomentOf(*clash.line)
         : "agora está " + Quoted(clash.field.stored);
-    return written + "; você informou " + Quoted(clash.field.typed) + ".";
+}
+
+Text ClashOf(const Clash& clash)
+{
+    return WriteOf(clash) + "; você informou " + Quoted(clash.field.typed) + ".";
 }
 
 Text ClashText(const std::vector<Clash>& clashes, const std::vector<FieldStates>& others,

@@ -43,6 +43,8 @@ Text ClashText(const std::vector<Clash>& clashes, const std::vector<FieldStates>
                const ClashWords& words = OfAppointment);
 /// What it says of one of the fields, the caption aside: who has written what, and what was typed.
 Text ClashOf(const Clash& clash);
+/// The first half of that: who has written what, without a full stop.
+Text WriteOf(const Clash& clash);
 /// Of an appointment. Newest write first.
 Text DeletionClashText(const std::vector<OthersWrite>& writes);
 /// `status` is what the write has set.

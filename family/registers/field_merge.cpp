@@ -34,20 +34,6 @@ std::vector<Group> GroupsOf(const std::vector<FieldInfo>& fields)
     return groups;
 }
 
-/// The last write that changed a column of the field.
-std::optional<AuditLine> LastChange(const std::vector<AuditLine>& lines, const FieldInfo& field)
-{
-    const auto changes = [&](const AuditLine& line) {
-        return std::ranges::any_of(field.stored, [&](const std::string& column) {
-            const auto before = line.before.find(column), after = line.after.find(column);
-            return before != line.before.end() && after != line.after.end()
-                && before->second != after->second;
-        });
-    };
-    const auto found = std::ranges::find_if(lines, changes);
-    return found == lines.end() ? std::nullopt : std::optional(*found);
-}
-
 class Merge {
 public:
     Merge(const std::vector<FieldInfo>& fields, const FormTexts& texts)
@@ -98,6 +84,19 @@ private:
 };
 
 } // namespace
+
+std::optional<AuditLine> LastChange(const std::vector<AuditLine>& lines, const FieldInfo& field)
+{
+    const auto changes = [&](const AuditLine& line) {
+        return std::ranges::any_of(field.stored, [&](const std::string& column) {
+            const auto before = line.before.find(column), after = line.after.find(column);
+            return before != line.before.end() && after != line.after.end()
+                && before->second != after->second;
+        });
+    };
+    const auto found = std::ranges::find_if(lines, changes);
+    return found == lines.end() ? std::nullopt : std::optional(*found);
+}
 
 MergedTexts MergeTexts(const std::vector<FieldInfo>& fields, const FormTexts& texts,
                        const std::function<std::vector<AuditLine>()>& lines)

@@ -22,6 +22,10 @@ struct MergedTexts {
     std::string text;
 };
 
+/// The last write that changed a column of the field, of lines that come newest first; nothing where none
+/// tells.
+std::optional<AuditLine> LastChange(const std::vector<AuditLine>& lines, const FieldInfo& field);
+
 /// Brings what others have changed and what the user has changed together, field by field. `lines` reads the
 /// row's lines of the audit, newest first; it is asked only where something clashes.
 MergedTexts MergeTexts(const std::vector<FieldInfo>& fields, const FormTexts& texts,

@@ -4,7 +4,9 @@
 #include "family/business/appointments/write_in_transaction.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audited_row.hpp"
+#include "family/data/audit/merged_rows.hpp"
 #include "family/data/rows/find_by_key.hpp"
+#include "family/data/rows/people_rows.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/appointment_store.hpp"
 
@@ -31,7 +33,14 @@ bool HasAllColumns(const AuditedColumns& columns)
     return all;
 }
 
-/// The row as the last line of the audit says that it was deleted.
+/// Where that row has become one with another since, the other's key.
+template <class Row> void Follow(Database& database, Nullable<Key>& key)
+{
+    if (!key.IsNull())
+        key = GoesOnAs(database, Row::Table, key.value);
+}
+
+/// The row as the last line of the audit says that it was deleted, for its customer and animal of today.
 std::optional<AppointmentRow> DeletedRow(Database& database, Key number)
 {
     const auto lines = FindAuditLines(database, AppointmentRow::Table, number, 1);
@@ -39,6 +48,8 @@ std::optional<AppointmentRow> DeletedRow(Database& database, Key number)
     if (lines.empty() || lines.front().operation != audit_operation::Removal
         || !HasAllColumns(lines.front().before) || !TakeColumns(lines.front().before, row))
         return std::nullopt;
+    Follow<CustomerRow>(database, row.codigoDoCliente);
+    Follow<AnimalRow>(database, row.codigoDoAnimal);
     return row;
 }
 

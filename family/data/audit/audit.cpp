@@ -107,6 +107,17 @@ void AuditRemoval(Database& database, const Author& author, const char* table, K
     Insert(database, row);
 }
 
+void AuditMerging(Database& database, const Author& author, const char* table, Key kept, Key gone,
+                  AuditValues what)
+{
+    AuditRow row = RowOf(author, table, kept, audit_operation::Merging);
+    row.depois = what.Add("unido", gone).Line();
+    Insert(database, row);
+    row.chave = gone;
+    row.depois = AuditValues().Add("unido_a", kept).Line();
+    Insert(database, row);
+}
+
 void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
                       const AuditValues& after)
 {

@@ -45,6 +45,8 @@ inline constexpr const char* Import = "importacao";
 inline constexpr const char* ImportUndone = "importacao_desfeita";
 /// What tells who somebody is was taken out of all tables.
 inline constexpr const char* Anonymisation = "anonimizacao";
+/// Two rows have become one.
+inline constexpr const char* Merging = "uniao";
 } // namespace audit_operation
 
 /// Stands among the values of a row that has come in an import: the import's number.
@@ -93,6 +95,11 @@ void AuditRemoval(Database& database, const Author& author, const char* table, K
                   const AuditValues& before);
 void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
                       const AuditValues& after);
+
+/// Writes a line for a row that goes on in the place of `gone`, with what there is to say of it, and one for
+/// that one, with the key that it goes on under in `unido_a`; in the transaction that is open.
+void AuditMerging(Database& database, const Author& author, const char* table, Key kept, Key gone,
+                  AuditValues what = {});
 
 /// Writes the line of the import that bears the author's number, with what there is to say of it.
 void AuditImport(Database& database, const Author& author, const AuditValues& what);

@@ -5,6 +5,7 @@
 
 #include "family/data/rows/numbering.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/registers/customer_merge.hpp"
 #include "family/registers/registers.hpp"
 
 #include <atomic>
@@ -129,6 +130,36 @@ TEST_F(PostgresqlRegisters, KeepOneRowOfTheOpeningHoursFromDesksThatRemoveThemAt
         desk.join();
     EXPECT_EQ(done, 5);
     EXPECT_EQ(shop_.Run("select count(*) from expediente").front(), "1");
+}
+
+TEST_F(PostgresqlRegisters, UniteACustomerWithTheAppointmentThatIsJustBeingBooked)
+{
+    const auto booking = OpenDatabase(shop_.Address());
+    booking->Session().begin();
+    booking->Session() << "insert into agendamento (data_inicial, hora_inicial, data_final, hora_final,"
+                          " tipo_do_agendamento, codigo_do_cliente, codigo_do_animal,"
+                          " numero_do_tipo_de_servico, codigo_do_servico, codigo_do_funcionario, situacao,"
+                          " incluido_em, incluido_por) select '2026-12-01', '09:00', '2026-12-01', '10:00',"
+                          " 0, codigo_do_cliente, codigo_do_animal, numero_do_tipo_de_servico,"
+                          " codigo_do_servico, codigo_do_funcionario, 1, incluido_em, incluido_por"
+                          " from agendamento where numero = 3";
+    const auto plan = registers::PlanCustomerMerge(*database_, 10, 11);
+    std::atomic<bool> over = false;
+    registers::MergeAnswer answer;
+    std::string failure;
+    {
+        const std::jthread merging([&] {
+            failure =
+                FailureOf([&] { answer = registers::MergeCustomers(*database_, plan.value(), {}, Lia); });
+            over = true;
+        });
+        while (!over && WaitingForALock() == 0) { }
+        booking->Session().commit();
+    }
+    EXPECT_EQ(failure, "");
+    EXPECT_TRUE(answer.IsDone());
+    EXPECT_EQ(answer.appointments, 7);
+    EXPECT_EQ(shop_.Run("select count(*) from agendamento where codigo_do_cliente = 10").front(), "9");
 }
 
 TEST_F(PostgresqlRegisters, WriteAnAbsenceOfOneAndOfAll)
