@@ -1,6 +1,7 @@
 #include "family/privacy/person.hpp"
 
 #include "family/data/audit/audit_lines.hpp"
+#include "family/data/audit/merged_rows.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/people_rows.hpp"
 #include "family/data/rows/select_those.hpp"
@@ -70,6 +71,8 @@ void AddAnimals(Database& database, Key customer, Identity& identity)
 std::optional<Person> FindPerson(Database& database, Key code)
 {
     Person person{code, {code}, {}};
+    for (const Key gone : HaveGoneInto(database, CustomerRow::Table, code))
+        person.codes.insert(gone);
     bool isKnown = false;
     for (const Key one : person.codes) {
         const std::optional<CustomerRow> row = FindByKey<CustomerRow>(database, one);

@@ -7,6 +7,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
 #include "family/privacy/anonymise.hpp"
+#include "family/registers/customer_merge.hpp"
 #include "family/registers/registers.hpp"
 #include "tests/unit/family/bath.hpp"
 
@@ -291,6 +292,24 @@ TEST_F(AnonymousCustomer, IsMadeOfOneWhoseRowWasRemovedToo)
     ASSERT_NE(WholeDatabase().find("zq Maria"), std::string::npos);
     ASSERT_TRUE(privacy::Anonymise(host_.DataSource(), {code, {}}, Later, {}).IsDone());
     EXPECT_EQ(WholeDatabase().find("zq Maria"), std::string::npos);
+}
+
+TEST_F(AnonymousCustomer, TakesAlongWhoHasBecomeOneWithIt)
+{
+    const registers::Register& customers = registers::CustomerRegister();
+    Database& database = *SharedDatabase(host_.DataSource());
+    registers::Texts typed = customers.New();
+    typed[registers::FieldNamed(customers.Fields(), "Nome")] = "zq Maria";
+    typed[registers::FieldNamed(customers.Fields(), "Canais")] = "Celular: (11) 98888-7777";
+    const Key gone = customers.Save(database, 0, {}, typed, ana_).key;
+    const auto plan = registers::PlanCustomerMerge(database, 10, gone);
+    ASSERT_TRUE(registers::MergeCustomers(database, plan.value(), {}, ana_).IsDone());
+    ASSERT_NE(WholeDatabase().find("zq Maria"), std::string::npos)
+        << "the audit tells of the row that is gone";
+    const AnonymiseAnswer answer = Forget();
+    ASSERT_TRUE(answer.IsDone()) << answer.text;
+    EXPECT_EQ(WholeDatabase().find("zq Maria"), std::string::npos);
+    EXPECT_EQ(WholeDatabase().find("98888"), std::string::npos);
 }
 
 TEST_F(AnonymousCustomer, IsNotThereWhereNoCustomerHadTheCode)
