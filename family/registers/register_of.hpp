@@ -150,7 +150,8 @@ public:
     void Judge(Database& database, const std::function<void(const JudgedField&)>& tell) const override
     {
         SelectPages<Record>(database, [&](std::vector<Record>& page) {
-            Load(database, page);
+            for (std::size_t first = 0; first < page.size(); first += LoadedAtOnce)
+                Load(database, std::span(page).subspan(first, std::min(LoadedAtOnce, page.size() - first)));
             for (const Record& record : page)
                 JudgeFields(record, tell);
         });
@@ -318,6 +319,8 @@ private:
     static constexpr bool HasSituation = requires(Record record) { record.situacao; };
     static constexpr int Active = 1;
     static constexpr Key LinesToLookAt = 100;
+    /// Rows whose own are read together: several of them belong to one.
+    static constexpr std::size_t LoadedAtOnce = 200;
 
     template <class Row> std::optional<Record> FindRow(Database& database, Key key) const
     {
