@@ -1,6 +1,7 @@
 #include "registers/register_screen.hpp"
 
 #include "family/data/engine/database_failure.hpp"
+#include "registers/doubles_question.hpp"
 #include "registers/form_draft.hpp"
 #include "registers/more_button.hpp"
 #include "registers/suggestions_dialog.hpp"
@@ -274,7 +275,7 @@ bool RegisterScreen::MayLeave()
     if (!IsChanged())
         return true;
     switch (screens::AskAboutChanges(*this, title_->text())) {
-    case screens::WhatOfChanges::Save: Save(); return !IsChanged();
+    case screens::WhatOfChanges::Save: return SaveRow();
     case screens::WhatOfChanges::Discard:
         form_->Show(form_->Key(), form_->Before());
         OfferButtons();
@@ -366,15 +367,36 @@ void RegisterScreen::Suggest()
                              : QStringLiteral("%L1 incluídos.").arg(dialog.Added()));
 }
 
-void RegisterScreen::Save()
+void RegisterScreen::Save() { SaveRow(); }
+
+bool RegisterScreen::SaveRow()
 {
-    Try([this] {
+    bool isSaved = false;
+    Try([&] {
         form_->SettleAll();
-        if (!MayBeSaved())
+        if (!MayBeSaved() || !IsNoDouble())
             return;
-        ShowAnswer(
-            register_.Save(*desk_.database, form_->Key(), form_->Before(), form_->Typed(), desk_.author()));
+        const SaveAnswer answer =
+            register_.Save(*desk_.database, form_->Key(), form_->Before(), form_->Typed(), desk_.author());
+        isSaved = answer.IsDone();
+        ShowAnswer(answer);
     });
+    return isSaved;
+}
+
+bool RegisterScreen::IsNoDouble()
+{
+    const family::registers::Texts typed = form_->Typed();
+    const auto doubles = register_.LikelyDoubles(*desk_.database, form_->Key(), form_->Before(), typed);
+    if (doubles.empty())
+        return true;
+    const DoublesAnswer answer = AskAboutDoubles(*this, doubles);
+    if (answer.what == DoublesAnswer::What::Open) {
+        ShowRow(answer.key);
+        Find();
+    } else if (answer.what == DoublesAnswer::What::Stay)
+        form_->Refuse(register_.Check(*desk_.database, form_->Key(), form_->Before(), typed).refused);
+    return answer.what == DoublesAnswer::What::Save;
 }
 
 // What would be refused is not asked about.

@@ -59,6 +59,10 @@ private:
     bool MayBeSaved();
     void ShowAnswer(const family::registers::SaveAnswer& answer);
     void ShowSaved(const family::registers::SaveAnswer& answer);
+    /// Whether it was saved.
+    bool SaveRow();
+    /// Where the row may be there already: asks, and shows that one where the user wants it.
+    bool IsNoDouble();
     /// What the user has picked behind "Mais...".
     void Run(const RecordAction& action);
     void Tell(const QString& text);

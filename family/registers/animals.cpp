@@ -1,6 +1,7 @@
 #include "family/registers/animals.hpp"
 
 #include "family/data/selections/register_texts.hpp"
+#include "family/registers/likely_doubles.hpp"
 #include "family/registers/register_of.hpp"
 #include "family/registers/registers.hpp"
 #include "family/registers/shop_columns.hpp"
@@ -52,6 +53,12 @@ Key BreedNamed(Database& database, Key species, const std::string& name)
 class Animals : public RegisterOf<AnimalRecord> {
 public:
     Animals() : RegisterOf({"animais", "Animais", "animal"}, AnimalColumns(), ListOfAnimals()) { }
+
+    std::vector<LikelyDouble> LikelyDoubles(Database& database, Key key, const Texts& before,
+                                            const Texts& typed) const override
+    {
+        return DoublesOfAnimal(database, key, before, typed);
+    }
 
     std::vector<Offer> Offers(Database& database, std::size_t field, const Texts& typed) const override
     {

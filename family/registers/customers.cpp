@@ -3,6 +3,7 @@
 #include "family/data/selections/register_texts.hpp"
 #include "family/data/stores/customer_store.hpp"
 #include "family/registers/channel_texts.hpp"
+#include "family/registers/likely_doubles.hpp"
 #include "family/registers/register_of.hpp"
 #include "family/registers/registers.hpp"
 
@@ -30,6 +31,12 @@ private:
     {
         const ListSearch sought(text);
         return CustomersWith(database, sought.Parts(), sought.Code().ValueOr(0), listed == Listed::Active);
+    }
+
+    std::vector<LikelyDouble> LikelyDoubles(Database& database, Key key, const Texts& before,
+                                            const Texts& typed) const override
+    {
+        return DoublesOfCustomer(database, key, before, typed);
     }
 
     void Load(Database& database, std::span<CustomerRecord> records) const override

@@ -59,6 +59,11 @@ ListPage Register::Search(Database& database, const std::string& text, std::size
     return {keys.size(), Rows(database, std::span(keys).subspan(begin, count))};
 }
 
+std::vector<LikelyDouble> Register::LikelyDoubles(Database&, Key, const Texts&, const Texts&) const
+{
+    return {};
+}
+
 std::vector<Offer> Register::Offers(Database&, std::size_t, const Texts&) const { return {}; }
 
 std::size_t FieldNamed(const std::vector<FieldInfo>& fields, std::string_view label)

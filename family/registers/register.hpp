@@ -81,6 +81,17 @@ struct RemoveAnswer {
     std::string text{};
 };
 
+/// A row that may be about the same as another.
+struct LikelyDouble {
+    Key key = 0;
+    /// "José Antônio Peçanha (código 1)"
+    std::string shown;
+    /// What they have in common: "o mesmo telefone, (11) 91234-5678".
+    std::vector<std::string> reasons{};
+    /// Both cannot be there: a save is refused.
+    bool bars = false;
+};
+
 /// A column of a register's list.
 struct ListColumn {
     std::string_view label;
@@ -170,6 +181,11 @@ public:
 
     /// What SaveWithin would answer now. Writes and locks nothing.
     virtual SaveAnswer Check(Database& database, Key key, const Texts& before, const Texts& typed) const = 0;
+
+    /// Stored rows that may be about the same as what is typed into the form of a row, by something that the
+    /// row did not have in common with them before; by code. Empty for registers that know no such thing.
+    virtual std::vector<LikelyDouble> LikelyDoubles(Database& database, Key key, const Texts& before,
+                                                    const Texts& typed) const;
 
     /// Takes a row away that nothing refers to, in a transaction of its own.
     RemoveAnswer Remove(Database& database, Key key, const Author& author) const;

@@ -202,6 +202,19 @@ void CadastrosTest::AnswerBox()
     box->reject();
 }
 
+void CadastrosTest::InDialog(const char* name, const std::function<void(QDialog&)>& act)
+{
+    QTimer::singleShot(1, page_.get(), [this, name, act] {
+        auto* dialog = dynamic_cast<QDialog*>(QApplication::activeModalWidget());
+        const bool isThere = dialog != nullptr && dialog->objectName() == QLatin1String(name);
+        if (isThere && dialog->isActiveWindow())
+            return act(*dialog);
+        if (isThere)
+            dialog->activateWindow();
+        InDialog(name, act);
+    });
+}
+
 std::vector<std::string> CadastrosTest::Stored(const char* statement)
 {
     return kova::test::SqliteFile(file_).Run(statement);

@@ -5,6 +5,7 @@
 #include "registers/registers_page.hpp"
 #include "system/temporary_folder.hpp"
 
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -15,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 
 namespace kova::registers::test {
@@ -64,6 +66,9 @@ protected:
 
     /// The buttons that the next boxes are answered with; what they said is kept in `boxes_`.
     void Answer(std::initializer_list<const char*> buttons);
+
+    /// Acts in the dialog of that name as soon as it takes input.
+    void InDialog(const char* name, const std::function<void(QDialog&)>& act);
 
     std::vector<std::string> Stored(const char* statement);
     /// Changes the file as another desk does.
