@@ -3,7 +3,9 @@
 #include "family/data/engine/database_failure.hpp"
 #include "registers/doubles_question.hpp"
 #include "registers/form_draft.hpp"
+#include "registers/form_pages.hpp"
 #include "registers/more_button.hpp"
+#include "registers/row_list.hpp"
 #include "registers/suggestions_dialog.hpp"
 #include "screens/field_frame.hpp"
 #include "screens/question.hpp"
@@ -12,12 +14,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSplitter>
 #include <QTableView>
 
@@ -30,10 +30,7 @@ namespace {
 using family::registers::RemoveAnswer;
 using family::registers::SaveAnswer;
 
-constexpr int RowHeight = 28;
 constexpr int BoxHeight = 32;
-constexpr int RoomInColumn = 8;
-constexpr int WidestColumn = 200;
 constexpr double TitlePoints = 13;
 
 QString Shown(std::string_view text)
@@ -58,25 +55,6 @@ QLabel* PlainLabel(const QString& name, QWidget* parent)
     return label;
 }
 
-QTableView* ListOf(RowModel* rows, const QString& name, QWidget* parent)
-{
-    auto* list = new QTableView(parent);
-    list->setModel(rows);
-    list->setAccessibleName(name);
-    list->setObjectName(QStringLiteral("lista"));
-    list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list->setShowGrid(false);
-    list->setWordWrap(false);
-    list->setTabKeyNavigation(false);
-    list->verticalHeader()->hide();
-    list->verticalHeader()->setDefaultSectionSize(RowHeight);
-    list->horizontalHeader()->setHighlightSections(false);
-    list->horizontalHeader()->setStretchLastSection(true);
-    return list;
-}
-
 } // namespace
 
 RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const RecordActions& actions,
@@ -87,11 +65,12 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
       rows_(new RowModel(of, desk, this)),
       search_(new QLineEdit(this)),
       inactive_(new QCheckBox(QStringLiteral("Mostrar inativos"), this)),
-      list_(ListOf(rows_, Shown(of.Name().title), this)),
+      list_(MakeRowList(*rows_, Shown(of.Name().title), this)),
       found_(PlainLabel(QStringLiteral("encontrados"), this)),
       title_(PlainLabel(QStringLiteral("titulo"), this)),
       told_(PlainLabel(QStringLiteral("recado"), this)),
       form_(new RecordForm(of, desk, this)),
+      pages_(new FormPages(of, desk, *form_, this)),
       draft_(new FormDraft(of, desk, *form_)),
       new_(Button(QStringLiteral("novo"), QStringLiteral("&Novo"), QStringLiteral("Ctrl+N"), this)),
       save_(Button(QStringLiteral("salvar"), QStringLiteral("&Salvar"), QStringLiteral("Ctrl+S"), this)),
@@ -114,7 +93,7 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
     LayOut();
     Connect();
     Find();
-    FitColumns();
+    FitColumns(*list_);
     MarkRow(rows_->KeyAt(0));
     if (rows_->rowCount() > 0)
         ShowRow(rows_->KeyAt(0));
@@ -143,12 +122,6 @@ void RegisterScreen::LayOut()
     auto* right = new QWidget(this);
     auto* rightColumn = new QVBoxLayout(right);
     rightColumn->setContentsMargins(8, 0, 0, 0);
-    auto* area = new QScrollArea(right);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(form_);
-    area->viewport()->setBackgroundRole(QPalette::Base);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(save_);
     buttons->addWidget(discard_);
@@ -156,7 +129,7 @@ void RegisterScreen::LayOut()
     buttons->addWidget(more_);
     buttons->addWidget(remove_);
     rightColumn->addWidget(title_);
-    rightColumn->addWidget(area, 1);
+    rightColumn->addWidget(pages_, 1);
     rightColumn->addWidget(told_);
     rightColumn->addLayout(buttons);
 
@@ -188,7 +161,7 @@ void RegisterScreen::Connect()
                 if (!isMarking_ && row.isValid())
                     TurnTo(rows_->KeyAt(row.row()));
             });
-    connect(list_, &QTableView::activated, this, [this] { form_->FocusFirst(); });
+    connect(list_, &QTableView::activated, this, [this] { FocusForm(); });
     connect(new_, &QPushButton::clicked, this, [this] { New(); });
     connect(save_, &QPushButton::clicked, this, [this] { Save(); });
     connect(discard_, &QPushButton::clicked, this, [this] { Discard(); });
@@ -216,7 +189,7 @@ void RegisterScreen::Find()
 {
     isMarking_ = true;
     Try([this] {
-        rows_->Find(search_->text().toStdString(), WhichRows());
+        rows_->Show(register_.Find(*desk_.database, search_->text().toStdString(), WhichRows()));
         found_->setText(Found());
     });
     isMarking_ = false;
@@ -248,13 +221,6 @@ void RegisterScreen::TurnInactive()
 {
     if (register_.HasInactive())
         inactive_->toggle();
-}
-
-void RegisterScreen::FitColumns()
-{
-    list_->resizeColumnsToContents();
-    for (int column = 0; column < rows_->columnCount(); ++column)
-        list_->setColumnWidth(column, std::min(list_->columnWidth(column) + RoomInColumn, WidestColumn));
 }
 
 void RegisterScreen::MarkRow(family::Key key)
@@ -304,9 +270,10 @@ void RegisterScreen::OfferDraft()
         if (!screens::AskToContinue(*this, NameOf(key)))
             return draft_->Forget();
         draft_->Continue();
+        pages_->ShowRow(key);
         title_->setText(key == 0 ? TitleOfNew() : Shown(register_.Name().title));
         MarkRow(key);
-        form_->FocusFirst();
+        FocusForm();
     });
     OfferButtons();
 }
@@ -327,6 +294,7 @@ void RegisterScreen::ShowRow(family::Key key)
         if (!texts)
             return Tell(QStringLiteral("Este registro não existe mais: alguém o excluiu."));
         form_->Show(key, *texts);
+        pages_->ShowRow(key);
         title_->setText(Shown(register_.Name().title));
         Tell({});
     });
@@ -341,12 +309,14 @@ void RegisterScreen::New()
     Tell({});
     MarkRow(0);
     OfferButtons();
-    form_->FocusFirst();
+    FocusForm();
 }
 
 void RegisterScreen::ShowNew()
 {
     form_->Show(0, register_.New());
+    pages_->ShowRow(0);
+    pages_->ShowForm();
     title_->setText(TitleOfNew());
 }
 
@@ -395,7 +365,7 @@ bool RegisterScreen::IsNoDouble()
         ShowRow(answer.key);
         Find();
     } else if (answer.what == DoublesAnswer::What::Stay)
-        form_->Refuse(register_.Check(*desk_.database, form_->Key(), form_->Before(), typed).refused);
+        Refuse(register_.Check(*desk_.database, form_->Key(), form_->Before(), typed).refused);
     return answer.what == DoublesAnswer::What::Save;
 }
 
@@ -410,7 +380,7 @@ bool RegisterScreen::MayBeSaved()
 
 void RegisterScreen::ShowAnswer(const SaveAnswer& answer)
 {
-    form_->Refuse(answer.refused);
+    Refuse(answer.refused);
     switch (answer.outcome) {
     case SaveAnswer::Outcome::Done: return ShowSaved(answer);
     case SaveAnswer::Outcome::Refused:
@@ -425,10 +395,18 @@ void RegisterScreen::ShowAnswer(const SaveAnswer& answer)
     }
 }
 
+void RegisterScreen::Refuse(std::span<const family::registers::RefusedField> refused)
+{
+    if (!refused.empty())
+        pages_->ShowForm();
+    form_->Refuse(refused);
+}
+
 void RegisterScreen::ShowSaved(const SaveAnswer& answer)
 {
     const auto stored = register_.Read(*desk_.database, answer.key);
     form_->Show(answer.key, stored.value_or(form_->Typed()));
+    pages_->ShowRow(answer.key);
     title_->setText(Shown(register_.Name().title));
     Find();
     OfferButtons();
@@ -515,6 +493,18 @@ void RegisterScreen::Refresh()
         ShowRow(form_->Key());
 }
 
+void RegisterScreen::TurnPage()
+{
+    if (!pages_->TurnToNext())
+        form_->FocusFirst();
+}
+
+void RegisterScreen::FocusForm()
+{
+    pages_->ShowForm();
+    form_->FocusFirst();
+}
+
 void RegisterScreen::FocusSearch()
 {
     search_->setFocus(Qt::ShortcutFocusReason);
@@ -538,7 +528,7 @@ bool RegisterScreen::eventFilter(QObject* watched, QEvent* event)
         return QWidget::eventFilter(watched, event);
     if (row < 0 && rows_->rowCount() > 0)
         list_->setCurrentIndex(rows_->index(0, 0));
-    form_->FocusFirst();
+    FocusForm();
     return true;
 }
 

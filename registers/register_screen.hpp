@@ -16,6 +16,7 @@ class QTableView;
 namespace kova::registers {
 
 class FormDraft;
+class FormPages;
 class MoreButton;
 
 /// One register: a list that searches as one types, and beside it the form of the row that is marked.
@@ -44,13 +45,14 @@ public:
     void Refresh();
     /// Shows the inactive rows, too, or leaves them out again.
     void TurnInactive();
+    /// To the next page of the form.
+    void TurnPage();
 
 private:
     void Find();
     family::registers::Listed WhichRows() const;
     /// How many were found, and what there is to do where none was.
     QString Found() const;
-    void FitColumns();
     /// The row is shown in the form; a form that is changed is asked about first.
     void TurnTo(family::Key key);
     void ShowRow(family::Key key);
@@ -58,6 +60,8 @@ private:
     void MarkRow(family::Key key);
     bool MayBeSaved();
     void ShowAnswer(const family::registers::SaveAnswer& answer);
+    void FocusForm();
+    void Refuse(std::span<const family::registers::RefusedField> refused);
     void ShowSaved(const family::registers::SaveAnswer& answer);
     /// Whether it was saved.
     bool SaveRow();
@@ -87,6 +91,7 @@ private:
     QTableView* list_;
     QLabel *found_, *title_, *told_;
     RecordForm* form_;
+    FormPages* pages_;
     FormDraft* draft_;
     QPushButton *new_, *save_, *discard_, *remove_;
     MoreButton* more_;

@@ -88,7 +88,8 @@ void RegistersPage::AddShortcuts()
         {Qt::Key_Escape, &RegisterScreen::Discard},
         {Qt::CTRL | Qt::Key_Delete, &RegisterScreen::Remove},
         {Qt::CTRL | Qt::Key_I, &RegisterScreen::TurnInactive},
-        {Qt::Key_F3, &RegisterScreen::FocusSearch}};
+        {Qt::Key_F3, &RegisterScreen::FocusSearch},
+        {Qt::Key_F6, &RegisterScreen::TurnPage}};
     for (const auto& [key, act] : keys)
         connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
                 &QShortcut::activated, this, [this, act = act] { (Current()->*act)(); });

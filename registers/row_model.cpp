@@ -14,16 +14,15 @@ constexpr int PageSize = 100;
 
 } // namespace
 
-RowModel::RowModel(const Register& of, const Desk& desk, QObject* parent)
-    : QAbstractTableModel(parent), register_(of), desk_(desk)
+RowModel::RowModel(const RowSource& of, const Desk& desk, QObject* parent)
+    : QAbstractTableModel(parent), source_(of), desk_(desk)
 {
 }
 
-void RowModel::Find(const std::string& text, family::registers::Listed listed)
+void RowModel::Show(std::vector<family::Key> keys)
 {
-    std::vector<family::Key> found = register_.Find(*desk_.database, text, listed);
     beginResetModel();
-    keys_ = std::move(found);
+    keys_ = std::move(keys);
     read_.clear();
     endResetModel();
 }
@@ -46,7 +45,7 @@ int RowModel::rowCount(const QModelIndex& parent) const
 
 int RowModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(register_.ListColumns().size());
+    return parent.isValid() ? 0 : static_cast<int>(source_.ListColumns().size());
 }
 
 QVariant RowModel::data(const QModelIndex& index, int role) const
@@ -54,7 +53,7 @@ QVariant RowModel::data(const QModelIndex& index, int role) const
     const auto column = static_cast<std::size_t>(index.column());
     if (role == Qt::TextAlignmentRole)
         return static_cast<int>(Qt::AlignVCenter
-                                | (register_.ListColumns()[column].number ? Qt::AlignRight : Qt::AlignLeft));
+                                | (source_.ListColumns()[column].number ? Qt::AlignRight : Qt::AlignLeft));
     const bool isShown = role == Qt::DisplayRole || role == Qt::ToolTipRole || role == Qt::ForegroundRole
         || role == Qt::AccessibleTextRole;
     if (!isShown)
@@ -75,7 +74,7 @@ QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return {};
-    const auto& column = register_.ListColumns()[static_cast<std::size_t>(section)];
+    const auto& column = source_.ListColumns()[static_cast<std::size_t>(section)];
     if (role == Qt::TextAlignmentRole)
         return static_cast<int>(Qt::AlignVCenter | (column.number ? Qt::AlignRight : Qt::AlignLeft));
     if (role != Qt::DisplayRole)
@@ -102,7 +101,7 @@ void RowModel::ReadPageOf(int row) const
     for (const family::Key key : keys)
         read_.try_emplace(key);
     try {
-        for (ListRow& one : register_.Rows(*desk_.database, keys))
+        for (ListRow& one : source_.Rows(*desk_.database, keys))
             read_[one.key] = std::move(one);
     } catch (const family::DatabaseFailure&) {
         return;

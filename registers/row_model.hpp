@@ -11,17 +11,17 @@
 
 namespace kova::registers {
 
-/// The rows of a register that hold a text. Of what is found only the keys are kept; the rows themselves are
-/// read as they are looked at, a page at a time.
+/// Rows that were found. Only their keys are kept; the rows themselves are read as they are looked at, a page
+/// at a time.
 class RowModel : public QAbstractTableModel {
 public:
-    using Register = family::registers::Register;
+    using RowSource = family::registers::RowSource;
     using ListRow = family::registers::ListRow;
 
-    RowModel(const Register& of, const Desk& desk, QObject* parent);
+    RowModel(const RowSource& of, const Desk& desk, QObject* parent);
 
-    /// Finds anew. Fails with a DatabaseFailure; the rows stay as they were then.
-    void Find(const std::string& text, family::registers::Listed listed);
+    /// Shows those in the place of what was shown before.
+    void Show(std::vector<family::Key> keys);
     family::Key KeyAt(int row) const;
     /// -1 where it is not among those found.
     int RowOf(family::Key key) const;
@@ -36,7 +36,7 @@ private:
     const ListRow* RowAt(int row) const;
     void ReadPageOf(int row) const;
 
-    const Register& register_;
+    const RowSource& source_;
     const Desk& desk_;
     std::vector<family::Key> keys_;
     /// Those that were looked at.

@@ -4,6 +4,7 @@
 #include "family/registers/likely_doubles.hpp"
 #include "family/registers/register_of.hpp"
 #include "family/registers/registers.hpp"
+#include "family/registers/related_list.hpp"
 #include "family/registers/shop_columns.hpp"
 
 namespace kova::family::registers {
@@ -53,6 +54,12 @@ Key BreedNamed(Database& database, Key species, const std::string& name)
 class Animals : public RegisterOf<AnimalRecord> {
 public:
     Animals() : RegisterOf({"animais", "Animais", "animal"}, AnimalColumns(), ListOfAnimals()) { }
+
+    std::span<const RelatedList* const> Related() const override
+    {
+        static const RelatedList* const lists[] = {&AnimalAppointments()};
+        return lists;
+    }
 
     std::vector<LikelyDouble> LikelyDoubles(Database& database, Key key, const Texts& before,
                                             const Texts& typed) const override

@@ -6,6 +6,7 @@
 #include "family/registers/likely_doubles.hpp"
 #include "family/registers/register_of.hpp"
 #include "family/registers/registers.hpp"
+#include "family/registers/related_list.hpp"
 
 namespace kova::family::registers {
 
@@ -31,6 +32,12 @@ private:
     {
         const ListSearch sought(text);
         return CustomersWith(database, sought.Parts(), sought.Code().ValueOr(0), listed == Listed::Active);
+    }
+
+    std::span<const RelatedList* const> Related() const override
+    {
+        static const RelatedList* const lists[] = {&CustomerAppointments(), &CustomerPackages()};
+        return lists;
     }
 
     std::vector<LikelyDouble> LikelyDoubles(Database& database, Key key, const Texts& before,

@@ -149,13 +149,28 @@ struct RegisterName {
     char ending = 'o';
 };
 
+/// Rows that a list shows, by their keys.
+class RowSource {
+public:
+    virtual ~RowSource() = default;
+
+    virtual std::span<const ListColumn> ListColumns() const = 0;
+    /// The rows with those keys in their order; one that is gone is left out. Fails with a DatabaseFailure.
+    virtual std::vector<ListRow> Rows(Database& database, std::span<const Key> keys) const = 0;
+
+protected:
+    RowSource() = default;
+    RowSource(const RowSource&) = delete;
+    RowSource& operator=(const RowSource&) = delete;
+};
+
+class RelatedList;
+
 /// A register of the shop, whatever its rows are: its fields, its rows as texts, and its rules. Knows no
 /// screen and no file. Everything fails with a DatabaseFailure; with 5 where there is not one text for each
 /// field.
-class Register {
+class Register : public RowSource {
 public:
-    virtual ~Register() = default;
-
     virtual const RegisterName& Name() const = 0;
     /// The table whose rows it has.
     virtual const char* Table() const = 0;
@@ -212,7 +227,6 @@ public:
     virtual RemoveAnswer TakeBackWithin(Database& database, Key key, const AuditedColumns& before,
                                         const AuditedColumns& after, const Author& author) const = 0;
 
-    virtual std::span<const ListColumn> ListColumns() const = 0;
     /// Whether its rows can be inactive.
     virtual bool HasInactive() const = 0;
     /// Keys of the rows that hold the text, case, accents and the punctuation of numbers aside, in the order
@@ -221,8 +235,6 @@ public:
     {
         return FindRows(database, text, listed);
     }
-    /// Those rows in that order; one that is gone is left out.
-    virtual std::vector<ListRow> Rows(Database& database, std::span<const Key> keys) const = 0;
     /// Find and Rows at once: `most` rows from the row `first` on.
     ListPage Search(Database& database, const std::string& text, std::size_t first, std::size_t most,
                     Listed listed = Listed::All) const;
@@ -235,12 +247,11 @@ public:
     /// what the choice depends on. Empty for all other fields.
     virtual std::vector<Offer> Offers(Database& database, std::size_t field, const Texts& typed) const;
 
+    /// What is looked at beside the form of a row; none for most registers.
+    virtual std::span<const RelatedList* const> Related() const { return {}; }
+
 protected:
     virtual std::vector<Key> FindRows(Database& database, const std::string& text, Listed listed) const = 0;
-
-    Register() = default;
-    Register(const Register&) = delete;
-    Register& operator=(const Register&) = delete;
 };
 
 /// The place of the field that is called so. Fails with 5 where there is none.

@@ -1,14 +1,12 @@
 #include "host/shell/tab_row.hpp"
 
 #include "screens/refusal_label.hpp"
-#include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
-#include <QStylePainter>
 #include <QToolButton>
 
 namespace kova::host {
@@ -16,56 +14,13 @@ namespace kova::host {
 namespace {
 
 constexpr int RowHeight = 30;
-constexpr int RoomBesideText = 16;
-constexpr int UnderlineHeight = 3;
 constexpr int WidestName = 240;
-/// Keeps focus rings apart from the row's edges.
-constexpr QMargins RingMargins(3, 3, 3, 4);
 
 } // namespace
 
-Tabs::Tabs(QWidget* parent) : QTabBar(parent)
-{
-    setDrawBase(false);
-    setExpanding(false);
-    setFocusPolicy(Qt::TabFocus);
-    setAccessibleName(QStringLiteral("Áreas do programa"));
-}
-
-QSize Tabs::tabSizeHint(int index) const
-{
-    QFont bold = font();
-    bold.setBold(true);
-    return {QFontMetrics(bold).horizontalAdvance(tabText(index)) + 2 * RoomBesideText, RowHeight};
-}
-
-void Tabs::paintEvent(QPaintEvent*)
-{
-    QStylePainter painter(this);
-    for (int index = 0; index < count(); ++index)
-        PaintTab(painter, index);
-}
-
-void Tabs::PaintTab(QPainter& painter, int index) const
-{
-    const QRect place = tabRect(index);
-    const bool isOnShow = index == currentIndex();
-    QFont words = font();
-    words.setBold(isOnShow);
-    painter.setFont(words);
-    painter.setPen(isOnShow ? qt::look::Ink : qt::look::MutedInk);
-    painter.drawText(place, Qt::AlignCenter, tabText(index));
-    if (isOnShow)
-        painter.fillRect(
-            QRect(place.left(), place.bottom() + 1 - UnderlineHeight, place.width(), UnderlineHeight),
-            qt::look::Accent);
-    if (isOnShow && hasFocus())
-        qt::PaintFocusRing(painter, place.marginsRemoved(RingMargins), qt::look::Band);
-}
-
 TabRow::TabRow(QWidget* parent)
     : QWidget(parent),
-      tabs_(new Tabs(this)),
+      tabs_(new screens::Tabs(QStringLiteral("Áreas do programa"), this)),
       shop_(new QLabel(this)),
       user_(new QLabel(this)),
       button_(new QToolButton(this)),
