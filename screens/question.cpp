@@ -9,9 +9,11 @@ namespace {
 
 const QString ProductName = QStringLiteral("Kovaris");
 
-bool AskYesNo(QWidget& over, const QString& text)
+} // namespace
+
+bool AskWhether(QWidget& over, const QString& question)
 {
-    QMessageBox box(QMessageBox::Question, ProductName, text, QMessageBox::NoButton, &over);
+    QMessageBox box(QMessageBox::Question, ProductName, question, QMessageBox::NoButton, &over);
     QPushButton* yes = box.addButton(QStringLiteral("&Sim"), QMessageBox::YesRole);
     QPushButton* no = box.addButton(QStringLiteral("&Não"), QMessageBox::NoRole);
     box.setDefaultButton(no);
@@ -19,8 +21,6 @@ bool AskYesNo(QWidget& over, const QString& text)
     box.exec();
     return box.clickedButton() == yes;
 }
-
-} // namespace
 
 WhatOfChanges AskAboutChanges(QWidget& over, const QString& title)
 {
@@ -40,7 +40,7 @@ WhatOfChanges AskAboutChanges(QWidget& over, const QString& title)
 
 bool AskToDiscard(QWidget& over)
 {
-    return AskYesNo(over, QStringLiteral("Desfazer o que foi digitado e não foi salvo?"));
+    return AskWhether(over, QStringLiteral("Desfazer o que foi digitado e não foi salvo?"));
 }
 
 bool AskToContinue(QWidget& over, const QString& row)
@@ -61,12 +61,12 @@ bool AskToContinue(QWidget& over, const QString& row)
 
 bool AskToSave(QWidget& over, const QString& concern)
 {
-    return AskYesNo(over, concern + QStringLiteral("\n\nSalvar mesmo assim?"));
+    return AskWhether(over, concern + QStringLiteral("\n\nSalvar mesmo assim?"));
 }
 
 bool AskToRemove(QWidget& over, const QString& one)
 {
-    return AskYesNo(over, QStringLiteral("Excluir este registro (%1)?").arg(one));
+    return AskWhether(over, QStringLiteral("Excluir este registro (%1)?").arg(one));
 }
 
 void ShowWarning(QWidget& over, const QString& text)

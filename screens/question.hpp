@@ -20,6 +20,9 @@ bool AskToSave(QWidget& over, const QString& concern);
 /// Whether that row may be removed; "Não" is offered.
 bool AskToRemove(QWidget& over, const QString& one);
 
+/// "Sim" or "Não"; "Não" is offered.
+bool AskWhether(QWidget& over, const QString& question);
+
 void ShowWarning(QWidget& over, const QString& text);
 
 } // namespace kova::screens

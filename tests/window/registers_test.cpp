@@ -5,10 +5,13 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
 
+#include <cstdlib>
 #include <fstream>
 
 namespace kova::window_test {
@@ -38,6 +41,32 @@ protected:
         return nullptr;
     }
 
+    /// The list of what belongs to the row on show, where it has the keyboard.
+    static QTableView* ListInFront()
+    {
+        auto* list = qobject_cast<QTableView*>(QApplication::focusWidget());
+        return list != nullptr && list->objectName() == QLatin1String("relacionados") ? list : nullptr;
+    }
+
+    static bool IsOpen(const char* dialog)
+    {
+        const QWidget* top = QApplication::activeModalWidget();
+        return top != nullptr && top->objectName() == QLatin1String(dialog);
+    }
+
+    /// Closes the window as soon as the form says that below.
+    void LeavesOnceToldOf(const char* what)
+    {
+        receptionist->WaitsUntil(std::string("the form says ") + what, [what] {
+            for (const QLabel* label : Window()->findChildren<QLabel*>(QStringLiteral("recado"))) {
+                if (label->isVisible() && label->text().startsWith(QString::fromUtf8(what)))
+                    return QApplication::activeModalWidget() == nullptr;
+            }
+            return false;
+        });
+        receptionist->Does("close", [] { Window()->close(); });
+    }
+
     static bool HasKeyboard(const char* name)
     {
         return Box(name) != nullptr && QApplication::focusWidget() == Box(name);
@@ -65,10 +94,11 @@ protected:
 
     Receptionist& TypesInto(const char* box, const char* text)
     {
-        return receptionist->Does(std::string("type into ") + box, [box, text] {
+        return receptionist->Does(std::string("type into ") + box, [box, typed = QString::fromUtf8(text)] {
             Box(box)->setFocus();
             Box(box)->selectAll();
-            QTest::keyClicks(Box(box), QString::fromUtf8(text));
+            for (const QChar letter : typed)
+                QTest::sendKeyEvent(QTest::Click, Box(box), Qt::Key_unknown, QString(letter), Qt::NoModifier);
         });
     }
 
@@ -145,6 +175,112 @@ TEST_F(RegistersOfTheShop, BringAFileInAndTakeItBackByKeys)
     EXPECT_EQ(std::stoi(between), std::stoi(before) + 2);
     EXPECT_EQ(Value("select count(*) from cliente"), before);
     EXPECT_EQ(Value("select usuario from auditoria where operacao = 'importacao_desfeita'"), "1 - Antônia");
+}
+
+TEST_F(RegistersOfTheShop, ShowTheAppointmentsOfACustomer)
+{
+    const std::string code = Value("select codigo_do_cliente from agendamento join cliente on codigo ="
+                                   " codigo_do_cliente where cliente.situacao in (1, 3)"
+                                   " group by codigo_do_cliente order by count(*) desc, codigo_do_cliente");
+    const std::string name = Value("select nome from cliente where codigo = " + code);
+    TurnsToCustomers();
+    TypesInto("pesquisa", name.c_str());
+    receptionist->Does("turn to the customer", [code] {
+        for (int row = 0; row < 50 && Box("Código")->text().toStdString() != code; ++row)
+            QTest::keyClick(Box("pesquisa"), row == 0 ? Qt::Key_Up : Qt::Key_Down);
+    });
+    Keys(Qt::Key_F6);
+    std::string rows, first;
+    receptionist->WaitsUntil("the appointments have the keyboard", [] { return ListInFront() != nullptr; })
+        .Does("look", [&] {
+            rows = std::to_string(ListInFront()->model()->rowCount());
+            first = ListInFront()->model()->index(0, 0).data().toString().toStdString();
+            Window()->close();
+        });
+    Run();
+    const std::string mine = " from agendamento where codigo_do_cliente = " + code;
+    EXPECT_EQ(rows, Value("select count(*)" + mine));
+    const std::string day = Value("select max(data_inicial)" + mine);
+    EXPECT_EQ(first, day.substr(8, 2) + "/" + day.substr(5, 2) + "/" + day.substr(0, 4));
+}
+
+TEST_F(RegistersOfTheShop, TellOfALikelyDoubleBeforeItIsSaved)
+{
+    const std::string phone = Value("select canal from canal_de_comunicacao where tipo = 'Celular'"
+                                    " order by codigo");
+    const std::string before = Value("select count(*) from cliente");
+    TurnsToCustomers();
+    Keys(Qt::Key_N, Qt::ControlModifier);
+    TypesInto("Nome", "Outra pessoa");
+    receptionist->Does("type the phone", [phone] {
+        for (auto* box : Window()->findChildren<QPlainTextEdit*>(QStringLiteral("Canais"))) {
+            if (box->isVisible())
+                QTest::keyClicks(box, QStringLiteral("Celular: ") + QString::fromStdString(phone));
+        }
+    });
+    Keys(Qt::Key_S, Qt::ControlModifier);
+    std::string told;
+    receptionist->WaitsUntil("the question is there", [] { return IsOpen("parecidos"); })
+        .Does("look, and go back", [&] {
+            auto* list = QApplication::activeModalWidget()->findChild<QListWidget*>();
+            told = list->item(0)->text().toStdString();
+            QTest::keyClick(list, Qt::Key_Escape);
+        });
+    std::string inBetween;
+    receptionist->Does("look", [&] { inBetween = Value("select count(*) from cliente"); });
+    receptionist->Does("save again", [] {
+        for (auto* button : Window()->findChildren<QPushButton*>(QStringLiteral("salvar"))) {
+            if (button->isVisible())
+                return QTest::mouseClick(button, Qt::LeftButton);
+        }
+    });
+    receptionist->WaitsUntil("the question is there again", [] { return IsOpen("parecidos"); })
+        .Does("save all the same", [] {
+            QTest::mouseClick(QApplication::activeModalWidget()->findChild<QPushButton*>(
+                                  QStringLiteral("salvarAssimMesmo")),
+                              Qt::LeftButton);
+        });
+    LeavesOnceToldOf("Salvo.");
+    Run();
+    EXPECT_NE(told.find("o mesmo telefone, " + phone), std::string::npos) << told;
+    EXPECT_EQ(inBetween, before);
+    EXPECT_EQ(Value("select nome from cliente order by codigo desc"), "Outra pessoa");
+}
+
+TEST_F(RegistersOfTheShop, UniteTwoCustomersWithAllTheirAppointments)
+{
+    const std::string kept =
+        Value("select codigo from cliente where situacao in (1, 3) order by nome_de_busca, codigo");
+    const std::string other =
+        Value("select codigo_do_cliente from agendamento where codigo_do_cliente <> " + kept
+              + " group by codigo_do_cliente order by count(*) desc, codigo_do_cliente");
+    const std::string both =
+        Value("select count(*) from agendamento where codigo_do_cliente in (" + kept + ", " + other + ")");
+    const std::string all = Value("select count(*) from agendamento");
+    ASSERT_NE(both, "0");
+    TurnsToCustomers();
+    Keys(Qt::Key_M, Qt::AltModifier);
+    receptionist->Picks("&Unir com outro cadastro...")
+        .WaitsUntil("the dialog is there", [] { return IsOpen("unir"); })
+        .Does("mark the other one, and unite", [other] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            auto* plan = dialog->findChild<QLabel*>(QStringLiteral("plano"));
+            const QString wanted =
+                QStringLiteral("(código ") + QString::fromStdString(other) + QLatin1Char(')');
+            for (int row = 0; row < 500 && !plan->text().contains(wanted); ++row)
+                QTest::keyClick(dialog->focusWidget(), Qt::Key_Down);
+            QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("unirCadastros")),
+                              Qt::LeftButton);
+        });
+    receptionist->Answers("Alt+S");
+    LeavesOnceToldOf("Unidos: ");
+    Run();
+    EXPECT_EQ(receptionist->Boxes().size(), 1U);
+    EXPECT_EQ(Value("select count(*) from agendamento where codigo_do_cliente = " + kept), both);
+    EXPECT_EQ(Value("select count(*) from agendamento"), all);
+    EXPECT_EQ(Value("select count(*) from cliente where codigo = " + other), "0");
+    EXPECT_EQ(Value("select count(*) from auditoria where operacao = 'uniao' and tabela = 'cliente'"), "2");
+    EXPECT_EQ(std::system((std::string(AGENDA_DATA) + " check '" + Database() + "' >/dev/null").c_str()), 0);
 }
 
 TEST_F(RegistersOfTheShop, BeginWithTheCompanyWhereThereIsNone)
