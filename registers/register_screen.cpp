@@ -354,18 +354,21 @@ bool RegisterScreen::SaveRow()
     return isSaved;
 }
 
+// Nor is asked about what would be refused for another reason.
 bool RegisterScreen::IsNoDouble()
 {
+    using family::registers::LikelyDouble;
     const family::registers::Texts typed = form_->Typed();
     const auto doubles = register_.LikelyDoubles(*desk_.database, form_->Key(), form_->Before(), typed);
-    if (doubles.empty())
+    const SaveAnswer checked = register_.Check(*desk_.database, form_->Key(), form_->Before(), typed);
+    if (doubles.empty() || (!checked.IsDone() && std::ranges::none_of(doubles, &LikelyDouble::bars)))
         return true;
     const DoublesAnswer answer = AskAboutDoubles(*this, doubles);
     if (answer.what == DoublesAnswer::What::Open) {
         ShowRow(answer.key);
         Find();
     } else if (answer.what == DoublesAnswer::What::Stay)
-        Refuse(register_.Check(*desk_.database, form_->Key(), form_->Before(), typed).refused);
+        Refuse(checked.refused);
     return answer.what == DoublesAnswer::What::Save;
 }
 
