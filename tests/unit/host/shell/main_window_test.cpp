@@ -43,7 +43,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
     }
 
-    Tabs& Row() { return window_.findChild<TabRow*>()->GetTabs(); }
+    screens::Tabs& Row() { return window_.findChild<TabRow*>()->GetTabs(); }
     QLineEdit& BoxOfAgenda() { return *window_.Container().findChild<QLineEdit*>(); }
 
     MainWindow window_{{"Pet Shop Céu", false, "Maria"}};
