@@ -29,6 +29,9 @@ Counts& TheCounts()
 
 int FollowStatement(unsigned event, void*, void* statement, void*)
 {
+    // The engine's own reading of its schema, as a connection is made, has no text and no beginning.
+    if (!sqlite3_sql(static_cast<sqlite3_stmt*>(statement)))
+        return SQLITE_OK;
     Counts& counts = TheCounts();
     long long& rows = counts.running[statement];
     if (event == SQLITE_TRACE_STMT) {
