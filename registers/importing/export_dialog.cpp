@@ -1,6 +1,7 @@
 #include "registers/importing/export_dialog.hpp"
 
 #include "family/csv/exporting.hpp"
+#include "family/csv/registers/all_registers.hpp"
 #include "registers/importing/background_job.hpp"
 #include "registers/importing/table.hpp"
 #include "screens/field_frame.hpp"

@@ -1,6 +1,7 @@
 #include "registers/importing/file_page.hpp"
 
 #include "family/csv/preview.hpp"
+#include "family/csv/registers/all_registers.hpp"
 #include "family/registers/registers.hpp"
 #include "registers/importing/table.hpp"
 #include "screens/field_frame.hpp"

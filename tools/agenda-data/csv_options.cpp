@@ -1,4 +1,5 @@
 #include "tools/agenda-data/csv_options.hpp"
+#include "family/csv/registers/all_registers.hpp"
 
 namespace kova::data {
 

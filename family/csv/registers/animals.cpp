@@ -1,5 +1,6 @@
 #include "family/registers/animals.hpp"
 #include "family/csv/import_of.hpp"
+#include "family/csv/registers/all_registers.hpp"
 #include "family/data/engine/fold_text.hpp"
 
 #include <unordered_map>

@@ -1,4 +1,5 @@
 #include "family/csv/import_of.hpp"
+#include "family/csv/registers/all_registers.hpp"
 #include "family/csv/registers/appointment_checks.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/appointment_status.hpp"

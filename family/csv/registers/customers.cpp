@@ -1,5 +1,6 @@
 #include "family/registers/customers.hpp"
 #include "family/csv/import_of.hpp"
+#include "family/csv/registers/all_registers.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/stores/customer_store.hpp"
 

@@ -1,4 +1,5 @@
 #include "family/csv/import_of.hpp"
+#include "family/csv/registers/all_registers.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/registers/shop_columns.hpp"
 

@@ -1,6 +1,7 @@
 // The registers that hold little: the shop itself, species, breeds.
 
 #include "family/csv/import_of.hpp"
+#include "family/csv/registers/all_registers.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/registers/shop_columns.hpp"
 

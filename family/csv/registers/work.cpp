@@ -1,6 +1,7 @@
 // The registers that tell when the shop is open and who is at work.
 
 #include "family/csv/import_of.hpp"
+#include "family/csv/registers/all_registers.hpp"
 #include "family/registers/work_columns.hpp"
 
 #include <map>

@@ -1,4 +1,4 @@
-#include "family/csv/register.hpp"
+#include "family/csv/registers/all_registers.hpp"
 
 #include "family/data/engine/fold_text.hpp"
 
