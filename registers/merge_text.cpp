@@ -2,6 +2,8 @@
 
 #include "family/registers/registers.hpp"
 
+#include <QStringList>
+
 namespace kova::registers {
 
 namespace {
