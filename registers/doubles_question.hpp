@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/registers/register.hpp"
+#include "family/registers/description/register.hpp"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #include "registers/form_pages.hpp"
 
-#include "family/registers/related_list.hpp"
+#include "family/registers/description/related_list.hpp"
 #include "registers/related_panel.hpp"
 #include "screens/tabs.hpp"
 

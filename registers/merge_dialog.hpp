@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/registers/customer_merge.hpp"
+#include "family/registers/customers/customer_merge.hpp"
 #include "registers/record_actions.hpp"
 
 #include <QDialog>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/registers/related_list.hpp"
+#include "family/registers/description/related_list.hpp"
 #include "registers/desk.hpp"
 
 #include <QWidget>

@@ -6,7 +6,7 @@
 #include "family/data/audit/add_row.hpp"
 #include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/select_where.hpp"
-#include "family/registers/column.hpp"
+#include "family/registers/description/column.hpp"
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,6 @@
 #include "family/csv/line_updates.hpp"
 
-#include "family/registers/typed_values.hpp"
+#include "family/registers/description/typed_values.hpp"
 
 #include <algorithm>
 

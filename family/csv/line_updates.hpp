@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/csv/header.hpp"
-#include "family/registers/register.hpp"
+#include "family/registers/description/register.hpp"
 
 #include <functional>
 #include <unordered_map>

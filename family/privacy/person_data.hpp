@@ -3,7 +3,7 @@
 #include "family/data/engine/long_work.hpp"
 #include "family/data/rows/people_rows.hpp"
 #include "family/privacy/person.hpp"
-#include "family/registers/field.hpp"
+#include "family/registers/description/field.hpp"
 
 #include <optional>
 #include <string>

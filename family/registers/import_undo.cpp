@@ -7,9 +7,9 @@
 #include "family/data/rows/table_layouts.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/pre_sales.hpp"
-#include "family/registers/references.hpp"
+#include "family/registers/description/references.hpp"
+#include "family/registers/description/taken_back.hpp"
 #include "family/registers/registers.hpp"
-#include "family/registers/taken_back.hpp"
 
 #include <algorithm>
 

@@ -1,23 +1,10 @@
 #pragma once
 
-#include "family/registers/register.hpp"
+#include "family/registers/customers/customer_registers.hpp"
+#include "family/registers/shop/shop_registers.hpp"
+#include "family/registers/shop/work_registers.hpp"
 
 namespace kova::family::registers {
-
-const Register& CustomerRegister();
-const Register& AnimalRegister();
-const Register& ServiceTypeRegister();
-const Register& ServiceRegister();
-const Register& EmployeeRegister();
-const Register& SpeciesRegister();
-const Register& BreedRegister();
-const Register& HolidayRegister();
-/// The shop itself: one row.
-const Register& CompanyRegister();
-/// When the shop is open.
-const Register& OpeningHoursRegister();
-const Register& EmployeeHoursRegister();
-const Register& AbsenceRegister();
 
 /// All of them, in the order in which people look for them.
 std::span<const Register* const> Registers();

@@ -2,7 +2,7 @@
 
 #include "family/data/stores/new_shop.hpp"
 #include "family/data/stores/usual_services.hpp"
-#include "family/registers/typed_values.hpp"
+#include "family/registers/description/typed_values.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 

@@ -1,4 +1,4 @@
-#include "family/registers/animals.hpp"
+#include "family/registers/customers/animals.hpp"
 #include "family/csv/import_of.hpp"
 #include "family/csv/registers/all_registers.hpp"
 #include "family/data/engine/fold_text.hpp"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/data/stores/appointment_rows.hpp"
-#include "family/registers/column_kinds.hpp"
+#include "family/registers/description/column_kinds.hpp"
 
 namespace kova::family::csv {
 

@@ -1,4 +1,4 @@
-#include "family/registers/customers.hpp"
+#include "family/registers/customers/customers.hpp"
 #include "family/csv/import_of.hpp"
 #include "family/csv/registers/all_registers.hpp"
 #include "family/data/engine/fold_text.hpp"

@@ -3,7 +3,7 @@
 #include "family/csv/import_of.hpp"
 #include "family/csv/registers/all_registers.hpp"
 #include "family/data/engine/fold_text.hpp"
-#include "family/registers/shop_columns.hpp"
+#include "family/registers/shop/shop_columns.hpp"
 
 #include <unordered_map>
 

@@ -2,7 +2,7 @@
 
 #include "family/csv/import_of.hpp"
 #include "family/csv/registers/all_registers.hpp"
-#include "family/registers/work_columns.hpp"
+#include "family/registers/shop/work_columns.hpp"
 
 #include <map>
 

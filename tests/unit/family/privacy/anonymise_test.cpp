@@ -7,7 +7,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
 #include "family/privacy/anonymise.hpp"
-#include "family/registers/customer_merge.hpp"
+#include "family/registers/customers/customer_merge.hpp"
 #include "family/registers/registers.hpp"
 #include "tests/unit/family/bath.hpp"
 

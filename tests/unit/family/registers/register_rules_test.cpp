@@ -2,7 +2,7 @@
 
 #include "tests/unit/family/registers/register_fixture.hpp"
 
-#include "family/registers/field.hpp"
+#include "family/registers/description/field.hpp"
 
 namespace kova::family::test {
 

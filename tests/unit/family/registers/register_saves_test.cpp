@@ -3,7 +3,7 @@
 #include "tests/unit/family/registers/register_fixture.hpp"
 
 #include "family/data/sources/data_source.hpp"
-#include "family/registers/field.hpp"
+#include "family/registers/description/field.hpp"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 
 #include "family/data/rows/numbering.hpp"
 #include "family/data/sources/data_source.hpp"
-#include "family/registers/customer_merge.hpp"
+#include "family/registers/customers/customer_merge.hpp"
 #include "family/registers/registers.hpp"
 
 #include <atomic>

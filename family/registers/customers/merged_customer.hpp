@@ -1,0 +1,36 @@
+#pragma once
+
+#include "family/registers/customers/customer_merge.hpp"
+#include "family/registers/customers/customers.hpp"
+
+namespace kova::family::registers {
+
+/// The customer with its channels; nothing where there is none.
+std::optional<CustomerRecord> FindCustomer(Database& database, Key key);
+
+/// Tells what the kept customer takes over, in `filled` and `lost`, by what the forms show.
+void CompareFields(CustomerMerge& merge);
+
+/// Does that to the record.
+void FillFields(const CustomerMerge& merge, const CustomerRecord& other, CustomerRecord& kept);
+
+/// The channels of `kept`, and behind them those of `other` that it has not: numbers are compared by their
+/// digits, everything else without case and accents.
+std::vector<ChannelRow> JoinChannels(const std::vector<ChannelRow>& kept,
+                                     const std::vector<ChannelRow>& other);
+
+/// The digits of a contact channel that is a phone number; "" of any other.
+std::string PhoneDigits(const ChannelRow& channel);
+
+/// An animal, found by its customer.
+struct AnimalOfCustomer : AnimalRow {
+    static constexpr const char* FoundBy = "codigo_do_cliente";
+};
+
+/// The animals of a customer, by code. Fails with a DatabaseFailure.
+std::vector<AnimalRow> AnimalsOf(Database& database, Key customer);
+
+/// Whether two animals have the same name and species.
+bool AreAlike(Database& database, const AnimalRow& one, const AnimalRow& other);
+
+} // namespace kova::family::registers

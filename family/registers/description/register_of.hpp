@@ -1,0 +1,502 @@
+#pragma once
+
+#include "agenda/contracts/failure.hpp"
+#include "family/business/clean_text.hpp"
+#include "family/data/audit/add_row.hpp"
+#include "family/data/audit/audited_row.hpp"
+#include "family/data/audit/import_audit.hpp"
+#include "family/data/engine/fold_text.hpp"
+#include "family/data/rows/find_by_key.hpp"
+#include "family/data/rows/select_rows.hpp"
+#include "family/data/rows/select_where.hpp"
+#include "family/data/rows/update_row.hpp"
+#include "family/data/selections/register_texts.hpp"
+#include "family/registers/description/column.hpp"
+#include "family/registers/description/field_merge.hpp"
+#include "family/registers/description/list_search.hpp"
+#include "family/registers/description/references.hpp"
+#include "family/registers/description/refusals.hpp"
+#include "family/registers/description/taken_back.hpp"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace kova::family::registers {
+
+/// A row that is locked where it is read.
+template <class Record> struct Locked : Record {
+    static constexpr bool LocksRow = true;
+};
+
+/// A column of a list, as a record fills it.
+template <class Record> struct ShownColumn {
+    ListColumn column;
+    std::function<std::string(const Record& record)> cell;
+};
+
+/// The columns of a list that show the fields of those labels. `columns` outlives them.
+template <class Record>
+std::vector<ShownColumn<Record>> ShownColumns(const Columns<Record>& columns,
+                                              std::initializer_list<std::string_view> labels)
+{
+    std::vector<ShownColumn<Record>> shown;
+    for (const std::string_view label : labels) {
+        const auto column =
+            std::ranges::find(columns, label, [](const Column<Record>& one) { return one.field.label; });
+        const FieldKind kind = column->field.kind;
+        const bool isNumber =
+            kind == FieldKind::Code || kind == FieldKind::WholeNumber || kind == FieldKind::Money;
+        shown.push_back({{label, isNumber}, [column](const Record& record) { return column->Show(record); }});
+    }
+    return shown;
+}
+
+/// Offers the active ones of the rows that `isMeant` takes, by their names.
+template <class Row, class IsMeant> std::vector<Offer> OfferedNames(std::vector<Row> rows, IsMeant isMeant)
+{
+    std::ranges::sort(rows, {}, &Row::nomeDeBusca);
+    std::vector<Offer> offers;
+    for (const Row& row : rows) {
+        if (row.situacao == 1 && isMeant(row))
+            offers.push_back({row.nome, row.nome});
+    }
+    return offers;
+}
+
+/// A register whose rows are Records: rows of one table with what belongs to them. What is of its own lies in
+/// the hooks. The first of the columns is the code.
+///
+/// All saves wait for each other, and for imports: what may be there only once is looked for in peace.
+template <class Record> class RegisterOf : public Register {
+public:
+    const RegisterName& Name() const override { return name_; }
+    const char* Table() const override { return Record::Table; }
+    const std::vector<FieldInfo>& Fields() const override { return fields_; }
+
+    Texts New() const override
+    {
+        Texts texts = TextsOf(Record());
+        for (std::size_t at = 0; at < texts.size(); ++at) {
+            if (fields_[at].required)
+                texts[at].clear();
+        }
+        return texts;
+    }
+
+    std::optional<Texts> Read(Database& database, Key key) const override
+    {
+        const auto record = FindRow<Record>(database, key);
+        return record ? std::optional(TextsOf(*record)) : std::nullopt;
+    }
+
+    TidyText Tidy(std::size_t field, const std::string& before, const std::string& typed) const override
+    {
+        const Column<Record>& column = *columns_.at(field);
+        const std::string text = CleanText(typed);
+        if (text.empty() || text == CleanText(before))
+            return {typed};
+        Record record;
+        if (!before.empty())
+            column.read(before, record);
+        column.clear(record);
+        std::string why = column.read(text, record);
+        return why.empty() ? TidyText{column.Show(record)} : TidyText{typed, std::move(why)};
+    }
+
+    SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
+                          const Author& author) const override
+    {
+        LockImports(database);
+        return Answer<Locked<Record>>(database, key, before, typed, &author);
+    }
+
+    SaveAnswer Check(Database& database, Key key, const Texts& before, const Texts& typed) const override
+    {
+        return Answer<Record>(database, key, before, typed, nullptr);
+    }
+
+    RemoveAnswer RemoveWithin(Database& database, Key key, const Author& author) const override
+    {
+        LockImports(database);
+        const auto stored = FindRow<Locked<Record>>(database, key);
+        if (!stored)
+            return {RemoveAnswer::Outcome::Gone, {}};
+        if (std::string why = WhyKept(database, *stored); !why.empty())
+            return {RemoveAnswer::Outcome::Kept, std::move(why)};
+        if (const std::string users = UsersOf(database, Record::Table, key, OwnTable()); !users.empty())
+            return {RemoveAnswer::Outcome::Kept, InUse(users)};
+        RemoveOwn(database, key);
+        DeleteWhere(database, Record::Table, KeyColumn(), key);
+        AuditRemoval(database, author, Record::Table, key, ValuesOf<Record>(*stored));
+        return {};
+    }
+
+    RemoveAnswer TakeBackWithin(Database& database, Key key, const AuditedColumns& before,
+                                const AuditedColumns& after, const Author& author) const override
+    {
+        LockImports(database);
+        const auto stored = FindRow<Locked<Record>>(database, key);
+        if (!stored)
+            return {RemoveAnswer::Outcome::Gone, {}};
+        if (!StandsAs<Record>(*stored, after))
+            return {RemoveAnswer::Outcome::Kept, StandsOtherwise};
+        if (before.empty())
+            return RemoveWithin(database, key, author);
+        if (std::string missing = MissingTarget(database, Record::Table, before, after); !missing.empty())
+            return {RemoveAnswer::Outcome::Kept, std::move(missing)};
+        return PutBack(database, *stored, before, author);
+    }
+
+    void Judge(Database& database, const std::function<void(const JudgedField&)>& tell) const override
+    {
+        SelectPages<Record>(database, [&](std::vector<Record>& page) {
+            for (std::size_t first = 0; first < page.size(); first += LoadedAtOnce)
+                Load(database, std::span(page).subspan(first, std::min(LoadedAtOnce, page.size() - first)));
+            for (const Record& record : page)
+                JudgeFields(record, tell);
+        });
+    }
+
+    std::span<const ListColumn> ListColumns() const override { return listColumns_; }
+
+    bool HasInactive() const override { return HasSituation; }
+
+    std::vector<ListRow> Rows(Database& database, std::span<const Key> keys) const override
+    {
+        std::vector<Record> records;
+        SelectWhere<Record>(database, std::set<Key>(keys.begin(), keys.end()),
+                            [&](const Record& record) { records.push_back(record); });
+        LoadShown(database, records);
+        std::unordered_map<Key, ListRow> found;
+        for (const Record& record : records)
+            found[KeyIn(record)] = {KeyIn(record), CellsOf(record), IsActive(record)};
+        std::vector<ListRow> rows;
+        for (const Key key : keys) {
+            if (const auto row = found.find(key); row != found.end())
+                rows.push_back(row->second);
+        }
+        return rows;
+    }
+
+protected:
+    RegisterOf(const RegisterName& name, const Columns<Record>& columns,
+               std::vector<ShownColumn<Record>> shown)
+        : name_(name), shown_(std::move(shown))
+    {
+        for (const Column<Record>& column : columns) {
+            if (!column.write)
+                continue;
+            columns_.push_back(&column);
+            fields_.push_back(column.field);
+        }
+        for (const ShownColumn<Record>& column : shown_)
+            listColumns_.push_back(column.column);
+    }
+
+    /// Reads what belongs to the records beside their rows.
+    virtual void Load(Database&, std::span<Record>) const { }
+    /// The same, as far as a list shows it.
+    virtual void LoadShown(Database& database, std::span<Record> records) const { Load(database, records); }
+    /// The same of a record that was put back to the values of an earlier row.
+    virtual void LoadFormer(Database& database, Record& record) const
+    {
+        Load(database, std::span(&record, 1));
+    }
+    /// What speaks against a record beyond its single fields; `stored` is missing for a new one. Fills in
+    /// what follows from the fields. A field that could not be read is refused already.
+    virtual void CheckRecord(Database&, const Record* stored, Record& record, Refusals&) const = 0;
+    /// Writes a record that is good, with its line in the audit. Answers its key.
+    virtual Key WriteRecord(Database& database, const Record* stored, Record& record,
+                            const Author& author) const
+    {
+        if (!stored)
+            return AddRow<Record>(database, record, author);
+        const Key key = KeyIn(record);
+        Update<Record>(database, record);
+        AuditChange(database, author, Record::Table, key, ValuesOf<Record>(*stored),
+                    ValuesOf<Record>(record));
+        return key;
+    }
+    /// What speaks against a record by itself, beyond its single fields.
+    virtual void JudgeRecord(const Record&, Refusals&) const { }
+    /// Why a row may not go although nothing refers to it.
+    virtual std::string WhyKept(Database&, const Record&) const { return {}; }
+    /// The table whose rows belong to the register's own and go with them.
+    virtual const char* OwnTable() const { return ""; }
+    virtual void RemoveOwn(Database&, Key) const { }
+    /// The column of an appointment that refers to the register.
+    virtual const char* BookedBy() const { return ""; }
+    /// What the list is ordered by, before the code.
+    virtual std::string OrderOf(const Record& record) const { return FoldText(shown_.front().cell(record)); }
+
+    /// What a form's texts make; nothing where one cannot be read, or is missing.
+    std::optional<Record> RecordOf(const Texts& typed) const
+    {
+        Record record;
+        for (std::size_t at = 1; at < typed.size(); ++at) {
+            const Column<Record>& column = *columns_[at];
+            const std::string text = CleanText(typed[at]);
+            column.clear(record);
+            if (text.empty() ? column.field.required : !column.read(text, record).empty())
+                return std::nullopt;
+        }
+        return record;
+    }
+
+    /// As a form shows them.
+    Texts TextsOf(const Record& record) const
+    {
+        Texts texts;
+        for (const Column<Record>* column : columns_)
+            texts.push_back(column->Show(record));
+        return texts;
+    }
+
+    static Key KeyIn(Record record) { return KeyOfRow(record); }
+    static bool IsActive(const Record& record)
+    {
+        if constexpr (HasSituation)
+            return record.situacao == Active;
+        return true;
+    }
+
+    std::vector<Key> FindRows(Database& database, const std::string& text, Listed listed) const override
+    {
+        const ListSearch sought(text);
+        std::vector<std::pair<std::string, Key>> found;
+        for (const Record& record : AllRows(database)) {
+            const Key key = KeyIn(record);
+            const bool isSought = sought.IsIn(SearchedText(record)) || sought.Code().ValueOr(0) == key;
+            const bool isLeftOut = listed == Listed::Active && IsHidden(record);
+            if (!isLeftOut && (sought.IsEmpty() || isSought))
+                found.emplace_back(OrderOf(record), key);
+        }
+        std::ranges::sort(found);
+        std::vector<Key> keys;
+        for (const auto& [order, key] : found)
+            keys.push_back(key);
+        return keys;
+    }
+
+    /// Inactive or deleted; who is blocked is not.
+    static bool IsHidden(const Record& record)
+    {
+        if constexpr (HasSituation)
+            return IsHiddenSituation(record.situacao);
+        return false;
+    }
+
+    std::vector<Record> AllRows(Database& database) const
+    {
+        std::vector<Record> records;
+        SelectRows<Record>(database, [&](const Record& record) { records.push_back(record); });
+        LoadShown(database, records);
+        return records;
+    }
+
+    /// Whether a row other than the record has the same `trait` although the record, as it is stored, has
+    /// not.
+    template <class Trait>
+    bool IsTaken(Database& database, const Record* stored, const Record& record, Trait trait) const
+    {
+        const auto sought = trait(record);
+        if (stored && trait(*stored) == sought)
+            return false;
+        return std::ranges::any_of(AllRows(database), [&](const Record& other) {
+            return KeyIn(other) != KeyIn(record) && trait(other) == sought;
+        });
+    }
+
+    /// Whether the record is the last active one, as it is stored.
+    bool IsLastActive(Database& database, const Record& record) const
+    {
+        return IsActive(record) && std::ranges::none_of(AllRows(database), [&](const Record& other) {
+                   return IsActive(other) && KeyIn(other) != KeyIn(record);
+               });
+    }
+
+private:
+    static constexpr bool HasSituation = requires(Record record) { record.situacao; };
+    static constexpr int Active = 1;
+    static constexpr Key LinesToLookAt = 100;
+    /// Rows whose own are read together: several of them belong to one.
+    static constexpr std::size_t LoadedAtOnce = 200;
+
+    template <class Row> std::optional<Record> FindRow(Database& database, Key key) const
+    {
+        std::optional<Record> record = FindByKey<Row>(database, key);
+        if (record)
+            Load(database, std::span(&*record, 1));
+        return record;
+    }
+
+    static std::string KeyColumn()
+    {
+        std::string name;
+        Record().Columns([&](const char* column, auto&) {
+            if (name.empty())
+                name = column;
+        });
+        return name;
+    }
+
+    /// The texts in one way, as the stored ones would be shown. What cannot be read stays as it was typed.
+    Texts Comparable(Texts texts) const
+    {
+        for (std::size_t at = 0; at < texts.size(); ++at) {
+            const Column<Record>& column = *columns_[at];
+            texts[at] = CleanText(texts[at]);
+            Record scratch;
+            const bool isEmpty = texts[at].empty();
+            if (isEmpty ? !column.field.required : column.read(texts[at], scratch).empty())
+                texts[at] = column.Show(scratch);
+        }
+        return texts;
+    }
+
+    /// Without an author nothing is written.
+    template <class Row>
+    SaveAnswer Answer(Database& database, Key key, const Texts& before, const Texts& typed,
+                      const Author* author) const
+    {
+        if (typed.size() != fields_.size() || (key != 0 && before.size() != fields_.size()))
+            throw Failure(FailureNumber::InvalidArgument);
+        if (key == 0)
+            return Write(database, nullptr, Comparable(New()), Comparable(typed), author);
+        const auto stored = FindRow<Row>(database, key);
+        if (!stored)
+            return {.outcome = SaveAnswer::Outcome::Gone, .key = key};
+        const Texts now = Comparable(TextsOf(*stored));
+        const MergedTexts merged = MergeTexts(fields_, {Comparable(before), now, Comparable(typed)}, [&] {
+            return FindAuditLines(database, Record::Table, key, LinesToLookAt);
+        });
+        if (!merged.clashes.empty())
+            return {.outcome = SaveAnswer::Outcome::Refused,
+                    .key = key,
+                    .refused = merged.clashes,
+                    .clash = merged.text};
+        return Write(database, &*stored, now, merged.wanted, author);
+    }
+
+    SaveAnswer Write(Database& database, const Record* stored, const Texts& now, const Texts& wanted,
+                     const Author* author) const
+    {
+        Record record = stored ? *stored : Record();
+        Refusals refusals(fields_);
+        SaveAnswer answer;
+        answer.key = KeyIn(record);
+        for (std::size_t at = 0; at < wanted.size(); ++at) {
+            if (!stored || wanted[at] != now[at])
+                Take(at, wanted[at], record, refusals);
+            if (wanted[at] != now[at])
+                answer.changed.push_back({at, now[at], wanted[at]});
+        }
+        CheckRecord(database, stored, record, refusals);
+        if (!refusals.IsEmpty())
+            return {
+                .outcome = SaveAnswer::Outcome::Refused, .key = answer.key, .refused = refusals.InOrder()};
+        if (author && !(stored && IsSame(*stored, record)))
+            answer.key = WriteRecord(database, stored, record, *author);
+        if (author && stored && IsActive(*stored) && !IsActive(record) && *BookedBy())
+            answer.booked = BookedSince(database, BookedBy(), answer.key, author->moment);
+        return answer;
+    }
+
+    void JudgeFields(const Record& record, const std::function<void(const JudgedField&)>& tell) const
+    {
+        Refusals refusals(fields_);
+        for (std::size_t at = 1; at < columns_.size(); ++at) {
+            const std::string text = columns_[at]->write(record);
+            Record scratch;
+            if (text.empty() && columns_[at]->field.required)
+                refusals.Add(at, "deve ser informado.");
+            if (text.empty())
+                continue;
+            columns_[at]->clear(scratch);
+            if (std::string why = columns_[at]->read(text, scratch); !why.empty())
+                refusals.Add(at, std::move(why));
+        }
+        JudgeRecord(record, refusals);
+        for (RefusedField& refused : refusals.InOrder())
+            tell({KeyIn(record), refused.field, columns_[refused.field]->write(record),
+                  std::move(refused.why)});
+    }
+
+    void Take(std::size_t at, const std::string& text, Record& record, Refusals& refusals) const
+    {
+        if (at == 0) {
+            if (!text.empty())
+                refusals.Add(at, "é dado pelo banco de dados e não muda.");
+            return;
+        }
+        const Column<Record>& column = *columns_[at];
+        column.clear(record);
+        if (text.empty() && column.field.required)
+            refusals.Add(at, "deve ser informado.");
+        if (text.empty())
+            return;
+        if (std::string why = column.read(text, record); !why.empty())
+            refusals.Add(at, std::move(why));
+    }
+
+    RemoveAnswer PutBack(Database& database, const Record& stored, const AuditedColumns& before,
+                         const Author& author) const
+    {
+        Record record = stored;
+        if (!TakeColumns(before, record))
+            return {RemoveAnswer::Outcome::Kept, StandsOtherwise};
+        LoadFormer(database, record);
+        Refusals refusals(fields_);
+        CheckRecord(database, &stored, record, refusals);
+        std::string why;
+        for (const RefusedField& refused : refusals.InOrder())
+            why.append(why.empty() ? "" : " ")
+                .append(fields_[refused.field].label)
+                .append(": ")
+                .append(refused.why);
+        if (!why.empty())
+            return {RemoveAnswer::Outcome::Kept, "O que havia antes não cabe mais. " + why};
+        WriteRecord(database, &stored, record, author);
+        return {};
+    }
+
+    static bool IsSame(const Record& one, const Record& other)
+    {
+        return ValuesOf<Record>(one).Line() == ValuesOf<Record>(other).Line();
+    }
+
+    std::string InUse(const std::string& users) const
+    {
+        std::string text = "Está em uso (" + users + ") e não pode ser excluíd" + name_.ending + ".";
+        if (HasSituation)
+            text += " Marque a situação como Inativo.";
+        return text;
+    }
+
+    Texts CellsOf(const Record& record) const
+    {
+        Texts cells;
+        for (const ShownColumn<Record>& column : shown_)
+            cells.push_back(column.cell(record));
+        return cells;
+    }
+
+    std::string SearchedText(const Record& record) const
+    {
+        std::string text;
+        for (const ShownColumn<Record>& column : shown_) {
+            if (!column.column.number)
+                text.append(FoldText(column.cell(record))).append("\n");
+        }
+        return text;
+    }
+
+    const RegisterName name_;
+    std::vector<ShownColumn<Record>> shown_;
+    std::vector<ListColumn> listColumns_;
+    /// Those that are fields of a form.
+    std::vector<const Column<Record>*> columns_;
+    std::vector<FieldInfo> fields_;
+};
+
+} // namespace kova::family::registers
