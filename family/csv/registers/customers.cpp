@@ -1,11 +1,9 @@
 #include "family/registers/customers/customers.hpp"
 #include "family/csv/import_of.hpp"
 #include "family/csv/registers/all_registers.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/data/stores/customer_store.hpp"
+#include "family/registers/contacts/compared_channels.hpp"
 
-#include <algorithm>
-#include <iterator>
 #include <unordered_map>
 
 namespace kova::family::csv {
@@ -15,6 +13,7 @@ namespace {
 using family::ChannelRow;
 using family::CustomerRow;
 using family::registers::ChannelOfCustomer;
+using family::registers::ComparableChannel;
 using family::registers::CustomerColumns;
 using family::registers::CustomerRecord;
 using family::registers::KnownDocument;
@@ -41,16 +40,6 @@ ChannelsByCustomer FindChannels(family::Database& database, const std::set<Key>&
         channels[row.codigoDoCliente].push_back(row);
     });
     return channels;
-}
-
-/// A number is the same however it is written.
-std::string SoughtChannel(const ChannelRow& channel)
-{
-    std::string digits;
-    std::ranges::copy_if(channel.canal, std::back_inserter(digits),
-                         [](char letter) { return letter >= '0' && letter <= '9'; });
-    const bool isNumber = channel.canal.find('@') == std::string::npos && digits.size() > 5;
-    return isNumber ? digits : family::FoldText(channel.canal);
 }
 
 class CustomerImport : public ImportOf<CustomerRecord> {
@@ -98,7 +87,7 @@ private:
             return {record.nomeDeBusca + "\n\n" + record.enderecoDeBusca};
         std::vector<std::string> traits;
         for (const ChannelRow& channel : record.channels)
-            traits.push_back(record.nomeDeBusca + "\n" + SoughtChannel(channel));
+            traits.push_back(record.nomeDeBusca + "\n" + ComparableChannel(channel));
         return traits;
     }
 

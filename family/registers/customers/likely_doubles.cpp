@@ -6,6 +6,7 @@
 #include "family/data/rows/select_where.hpp"
 #include "family/data/selections/register_texts.hpp"
 #include "family/registers/contacts/channel_texts.hpp"
+#include "family/registers/contacts/compared_channels.hpp"
 #include "family/registers/customers/animals.hpp"
 #include "family/registers/customers/customer_registers.hpp"
 #include "family/registers/customers/customers.hpp"

@@ -4,6 +4,7 @@
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/select_where.hpp"
 #include "family/registers/contacts/channel_texts.hpp"
+#include "family/registers/contacts/compared_channels.hpp"
 #include "family/registers/customers/customer_registers.hpp"
 
 #include <algorithm>
@@ -89,12 +90,6 @@ private:
     const bool isSameAddress_;
 };
 
-std::string ComparableChannel(const ChannelRow& channel)
-{
-    std::string digits = PhoneDigits(channel);
-    return digits.empty() ? FoldText(channel.canal) : digits;
-}
-
 /// Copies a column of one row into another.
 void CopyColumn(std::string_view column, CustomerRow from, CustomerRow& to)
 {
@@ -137,27 +132,6 @@ void FillFields(const CustomerMerge& merge, const CustomerRecord& other, Custome
                 CopyColumn(column, other, kept);
     }
     kept.Complete();
-}
-
-std::string PhoneDigits(const ChannelRow& channel)
-{
-    constexpr std::size_t FewestDigits = 6;
-    std::string digits;
-    std::ranges::copy_if(channel.canal, std::back_inserter(digits),
-                         [](char letter) { return letter >= '0' && letter <= '9'; });
-    const bool isNumber = channel.canal.find('@') == std::string::npos && digits.size() >= FewestDigits;
-    return isNumber ? digits : "";
-}
-
-std::vector<ChannelRow> JoinChannels(const std::vector<ChannelRow>& kept,
-                                     const std::vector<ChannelRow>& other)
-{
-    std::vector<ChannelRow> joined = kept;
-    for (const ChannelRow& channel : other) {
-        if (std::ranges::find(joined, ComparableChannel(channel), ComparableChannel) == joined.end())
-            joined.push_back(channel);
-    }
-    return joined;
 }
 
 std::vector<AnimalRow> AnimalsOf(Database& database, Key customer)

@@ -14,14 +14,6 @@ void CompareFields(CustomerMerge& merge);
 /// Does that to the record.
 void FillFields(const CustomerMerge& merge, const CustomerRecord& other, CustomerRecord& kept);
 
-/// The channels of `kept`, and behind them those of `other` that it has not: numbers are compared by their
-/// digits, everything else without case and accents.
-std::vector<ChannelRow> JoinChannels(const std::vector<ChannelRow>& kept,
-                                     const std::vector<ChannelRow>& other);
-
-/// The digits of a contact channel that is a phone number; "" of any other.
-std::string PhoneDigits(const ChannelRow& channel);
-
 /// An animal, found by its customer.
 struct AnimalOfCustomer : AnimalRow {
     static constexpr const char* FoundBy = "codigo_do_cliente";

@@ -2,6 +2,7 @@
 
 #include "family/registers/contacts/channel_kinds.hpp"
 #include "family/registers/contacts/channel_texts.hpp"
+#include "family/registers/contacts/compared_channels.hpp"
 #include "family/registers/contacts/phone_numbers.hpp"
 #include "family/registers/contacts/postal_codes.hpp"
 
@@ -127,6 +128,25 @@ TEST(Channels, LeaveAloneWhatStoodThereBefore)
     EXPECT_EQ(WriteChannels(channels), "Celular: 9123-4567; Telefone: (11) 3123-4567");
     channels.clear();
     EXPECT_NE(ReadChannels("Telefone: 9123-4567", channels, former), "") << "it was of another kind";
+}
+
+TEST(Channels, AreTheSameHoweverTheyAreWritten)
+{
+    const auto compared = [](const char* text) { return ComparableChannel({0, 0, "Contato", text}); };
+    EXPECT_EQ(compared("(11) 91234-5678"), compared("11 912345678"));
+    EXPECT_EQ(compared("José@Example.com"), compared("jose@example.COM"));
+    EXPECT_NE(compared("a123456@example.com"), compared("b123456@example.com")) << "it is an address";
+    EXPECT_NE(compared("ramal 12345"), compared("sala 12345")) << "too few digits for a number";
+    EXPECT_EQ(compared("tel 123456"), compared("123-456"));
+}
+
+TEST(Channels, AreJoinedOnceEach)
+{
+    const std::vector<ChannelRow> kept = {{1, 7, "Celular", "(11) 91234-5678"}};
+    const std::vector<ChannelRow> other = {{2, 8, "WhatsApp", "11912345678"},
+                                           {3, 8, "E-mail", "ze@example.com"},
+                                           {4, 8, "E-mail", "ZE@example.com"}};
+    EXPECT_EQ(WriteChannels(JoinChannels(kept, other)), "Celular: (11) 91234-5678; E-mail: ze@example.com");
 }
 
 TEST(PostalCodes, LieInTheirState)
