@@ -3,7 +3,7 @@
 #include "agenda/contracts/utf8.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/people_rows.hpp"
-#include "family/data/rows/select_those.hpp"
+#include "family/data/rows/select_rows.hpp"
 
 #include <algorithm>
 
@@ -72,7 +72,7 @@ void VisitAudit(Database& database, Key behind, const LongWork& work,
     constexpr int LinesAtOnce = 1000;
     const Key last = LastAuditLine(database);
     int lines = 0;
-    SelectThose<StoredAuditLine>(database, behind, [&](const StoredAuditLine& line) {
+    SelectRowsBehind<StoredAuditLine>(database, behind, [&](const StoredAuditLine& line) {
         if (lines++ % LinesAtOnce == 0) {
             work.RequireGoingOn();
             work.Reach(std::min(line.codigo, last) - behind, last - behind);

@@ -4,7 +4,7 @@
 #include "family/data/audit/merged_rows.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/people_rows.hpp"
-#include "family/data/rows/select_those.hpp"
+#include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/select_where.hpp"
 
 #include <limits>
@@ -99,8 +99,7 @@ std::vector<AppointmentRow> AppointmentsOf(Database& database, Key customer)
 void FindLikelyAppointments(Database& database, const Identity& identity,
                             const std::function<void(const AppointmentRow&, Likeness)>& visit)
 {
-    constexpr Key FromTheFirst = std::numeric_limits<Key>::min();
-    SelectThose<SimplifiedAppointment>(database, FromTheFirst, [&](const SimplifiedAppointment& row) {
+    SelectRows<SimplifiedAppointment>(database, [&](const SimplifiedAppointment& row) {
         const Likeness likeness =
             identity.LikenessTo(row.nomeDoCliente, row.canaisDoCliente, row.nomeDoAnimal);
         if (likeness != Likeness::None)
