@@ -122,6 +122,9 @@ protected:
     /// Whether the line is left out because a stored record stands there.
     static bool LeavesOut(const Place& place, Line& line) { return place.IsStored() && line.IsStored(); }
 
+    /// Whether any of those being checked may be like a stored one.
+    bool SeeksTraits() const { return !soughtTraits_.empty(); }
+
     static Key CodeIn(Record record) { return family::KeyOfRow(record); }
     family::Database& GetDatabase() { return database_; }
 
@@ -226,14 +229,6 @@ void ExportRecord(const Columns<Record>& columns, const Record& record, const Fi
             fields.push_back(column.write(record));
     }
     sink(fields);
-}
-
-/// The export of a register whose records are the rows of one table.
-template <class Record>
-void ExportRows(family::Database& database, const Columns<Record>& columns, const FieldsSink& sink)
-{
-    ExportNames(columns, sink);
-    family::SelectRows<Record>(database, [&](const Record& record) { ExportRecord(columns, record, sink); });
 }
 
 } // namespace kova::family::csv

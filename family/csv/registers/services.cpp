@@ -1,34 +1,23 @@
-#include "family/csv/import_of.hpp"
+#include "family/csv/import_of_rows.hpp"
 #include "family/csv/registers/all_registers.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/registers/shop/shop_columns.hpp"
 
 namespace kova::family::csv {
 
 namespace {
 
-using family::ServiceTypeRow;
-using family::registers::ServiceColumns;
-using family::registers::ServiceRecord;
-namespace column = family::registers::shop_columns;
+using registers::ServiceColumns;
+using registers::ServiceRecord;
+namespace column = registers::shop_columns;
 
-class ServiceImport : public ImportOf<ServiceRecord> {
+class ServiceImport : public ImportOfRows<ServiceRecord> {
 public:
-    ServiceImport(family::Database& database, DateTime) : ImportOf(database, ServiceColumns())
+    ServiceImport(Database& database, DateTime)
+        : ImportOfRows(database, ServiceColumns()), types_(AllCodes<ServiceTypeRow>(database))
     {
-        family::SelectRows<ServiceTypeRow>(database,
-                                           [&](const ServiceTypeRow& row) { types_.insert(row.numero); });
     }
 
 private:
-    void Complete(ServiceRecord& row) const override { row.nomeDeBusca = family::FoldText(row.nome); }
-
-    void LookUp(std::span<const ServiceRecord>) override
-    {
-        family::SelectRows<ServiceRecord>(GetDatabase(),
-                                          [this](const ServiceRecord& row) { AddStored(row); });
-    }
-
     std::vector<std::string> TraitsOf(const ServiceRecord& row) const override
     {
         return {std::to_string(row.numeroDoTipo) + "\n" + row.nomeDeBusca};
@@ -36,26 +25,16 @@ private:
 
     void CheckRecord(ServiceRecord& row, Line& line) override
     {
-        if (row.numeroDoTipo != 0 && types_.count(row.numeroDoTipo) == 0)
+        if (row.numeroDoTipo != 0 && !types_.contains(row.numeroDoTipo))
             line.Refuse(column::TypeOfService, std::to_string(row.numeroDoTipo),
                         "não há tipo de serviço com este número.");
     }
 
-    void WriteRecord(ServiceRecord& row, const family::Author& author) override
-    {
-        family::AddRow(GetDatabase(), row, author);
-    }
-
-    std::unordered_set<Key> types_;
+    const std::unordered_set<Key> types_;
 };
 
 } // namespace
 
-const Register ServiceRegister{
-    "servicos",
-    StartImport<ServiceImport>,
-    [](family::Database& database, const FieldsSink& sink) { ExportRows(database, ServiceColumns(), sink); },
-    ServiceRecord::Table,
-};
+constinit const Register ServiceRegister = RegisterOfRows<ServiceImport, ServiceColumns>("servicos");
 
 } // namespace kova::family::csv

@@ -1,6 +1,6 @@
 // The registers that tell when the shop is open and who is at work.
 
-#include "family/csv/import_of.hpp"
+#include "family/csv/import_of_rows.hpp"
 #include "family/csv/registers/all_registers.hpp"
 #include "family/registers/shop/work_columns.hpp"
 
@@ -10,24 +10,17 @@ namespace kova::family::csv {
 
 namespace {
 
-using family::EmployeeHoursRow;
-using family::EmployeeRow;
-using family::OpeningHoursRow;
-using family::registers::AbsenceColumns;
-using family::registers::AbsenceRecord;
-using family::registers::EmployeeHoursColumns;
-using family::registers::EmployeeHoursRecord;
-using family::registers::OpeningHoursColumns;
-namespace column = family::registers::work_columns;
+using registers::AbsenceColumns;
+using registers::AbsenceRecord;
+using registers::EmployeeHoursColumns;
+using registers::EmployeeHoursRecord;
+using registers::OpeningHoursColumns;
+namespace column = registers::work_columns;
 
 /// The codes of the employees.
 class Employees {
 public:
-    explicit Employees(family::Database& database)
-    {
-        family::SelectRows<EmployeeRow>(database,
-                                        [this](const EmployeeRow& row) { codes_.insert(row.codigo); });
-    }
+    explicit Employees(Database& database) : codes_(AllCodes<EmployeeRow>(database)) { }
 
     /// A code of 0 is one that could not be read, or none.
     void Require(Key code, Line& line) const
@@ -37,7 +30,7 @@ public:
     }
 
 private:
-    std::unordered_set<Key> codes_;
+    const std::unordered_set<Key> codes_;
 };
 
 /// Whose day it is: the hours of one day of the week stand beside each other.
@@ -46,12 +39,12 @@ Day DayOf(const OpeningHoursRow& row) { return {0, row.diaDaSemana}; }
 Day DayOf(const EmployeeHoursRow& row) { return {row.codigoDoFuncionario, row.diaDaSemana}; }
 
 /// Hours of days of the week. Those of one day have breaks between them, or touch.
-template <class Record> class HoursImport : public ImportOf<Record> {
+template <class Record> class HoursImport : public ImportOfRows<Record> {
 public:
-    HoursImport(family::Database& database, const Columns<Record>& columns)
-        : ImportOf<Record>(database, columns), columns_(columns)
+    HoursImport(Database& database, const Columns<Record>& columns)
+        : ImportOfRows<Record>(database, columns), columns_(columns)
     {
-        family::SelectRows<Record>(database, [this](const Record& row) { Take(row, {0, row.codigo}); });
+        SelectRows<Record>(database, [this](const Record& row) { Take(row, {0, row.codigo}); });
     }
 
     void Replace(Key key, const std::vector<std::string>& texts) override
@@ -94,15 +87,6 @@ private:
         Place place;
     };
 
-    void LookUp(std::span<const Record>) override { }
-    /// Hours are the same with whatever code; CheckRecord sees to it.
-    std::vector<std::string> TraitsOf(const Record&) const override { return {}; }
-
-    void WriteRecord(Record& record, const family::Author& author) override
-    {
-        family::AddRow(this->GetDatabase(), record, author);
-    }
-
     void Take(const Record& record, const Place& place)
     {
         hours_[DayOf(record)].push_back({record.horaInicial, record.horaFinal, place});
@@ -114,13 +98,12 @@ private:
 
 class OpeningHoursImport : public HoursImport<OpeningHoursRow> {
 public:
-    OpeningHoursImport(family::Database& database, DateTime)
-        : HoursImport(database, OpeningHoursColumns()) { }
+    OpeningHoursImport(Database& database, DateTime) : HoursImport(database, OpeningHoursColumns()) { }
 };
 
 class EmployeeHoursImport : public HoursImport<EmployeeHoursRecord> {
 public:
-    EmployeeHoursImport(family::Database& database, DateTime)
+    EmployeeHoursImport(Database& database, DateTime)
         : HoursImport(database, EmployeeHoursColumns()), employees_(database)
     {
     }
@@ -135,20 +118,14 @@ private:
     Employees employees_;
 };
 
-class AbsenceImport : public ImportOf<AbsenceRecord> {
+class AbsenceImport : public ImportOfRows<AbsenceRecord> {
 public:
-    AbsenceImport(family::Database& database, DateTime)
-        : ImportOf(database, AbsenceColumns()), employees_(database)
+    AbsenceImport(Database& database, DateTime)
+        : ImportOfRows(database, AbsenceColumns()), employees_(database)
     {
     }
 
 private:
-    void LookUp(std::span<const AbsenceRecord>) override
-    {
-        family::SelectRows<AbsenceRecord>(GetDatabase(),
-                                          [this](const AbsenceRecord& row) { AddStored(row); });
-    }
-
     /// Whose it is, and from when until when.
     std::vector<std::string> TraitsOf(const AbsenceRecord& record) const override
     {
@@ -169,39 +146,17 @@ private:
                         "deve ser depois da hora inicial, que é do mesmo dia.");
     }
 
-    void WriteRecord(AbsenceRecord& record, const family::Author& author) override
-    {
-        family::AddRow(GetDatabase(), record, author);
-    }
-
     Employees employees_;
 };
 
 } // namespace
 
-const Register OpeningHoursRegister{
-    "expediente",
-    StartImport<OpeningHoursImport>,
-    [](family::Database& database, const FieldsSink& sink) {
-        ExportRows(database, OpeningHoursColumns(), sink);
-    },
-    OpeningHoursRow::Table,
-};
+constinit const Register OpeningHoursRegister =
+    RegisterOfRows<OpeningHoursImport, OpeningHoursColumns>("expediente");
 
-const Register EmployeeHoursRegister{
-    "horarios",
-    StartImport<EmployeeHoursImport>,
-    [](family::Database& database, const FieldsSink& sink) {
-        ExportRows(database, EmployeeHoursColumns(), sink);
-    },
-    EmployeeHoursRow::Table,
-};
+constinit const Register EmployeeHoursRegister =
+    RegisterOfRows<EmployeeHoursImport, EmployeeHoursColumns>("horarios");
 
-const Register AbsenceRegister{
-    "ausencias",
-    StartImport<AbsenceImport>,
-    [](family::Database& database, const FieldsSink& sink) { ExportRows(database, AbsenceColumns(), sink); },
-    AbsenceRecord::Table,
-};
+constinit const Register AbsenceRegister = RegisterOfRows<AbsenceImport, AbsenceColumns>("ausencias");
 
 } // namespace kova::family::csv
