@@ -3,6 +3,7 @@
 #include "family/data/engine/database_failure.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/registers/registers.hpp"
+#include "screens/field_frame.hpp"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -24,7 +25,6 @@ using family::registers::Offer;
 
 constexpr int LinesOfChannels = 3;
 constexpr int MostProposals = 12;
-constexpr int BoxHeight = 32;
 const std::string SeveralMeant = "há mais de um com este nome: escolha na lista.";
 
 QString Shown(std::string_view text)
@@ -81,7 +81,7 @@ public:
             box_->addItem(QString());
         for (const std::string_view choice : field.choices)
             box_->addItem(Shown(choice));
-        box_->setMinimumHeight(BoxHeight);
+        box_->setMinimumHeight(screens::BoxHeight);
         QObject::connect(box_, &QComboBox::activated, box_, [this] { onEdited(); });
     }
 
@@ -107,7 +107,7 @@ public:
     {
         setEditable(true);
         setInsertPolicy(QComboBox::NoInsert);
-        setMinimumHeight(BoxHeight);
+        setMinimumHeight(screens::BoxHeight);
         setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     }
 

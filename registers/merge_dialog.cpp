@@ -5,14 +5,14 @@
 #include "registers/merge_text.hpp"
 #include "registers/row_list.hpp"
 #include "registers/row_model.hpp"
+#include "screens/plain_label.hpp"
 #include "screens/question.hpp"
 #include "screens/refusal_label.hpp"
+#include "screens/search_box.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QDialogButtonBox>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTableView>
@@ -27,18 +27,8 @@ using family::registers::MergeAnswer;
 
 constexpr int UsualWidth = 760;
 constexpr int UsualHeight = 560;
-constexpr int BoxHeight = 32;
 constexpr int LinesOfPlan = 5;
 constexpr int HeightOfAnimals = 90;
-
-QLabel* PlainLabel(const QString& name, QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 } // namespace
 
@@ -47,10 +37,10 @@ MergeDialog::MergeDialog(const ActionTarget& target, QWidget* parent)
       desk_(target.desk),
       kept_(target.key),
       rows_(new RowModel(family::registers::CustomerRegister(), desk_, this)),
-      search_(new QLineEdit(this)),
+      search_(new screens::SearchBox(QStringLiteral("pesquisaDoOutro"), QStringLiteral("Pesquisar"), this)),
       list_(MakeRowList(*rows_, QStringLiteral("Clientes"), this)),
-      plan_(PlainLabel(QStringLiteral("plano"), this)),
-      alikeTitle_(PlainLabel(QStringLiteral("tituloDosAnimais"), this)),
+      plan_(screens::MakePlainLabel(QStringLiteral("plano"), this)),
+      alikeTitle_(screens::MakePlainLabel(QStringLiteral("tituloDosAnimais"), this)),
       alike_(new QListWidget(this)),
       failure_(new screens::RefusalLabel(this)),
       merge_(new QPushButton(QStringLiteral("&Unir"), this))
@@ -58,18 +48,14 @@ MergeDialog::MergeDialog(const ActionTarget& target, QWidget* parent)
     setObjectName(QStringLiteral("unir"));
     setWindowTitle(QStringLiteral("Unir com outro cadastro"));
     setBackgroundRole(QPalette::Base);
-    search_->setObjectName(QStringLiteral("pesquisaDoOutro"));
-    search_->setPlaceholderText(QStringLiteral("Pesquisar"));
-    search_->setMinimumHeight(BoxHeight);
-    search_->setMaxLength(100);
     list_->setObjectName(QStringLiteral("outros"));
     alike_->setObjectName(QStringLiteral("animais"));
     failure_->setObjectName(QStringLiteral("falha"));
     merge_->setObjectName(QStringLiteral("unirCadastros"));
     merge_->setDefault(true);
     LayOut();
-    search_->installEventFilter(this);
-    connect(search_, &QLineEdit::textChanged, this, [this] { Find(); });
+    search_->WalkThrough(*list_);
+    connect(search_, &screens::SearchBox::textChanged, this, [this] { Find(); });
     connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] { Plan(); });
     connect(merge_, &QPushButton::clicked, this, [this] { Merge(); });
     Find();
@@ -191,20 +177,6 @@ void MergeDialog::ShowAnswer(const MergeAnswer& answer)
             *this, QStringLiteral("Um dos cadastros não existe mais: alguém o excluiu. Nada foi unido."));
     }
     Find();
-}
-
-// The arrows walk through the list while the search keeps the keyboard.
-bool MergeDialog::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched != search_ || event->type() != QEvent::KeyPress)
-        return QDialog::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Down && key != Qt::Key_Up)
-        return QDialog::eventFilter(watched, event);
-    const int next = list_->currentIndex().row() + (key == Qt::Key_Down ? 1 : -1);
-    if (next >= 0 && next < rows_->rowCount())
-        list_->setCurrentIndex(rows_->index(next, 0));
-    return true;
 }
 
 RecordAction MergeAction()

@@ -6,14 +6,14 @@
 #include <QDialog>
 
 class QLabel;
-class QLineEdit;
 class QListWidget;
 class QPushButton;
 class QTableView;
 
 namespace kova::screens {
 class RefusalLabel;
-}
+class SearchBox;
+} // namespace kova::screens
 
 namespace kova::registers {
 
@@ -39,12 +39,11 @@ private:
     void ShowAnswer(const family::registers::MergeAnswer& answer);
     /// Tells what the database reports.
     void Try(const std::function<void()>& act);
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
     const Desk& desk_;
     const family::Key kept_;
     RowModel* rows_;
-    QLineEdit* search_;
+    screens::SearchBox* search_;
     QTableView* list_;
     QLabel *plan_, *alikeTitle_;
     QListWidget* alike_;

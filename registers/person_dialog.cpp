@@ -6,6 +6,7 @@
 #include "family/privacy/person_files.hpp"
 #include "registers/importing/background_job.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/plain_label.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -66,7 +67,7 @@ PersonDialog::PersonDialog(const Desk& desk, family::Key customer, QWidget* pare
           this)),
       progress_(new QProgressBar(this)),
       failure_(new screens::RefusalLabel(this)),
-      told_(new QLabel(this)),
+      told_(screens::MakePlainLabel(QStringLiteral("recado"), this)),
       job_(new BackgroundJob(this))
 {
     setObjectName(QStringLiteral("DadosDaPessoa"));
@@ -151,9 +152,6 @@ void PersonDialog::AddOutcome(QVBoxLayout& layout)
     progress_->setAccessibleName(QStringLiteral("Andamento"));
     progress_->hide();
     failure_->setObjectName(QStringLiteral("falha"));
-    told_->setObjectName(QStringLiteral("recado"));
-    told_->setTextFormat(Qt::PlainText);
-    told_->setWordWrap(true);
     told_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     told_->hide();
     layout.addWidget(progress_);

@@ -7,16 +7,15 @@
 #include "registers/more_button.hpp"
 #include "registers/row_list.hpp"
 #include "registers/suggestions_dialog.hpp"
-#include "screens/field_frame.hpp"
+#include "screens/plain_label.hpp"
 #include "screens/question.hpp"
+#include "screens/search_box.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTableView>
@@ -30,7 +29,6 @@ namespace {
 using family::registers::RemoveAnswer;
 using family::registers::SaveAnswer;
 
-constexpr int BoxHeight = 32;
 constexpr double TitlePoints = 13;
 
 QString Shown(std::string_view text)
@@ -46,15 +44,6 @@ QPushButton* Button(const QString& name, const QString& text, const QString& tip
     return button;
 }
 
-QLabel* PlainLabel(const QString& name, QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const RecordActions& actions,
@@ -63,12 +52,12 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
       register_(of),
       desk_(desk),
       rows_(new RowModel(of, desk, this)),
-      search_(new QLineEdit(this)),
+      search_(new screens::SearchBox(QStringLiteral("pesquisa"), QStringLiteral("Pesquisar (F3)"), this)),
       inactive_(new QCheckBox(QStringLiteral("Mostrar inativos"), this)),
       list_(MakeRowList(*rows_, Shown(of.Name().title), this)),
-      found_(PlainLabel(QStringLiteral("encontrados"), this)),
-      title_(PlainLabel(QStringLiteral("titulo"), this)),
-      told_(PlainLabel(QStringLiteral("recado"), this)),
+      found_(screens::MakePlainLabel(QStringLiteral("encontrados"), this)),
+      title_(screens::MakePlainLabel(QStringLiteral("titulo"), this)),
+      told_(screens::MakePlainLabel(QStringLiteral("recado"), this)),
       form_(new RecordForm(of, desk, this)),
       pages_(new FormPages(of, desk, *form_, this)),
       draft_(new FormDraft(of, desk, *form_)),
@@ -79,13 +68,7 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
           Button(QStringLiteral("excluir"), QStringLiteral("&Excluir"), QStringLiteral("Ctrl+Delete"), this)),
       more_(new MoreButton(actions, of.Name().name, this))
 {
-    search_->setObjectName(QStringLiteral("pesquisa"));
-    search_->setPlaceholderText(QStringLiteral("Pesquisar (F3)"));
     search_->setAccessibleName(QStringLiteral("Pesquisar"));
-    search_->setClearButtonEnabled(true);
-    search_->setMinimumHeight(BoxHeight);
-    search_->setTextMargins(screens::RoomBesideText, 0, screens::RoomBesideText, 0);
-    search_->setMaxLength(100);
     inactive_->setObjectName(QStringLiteral("inativos"));
     inactive_->setToolTip(QStringLiteral("Ctrl+I"));
     inactive_->setVisible(of.HasInactive());
@@ -154,7 +137,7 @@ QPushButton* RegisterScreen::SuggestButton()
 
 void RegisterScreen::Connect()
 {
-    connect(search_, &QLineEdit::textChanged, this, [this] { Find(); });
+    connect(search_, &screens::SearchBox::textChanged, this, [this] { Find(); });
     connect(inactive_, &QCheckBox::toggled, this, [this] { Find(); });
     connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& row) {
@@ -171,7 +154,8 @@ void RegisterScreen::Connect()
         Tell({});
         OfferButtons();
     };
-    search_->installEventFilter(this);
+    search_->WalkThrough(*list_);
+    search_->onEnter = [this] { OpenFound(); };
 }
 
 bool RegisterScreen::Try(const std::function<void()>& act)
@@ -514,25 +498,12 @@ void RegisterScreen::FocusSearch()
     search_->selectAll();
 }
 
-// The arrows walk through the list while the search keeps the keyboard; Enter goes on to the form.
-bool RegisterScreen::eventFilter(QObject* watched, QEvent* event)
+// Without a row that is marked it is the first.
+void RegisterScreen::OpenFound()
 {
-    if (watched != search_ || event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    const int row = list_->currentIndex().row();
-    const int next = key == Qt::Key_Down ? row + 1 : key == Qt::Key_Up ? row - 1 : row;
-    if (key == Qt::Key_Down || key == Qt::Key_Up) {
-        if (next >= 0 && next < rows_->rowCount())
-            list_->setCurrentIndex(rows_->index(next, 0));
-        return true;
-    }
-    if (key != Qt::Key_Return && key != Qt::Key_Enter)
-        return QWidget::eventFilter(watched, event);
-    if (row < 0 && rows_->rowCount() > 0)
+    if (!list_->currentIndex().isValid() && rows_->rowCount() > 0)
         list_->setCurrentIndex(rows_->index(0, 0));
     FocusForm();
-    return true;
 }
 
 } // namespace kova::registers

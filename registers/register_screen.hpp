@@ -9,9 +9,12 @@
 
 class QCheckBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QTableView;
+
+namespace kova::screens {
+class SearchBox;
+}
 
 namespace kova::registers {
 
@@ -61,6 +64,8 @@ private:
     bool MayBeSaved();
     void ShowAnswer(const family::registers::SaveAnswer& answer);
     void FocusForm();
+    /// Goes on from the search to the form of the row that is marked.
+    void OpenFound();
     void Refuse(std::span<const family::registers::RefusedField> refused);
     void ShowSaved(const family::registers::SaveAnswer& answer);
     /// Whether it was saved.
@@ -79,14 +84,13 @@ private:
     void Connect();
     /// Runs what needs the database and tells what it reports. False where it failed.
     bool Try(const std::function<void()>& act);
-    bool eventFilter(QObject* watched, QEvent* event) override;
     bool event(QEvent* event) override;
     QString NameOf(family::Key key) const;
 
     const Register& register_;
     const Desk& desk_;
     RowModel* rows_;
-    QLineEdit* search_;
+    screens::SearchBox* search_;
     QCheckBox* inactive_;
     QTableView* list_;
     QLabel *found_, *title_, *told_;

@@ -3,6 +3,8 @@
 #include "family/data/engine/database_failure.hpp"
 #include "registers/row_list.hpp"
 #include "registers/row_model.hpp"
+#include "screens/field_frame.hpp"
+#include "screens/plain_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QComboBox>
@@ -15,7 +17,6 @@ namespace kova::registers {
 
 namespace {
 
-constexpr int BoxHeight = 32;
 constexpr int RoomAbove = 8;
 
 QString Shown(std::string_view text)
@@ -33,19 +34,16 @@ RelatedPanel::RelatedPanel(const family::registers::RelatedList& of, const Desk&
       choiceName_(new QLabel(QLatin1Char('&') + Shown(of.ChoiceName()), this)),
       choice_(new QComboBox(this)),
       table_(MakeRowList(*rows_, Shown(of.Title()), this)),
-      told_(new QLabel(this))
+      told_(screens::MakePlainLabel(QStringLiteral("quantos"), this))
 {
     setFocusProxy(table_);
     table_->setObjectName(QStringLiteral("relacionados"));
     choice_->setObjectName(QStringLiteral("escolha"));
     choice_->setAccessibleName(Shown(of.ChoiceName()));
-    choice_->setMinimumHeight(BoxHeight);
+    choice_->setMinimumHeight(screens::BoxHeight);
     choiceName_->setBuddy(choice_);
     for (QWidget* part : {static_cast<QWidget*>(choiceName_), static_cast<QWidget*>(choice_)})
         part->setVisible(!of.ChoiceName().empty());
-    told_->setObjectName(QStringLiteral("quantos"));
-    told_->setTextFormat(Qt::PlainText);
-    told_->setWordWrap(true);
     connect(choice_, &QComboBox::activated, this, [this] { Try([this] { Find(); }); });
 
     auto* choiceRow = new QHBoxLayout;

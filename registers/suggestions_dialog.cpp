@@ -17,7 +17,6 @@ namespace {
 
 constexpr int FirstYear = 1900, LastYear = 2999;
 constexpr int UsualWidth = 460;
-constexpr int BoxHeight = 32;
 
 QString TitleOf(std::string_view button)
 {
@@ -43,7 +42,7 @@ SuggestionsDialog::SuggestionsDialog(const Register& of, const Desk& desk, QWidg
     setBackgroundRole(QPalette::Base);
     year_->setObjectName(QStringLiteral("ano"));
     year_->setRange(FirstYear, LastYear);
-    year_->setMinimumHeight(BoxHeight);
+    year_->setMinimumHeight(screens::BoxHeight);
     year_->setValue(YearOf(desk_.author().moment));
     list_->setObjectName(QStringLiteral("dias"));
     auto* buttons = new QDialogButtonBox(this);

@@ -11,7 +11,6 @@ namespace kova::screens {
 namespace {
 
 constexpr int RoomBelowLabel = 2;
-constexpr int BoxHeight = 32;
 
 } // namespace
 

@@ -7,7 +7,8 @@ namespace kova::screens {
 
 class RefusalLabel;
 
-/// On each side of the text in a box of one line.
+/// Of a box of one line, and the room on each side of its text.
+inline constexpr int BoxHeight = 32;
 inline constexpr int RoomBesideText = 6;
 
 /// A field with its label above it and, where what it holds cannot stand, the reason below it.

@@ -1,6 +1,7 @@
 #include "registers/importing/check_page.hpp"
 
 #include "registers/importing/table.hpp"
+#include "screens/plain_label.hpp"
 #include "screens/refusal_label.hpp"
 
 #include <QLabel>
@@ -21,10 +22,7 @@ using family::registers::UndoneImport;
 
 QLabel* TextLabel(const QString& name, QWidget* parent)
 {
-    auto* label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
+    QLabel* label = screens::MakePlainLabel(name, parent);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }

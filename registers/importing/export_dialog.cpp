@@ -5,6 +5,7 @@
 #include "registers/importing/background_job.hpp"
 #include "registers/importing/table.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/plain_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QFileDialog>
@@ -48,7 +49,7 @@ ExportDialog::ExportDialog(FileDesk desk, std::string_view registerName, QWidget
       register_(*csv::RegisterNamed(registerName)),
       path_(new QLineEdit(ProposedPath(register_))),
       frame_(new screens::FieldFrame(QStringLiteral("&Arquivo novo"), path_, this, true)),
-      told_(new QLabel(this)),
+      told_(screens::MakePlainLabel(QStringLiteral("resumo"), this)),
       progress_(new QProgressBar(this)),
       choose_(Button(QStringLiteral("escolher"), QStringLiteral("E&scolher..."), this)),
       export_(Button(QStringLiteral("exportar"), QStringLiteral("&Exportar"), this)),
@@ -59,9 +60,6 @@ ExportDialog::ExportDialog(FileDesk desk, std::string_view registerName, QWidget
     setWindowTitle(QStringLiteral("Exportar planilha"));
     setBackgroundRole(QPalette::Base);
     path_->setObjectName(QStringLiteral("arquivo"));
-    told_->setObjectName(QStringLiteral("resumo"));
-    told_->setTextFormat(Qt::PlainText);
-    told_->setWordWrap(true);
     told_->setText(QStringLiteral("Um arquivo CSV em UTF-8, que a planilha abre e que, editado, pode ser "
                                   "importado de novo."));
     progress_->setObjectName(QStringLiteral("progresso"));

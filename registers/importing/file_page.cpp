@@ -5,6 +5,7 @@
 #include "family/registers/registers.hpp"
 #include "registers/importing/table.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/plain_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QComboBox>
@@ -24,7 +25,6 @@ namespace csv = family::csv;
 using csv::Known;
 
 constexpr std::size_t LinesOfPreview = 10;
-constexpr int BoxHeight = 32;
 
 /// Appointments are no register of "Cadastros".
 QString TitleOf(const csv::Register& one)
@@ -37,7 +37,7 @@ QComboBox* Box(const QString& name)
 {
     auto* box = new QComboBox;
     box->setObjectName(name);
-    box->setMinimumHeight(BoxHeight);
+    box->setMinimumHeight(screens::BoxHeight);
     return box;
 }
 
@@ -58,14 +58,11 @@ FilePage::FilePage(std::string_view registerName, QWidget* parent)
       encoding_(Box(QStringLiteral("codificacao"))),
       pathFrame_(new screens::FieldFrame(QStringLiteral("&Arquivo CSV da planilha"), path_, this, true)),
       choose_(new QPushButton(QStringLiteral("&Escolher arquivo..."), this)),
-      told_(new QLabel(this)),
+      told_(screens::MakePlainLabel(QStringLiteral("lido"), this)),
       preview_(ReadOnlyTable(QStringLiteral("previa"), QStringLiteral("Primeiras linhas do arquivo"), this))
 {
     path_->setObjectName(QStringLiteral("arquivo"));
     choose_->setObjectName(QStringLiteral("escolher"));
-    told_->setObjectName(QStringLiteral("lido"));
-    told_->setTextFormat(Qt::PlainText);
-    told_->setWordWrap(true);
     for (const csv::Register* one : csv::Registers()) {
         register_->addItem(TitleOf(*one));
         if (one->name == registerName)
