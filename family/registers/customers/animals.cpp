@@ -24,13 +24,6 @@ struct CustomerName {
     }
 };
 
-template <class Row> std::vector<Row> AllOf(Database& database)
-{
-    std::vector<Row> rows;
-    SelectRows<Row>(database, [&](const Row& row) { rows.push_back(row); });
-    return rows;
-}
-
 /// The species of that name, case and accents aside; nothing where there is none.
 std::optional<SpeciesRow> SpeciesNamed(Database& database, const std::string& name)
 {
@@ -173,10 +166,6 @@ private:
 
 } // namespace
 
-const Register& AnimalRegister()
-{
-    static const Animals animals;
-    return animals;
-}
+const Register& AnimalRegister() { return Only<Animals>(); }
 
 } // namespace kova::family::registers

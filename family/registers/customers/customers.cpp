@@ -135,10 +135,6 @@ private:
 
 } // namespace
 
-const Register& CustomerRegister()
-{
-    static const Customers customers;
-    return customers;
-}
+const Register& CustomerRegister() { return Only<Customers>(); }
 
 } // namespace kova::family::registers

@@ -51,6 +51,14 @@ std::vector<ShownColumn<Record>> ShownColumns(const Columns<Record>& columns,
     return shown;
 }
 
+/// All rows of a table of few. Fails with a DatabaseFailure.
+template <class Row> std::vector<Row> AllOf(Database& database)
+{
+    std::vector<Row> rows;
+    SelectRows<Row>(database, [&](const Row& row) { rows.push_back(row); });
+    return rows;
+}
+
 /// Offers the active ones of the rows that `isMeant` takes, by their names.
 template <class Row, class IsMeant> std::vector<Offer> OfferedNames(std::vector<Row> rows, IsMeant isMeant)
 {
@@ -498,5 +506,12 @@ private:
     std::vector<const Column<Record>*> columns_;
     std::vector<FieldInfo> fields_;
 };
+
+/// The one object of its kind, which stays as long as the process.
+template <class Kind> const Kind& Only()
+{
+    static const Kind only;
+    return only;
+}
 
 } // namespace kova::family::registers

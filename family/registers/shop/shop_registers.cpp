@@ -172,21 +172,14 @@ public:
     {
         if (field != FieldNamed(Fields(), column::Species))
             return {};
-        return OfferedNames(AllSpecies(database), [](const SpeciesRow&) { return true; });
+        return OfferedNames(AllOf<SpeciesRow>(database), [](const SpeciesRow&) { return true; });
     }
 
 private:
-    static std::vector<SpeciesRow> AllSpecies(Database& database)
-    {
-        std::vector<SpeciesRow> all;
-        SelectRows<SpeciesRow>(database, [&](const SpeciesRow& row) { all.push_back(row); });
-        return all;
-    }
-
     void Load(Database& database, std::span<BreedRecord> records) const override
     {
         std::unordered_map<Key, std::string> names;
-        for (const SpeciesRow& row : AllSpecies(database))
+        for (const SpeciesRow& row : AllOf<SpeciesRow>(database))
             names[row.codigo] = row.nome;
         for (BreedRecord& record : records)
             record.species = names[record.codigoDaEspecie];
@@ -209,7 +202,7 @@ private:
     {
         if (record.species.empty())
             return;
-        const std::vector<SpeciesRow> all = AllSpecies(database);
+        const std::vector<SpeciesRow> all = AllOf<SpeciesRow>(database);
         const auto found = std::ranges::find(all, FoldText(record.species), &SpeciesRow::nomeDeBusca);
         if (found == all.end())
             refusals.Add(column::Species, "não há espécie com este nome.");
@@ -279,12 +272,6 @@ private:
         return "A empresa não pode ser excluída: o que se imprime leva o nome dela.";
     }
 };
-
-template <class Kind> const Register& Only()
-{
-    static const Kind only;
-    return only;
-}
 
 } // namespace
 

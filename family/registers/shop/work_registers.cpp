@@ -15,17 +15,10 @@ namespace column = work_columns;
 
 using Nicknames = std::unordered_map<Key, std::string>;
 
-std::vector<EmployeeRow> AllEmployees(Database& database)
-{
-    std::vector<EmployeeRow> all;
-    SelectRows<EmployeeRow>(database, [&](const EmployeeRow& row) { all.push_back(row); });
-    return all;
-}
-
 Nicknames AllNicknames(Database& database)
 {
     Nicknames nicknames;
-    for (const EmployeeRow& row : AllEmployees(database))
+    for (const EmployeeRow& row : AllOf<EmployeeRow>(database))
         nicknames[row.codigo] = row.apelido;
     return nicknames;
 }
@@ -33,7 +26,7 @@ Nicknames AllNicknames(Database& database)
 /// The active ones by their nicknames.
 std::vector<Offer> OfferedEmployees(Database& database)
 {
-    std::vector<EmployeeRow> all = AllEmployees(database);
+    std::vector<EmployeeRow> all = AllOf<EmployeeRow>(database);
     std::ranges::sort(all, {}, [](const EmployeeRow& row) { return FoldText(row.apelido); });
     std::vector<Offer> offers;
     for (const EmployeeRow& row : all) {
@@ -274,22 +267,8 @@ private:
 
 } // namespace
 
-const Register& OpeningHoursRegister()
-{
-    static const OpeningHours only;
-    return only;
-}
-
-const Register& EmployeeHoursRegister()
-{
-    static const EmployeeHours only;
-    return only;
-}
-
-const Register& AbsenceRegister()
-{
-    static const Absences only;
-    return only;
-}
+const Register& OpeningHoursRegister() { return Only<OpeningHours>(); }
+const Register& EmployeeHoursRegister() { return Only<EmployeeHours>(); }
+const Register& AbsenceRegister() { return Only<Absences>(); }
 
 } // namespace kova::family::registers
