@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <span>
+#include <type_traits>
 
 namespace kova::family::registers {
 
@@ -36,6 +37,16 @@ long long ReadNumber(const std::string& text, long long least, long long most, s
 
 inline constexpr std::string_view WrongMoney = "não é um valor. Escreva como 1.234,56.";
 
+/// What a member holds, as `write` puts it; empty where it is null.
+template <class Value, class Write> std::string Written(const Value& value, Write write)
+{
+    return write(value);
+}
+template <class Value, class Write> std::string Written(const Nullable<Value>& value, Write write)
+{
+    return value.IsNull() ? std::string() : write(value.value);
+}
+
 /// The kinds of columns of a register whose rows are Records. Each names a member of the row.
 template <class Record> struct ColumnsOf {
     using Col = Column<Record>;
@@ -55,96 +66,63 @@ template <class Record> struct ColumnsOf {
     }
 
     /// At most `width` characters.
-    static Col Text(std::string_view label, std::string Record::*member, std::size_t width)
+    template <class Member, class Owner>
+    static Col Text(std::string_view label, Member Owner::*given, std::size_t width)
     {
-        Col column = InMember(label, FieldKind::Text, width, member);
+        Member Record::*const member = given;
+        Col column = InMember(label, FieldKind::Text, width, given);
         column.read = [=](const std::string& text, Record& record) {
             record.*member = text;
             return CheckWidth(text, width);
         };
-        column.write = [=](const Record& record) { return record.*member; };
-        return column;
-    }
-    static Col Text(std::string_view label, Nullable<std::string> Record::*member, std::size_t width)
-    {
-        Col column = InMember(label, FieldKind::Text, width, member);
-        column.read = [=](const std::string& text, Record& record) {
-            record.*member = text;
-            return CheckWidth(text, width);
+        column.write = [=](const Record& record) {
+            return Written(record.*member, [](const std::string& text) { return text; });
         };
-        column.write = [=](const Record& record) { return (record.*member).ValueOr(""); };
         return column;
     }
 
-    /// The number of a row, its own or that of another one. 0 is an empty text.
-    static Col Code(std::string_view label, Key Record::*member)
+    /// The number of a row, its own or that of another one. 0 is an empty text where it cannot be null.
+    template <class Member, class Owner> static Col Code(std::string_view label, Member Owner::*given)
     {
-        Col column = Limited(InMember(label, FieldKind::Code, WidthOfCode, member), 1, HighestCode);
+        Member Record::*const member = given;
+        Col column = Limited(InMember(label, FieldKind::Code, WidthOfCode, given), 1, HighestCode);
         column.read = [=](const std::string& text, Record& record) {
             std::string why;
             record.*member = ReadNumber(text, 1, HighestCode, why);
             return why;
         };
         column.write = [=](const Record& record) {
-            return record.*member == 0 ? std::string() : std::to_string(record.*member);
-        };
-        return column;
-    }
-    static Col Code(std::string_view label, Nullable<Key> Record::*member)
-    {
-        Col column = Limited(InMember(label, FieldKind::Code, WidthOfCode, member), 1, HighestCode);
-        column.read = [=](const std::string& text, Record& record) {
-            std::string why;
-            record.*member = ReadNumber(text, 1, HighestCode, why);
-            return why;
-        };
-        column.write = [=](const Record& record) {
-            return (record.*member).IsNull() ? std::string() : std::to_string((record.*member).value);
+            return Written(record.*member, [](Key code) {
+                return std::is_same_v<Member, Key> && code == 0 ? std::string() : std::to_string(code);
+            });
         };
         return column;
     }
 
-    static Col Number(std::string_view label, int Record::*member, int least, int most)
+    template <class Member, class Owner>
+    static Col Number(std::string_view label, Member Owner::*given, int least, int most)
     {
-        Col column = Limited(InMember(label, FieldKind::WholeNumber, WidthOf(most), member), least, most);
-        column.read = [=](const std::string& text, Record& record) {
-            std::string why;
-            record.*member = static_cast<int>(ReadNumber(text, least, most, why));
-            return why;
-        };
-        column.write = [=](const Record& record) { return std::to_string(record.*member); };
-        return column;
-    }
-    static Col Number(std::string_view label, Nullable<int> Record::*member, int least, int most)
-    {
-        Col column = Limited(InMember(label, FieldKind::WholeNumber, WidthOf(most), member), least, most);
+        Member Record::*const member = given;
+        Col column = Limited(InMember(label, FieldKind::WholeNumber, WidthOf(most), given), least, most);
         column.read = [=](const std::string& text, Record& record) {
             std::string why;
             record.*member = static_cast<int>(ReadNumber(text, least, most, why));
             return why;
         };
         column.write = [=](const Record& record) {
-            return (record.*member).IsNull() ? std::string() : std::to_string((record.*member).value);
+            return Written(record.*member, [](int number) { return std::to_string(number); });
         };
         return column;
     }
 
     /// Cents.
-    static Col Money(std::string_view label, Key Record::*member)
+    template <class Member, class Owner> static Col Money(std::string_view label, Member Owner::*given)
     {
+        Member Record::*const member = given;
         return Read<long long>(
-            InMember(label, FieldKind::Money, WidthOfMoney, member), ReadMoney, WrongMoney,
+            InMember(label, FieldKind::Money, WidthOfMoney, given), ReadMoney, WrongMoney,
             [=](long long cents, Record& record) { record.*member = cents; },
-            [=](const Record& record) { return ShownMoney(record.*member); });
-    }
-    static Col Money(std::string_view label, Nullable<Key> Record::*member)
-    {
-        return Read<long long>(
-            InMember(label, FieldKind::Money, WidthOfMoney, member), ReadMoney, WrongMoney,
-            [=](long long cents, Record& record) { record.*member = cents; },
-            [=](const Record& record) {
-                return (record.*member).IsNull() ? std::string() : ShownMoney((record.*member).value);
-            });
+            [=](const Record& record) { return Written(record.*member, ShownMoney); });
     }
 
     static Col YesNo(std::string_view label, int Record::*member)
@@ -221,19 +199,13 @@ template <class Record> struct ColumnsOf {
     }
 
     /// "yyyy-mm-dd hh:mm:ss" in the row.
-    static Col Moment(std::string_view label, std::string Record::*member)
+    template <class Member, class Owner> static Col Moment(std::string_view label, Member Owner::*given)
     {
+        Member Record::*const member = given;
         return Read<DateTime>(
-            InMember(label, FieldKind::Moment, WidthOfMoment, member), ReadMoment, WrongMoment,
+            InMember(label, FieldKind::Moment, WidthOfMoment, given), ReadMoment, WrongMoment,
             [=](DateTime moment, Record& record) { record.*member = IsoMoment(moment); },
-            [=](const Record& record) { return ShownMoment(record.*member); });
-    }
-    static Col Moment(std::string_view label, Nullable<std::string> Record::*member)
-    {
-        return Read<DateTime>(
-            InMember(label, FieldKind::Moment, WidthOfMoment, member), ReadMoment, WrongMoment,
-            [=](DateTime moment, Record& record) { record.*member = IsoMoment(moment); },
-            [=](const Record& record) { return ShownMoment((record.*member).ValueOr("")); });
+            [=](const Record& record) { return Written(record.*member, ShownMoment); });
     }
 
 private:
