@@ -127,8 +127,8 @@ QString WritePdf(const reports::Document& document, const QString& path)
         if (isWritten)
             PaintPage(painter, document.pages[page]);
     }
-    isWritten = isWritten && painter.end() && file.error() == QFileDevice::NoError;
-    if (isWritten && file.commit())
+    // What could not be written on the way is told at the end.
+    if (isWritten && painter.end() && file.commit())
         return {};
     return NotWritten(path, QStringLiteral("Não há espaço no disco ou o disco não responde."));
 }

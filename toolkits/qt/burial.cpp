@@ -49,7 +49,7 @@ void BurialsWaitFor(const toolkit::ToolkitModel* toolkit) { TheBurials().toolkit
 
 void ScheduleBurials()
 {
-    if (!TheBurials().waiting.empty() && QCoreApplication::instance())
+    if (!TheBurials().waiting.empty())
         QTimer::singleShot(0, QCoreApplication::instance(), &BuryNow);
 }
 

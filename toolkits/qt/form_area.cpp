@@ -167,8 +167,6 @@ QSize FormArea::SizeWithin(const QSize& room) const
     return (inner_ + bars).boundedTo(room);
 }
 
-bool FormArea::Scrolls() const { return vertical_->isVisibleTo(this) || horizontal_->isVisibleTo(this); }
-
 void FormArea::resizeEvent(QResizeEvent*) { Arrange(); }
 
 // Each bar takes the room that may make the other one needed.
@@ -201,8 +199,6 @@ void FormArea::MovePlanes()
 
 void FormArea::Reveal(const QWidget& control)
 {
-    if (!Scrolls())
-        return;
     // A label stands above its field; what is left of it and below is only for the look.
     constexpr int label = 26;
     constexpr int margin = 12;

@@ -30,7 +30,6 @@ public:
     /// Scrolls as little as it takes to see a control and its label. Where it is larger than what is seen,
     /// its upper left corner counts.
     void Reveal(const QWidget& control);
-    bool Scrolls() const;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -175,7 +175,7 @@ void WidgetView::StackByKind()
     const auto siblings = widget_->parentWidget()->children();
     for (QObject* object : siblings) {
         auto* sibling = qobject_cast<QWidget*>(object);
-        if (sibling && sibling != widget_ && sibling->property(LayerProperty).toInt() > layer) {
+        if (sibling && sibling->property(LayerProperty).toInt() > layer) {
             widget_->stackUnder(sibling);
             return;
         }

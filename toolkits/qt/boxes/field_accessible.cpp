@@ -67,7 +67,7 @@ public:
     QStringList actionNames() const override { return {toggle_.IsOption() ? pressAction() : toggleAction()}; }
     void doAction(const QString& name) override
     {
-        if (actionNames().contains(name) && toggle_.isEnabled())
+        if (actionNames().contains(name))
             toggle_.click();
     }
 

@@ -25,12 +25,6 @@ std::size_t GridText::Hash::operator()(const KeyView& key) const
         ^ (sizes * 4U + (key.bold ? 2U : 0U) + (key.wraps ? 1U : 0U));
 }
 
-bool GridText::Equal::operator()(const KeyView& a, const KeyView& b) const
-{
-    return a.width == b.width && a.height == b.height && a.bold == b.bold && a.wraps == b.wraps
-        && a.text == b.text;
-}
-
 void GridText::SetFont(const QFont& font)
 {
     if (raw_.isValid() && font == font_)
@@ -78,11 +72,12 @@ double GridText::LayGlyphs(const QString& text, bool bold, QGlyphRun& run) const
     if (glyphs.contains(0U))
         return -1;
     const QList<QPointF> advances = font.advancesForGlyphIndexes(glyphs);
-    QList<QPointF> places(glyphs.size());
+    QList<QPointF> places;
+    places.reserve(glyphs.size());
     double x = 0;
-    for (qsizetype i = 0; i < glyphs.size(); ++i) {
-        places[i] = QPointF(x, 0);
-        x += advances[i].x();
+    for (const QPointF& advance : advances) {
+        places.append(QPointF(x, 0));
+        x += advance.x();
     }
     run.setRawFont(font);
     run.setGlyphIndexes(glyphs);
@@ -125,8 +120,8 @@ QStringList GridText::BreakLines(QString text, const KeyView& key, const QFont& 
     text.replace(QLatin1Char('\n'), QChar::LineSeparator);
     const std::vector<int> starts = LineStarts(text, key, font, most);
     QStringList lines;
-    for (std::size_t i = 0; i < std::min(starts.size(), most); ++i) {
-        const bool last = i + 1 == most || i + 1 == starts.size();
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        const bool last = i + 1 == starts.size();
         const int end = last ? static_cast<int>(text.size()) : starts[i + 1];
         QString line = text.mid(starts[i], end - starts[i]).trimmed();
         line.replace(QChar::LineSeparator, QLatin1Char(' '));
@@ -135,7 +130,7 @@ QStringList GridText::BreakLines(QString text, const KeyView& key, const QFont& 
     return lines;
 }
 
-// Where lines begin, up to one more than fits.
+// Where lines begin, as many as fit.
 std::vector<int> GridText::LineStarts(const QString& text, const KeyView& key, const QFont& font,
                                       std::size_t most)
 {
@@ -145,7 +140,7 @@ std::vector<int> GridText::LineStarts(const QString& text, const KeyView& key, c
     breaker.setTextOption(option);
     std::vector<int> starts;
     breaker.beginLayout();
-    for (QTextLine line = breaker.createLine(); line.isValid() && starts.size() <= most;
+    for (QTextLine line = breaker.createLine(); line.isValid() && starts.size() < most;
          line = breaker.createLine()) {
         line.setLineWidth(key.width);
         starts.push_back(line.textStart());

@@ -44,6 +44,8 @@ private:
         int height = 0;
         bool bold = false;
         bool wraps = false;
+
+        friend bool operator==(const KeyView&, const KeyView&) = default;
     };
     struct Key {
         std::string text;
@@ -60,7 +62,7 @@ private:
     };
     struct Equal {
         using is_transparent = void;
-        bool operator()(const KeyView& a, const KeyView& b) const;
+        bool operator()(const KeyView& a, const KeyView& b) const { return a == b; }
     };
 
     const Layout& LayoutOf(const KeyView& key);

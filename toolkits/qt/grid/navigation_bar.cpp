@@ -82,7 +82,7 @@ bool NavigationWindow::HoldsFocus() const
 void NavigationWindow::FocusCurrent()
 {
     QWidget* target = this;
-    if (current_ > 0 && Button(current_).isEnabled())
+    if (current_ > 0)
         target = &Button(current_);
     target->setFocus(Qt::OtherFocusReason);
     update();
@@ -90,7 +90,7 @@ void NavigationWindow::FocusCurrent()
 
 void NavigationWindow::focusInEvent(QFocusEvent*)
 {
-    if (current_ > 0 && Button(current_).isEnabled())
+    if (current_ > 0)
         Button(current_).setFocus(Qt::OtherFocusReason);
     update();
 }

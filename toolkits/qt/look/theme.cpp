@@ -135,7 +135,7 @@ const std::array<double, 256>& LinearParts()
     static const std::array<double, 256> parts = [] {
         std::array<double, 256> made{};
         for (std::size_t value = 0; value < made.size(); ++value)
-            made[value] = LinearPart(static_cast<double>(value) / 255.0);
+            made.at(value) = LinearPart(static_cast<double>(value) / 255.0);
         return made;
     }();
     return parts;

@@ -16,7 +16,7 @@ QString ToolTipOf(const Text& text)
             lines += QLatin1Char('\n');
         length = 0;
         for (const QString& word : line.split(QLatin1Char(' '))) {
-            const bool breaks = length > 0 && length + 1 + word.size() > longestLine;
+            const bool breaks = length + 1 + word.size() > longestLine;
             if (length > 0)
                 lines += breaks ? QLatin1Char('\n') : QLatin1Char(' ');
             lines += word;

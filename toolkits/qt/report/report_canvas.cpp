@@ -201,13 +201,14 @@ void ReportCanvas::keyPressEvent(QKeyEvent* event)
 
 void ReportCanvas::PaintMarks(QPainter& painter, std::size_t page) const
 {
-    for (std::size_t at = 0; at < matches_.size(); ++at) {
-        if (matches_[at].page != page)
+    for (const ReportMatch& match : matches_) {
+        if (match.page != page)
             continue;
-        for (const reports::Box& ink : InkOf(document_.pages[page].items[matches_[at].item]))
+        const bool isCurrent = &match == &matches_[currentMatch_];
+        for (const reports::Box& ink : InkOf(document_.pages[page].items[match.item]))
             painter.fillRect(QRectF(static_cast<double>(ink.left), static_cast<double>(ink.top),
                                     static_cast<double>(ink.width), static_cast<double>(ink.height)),
-                             at == currentMatch_ ? CurrentMarkColor : MarkColor);
+                             isCurrent ? CurrentMarkColor : MarkColor);
     }
 }
 

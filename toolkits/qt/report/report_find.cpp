@@ -27,12 +27,13 @@ std::vector<ReportMatch> FindInReport(const reports::Document& document, const Q
     const QString pattern = Folded(wanted);
     if (pattern.isEmpty())
         return matches;
-    for (std::size_t page = 0; page < document.pages.size(); ++page) {
-        const auto& items = document.pages[page].items;
-        for (std::size_t item = 0; item < items.size(); ++item) {
-            if (Folded(FromText(items[item].text)).contains(pattern))
+    for (std::size_t page = 0; const reports::Page& sheet : document.pages) {
+        for (std::size_t item = 0; const reports::Item& each : sheet.items) {
+            if (Folded(FromText(each.text)).contains(pattern))
                 matches.push_back({page, item});
+            ++item;
         }
+        ++page;
     }
     return matches;
 }

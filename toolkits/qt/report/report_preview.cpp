@@ -80,13 +80,13 @@ void ReportPreview::FollowCanvas()
     const std::size_t pages = document_.pages.size();
     pageLabel_->setText(QStringLiteral("Página %1 de %2").arg(page + 1).arg(pages));
     zoomLabel_->setText(QStringLiteral("%1%").arg(std::lround(canvas_->Zoom() * 100)));
-    const bool hadFocus = focusWidget() && focusWidget() != search_;
+    const QWidget* before = focusWidget();
     for (FlatButton* button : backButtons_)
         button->setEnabled(page > 0);
     for (FlatButton* button : forwardButtons_)
         button->setEnabled(page + 1 < pages);
     // A button that goes out of use has lost the focus to nobody.
-    if (hadFocus && !focusWidget())
+    if (before && !focusWidget())
         canvas_->setFocus();
 }
 
