@@ -16,8 +16,12 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <string>
 
+#include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace kova::qt::test {
 namespace {
@@ -199,6 +203,29 @@ TEST_F(ReportOutput, IsReadByItsOwnerAloneWhateverItReplaces)
     }
 }
 
+TEST_F(ReportOutput, LeavesAPipeIntoWhichIsPrintedItsRights)
+{
+    constexpr mode_t ofTheQueue = 0622;
+    constexpr mode_t ofAll = 0777;
+    const QByteArray path = QFile::encodeName(File("fila"));
+    ASSERT_EQ(mkfifo(path.constData(), ofTheQueue), 0);
+    ASSERT_EQ(chmod(path.constData(), ofTheQueue), 0);
+    const int queue = open(path.constData(), O_RDONLY | O_NONBLOCK);
+    const auto document = LaidOut(NumberedList(1));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(File("fila"));
+    Prepare(printer, document);
+    EXPECT_EQ(Print(printer, document, From(0)).toStdString(), "");
+    struct stat facts { };
+    ASSERT_EQ(stat(path.constData(), &facts), 0);
+    EXPECT_EQ(facts.st_mode & ofAll, ofTheQueue);
+    std::string begin(4, ' ');
+    EXPECT_EQ(read(queue, begin.data(), begin.size()), 4);
+    EXPECT_EQ(begin, "%PDF");
+    close(queue);
+}
+
 TEST_F(ReportOutput, KeepsTheOlderFileWhereTheDiskIsFull)
 {
     ASSERT_EQ(WritePdf(LaidOut(NumberedList(1)), File("lista.pdf")).toStdString(), "");
@@ -223,7 +250,8 @@ TEST_F(ReportOutput, PrintsThePagesThatWereAskedFor)
         int to;
         QStringList pages;
     };
-    const Case cases[]{{QPrinter::PageRange, 2, 3, {QStringLiteral("2"), QStringLiteral("3")}},
+    const Case cases[]{{QPrinter::PageRange, 1, 2, {QStringLiteral("1"), QStringLiteral("2")}},
+                       {QPrinter::PageRange, 2, 3, {QStringLiteral("2"), QStringLiteral("3")}},
                        {QPrinter::PageRange, 4, 99, {QStringLiteral("4"), QStringLiteral("5")}},
                        {QPrinter::PageRange, 0, 0, AllOf(document)},
                        {QPrinter::AllPages, 2, 3, AllOf(document)},
@@ -271,6 +299,21 @@ TEST_F(ReportOutput, ScalesAPageDownToASmallerSheet)
     const QString facts = Run(QStringLiteral("pdfinfo"), {File("a5.pdf")}).simplified();
     EXPECT_TRUE(facts.contains(QStringLiteral("Page size: 595 x 420 pts (A5)"))) << facts.toStdString();
     EXPECT_EQ(TextOf(File("a5.pdf")), TextOf(File("a4.pdf")));
+}
+
+TEST_F(ReportOutput, IsPrintedInItsOwnSizeOnItsOwnPaperAlone)
+{
+    const auto document = LaidOut(NumberedList(1));
+    Printing ownSize = From(0);
+    ownSize.otherPaper = QStringLiteral("Outro papel.");
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(File("papel.pdf"));
+    Prepare(printer, document);
+    EXPECT_EQ(Print(printer, document, ownSize).toStdString(), "");
+    // As wide as A4 and higher.
+    printer.setPageSize(QPageSize(QPageSize::Folio));
+    EXPECT_EQ(Print(printer, document, ownSize).toStdString(), "Outro papel.");
 }
 
 TEST_F(ReportOutput, TellsOfAPrinterThatDoesNotTakeTheJob)
