@@ -169,6 +169,15 @@ TEST_P(NavigationBar, StartsAtTheFirstButtonOnOfferAndStaysInsideByArrowKeys)
     EXPECT_EQ(User().ButtonWithFocus(*bar_), 4);
 }
 
+TEST_P(NavigationBar, HasTheFocusItselfWhereItHasNeverOfferedAButton)
+{
+    bar_->SetFocus();
+    Write(0, 0, 0);
+    bar_->Refresh();
+    EXPECT_EQ(Focused(), "kvnb");
+    EXPECT_EQ(User().ButtonWithFocus(*bar_), 0);
+}
+
 TEST_P(NavigationBar, TakesNoPressOfAButtonThatIsNotOffered)
 {
     Write(1, 15, 42);

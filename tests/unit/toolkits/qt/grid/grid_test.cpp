@@ -1,13 +1,11 @@
-#include "tests/unit/toolkits/qt/support.hpp"
-#include "toolkits/qt/grid/grid_canvas.hpp"
+#include "tests/unit/toolkits/qt/grid/grid_fixture.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPaintEvent>
-#include <QRegion>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -16,97 +14,6 @@
 
 namespace kova::qt::test {
 namespace {
-
-constexpr Colour Odd = Rgb(242, 242, 242);
-constexpr Colour Selected = Rgb(217, 217, 217);
-
-// Adds up what a widget is asked to repaint.
-class PaintCounter : public QObject {
-public:
-    explicit PaintCounter(QWidget& watched) { watched.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            region += static_cast<QPaintEvent*>(event)->region();
-        return false;
-    }
-
-    QRegion region;
-};
-
-class Grid : public QtTest {
-protected:
-    void SetUp() override
-    {
-        form_ = Show({Design(WidgetKind::MSFlexGrid, "msfgGrade", 0, 0, 9000, 6000)});
-        grid_ = &Bind<MSFlexGrid>(form_, "msfgGrade");
-        Fill();
-        Settle();
-    }
-
-    // One header row of 40 pixels and ten rows of 38; column 1 is hidden.
-    void Fill()
-    {
-        grid_->Redraw(false);
-        grid_->FixedCols(0);
-        grid_->Rows(11);
-        grid_->Cols(3);
-        grid_->RowHeight(0, 600);
-        grid_->GridLines(0);
-        grid_->GridLinesFixed(0);
-        grid_->BorderStyle(0);
-        grid_->ScrollBars(0);
-        grid_->WordWrap(true);
-        grid_->BackColorBkg(colours::White);
-        grid_->BackColorSel(Selected);
-        grid_->ForeColorSel(colours::ButtonText);
-        grid_->ColWidth(0, 1500);
-        grid_->ColWidth(1, 0);
-        grid_->ColWidth(2, 3000);
-        for (Long row = 1; row < 11; ++row)
-            FillRow(row);
-        grid_->Redraw(true);
-    }
-
-    void FillRow(Long row)
-    {
-        grid_->RowHeight(row, 570);
-        for (Long col = 0; col < 3; ++col) {
-            grid_->Row(row);
-            grid_->Col(col);
-            grid_->CellBackColor(row % 2 == 1 ? Odd : colours::White);
-            grid_->CellForeColor(colours::Red);
-        }
-    }
-
-    void SelectRow(Long row)
-    {
-        grid_->SelectionMode(1);
-        grid_->Col(0);
-        grid_->Row(row);
-        grid_->ColSel(2);
-    }
-
-    GridCanvas& Canvas() { return dynamic_cast<GridCanvas&>(*WindowOf(*grid_)); }
-    QRect Cell(Long row, Long col) { return Canvas().CellArea(row, col); }
-
-    // Pixels of an area that are not of its ground.
-    int Ink(const QRect& area)
-    {
-        const QImage image = Picture(&Canvas());
-        const QRgb ground = image.pixel(area.left() + 1, area.top() + 1);
-        int ink = 0;
-        for (int y = area.top() + 1; y < area.bottom(); ++y) {
-            for (int x = area.left() + 1; x < area.right(); ++x)
-                ink += image.pixel(x, y) != ground;
-        }
-        return ink;
-    }
-
-    FormRef form_;
-    MSFlexGrid* grid_ = nullptr;
-};
 
 TEST_F(Grid, PaintsEachCellOnItsOwnGround)
 {
@@ -285,6 +192,101 @@ TEST_F(Grid, IsPressedOnceByTheSpaceBarHoweverLongItIsHeld)
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(Grid, IsNotPressedByTheOtherButton)
+{
+    int clicks = 0;
+    grid_->OnClick([&] { ++clicks; });
+    grid_->Row(1);
+    const QPoint place = Cell(3, 0).center();
+    QTest::mousePress(&Canvas(), Qt::RightButton, {}, place);
+    QTest::mouseRelease(&Canvas(), Qt::RightButton, {}, place);
+    EXPECT_EQ(grid_->Row(), 1);
+    QTest::mousePress(&Canvas(), Qt::LeftButton, {}, place);
+    QTest::mouseRelease(&Canvas(), Qt::RightButton, {}, place);
+    EXPECT_EQ(grid_->Row(), 3);
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseRelease(&Canvas(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Grid, ShowsByABarInWhichRowTheKeysAre)
+{
+    grid_->Row(2);
+    Canvas().setFocus();
+    const auto edgeOf = [&](Long row) {
+        return Picture(&Canvas()).pixelColor(Cell(row, 0).left() + 1, Cell(row, 0).center().y());
+    };
+    EXPECT_EQ(edgeOf(2), look::Accent);
+    EXPECT_NE(edgeOf(3), look::Accent);
+    Canvas().clearFocus();
+    EXPECT_NE(edgeOf(2), look::Accent);
+    grid_->Row(0);
+    Canvas().setFocus();
+    EXPECT_NE(edgeOf(0), look::Accent) << "a header";
+}
+
+TEST_F(Grid, HasABarOnlyWhereRowsAreOutOfSight)
+{
+    const auto hasBar = [&] {
+        for (const QScrollBar* bar : Canvas().findChildren<QScrollBar*>())
+            if (bar->isVisible())
+                return true;
+        return false;
+    };
+    for (Long row = 1; row < 11; ++row)
+        grid_->RowHeight(row, 540);
+    grid_->ScrollBars(2);
+    ASSERT_EQ(Cell(10, 0).bottom(), Canvas().height() - 1);
+    EXPECT_FALSE(hasBar());
+    grid_->Rows(12);
+    EXPECT_TRUE(hasBar());
+}
+
+TEST_F(Grid, RepaintsTheRowsInSightWhereASelectionReachesBeyondBothEnds)
+{
+    grid_->Rows(200);
+    grid_->TopRow(50);
+    grid_->Row(2);
+    grid_->ColSel(2);
+    grid_->TopRow(50);
+    Settle();
+    PaintCounter counter(Canvas());
+    grid_->RowSel(190);
+    Settle();
+    EXPECT_TRUE(counter.region.contains(Canvas().RowArea(55).center()));
+}
+
+TEST_F(Grid, ShowsNoHalfFilledCells)
+{
+    grid_->Redraw(false);
+    grid_->BackColorBkg(Rgb(0, 255, 0));
+    const QImage shown = Picture(&Canvas());
+    EXPECT_EQ(shown.pixelColor(20, 100), QColor(Qt::green));
+    EXPECT_EQ(shown.pixelColor(20, 20), QColor(Qt::green));
+}
+
+TEST_F(Grid, AlignsTextsToTheCornersOfTheirCells)
+{
+    grid_->TextMatrix(2, 2, "Rex");
+    const auto inkOf = [&](Integer alignment) {
+        grid_->ColAlignment(2, alignment);
+        const QImage image = Picture(&Canvas()).copy(Cell(2, 2));
+        QRect ink;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) != QColor(Qt::white))
+                    ink |= QRect(x, y, 1, 1);
+        return ink;
+    };
+    const QRect leftTop = inkOf(0);
+    const QRect rightBottom = inkOf(8);
+    const QRect general = inkOf(9);
+    EXPECT_LT(leftTop.top(), general.top());
+    EXPECT_EQ(leftTop.left(), general.left());
+    EXPECT_GT(rightBottom.left(), general.left());
+    EXPECT_GT(rightBottom.top(), general.top());
+}
+
 TEST_F(Grid, ResizesAColumnByDraggingItsHeaderEdge)
 {
     grid_->AllowUserResizing(1);
@@ -353,83 +355,6 @@ TEST_F(Grid, ScrollsFiftyThousandRowsByTheWheel)
     EXPECT_GT(Ink(Cell(49990, 2)), 10);
 }
 
-TEST_F(Grid, ReadsTheCurrentRowToAssistiveTools)
-{
-    grid_->TextMatrix(0, 2, "Nome do\r\nAnimal");
-    grid_->TextMatrix(2, 2, "Rex");
-    grid_->TextMatrix(2, 1, "oculto");
-    SelectRow(2);
-    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
-    ASSERT_NE(table, nullptr);
-    EXPECT_EQ(table->text(QAccessible::Value).toStdString(), "Nome do Animal: Rex");
-    ASSERT_NE(table->tableInterface(), nullptr);
-    EXPECT_EQ(table->tableInterface()->columnCount(), 2);
-    EXPECT_EQ(table->tableInterface()->rowCount(), 11);
-    EXPECT_EQ(table->tableInterface()->cellAt(2, 1)->text(QAccessible::Name).toStdString(), "Rex");
-    EXPECT_EQ(table->tableInterface()->selectedRows(), QList<int>{2});
-}
-
-TEST_F(Grid, ReadsARowWithTheHeadsOfItsColumnsWhereThereAreSome)
-{
-    grid_->TextMatrix(0, 2, "Animal");
-    grid_->TextMatrix(2, 2, "Rex");
-    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
-    ASSERT_NE(table, nullptr);
-    EXPECT_EQ(Canvas().RowAsText(0).toStdString(), "Animal");
-    EXPECT_EQ(Canvas().RowAsText(2).toStdString(), "Animal: Rex");
-    EXPECT_EQ(Canvas().RowAsText(-1).toStdString(), "");
-    EXPECT_EQ(Canvas().RowAsText(11).toStdString(), "");
-    grid_->FixedRows(0);
-    EXPECT_EQ(Canvas().RowAsText(2).toStdString(), "Rex");
-}
-
-TEST_F(Grid, TellsAssistiveToolsOfEachCell)
-{
-    grid_->TextMatrix(0, 0, "Hora");
-    grid_->TextMatrix(0, 2, "Nome do\r\nAnimal");
-    grid_->TextMatrix(3, 2, "Rex");
-    SelectRow(3);
-    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
-    ASSERT_NE(table, nullptr);
-    QAccessibleInterface* name = table->tableInterface()->cellAt(3, 1);
-    ASSERT_NE(name, nullptr);
-    EXPECT_EQ(name->role(), QAccessible::Cell);
-    EXPECT_EQ(name->rect(), QRect(Canvas().mapToGlobal(Cell(3, 2).topLeft()), Cell(3, 2).size()));
-    EXPECT_TRUE(name->state().selected);
-    EXPECT_FALSE(table->tableInterface()->cellAt(2, 1)->state().selected);
-    EXPECT_EQ(name->actionInterface(), nullptr);
-    QAccessibleTableCellInterface* place = name->tableCellInterface();
-    ASSERT_NE(place, nullptr);
-    EXPECT_EQ(place->rowIndex(), 3);
-    EXPECT_EQ(place->columnIndex(), 1) << "the hidden column does not count";
-    EXPECT_EQ(place->table(), table);
-    ASSERT_EQ(place->columnHeaderCells().size(), 1);
-    EXPECT_EQ(place->columnHeaderCells().front()->role(), QAccessible::ColumnHeader);
-    EXPECT_EQ(place->columnHeaderCells().front()->text(QAccessible::Name), QStringLiteral("Nome do Animal"));
-}
-
-TEST_F(Grid, TellsAssistiveToolsNothingOfWhatIsNotThere)
-{
-    grid_->TextMatrix(10, 2, "Rex");
-    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
-    ASSERT_NE(table, nullptr);
-    QAccessibleInterface* cell = table->tableInterface()->cellAt(10, 1);
-    ASSERT_NE(cell, nullptr);
-    EXPECT_EQ(cell->text(QAccessible::Name), QStringLiteral("Rex"));
-    EXPECT_EQ(cell->text(QAccessible::Value), QStringLiteral("Rex"));
-    EXPECT_EQ(cell->text(QAccessible::Description), QString());
-    grid_->Rows(5);
-    EXPECT_FALSE(cell->isValid());
-    EXPECT_EQ(cell->text(QAccessible::Name), QString());
-    grid_->TextMatrix(0, 0, "Hora");
-    EXPECT_EQ(table->tableInterface()->columnDescription(0), QStringLiteral("Hora"));
-    grid_->FixedRows(0);
-    EXPECT_EQ(table->tableInterface()->columnDescription(0), QString());
-    grid_->ColWidth(0, 0);
-    grid_->ColWidth(2, 0);
-    EXPECT_EQ(table->child(0), nullptr);
-}
-
 TEST_F(Grid, HasABorderWhereItIsTold)
 {
     const auto edge = [&] { return Picture(&Canvas()).pixelColor(0, Cell(2, 0).center().y()); };
@@ -460,24 +385,6 @@ TEST_F(Grid, LeavesTheWheelToOthersWhereItHasNoBar)
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&Canvas(), &wheel);
     EXPECT_FALSE(wheel.isAccepted());
-}
-
-TEST_F(Grid, TellsAssistiveToolsOfItsCellsAsChildren)
-{
-    SelectRow(3);
-    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&Canvas());
-    EXPECT_EQ(table->childCount(), 22);
-    QAccessibleTableInterface* cells = table->tableInterface();
-    EXPECT_EQ(table->child(7), cells->cellAt(3, 1));
-    EXPECT_EQ(table->indexOfChild(cells->cellAt(3, 1)), 7);
-    EXPECT_EQ(table->indexOfChild(table), -1);
-    EXPECT_EQ(cells->cellAt(11, 0), nullptr);
-    EXPECT_EQ(cells->cellAt(0, 2), nullptr);
-    EXPECT_EQ(cells->cellAt(-1, 0), nullptr);
-    EXPECT_EQ(cells->selectedCells(),
-              (QList<QAccessibleInterface*>{cells->cellAt(3, 0), cells->cellAt(3, 1)}));
-    EXPECT_EQ(cells->selectedCellCount(), 2);
-    EXPECT_EQ(cells->columnDescription(1), cells->cellAt(0, 1)->text(QAccessible::Name));
 }
 
 } // namespace
