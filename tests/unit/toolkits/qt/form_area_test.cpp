@@ -298,6 +298,59 @@ TEST_F(PanelAtTheEdge, DrawsThemAsDesignedOnceThereIsRoom)
         EXPECT_EQ(Line(line)->y(), 3 + 17 * line);
 }
 
+TEST_F(LargeForms, ScrollAcrossByTheWheel)
+{
+    FormDesign design = Tall();
+    design.width = ToTwips(Room().width() + 400);
+    FormRef both = Open(design);
+    design.height = 6000;
+    design.controls.resize(1);
+    FormRef wide = Open(design);
+    const auto leftOf = [](const FormRef& form) {
+        const QWidget* box = WindowOf(form->Control("kvtxtCima"));
+        return box->mapTo(WidgetOf(form), QPoint()).x();
+    };
+    const auto turn = [](const FormRef& form, const QPoint& by) {
+        QWidget* target = FocusWindowOf(form->Control("kvtxtCima"));
+        const QPointF place(5, 5);
+        QWheelEvent event(place, target->mapToGlobal(place), QPoint(), by, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(target, &event);
+    };
+    for (const FormRef& form : {both, wide}) {
+        const int before = leftOf(form);
+        turn(form, QPoint(-120, 0));
+        EXPECT_LT(leftOf(form), before) << "sideways";
+    }
+    const int before = leftOf(wide);
+    turn(wide, QPoint(0, -120));
+    EXPECT_LT(leftOf(wide), before) << "down, where there is nothing to scroll down";
+}
+
+TEST_F(PanelAtTheEdge, MayHoldPicturesThatAreNotDrawn)
+{
+    ControlDesign panel =
+        Design(WidgetKind::PictureBox, "picPainel", 0, ToTwips(400 - RoomBelow), 6000, ToTwips(75));
+    ControlDesign picture = Design(WidgetKind::Image, "img", 0, 0, 300, 300);
+    picture.container = "picPainel";
+    FormRef form = toolkit_.CreateForm(Form({panel, picture}));
+    form->SetParent(HandleOf(container_));
+    form->Show(ShowMode::Modeless);
+    EXPECT_LT(WindowOf(form->Control("picPainel"))->height(), 75);
+}
+
+TEST(RoomInAForm, NeedsNoBarWhereItIsTheLeastThatTheFormNeeds)
+{
+    FormDesign design = Form({});
+    design.leastWidth = ToTwips(300);
+    design.leastHeight = ToTwips(200);
+    for (const QSize& room : {QSize(300, 200), QSize(305, 200), QSize(300, 205), QSize(500, 200)})
+        EXPECT_EQ(InnerSizeWithin(design, room), room) << room.width() << "x" << room.height();
+    EXPECT_EQ(InnerSizeWithin(design, QSize(299, 400)).width(), 300);
+    EXPECT_LT(InnerSizeWithin(design, QSize(299, 400)).height(), 400);
+}
+
 TEST(FormFoot, BeginsAboveTheButtonsThatEndTheForm)
 {
     FormDesign design = Form({Design(WidgetKind::KVTextBox, "kvtxt", 300, 300, 3000, 510),
@@ -305,7 +358,11 @@ TEST(FormFoot, BeginsAboveTheButtonsThatEndTheForm)
     EXPECT_EQ(FootTopOf(design), 0);
     design.controls.back().isCancel = true;
     EXPECT_EQ(FootTopOf(design), 7880);
-    design.controls.front().height = 7700;
+    design.controls.front().height = 7880 - 300;
+    EXPECT_EQ(FootTopOf(design), 7880) << "a box that ends there";
+    design.controls.front().top = 7880;
+    EXPECT_EQ(FootTopOf(design), 7880) << "a box that begins there";
+    design.controls.front().top = 7870;
     EXPECT_EQ(FootTopOf(design), 0);
 }
 

@@ -2,6 +2,7 @@
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/top_window.hpp"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
@@ -92,10 +93,12 @@ TEST_F(Forms, AreMovedByCode)
 TEST_F(Forms, StackControlsOfAKindInTheOrderOfTheirDesign)
 {
     FormRef form = Show({Design(WidgetKind::KVCommandButton, "kvcmdUm", 0, 0, 1500, 600),
-                         Design(WidgetKind::KVCommandButton, "kvcmdDois", 0, 0, 1500, 600),
-                         Design(WidgetKind::Label, "lblTexto", 0, 0, 1500, 600)});
+                         Design(WidgetKind::KVCommandButton, "kvcmdDois", 750, 0, 1500, 600),
+                         Design(WidgetKind::Label, "lblTexto", 0, 0, 2250, 600)});
+    QWidget* first = WindowOf(form->Control("kvcmdUm"));
     QWidget* second = WindowOf(form->Control("kvcmdDois"));
-    EXPECT_EQ(second->parentWidget()->childAt(20, 20), second);
+    EXPECT_EQ(second->parentWidget()->childAt(20, 20), first);
+    EXPECT_EQ(second->parentWidget()->childAt(70, 20), second);
 }
 
 TEST_F(Forms, HearOfTheLastFunctionKey)
@@ -206,6 +209,26 @@ TEST_F(Forms, LoseTheFocusToAMouseClick)
     EXPECT_TRUE(CoreOf(Bind<KVTextBox>(form, "kvtxtDois")).HasFocus());
 }
 
+TEST_F(Forms, HearOfTheFocusThatComesByTabFromAround)
+{
+    FormRef form = Show(TwoFieldsAndButtons());
+    FocusWindowOf(Bind<KVTextBox>(form, "kvtxtDois"))->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(CoreOf(Bind<KVTextBox>(form, "kvtxtDois")).HasFocus());
+}
+
+TEST_F(Forms, GiveTheFocusToControlsWhoseWindowIsGone)
+{
+    FormRef form = Show({Design(WidgetKind::KVTextBox, "kvtxtUm", 0, 0, 3000, 510),
+                         Design(WidgetKind::KVTextBox, "kvtxtDois", 0, 1000, 3000, 510),
+                         Design(WidgetKind::KVNavigationBar, "kvnb", 0, 2000, 3000, 510)});
+    for (const char* name : {"kvtxtDois", "kvnb"}) {
+        Widget& control = form->Control(name);
+        delete WindowOf(control);
+        control.SetFocus();
+        EXPECT_TRUE(CoreOf(control).HasFocus()) << name;
+    }
+}
+
 TEST_F(Forms, KeepTheFocusOffAFieldThatIsHidden)
 {
     FormRef form = Show(TwoFieldsAndButtons());
@@ -251,7 +274,10 @@ TEST_F(Forms, ReturnFromAModalShowWhenHidden)
     FormRef form = toolkit_.CreateForm(Form(TwoFieldsAndButtons()));
     auto& save = Bind<KVCommandButton>(form, "kvcmdSalvar");
     save.OnClick([&] { form->Hide(); });
-    QTimer::singleShot(0, qApp, [&] { ClickAt(WindowOf(save), QPoint(10, 10)); });
+    QTimer::singleShot(0, qApp, [&] {
+        EXPECT_EQ(QApplication::activeModalWidget(), WidgetOf(form));
+        ClickAt(WindowOf(save), QPoint(10, 10));
+    });
     form->Show(ShowMode::Modal);
     EXPECT_FALSE(form->Visible());
     EXPECT_TRUE(form->IsLoaded());
@@ -335,6 +361,25 @@ TEST_F(Forms, ProcessPendingEventsRunsWhatWaits)
     toolkit_.ProcessPendingEvents();
     EXPECT_TRUE(ran);
     toolkit_.ProcessPendingEvents();
+}
+
+TEST_F(Forms, ProcessPendingEventsWaitsInAPauseWithNothingToDoOnly)
+{
+    int waits = 0;
+    const QObject listener;
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &listener,
+                     [&] { ++waits; });
+    Settle();
+    toolkit_.ProcessPendingEvents();
+    EXPECT_EQ(waits, 0);
+    toolkit_.PauseBegins(1);
+    QTimer::singleShot(0, qApp, [] {});
+    toolkit_.ProcessPendingEvents();
+    EXPECT_EQ(waits, 0);
+    Settle();
+    toolkit_.ProcessPendingEvents();
+    EXPECT_GT(waits, 0);
+    toolkit_.PauseEnds();
 }
 
 } // namespace

@@ -175,6 +175,18 @@ TEST_F(KeysOfAPause, AreDeliveredInTheirOrderWhenTheFormTakesInputAgain)
     EXPECT_EQ(box_->Text(), "ana");
 }
 
+TEST_F(KeysOfAPause, PressTheButtonThatHasTheFocus)
+{
+    int clicks = 0;
+    auto& button = Bind<KVCommandButton>(form_, "kvcmd");
+    button.OnClick([&] { ++clicks; });
+    button.SetFocus();
+    WaitInAnEvent([&] { TypeNow(" "); });
+    EXPECT_EQ(clicks, 0);
+    Settle();
+    EXPECT_EQ(clicks, 1) << "pressed and let go";
+}
+
 TEST_F(KeysOfAPause, MayHaveBeenComposed)
 {
     WaitInAnEvent([this] {

@@ -73,6 +73,8 @@ TEST_F(AccessibleFields, AComboTellsItsRoleItsNameAndItsValue)
     EXPECT_EQ(read.text(QAccessible::Value), "Atendido");
     EXPECT_TRUE(read.state().collapsed);
     ASSERT_NE(read.actionInterface(), nullptr);
+    read.actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(read.state().collapsed) << "nothing that it offers";
     read.actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
     EXPECT_TRUE(read.state().expanded);
     EXPECT_TRUE(dynamic_cast<ComboField&>(*WindowOf(combo)).IsListOpen());
@@ -89,6 +91,31 @@ TEST_F(AccessibleFields, AnOptionIsARadioButtonAndACheckBoxIsNone)
     Read("chk").actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     EXPECT_EQ(Get<CheckBox>("chk").Value(), 1);
     EXPECT_TRUE(Read("chk").state().checked);
+    EXPECT_FALSE(Read("chk").state().checkStateMixed);
+    Get<CheckBox>("chk").Value(2);
+    EXPECT_TRUE(Read("chk").state().checkStateMixed);
+}
+
+TEST_F(AccessibleFields, ACheckBoxDoesWhatItOffersWhileItCanBeUsed)
+{
+    auto& check = Get<CheckBox>("chk");
+    QAccessibleActionInterface& actions = *Read("chk").actionInterface();
+    actions.doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_EQ(check.Value(), 0);
+    check.Enabled(false);
+    actions.doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(check.Value(), 0);
+}
+
+TEST_F(AccessibleFields, AnOptionIsCalledByTheCaptionThatItWasGivenLater)
+{
+    ControlDesign bare = Design(WidgetKind::OptionButton, "optSem", 0, 0, 3000, 300);
+    const FormRef form = Show({bare});
+    Bind<OptionButton>(form, "optSem").Caption("Completo");
+    const QAccessibleInterface* read =
+        QAccessible::queryAccessibleInterface(WindowOf(form->Control("optSem")));
+    EXPECT_EQ(read->text(QAccessible::Name), QStringLiteral("Completo"));
+    EXPECT_EQ(read->text(QAccessible::Description), QString());
 }
 
 TEST_F(AccessibleFields, AHiddenControlIsNotThere)

@@ -114,6 +114,46 @@ TEST_F(ComboFields, LeaveKeysThatMeanNothingToThemToOthers)
     EXPECT_EQ(around_.keys.size(), 2u);
 }
 
+TEST_F(ComboFields, TypeNoLettersThatAltTakesElsewhere)
+{
+    QString letters;
+    field_.typed = [&](const QString& text) { letters += text; };
+    Press(&field_, Qt::Key_Z, QStringLiteral("z"), Qt::AltModifier);
+    EXPECT_EQ(letters, QString());
+    EXPECT_EQ(around_.keys, std::vector<int>{Qt::Key_Z});
+}
+
+TEST_F(ComboFields, AreOpenedByAltAndAnArrowAndKeepTheirKeysToThemselves)
+{
+    std::vector<toolkit::ComboKey> seen;
+    field_.keyPressed = [&](toolkit::ComboKey key) { seen.push_back(key); };
+    Press(&field_, Qt::Key_Down, QString(), Qt::AltModifier);
+    Press(&field_, Qt::Key_Up, QString(), Qt::AltModifier);
+    EXPECT_EQ(seen, std::vector<toolkit::ComboKey>(2, toolkit::ComboKey::Open));
+    seen.clear();
+    Press(&field_, Qt::Key_Down);
+    Press(&field_, Qt::Key_Up);
+    Press(&field_, Qt::Key_F4);
+    EXPECT_EQ(seen,
+              (std::vector<toolkit::ComboKey>{toolkit::ComboKey::Down, toolkit::ComboKey::Up,
+                                              toolkit::ComboKey::Open}));
+    EXPECT_TRUE(around_.keys.empty());
+    Press(&field_, Qt::Key_F4, QString(), Qt::AltModifier);
+    EXPECT_EQ(seen.size(), 3u) << "the key that closes a window";
+    EXPECT_EQ(around_.keys, std::vector<int>{Qt::Key_F4});
+}
+
+TEST_F(ComboFields, TellTheirCutTextRatherThanWhatLiesAroundThem)
+{
+    around_.setToolTip(QStringLiteral("Cadastro"));
+    field_.SetShownText(QStringLiteral("Banho"));
+    EXPECT_EQ(ToolTipOver(), QStringLiteral("Cadastro"));
+    field_.resize(40, 30);
+    EXPECT_EQ(ToolTipOver(), QStringLiteral("Banho"));
+    field_.setToolTip(QStringLiteral("Serviço"));
+    EXPECT_EQ(ToolTipOver(), QStringLiteral("Serviço")) << "its own";
+}
+
 TEST_F(ComboFields, TellATextInAToolTipOnlyWhereItIsCut)
 {
     // Widths are counted in parts of a pixel; that many of one letter are whole pixels wide.

@@ -1,5 +1,6 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 #include "toolkits/qt/boxes/line_edit.hpp"
+#include "toolkits/qt/picture_box.hpp"
 
 #include <QApplication>
 #include <QClipboard>
@@ -116,6 +117,20 @@ TEST_F(LineEdits, KeepASelectionAtThePressThatBringsTheFocus)
     ClickAt(editor, QPoint(20, 15));
     EXPECT_FALSE(editor->hasSelectedText()) << "the focus came by a key before";
 }
+
+TEST_F(LineEdits, DrawNothingAroundTheirTextNorBehindIt)
+{
+    PanelWindow field(nullptr);
+    field.SetGround(Qt::red);
+    field.resize(100, 40);
+    LineEdit editor(&field);
+    editor.setGeometry(10, 5, 80, 30);
+    QImage ground(field.size(), QImage::Format_RGB32);
+    ground.fill(Qt::red);
+    EXPECT_EQ(Picture(&field), ground);
+}
+
+TEST_F(LineEdits, TakeNothingThatIsDropped) { EXPECT_FALSE(editor_.acceptDrops()); }
 
 /// The tip that shows after the mouse has rested there.
 QString ToolTipOver(QWidget& widget)

@@ -1,13 +1,15 @@
 #include "tests/unit/toolkits/qt/support.hpp"
 #include "toolkits/qt/boxes/field_frame.hpp"
 #include "toolkits/qt/boxes/line_edit.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/flat_button.hpp"
 #include "toolkits/qt/look/icons.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEnterEvent>
 #include <QKeyEvent>
+#include <QTest>
 
 namespace kova::qt::test {
 namespace {
@@ -28,6 +30,15 @@ protected:
         button_.clearFocus();
     }
     QColor Ground() { return Picture(&button_).pixelColor(6, 6); }
+    bool HasInk(const QColor& ink)
+    {
+        const QImage image = Picture(&button_);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) == ink)
+                    return true;
+        return false;
+    }
     void Hover(bool over)
     {
         button_.setAttribute(Qt::WA_UnderMouse, over);
@@ -169,18 +180,21 @@ TEST_F(FlatButtons, WriteInAnotherColourUnderTheMouse)
 {
     button_.SetColours({Qt::white, Qt::blue, Qt::black, Qt::yellow});
     button_.setText(QStringLiteral("Salvar"));
-    const auto has = [&](const QColor& ink) {
-        const QImage image = Picture(&button_);
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                if (image.pixelColor(x, y) == ink)
-                    return true;
-        return false;
-    };
-    EXPECT_TRUE(has(Qt::black));
-    EXPECT_FALSE(has(Qt::yellow));
+    EXPECT_TRUE(HasInk(Qt::black));
+    EXPECT_FALSE(HasInk(Qt::yellow));
     Hover(true);
-    EXPECT_TRUE(has(Qt::yellow));
+    EXPECT_TRUE(HasInk(Qt::yellow));
+}
+
+TEST_F(FlatButtons, WriteInAPaleColourInTheLightLookAlone)
+{
+    const QColor pale(150, 150, 150);
+    button_.SetColours({Qt::white, Qt::white, pale, pale});
+    button_.setText(QStringLiteral("Salvar"));
+    EXPECT_TRUE(HasInk(pale));
+    ApplyLook(*qApp, Look::Dark);
+    EXPECT_FALSE(HasInk(pale));
+    ApplyLook(*qApp, Look::Light);
 }
 
 TEST_F(FlatButtons, ShowTheFocus)
@@ -218,6 +232,24 @@ TEST_F(FieldFrames, ArePressedAtTheirEndOnly)
     EXPECT_EQ(presses_, 1);
     frame_.endPressed = nullptr;
     ClickAt(&frame_, End);
+}
+
+TEST_F(FieldFrames, AreNotPressedByTheOtherButton)
+{
+    window_.activateWindow();
+    frame_.Editor().clearFocus();
+    for (const QPoint& place : {End, QPoint(3, 3)})
+        QTest::mousePress(&frame_, Qt::RightButton, {}, place);
+    EXPECT_EQ(presses_, 0);
+    EXPECT_FALSE(frame_.Editor().hasFocus());
+}
+
+TEST_F(FieldFrames, DrawNoIconWhereTheyAreShut)
+{
+    frame_.SetOpen(false);
+    const QImage shut = Picture(&frame_);
+    frame_.SetEndIcon("", QString());
+    EXPECT_EQ(Picture(&frame_), shut);
 }
 
 TEST_F(FieldFrames, KeepTheFocusWhereItIsWhereTheirEndIsPressed)

@@ -61,6 +61,19 @@ TEST_F(PlainButtons, AreFlat)
     EXPECT_EQ(GroundOf(offered_), std::set<QRgb>{look::Accent.rgb()});
 }
 
+TEST_F(PlainButtons, HaveTextsThatCanBeRead)
+{
+    for (QPushButton* button : {offered_, other_}) {
+        const QImage picture = Picture(button);
+        const QColor ground = picture.pixelColor(6, picture.height() / 2);
+        double best = 1;
+        for (int x = 10; x < picture.width() - 10; ++x)
+            for (int y = 8; y < picture.height() - 8; ++y)
+                best = std::max(best, Contrast(picture.pixelColor(x, y), ground));
+        EXPECT_GE(best, LeastTextContrast) << button->text().toStdString();
+    }
+}
+
 TEST_F(PlainButtons, StandBesideFieldsThatAreFlatToo)
 {
     QComboBox list;

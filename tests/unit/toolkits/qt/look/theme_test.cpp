@@ -13,6 +13,9 @@
 namespace kova::qt::test {
 namespace {
 
+/// The system's colour of buttons, as forms name it.
+constexpr Colour ButtonFace = -2147483633;
+
 /// What the product draws in each of its looks. The light one is back at the end.
 class Looks : public ::testing::TestWithParam<Look> {
 protected:
@@ -148,6 +151,20 @@ TEST_F(DarkLook, KeepsTheHueOfWhatMeansSomething)
     EXPECT_LT(InkColor(Rgb(255, 0, 0), look::Ink, look::Paper).hslHue(), 10);
 }
 
+TEST_F(DarkLook, LightensAnInkNoFurtherThanItTakesToReadIt)
+{
+    const double red = Contrast(InkColor(Rgb(255, 0, 0), look::Ink, look::Paper), look::Paper);
+    EXPECT_GE(red, LeastTextContrast);
+    EXPECT_LT(red, LeastTextContrast + 1);
+}
+
+TEST_F(DarkLook, MakesBlackGroundsTheLightestAndPlatesItsOwn)
+{
+    EXPECT_GT(GroundColor(colours::Black, look::Paper).lightnessF(),
+              GroundColor(Rgb(217, 217, 217), look::Paper).lightnessF());
+    EXPECT_EQ(GroundColor(ButtonFace, look::Paper), look::Plate);
+}
+
 TEST_F(DarkLook, LeavesPaperWhite) { EXPECT_EQ(ToColor(colours::White, look::Paper), QColor(Qt::white)); }
 
 TEST_F(DarkLook, DrawsFormsAndTheirControlsDark)
@@ -172,6 +189,8 @@ TEST(LightLook, ShowsTheColoursOfTheFormsAsTheyAre)
 {
     EXPECT_EQ(GroundColor(16617293, look::Plate), QColor(77, 143, 253));
     EXPECT_EQ(InkColor(Rgb(110, 110, 110), look::Ink, look::Paper), QColor(110, 110, 110));
+    EXPECT_EQ(InkColor(colours::Black, look::Ink, look::Paper), QColor(Qt::black));
+    EXPECT_EQ(GroundColor(ButtonFace, look::Paper), QColor(240, 240, 240));
 }
 
 TEST(DesktopLook, IsToldByItsPalette)

@@ -133,6 +133,18 @@ TEST_F(Preview, KeepsThePageWhenItsSizeChanges)
     EXPECT_EQ(Canvas().CurrentPage(), 2u);
 }
 
+TEST_F(Preview, CountsThePageThatWasAskedForWhereSeveralAreInSight)
+{
+    const std::string last = "Página " + std::to_string(Pages()) + " de " + std::to_string(Pages());
+    for (int presses = 0; presses < 20; ++presses)
+        Press(Qt::Key_Minus, Qt::ControlModifier);
+    Press(Qt::Key_End);
+    EXPECT_EQ(Label("pagina"), last);
+    Window().resize(1000, 4000);
+    Settle();
+    EXPECT_EQ(Label("pagina"), last) << "with room for more pages than there are";
+}
+
 TEST_F(Preview, FitsTheWidthUntilAnotherSizeIsChosen)
 {
     const double narrow = Canvas().Zoom();
@@ -252,6 +264,17 @@ TEST_F(Preview, GoesOnWhereTheUserThinksBetterOfSavingOrPrinting)
     EXPECT_TRUE(Window().isVisible());
 }
 
+TEST_F(Preview, KeepsTellingWhatWasSavedWhereTheUserThinksBetterOfMore)
+{
+    const QTemporaryDir folder;
+    Desk().path = folder.filePath(QStringLiteral("dia.pdf"));
+    Press(Qt::Key_S, Qt::ControlModifier);
+    Desk().path.clear();
+    Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Desk().asked, 2);
+    EXPECT_EQ(Label("situacao"), "Salvo em dia.pdf");
+}
+
 TEST_F(Preview, TellsOfAFolderThatCannotBeWritten)
 {
     Desk().path = QStringLiteral("/proc/dia.pdf");
@@ -367,6 +390,18 @@ TEST_F(ModalPreview, OpensACardAsAWholePageAndAListAsWideAsTheWindow)
         EXPECT_EQ(height <= window.Canvas().viewport()->height(), !IsList(*layout)) << layout->name;
         EXPECT_EQ(document.pages.size(), 1U);
     }
+}
+
+TEST_F(ModalPreview, OpensASquareSheetAsWideAsTheWindow)
+{
+    constexpr Twips edge = 12000;
+    const reports::Document document{"", edge, edge, 1, {reports::Page{}}};
+    ReportDesk desk;
+    ReportPreview window(document, desk, Date{2026, 11, 20}, nullptr);
+    window.show();
+    Settle();
+    EXPECT_GT(window.Canvas().Zoom() * static_cast<double>(edge) / TwipsOfPixel,
+              window.Canvas().viewport()->height());
 }
 
 TEST_F(ModalPreview, ShowsTheCaptionMaximisedAndLetsGoOfTheDataWhenClosed)
