@@ -137,7 +137,8 @@ void Parser::Refuse(const CLI::ParseError& error, std::span<const std::string> w
     // Values only run out behind the last word.
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr)
         call.Refuse("A opção " + words.back() + " precisa de um valor.");
-    if (!app_.remaining().empty())
+    // "--" alone is no word that found no place.
+    if (app_.remaining_size() != 0)
         RefuseLeftOver();
     for (const CLI::Option* operand : operands_) {
         if (operand->count() == 0)
@@ -152,7 +153,7 @@ void Parser::RefuseLeftOver() const
     const Call call(name_);
     const std::vector<std::string> left = app_.remaining();
     const bool mayBeOption = left.front() != "--";
-    const std::string& word = left.size() > 1 && !mayBeOption ? left[1] : left.front();
+    const std::string& word = mayBeOption ? left.front() : left[1];
     if (mayBeOption && word.size() > 1 && word.starts_with("-"))
         call.Refuse("A opção " + word.substr(0, word.find('=')) + " não existe.");
     call.Refuse("\"" + word + "\" sobra na linha de comando.");

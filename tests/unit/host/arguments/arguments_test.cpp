@@ -95,7 +95,7 @@ TEST(Arguments, RefuseAnOptionThatDoesNotExist)
 
 TEST(Arguments, RefuseWordsThatAreLeftOver)
 {
-    for (const char* word : {"b.db", "", "++", "check"}) {
+    for (const char* word : {"b.db", "", "++", "-", "check"}) {
         const std::string left = "\"" + std::string(word) + "\" sobra na linha de comando.";
         EXPECT_EQ(RefusalOf({"a.db", word, "c.db"}), left + Advice);
         EXPECT_EQ(RefusalOf({"check", "a.db", word}, Several),
@@ -106,6 +106,7 @@ TEST(Arguments, RefuseWordsThatAreLeftOver)
 TEST(Arguments, RefuseAMissingOperandByItsName)
 {
     EXPECT_EQ(RefusalOf({}), std::string("Falta informar ARQUIVO.") + Advice);
+    EXPECT_EQ(RefusalOf({"--"}), std::string("Falta informar ARQUIVO.") + Advice);
     EXPECT_EQ(RefusalOf({"copy", "a.db"}, Several),
               "Falta informar NÚMERO. Use lojas copy --help para ver as opções.");
 }
@@ -129,6 +130,7 @@ TEST(Arguments, RefuseAValueForASwitch)
 TEST(Arguments, ReadNumbers)
 {
     EXPECT_EQ(CallOf({"--count", "12", "a.db"}).Count("--count", 3, 12), 12);
+    EXPECT_EQ(CallOf({"--count", "1", "a.db"}).Count("--count", 3, 12), 1);
     EXPECT_EQ(CallOf({"a.db"}).Count("--count", 3, 12), 3);
     EXPECT_EQ(CallOf({"17"}).Number(0), 17);
     for (const char* number : {"0", "13", "-1", "1x", " 1", "1.5", "99999999999999999999"}) {
