@@ -73,13 +73,15 @@ ComponentRef RegisteredComponents::CreateFromLibrary(const std::string& classNam
 {
     const ClassRegistration registration = RequireRegistration(className);
     const LoadedLibrary& library = libraries_.Load(registration.libraryPath);
+    // What fails leaves null.
     ClassFactory* factory = nullptr;
-    if (library.GetClassObject(registration.classId, &factory) != ServerStatus::Ok || !factory)
+    library.GetClassObject(registration.classId, &factory);
+    if (!factory)
         throw ComponentError("A biblioteca '" + library.Path() + "' não oferece a classe "
                              + registration.classId + ". Registre a biblioteca novamente.");
     ComponentRef object;
-    const ServerStatus status = factory->CreateInstance(nullptr, &object);
-    return RequireObject(status == ServerStatus::Ok ? object : nullptr);
+    factory->CreateInstance(nullptr, &object);
+    return RequireObject(object);
 }
 
 } // namespace kova::host

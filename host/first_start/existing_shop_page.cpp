@@ -43,7 +43,6 @@ ExistingShopPage::ExistingShopPage(SourceTrial::Look look, QWidget* parent)
     source_->setObjectName(QStringLiteral("fonte"));
     outcome_->setObjectName(QStringLiteral("resultado"));
     outcome_->setTextFormat(Qt::PlainText);
-    outcome_->setWordWrap(true);
     auto* explanation = new QLabel(Explanation, this);
     explanation->setTextFormat(Qt::PlainText);
     explanation->setWordWrap(true);
@@ -94,14 +93,13 @@ void ExistingShopPage::ChooseFile()
 
 void ExistingShopPage::Try(bool thenOpen)
 {
-    if (trial_->IsUnderWay())
-        return;
     const std::string source = Source();
     outcome_->clear();
     if (source.empty())
         return frame_->Refuse(QStringLiteral("Informe o arquivo ou o endereço da loja."));
     frame_->Refuse({});
     outcome_->setText(QStringLiteral("Procurando a loja..."));
+    // Nor does Enter, which presses a button, begin a second trial.
     Offer(false);
     trial_->Begin(source, [this, source, thenOpen](const SourceTrial::Refusal& refusal) {
         Offer(true);

@@ -95,7 +95,7 @@ bool HoursStep::Accepts()
             continue;
         isEverOpen = true;
         const std::string from = TimeIn(*day.from), to = TimeIn(*day.to);
-        if (!from.empty() && from != EndOfDay && from < to)
+        if (!from.empty() && from < to)
             continue;
         refusal_->Tell(
             day.isOpen->text()

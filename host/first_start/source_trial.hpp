@@ -24,7 +24,6 @@ public:
 
     /// `tell` is called in this thread, from the event loop. Without a trial that is under way only.
     void Begin(const std::string& source, std::function<void(const Refusal&)> tell);
-    bool IsUnderWay() const { return tell_ != nullptr; }
 
 private:
     void End(const Refusal& refusal);

@@ -69,7 +69,6 @@ QPushButton* WelcomePage::AddChoice(const QString& name, const QString& title, c
 {
     auto* button = new QPushButton(title, this);
     button->setObjectName(name);
-    button->setAutoDefault(true);
     button->setFixedSize(ChoiceWidth, ChoiceHeight);
     button->setAccessibleDescription(explanation);
     auto* row = new QHBoxLayout;

@@ -23,8 +23,8 @@ std::vector<RememberedShop> RememberedShops::All() const
 {
     QSettings settings(NameOf(file_), QSettings::IniFormat);
     std::vector<RememberedShop> shops;
-    const int count = settings.beginReadArray(List);
-    for (int at = 0; at < count && shops.size() < Most; ++at) {
+    const int count = std::min(settings.beginReadArray(List), static_cast<int>(Most));
+    for (int at = 0; at < count; ++at) {
         settings.setArrayIndex(at);
         const std::string source = settings.value(SourceKey).toString().toStdString();
         if (!source.empty())
@@ -40,8 +40,7 @@ bool RememberedShops::Remember(const RememberedShop& shop)
         return true;
     std::erase_if(shops, [&](const RememberedShop& one) { return one.source == shop.source; });
     shops.insert(shops.begin(), shop);
-    if (shops.size() > Most)
-        shops.resize(Most);
+    shops.resize(std::min(shops.size(), Most));
     return Write(shops);
 }
 
@@ -58,10 +57,11 @@ bool RememberedShops::Write(const std::vector<RememberedShop>& shops)
     QSettings settings(NameOf(file_), QSettings::IniFormat);
     settings.remove(List);
     settings.beginWriteArray(List, static_cast<int>(shops.size()));
-    for (std::size_t at = 0; at < shops.size(); ++at) {
-        settings.setArrayIndex(static_cast<int>(at));
-        settings.setValue(SourceKey, QString::fromStdString(shops[at].source));
-        settings.setValue(NameKey, QString::fromStdString(shops[at].name));
+    int at = 0;
+    for (const RememberedShop& shop : shops) {
+        settings.setArrayIndex(at++);
+        settings.setValue(SourceKey, QString::fromStdString(shop.source));
+        settings.setValue(NameKey, QString::fromStdString(shop.name));
     }
     settings.endArray();
     settings.sync();

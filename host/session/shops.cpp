@@ -19,10 +19,8 @@ std::string AsOption(const std::string& source)
     return source == system::TextOf(DemonstrationDatabase()) ? std::string() : source;
 }
 
-bool AsksForShops(const Options& options, Outlet outlet)
-{
-    return outlet == Outlet::Window && !options.firstPaint && options.database.empty();
-}
+/// Of those with a window.
+bool AsksForShops(const Options& options) { return !options.firstPaint && options.database.empty(); }
 
 /// Why the shop could not be opened; nothing where the session has begun. `end` is how it ended.
 std::optional<std::string> TryShop(const Options& options, SessionEnd& end)
@@ -42,13 +40,13 @@ std::optional<std::string> TryShop(const Options& options, SessionEnd& end)
 int RunShops(const Options& given, Outlet outlet)
 {
     RequireFolders();
-    if (!AsksForShops(given, outlet) && outlet != Outlet::Window)
+    if (outlet != Outlet::Window)
         return RunSession(given, outlet).status;
 
     const RememberedShops remembered(SettingsFile());
     Options options = given;
     SessionEnd end;
-    if (AsksForShops(given, outlet)) {
+    if (AsksForShops(given)) {
         const auto shops = remembered.All();
         end.next = shops.empty() ? AskForShop(remembered, {}) : shops.front().source;
     } else {
