@@ -99,7 +99,6 @@ void ExistingShopPage::Try(bool thenOpen)
         return frame_->Refuse(QStringLiteral("Informe o arquivo ou o endereço da loja."));
     frame_->Refuse({});
     outcome_->setText(QStringLiteral("Procurando a loja..."));
-    // Nor does Enter, which presses a button, begin a second trial.
     Offer(false);
     trial_->Begin(source, [this, source, thenOpen](const SourceTrial::Refusal& refusal) {
         Offer(true);

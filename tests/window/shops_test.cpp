@@ -8,10 +8,13 @@
 #include "system/path_text.hpp"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
+#include <QToolTip>
 
 namespace kova::window_test {
 
@@ -21,10 +24,11 @@ constexpr const char* List = "frmLista";
 
 class ShopsOfThisComputer : public Shop {
 protected:
-    /// The application without a shop on its command line.
-    static int RunShops()
+    /// The application with a shop on its command line, or without.
+    static int RunShops(const std::string& given = "")
     {
         host::Options options;
+        options.database = given;
         options.user = "Antônia";
         options.date = Date{2026, 11, 20};
         options.size = host::WindowSize{1366, 768};
@@ -33,13 +37,31 @@ protected:
 
     host::RememberedShops remembered_{host::SettingsFile()};
 
-    static std::string Title()
+    /// The application's window; null where there is none.
+    static QWidget* Window()
     {
-        for (const QWidget* top : QApplication::topLevelWidgets()) {
+        for (QWidget* top : QApplication::topLevelWidgets()) {
             if (top->isVisible() && top->findChild<QWidget*>(QStringLiteral("container")))
-                return top->windowTitle().toStdString();
+                return top;
         }
-        return "";
+        return nullptr;
+    }
+
+    static std::string Title() { return Window() == nullptr ? "" : Window()->windowTitle().toStdString(); }
+
+    static QMenu* Menu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+
+    /// What is told of the menu's entry on which the mouse rests.
+    static std::string TipOf(const char* entry)
+    {
+        for (QAction* action : Menu()->actions()) {
+            if (action->text() != QString::fromUtf8(entry))
+                continue;
+            const QPoint place = Menu()->actionGeometry(action).center();
+            QHelpEvent resting(QEvent::ToolTip, place, Menu()->mapToGlobal(place));
+            QCoreApplication::sendEvent(Menu(), &resting);
+        }
+        return QToolTip::text().toStdString();
     }
 
     /// The question for a shop, once it stands there.
@@ -89,15 +111,50 @@ TEST_F(ShopsOfThisComputer, AreTurnedToByTheMenu)
 {
     remembered_.Remember({system::TextOf(host::DemonstrationDatabase()), "Outra"});
     remembered_.Remember({Database(), "Esta"});
-    std::string before, after;
-    receptionist->WaitsFor(List).Looks([&] { before = Title(); }).Presses("F10").Picks("Outra");
+    std::string before, tip, after;
+    receptionist->WaitsFor(List).Looks([&] { before = Title(); }).Presses("F10");
+    receptionist->WaitsUntil("the menu is open", [] { return Menu() != nullptr; })
+        .Does("rest", [&] { tip = TipOf("Outra"); })
+        .Picks("Outra");
     receptionist->WaitsUntil("the other shop is open",
                              [] { return Title().find("(demonstração)") != std::string::npos; });
     receptionist->WaitsFor(List).Looks([&] { after = Title(); }).Leaves();
     EXPECT_EQ(RunShops(), EXIT_SUCCESS);
     EXPECT_EQ(before.find("(demonstração)"), std::string::npos) << before;
+    EXPECT_EQ(tip, system::TextOf(host::DemonstrationDatabase()));
     EXPECT_NE(after.find("(demonstração)"), std::string::npos) << after;
     EXPECT_EQ(remembered_.All().front().source, system::TextOf(host::DemonstrationDatabase()));
+}
+
+TEST_F(ShopsOfThisComputer, StayOpenWhereTheQuestionForAnotherIsLeftOrAnsweredWithThem)
+{
+    remembered_.Remember({system::TextOf(host::DemonstrationDatabase()), "Demonstração"});
+    QPointer<QWidget> window;
+    bool stayedWhenLeft = false, stayedWhenChosen = false;
+    receptionist->WaitsFor(List)
+        .Looks([&] { window = Window(); })
+        .Presses("F10")
+        .Picks("&Abrir outra loja...");
+    receptionist->WaitsUntil("a shop is asked for", [] { return Question() != nullptr; }).Does("leave", [] {
+        QTest::keyClick(Question(), Qt::Key_Escape);
+    });
+    receptionist->WaitsFor(List).Looks([&] { stayedWhenLeft = window && window->isVisible(); });
+    receptionist->Presses("F10").Picks("&Abrir outra loja...");
+    PressesInTheQuestion("demonstracao");
+    receptionist->WaitsFor(List).Looks([&] { stayedWhenChosen = window && window->isVisible(); }).Leaves();
+    EXPECT_EQ(RunShops(), EXIT_SUCCESS);
+    EXPECT_TRUE(stayedWhenLeft);
+    EXPECT_TRUE(stayedWhenChosen);
+}
+
+TEST_F(ShopsOfThisComputer, AreNotAskedForWhereOneIsGiven)
+{
+    remembered_.Remember({system::TextOf(host::DemonstrationDatabase()), "Outra"});
+    std::string title;
+    receptionist->WaitsFor(List).Looks([&] { title = Title(); }).Leaves();
+    EXPECT_EQ(RunShops(Database()), EXIT_SUCCESS);
+    EXPECT_EQ(title.find("(demonstração)"), std::string::npos) << title;
+    EXPECT_EQ(remembered_.All().front().source, Database());
 }
 
 TEST_F(ShopsOfThisComputer, ThatCannotBeOpenedAreToldAndAnotherIsAskedFor)

@@ -1,4 +1,7 @@
+#include "host/session/remembered_shops.hpp"
 #include "tests/unit/host/program_run.hpp"
+
+#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -60,6 +63,28 @@ TEST(Start, DrawsTheDemonstrationDayIntoAPictureAndPrintsItsFirstRows)
     EXPECT_GE(RowsIn(result.output), 5) << result.output;
 }
 
+TEST(Start, DrawsAPictureInTheLookThatIsAskedForElseLight)
+{
+    const TemporaryFolder home;
+    const auto lightness = [&](std::vector<std::string> arguments) {
+        const std::string picture = home / "agenda.png";
+        arguments.insert(arguments.end(), {"--date", "25/03/2026", "--picture", picture});
+        EXPECT_EQ(RunKovaris(arguments, home.Path()).status, 0);
+        const QImage one(QString::fromStdString(picture));
+        return one.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0).lightness();
+    };
+    EXPECT_GT(lightness({}), 192);
+    EXPECT_GT(lightness({"--look", "claro"}), 192);
+    EXPECT_LT(lightness({"--look", "escuro"}), 64);
+}
+
+TEST(Start, OfAPictureIsNoOpeningOfAShopToBeRemembered)
+{
+    const TemporaryFolder home;
+    ASSERT_EQ(RunKovaris({"--date", "25/03/2026"}, home.Path()).status, 0);
+    EXPECT_TRUE(RememberedShops(home / ".config/kovaris/kovaris.ini").All().empty());
+}
+
 TEST(Start, LeavesNothingThatOthersMayRead)
 {
     const TemporaryFolder home;
@@ -82,7 +107,7 @@ TEST(Start, WithoutADisplaySaysWhereThePictureIsAndWhatADisplayIsFor)
     const ProgramResult result = RunKovaris({"--date", "25/03/2026"}, home.Path());
 
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_NE(SizeOfPicture(home / ".local/share/kovaris/agenda.png"), PictureSize{});
+    EXPECT_EQ(SizeOfPicture(home / ".local/share/kovaris/agenda.png"), (PictureSize{1366, 768}));
     ExpectText(result.output, (home / ".local/share/kovaris/agenda.png").string());
     ExpectText(result.output, "DISPLAY");
 }

@@ -162,6 +162,14 @@ TEST_F(RegisteredComponentsTest, SaysWhyALibraryCannotBeRegistered)
     EXPECT_TRUE(Contains(error, registry.Path())) << error;
 }
 
+TEST_F(RegisteredComponentsTest, SaysWhyALibraryCannotBeTakenOutOfTheRegistry)
+{
+    std::filesystem::create_directory(registry.Path());
+    const std::string error = ErrorOf([&] { server.UnregisterLibrary(TEST_COMPONENT); });
+    EXPECT_TRUE(Contains(error, "não retirou as suas classes do registro")) << error;
+    EXPECT_TRUE(Contains(error, registry.Path())) << error;
+}
+
 TEST_F(RegisteredComponentsTest, TakesNoRegistrationWithoutAPathOutsideARegistration)
 {
     EXPECT_FALSE(server.Register({"A.clsA", "{11111111-2222-4333-8444-555555555599}", ""}));

@@ -44,6 +44,7 @@ TEST_F(ProfileFileTest, ReadsByRule)
         {"[S]\nk=1", "S", "k", "1"},
         {"[S]\rk=1\rj=2", "S", "j", "2"},
         {"[Exibir]\nChave=Valor\n", "EXIBIR", "cHAVE", "Valor"},
+        {"[Az]\nKz=1\n", "aZ", "kZ", "1"},
         {" \t[ \vS\t ] resto\n \tk\v = \t um dois \v\n", "S", "k", "um dois"},
         {"[S]\nk=1\n", "  S ", " k ", "1"},
         {"[S]\nk=1\n", "S\t", "k", "ausente"},
@@ -66,6 +67,7 @@ TEST_F(ProfileFileTest, ReadsByRule)
         {"[S]\nk=\n", "S", "k", ""},
         {"[S]\nk=a=b\n", "S", "k", "a=b"},
         {"[S]\n[T]\nk=1\n", "S", "k", "ausente"},
+        {"[S]\n[k=1]\n", "S", "[k", "ausente"},
         {"k=1\n[S]\n", "S", "k", "ausente"},
         {"", "S", "k", "ausente"},
     };
@@ -116,6 +118,7 @@ TEST_F(ProfileFileTest, WritesByRule)
         {"[S]\r\nj=2", "S", "k", "[S]\r\nj=2\r\nk=novo\r\n"},
         {"[S]", "S", "k", "[S]\r\nk=novo\r\n"},
         {"[T]\r\nk=1", "S", "k", "[T]\r\nk=1\r\n[S]\r\nk=novo\r\n"},
+        {"[T]\r\nk=1\r\n", "S", "k", "[T]\r\nk=1\r\n[S]\r\nk=novo\r\n"},
         {"antes\n\n; x\xFF\n[S]\nk=1\nk=2\nlixo\n", "S", "k", "antes\n\n; x\xFF\n[S]\nk=novo\r\nk=2\nlixo\n"},
         {"[S]\na=1\n[S]\nk=2\n", "S", "k", "[S]\na=1\nk=novo\r\n[S]\nk=2\n"},
         {"", " S ", " k ", "[S]\r\nk=novo\r\n"},

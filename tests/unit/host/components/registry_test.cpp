@@ -66,6 +66,27 @@ TEST_F(RegistryTest, CountsARelativePathFromItsOwnFolder)
     EXPECT_EQ(registry.Find("A.clsA")->libraryPath, expected);
 }
 
+TEST_F(RegistryTest, ReadsAnIdentifierOfHexadecimalDigitsAlone)
+{
+    const std::string all = "{01234567-89ab-cdef-ABCD-EF0123456789}";
+    Fill(Line("A.clsA", all, "/lib/a.so"));
+    EXPECT_EQ(registry.Find("A.clsA")->classId, all);
+    for (const char beside : {'/', ':', '@', 'G', '`', 'g', 'x', '-'}) {
+        std::string other = all;
+        other[1] = beside;
+        Fill(Line("A.clsA", other, "/lib/a.so"));
+        EXPECT_FALSE(registry.Find("A.clsA")) << other;
+    }
+    Fill(Line("A.clsA", "{01234567+89ab-cdef-ABCD-EF0123456789}", "/lib/a.so"));
+    EXPECT_FALSE(registry.Find("A.clsA"));
+}
+
+TEST_F(RegistryTest, ReadsAPathWithABlank)
+{
+    Fill(Line("A.clsA", FirstId, "/casa/ana maria/a.so"));
+    EXPECT_EQ(registry.Find("A.clsA")->libraryPath, "/casa/ana maria/a.so");
+}
+
 TEST_F(RegistryTest, ReportsACorruptLineAndKeepsTheOthers)
 {
     const std::string corrupt[] = {
@@ -105,7 +126,7 @@ TEST_F(RegistryTest, ReplacesAClassInItsPlaceAndKeepsAllOtherLines)
 {
     const std::string before = "# cabeçalho\n\nlinha que ninguém entende \xFF\n";
     const std::string after = "  # fim\nA.clsC\tsem identificador\r\n";
-    Fill(before + Line("A.clsA", FirstId, "/lib/velha.so") + after
+    Fill(before + Line("A.clsA", FirstId, "/lib/velha.so") + Line("A.clsA", FirstId, "/lib/dobro.so") + after
          + Line("A.clsA", FirstId, "/lib/outra.so"));
     registry.Write({"A.clsA", SecondId, "/lib/nova.so"});
     EXPECT_EQ(Content(), before + Line("A.clsA", SecondId, "/lib/nova.so") + after);

@@ -74,6 +74,27 @@ Value FailsOtherwise() { throw std::runtime_error("out of range"); }
 
 } // namespace
 
+TEST_F(CopyOfTheDay, IsToldOnceItHasEndedAndNotBefore)
+{
+    int looks = 0;
+    script_.onLook = [&] { return Value(++looks == 3); };
+    EXPECT_EQ(Told(), "");
+    EXPECT_EQ(looks, 3);
+}
+
+TEST_F(CopyOfTheDay, BeginsOnceWhileItIsBeingMade)
+{
+    int begun = 0;
+    script_.onStart = [&] {
+        ++begun;
+        return Value(Integer{0});
+    };
+    DailyBackup backup(service_, [](const std::string&) {});
+    backup.Begin();
+    backup.Begin();
+    EXPECT_EQ(begun, 1);
+}
+
 TEST_F(CopyOfTheDay, IsToldWithItsReasonOnceItHasEnded)
 {
     script_.reason = "sem espaço";

@@ -45,6 +45,30 @@ TEST_F(ShopsOfThisUser, AreOnlyTheLastFew)
     EXPECT_EQ(shops_.All().back().source, "5.db");
 }
 
+TEST_F(ShopsOfThisUser, AreOnlyTheFirstFewOfAFileWithMore)
+{
+    std::string file = "[lojas]\n";
+    for (int number = 1; number <= 12; ++number)
+        file += std::to_string(number) + "\\banco=" + std::to_string(number) + ".db\n";
+    WriteFile(file_, file + "size=12\n");
+    ASSERT_EQ(shops_.All().size(), RememberedShops::Most);
+    EXPECT_EQ(shops_.All().back().source, "8.db");
+}
+
+TEST_F(ShopsOfThisUser, AreAsManyAsTheirFileCounts)
+{
+    WriteFile(file_, "[lojas]\n1\\banco=a.db\n2\\banco=b.db\nsize=1\n");
+    EXPECT_EQ(shops_.All(), (std::vector<RememberedShop>{{"a.db", ""}}));
+}
+
+TEST_F(ShopsOfThisUser, StayAsTheyAreWhereTheLastOneIsOpenedAgain)
+{
+    shops_.Remember({"a.db", "Céu"});
+    shops_.Remember({"b.db", "Lua"});
+    EXPECT_TRUE(shops_.Remember({"b.db", "Lua"}));
+    EXPECT_EQ(shops_.All(), (std::vector<RememberedShop>{{"b.db", "Lua"}, {"a.db", "Céu"}}));
+}
+
 TEST_F(ShopsOfThisUser, AreForgottenOneByOne)
 {
     shops_.Remember({"a.db", ""});

@@ -2,7 +2,9 @@
 #include "host/shell/notice_bar.hpp"
 #include "host/shell/tab_row.hpp"
 #include "tests/unit/host/with_application.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QIcon>
 #include <QLabel>
@@ -11,10 +13,13 @@
 #include <QMenu>
 #include <QScreen>
 #include <QTest>
+#include <QToolButton>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 
 namespace kova::host {
 
@@ -79,6 +84,28 @@ TEST_F(TheTabs, AreTurnedToByAltAndTheirNumber)
     EXPECT_EQ(Row().currentIndex(), 0) << "there is no third one";
 }
 
+TEST_F(TheTabs, AreTurnedToByAltAndANumberToTheNinth)
+{
+    for (int tab = 3; tab <= 9; ++tab)
+        window_.AddTab(QString::number(tab), [](QWidget& parent) { return new QLineEdit(&parent); });
+    QTest::keyClick(&window_, Qt::Key_9, Qt::AltModifier);
+    EXPECT_EQ(Row().currentIndex(), 8);
+}
+
+TEST_F(TheMainWindow, HasTabsThatNeedNothingToTypeIn)
+{
+    MainWindow window({"", false, ""});
+    window.AddTab(QStringLiteral("Cadastros"), [](QWidget& parent) { return new QLabel(&parent); });
+    window.Open(WindowSize{1000, 700});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    for (int turn = 0; turn < 2; ++turn) {
+        QTest::keyClick(&window, Qt::Key_2, Qt::AltModifier);
+        EXPECT_FALSE(window.Container().isVisible());
+        QTest::keyClick(&window, Qt::Key_1, Qt::AltModifier);
+        EXPECT_TRUE(window.Container().isVisible());
+    }
+}
+
 TEST_F(TheTabs, KeepWhatIsTypedAndThePlaceOfTheKeyboard)
 {
     BoxOfAgenda().setFocus();
@@ -106,6 +133,16 @@ TEST_F(TheTabs, StandInOneNarrowRow)
     EXPECT_EQ(window_.Container().width(), window_.width());
 }
 
+TEST_F(TheTabs, AndTheMenuLieFlatOnTheirRowAboveALine)
+{
+    auto* row = window_.findChild<TabRow*>();
+    const auto* menu = row->findChild<QToolButton*>(QStringLiteral("menu"));
+    const QImage picture = row->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(row->width() / 2, row->height() - 1), qt::look::Rule);
+    EXPECT_EQ(picture.pixelColor(row->width() / 2, row->height() - 2), qt::look::Band);
+    EXPECT_EQ(picture.pixelColor(menu->geometry().center().x(), menu->geometry().top()), qt::look::Band);
+}
+
 TEST_F(TheMainWindow, OpensItsMenuByF10)
 {
     MainWindow window({"", false, ""});
@@ -129,6 +166,8 @@ TEST_F(TheMainWindow, SaysAllTheTimeThatADemonstrationIsOne)
     EXPECT_EQ(textOf(MainWindow({"Amigo Fiel", true, "Maria"})),
               "Demonstração: nada do que é marcado aqui vale");
     EXPECT_EQ(textOf(MainWindow({"Amigo Fiel", false, "Maria"})), "");
+    const MainWindow demonstration({"Amigo Fiel", true, "Maria"});
+    EXPECT_TRUE(demonstration.findChild<QLabel*>(QStringLiteral("loja"))->font().bold());
 }
 
 TEST_F(TheMainWindow, CutsALongNameOfItsUserAndTellsItAllInATip)
@@ -166,17 +205,40 @@ TEST_F(TheMainWindow, HasAnIconThatIsNotEmptyInAnySize)
 
 TEST_F(TheMainWindow, TellsANoticeOnItsOwnGroundInAsManyLinesAsItNeeds)
 {
-    NoticeBar bar(nullptr);
+    QWidget window;
+    NoticeBar bar(&window);
     EXPECT_TRUE(bar.isHidden());
     bar.Show(QStringLiteral("A cópia do dia não foi feita."));
     EXPECT_FALSE(bar.isHidden());
     bar.resize(600, 60);
-    EXPECT_EQ(bar.grab().toImage().pixelColor(2, 2), QColor(255, 244, 204));
+    EXPECT_EQ(window.grab().toImage().pixelColor(2, 2), QColor(255, 244, 204));
     const int oneLine = bar.layout()->heightForWidth(600);
     bar.Show(QStringLiteral("A cópia do dia não foi feita porque o disco está cheio. ").repeated(5));
     EXPECT_GT(bar.layout()->heightForWidth(600), oneLine);
     bar.Show(QString());
     EXPECT_TRUE(bar.isHidden());
+}
+
+TEST_F(TheMainWindow, GivesAHintAsManyLinesAsItNeeds)
+{
+    MainWindow window({"", false, ""});
+    window.ShowHint(QStringLiteral("A agenda não pôde ser aberta. ").repeated(20));
+    window.Open(WindowSize{1000, 700});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto* hint = window.Container().findChild<QLabel*>();
+    EXPECT_LE(hint->minimumSizeHint().width(), hint->width());
+    EXPECT_LE(hint->geometry().right(), window.Container().width());
+}
+
+TEST_F(TheMainWindow, AwaitsItsPlaceNoLongerThanItTakes)
+{
+    MainWindow window({"", false, ""});
+    int rounds = 0;
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &window,
+                     [&] { ++rounds; });
+    window.Open(std::nullopt);
+    EXPECT_TRUE(window.windowHandle()->isExposed());
+    EXPECT_LT(rounds, 100) << "rounds of events, in which nothing happened";
 }
 
 TEST_F(TheMainWindow, NeverHasToBeLargerThanItsScreen)
