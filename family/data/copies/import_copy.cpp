@@ -41,13 +41,17 @@ std::string Stamp(DateTime moment, int attempt)
     return stamp;
 }
 
-std::string FreeName(const KeptCopies& copies, DateTime moment)
+/// Behind those of the same second, the first of which may be gone: names order as the copies were made.
+std::string NextName(const KeptCopies& copies, DateTime moment)
 {
-    for (int attempt = 1;; ++attempt) {
-        std::string name = copies.NameOf(Stamp(moment, attempt));
-        if (!fs::exists(fs::symlink_status(system::PathOf(name))))
-            return name;
+    constexpr int MostOfOneSecond = 99;
+    int last = 0;
+    for (int attempt = 1; attempt <= MostOfOneSecond; ++attempt) {
+        const fs::path there = system::PathOf(copies.NameOf(Stamp(moment, attempt)));
+        if (fs::exists(fs::symlink_status(there)))
+            last = attempt;
     }
+    return copies.NameOf(Stamp(moment, last + 1));
 }
 
 } // namespace
@@ -59,7 +63,7 @@ std::string CopyBeforeImport(const std::string& path, DateTime moment, const Lon
     const KeptCopies copies(path, ".antes-da-importacao-", IsStamp);
     try {
         copies.RemoveRests();
-        const std::string file = FreeName(copies, moment);
+        const std::string file = NextName(copies, moment);
         BackUpDatabase(path, file, work);
         copies.RemoveOld(file, ImportCopiesKept);
         return file;

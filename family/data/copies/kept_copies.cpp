@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <ranges>
 
 namespace kova::family {
 
@@ -73,8 +74,8 @@ void KeptCopies::RemoveOld(const std::string& justMade, std::size_t most) const
     std::ranges::sort(files, std::greater<>(), [](const std::string& file) {
         return std::string_view(file).substr(0, file.size() - Ending.size());
     });
-    for (std::size_t at = most - 1; at < files.size(); ++at)
-        fs::remove(system::PathOf(files[at]));
+    for (const std::string& file : files | std::views::drop(most - 1))
+        fs::remove(system::PathOf(file));
 }
 
 } // namespace kova::family

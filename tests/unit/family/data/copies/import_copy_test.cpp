@@ -68,6 +68,18 @@ TEST_F(ImportCopy, OfTheSameSecondGetsANameOfItsOwn)
     EXPECT_EQ(Copy(7), Named("2026-11-20-090705-03"));
 }
 
+TEST_F(ImportCopy, GoesByNameBehindTheFormerOnesOfItsSecondThoughTheFirstAreGone)
+{
+    for (int number = 2; number <= 8; ++number)
+        WriteContent(Named("2026-11-20-090705-0" + std::to_string(number)), "");
+    EXPECT_EQ(Copy(7), Named("2026-11-20-090705-09"));
+    EXPECT_EQ(Copy(7), Named("2026-11-20-090705-10"));
+    EXPECT_EQ(Stamps(),
+              (std::vector<std::string>{"2026-11-20-090705-06.bak", "2026-11-20-090705-07.bak",
+                                        "2026-11-20-090705-08.bak", "2026-11-20-090705-09.bak",
+                                        "2026-11-20-090705-10.bak"}));
+}
+
 TEST_F(ImportCopy, StaysWithTheLastFiveAndTouchesNoOtherFile)
 {
     const std::vector<std::string> others = {
