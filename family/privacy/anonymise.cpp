@@ -180,7 +180,8 @@ private:
             lastLine_ = line.codigo;
             AuditTexts cleaned{line.codigo, CleanedText(judge, line, line.antes),
                                CleanedText(judge, line, line.depois)};
-            if (!IsUnchanged(cleaned.antes, line.antes) || !IsUnchanged(cleaned.depois, line.depois))
+            // A null is never cleaned.
+            if (cleaned.antes.value != line.antes.value || cleaned.depois.value != line.depois.value)
                 lines_.push_back(std::move(cleaned));
         });
     }
@@ -191,11 +192,6 @@ private:
         if (!IsMeant(judge.Of(line, text)))
             return text;
         return Cleaned(line, text.value);
-    }
-
-    static bool IsUnchanged(const Nullable<std::string>& one, const Nullable<std::string>& other)
-    {
-        return one.IsNull() == other.IsNull() && (one.IsNull() || one.value == other.value);
     }
 
     void WriteCustomer()

@@ -16,16 +16,10 @@ constexpr std::string_view CustomerColumn = "\"codigo_do_cliente\":";
 constexpr std::string_view Simplified = "\"tipo_do_agendamento\":1";
 
 /// Looked for in the text itself: most lines are of other customers, and reading their values takes much
-/// longer.
-bool NamesCustomer(std::string_view text, Key code)
+/// longer. A code that begins with this one is named, too.
+bool MayName(std::string_view text, Key code)
 {
-    const std::string wanted = std::string(CustomerColumn) + std::to_string(code);
-    for (std::size_t at = text.find(wanted); at != std::string_view::npos; at = text.find(wanted, at + 1)) {
-        const std::size_t behind = at + wanted.size();
-        if (behind == text.size() || text[behind] < '0' || text[behind] > '9')
-            return true;
-    }
-    return false;
+    return text.find(std::string(CustomerColumn) + std::to_string(code)) != std::string_view::npos;
 }
 
 class LastLine : public KeptStatement {
@@ -50,12 +44,11 @@ private:
     soci::statement statement_;
 };
 
-/// The values decide: what somebody typed may look like a column.
+/// The values decide.
 bool IsOfCustomer(const std::string& text, const std::set<Key>& codes)
 {
     return std::ranges::any_of(codes, [&](Key code) {
-        return NamesCustomer(text, code)
-            && ValueOf(ReadValues(text), "codigo_do_cliente") == std::to_string(code);
+        return MayName(text, code) && ValueOf(ReadValues(text), "codigo_do_cliente") == std::to_string(code);
     });
 }
 
@@ -102,16 +95,18 @@ Likeness LinesOfPerson::Of(const StoredAuditLine& line, const Nullable<std::stri
         return Likeness::None;
     if (line.tabela == CustomerRow::Table)
         return person_.codes.contains(line.chave) ? Likeness::Contact : Likeness::None;
-    if (IsOfCustomer(text.value, person_.codes)) {
-        if (line.tabela == AppointmentRow::Table)
-            appointments_.insert(line.chave);
-        return Likeness::Contact;
-    }
-    return line.tabela == AppointmentRow::Table ? OfAppointment(line, text.value) : Likeness::None;
+    if (line.tabela != AppointmentRow::Table)
+        return IsOfCustomer(text.value, person_.codes) ? Likeness::Contact : Likeness::None;
+    const Likeness likeness = OfAppointment(line, text.value);
+    if (IsHis(likeness))
+        appointments_.insert(line.chave);
+    return likeness;
 }
 
 Likeness LinesOfPerson::OfAppointment(const StoredAuditLine& line, const std::string& text) const
 {
+    if (IsOfCustomer(text, person_.codes))
+        return Likeness::Contact;
     // A change of the status alone keeps few columns.
     if (text.find(CustomerColumn) == std::string::npos)
         return appointments_.contains(line.chave) ? Likeness::Contact : Likeness::None;

@@ -112,8 +112,7 @@ private:
             AuditedValues after = HisValues(lines, line, line.depois);
             if (before.empty() && after.empty() && !lines.IsAboutHis(line))
                 return;
-            if (!before.empty() && !after.empty())
-                DropWhatStayed(before, after);
+            DropWhatStayed(before, after);
             data_.changes.push_back({line.momento, line.usuario, line.operacao, line.tabela, line.chave,
                                      Exported(line, before), Exported(line, after)});
         });

@@ -4,12 +4,17 @@
 #include "family/business/appointments/appointment_restoration.hpp"
 #include "family/business/appointments/appointment_writes.hpp"
 #include "family/data/checks/rule_check.hpp"
+#include "family/data/rows/find_by_key.hpp"
+#include "family/data/rows/insert_row.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
+#include "family/data/stores/appointment_rows.hpp"
 #include "family/privacy/anonymise.hpp"
 #include "family/registers/customers/customer_merge.hpp"
 #include "family/registers/registers.hpp"
 #include "tests/unit/family/bath.hpp"
+
+#include <utility>
 
 namespace kova::family::test {
 
@@ -166,6 +171,24 @@ TEST_F(AnonymousCustomer, IsRefusedWhileAPreSaleIsOpen)
     EXPECT_TRUE(Forget().IsDone());
 }
 
+TEST_F(AnonymousCustomer, IsRefusedWithTheFirstTenAppointmentsStillToComeAndTheNumberOfTheRest)
+{
+    Database& database = *SharedDatabase(host_.DataSource());
+    AppointmentRow row = FindByKey<AppointmentRow>(database, 2).value();
+    row.dataInicial = row.dataFinal = "2026-11-30";
+    const auto book = [&](Key number) {
+        row.numero = number;
+        Insert(database, row);
+    };
+    const std::string begin = "O cliente 10 ainda tem agendamentos marcados: 2, 21, 22, 23, 31, 32, 33, 34, ";
+    const std::string end = ". Cancele-os, ou marque-os como atendidos, e tente novamente.";
+    for (int number = 31; number <= 35; ++number)
+        book(number);
+    EXPECT_EQ(Plan(ana_.moment).text, begin + "35, 4" + end);
+    book(36);
+    EXPECT_EQ(Plan(ana_.moment).text, begin + "35, 36 e mais 1" + end);
+}
+
 TEST_F(AnonymousCustomer, TakesAlongAppointmentsOfTheSameNameOnlyWhereThatWasDecided)
 {
     AppointmentInput booked = Bath("25/11/2026");
@@ -255,6 +278,32 @@ TEST_F(AnonymousCustomer, IsKnownByFormerNamesAndNumbersToo)
     booked.customerChannels = "21 97777 6666";
     ASSERT_TRUE(AddAppointments(database, booked, ana_).IsDone());
     ASSERT_TRUE(Forget().IsDone());
+    EXPECT_EQ(WholeDatabase().find("zq"), std::string::npos);
+    EXPECT_EQ(WholeDatabase().find("97777"), std::string::npos);
+}
+
+TEST_F(AnonymousCustomer, IsLookedForAgainByWhatADeskWritesMeanwhile)
+{
+    AppointmentInput booked = Bath("25/11/2026");
+    booked.customerName = "zq Maria";
+    booked.customerChannels = "21 97777 6666";
+    const auto desk = OpenDatabase(host_.DataSource());
+    ASSERT_TRUE(AddAppointments(*desk, booked, ana_).IsDone());
+    booked.number = std::stoi(Texts("select cast(max(numero) as text) from agendamento").front());
+    ASSERT_TRUE(DeleteAppointment(*desk, booked, ana_).IsDone());
+    const registers::Register& customers = registers::CustomerRegister();
+    const registers::Texts before = customers.Read(*desk, 10).value();
+    registers::Texts typed = before;
+    typed[registers::FieldNamed(customers.Fields(), "Canais")] = "Celular: (21) 97777-6666";
+    LongWork work;
+    bool isWritten = false;
+    work.progress = [&](long long done, long long total) {
+        if (done == total && !std::exchange(isWritten, true)) {
+            EXPECT_TRUE(customers.Save(*desk, 10, before, typed, ana_).IsDone());
+        }
+    };
+    ASSERT_TRUE(privacy::Anonymise(host_.DataSource(), {10, {}}, Later, work).IsDone());
+    ASSERT_TRUE(isWritten);
     EXPECT_EQ(WholeDatabase().find("zq"), std::string::npos);
     EXPECT_EQ(WholeDatabase().find("97777"), std::string::npos);
 }

@@ -41,7 +41,8 @@ TEST(PhoneNumbers, AreTheSameWhateverStandsBeforeThem)
     for (const char* same : {"11912345678", "5511912345678", "011912345678", "912345678", "12345678",
                              "1112345678", "005511912345678"})
         EXPECT_TRUE(IsSamePhone("11912345678", same)) << same;
-    for (const char* other : {"21912345678", "11912345679", "1234567", "", "552112345678"})
+    for (const char* other :
+         {"21912345678", "11912345679", "1234567", "", "552112345678", "55912345678", "351912345678"})
         EXPECT_FALSE(IsSamePhone("11912345678", other)) << other;
     EXPECT_FALSE(IsSamePhone("", ""));
     EXPECT_FALSE(IsSamePhone("1234567", "1234567"));

@@ -126,6 +126,43 @@ TEST_F(PersonDataOfAShop, TellOfAChangeWhatItChanged)
     EXPECT_FALSE(history[0]["antes"].contains("nome_de_busca"));
 }
 
+TEST_F(PersonDataOfAShop, TellOfAnAppointmentThatWasDeletedEverythingThatHappenedToIt)
+{
+    const auto database = OpenDatabase(host_.DataSource());
+    AppointmentInput booked = Bath("25/11/2026");
+    booked.customerName = "Maria";
+    booked.customerChannels = "(11) 91234-5678";
+    const WriteAnswer added = AddAppointments(*database, booked, ana_);
+    ASSERT_TRUE(added.IsDone()) << added.text;
+    const int number = std::stoi(Texts("select cast(max(numero) as text) from agendamento").front());
+    ASSERT_EQ(Change(number, 2), 0);
+    booked.number = number;
+    ASSERT_TRUE(DeleteAppointment(*database, booked, ana_).IsDone());
+    const PersonData data = Read(10).value();
+    std::vector<std::string> operations;
+    for (const auto& change : data.changes)
+        operations.push_back(change.operation + " " + std::to_string(change.key));
+    const std::string of = " " + std::to_string(number);
+    EXPECT_EQ(operations, (std::vector<std::string>{"inclusao" + of, "alteracao" + of, "exclusao" + of}));
+}
+
+TEST_F(PersonDataOfAShop, TellOfChangesOfThePersonsRowsAlone)
+{
+    for (const auto& [table, key] :
+         {std::pair("cliente", 10), std::pair("cliente", 11), std::pair("agendamento", 2),
+          std::pair("agendamento", 3), std::pair("animal", 10), std::pair("animal", 2)})
+        Run(std::string("insert into auditoria (momento, usuario, tabela, chave, operacao) values"
+                        " ('2026-11-20 09:00:00', '1 - Ana', '")
+            + table + "', " + std::to_string(key) + ", 'alteracao')");
+    Change(3, 2);
+    const PersonData data = Read(10).value();
+    std::vector<std::string> rows;
+    for (const auto& change : data.changes)
+        rows.push_back(change.table + " " + std::to_string(change.key));
+    EXPECT_EQ(rows, (std::vector<std::string>{"cliente 10", "agendamento 2"}))
+        << "whose values nothing is told of";
+}
+
 TEST_F(PersonDataOfAShop, AreAPageThatShowsTextsAsTheyAre)
 {
     Run("update cliente set nome = '<b>\"A\" & ''B''</b>' where codigo = 10");

@@ -76,7 +76,8 @@ TEST_F(PersonFilesOfAShop, AreNotMadeWhereTheWorkIsStopped)
     stop.request_stop();
     LongWork work;
     work.stop = stop.get_token();
-    Write();
+    Change(2, 2);
+    ASSERT_EQ(Count("auditoria"), 1) << "before the first line is read";
     EXPECT_NE(FailureOf([&] {
                   privacy::ExportPerson(host_.DataSource(), 10, to_.Path().string(), now_, work);
               }).find("interrompido"),
