@@ -7,7 +7,8 @@ namespace kova::family {
 Key KeyOf(Double number)
 {
     constexpr Double largest = 9007199254740992.0;
-    const bool whole = std::isfinite(number) && std::fabs(number) <= largest && std::trunc(number) == number;
+    // Neither holds for what is no number, and no infinite one is that small.
+    const bool whole = std::fabs(number) <= largest && std::trunc(number) == number;
     return whole ? static_cast<Key>(number) : 0;
 }
 

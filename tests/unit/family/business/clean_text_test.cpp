@@ -18,6 +18,14 @@ TEST(CleanText, LosesLineBreaksAndBlanksAtItsEnds)
         {"\u00A0Zé\u2003", "Zé"},
         {"João\u00A0Sá", "João Sá"},
         {"a\u2028b\u2029c\u0085d", "a b c d"},
+        {"a\x1F"
+         "b\x7F"
+         "c\u0080d\u009Fe\u00A0f",
+         "a b c d e f"},
+        {"a\u2000b\u200Ac\u202Fd\u3000e", "a b c d e"},
+        {"a\u1FFFb\u200Bc", "a\u1FFFb\u200Bc"},
+        {"a\n\r\nb\n\nc", "a  b  c"},
+        {"\nA", "A"},
     };
     for (const auto& [typed, kept] : cases)
         EXPECT_EQ(CleanText(typed, 50), kept);
