@@ -43,7 +43,7 @@ bool IsMailAddress(const std::string& text)
     if (text.find_first_of(" ,;:()<>\"\\") != std::string::npos)
         return false;
     const std::string domain = "." + text.substr(at + 1) + ".";
-    const bool hasPoint = domain.find('.', 1) + 1 < domain.size();
+    const bool hasPoint = domain.find('.', 1) != domain.size() - 1;
     return hasPoint && domain.find("..") == std::string::npos;
 }
 

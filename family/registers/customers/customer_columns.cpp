@@ -125,7 +125,7 @@ std::string WrongKindOfPerson(const CustomerRecord& record)
 std::string WrongPostalCode(const CustomerRecord& record)
 {
     const std::string_view state = StateOfPostalCode(record.cep);
-    if (record.cep.empty() || record.uf.empty() || state.empty() || state == record.uf)
+    if (record.uf.empty() || state.empty() || state == record.uf)
         return {};
     return "o CEP " + ShownPostalCode(record.cep) + " é de " + std::string(state) + ", e não de " + record.uf
         + ".";

@@ -175,7 +175,7 @@ std::vector<LikelyDouble> DoublesOfAnimal(Database& database, Key key, const Tex
     const Key owner = ReadWhole(CleanText(typed.at(ownerAt))).value_or(0);
     const bool isAsBefore =
         key != 0 && name == Folded(before.at(nameAt)) && typed.at(ownerAt) == before.at(ownerAt);
-    const auto customer = owner == 0 ? std::nullopt : FindCustomer(database, owner);
+    const auto customer = FindCustomer(database, owner);
     if (isAsBefore || name.empty() || !customer)
         return {};
     FoundDoubles found(key);

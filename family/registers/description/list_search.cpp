@@ -11,7 +11,7 @@ ListSearch::ListSearch(std::string_view typed) : text_(typed)
     if (text_.IsEmpty())
         return;
     parts_.push_back(text_.folded);
-    if (std::string plain = WithoutNumberMarks(text_.folded); plain != text_.folded && !plain.empty())
+    if (std::string plain = WithoutNumberMarks(text_.folded); plain != text_.folded)
         parts_.push_back(std::move(plain));
 }
 

@@ -25,8 +25,6 @@ constexpr Words AllWords[] = {
     {"horario_do_funcionario", "horário de trabalho", "horários de trabalho"},
     {"ausencia", "ausência", "ausências"},
     {"agendamento", "agendamento", "agendamentos"},
-    {"horario_do_funcionario", "horário de trabalho", "horários de trabalho"},
-    {"ausencia", "ausência", "ausências"},
     {"cliente", "cliente", "clientes"},
     {"especie", "espécie", "espécies"},
     {"tipo_de_servico", "tipo de serviço", "tipos de serviço"},

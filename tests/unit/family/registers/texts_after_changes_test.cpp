@@ -71,6 +71,16 @@ TEST_F(TextsAfterChanges, ReadAllWhereSomethingWasWrittenPastTheAudit)
     EXPECT_TRUE(HasReadAll());
 }
 
+TEST_F(TextsAfterChanges, ReadTheRowsOfAHundredWrites)
+{
+    Customers("");
+    ChangeUnheard();
+    for (int number = 0; number < 100; ++number)
+        ExpectDone(CustomerRegister(), 10, {{"Nome", number % 2 == 0 ? "Zulmira" : "Zilda"}});
+    EXPECT_EQ(Customers("zilda"), Keys{10});
+    EXPECT_FALSE(HasReadAll());
+}
+
 TEST_F(TextsAfterChanges, ReadAllWhereMuchWasWritten)
 {
     Customers("");

@@ -42,6 +42,8 @@ TEST(Channels, KeepPhoneNumbersInOneWay)
         {"WhatsApp", "11 912345678", "(11) 91234-5678"},
         {"Celular", "+351 912 345 678", "+351 912 345 678"},
         {"Telefone", "+1 (212) 555-0100", "+1 (212) 555-0100"},
+        {"Telefone", "+683 12345", "+683 12345"},
+        {"Telefone", "+351912345678901", "+351912345678901"},
         {"E-mail", "Ana.Luz+pet@exemplo.com.br", "Ana.Luz+pet@exemplo.com.br"},
         {"Recado", "depois das 18h", "depois das 18h"},
         {"Site", "www.exemplo.com", "www.exemplo.com"},
@@ -90,7 +92,8 @@ TEST(Channels, SayWhyATextIsNone)
         {"Telefone", "(11) 3123-4567 ramal 2", phone("(11) 3123-4567 ramal 2")},
         {"Telefone", "(10) 3123-4567", "o DDD 10, de (10) 3123-4567, não existe."},
         {"Fixo", "11 91234-5678", fixed("11 91234-5678")},
-        {"Telefone", "+351 912", "o número internacional +351 912 não tem de 8 a 15 dígitos."},
+        {"Telefone", "(01) 3123-4567", "o DDD 01, de (01) 3123-4567, não existe."},
+        {"Telefone", "+683 1234", "o número internacional +683 1234 não tem de 8 a 15 dígitos."},
         {"Telefone", "+3519123456789012",
          "o número internacional +3519123456789012 não tem de 8 a 15 dígitos."},
         {"E-mail", "ana", mail("ana")},
@@ -101,6 +104,7 @@ TEST(Channels, SayWhyATextIsNone)
         {"E-mail", "ana@.com", mail("ana@.com")},
         {"E-mail", "ana@ex..com", mail("ana@ex..com")},
         {"email", "ana@bia@exemplo.com", mail("ana@bia@exemplo.com")},
+        {"E-mail", "ana@@exemplo.com", mail("ana@@exemplo.com")},
         {"E-mail", "ana luz@exemplo.com", mail("ana luz@exemplo.com")},
     };
     for (const Wrong& one : cases)

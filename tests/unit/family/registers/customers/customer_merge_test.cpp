@@ -177,6 +177,29 @@ TEST_F(CustomerMerges, FillWhatIsEmptyAndKeepTheRest)
               (Lines{"(11) 91234-5678", "ana@example.com"}));
 }
 
+TEST_F(CustomerMerges, KeepTheKindOfPersonThatGoesWithTheKeptDocument)
+{
+    const Key person = Customer({{"Nome", "Ana"}, {"Documento", "529.982.247-25"}});
+    const Key company = Customer({{"Nome", "Ana"}, {"Documento", "12.ABC.345/01DE-35"}});
+    const CustomerMerge plan = Plan(person, company);
+    EXPECT_EQ(Fields(plan.filled), Lines{});
+    EXPECT_EQ(Fields(plan.lost),
+              (Lines{"Tipo de pessoa: PF > PJ", "Documento: 529.982.247-25 > 12.ABC.345/01DE-35"}));
+    const Key one = Customer({{"Nome", "Bia"}, {"Tipo de pessoa", "PF"}});
+    const Key other = Customer({{"Nome", "Bia"}, {"Tipo de pessoa", "PJ"}});
+    EXPECT_EQ(Fields(Plan(one, other).filled), Lines{});
+    EXPECT_EQ(Fields(Plan(one, other).lost), Lines{"Tipo de pessoa: PF > PJ"});
+}
+
+TEST_F(CustomerMerges, KeepEveryChannelThatIsAnotherOne)
+{
+    const char* const kept = "Recado: casa 2; E-mail: ana123456@exemplo.com; Telefone: (11) 3123-4567";
+    const char* const other = "Recado: loja 2; E-mail: bia123456@exemplo.com; Celular: (11) 93123-4567";
+    const CustomerMerge plan =
+        Plan(Customer({{"Nome", "Ana"}, {"Canais", kept}}), Customer({{"Nome", "Ana"}, {"Canais", other}}));
+    EXPECT_EQ(Fields(plan.filled), Lines{std::string("Canais: ") + kept + " > " + kept + "; " + other});
+}
+
 TEST_F(CustomerMerges, CompleteAnAddressOnlyFromTheSameOne)
 {
     const Key kept = Customer({{"Nome", "Ana"}, {"Logradouro", "Rua A"}, {"Cidade", "Cotia"}});

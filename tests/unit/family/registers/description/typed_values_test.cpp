@@ -14,6 +14,8 @@ TEST(TypedValues, ReadMoneyAsPeopleWriteIt)
         {"1234,56", 123456},
         {"1.234,56", 123456},
         {"1.234.567", 123456700},
+        {"123.456,78", 12345678},
+        {"89,90", 8990},
         {"R$ 1.234,56", 123456},
         {"R$12", 1200},
         {"0,05", 5},
@@ -46,6 +48,8 @@ TEST(TypedValues, ReadYesAndNo)
 TEST(TypedValues, ReadDatesAndMoments)
 {
     EXPECT_EQ(ReadDate("1/2/2026"), (Date{2026, 2, 1}));
+    EXPECT_EQ(ReadDate("01/01/1900"), (Date{1900, 1, 1}));
+    EXPECT_EQ(ReadDate("31/12/2999"), (Date{2999, 12, 31}));
     for (const char* text : {"", "31/02/2026", "2026-02-01", "01/02/26", "31/12/1899", "01/01/3000"})
         EXPECT_EQ(ReadDate(text), std::nullopt) << text;
     EXPECT_EQ(ReadMoment("01/02/2026 10:11:12"), (DateTime{{2026, 2, 1}, {10, 11, 12}}));
@@ -68,6 +72,7 @@ TEST(TypedValues, ReadTheDocumentsOfCompaniesThatHaveLetters)
 {
     EXPECT_EQ(ReadDocument("12.ABC.345/01DE-35"), "12ABC34501DE35");
     EXPECT_EQ(ReadDocument("12abc34501de35"), "12ABC34501DE35");
+    EXPECT_EQ(ReadDocument("12zbc34501de50"), "12ZBC34501DE50");
     for (const char* text : {"12.ABC.345/01DE-36", "12.ABC.345/01DF-35", "12ABC34501DEAB", "ABC.456.789-09"})
         EXPECT_EQ(ReadDocument(text), std::nullopt) << text;
 }
@@ -97,6 +102,23 @@ TEST(TypedValues, ReadChannelsThatWereWritten)
     EXPECT_EQ(read[0].tipo, channels[0].tipo);
     EXPECT_EQ(read[0].canal, channels[0].canal);
     EXPECT_EQ(read[1].canal, "1");
+}
+
+TEST(TypedValues, ReadChannelsWhateverStandsBetweenThem)
+{
+    std::vector<ChannelRow> channels;
+    EXPECT_EQ(ReadChannels("Celular:11912345678;E-mail:ze@example.com", channels), "");
+    EXPECT_EQ(WriteChannels(channels), "Celular: (11) 91234-5678; E-mail: ze@example.com");
+    for (const char* last : {"a;", "a\\", "\\;"}) {
+        const std::vector<ChannelRow> written = {{0, 0, "Recado", last}};
+        std::vector<ChannelRow> read;
+        EXPECT_EQ(ReadChannels(WriteChannels(written), read), "");
+        ASSERT_EQ(read.size(), 1u) << last;
+        EXPECT_EQ(read[0].canal, last);
+    }
+    channels.clear();
+    EXPECT_EQ(ReadChannels("Recado: a\\", channels), "") << "nothing is behind it that it could stand for";
+    EXPECT_EQ(channels.at(0).canal, "a\\");
 }
 
 TEST(TypedValues, RefuseChannelsWithoutAKind)
