@@ -35,7 +35,7 @@ std::optional<long long> NumberIn(const AuditedColumns& columns, std::string_vie
     const std::string text = TextIn(columns, column);
     long long number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    return read.ec == std::errc() && !text.empty() ? std::optional(number) : std::nullopt;
+    return read.ec == std::errc() ? std::optional(number) : std::nullopt;
 }
 
 /// A line about an import itself.

@@ -49,6 +49,7 @@ TEST(FoldText, LeavesEverythingElse)
     EXPECT_EQ(FoldText("\xC3"), "\xC3");
     EXPECT_EQ(FoldText("Jos\xE9 \xC3\xA9"), "jos\xE9 e");
     EXPECT_EQ(FoldText("A\r\n\tB"), "a\r\n\tb");
+    EXPECT_EQ(FoldText("\u0080"), "\u0080");
     EXPECT_EQ(FoldText(""), "");
 }
 
@@ -64,6 +65,7 @@ TEST(DocumentOf, ReadsTheNumberOfACompanyThatHasLetters)
 {
     EXPECT_EQ(DocumentOf("12.ABC.345/01DE-35"), "12ABC34501DE35");
     EXPECT_EQ(DocumentOf("12abc34501de35"), "12ABC34501DE35");
+    EXPECT_EQ(DocumentOf("12zbC34501dZ50"), "12ZBC34501DZ50");
     EXPECT_EQ(DocumentOf("123.456.789-09"), "12345678909");
     EXPECT_EQ(DocumentOf("1-2"), "12") << "digits of any number may be a microchip";
     for (const char* text : {"", "12ABC34501DE3", "12ABC34501DE356", "12ABC34501DE3F", "12ABC34501DEF5",
@@ -84,6 +86,10 @@ TEST(SearchText, ReadsAPastedNumberByItsPlainDigits)
     EXPECT_EQ(document.number.value, "12345678909");
     EXPECT_TRUE(document.code.IsNull());
     EXPECT_EQ(SearchText(" １２ ").code.value, 12);
+    for (const char* none : {"", "12a", "12.3", "12ABC34501DE35", "99999999999999999999"})
+        EXPECT_TRUE(SearchText(none).code.IsNull()) << none;
+    EXPECT_EQ(SearchText("12.3").number.value, "123");
+    EXPECT_TRUE(SearchText("12a").number.IsNull());
     EXPECT_TRUE(SearchText("\u00A0 \u200B").IsEmpty());
 }
 

@@ -41,6 +41,17 @@ TEST(RowVersions, FollowAWriteOnlyWhereTheRowWasKnownAsItWasBefore)
     EXPECT_EQ(versions.Of(2), 3);
 }
 
+TEST(RowVersions, KeepTheLastSixtyFourSelections)
+{
+    RowVersions versions;
+    for (Key row = 1; row <= 64; ++row)
+        versions.Keep({{row, 5}});
+    EXPECT_EQ(versions.Of(1), 5);
+    versions.Keep({{65, 5}});
+    EXPECT_EQ(versions.Of(1), std::nullopt);
+    EXPECT_EQ(versions.Of(2), 5);
+}
+
 TEST(RowVersions, DropOldSelectionsButNeverOneThatIsShown)
 {
     RowVersions versions;
