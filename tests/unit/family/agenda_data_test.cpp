@@ -137,6 +137,10 @@ TEST_F(AgendaData, GeneratesAShopOfFewEmployeesWithItsAudit)
     EXPECT_EQ(Run({"check", a_}), 0);
     EXPECT_TRUE(Said("funcionario: 6\n"));
     EXPECT_FALSE(Said("auditoria: 0\n"));
+    EXPECT_EQ(Run({"generate", b_, "--customers", "50", "--appointments", "200", "--employees", "9"}), 0);
+    EXPECT_EQ(Run({"check", b_}), 0);
+    EXPECT_TRUE(Said("funcionario: 9\n")) << output_.str();
+    EXPECT_TRUE(Said("auditoria: 0\n")) << output_.str();
 }
 
 TEST_F(AgendaData, NeverReplacesAFile)

@@ -22,6 +22,15 @@ protected:
         return count;
     }
 
+    using Lines = std::vector<std::string>;
+
+    Lines Texts(const std::string& selection)
+    {
+        const auto database = OpenForReading(path_);
+        const soci::rowset<std::string> rows = (database->Session().prepare << selection);
+        return {rows.begin(), rows.end()};
+    }
+
     TemporaryFolder folder_;
     std::string path_;
 };
@@ -34,6 +43,40 @@ TEST_F(DemonstrationShop, IsTheSameForTheSameDate)
     CreateShop(folder_ / "depois.db", DemonstrationPlan({2026, 11, 21}));
     EXPECT_EQ(ContentOf(folder_ / "outra.db"), ContentOf(path_));
     EXPECT_NE(ContentOf(folder_ / "depois.db"), ContentOf(path_));
+}
+
+/// What guides and pictures show of it is there in every version.
+TEST_F(DemonstrationShop, HasTheSameContentAsEver)
+{
+    EXPECT_EQ(Texts("select situacao || ' ' || count(*) || ' ' || sum(codigo_do_cliente) || ' '"
+                    " || sum(transporte_buscar + 2 * transporte_levar) || ' ' || count(observacao) || ' '"
+                    " || count(alterado_em) || ' ' || count(codigo_do_pacote) || ' ' || max(hora_final)"
+                    " from agendamento group by situacao order by situacao"),
+              (Lines{"1 2001 360090 860 617 195 294 19:00", "2 1382 235299 246 423 1382 76 19:00",
+                     "3 340 63459 115 107 340 40 19:00", "4 619 131045 496 200 619 129 19:00"}));
+    EXPECT_EQ(Texts("select situacao || ' ' || count(*) || ' ' || sum(valor_em_centavos) from pre_venda"
+                    " group by situacao order by situacao"),
+              (Lines{"1 95 1499500", "3 524 6971000"}));
+    EXPECT_EQ(Texts("select situacao || ' ' || tipo_de_pessoa || ' ' || categoria_da_curva_abc || ' '"
+                    " || count(*) || ' ' || sum(vip) from cliente"
+                    " group by situacao, tipo_de_pessoa, categoria_da_curva_abc order by 1"),
+              (Lines{"1 PF A 73 4", "1 PF B 115 7", "1 PF C 168 9", "1 PJ A 7 1", "1 PJ B 2 0", "1 PJ C 12 0",
+                     "2 PF A 4 1", "2 PF B 1 0", "2 PF C 8 0", "3 PF A 2 0", "3 PF B 2 0", "3 PF C 2 0",
+                     "4 PF A 1 1", "4 PF B 1 0", "4 PF C 1 0", "4 PJ C 1 0"}));
+    EXPECT_EQ(Texts("select situacao || ' ' || sexo || ' ' || count(*) || ' ' || count(microchip) || ' '"
+                    " || sum(codigo_da_raca) from animal group by situacao, sexo order by 1"),
+              (Lines{"1 F 268 125 3697", "1 M 279 119 4044", "2 F 11 4 148", "2 M 11 4 143"}));
+    EXPECT_EQ(Texts("select count(*) || ' ' || sum(quantidade_de_sessoes) || ' ' || max(codigo) from servico"
+                    " union all select count(*) || ' ' || sum(codigo_da_especie) || ' ' || max(codigo)"
+                    " from raca union all select count(*) || ' ' || max(codigo) || ' ' || min(apelido)"
+                    " from funcionario"),
+              (Lines{"18 12 18", "28 49 28", "10 10 Bia"}));
+    EXPECT_EQ(Texts("select a.data_inicial || ' ' || a.hora_inicial || ' ' || c.nome || ' ' || n.nome || ' '"
+                    " || s.nome from agendamento a join cliente c on c.codigo = a.codigo_do_cliente"
+                    " join animal n on n.codigo = a.codigo_do_animal join servico s on s.codigo ="
+                    " a.codigo_do_servico where a.numero in (1, 2000) order by a.numero"),
+              (Lines{"2026-09-21 11:15 Paulo Conceição Carvalho Mimi Banho e tosa completa",
+                     "2026-11-15 08:00 Alice Santana Cardoso Florzinha Retorno de consulta"}));
 }
 
 TEST_F(DemonstrationShop, IsSound) { EXPECT_EQ(CheckDatabase(path_).problems, std::vector<std::string>()); }
