@@ -40,7 +40,7 @@ std::string ReadBytes(const std::string& path)
     errno = 0;
     std::ifstream file(system::PathOf(path), std::ios::binary);
     std::ostringstream content;
-    if (file && file.peek() != std::ifstream::traits_type::eof())
+    if (file.peek() != std::ifstream::traits_type::eof())
         content << file.rdbuf();
     if (!file.is_open() || file.bad())
         Refuse(path,

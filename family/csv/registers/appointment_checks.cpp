@@ -106,10 +106,8 @@ void AppointmentChecks::CheckRegistered(const AppointmentRecord& record, Line& l
 
 void AppointmentChecks::CheckAnimal(const AppointmentRecord& record, Line& line) const
 {
-    if (record.codigoDoAnimal.IsNull()) {
-        line.Refuse(name::Animal, "deve ser informado quando há código do cliente.");
-        return;
-    }
+    if (record.codigoDoAnimal.IsNull())
+        return line.Refuse(name::Animal, "deve ser informado quando há código do cliente.");
     const Key code = record.codigoDoAnimal.value;
     const auto animal = animals_.find(code);
     if (code != 0 && (animal == animals_.end() || animal->second != record.codigoDoCliente.value))

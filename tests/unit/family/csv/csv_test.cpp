@@ -117,6 +117,7 @@ TEST(Csv, WritesWhatItReads)
         EXPECT_EQ(ReadAll(line, separator), std::vector<Fields>{fields}) << line;
     }
     EXPECT_EQ(CsvLine({"a", "b;c", "d\"e"}, ';'), "a;\"b;c\";\"d\"\"e\"\r\n");
+    EXPECT_EQ(CsvLine({" a", "b ", "c d"}, ';'), "\" a\";\"b \";c d\r\n");
 }
 
 TEST(Csv, KeepsSpreadsheetsFromCalculating)

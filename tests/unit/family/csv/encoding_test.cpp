@@ -7,7 +7,10 @@ namespace kova::family::csv::test {
 TEST(Encodings, TurnIntoEachOther)
 {
     EXPECT_EQ(Utf8FromLatin1("Jos\xE9 \x80 \x93oi\x94"), "José € “oi”");
+    EXPECT_EQ(Utf8FromLatin1("\x7F\x80\x9F\xA0\xFF"), "\x7F€Ÿ\u00A0ÿ");
     EXPECT_EQ(Latin1FromUtf8("José ÿ"), "Jos\xE9 \xFF");
+    EXPECT_EQ(Latin1FromUtf8("\x7F\u00A0"), "\x7F\xA0");
+    EXPECT_EQ(Latin1FromUtf8("\xC2\x9F"), std::nullopt);
     EXPECT_EQ(Latin1FromUtf8("€"), std::nullopt);
     EXPECT_EQ(Latin1FromUtf8("\xC2\x80"), std::nullopt);
 }

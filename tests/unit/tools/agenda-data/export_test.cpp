@@ -30,6 +30,20 @@ TEST_F(Export, TellsHowMuchItWrote)
     EXPECT_FALSE(fs::exists(File("saida.csv.parcial")));
 }
 
+TEST_F(Export, TellsHowFarItIsFromMoreThanFiveThousandRecordsOn)
+{
+    std::string content = "Nome\n";
+    for (int number = 1; number <= 4998; ++number)
+        content += "Ana " + std::to_string(number) + "\n";
+    ASSERT_EQ(Import("clientes", content), 0) << Error();
+    EXPECT_EQ(ExportTo(File("saida.csv")), 0);
+    EXPECT_EQ(Output(), "5000 linhas exportadas em UTF-8.\n");
+    EXPECT_EQ(Error(), "");
+    ASSERT_EQ(Import("clientes", "Nome\nRui\n"), 0) << Error();
+    EXPECT_EQ(ExportTo(File("outra.csv")), 0);
+    EXPECT_NE(Error().find("Exportação: 100% (5001 de 5001)\n"), std::string::npos) << Error();
+}
+
 TEST_F(Export, NeverReplacesAFile)
 {
     kova::test::WriteFile(File("saida.csv"), "nota");

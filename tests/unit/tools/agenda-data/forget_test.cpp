@@ -33,6 +33,27 @@ TEST_F(ForgottenCustomers, AreThoseForWhomItWasConfirmed)
     EXPECT_EQ(Run({"check", Database()}), 0) << Error();
 }
 
+TEST_F(ForgottenCustomers, TakeAppointmentsOfTheSameNameAlongAsIsDecided)
+{
+    ASSERT_EQ(Import("agendamentos",
+                     "Data inicial;Hora inicial;Hora final;Nome do cliente;Nome do animal;Código do serviço;"
+                     "Código do funcionário;Situação\n"
+                     "19/11/2026;10:00;11:00;José Peçanha;Rex;2;1;Atendido\n"
+                     "19/11/2026;12:00;13:00;Canil Céu Azul Ltda.;Rex;2;1;Atendido\n"),
+              0)
+        << Error();
+    const std::string names = "select nome_do_cliente from agendamento order by numero";
+    EXPECT_EQ(Run({"forget", Database(), "--customer", "10", "--confirm"}), 1);
+    EXPECT_TRUE(Complained("Use --same-name sim ou --same-name nao.\nNada foi mudado.\n")) << Error();
+    EXPECT_EQ(Run({"forget", Database(), "--customer", "10", "--same-name", "sim"}), 1);
+    EXPECT_TRUE(Complained("1 agendamento,")) << Error();
+    EXPECT_EQ(Run({"forget", Database(), "--customer", "10", "--same-name", "nao", "--confirm"}), 0)
+        << Error();
+    EXPECT_EQ(Run({"forget", Database(), "--customer", "11", "--same-name", "sim", "--confirm"}), 0)
+        << Error();
+    EXPECT_EQ(Ask(names), "José Peçanha,Pessoa anonimizada");
+}
+
 TEST_F(ForgottenCustomers, AreNoneByACommandLineThatIsWrong)
 {
     for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{

@@ -50,6 +50,14 @@ protected:
         return family::AddAppointments(*desk_, input, {"7", "Lia", "2026-11-20 09:04:05"});
     }
 
+    /// Another program imports the types of services that are being imported.
+    void ImportTheSame()
+    {
+        std::ostringstream output, error;
+        const std::vector<std::string> words = {"import", Database(), "tipos", File("entrada.csv")};
+        EXPECT_EQ(data::Run(words, {{2026, 11, 20}, {9, 0, 0}}, output, error), 0) << error.str();
+    }
+
     std::shared_ptr<family::Database> desk_;
 };
 
@@ -114,16 +122,24 @@ TEST_F(ImportBesideDesks, HasOtherImportsWait)
 
 TEST_F(ImportBesideDesks, DoesNotAddWhatAnotherImportHasAddedWhileItChecked)
 {
-    const auto importTheSame = [&] {
-        std::ostringstream output, error;
-        const std::vector<std::string> words = {"import", Database(), "tipos", File("entrada.csv")};
-        EXPECT_EQ(data::Run(words, {{2026, 11, 20}, {9, 0, 0}}, output, error), 0) << error.str();
-    };
-    EXPECT_EQ(ImportWhile("tipos", "Nome\nHotel\n", Checked, importTheSame), 1);
+    EXPECT_EQ(ImportWhile("tipos", "Nome\nHotel\n", Checked, [this] { ImportTheSame(); }), 1);
     EXPECT_NE(Error().find("linha 2: Número: o registro já existe no banco de dados, com o número 5."),
               std::string::npos)
         << Error();
     EXPECT_EQ(Ask("select count(*) from tipo_de_servico where nome = 'Hotel'"), "1");
+}
+
+TEST_F(ImportBesideDesks, NotesNothingWhereAnotherImportHasAddedAllOfItWhileItChecked)
+{
+    const std::string count = "select count(*) from auditoria where tabela = 'importacao'";
+    const int before = std::stoi(Ask(count));
+    EXPECT_EQ(
+        ImportWhile("tipos", "Nome\nHotel\n", Checked, [this] { ImportTheSame(); }, {"--skip-existing"}), 0)
+        << Error();
+    EXPECT_NE(Output().find("0 linhas importadas; 1 linha já estava no banco.\n"), std::string::npos)
+        << Output();
+    EXPECT_EQ(Output().find("Para desfazer"), std::string::npos) << Output();
+    EXPECT_EQ(Ask(count), std::to_string(before + 1));
 }
 
 } // namespace kova::data::test

@@ -60,15 +60,15 @@ int ImportTest::Import(const std::string& name, const std::string& content, std:
 }
 
 int ImportTest::ImportWhile(const std::string& name, const std::string& content, const std::string& told,
-                            std::function<void()> act)
+                            std::function<void()> act, const std::vector<std::string>& options)
 {
     constexpr std::size_t EnoughForProgress = 6000;
     WriteFile(File("entrada.csv"), content + std::string(EnoughForProgress, '\n'));
     Listener listener(told, std::move(act));
     std::ostream error(&listener);
     output_.str("");
-    const std::vector<std::string> words = {"import", Database(), name, File("entrada.csv"),
-                                            "--user", "Carla"};
+    std::vector<std::string> words = {"import", Database(), name, File("entrada.csv"), "--user", "Carla"};
+    words.insert(words.end(), options.begin(), options.end());
     const int result = data::Run(words, Now, output_, error);
     EXPECT_TRUE(listener.HasActed()) << listener.str();
     error_.str(listener.str());

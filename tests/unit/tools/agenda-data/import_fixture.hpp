@@ -24,7 +24,7 @@ protected:
     /// The same; `act` runs in the midst of it, when the program has told that text about its progress. Blank
     /// lines at the end of the file have it tell any.
     int ImportWhile(const std::string& name, const std::string& content, const std::string& told,
-                    std::function<void()> act);
+                    std::function<void()> act, const std::vector<std::string>& options = {});
     /// Imports files without a complaint: types 1 and 4, services 1 and 2 (a clinical one and a bath),
     /// employees 1 and 2 (one appointment at a time, and two), customers 10 and 11, animals 50 and 51.
     void ImportShop();

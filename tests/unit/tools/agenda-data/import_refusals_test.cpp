@@ -203,6 +203,19 @@ TEST_F(ImportRefusals, OfAppointments)
           "Hora inicial \"10:30\": Bia já tem agendamento das 10:00 às 11:00 em 21/11/2026."}});
 }
 
+TEST_F(ImportRefusals, OfPreSalesWhereNoneWasGenerated)
+{
+    Refuses("agendamentos",
+            "Data inicial;Hora inicial;Hora final;Código do cliente;Código do animal;Código do serviço;"
+            "Código do funcionário;Situação;Pré-venda;Valor da pré-venda",
+            {{"01/02/2026;09:00;10:00;10;50;2;1;Atendido;Aberta;",
+              "Pré-venda: só a situação Pré-venda gerada tem pré-venda."},
+             {"01/02/2026;09:00;10:00;10;50;2;1;Atendido;;60,00",
+              "Pré-venda: só a situação Pré-venda gerada tem pré-venda."},
+             {"01/02/2026;09:00;10:00;10;50;2;1;;;0,00",
+              "Pré-venda: só a situação Pré-venda gerada tem pré-venda."}});
+}
+
 TEST_F(ImportRefusals, SayEverythingThatIsWrongWithALine)
 {
     EXPECT_EQ(Import("clientes", "Nome;Documento;CEP\n;1;2\n"), 1);
@@ -246,6 +259,7 @@ TEST_F(ImportRefusals, OfRoomAreForWhatIsToComeOnly)
         return header + times + ";10;50;2;" + rest + "\n" + times + ";11;51;2;" + rest + "\n";
     };
     EXPECT_EQ(Import("agendamentos", two("19/11/2026;10:00;11:00", "1;Agendado")), 0) << Error();
+    EXPECT_EQ(Import("agendamentos", two("20/11/2026;08:00;09:00", "1;")), 0) << "it ends now" << Error();
     EXPECT_EQ(Import("agendamentos", two("25/11/2026;10:00;11:00", "1;Cancelado")), 0) << Error();
     EXPECT_EQ(Import("agendamentos", two("25/11/2026;10:00;11:00", "2;")), 0) << Error();
     EXPECT_EQ(Import("agendamentos", two("26/11/2026;10:00;11:00", "1;")), 1);

@@ -231,6 +231,8 @@ TEST_F(Imports, RefusesFilesThatAreNoTable)
               "agenda-data: \"" + File("pasta") + "\" é uma pasta. Informe o caminho de um arquivo CSV.\n");
     EXPECT_EQ(importing("/dev/null"), 1);
     EXPECT_NE(Error().find("não é um arquivo comum"), std::string::npos);
+    EXPECT_EQ(importing("/proc/self/mem"), 1) << "it opens, and its first byte cannot be read";
+    EXPECT_NE(Error().find("não pode ser lido"), std::string::npos) << Error();
     EXPECT_EQ(Import("tipos", std::string("N\0o\0m\0e\0", 8)), 1);
     EXPECT_NE(Error().find("não é um texto"), std::string::npos);
     EXPECT_EQ(Import("tipos", ""), 1);
@@ -239,6 +241,14 @@ TEST_F(Imports, RefusesFilesThatAreNoTable)
               "1 erro em 1 linha; nada foi importado.\n");
     EXPECT_EQ(Import("tipos", "Nome\n"), 0);
     EXPECT_EQ(Output(), "Arquivo lido em UTF-8.\n0 linhas importadas.\n");
+}
+
+TEST_F(Imports, TellHowFarTheyAreFromMoreThanFiveThousandLinesOn)
+{
+    ASSERT_EQ(Import("tipos", "Nome\nHotel\n" + std::string(4998, '\n')), 0);
+    EXPECT_EQ(Error(), "");
+    ASSERT_EQ(Import("tipos", "Nome\nCreche\n" + std::string(4999, '\n')), 0);
+    EXPECT_NE(Error().find("Conferência: 100% (5001 de 5001)\n"), std::string::npos) << Error();
 }
 
 TEST_F(Imports, NeedsADatabase)
@@ -271,6 +281,13 @@ TEST_F(Imports, OnAFullDiskImportNothing)
     EXPECT_EQ(Ask("select count(*) from cliente"), "2");
     EXPECT_EQ(Import("clientes", content), 0) << Error();
     EXPECT_EQ(Ask("select count(*) from cliente"), "5002");
+    {
+        // Not enough for a copy of what is there by now.
+        const kova::test::SmallFiles small(400'000);
+        EXPECT_EQ(Import("tipos", "Nome\nHotel\n"), 1);
+    }
+    EXPECT_EQ(Ask("select count(*) from tipo_de_servico where nome = 'Hotel'"), "0");
+    EXPECT_NE(Error().find("O disco "), std::string::npos) << Error();
 }
 
 } // namespace kova::data::test

@@ -372,6 +372,12 @@ TEST_F(UndoImport, OfAnImportThatToldNoCountsYetTellsItsLines)
            " where tabela = 'importacao'";
     ASSERT_EQ(Run({"undo-import", Database(), "--list"}), 0) << Error();
     EXPECT_NE(Output().find("\n    especies, \"velho.csv\": 2 linhas\n"), std::string::npos) << Output();
+    family::OpenDatabase(Database())->Session() << "update auditoria set depois = "
+                                                   "'{\"cadastro\":\"especies\",\"arquivo\":\"velho.csv\","
+                                                   "\"linhas\":2,\"novos\":2,\"alterados\":\"\"}'"
+                                                   " where tabela = 'importacao'";
+    ASSERT_EQ(Run({"undo-import", Database(), "--list"}), 0) << Error();
+    EXPECT_NE(Output().find("\n    especies, \"velho.csv\": 2 linhas\n"), std::string::npos) << Output();
     ASSERT_EQ(Undo(), 0) << Error();
     EXPECT_EQ(Ask("select count(*) from especie"), "0");
 }
