@@ -140,9 +140,11 @@ bool EditView::FilterKey(const QKeyEvent& event)
         Undo();
         return true;
     }
-    const bool editing = FilterEditing(event);
-    if (editing || !(event.modifiers() & Qt::ControlModifier))
-        return editing;
+    if (FilterEditing(event))
+        return true;
+    // The editor would type the letter of a key with Alt, which is somebody's mnemonic or nobody's.
+    if (!(event.modifiers() & Qt::ControlModifier))
+        return (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) && !event.text().isEmpty();
     // Of the control keys only copying, selecting and moving stay: the editor's other ones would
     // change its text behind the model.
     switch (event.key()) {

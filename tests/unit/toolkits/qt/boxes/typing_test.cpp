@@ -56,6 +56,13 @@ TEST_F(Typing, ShowsWhatIsBeingComposed)
     EXPECT_EQ(name_->Text(), "Re");
 }
 
+TEST_F(Typing, IsNoneOfAKeyWithAlt)
+{
+    for (const Qt::KeyboardModifier modifier : {Qt::AltModifier, Qt::MetaModifier})
+        Press(Editor(), Qt::Key_Z, QStringLiteral("z"), modifier);
+    EXPECT_EQ(name_->Text(), "");
+}
+
 TEST_F(Typing, IsAllThatIsUndone)
 {
     name_->Text("Rex");
