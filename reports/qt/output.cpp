@@ -107,6 +107,18 @@ bool HasFailed(const QPrinter& printer)
     return printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted;
 }
 
+/// Whether a file into which was printed has its end, without which no program opens it: of a disk that is
+/// full at the last the printing tells nothing.
+bool HasItsEnd(const QPrinter& printer)
+{
+    constexpr qint64 longestEnd = 16;
+    QFile file(printer.outputFileName());
+    if (!QFileInfo(file).isFile())
+        return true;
+    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - longestEnd))
+        && file.readAll().contains("%%EOF");
+}
+
 } // namespace
 
 QString WritePdf(const reports::Document& document, const QString& path)
@@ -161,7 +173,8 @@ QString Print(QPrinter& printer, const reports::Document& document, const Printi
         if (HasFailed(printer))
             return printing.printerGone;
     }
-    return painter.end() && !HasFailed(printer) ? QString() : printing.printerGone;
+    const bool isPrinted = painter.end() && !HasFailed(printer) && HasItsEnd(printer);
+    return isPrinted ? QString() : printing.printerGone;
 }
 
 } // namespace kova::paper

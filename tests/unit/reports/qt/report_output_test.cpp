@@ -349,6 +349,17 @@ TEST_F(ReportOutput, TellsOfAPrintFileThatCouldNotBeWrittenToItsEnd)
     EXPECT_TRUE(Print(printer, document, From(0)).startsWith(QStringLiteral("A impressora parou.")));
 }
 
+TEST_F(ReportOutput, TellsOfAPrintFileWhoseOnlyPageCouldNotBeWritten)
+{
+    const auto document = LaidOut(NumberedList(1));
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(File("papel.pdf"));
+    Prepare(printer, document);
+    const FullDisk full(2000);
+    EXPECT_TRUE(Print(printer, document, From(0)).startsWith(QStringLiteral("A impressora parou.")));
+}
+
 TEST_F(ReportOutput, DrawsInkWhereTheLayoutPutsIt)
 {
     const auto document =
