@@ -23,7 +23,6 @@ LineEdit::LineEdit(QWidget* parent) : QLineEdit(parent)
     QPalette clear = palette();
     clear.setColor(QPalette::Base, Qt::transparent);
     setPalette(clear);
-    setAutoFillBackground(false);
     setDragEnabled(false);
     setAcceptDrops(false);
 }
