@@ -143,6 +143,19 @@ TEST_F(ComboFields, AreOpenedByAltAndAnArrowAndKeepTheirKeysToThemselves)
     EXPECT_EQ(around_.keys, std::vector<int>{Qt::Key_F4});
 }
 
+TEST_F(ComboFields, ShowTheFocusAndTheirOpenList)
+{
+    around_.activateWindow();
+    Settle();
+    field_.clearFocus();
+    const QImage without = Picture(&field_);
+    field_.setFocus();
+    const QImage with = Picture(&field_);
+    EXPECT_NE(with, without);
+    Open({QStringLiteral("Banho")});
+    EXPECT_EQ(Picture(&field_), with);
+}
+
 TEST_F(ComboFields, TellTheirCutTextRatherThanWhatLiesAroundThem)
 {
     around_.setToolTip(QStringLiteral("Cadastro"));

@@ -164,6 +164,20 @@ TEST_F(PlainButtons, ShowTheFocus)
     EXPECT_NE(Picture(other_), before);
 }
 
+TEST_F(PlainButtons, StandBesideCheckBoxesThatShowTheFocus)
+{
+    QCheckBox box(QStringLiteral("Imprimir"), &window_);
+    box.resize(box.sizeHint());
+    box.show();
+    window_.activateWindow();
+    other_->setFocus();
+    Settle();
+    const QImage before = Picture(&box);
+    box.setFocus(Qt::TabFocusReason);
+    window_.setAttribute(Qt::WA_KeyboardFocusChange);
+    EXPECT_NE(Picture(&box), before);
+}
+
 TEST_F(PlainButtons, AreAsHighAsThoseOfTheForms) { EXPECT_EQ(other_->sizeHint().height(), 34); }
 
 } // namespace
