@@ -6,6 +6,8 @@
 #include "host/session/remembered_shops.hpp"
 #include "system/path_text.hpp"
 
+#include <QApplication>
+
 #include <cstdlib>
 #include <exception>
 
@@ -43,6 +45,9 @@ int RunShops(const Options& given, Outlet outlet)
     if (outlet != Outlet::Window)
         return RunSession(given, outlet).status;
 
+    // A session ends with its window. What the toolkit does besides, once the last window has gone, would end
+    // the first dialog of the next session too, before anybody has read it.
+    QApplication::setQuitOnLastWindowClosed(false);
     const RememberedShops remembered(SettingsFile());
     Options options = given;
     SessionEnd end;

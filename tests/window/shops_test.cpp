@@ -49,6 +49,17 @@ protected:
 
     static std::string Title() { return Window() == nullptr ? "" : Window()->windowTitle().toStdString(); }
 
+    /// What the window says in the place of a list; "" where there is nothing.
+    static std::string Hint()
+    {
+        const auto* container =
+            Window() == nullptr ? nullptr : Window()->findChild<QWidget*>(QStringLiteral("container"));
+        const auto* hint = container == nullptr
+            ? nullptr
+            : container->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+        return hint == nullptr ? "" : hint->text().toStdString();
+    }
+
     static QMenu* Menu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
 
     /// What is told of the menu's entry on which the mouse rests.
@@ -155,6 +166,23 @@ TEST_F(ShopsOfThisComputer, AreNotAskedForWhereOneIsGiven)
     EXPECT_EQ(RunShops(Database()), EXIT_SUCCESS);
     EXPECT_EQ(title.find("(demonstração)"), std::string::npos) << title;
     EXPECT_EQ(remembered_.All().front().source, Database());
+}
+
+TEST_F(ShopsOfThisComputer, TellWhyTheirAgendaCannotBeOpenedAndSayInTheirWindowThatItIsNot)
+{
+    remembered_.Remember({Database(), "Esta"});
+    remembered_.Remember({system::TextOf(host::DemonstrationDatabase()), "Outra"});
+    Execute("update funcionario set situacao = 2");
+    std::string hint;
+    receptionist->WaitsFor(List).Presses("F10").Picks("Esta").Answers("Return");
+    receptionist->WaitsUntil("the window says something", [] { return !Hint().empty(); }).Does("close", [&] {
+        hint = Hint();
+        Window()->close();
+    });
+    EXPECT_EQ(RunShops(), EXIT_FAILURE);
+    ASSERT_EQ(receptionist->Boxes().size(), 1U);
+    EXPECT_TRUE(receptionist->Boxes().front().starts_with("Nenhum funcionário cadastrado."));
+    EXPECT_TRUE(hint.starts_with("A agenda não pôde ser aberta.")) << hint;
 }
 
 TEST_F(ShopsOfThisComputer, ThatCannotBeOpenedAreToldAndAnotherIsAskedFor)
