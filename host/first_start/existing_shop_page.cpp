@@ -99,6 +99,9 @@ void ExistingShopPage::Try(bool thenOpen)
         return frame_->Refuse(QStringLiteral("Informe o arquivo ou o endereço da loja."));
     frame_->Refuse({});
     outcome_->setText(QStringLiteral("Procurando a loja..."));
+    // A button that goes out of use would hand the keyboard to the next one, "Voltar". Meanwhile Enter
+    // presses nothing: no second trial begins.
+    source_->setFocus();
     Offer(false);
     trial_->Begin(source, [this, source, thenOpen](const SourceTrial::Refusal& refusal) {
         Offer(true);

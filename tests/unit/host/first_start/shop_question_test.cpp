@@ -128,6 +128,8 @@ TEST_F(TheQuestionForAShop, WaitsForAServerWithoutStandingStill)
     Press("testar");
     EXPECT_EQ(Find<QLabel>("resultado").text(), "Procurando a loja...");
     EXPECT_FALSE(Find<QPushButton>("abrir").isEnabled());
+    EXPECT_EQ(QApplication::focusWidget(), &Find<QLineEdit>("fonte"));
+    QTest::keyClick(&Find<QLineEdit>("fonte"), Qt::Key_Return);
     Press("voltar");
     EXPECT_TRUE(Find<QPushButton>("demonstracao").isVisible());
     answered.set_value();

@@ -238,6 +238,7 @@ TEST_F(TheMainWindow, AwaitsItsPlaceNoLongerThanItTakes)
                      [&] { ++rounds; });
     window.Open(std::nullopt);
     EXPECT_TRUE(window.windowHandle()->isExposed());
+    EXPECT_TRUE(window.isMaximized());
     EXPECT_LT(rounds, 100) << "rounds of events, in which nothing happened";
 }
 
