@@ -1,4 +1,5 @@
 #include "family/data/sources/data_source.hpp"
+#include "tests/support/sqlite_file.hpp"
 #include "tests/unit/host/program_run.hpp"
 
 #include <gtest/gtest.h>
@@ -68,6 +69,18 @@ TEST(BadInput, AShopWithoutServiceTypesIsTold)
     const fs::path shop = home / "loja.db";
     family::CreateDatabase(shop, [](family::Database&) {});
     ExpectRefusal(Open(shop, home.Path()), "Nenhum tipo de serviço cadastrado.");
+}
+
+TEST(BadInput, ADayThatCannotBeReadIsToldAndNotDrawn)
+{
+    const TemporaryFolder home;
+    const fs::path shop = home / "loja.db";
+    const ProgramResult made =
+        RunProgram(BuildFolder() / "agenda-data", {"demo", shop, "--date", "25/03/2026"}, home.Path());
+    ASSERT_EQ(made.status, 0) << made.errors;
+    kova::test::SqliteFile(shop).Run("drop table animal");
+    ExpectRefusal(Open(shop, home.Path()), "A agenda não pôde ser aberta.");
+    EXPECT_FALSE(fs::exists(home / "agenda.png"));
 }
 
 TEST(BadInput, ADataFolderThatCannotBeMadeIsNamed)
