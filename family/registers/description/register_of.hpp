@@ -1,7 +1,6 @@
 #pragma once
 
 #include "agenda/contracts/failure.hpp"
-#include "family/business/clean_text.hpp"
 #include "family/data/audit/add_row.hpp"
 #include "family/data/audit/audited_row.hpp"
 #include "family/data/audit/import_audit.hpp"
@@ -11,11 +10,11 @@
 #include "family/data/rows/select_where.hpp"
 #include "family/data/rows/update_row.hpp"
 #include "family/data/selections/register_texts.hpp"
-#include "family/registers/description/column.hpp"
 #include "family/registers/description/field_merge.hpp"
 #include "family/registers/description/list_search.hpp"
+#include "family/registers/description/list_texts.hpp"
+#include "family/registers/description/record_texts.hpp"
 #include "family/registers/description/references.hpp"
-#include "family/registers/description/refusals.hpp"
 #include "family/registers/description/taken_back.hpp"
 
 #include <algorithm>
@@ -27,29 +26,6 @@ namespace kova::family::registers {
 template <class Record> struct Locked : Record {
     static constexpr bool LocksRow = true;
 };
-
-/// A column of a list, as a record fills it.
-template <class Record> struct ShownColumn {
-    ListColumn column;
-    std::function<std::string(const Record& record)> cell;
-};
-
-/// The columns of a list that show the fields of those labels. `columns` outlives them.
-template <class Record>
-std::vector<ShownColumn<Record>> ShownColumns(const Columns<Record>& columns,
-                                              std::initializer_list<std::string_view> labels)
-{
-    std::vector<ShownColumn<Record>> shown;
-    for (const std::string_view label : labels) {
-        const auto column =
-            std::ranges::find(columns, label, [](const Column<Record>& one) { return one.field.label; });
-        const FieldKind kind = column->field.kind;
-        const bool isNumber =
-            kind == FieldKind::Code || kind == FieldKind::WholeNumber || kind == FieldKind::Money;
-        shown.push_back({{label, isNumber}, [column](const Record& record) { return column->Show(record); }});
-    }
-    return shown;
-}
 
 /// All rows of a table of few. Fails with a DatabaseFailure.
 template <class Row> std::vector<Row> AllOf(Database& database)
@@ -79,17 +55,9 @@ template <class Record> class RegisterOf : public Register {
 public:
     const RegisterName& Name() const override { return name_; }
     const char* Table() const override { return Record::Table; }
-    const std::vector<FieldInfo>& Fields() const override { return fields_; }
+    const std::vector<FieldInfo>& Fields() const override { return form_.Fields(); }
 
-    Texts New() const override
-    {
-        Texts texts = TextsOf(Record());
-        for (std::size_t at = 0; at < texts.size(); ++at) {
-            if (fields_[at].required)
-                texts[at].clear();
-        }
-        return texts;
-    }
+    Texts New() const override { return form_.New(); }
 
     std::optional<Texts> Read(Database& database, Key key) const override
     {
@@ -99,16 +67,7 @@ public:
 
     TidyText Tidy(std::size_t field, const std::string& before, const std::string& typed) const override
     {
-        const Column<Record>& column = *columns_.at(field);
-        const std::string text = CleanText(typed);
-        if (text.empty() || text == CleanText(before))
-            return {typed};
-        Record record;
-        if (!before.empty())
-            column.read(before, record);
-        column.clear(record);
-        std::string why = column.read(text, record);
-        return why.empty() ? TidyText{column.Show(record)} : TidyText{typed, std::move(why)};
+        return form_.Tidy(field, before, typed);
     }
 
     SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
@@ -165,7 +124,7 @@ public:
         });
     }
 
-    std::span<const ListColumn> ListColumns() const override { return listColumns_; }
+    std::span<const ListColumn> ListColumns() const override { return list_.Columns(); }
 
     bool HasInactive() const override { return HasSituation; }
 
@@ -177,7 +136,7 @@ public:
         LoadShown(database, records);
         std::unordered_map<Key, ListRow> found;
         for (const Record& record : records)
-            found[KeyIn(record)] = {KeyIn(record), CellsOf(record), IsActive(record)};
+            found[KeyIn(record)] = {KeyIn(record), list_.CellsOf(record), IsActive(record)};
         std::vector<ListRow> rows;
         for (const Key key : keys) {
             if (const auto row = found.find(key); row != found.end())
@@ -189,16 +148,8 @@ public:
 protected:
     RegisterOf(const RegisterName& name, const Columns<Record>& columns,
                std::vector<ShownColumn<Record>> shown)
-        : name_(name), shown_(std::move(shown))
+        : name_(name), form_(columns), list_(std::move(shown))
     {
-        for (const Column<Record>& column : columns) {
-            if (!column.write)
-                continue;
-            columns_.push_back(&column);
-            fields_.push_back(column.field);
-        }
-        for (const ShownColumn<Record>& column : shown_)
-            listColumns_.push_back(column.column);
     }
 
     /// Reads what belongs to the records beside their rows.
@@ -235,30 +186,13 @@ protected:
     /// The column of an appointment that refers to the register.
     virtual const char* BookedBy() const { return ""; }
     /// What the list is ordered by, before the code.
-    virtual std::string OrderOf(const Record& record) const { return FoldText(shown_.front().cell(record)); }
+    virtual std::string OrderOf(const Record& record) const { return FoldText(list_.FirstOf(record)); }
 
     /// What a form's texts make; nothing where one cannot be read, or is missing.
-    std::optional<Record> RecordOf(const Texts& typed) const
-    {
-        Record record;
-        for (std::size_t at = 1; at < typed.size(); ++at) {
-            const Column<Record>& column = *columns_[at];
-            const std::string text = CleanText(typed[at]);
-            column.clear(record);
-            if (text.empty() ? column.field.required : !column.read(text, record).empty())
-                return std::nullopt;
-        }
-        return record;
-    }
+    std::optional<Record> RecordOf(const Texts& typed) const { return form_.RecordOf(typed); }
 
     /// As a form shows them.
-    Texts TextsOf(const Record& record) const
-    {
-        Texts texts;
-        for (const Column<Record>* column : columns_)
-            texts.push_back(column->Show(record));
-        return texts;
-    }
+    Texts TextsOf(const Record& record) const { return form_.Of(record); }
 
     static Key KeyIn(Record record) { return KeyOfRow(record); }
     static bool IsActive(const Record& record)
@@ -274,7 +208,7 @@ protected:
         std::vector<std::pair<std::string, Key>> found;
         for (const Record& record : AllRows(database)) {
             const Key key = KeyIn(record);
-            const bool isSought = sought.IsIn(SearchedText(record)) || sought.Code().ValueOr(0) == key;
+            const bool isSought = sought.IsIn(list_.SearchedText(record)) || sought.Code().ValueOr(0) == key;
             const bool isLeftOut = listed == Listed::Active && IsHidden(record);
             if (!isLeftOut && (sought.IsEmpty() || isSought))
                 found.emplace_back(OrderOf(record), key);
@@ -348,36 +282,22 @@ private:
         return name;
     }
 
-    /// The texts in one way, as the stored ones would be shown. What cannot be read stays as it was typed.
-    Texts Comparable(Texts texts) const
-    {
-        for (std::size_t at = 0; at < texts.size(); ++at) {
-            const Column<Record>& column = *columns_[at];
-            texts[at] = CleanText(texts[at]);
-            Record scratch;
-            const bool isEmpty = texts[at].empty();
-            if (isEmpty ? !column.field.required : column.read(texts[at], scratch).empty())
-                texts[at] = column.Show(scratch);
-        }
-        return texts;
-    }
-
     /// Without an author nothing is written.
     template <class Row>
     SaveAnswer Answer(Database& database, Key key, const Texts& before, const Texts& typed,
                       const Author* author) const
     {
-        if (typed.size() != fields_.size() || (key != 0 && before.size() != fields_.size()))
+        if (typed.size() != Fields().size() || (key != 0 && before.size() != Fields().size()))
             throw Failure(FailureNumber::InvalidArgument);
         if (key == 0)
-            return Write(database, nullptr, Comparable(New()), Comparable(typed), author);
+            return Write(database, nullptr, form_.Comparable(New()), form_.Comparable(typed), author);
         const auto stored = FindRow<Row>(database, key);
         if (!stored)
             return {.outcome = SaveAnswer::Outcome::Gone, .key = key};
-        const Texts now = Comparable(TextsOf(*stored));
-        const MergedTexts merged = MergeTexts(fields_, {Comparable(before), now, Comparable(typed)}, [&] {
-            return FindAuditLines(database, Record::Table, key, LinesToLookAt);
-        });
+        const Texts now = form_.Comparable(TextsOf(*stored));
+        const MergedTexts merged =
+            MergeTexts(Fields(), {form_.Comparable(before), now, form_.Comparable(typed)},
+                       [&] { return FindAuditLines(database, Record::Table, key, LinesToLookAt); });
         if (!merged.clashes.empty())
             return {.outcome = SaveAnswer::Outcome::Refused,
                     .key = key,
@@ -390,12 +310,12 @@ private:
                      const Author* author) const
     {
         Record record = stored ? *stored : Record();
-        Refusals refusals(fields_);
+        Refusals refusals(Fields());
         SaveAnswer answer;
         answer.key = KeyIn(record);
         for (std::size_t at = 0; at < wanted.size(); ++at) {
             if (!stored || wanted[at] != now[at])
-                Take(at, wanted[at], record, refusals);
+                form_.Take(at, wanted[at], record, refusals);
             if (wanted[at] != now[at])
                 answer.changed.push_back({at, now[at], wanted[at]});
         }
@@ -412,39 +332,12 @@ private:
 
     void JudgeFields(const Record& record, const std::function<void(const JudgedField&)>& tell) const
     {
-        Refusals refusals(fields_);
-        for (std::size_t at = 1; at < columns_.size(); ++at) {
-            const std::string text = columns_[at]->write(record);
-            Record scratch;
-            if (text.empty() && columns_[at]->field.required)
-                refusals.Add(at, "deve ser informado.");
-            if (text.empty())
-                continue;
-            columns_[at]->clear(scratch);
-            if (std::string why = columns_[at]->read(text, scratch); !why.empty())
-                refusals.Add(at, std::move(why));
-        }
+        Refusals refusals(Fields());
+        form_.Judge(record, refusals);
         JudgeRecord(record, refusals);
         for (RefusedField& refused : refusals.InOrder())
-            tell({KeyIn(record), refused.field, columns_[refused.field]->write(record),
-                  std::move(refused.why)});
-    }
-
-    void Take(std::size_t at, const std::string& text, Record& record, Refusals& refusals) const
-    {
-        if (at == 0) {
-            if (!text.empty())
-                refusals.Add(at, "é dado pelo banco de dados e não muda.");
-            return;
-        }
-        const Column<Record>& column = *columns_[at];
-        column.clear(record);
-        if (text.empty() && column.field.required)
-            refusals.Add(at, "deve ser informado.");
-        if (text.empty())
-            return;
-        if (std::string why = column.read(text, record); !why.empty())
-            refusals.Add(at, std::move(why));
+            tell(
+                {KeyIn(record), refused.field, form_.Written(refused.field, record), std::move(refused.why)});
     }
 
     RemoveAnswer PutBack(Database& database, const Record& stored, const AuditedColumns& before,
@@ -454,12 +347,12 @@ private:
         if (!TakeColumns(before, record))
             return {RemoveAnswer::Outcome::Kept, StandsOtherwise};
         LoadFormer(database, record);
-        Refusals refusals(fields_);
+        Refusals refusals(Fields());
         CheckRecord(database, &stored, record, refusals);
         std::string why;
         for (const RefusedField& refused : refusals.InOrder())
             why.append(why.empty() ? "" : " ")
-                .append(fields_[refused.field].label)
+                .append(Fields()[refused.field].label)
                 .append(": ")
                 .append(refused.why);
         if (!why.empty())
@@ -481,30 +374,9 @@ private:
         return text;
     }
 
-    Texts CellsOf(const Record& record) const
-    {
-        Texts cells;
-        for (const ShownColumn<Record>& column : shown_)
-            cells.push_back(column.cell(record));
-        return cells;
-    }
-
-    std::string SearchedText(const Record& record) const
-    {
-        std::string text;
-        for (const ShownColumn<Record>& column : shown_) {
-            if (!column.column.number)
-                text.append(FoldText(column.cell(record))).append("\n");
-        }
-        return text;
-    }
-
     const RegisterName name_;
-    std::vector<ShownColumn<Record>> shown_;
-    std::vector<ListColumn> listColumns_;
-    /// Those that are fields of a form.
-    std::vector<const Column<Record>*> columns_;
-    std::vector<FieldInfo> fields_;
+    RecordTexts<Record> form_;
+    ListTexts<Record> list_;
 };
 
 /// The one object of its kind, which stays as long as the process.
