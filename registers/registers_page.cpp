@@ -93,6 +93,17 @@ void RegistersPage::AddShortcuts()
     for (const auto& [key, act] : keys)
         connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
                 &QShortcut::activated, this, [this, act = act] { (Current()->*act)(); });
+    for (const auto& [key, step] :
+         {std::pair(Qt::CTRL | Qt::Key_PageDown, 1), {Qt::CTRL | Qt::Key_PageUp, -1}})
+        connect(new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
+                &QShortcut::activated, this, [this, step = step] { TurnBy(step); });
+}
+
+// From the last one to the first.
+void RegistersPage::TurnBy(int step)
+{
+    names_->setCurrentRow((names_->currentRow() + step + names_->count()) % names_->count());
+    Current()->setFocus();
 }
 
 QPushButton* RegistersPage::FileButton(const QString& name, const QString& text, void (RegistersPage::*act)())

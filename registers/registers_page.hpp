@@ -39,6 +39,8 @@ private:
     /// Shows in every list what is stored now.
     void Refresh();
     void TurnTo(int row);
+    /// To the register so many below, or above, in the list of them.
+    void TurnBy(int step);
     RegisterScreen* Current() const;
 
     const Desk desk_;

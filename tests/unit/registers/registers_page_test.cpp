@@ -45,6 +45,24 @@ TEST_F(CadastrosTest, OpensEveryOneOfThemWithoutAChange)
     EXPECT_TRUE(page_->MayLeave());
 }
 
+TEST_F(CadastrosTest, TurnsFromOneToTheNextByKey)
+{
+    const auto turnedTo = [this] {
+        return Find<QListWidget>("cadastros").currentItem()->text().toStdString();
+    };
+    Type("marc");
+    Keys(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(turnedTo(), "Animais");
+    EXPECT_EQ(Focused(), "pesquisa");
+    Keys(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(turnedTo(), "Clientes");
+    EXPECT_EQ(Rows(), Lines{"Márcia Lima"});
+    Keys(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(turnedTo(), "Empresa");
+    Keys(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(turnedTo(), "Clientes");
+}
+
 TEST_F(CadastrosTest, SearchesAsOneTypes)
 {
     EXPECT_EQ(Rows(), (Lines{"Ana Lúcia Prado", "José Antônio Peçanha", "Márcia Lima"}));

@@ -3,6 +3,7 @@
 #include "toolkits/qt/look/painting.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QStyleFactory>
@@ -75,12 +76,19 @@ void PaintCheckBox(QPainter& painter, const QStyleOption& option)
 
 /// Around lists and menus, which else would not stand out from what lies below them. Each side is as wide as
 /// the frame that is kept free for it, at every scale: a line would lie half below what stands inside.
-void PaintFrame(QPainter& painter, const QRect& area)
+void PaintFrame(QPainter& painter, const QRect& area, const QColor& colour)
 {
-    painter.fillRect(QRect(area.topLeft(), QSize(area.width(), 1)), look::BorderUnderMouse);
-    painter.fillRect(QRect(area.bottomLeft(), QSize(area.width(), 1)), look::BorderUnderMouse);
-    painter.fillRect(QRect(area.topLeft(), QSize(1, area.height())), look::BorderUnderMouse);
-    painter.fillRect(QRect(area.topRight(), QSize(1, area.height())), look::BorderUnderMouse);
+    painter.fillRect(QRect(area.topLeft(), QSize(area.width(), 1)), colour);
+    painter.fillRect(QRect(area.bottomLeft(), QSize(area.width(), 1)), colour);
+    painter.fillRect(QRect(area.topLeft(), QSize(1, area.height())), colour);
+    painter.fillRect(QRect(area.topRight(), QSize(1, area.height())), colour);
+}
+
+/// A list that has the keyboard says so as a field does: its marked row looks the same without it.
+QColor FrameOf(const QStyleOption& option, const QWidget* widget)
+{
+    const bool isList = qobject_cast<const QAbstractItemView*>(widget) != nullptr;
+    return isList && (option.state & QStyle::State_HasFocus) ? look::Accent : look::BorderUnderMouse;
 }
 
 /// A box of several lines to type in, which looks like one of a single line.
@@ -146,7 +154,7 @@ void FlatStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     if (element == PE_PanelMenu)
         painter->fillRect(option->rect, look::Paper);
     if (element == PE_Frame || element == PE_FrameMenu || element == PE_PanelMenu)
-        return PaintFrame(*painter, option->rect);
+        return PaintFrame(*painter, option->rect, FrameOf(*option, widget));
     // The ring is drawn with the plate.
     if (element != PE_FrameFocusRect || !isButton)
         QProxyStyle::drawPrimitive(element, option, painter, widget);

@@ -118,6 +118,18 @@ TEST_F(PlainButtons, StandBesideListsAndMenusWithAFrame)
     }
 }
 
+TEST_F(PlainButtons, StandBesideAListWhoseFrameTellsThatItHasTheKeyboard)
+{
+    auto* list = new QListWidget(&window_);
+    window_.layout()->addWidget(list);
+    other_->setFocus();
+    Settle();
+    EXPECT_EQ(Picture(list).pixel(50, 0), look::BorderUnderMouse.rgb());
+    list->setFocus();
+    Settle();
+    EXPECT_EQ(Picture(list).pixel(50, 0), look::Accent.rgb());
+}
+
 TEST_F(PlainButtons, StandBesideCheckBoxesThatAreSeen)
 {
     for (const Look chosen : {Look::Dark, Look::Light}) {
