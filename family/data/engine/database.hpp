@@ -58,6 +58,9 @@ public:
         return RunWith<Statement>(use);
     }
 
+    /// The same where `use` never runs twice: the caller connects anew itself.
+    template <class Statement, class Use> auto WithOnce(Use use) { return RunWith<Statement>(use); }
+
     /// False after an attempt to connect anew has failed.
     bool IsConnected() const { return connected_; }
 

@@ -81,13 +81,24 @@ std::string BeginOfWriteOnServer()
     return std::string(BeginOnLockedSchema) + "select max(versao) from versao_do_esquema";
 }
 
-std::string BeginOfMarkedWriteOnServer(const std::string& mark)
+std::string MarkedWriteOnServer(const std::string& name)
 {
-    return std::string(BeginOnLockedSchema)
-        + "with marca as (insert into gravacao (identificador, momento) values ('" + mark
-        + "', to_char(now() at time zone 'utc', 'YYYY-MM-DD HH24:MI:SS'))"
+    return "prepare " + name
+        + " (text) as with marca as (insert into gravacao (identificador, momento) values ($1,"
+          " to_char(now() at time zone 'utc', 'YYYY-MM-DD HH24:MI:SS'))"
           " on conflict (identificador) do nothing returning identificador)"
           " select max(versao), (select count(*) from marca) from versao_do_esquema";
+}
+
+/// What a desk's write looks for it finds by keys, and by indexes that are right for all values. To plan it
+/// for the values of each write takes the server longer than the look itself. A plan that is kept must not be
+/// one for a table that was small when it was made.
+constexpr const char* PlanOnceForAllValues =
+    "set local plan_cache_mode = force_generic_plan; set local enable_seqscan = off; ";
+
+std::string BeginOfMarkedWriteOnServer(const std::string& name, const std::string& mark)
+{
+    return std::string(BeginOnLockedSchema) + PlanOnceForAllValues + "execute " + name + " ('" + mark + "')";
 }
 
 constexpr const char* BeginOfSchemaChangeOnServer =
@@ -101,11 +112,12 @@ constexpr const char* FindSchema =
     " where c.relname = 'versao_do_esquema' and c.relkind = 'r' having count(*) = 1), 'public')), false)";
 
 /// A desk that has vanished in the middle of a transaction must not hold its locks for long. Long work
-/// has its own measure: between two of its statements there may be much to do.
+/// has its own measure: between two of its statements there may be much to do. No statement here is worth
+/// being compiled.
 constexpr const char* SettingsOfServer =
     "set lock_timeout = '5s'; set idle_in_transaction_session_timeout = '10s';"
     " set tcp_keepalives_idle = 10; set tcp_keepalives_interval = 5; set tcp_keepalives_count = 3;"
-    " set tcp_user_timeout = '15s'; set client_min_messages = error";
+    " set tcp_user_timeout = '15s'; set client_min_messages = error; set jit = off";
 
 std::vector<std::string> SettingsOnServer(const std::string& more)
 {
@@ -135,6 +147,7 @@ Dialect Postgresql(const char* moreSettings)
         .numberOn = NumberOn,
         .lastGiven = LastOfSequence,
         .numberAfter = SetSequence,
+        .markedWrite = MarkedWriteOnServer,
         .beginOfMarkedWrite = BeginOfMarkedWriteOnServer,
         .forgetMarks = ForgetMarks,
         .settings = SettingsOnServer(moreSettings),
@@ -169,6 +182,7 @@ const Dialect& SqliteDialect()
         .numberOn = "",
         .lastGiven = LastOfFile,
         .numberAfter = NumberFileAfter,
+        .markedWrite = nullptr,
         .beginOfMarkedWrite = nullptr,
         .forgetMarks = "",
         .settings = {"pragma busy_timeout = 5000", "pragma synchronous = full", "pragma foreign_keys = on",

@@ -60,11 +60,13 @@ struct Dialect {
     std::string (*lastGiven)(const std::string& table, const std::string& key);
     /// The statements after which the engine numbers the table's next row one higher than `last`.
     std::vector<std::string> (*numberAfter)(const std::string& table, const std::string& key, long long last);
-    /// The same beginning, in one statement, of a transaction that bears a mark of letters and digits. It
-    /// writes the mark, unless it stands there already, and selects how many it has written beside the
-    /// version; it waits for another transaction that is writing the same mark. Null where a connection
-    /// cannot break between a commit and its answer.
-    std::string (*beginOfMarkedWrite)(const std::string& mark);
+    /// Prepares on a connection, under that name, what a transaction begins with that bears a mark: it writes
+    /// the mark, unless it stands there already, and selects how many it has written beside the version; it
+    /// waits for another transaction that is writing the same mark. Null where a connection cannot break
+    /// between a commit and its answer.
+    std::string (*markedWrite)(const std::string& name);
+    /// The beginning of such a transaction, in one message. A mark has letters and digits only.
+    std::string (*beginOfMarkedWrite)(const std::string& name, const std::string& mark);
     /// Takes marks away that nobody will ask for any more.
     std::string forgetMarks;
     /// Run on every connection before anything else.

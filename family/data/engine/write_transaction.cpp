@@ -35,13 +35,35 @@ Beginning BeginRows(Database& database)
     return told;
 }
 
+class MarkedBeginning : public KeptStatement {
+public:
+    explicit MarkedBeginning(Database& database)
+        : database_(database), name_("gravacao_" + std::to_string(++made_))
+    {
+        database.Session() << database.GetDialect().markedWrite(name_);
+    }
+
+    Beginning Run(const std::string& mark)
+    {
+        Beginning told;
+        soci::indicator found = soci::i_null;
+        database_.Session() << database_.GetDialect().beginOfMarkedWrite(name_, mark),
+            soci::into(told.version, found), soci::into(told.marks);
+        return told;
+    }
+
+private:
+    /// One that has failed may stay prepared on its connection: the next one needs another name.
+    static inline thread_local int made_ = 0;
+
+    Database& database_;
+    const std::string name_;
+};
+
 Beginning BeginMarkedRows(Database& database, const std::string& mark)
 {
-    Beginning told;
-    soci::indicator found = soci::i_null;
-    database.Session() << database.GetDialect().beginOfMarkedWrite(mark), soci::into(told.version, found),
-        soci::into(told.marks);
-    return told;
+    return database.WithOnce<MarkedBeginning>(
+        [&](MarkedBeginning& beginning) { return beginning.Run(mark); });
 }
 
 void RequireSchema(Database& database, int version)

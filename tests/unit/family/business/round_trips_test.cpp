@@ -82,6 +82,21 @@ TEST_F(RoundTripsPostgresql, OfABookingAreSix)
     EXPECT_EQ(Count([&] { Book(Bath("03/12/2026")); }), 6);
 }
 
+TEST_F(RoundTripsPostgresql, OfABookingAreNotPlannedAnewByTheServer)
+{
+    constexpr int Bookings = 12;
+    // Without the Sunday.
+    for (const int day : {1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12, 13})
+        Book(FullBath(FormatDate(Date{2027, 3, day})));
+    long long forValues = 0, once = 0;
+    Data().Session() << "select sum(custom_plans), sum(generic_plans) from pg_prepared_statements"
+                        " where statement like '%agendamento where codigo_do_funcionario%'"
+                        " or statement like 'prepare gravacao%'",
+        soci::into(forValues), soci::into(once);
+    EXPECT_EQ(forValues, 0);
+    EXPECT_EQ(once, 2 * Bookings);
+}
+
 TEST_F(RoundTripsPostgresql, OfABookingAreOneMoreAfterAChangeOfTheHolidays)
 {
     Book(FullBath("01/12/2026"));
