@@ -25,6 +25,9 @@ void PrintLine(const std::string& what, const Comparison& comparison, const std:
 /// the floor does.
 void PrintRates(const std::string& what, const Comparison& comparison, const std::string& unit, double limit);
 
+/// The same where nothing is demanded: what was measured beside something that says how much it is.
+void PrintTold(const std::string& what, const Comparison& comparison, const std::string& unit);
+
 /// Prints a line of counts that stands below the table.
 void PrintNote(const std::string& text);
 

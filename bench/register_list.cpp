@@ -1,17 +1,20 @@
-// A first key in the search of the customers' list until the filtered list is painted, against a look through
-// the same texts in memory. Usage: bench_register_list DATABASE
+// A first key in the search of the customers' list until the filtered list is painted, against a bare view
+// that shows what a look through the same texts in memory finds. Usage: bench_register_list DATABASE
 
+#include "bench/floor_list.hpp"
 #include "bench/measure.hpp"
 #include "bench/paint_watch.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/registers/registers.hpp"
 #include "registers/registers_page.hpp"
+#include "registers/row_model.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTableView>
 
+#include <algorithm>
 #include <array>
 #include <iostream>
 #include <stdexcept>
@@ -22,24 +25,12 @@ namespace {
 
 constexpr int Rounds = 15;
 constexpr double FrameOfTheScreen = 1000.0 / 60;
-constexpr double Limit = 8;
+constexpr double ListLimit = 1.7;
+constexpr double SearchLimit = 1.2;
 /// In many of the texts, in fewer, in few.
 constexpr std::array FirstKeys = {"a", "m", "z", "1", "@"};
-
-/// Name, nickname, document and channels of every customer in lower case, as the list looks for them.
-std::vector<std::string> ReadBareTexts(family::Database& database)
-{
-    std::vector<std::string> texts;
-    std::string text;
-    soci::statement statement =
-        (database.Session().prepare << "select nome_de_busca || '\n' || apelido || '\n' || documento || '\n'"
-                                       " || tipos_e_canais from cliente order by nome_de_busca, codigo",
-         soci::into(text));
-    statement.execute();
-    while (statement.fetch())
-        texts.push_back(family::FoldText(text));
-    return texts;
-}
+/// Typed letter by letter: many hold the beginning, few all of it.
+constexpr std::array Words = {"maria j", "peçan", "(11) 9", "ze.lu"};
 
 /// The list of the customers in a window of the usual size.
 class ListInWindow {
@@ -60,82 +51,164 @@ public:
     }
 
     family::Database& Database() { return *database_; }
+    const QTableView& List() const { return list_; }
 
-    /// Milliseconds from the key until what it finds is painted.
-    double Press(const char* letter)
+    void Clear()
     {
         search_.clear();
         Settle();
+    }
+
+    /// Milliseconds from the key until what it finds is painted.
+    double Press(const QString& letter)
+    {
+        const QString expected = search_.text() + letter;
         PaintWatch painted(page_);
         const double time = Milliseconds([&] {
-            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString::fromUtf8(letter));
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, letter);
             QApplication::sendEvent(&search_, &press);
             Settle();
         });
-        if (search_.text() != QString::fromUtf8(letter) || painted.Take().isEmpty())
+        if (search_.text() != expected || painted.Take().isEmpty())
             throw std::runtime_error("the list was not painted");
-        found_ += list_.model()->rowCount();
         return time;
     }
-    long long Found() const { return found_; }
+    double PressFirst(const char* letter)
+    {
+        Clear();
+        return Press(QString::fromUtf8(letter));
+    }
+
+    /// Fails unless it shows exactly those.
+    void RequireRows(const std::vector<BareCustomer>& customers, const std::vector<std::size_t>& places)
+    {
+        const auto& rows = dynamic_cast<const registers::RowModel&>(*list_.model());
+        bool isSame = static_cast<std::size_t>(rows.rowCount()) == places.size();
+        for (std::size_t row = 0; isSame && row < places.size(); ++row)
+            isSame = rows.KeyAt(static_cast<int>(row)) == customers[places[row]].code;
+        if (!isSame)
+            throw std::runtime_error("the two do not find the same customers");
+    }
 
 private:
     std::shared_ptr<family::Database> database_;
     registers::RegistersPage page_;
     QLineEdit& search_;
     QTableView& list_;
-    long long found_ = 0;
 };
 
-double LookThrough(const std::vector<std::string>& texts, const char* letter, std::size_t& sum)
+std::string InMilliseconds(double value)
 {
-    return Milliseconds([&] {
-        std::vector<std::uint32_t> places;
-        for (std::uint32_t place = 0; place < texts.size(); ++place) {
-            if (texts[place].find(letter) != std::string::npos)
-                places.push_back(place);
-        }
-        sum += places.size();
-    });
+    char text[40];
+    std::snprintf(text, sizeof text, "%.1f ms", value);
+    return text;
 }
 
-/// After a customer was changed at another desk.
-double PressAfterAChange(ListInWindow& window, const std::string& path)
+/// "7.1 ms, at least 6.4 ms"
+std::string MedianAndLeast(const std::vector<double>& times)
+{
+    return InMilliseconds(Median(times)) + ", at least " + InMilliseconds(std::ranges::min(times));
+}
+
+/// A first key after a customer was changed at another desk.
+std::vector<double> PressAfterAChange(ListInWindow& window, const std::string& path)
 {
     const auto other = family::OpenDatabase(path);
     std::vector<double> times;
     for (int round = 0; round < Rounds; ++round) {
+        window.Clear();
         other->Session() << "begin immediate";
         other->Session() << "update cliente set nome_de_busca = nome_de_busca where codigo = 77";
         other->Session()
             << "insert into auditoria (momento, usuario, tabela, chave, operacao, antes, depois)"
                " values ('2026-11-20 09:00:00', '1 - Ana', 'cliente', 77, 'alteracao', '{}', '{}')";
         other->Session() << "commit";
-        times.push_back(window.Press(FirstKeys[static_cast<std::size_t>(round) % FirstKeys.size()]));
+        times.push_back(
+            window.Press(QString::fromUtf8(FirstKeys[static_cast<std::size_t>(round) % FirstKeys.size()])));
     }
-    return Median(std::move(times));
+    return times;
+}
+
+/// The slowest key behind the first ones.
+double PressFurther(ListInWindow& window)
+{
+    double slowest = 0;
+    for (const char* word : Words) {
+        const QString letters = QString::fromUtf8(word);
+        std::vector<std::vector<double>> times(static_cast<std::size_t>(letters.size()));
+        for (int round = 0; round < Rounds; ++round) {
+            window.Clear();
+            for (int at = 0; at < letters.size(); ++at)
+                times[static_cast<std::size_t>(at)].push_back(window.Press(letters.mid(at, 1)));
+        }
+        for (std::size_t at = 1; at < times.size(); ++at)
+            slowest = std::max(slowest, Median(times[at]));
+    }
+    return slowest;
+}
+
+Comparison SearchAlone(family::Database& database, const std::vector<BareCustomer>& customers)
+{
+    using namespace family::registers;
+    std::size_t sum = 0;
+    const auto all = [](const auto& find) {
+        for (const char* letter : FirstKeys)
+            find(letter);
+    };
+    const Comparison times = Alternate(
+        Rounds,
+        [&] {
+            all([&](const char* letter) {
+                sum += CustomerRegister().Find(database, letter, Listed::Active).size();
+            });
+        },
+        [&] { all([&](const char* letter) { sum -= LookThrough(customers, letter).size(); }); });
+    if (sum != 0)
+        throw std::runtime_error("the two do not find as many customers");
+    return times;
+}
+
+void MeasureKeys(ListInWindow& window, FloorList& floor, const std::vector<BareCustomer>& customers)
+{
+    std::vector<double> measured, bare;
+    std::size_t found = 0;
+    for (int round = 0; round < Rounds; ++round) {
+        for (const char* letter : FirstKeys) {
+            measured.push_back(window.PressFirst(letter));
+            floor.Find("");
+            Settle();
+            bare.push_back(Milliseconds([&] {
+                floor.Find(letter);
+                Settle();
+            }));
+            const std::vector<std::size_t> places = LookThrough(customers, letter);
+            window.RequireRows(customers, places);
+            found += places.size();
+        }
+    }
+    PrintLine("(m) first key to filtered list", {Median(measured), Median(bare)}, "ms", ListLimit);
+    PrintTold("(m) the same, beside a frame", {Median(measured), FrameOfTheScreen}, "ms");
+    PrintNote("(m) " + std::to_string(customers.size()) + " active customers, " + std::to_string(found)
+              + " found by " + std::to_string(measured.size()) + " first keys: " + MedianAndLeast(measured)
+              + "; floor: " + MedianAndLeast(bare));
 }
 
 void Measure(const std::string& path)
 {
-    ListInWindow window(path);
-    const std::vector<std::string> texts = ReadBareTexts(window.Database());
-    std::vector<double> measured, floor;
-    std::size_t sum = 0;
-    window.Press(FirstKeys.front());
-    for (int round = 0; round < Rounds; ++round) {
-        for (const char* letter : FirstKeys) {
-            measured.push_back(window.Press(letter));
-            floor.push_back(LookThrough(texts, letter, sum));
-        }
-    }
-    const Comparison times{Median(std::move(measured)), Median(std::move(floor))};
-    PrintLine("(m) first key to filtered list", times, "ms", Limit);
-    PrintLine("(m) the same, against a frame", {times.measured, FrameOfTheScreen}, "ms", 1);
-    char text[60];
-    std::snprintf(text, sizeof text, "%.1f ms", PressAfterAChange(window, path));
-    PrintNote("(m) " + std::to_string(texts.size()) + " customers, " + std::to_string(window.Found())
-              + " rows found; a first key after a customer was changed: " + text);
+    std::unique_ptr<ListInWindow> window;
+    const double opening = Milliseconds([&] { window = std::make_unique<ListInWindow>(path); });
+    const double veryFirst = window->PressFirst(FirstKeys.front());
+    const std::vector<BareCustomer> customers = ReadBareCustomers(window->Database());
+    FloorList floor(customers, window->List());
+    floor.show();
+    Settle();
+    MeasureKeys(*window, floor, customers);
+    PrintLine("(m) 5 searches alone", SearchAlone(window->Database(), customers), "ms", SearchLimit);
+    PrintNote("(m) the tab opened in " + InMilliseconds(opening) + ", its first key of all "
+              + InMilliseconds(veryFirst) + "; the slowest key behind a first one "
+              + InMilliseconds(PressFurther(*window)));
+    PrintNote("(m) a first key after a customer was changed: "
+              + MedianAndLeast(PressAfterAChange(*window, path)));
 }
 
 } // namespace
@@ -145,6 +218,7 @@ void Measure(const std::string& path)
 int main(int count, char** words)
 {
     QApplication application(count, words);
+    kova::qt::ApplyLook(application);
     if (count != 2) {
         std::cerr << "usage: bench_register_list DATABASE" << std::endl;
         return 2;
