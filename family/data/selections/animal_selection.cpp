@@ -92,10 +92,10 @@ std::vector<Key> SelectOfAllCustomers(Database& database, const SearchText& text
     if (!text.code.IsNull())
         exact.push_back(text.code.value);
     return database.With<AnimalNames>([&](AnimalNames& names) {
-        names.Refresh();
+        const TextRows& rows = names.Refreshed();
         std::vector<Key> codes;
-        for (const std::uint32_t place : names.PlacesWith(text.folded, exact))
-            codes.push_back(names.KeyAt(place));
+        for (const TextRows::Place place : rows.PlacesWith(text.folded, exact))
+            codes.push_back(rows.KeyAt(place));
         return codes;
     });
 }

@@ -28,7 +28,7 @@ AuditedTexts::AuditedTexts(Database& database, std::vector<std::string> tables, 
     for (const std::string& condition : ofRow)
         readRow_.push_back(std::make_unique<soci::statement>(
             (database.Session().prepare << selection + condition, soci::use(written_, "chave"),
-             soci::into(key_), soci::into(text_))));
+             soci::into(changed_.key), soci::into(changed_.text))));
 }
 
 void AuditedTexts::BeginReading()
@@ -56,25 +56,28 @@ bool AuditedTexts::FindWrites()
 
 /// What was counted and has no line was written past the audit; what has a line and was not counted may hide
 /// another that was.
-bool AuditedTexts::TakeChanges(long long counted)
+bool AuditedTexts::TakeChanges(TextRows& rows, long long counted)
 {
     if (!FindWrites() || static_cast<long long>(writes_.size()) != counted)
         return false;
     std::set<Key> gone;
-    std::map<Key, std::string> read;
+    std::map<Key, TextOfRow> come;
     for (const auto& [table, key] : writes_) {
         if (table == 0)
             gone.insert(key);
         written_ = key;
-        soci::statement& rows = *readRow_[table];
-        rows.execute();
-        while (rows.fetch()) {
-            gone.insert(key_);
-            Shape(key_, text_);
-            read[key_] = text_;
+        soci::statement& reading = *readRow_[table];
+        reading.execute();
+        while (reading.fetch()) {
+            gone.insert(changed_.key);
+            Shape(changed_);
+            come[changed_.key] = changed_;
         }
     }
-    Replace(gone, read);
+    for (const Key key : gone)
+        rows.Remove(key);
+    for (const auto& [key, row] : come)
+        rows.Insert(row);
     return true;
 }
 

@@ -23,7 +23,7 @@ protected:
 private:
     /// The newest line of the audit that counts as read.
     void BeginReading() override;
-    bool TakeChanges(long long counted) override;
+    bool TakeChanges(TextRows& rows, long long counted) override;
     /// Reads on in the audit. False where there is more of it than a few changes leave.
     bool FindWrites();
 
@@ -33,8 +33,7 @@ private:
     Key written_ = 0;
     /// Tables by their places, and keys in them, once for each write.
     std::vector<std::pair<std::size_t, Key>> writes_;
-    Key key_ = 0;
-    std::string text_;
+    TextOfRow changed_;
     soci::statement readLastLine_, readLines_;
     std::vector<std::unique_ptr<soci::statement>> readRow_;
 };

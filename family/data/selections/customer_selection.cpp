@@ -24,10 +24,10 @@ struct CodesByDocument : CodesByText {
 std::unordered_set<Key> CodesByAddress(Database& database, const SearchText& address)
 {
     return database.With<CustomerAddresses>([&](CustomerAddresses& addresses) {
-        addresses.Refresh();
+        const TextRows& rows = addresses.Refreshed();
         std::unordered_set<Key> codes;
-        for (const std::uint32_t place : addresses.PlacesWith(address.folded))
-            codes.insert(addresses.KeyAt(place));
+        for (const TextRows::Place place : rows.PlacesWith(address.folded))
+            codes.insert(rows.KeyAt(place));
         return codes;
     });
 }
@@ -51,16 +51,16 @@ Sought SoughtBy(Database& database, const CustomerFilter& filter)
     return sought;
 }
 
-std::vector<std::uint32_t> PlacesOf(const CustomerNames& names, const Sought& sought)
+std::vector<TextRows::Place> PlacesOf(const TextRows& names, const Sought& sought)
 {
     return sought.text.IsEmpty() ? names.PlacesWith(sought.name.folded)
                                  : names.PlacesWith(sought.text.folded, sought.exact);
 }
 
-std::vector<Key> Choose(const CustomerNames& names, const CustomerFilter& filter, const Sought& sought)
+std::vector<Key> Choose(const TextRows& names, const CustomerFilter& filter, const Sought& sought)
 {
     std::vector<Key> codes;
-    for (const std::uint32_t place : PlacesOf(names, sought)) {
+    for (const TextRows::Place place : PlacesOf(names, sought)) {
         const Key code = names.KeyAt(place);
         if (filter.code != 0 && filter.code != code)
             continue;
@@ -96,10 +96,8 @@ FoundCustomerOf<std::string_view> Gone(Key code)
 std::vector<Key> SelectCustomers(Database& database, const CustomerFilter& filter)
 {
     const Sought sought = SoughtBy(database, filter);
-    return database.With<CustomerNames>([&](CustomerNames& names) {
-        names.Refresh();
-        return Choose(names, filter, sought);
-    });
+    return database.With<CustomerNames>(
+        [&](CustomerNames& names) { return Choose(names.Refreshed(), filter, sought); });
 }
 
 void FetchCustomers(Database& database, std::span<const Key> codes, KeptRows<FoundCustomerOf>& kept)

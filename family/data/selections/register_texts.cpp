@@ -24,19 +24,13 @@ bool IsNumberMark(char letter)
     }
 }
 
-/// Ends the text of a row that is hidden among active ones; nobody can type it.
-constexpr char Hidden = '\x01';
-
-/// Takes the situation away, which is the last line. Answers whether it hides the row.
-bool TakeSituation(std::string& text)
+/// Takes the situation away, which is the last line.
+void TakeSituation(TextOfRow& row)
 {
-    const std::size_t last = text.rfind('\n');
-    const bool isHidden = IsHiddenSituation(std::stoi(text.substr(last + 1)));
-    text.erase(last);
-    return isHidden;
+    const std::size_t last = row.text.rfind('\n');
+    row.isHidden = IsHiddenSituation(std::stoi(row.text.substr(last + 1)));
+    row.text.erase(last);
 }
-
-bool EndsHidden(std::string_view text) { return !text.empty() && text.back() == Hidden; }
 
 /// The numbers of a text, each a line of its own without its marks.
 std::string NumbersIn(std::string_view text)
@@ -52,48 +46,44 @@ std::string NumbersIn(std::string_view text)
 }
 
 /// A set of places, by a flag for each.
-template <class Texts> class PlaceSet {
+class PlaceSet {
 public:
-    explicit PlaceSet(const Texts& texts) : texts_(texts), has_(texts.Count()) { }
+    explicit PlaceSet(const TextRows& rows) : rows_(rows), has_(rows.Count()) { }
 
-    void Add(std::uint32_t place) { has_[place] = true; }
-    void AddThoseWith(const std::vector<std::string>& parts)
+    void Add(const std::vector<TextRows::Place>& places)
     {
-        for (const std::string& part : parts) {
-            for (const std::uint32_t place : texts_.PlacesWith(part))
-                Add(place);
-        }
+        for (const TextRows::Place place : places)
+            has_[place] = true;
     }
     void AddCode(Key code)
     {
-        if (const auto place = texts_.PlaceOf(code))
-            Add(*place);
+        if (const auto place = rows_.PlaceOf(code))
+            has_[*place] = true;
     }
 
     std::vector<Key> Keys(bool activeOnly) const
     {
         std::vector<Key> keys;
-        for (std::uint32_t place = 0; place < has_.size(); ++place) {
-            if (has_[place] && !(activeOnly && texts_.IsHidden(place)))
-                keys.push_back(texts_.KeyAt(place));
+        for (TextRows::Place place = 0; place < has_.size(); ++place) {
+            if (has_[place] && !(activeOnly && rows_.IsHidden(place)))
+                keys.push_back(rows_.KeyAt(place));
         }
         return keys;
     }
 
 private:
-    const Texts& texts_;
+    const TextRows& rows_;
     std::vector<bool> has_;
 };
 
+/// Ascending; an owner of several stands there for each.
 std::vector<Key> OwnersOfAnimalsWith(Database& database, const std::vector<std::string>& parts)
 {
     return database.With<AnimalNamesOfCustomers>([&](AnimalNamesOfCustomers& names) {
-        names.Refresh();
+        const TextRows& rows = names.Refreshed();
         std::vector<Key> owners;
-        for (const std::string& part : parts) {
-            for (const std::uint32_t place : names.PlacesWith(part))
-                owners.push_back(names.OwnerAt(place));
-        }
+        for (const TextRows::Place place : rows.PlacesWithAny(parts))
+            owners.push_back(rows.OwnerAt(place));
         return owners;
     });
 }
@@ -123,34 +113,31 @@ CustomerTexts::CustomerTexts(Database& database)
 {
 }
 
-void CustomerTexts::Shape(Key, std::string& text)
+void CustomerTexts::Shape(TextOfRow& row)
 {
-    const bool isHidden = TakeSituation(text);
+    TakeSituation(row);
+    std::string& text = row.text;
     const std::size_t name = text.find('\n'), channels = text.rfind('\n') + 1;
     const std::string numbers = NumbersIn(std::string_view(text).substr(channels));
     const std::string folded = FoldText(std::string_view(text).substr(name));
     text.replace(name, std::string::npos, folded);
     if (!numbers.empty())
         text.append("\n").append(numbers);
-    if (isHidden)
-        text.push_back(Hidden);
 }
-
-bool CustomerTexts::IsHidden(std::uint32_t place) const { return EndsHidden(TextAt(place)); }
 
 AnimalNamesOfCustomers::AnimalNamesOfCustomers(Database& database)
     : AuditedTexts(database, {"animal"},
                    "select codigo, codigo_do_cliente || '\n' || nome_de_busca from animal",
-                   {" where codigo = :chave"}, Order::AsSelected)
+                   {" where codigo = :chave"}, Order::ByOwner)
 {
 }
 
 /// The owner stands apart: nobody looks for his code among the names.
-void AnimalNamesOfCustomers::Shape(Key key, std::string& text)
+void AnimalNamesOfCustomers::Shape(TextOfRow& row)
 {
-    const std::size_t end = text.find('\n');
-    owners_[key] = std::stoll(text.substr(0, end));
-    text.erase(0, end + 1);
+    const std::size_t end = row.text.find('\n');
+    row.owner = std::stoll(row.text.substr(0, end));
+    row.text.erase(0, end + 1);
 }
 
 AnimalTexts::AnimalTexts(Database& database)
@@ -163,29 +150,25 @@ AnimalTexts::AnimalTexts(Database& database)
 }
 
 /// All but the microchip is folded already.
-void AnimalTexts::Shape(Key, std::string& text)
+void AnimalTexts::Shape(TextOfRow& row)
 {
-    const bool isHidden = TakeSituation(text);
-    const std::size_t begin = text.find('\n') + 1, length = text.find('\n', begin) - begin;
-    const std::string folded = FoldText(std::string_view(text).substr(begin, length));
-    text.replace(begin, length, folded);
-    if (isHidden)
-        text.push_back(Hidden);
+    TakeSituation(row);
+    const std::size_t begin = row.text.find('\n') + 1, length = row.text.find('\n', begin) - begin;
+    row.text.replace(begin, length, FoldText(std::string_view(row.text).substr(begin, length)));
 }
 
-bool AnimalTexts::IsHidden(std::uint32_t place) const { return EndsHidden(TextAt(place)); }
-
+// An empty search looks through the animals, too: whoever opens the list has them in memory at the first key.
 std::vector<Key> CustomersWith(Database& database, const std::vector<std::string>& parts, Key code,
                                bool activeOnly)
 {
-    const std::vector<Key> owners = parts.empty() ? std::vector<Key>() : OwnersOfAnimalsWith(database, parts);
+    const std::vector<std::string> sought = OrAll(parts);
+    const std::vector<Key> owners = OwnersOfAnimalsWith(database, sought);
     return database.With<CustomerTexts>([&](CustomerTexts& texts) {
-        texts.Refresh();
-        PlaceSet places(texts);
-        places.AddThoseWith(OrAll(parts));
+        const TextRows& rows = texts.Refreshed();
+        PlaceSet places(rows);
+        places.Add(rows.PlacesWithAny(sought));
+        places.Add(rows.PlacesOf(owners));
         places.AddCode(code);
-        for (const Key owner : owners)
-            places.AddCode(owner);
         return places.Keys(activeOnly);
     });
 }
@@ -194,9 +177,9 @@ std::vector<Key> AnimalsWith(Database& database, const std::vector<std::string>&
                              bool activeOnly)
 {
     return database.With<AnimalTexts>([&](AnimalTexts& texts) {
-        texts.Refresh();
-        PlaceSet places(texts);
-        places.AddThoseWith(OrAll(parts));
+        const TextRows& rows = texts.Refreshed();
+        PlaceSet places(rows);
+        places.Add(rows.PlacesWithAny(OrAll(parts)));
         places.AddCode(code);
         return places.Keys(activeOnly);
     });

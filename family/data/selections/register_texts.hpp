@@ -2,7 +2,9 @@
 
 #include "family/data/selections/audited_texts.hpp"
 
-#include <unordered_map>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace kova::family {
 
@@ -14,26 +16,20 @@ std::string WithoutNumberMarks(std::string_view folded);
 constexpr bool IsHiddenSituation(int situation) { return situation == 2 || situation == 4; }
 
 /// What every customer is looked for by, by name, then code: nickname and name, document, contact channels as
-/// they are written and by their digits. About 150 bytes for a customer.
+/// they are written and by their digits. About 200 bytes for a customer.
 struct CustomerTexts : AuditedTexts {
     explicit CustomerTexts(Database& database);
 
-    bool IsHidden(std::uint32_t place) const;
-
 private:
-    void Shape(Key key, std::string& text) override;
+    void Shape(TextOfRow& row) override;
 };
 
-/// The names of all animals, active or not, with their customers.
+/// The names of all animals, active or not, each with its customer as owner.
 struct AnimalNamesOfCustomers : AuditedTexts {
     explicit AnimalNamesOfCustomers(Database& database);
 
-    Key OwnerAt(std::uint32_t place) const { return owners_.at(KeyAt(place)); }
-
 private:
-    void Shape(Key key, std::string& text) override;
-
-    std::unordered_map<Key, Key> owners_;
+    void Shape(TextOfRow& row) override;
 };
 
 /// What every animal is looked for by, active or not, by name, then code: its name, its microchip, nickname
@@ -41,10 +37,8 @@ private:
 struct AnimalTexts : AuditedTexts {
     explicit AnimalTexts(Database& database);
 
-    bool IsHidden(std::uint32_t place) const;
-
 private:
-    void Shape(Key key, std::string& text) override;
+    void Shape(TextOfRow& row) override;
 };
 
 /// Codes of the customers whose own texts, or the names of whose animals, hold one of the parts, or that have

@@ -91,6 +91,14 @@ TEST_F(TextsAfterChanges, ReadAllWhereMuchWasWritten)
     EXPECT_TRUE(HasReadAll());
 }
 
+TEST_F(TextsAfterChanges, AreAllReadBeforeTheFirstKey)
+{
+    Customers("");
+    // No counter hears of it.
+    Run("update animal set codigo_do_cliente = 10 where codigo = 51");
+    EXPECT_EQ(Customers("leao"), Keys{11});
+}
+
 TEST_F(TextsAfterChanges, AreThoseOfADeskThatHasNeverLooked)
 {
     ExpectAllAsFound("at first");
