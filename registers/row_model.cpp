@@ -10,7 +10,8 @@ namespace kova::registers {
 
 namespace {
 
-constexpr int PageSize = 100;
+/// As many as most windows show: whoever searches waits for them at every key.
+constexpr int PageSize = 40;
 
 } // namespace
 
@@ -85,9 +86,11 @@ QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role
 const RowModel::ListRow* RowModel::RowAt(int row) const
 {
     const family::Key key = KeyAt(row);
-    if (!read_.contains(key))
+    auto found = read_.find(key);
+    if (found == read_.end()) {
         ReadPageOf(row);
-    const auto found = read_.find(key);
+        found = read_.find(key);
+    }
     return found == read_.end() || found->second.cells.empty() ? nullptr : &found->second;
 }
 

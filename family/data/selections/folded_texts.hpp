@@ -48,19 +48,19 @@ private:
     soci::statement readTexts_;
 };
 
-/// Nickname and name of every customer with a line break between them, by name, then code. About 50 bytes for
+/// Nickname and name of every customer with a line break between them, by name, then code. About 70 bytes for
 /// a customer.
 struct CustomerNames : FoldedTexts {
     explicit CustomerNames(Database& database);
 };
 
-/// The address of every customer, with its postal code, by code. About 70 bytes for a customer, read when
+/// The address of every customer, with its postal code, by code. About 120 bytes for a customer, read when
 /// somebody first looks for an address.
 struct CustomerAddresses : FoldedTexts {
     explicit CustomerAddresses(Database& database);
 };
 
-/// The name of every active animal, by name, then code. About 25 bytes for an animal.
+/// The name of every active animal, by name, then code. About 45 bytes for an animal.
 struct AnimalNames : FoldedTexts {
     explicit AnimalNames(Database& database);
 };

@@ -16,7 +16,7 @@ std::string WithoutNumberMarks(std::string_view folded);
 constexpr bool IsHiddenSituation(int situation) { return situation == 2 || situation == 4; }
 
 /// What every customer is looked for by, by name, then code: nickname and name, document, contact channels as
-/// they are written and by their digits. About 200 bytes for a customer.
+/// they are written and by their digits. About 220 bytes for a customer.
 struct CustomerTexts : AuditedTexts {
     explicit CustomerTexts(Database& database);
 
