@@ -120,11 +120,15 @@ void MergeDialog::Plan()
 {
     planned_.reset();
     const family::Key other = rows_->KeyAt(list_->currentIndex().row());
+    QString told = QStringLiteral("Procure e marque o cadastro repetido.");
     if (other != 0)
-        Try([&] { planned_ = family::registers::PlanCustomerMerge(*desk_.database, kept_, other); });
-    plan_->setText(planned_         ? TextOf(*planned_)
-                       : other != 0 ? QStringLiteral("Este cadastro não existe mais.")
-                                    : QStringLiteral("Procure e marque o cadastro repetido."));
+        Try([&] {
+            planned_ = family::registers::PlanCustomerMerge(*desk_.database, kept_, other);
+            told = planned_ ? TextOf(*planned_)
+                            : QString::fromStdString(
+                                family::registers::WhatBecameOfEither(*desk_.database, kept_, other));
+        });
+    plan_->setText(told);
     merge_->setEnabled(planned_.has_value());
     ShowAlike();
 }
@@ -171,10 +175,8 @@ void MergeDialog::ShowAnswer(const MergeAnswer& answer)
 {
     switch (answer.outcome) {
     case MergeAnswer::Outcome::Done: done_ = TextOf(answer); return accept();
-    case MergeAnswer::Outcome::Changed: screens::ShowWarning(*this, qt::Lines(answer.text)); break;
-    case MergeAnswer::Outcome::Gone:
-        screens::ShowWarning(
-            *this, QStringLiteral("Um dos cadastros não existe mais: alguém o excluiu. Nada foi unido."));
+    case MergeAnswer::Outcome::Changed:
+    case MergeAnswer::Outcome::Gone: screens::ShowWarning(*this, qt::Lines(answer.text));
     }
     Find();
 }

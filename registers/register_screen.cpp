@@ -276,7 +276,7 @@ void RegisterScreen::ShowRow(family::Key key)
     Try([&] {
         const auto texts = register_.Read(*desk_.database, key);
         if (!texts)
-            return Tell(QStringLiteral("Este registro não existe mais: alguém o excluiu."));
+            return Tell(QString::fromStdString(register_.WhatBecameOf(*desk_.database, key)));
         form_->Show(key, *texts);
         pages_->ShowRow(key);
         title_->setText(Shown(register_.Name().title));
@@ -375,10 +375,9 @@ void RegisterScreen::ShowAnswer(const SaveAnswer& answer)
             screens::ShowWarning(*this, qt::Lines(answer.clash));
         return;
     case SaveAnswer::Outcome::Gone:
-        screens::ShowWarning(
-            *this,
-            QStringLiteral("Este registro não existe mais: alguém o excluiu. O que foi digitado "
-                           "continua na tela."));
+        screens::ShowWarning(*this,
+                             QString::fromStdString(register_.WhatBecameOf(*desk_.database, form_->Key()))
+                                 + QStringLiteral(" O que foi digitado continua na tela."));
     }
 }
 
@@ -426,10 +425,13 @@ void RegisterScreen::Remove()
         const RemoveAnswer answer = register_.Remove(*desk_.database, form_->Key(), desk_.author());
         if (answer.outcome == RemoveAnswer::Outcome::Kept)
             return screens::ShowWarning(*this, qt::Lines(answer.text));
+        const QString told = answer.IsDone()
+            ? QStringLiteral("Excluído.")
+            : QString::fromStdString(register_.WhatBecameOf(*desk_.database, form_->Key()));
         ShowNew();
         Find();
         OfferButtons();
-        Tell(QStringLiteral("Excluído."));
+        Tell(told);
     });
 }
 

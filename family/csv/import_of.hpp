@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/text.hpp"
+#include "family/business/merged_row_text.hpp"
 #include "family/csv/occurrences.hpp"
 #include "family/csv/register.hpp"
 #include "family/data/audit/add_row.hpp"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <unordered_set>
 
 namespace kova::family::csv {
@@ -174,6 +176,17 @@ private:
         const auto place = codes_.Add(code, line.Number());
         if (place && !LeavesOut(*place, line))
             line.Refuse(CodeName(), std::to_string(code), place->Told() + ".");
+        const std::string why = place ? std::string() : WhyUnited(code);
+        if (!why.empty() && !line.IsStored())
+            line.Refuse(CodeName(), std::to_string(code), why);
+    }
+
+    /// A code whose row goes on in another one brings no row of its own again.
+    std::string WhyUnited(Key code)
+    {
+        if (!united_)
+            united_ = family::RowsOfUnions(database_, Record::Table);
+        return united_->contains(code) ? family::WhyMerged<Record>(database_, code) : std::string();
     }
 
     void CheckTraits(const Record& record, Line& line)
@@ -199,6 +212,8 @@ private:
     const Columns<Record>& columns_;
     std::vector<Title> titles_;
     Occurrences<Key> codes_;
+    /// See RowsOfUnions; read when a new code is to be looked for in it.
+    std::optional<std::set<Key>> united_;
     Occurrences<std::string> traits_;
     /// Of the lines that are being checked.
     std::unordered_set<std::string> soughtTraits_;

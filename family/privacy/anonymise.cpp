@@ -1,5 +1,6 @@
 #include "family/privacy/anonymise.hpp"
 
+#include "family/business/merged_row_text.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/import_audit.hpp"
 #include "family/data/engine/fold_text.hpp"
@@ -95,6 +96,8 @@ public:
     /// that was looked at, unless the person is known by other names and numbers since.
     AnonymiseAnswer Look(const std::string& moment, const LongWork& work)
     {
+        if (const std::string merged = MergedText<CustomerRow>(database_, request_.code); !merged.empty())
+            return {.outcome = Outcome::Gone, .text = merged};
         const std::optional<Person> person = FindPerson(database_, request_.code);
         if (!person)
             return {.outcome = Outcome::Gone,

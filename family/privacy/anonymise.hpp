@@ -22,7 +22,7 @@ struct AnonymiseAnswer {
         Done,
         /// Nothing was written; `text` says why and what to do.
         Refused,
-        /// No customer ever had that code.
+        /// No customer ever had that code, or the customer is one with another now.
         Gone,
     };
 

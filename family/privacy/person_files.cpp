@@ -1,7 +1,9 @@
 #include "family/privacy/person_files.hpp"
 
+#include "family/business/merged_row_text.hpp"
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/engine/unfinished_file.hpp"
+#include "family/data/rows/people_rows.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/privacy/person_report.hpp"
 #include "system/path_text.hpp"
@@ -21,6 +23,9 @@ PersonReport ReportOf(const std::string& source, Key code, DateTime now, const L
     try {
         const std::unique_ptr<Database> database = OpenNewestForReading(source);
         const Snapshot snapshot(*database);
+        // Whose data they are is asked for under the other code.
+        if (const std::string merged = MergedText<CustomerRow>(*database, code); !merged.empty())
+            throw DatabaseFailure(merged);
         const std::optional<PersonData> data = ReadPerson(*database, code, work);
         if (!data)
             throw DatabaseFailure("Não há cliente com o código " + std::to_string(code) + ".");

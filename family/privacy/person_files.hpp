@@ -15,8 +15,8 @@ struct PersonFiles {
 
 /// Writes everything that the shop at `source` holds about a customer into two new files in a folder that is
 /// there: "cliente-CODE.html" to be read and printed, and "cliente-CODE.json". Both are readable by their
-/// owner only, and there are both or none. Fails with a DatabaseFailure, also where no customer has that code
-/// or one of the files is there already.
+/// owner only, and there are both or none. Fails with a DatabaseFailure, also where no customer has that
+/// code, where the customer is one with another now, or where one of the files is there already.
 PersonFiles ExportPerson(const std::string& source, Key code, const std::string& folder, DateTime now,
                          const LongWork& work);
 

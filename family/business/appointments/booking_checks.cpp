@@ -1,6 +1,8 @@
 #include "family/business/appointments/booking.hpp"
 #include "family/business/appointments/repetition.hpp"
 #include "family/business/clean_text.hpp"
+#include "family/business/merged_row_text.hpp"
+#include "family/data/rows/people_rows.hpp"
 #include "family/data/stores/appointment_status.hpp"
 
 #include <span>
@@ -48,11 +50,20 @@ constexpr BookingCheck ChecksOfSimplifiedRecord[] = {
     /* 9. HoraInicial                */ EmployeeHasRoom,
 };
 
+/// Which row goes on in the place of the one that was chosen; `usual` where none does.
+template <class Row> Text TextForMissing(Booking& booking, Key key, const char* usual)
+{
+    const Text merged = key == 0 ? Text() : MergedText<Row>(booking.database, key);
+    return merged.empty() ? Text(usual) : merged;
+}
+
 Refusal CustomerIsUsable(Booking& booking)
 {
     const auto& customer = booking.registers.customer;
     if (!customer)
-        return WriteAnswer::InvalidField("CodigoDoCliente", "Informe o cliente.");
+        return WriteAnswer::InvalidField(
+            "CodigoDoCliente",
+            TextForMissing<CustomerRow>(booking, KeyOf(booking.input.customer), "Informe o cliente."));
     if (!customer->IsUsable())
         return WriteAnswer::InvalidField("CodigoDoCliente", "O cliente informado não está ativo.");
     booking.row.codigoDoCliente = customer->code;
@@ -72,7 +83,11 @@ Refusal CustomerHasAName(Booking& booking)
 Refusal AnimalIsOfCustomer(Booking& booking)
 {
     const auto& animal = booking.registers.animal;
-    if (!animal || animal->customer != booking.row.codigoDoCliente.value)
+    if (!animal)
+        return WriteAnswer::InvalidField(
+            "CodigoDoAnimal",
+            TextForMissing<AnimalRow>(booking, booking.input.animal, "Selecione o animal."));
+    if (animal->customer != booking.row.codigoDoCliente.value)
         return WriteAnswer::InvalidField("CodigoDoAnimal", "Selecione o animal.");
     booking.row.codigoDoAnimal = animal->code;
     return std::nullopt;

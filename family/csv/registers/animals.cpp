@@ -1,4 +1,5 @@
 #include "family/registers/customers/animals.hpp"
+#include "family/business/merged_row_text.hpp"
 #include "family/csv/import_of.hpp"
 #include "family/csv/registers/all_registers.hpp"
 #include "family/data/engine/fold_text.hpp"
@@ -120,7 +121,7 @@ private:
     {
         if (record.codigoDoCliente != 0 && !customers_.contains(record.codigoDoCliente))
             line.Refuse(column::Customer, std::to_string(record.codigoDoCliente),
-                        "não há cliente com este código.");
+                        family::WhyNoCustomer(GetDatabase(), record.codigoDoCliente));
     }
 
     void WriteRecord(AnimalRecord& record, const family::Author& author) override

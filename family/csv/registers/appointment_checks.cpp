@@ -1,7 +1,9 @@
 #include "family/csv/registers/appointment_checks.hpp"
 
+#include "family/business/merged_row_text.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/rows/find_by_key.hpp"
+#include "family/data/rows/people_rows.hpp"
 #include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/select_where.hpp"
 #include "family/data/stores/appointment_status.hpp"
@@ -97,7 +99,7 @@ void AppointmentChecks::CheckRegistered(const AppointmentRecord& record, Line& l
     if (customers_.count(customer) > 0)
         CheckAnimal(record, line);
     else if (customer != 0)
-        line.Refuse(name::Customer, std::to_string(customer), "não há cliente com este código.");
+        line.Refuse(name::Customer, std::to_string(customer), family::WhyNoCustomer(database_, customer));
     for (const TypedText& text : TypedTexts) {
         if (!(record.*text.member).empty())
             line.Refuse(text.column, record.*text.member, "deve ficar vazio quando há código do cliente.");
@@ -110,8 +112,11 @@ void AppointmentChecks::CheckAnimal(const AppointmentRecord& record, Line& line)
         return line.Refuse(name::Animal, "deve ser informado quando há código do cliente.");
     const Key code = record.codigoDoAnimal.value;
     const auto animal = animals_.find(code);
-    if (code != 0 && (animal == animals_.end() || animal->second != record.codigoDoCliente.value))
-        line.Refuse(name::Animal, std::to_string(code), "o cliente não tem animal com este código.");
+    if (code == 0 || (animal != animals_.end() && animal->second == record.codigoDoCliente.value))
+        return;
+    const std::string why = family::WhyMerged<family::AnimalRow>(database_, code);
+    line.Refuse(name::Animal, std::to_string(code),
+                why.empty() ? "o cliente não tem animal com este código." : why);
 }
 
 void AppointmentChecks::CheckSimplified(const AppointmentRecord& record, Line& line) const

@@ -2,6 +2,7 @@
 
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audit_lines.hpp"
+#include "family/data/rows/select_rows.hpp"
 
 #include <cstdlib>
 #include <limits>
@@ -9,6 +10,20 @@
 namespace kova::family {
 
 namespace {
+
+struct LineOfUnion {
+    static constexpr const char* Table = AuditRow::Table;
+    static constexpr const char* Condition = "operacao = 'uniao'";
+    Key code = 0, key = 0;
+    std::string table;
+
+    template <class Visit> void Columns(Visit visit)
+    {
+        visit("codigo", code);
+        visit("chave", key);
+        visit("tabela", table);
+    }
+};
 
 /// The keys that the row's lines tell of under that name.
 std::vector<Key> KeysTold(Database& database, const char* table, Key key, const char* name)
@@ -41,6 +56,16 @@ std::vector<Key> HaveGoneInto(Database& database, const char* table, Key key)
             all.push_back(more);
     }
     return all;
+}
+
+std::set<Key> RowsOfUnions(Database& database, const char* table)
+{
+    std::set<Key> keys;
+    SelectRows<LineOfUnion>(database, [&](const LineOfUnion& line) {
+        if (line.table == table)
+            keys.insert(line.key);
+    });
+    return keys;
 }
 
 } // namespace kova::family

@@ -2,6 +2,7 @@
 
 #include "family/data/engine/key.hpp"
 
+#include <set>
 #include <vector>
 
 namespace kova::family {
@@ -15,5 +16,9 @@ Key GoesOnAs(Database& database, const char* table, Key key);
 /// The keys of all rows that have gone into that one, also by way of others; the audit still has lines of
 /// theirs. Fails as FindAuditLines.
 std::vector<Key> HaveGoneInto(Database& database, const char* table, Key key);
+
+/// The keys of all rows of the table that a line about such a union is of. Goes through the whole audit.
+/// Fails as Database::With.
+std::set<Key> RowsOfUnions(Database& database, const char* table);
 
 } // namespace kova::family

@@ -1,5 +1,6 @@
 #include "family/registers/customers/animals.hpp"
 
+#include "family/business/merged_row_text.hpp"
 #include "family/data/selections/register_texts.hpp"
 #include "family/registers/customers/customer_registers.hpp"
 #include "family/registers/customers/likely_doubles.hpp"
@@ -127,7 +128,7 @@ private:
         if (record.codigoDoCliente == 0 || (stored && stored->codigoDoCliente == record.codigoDoCliente))
             return;
         if (!FindByKey<CustomerName>(database, record.codigoDoCliente))
-            refusals.Add(Customer, "não há cliente com este código.");
+            refusals.Add(Customer, WhyNoCustomer(database, record.codigoDoCliente));
         else if (stored && IsBooked(database, "codigo_do_animal", record.codigo))
             refusals.Add(Customer,
                          "o animal tem agendamentos com o cliente " + std::to_string(stored->codigoDoCliente)

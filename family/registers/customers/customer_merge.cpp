@@ -114,7 +114,8 @@ public:
         LockRows();
         const auto now = PlanCustomerMerge(database_, plan_.kept, plan_.other);
         if (!now)
-            return {.outcome = MergeAnswer::Outcome::Gone};
+            return {.outcome = MergeAnswer::Outcome::Gone,
+                    .text = WhatBecameOfEither(database_, plan_.kept, plan_.other) + " Nada foi unido."};
         if (const std::string changes = ChangesSince(*now); !changes.empty())
             return {.outcome = MergeAnswer::Outcome::Changed,
                     .text = std::string(OfRegister.changed) + " Nada foi unido.\r\n\r\n" + changes + "\r\n"
@@ -297,6 +298,12 @@ std::optional<CustomerMerge> PlanCustomerMerge(Database& database, Key kept, Key
     merge.appointments = static_cast<long long>(booked.numbers.size());
     merge.packages = static_cast<long long>(booked.packages.size());
     return merge;
+}
+
+std::string WhatBecameOfEither(Database& database, Key kept, Key other)
+{
+    const bool isKeptThere = CustomerRegister().Read(database, kept).has_value();
+    return CustomerRegister().WhatBecameOf(database, isKeptThere ? other : kept);
 }
 
 MergeAnswer MergeCustomers(Database& database, const CustomerMerge& plan,

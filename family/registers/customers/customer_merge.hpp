@@ -31,13 +31,16 @@ struct CustomerMerge {
 /// DatabaseFailure.
 std::optional<CustomerMerge> PlanCustomerMerge(Database& database, Key kept, Key other);
 
+/// What has become of one of two customers who is not there any more; see Register::WhatBecameOf.
+std::string WhatBecameOfEither(Database& database, Key kept, Key other);
+
 /// What a merge answers, technical failures aside. Nothing was written unless it is Done.
 struct MergeAnswer {
     enum class Outcome {
         Done,
         /// Somebody has changed one of the rows since they were shown; `text` says what.
         Changed,
-        /// One of the customers is not there any more.
+        /// One of the customers is not there any more; `text` says what has become of that one.
         Gone,
     };
 

@@ -181,6 +181,9 @@ public:
     virtual Texts New() const = 0;
     /// The stored row; nothing where there is none.
     virtual std::optional<Texts> Read(Database& database, Key key) const = 0;
+    /// What has become of a row that is gone, in sentences: which one goes on in its place, or that somebody
+    /// has removed it.
+    virtual std::string WhatBecameOf(Database& database, Key key) const = 0;
 
     /// Writes a row, a new one where `key` is 0, in a transaction of its own, as WriteSafely does. `before`
     /// is what the form showed when it was opened (not looked at for a new row), `typed` what it shows now.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/failure.hpp"
+#include "family/business/merged_row_text.hpp"
 #include "family/data/audit/add_row.hpp"
 #include "family/data/audit/audited_row.hpp"
 #include "family/data/audit/import_audit.hpp"
@@ -63,6 +64,12 @@ public:
     {
         const auto record = FindRow<Record>(database, key);
         return record ? std::optional(TextsOf(*record)) : std::nullopt;
+    }
+
+    std::string WhatBecameOf(Database& database, Key key) const override
+    {
+        const std::string merged = MergedText<Record>(database, key);
+        return merged.empty() ? "Este registro não existe mais: alguém o excluiu." : merged;
     }
 
     TidyText Tidy(std::size_t field, const std::string& before, const std::string& typed) const override

@@ -1,5 +1,8 @@
 #include "tests/unit/registers/registers_fixture.hpp"
 
+#include "family/data/sources/data_source.hpp"
+#include "family/registers/customers/customer_merge.hpp"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -330,6 +333,21 @@ TEST_F(CadastrosTest, TellsThatARowIsGoneAndKeepsWhatIsTyped)
     Press("salvar");
     ASSERT_EQ(boxes_.size(), 1U);
     EXPECT_NE(boxes_[0].find("não existe mais"), std::string::npos);
+    EXPECT_EQ(TextOf("Apelido"), "Aninha");
+}
+
+TEST_F(CadastrosTest, TellsWhoGoesOnInThePlaceOfARowAndKeepsWhatIsTyped)
+{
+    TypeOver("Apelido", "Aninha");
+    const auto other = family::OpenDatabase(file_);
+    const auto plan = family::registers::PlanCustomerMerge(*other, 3, 2);
+    const family::Author marcos{"8", "Marcos", "2026-11-20 09:30:00"};
+    ASSERT_TRUE(family::registers::MergeCustomers(*other, plan.value(), {}, marcos).IsDone());
+    Answer({"OK"});
+    Press("salvar");
+    EXPECT_EQ(boxes_,
+              Lines{"O cliente 2 foi unido ao cliente 3. Use o código 3. O que foi digitado continua na"
+                    " tela."});
     EXPECT_EQ(TextOf("Apelido"), "Aninha");
 }
 

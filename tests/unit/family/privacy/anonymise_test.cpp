@@ -10,6 +10,7 @@
 #include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/privacy/anonymise.hpp"
+#include "family/privacy/person_files.hpp"
 #include "family/registers/customers/customer_merge.hpp"
 #include "family/registers/registers.hpp"
 #include "tests/unit/family/bath.hpp"
@@ -359,6 +360,27 @@ TEST_F(AnonymousCustomer, TakesAlongWhoHasBecomeOneWithIt)
     ASSERT_TRUE(answer.IsDone()) << answer.text;
     EXPECT_EQ(WholeDatabase().find("zq Maria"), std::string::npos);
     EXPECT_EQ(WholeDatabase().find("98888"), std::string::npos);
+}
+
+TEST_F(AnonymousCustomer, IsAskedForUnderTheCodeThatItGoesOnWith)
+{
+    const registers::Register& customers = registers::CustomerRegister();
+    Database& database = *SharedDatabase(host_.DataSource());
+    registers::Texts typed = customers.New();
+    typed[registers::FieldNamed(customers.Fields(), "Nome")] = "zq Maria";
+    const Key gone = customers.Save(database, 0, {}, typed, ana_).key;
+    const auto plan = registers::PlanCustomerMerge(database, 10, gone);
+    ASSERT_TRUE(registers::MergeCustomers(database, plan.value(), {}, ana_).IsDone());
+    const std::string before = WholeDatabase();
+    const AnonymiseAnswer answer = privacy::Anonymise(host_.DataSource(), {gone, {}}, Later, {});
+    const std::string told =
+        "O cliente " + std::to_string(gone) + " foi unido ao cliente 10. Use o código 10.";
+    EXPECT_EQ(answer.outcome, Outcome::Gone);
+    EXPECT_EQ(answer.text, told);
+    EXPECT_EQ(WholeDatabase(), before);
+    const std::string failure = FailureOf(
+        [&] { privacy::ExportPerson(host_.DataSource(), gone, folder_.Path().string(), now_, {}); });
+    EXPECT_NE(failure.find(told), std::string::npos) << failure;
 }
 
 TEST_F(AnonymousCustomer, IsNotThereWhereNoCustomerHadTheCode)

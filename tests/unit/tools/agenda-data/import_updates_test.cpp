@@ -4,6 +4,7 @@
 
 #include "family/data/engine/database.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/registers/customers/customer_merge.hpp"
 
 namespace kova::data::test {
 
@@ -161,6 +162,34 @@ TEST_F(ImportUpdates, GoToSpeciesBreedsAndTheCompanyToo)
     EXPECT_EQ(Ask("select cnpj || ' ' || telefone from empresa"), "12ABC34501DE35 3333-4444");
     ASSERT_EQ(Update("racas", "Código;Espécie;Nome\n1;Felina;Siamês\n"), 0) << Error();
     EXPECT_EQ(Ask("select nome from raca where codigo_da_especie = 2 order by nome"), "Persa,Siamês");
+}
+
+TEST_F(ImportUpdates, TellWhoHasTheCodeOfACustomerThatHasBecomeOneWithAnother)
+{
+    ImportShop();
+    const std::string customers = Exported("clientes");
+    const auto database = family::OpenDatabase(Database());
+    const auto plan = family::registers::PlanCustomerMerge(*database, 10, 11);
+    const family::Author lia{"7", "Lia", "2026-11-20 09:00:00"};
+    ASSERT_TRUE(family::registers::MergeCustomers(*database, plan.value(), {}, lia).IsDone());
+    const std::string merged = "\"11\": foi unido ao cliente 10. Use o código 10.\n";
+    const std::string rest = "1 erro em 1 linha; nada foi importado.\n";
+    EXPECT_EQ(Update("clientes", "Código;Nome\n11;Canil\n"), 1);
+    EXPECT_EQ(Error(), "linha 2: Código " + merged + rest);
+    EXPECT_EQ(Update("animais", "Código do cliente;Nome;Sexo;Espécie;Porte\n11;Bidu;Macho;Canina;Médio\n"),
+              1);
+    EXPECT_EQ(Error(), "linha 2: Código do cliente " + merged + rest);
+    EXPECT_EQ(Update("animais", "Código;Código do cliente\n51;11\n"), 1);
+    EXPECT_EQ(Error(), "linha 2: Código do cliente " + merged + rest);
+    EXPECT_EQ(Import("agendamentos",
+                     "Data inicial;Hora inicial;Hora final;Código do cliente;Código do animal;"
+                     "Código do serviço;Código do funcionário\n"
+                     "21/11/2026;10:00;11:00;11;51;2;1\n"),
+              1);
+    EXPECT_EQ(Error(), "linha 2: Código do cliente " + merged + rest);
+    ASSERT_EQ(Import("clientes", customers, {"--skip-existing"}), 0) << Error();
+    EXPECT_EQ(Answer(), "Arquivo lido em UTF-8.\n0 linhas importadas; 2 linhas já estavam no banco.\n");
+    EXPECT_EQ(Ask("select cast(codigo as text) from cliente"), "10");
 }
 
 TEST_F(ImportUpdates, AreForTheShopsRegistersOnlyAndNotBothAtOnce)

@@ -1,5 +1,6 @@
 // Two customers who are one person.
 
+#include "tests/unit/family/bath.hpp"
 #include "tests/unit/family/business/appointments/two_desk_fixture.hpp"
 #include "tests/unit/family/registers/register_fixture.hpp"
 
@@ -297,8 +298,77 @@ TEST_F(CustomerMerges, TellThatOneOfTheTwoIsGone)
     const CustomerMerge plan = Plan(10, third);
     ASSERT_TRUE(Merge(Plan(11, third)).IsDone());
     const Lines stored = Whole();
-    EXPECT_EQ(Merge(plan).outcome, MergeAnswer::Outcome::Gone);
+    const MergeAnswer answer = Merge(plan);
+    EXPECT_EQ(answer.outcome, MergeAnswer::Outcome::Gone);
+    EXPECT_EQ(answer.text,
+              "O cliente " + std::to_string(third)
+                  + " foi unido ao cliente 11. Use o código 11. Nada foi unido.");
     EXPECT_EQ(Whole(), stored);
+}
+
+TEST_F(CustomerMerges, AreToldToWhoeverHasTheFormOfTheOneThatIsGone)
+{
+    const Register& customers = CustomerRegister();
+    const registers::Texts open = customers.Read(Data(), 11).value();
+    ASSERT_TRUE(Merge(Plan(10, 11)).IsDone());
+    const registers::Texts typed = Over(customers, open, {{"Bairro", "Lapa"}});
+    EXPECT_EQ(customers.Save(Data(), 11, open, typed, lia_).outcome, SaveAnswer::Outcome::Gone);
+    EXPECT_EQ(customers.WhatBecameOf(Data(), 11), "O cliente 11 foi unido ao cliente 10. Use o código 10.");
+    EXPECT_EQ(customers.WhatBecameOf(Data(), 99), "Este registro não existe mais: alguém o excluiu.");
+    EXPECT_EQ(AnimalRegister().WhatBecameOf(Data(), 11), "Este registro não existe mais: alguém o excluiu.");
+}
+
+TEST_F(CustomerMerges, AreToldToTheEndOfTheWayOrNotAtAll)
+{
+    const Key second = Customer({{"Nome", "Ana"}}), third = Customer({{"Nome", "Ana Luz"}});
+    ASSERT_TRUE(Merge(Plan(second, third)).IsDone());
+    ASSERT_TRUE(Merge(Plan(10, second)).IsDone());
+    EXPECT_EQ(CustomerRegister().WhatBecameOf(Data(), third),
+              "O cliente " + std::to_string(third) + " foi unido ao cliente 10. Use o código 10.");
+    const Key fourth = Customer({{"Nome", "Bruno"}}), fifth = Customer({{"Nome", "Bruno Luz"}});
+    ASSERT_TRUE(Merge(Plan(fourth, fifth)).IsDone());
+    ASSERT_TRUE(CustomerRegister().Remove(Data(), fourth, lia_).IsDone());
+    EXPECT_EQ(CustomerRegister().WhatBecameOf(Data(), fifth),
+              "Este registro não existe mais: alguém o excluiu.");
+}
+
+TEST_F(CustomerMerges, AreToldWhereAnAnimalIsGivenToTheOneThatIsGone)
+{
+    const Key other = Customer({{"Nome", "Ana"}});
+    const std::string code = std::to_string(other);
+    ASSERT_TRUE(Merge(Plan(10, other)).IsDone());
+    ExpectRefused(AnimalRegister(), 50, {{"Código do cliente", code.c_str()}},
+                  "Código do cliente: foi unido ao cliente 10. Use o código 10.");
+}
+
+TEST_F(CustomerMerges, AreToldToWhoeverBooksForTheOneThatIsGone)
+{
+    const Key other = Customer({{"Nome", "José Peçanha"}});
+    const Key twin = Animal(other, "Paçoca", "Canina"), third = Animal(other, "Bidu", "Canina");
+    AppointmentInput input = Bath("01/12/2026");
+    input.kind = 0;
+    input.customer = static_cast<Double>(other);
+    input.animal = static_cast<Long>(third);
+    const CustomerMerge plan = Plan(10, other);
+    ASSERT_TRUE(Merge(plan, plan.alike).IsDone());
+    const Lines stored = Whole();
+    const auto expect = [&](const char* field, const std::string& text) {
+        const WriteAnswer answer = AddAppointments(Data(), input, lia_);
+        EXPECT_EQ(answer.status, WriteAnswer::Invalid);
+        EXPECT_EQ(answer.field, field);
+        EXPECT_EQ(answer.text, text);
+        EXPECT_EQ(Whole(), stored);
+    };
+    expect("CodigoDoCliente",
+           "O cliente " + std::to_string(other) + " foi unido ao cliente 10. Use o código 10.");
+    input.customer = 10;
+    input.animal = static_cast<Long>(twin);
+    expect("CodigoDoAnimal",
+           "O animal " + std::to_string(twin) + " foi unido ao animal 50. Use o código 50.");
+    input.animal = 99;
+    expect("CodigoDoAnimal", "Selecione o animal.");
+    input.animal = static_cast<Long>(third);
+    EXPECT_TRUE(AddAppointments(Data(), input, lia_).IsDone());
 }
 
 TEST_F(CustomerMerges, AreWholeOrNotAtAll)
