@@ -74,7 +74,7 @@ FilePage::FilePage(std::string_view registerName, QWidget* parent)
     setFocusProxy(path_);
     connect(choose_, &QPushButton::clicked, this, [this] { ChooseFile(); });
     connect(path_, &QLineEdit::editingFinished, this, [this] { Look(); });
-    connect(path_, &QLineEdit::textEdited, this, [this] { pathFrame_->Refuse({}); });
+    connect(path_, &QLineEdit::textEdited, this, [this] { Clear(); });
     connect(encoding_, &QComboBox::activated, this, [this] { Look(); });
     connect(register_, &QComboBox::currentIndexChanged, this, [this] { OfferKnown(); });
 }
@@ -130,11 +130,16 @@ void FilePage::Look()
         Order();
 }
 
-std::optional<csv::ImportOrder> FilePage::Order()
+void FilePage::Clear()
 {
     pathFrame_->Refuse({});
     told_->clear();
     FillTable(*preview_, {}, {});
+}
+
+std::optional<csv::ImportOrder> FilePage::Order()
+{
+    Clear();
     const std::string path = path_->text().trimmed().toStdString();
     if (path.empty()) {
         pathFrame_->Refuse(QStringLiteral("Informe o arquivo."));

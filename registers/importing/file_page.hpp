@@ -25,13 +25,15 @@ public:
 
     /// What is to be brought in; nothing, with the reason at its field, where that cannot be said yet.
     std::optional<family::csv::ImportOrder> Order();
+    /// Reads the file anew, where one is named, and shows how it begins.
+    void Look();
 
 private:
     void LayOut();
     void ChooseFile();
     void OfferKnown();
-    /// Reads the file anew and shows how it begins.
-    void Look();
+    /// Shows nothing of a file any more.
+    void Clear();
     void ShowPreview(const family::csv::FileText& file);
     const family::csv::Register& Into() const;
 

@@ -116,6 +116,8 @@ void ImportWizard::Back()
 {
     pages_->setCurrentWidget(file_);
     Offer({checks_});
+    // It may have been corrected meanwhile.
+    file_->Look();
     file_->setFocus();
 }
 

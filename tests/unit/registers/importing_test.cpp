@@ -124,6 +124,29 @@ TEST_F(Importing, ShowsHowTheFirstLinesWereUnderstood)
     EXPECT_EQ(Cells("previa").front(), "SÃ¡, Ana|NÃ¡");
 }
 
+TEST_F(Importing, ShowsTheFileAsItIsNowWhereOneGoesBackToIt)
+{
+    Begin();
+    TypePath(Written("Nome;UF\nAna;XX\n"));
+    Press("conferir");
+    EXPECT_EQ(Outcome().find("1 erro em 1 linha"), 0u) << Outcome();
+    Written("Nome;UF\nAna;SP\nBia;SP\n");
+    Press("voltar");
+    EXPECT_EQ(Cells("previa"), (Lines{"Ana|SP", "Bia|SP"}));
+    EXPECT_NE(Find<QLabel>("lido").text().indexOf(QStringLiteral(": 2 linhas.")), -1);
+}
+
+TEST_F(Importing, ShowsNothingOfAFileWhoseNameIsTypedOver)
+{
+    Begin();
+    TypePath(Written("Nome\nAna\n"));
+    Keys(Qt::Key_Tab);
+    EXPECT_EQ(Cells("previa"), Lines{"Ana"});
+    TypePath(File("outra.csv"));
+    EXPECT_EQ(Cells("previa"), Lines{});
+    EXPECT_EQ(Find<QLabel>("lido").text(), "");
+}
+
 TEST_F(Importing, RefusesAFileThatIsNotThere)
 {
     Begin();
