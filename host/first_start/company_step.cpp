@@ -1,8 +1,9 @@
 #include "host/first_start/company_step.hpp"
 
-#include "family/data/checks/documents.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/stores/new_shop.hpp"
+#include "family/registers/registers.hpp"
+#include "family/registers/shop/shop_columns.hpp"
 #include "screens/field_frame.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -30,6 +31,17 @@ constexpr int LongestPath = 1000;
 QLineEdit& BoxOf(FieldFrame& frame) { return static_cast<QLineEdit&>(frame.Editor()); }
 
 std::string TextOf(FieldFrame& frame) { return BoxOf(frame).text().trimmed().toStdString(); }
+
+/// Writes the text as the company's register keeps it, or says why it cannot be one.
+void Tidy(FieldFrame& frame, std::string_view label)
+{
+    using namespace family::registers;
+    const Register& company = CompanyRegister();
+    const TidyText tidy = company.Tidy(FieldNamed(company.Fields(), label), {}, TextOf(frame));
+    BoxOf(frame).setText(QString::fromStdString(tidy.text));
+    if (!tidy.why.empty())
+        frame.Refuse(QString::fromStdString(Sentence(tidy.why)));
+}
 
 /// Without what a file's name cannot hold on one system or another.
 QString FileNameFor(const QString& shop)
@@ -133,14 +145,13 @@ bool CompanyStep::Accepts()
         {user_, "Informe o nome de quem usa este computador."},
         {nickname_, "Informe como o(a) primeiro(a) funcionário(a) é chamado(a)."},
         {file_, "Informe o arquivo em que a loja fica guardada."}};
-    const std::string document = family::DocumentOf(TextOf(*document_));
-    if (!document.empty() && !family::HasCheckDigits(document))
-        document_->Refuse(QStringLiteral("Não é um CNPJ nem um CPF válido: confira os dígitos."));
+    Tidy(*document_, family::registers::shop_columns::CompanyNumber);
+    Tidy(*phone_, family::registers::shop_columns::Phone);
     for (const auto& [frame, reason] : required) {
         if (TextOf(*frame).empty())
             frame->Refuse(QString::fromUtf8(reason));
     }
-    for (FieldFrame* frame : {tradeName_, document_, user_, nickname_, file_}) {
+    for (FieldFrame* frame : {tradeName_, document_, phone_, user_, nickname_, file_}) {
         if (!frame->IsRefused())
             continue;
         BoxOf(*frame).setFocus();

@@ -1,9 +1,11 @@
 #include "family/registers/shop/shop_columns.hpp"
 
 #include "family/data/checks/documents.hpp"
+#include "family/registers/contacts/phone_numbers.hpp"
 #include "family/registers/description/column_kinds.hpp"
 
 #include <cstdio>
+#include <utility>
 
 namespace kova::family::registers {
 
@@ -48,15 +50,28 @@ Column<HolidayRow> HolidayDay()
 Column<CompanyRow> CompanyDocument()
 {
     Column<CompanyRow> column =
-        ColumnsOf<CompanyRow>::InMember("CNPJ", FieldKind::Document, 18, &CompanyRow::cnpj);
+        ColumnsOf<CompanyRow>::InMember(CompanyNumber, FieldKind::Document, 18, &CompanyRow::cnpj);
     column.read = [](const std::string& text, CompanyRow& company) -> std::string {
         const auto document = ReadDocument(text);
-        if (!document || !IsCompanyDocument(*document))
-            return "não é um CNPJ válido: confira os dígitos.";
+        if (!document)
+            return "não é um CNPJ nem um CPF válido: confira os dígitos.";
         company.cnpj = *document;
         return {};
     };
     column.write = [](const CompanyRow& company) { return ShownDocument(company.cnpj); };
+    return column;
+}
+
+Column<CompanyRow> CompanyPhone()
+{
+    Column<CompanyRow> column = ColumnsOf<CompanyRow>::Text(Phone, &CompanyRow::telefone, 50);
+    column.read = [readText = column.read](const std::string& text, CompanyRow& company) {
+        if (std::string why = readText(text, company); !why.empty())
+            return why;
+        PhoneText phone = ReadPhone(text, PhoneKind::Any);
+        company.telefone = std::move(phone.kept);
+        return std::move(phone.why);
+    };
     return column;
 }
 
@@ -166,9 +181,9 @@ const Columns<CompanyRow>& CompanyColumns()
         Helped("Como a loja se chama; está no título da janela e no que se imprime.",
                Required(Cols::Text("Nome fantasia", &CompanyRow::nomeFantasia, 100))),
         Cols::Text("Razão social", &CompanyRow::razaoSocial, 100),
-        CompanyDocument(),
+        AskedAs("CNPJ ou CPF", CompanyDocument()),
         Cols::Text("Endereço", &CompanyRow::endereco, 255),
-        Cols::Text("Telefone", &CompanyRow::telefone, 50),
+        Helped("Com DDD, como (11) 3123-4567.", CompanyPhone()),
     };
     return columns;
 }

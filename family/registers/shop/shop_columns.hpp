@@ -31,6 +31,8 @@ inline constexpr const char* Name = "Nome";
 inline constexpr const char* Nickname = "Apelido";
 inline constexpr const char* Species = "Espécie";
 inline constexpr const char* Situation = "Situação";
+inline constexpr const char* CompanyNumber = "CNPJ";
+inline constexpr const char* Phone = "Telefone";
 } // namespace shop_columns
 
 /// "dd/mm" of every year, or "dd/mm/yyyy".

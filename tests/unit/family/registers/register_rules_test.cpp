@@ -245,8 +245,21 @@ TEST_F(RegisterRules, OfSpeciesBreedsHolidaysAndTheCompany)
                     {0, {{"Nome", "a"}}, "Data: deve ser informado."}});
     ExpectRefusals(CompanyRegister(),
                    {{1,
-                     {{"CNPJ", "123.456.789-09"}, {"Nome fantasia", ""}},
-                     "Nome fantasia: deve ser informado. CNPJ: não é um CNPJ válido: confira os dígitos."}});
+                     {{"CNPJ", "123.456.789-00"}, {"Nome fantasia", ""}, {"Telefone", "3333-4444"}},
+                     "Nome fantasia: deve ser informado. CNPJ: não é um CNPJ nem um CPF válido: confira os"
+                     " dígitos. Telefone: o telefone 3333-4444 não tem DDD e oito ou nove dígitos, como (11)"
+                     " 3123-4567."}});
+}
+
+TEST_F(RegisterRules, KeepTheCompanysNumbersInTheUsualWay)
+{
+    const Register& company = CompanyRegister();
+    ExpectDone(company, 1, {{"CNPJ", "12345678909"}, {"Telefone", "011 31234567"}});
+    EXPECT_EQ(Field(company, 1, "CNPJ"), "123.456.789-09");
+    EXPECT_EQ(Field(company, 1, "Telefone"), "(11) 3123-4567");
+    Run("update empresa set telefone = '3333-4444, ramal 2'");
+    ExpectDone(company, 1, {{"Endereço", "Rua A, 1"}});
+    EXPECT_EQ(Field(company, 1, "Telefone"), "3333-4444, ramal 2") << "it is older than the rule";
 }
 
 TEST_F(RegisterRules, OfferTheDaysOnWhichManyShopsAreClosed)

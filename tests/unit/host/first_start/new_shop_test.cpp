@@ -21,7 +21,7 @@ TEST_F(TheQuestionForAShop, MakesAShop)
     EXPECT_EQ(TextOf("arquivo"), (folder_ / "nova" / "céu.db").string()) << "the chosen one stays";
     Type("razao", "Céu Comércio Ltda.");
     Type("documento", "12.ABC.345/01DE-35");
-    Type("telefone", "(11) 3333-4444");
+    Type("telefone", "11 3333 4444");
     Type("endereco", "Rua das Flores, 12");
     Type("apelido", "Bia");
     Type("funcionario", "Beatriz Souza");
@@ -85,9 +85,11 @@ TEST_F(TheQuestionForAShop, MakesNoShopWithoutACompanyAUserAndAnEmployee)
     for (const char* box : {"usuario", "apelido", "arquivo"})
         Type(box, " ");
     Type("documento", "123");
+    Type("telefone", "3333-4444");
     Press("avancar");
     EXPECT_EQ(Reasons(),
               "Informe o nome fantasia da empresa.\nNão é um CNPJ nem um CPF válido: confira os dígitos.\n"
+              "O telefone 3333-4444 não tem DDD e oito ou nove dígitos, como (11) 3123-4567.\n"
               "Informe o nome de quem usa este computador.\n"
               "Informe como o(a) primeiro(a) funcionário(a) é chamado(a).\n"
               "Informe o arquivo em que a loja fica guardada.\n");

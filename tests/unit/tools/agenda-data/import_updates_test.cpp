@@ -158,8 +158,13 @@ TEST_F(ImportUpdates, GoToSpeciesBreedsAndTheCompanyToo)
     EXPECT_EQ(Error(),
               "linha 2: Nome fantasia \"Outra\": uma empresa já existe no banco de dados.\n"
               "1 erro em 1 linha; nada foi importado.\n");
-    ASSERT_EQ(Update("empresa", "Código;Nome fantasia;Telefone\n1;Pet Shop;3333-4444\n"), 0) << Error();
-    EXPECT_EQ(Ask("select cnpj || ' ' || telefone from empresa"), "12ABC34501DE35 3333-4444");
+    ASSERT_EQ(Update("empresa", "Código;Nome fantasia;Telefone\n1;Pet Shop;1133334444\n"), 0) << Error();
+    EXPECT_EQ(Ask("select cnpj || ' ' || telefone from empresa"), "12ABC34501DE35 (11) 3333-4444");
+    EXPECT_EQ(Update("empresa", "Código;Nome fantasia;Telefone\n1;Pet Shop;3333-4444\n"), 1);
+    EXPECT_EQ(
+        Error(),
+        "linha 2: Telefone \"3333-4444\": o telefone 3333-4444 não tem DDD e oito ou nove dígitos, como "
+        "(11) 3123-4567.\n1 erro em 1 linha; nada foi importado.\n");
     ASSERT_EQ(Update("racas", "Código;Espécie;Nome\n1;Felina;Siamês\n"), 0) << Error();
     EXPECT_EQ(Ask("select nome from raca where codigo_da_especie = 2 order by nome"), "Persa,Siamês");
 }

@@ -86,7 +86,7 @@ const Edit Edits[] = {
     {"servicos", "Preço", "1.234,56", {"preco_em_centavos"}},
     {"funcionarios", "Agendamentos simultâneos", "7", {"agendamentos_simultaneos"}},
     {"feriados", "Nome", "Dia de São Nunca", {"nome"}},
-    {"empresa", "Telefone", "0800 111", {"telefone"}},
+    {"empresa", "Telefone", "0800 111 2222", {"telefone"}},
     {"expediente", "Hora final", "22:30:00", {"hora_final"}},
     {"horarios", "Hora inicial", "7:15", {"hora_inicial"}},
     {"ausencias", "Motivo", "Férias; \"na praia\"", {"motivo"}},
