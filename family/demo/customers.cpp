@@ -20,6 +20,14 @@ std::string Digits(Random& random, int count, std::string beginning = {})
     return beginning;
 }
 
+/// In the form of a mobile number, and nobody's: what begins with 901 to 909 is dialled before a number that
+/// is to pay for the call.
+std::string NobodysNumber(int area, Random& random)
+{
+    const std::string beginning = "(" + std::to_string(area) + ") 90" + std::to_string(random.Between(1, 9));
+    return Digits(random, 4, Digits(random, 2, beginning) + "-");
+}
+
 std::string Picked(Random& random, words::List list) { return std::string(random.Pick(list)); }
 
 /// Codes of customers and their appearance follow from one seed, however many there are.
@@ -79,7 +87,7 @@ private:
         return customer;
     }
 
-    /// Postal codes that begin with 00 belong to no place.
+    /// The towns are made up; behind the last one of the state there are postal codes left.
     void GiveAddress(CustomerRow& customer)
     {
         customer.logradouro = Picked(random_, words::Streets());
@@ -89,7 +97,7 @@ private:
         customer.bairro = Picked(random_, words::Districts());
         customer.cidade = Picked(random_, words::Cities());
         customer.uf = "SP";
-        customer.cep = Digits(random_, 6, "00");
+        customer.cep = Digits(random_, 6).replace(0, 3, "19999");
     }
 
     std::vector<ChannelRow> MakeChannels(const CustomerRow& customer)
@@ -100,7 +108,7 @@ private:
         };
         add("Celular", MobileNumber(random_));
         if (random_.Chance(30))
-            add("Telefone", Digits(random_, 4, Digits(random_, 3, "(00) 3") + "-"));
+            add("Telefone", NobodysNumber(11, random_));
         if (random_.Chance(60)) {
             std::string user = FoldText(customer.apelido);
             std::replace(user.begin(), user.end(), ' ', '.');
@@ -157,8 +165,11 @@ std::string PersonName(Random& random)
     return name;
 }
 
-// No area has the code 00: the numbers reach nobody.
-std::string MobileNumber(Random& random) { return Digits(random, 4, Digits(random, 4, "(00) 9") + "-"); }
+std::string MobileNumber(Random& random)
+{
+    const int area = random.Between(11, 19);
+    return NobodysNumber(area, random);
+}
 
 std::vector<ShopCustomer> WriteCustomers(Database& database, const ShopRegisters& registers, int count,
                                          Random& random)

@@ -84,8 +84,8 @@ void WriteCompany(Database& database)
 {
     Insert(database,
            CompanyRow{1, "Pet Shop Amigo Fiel", "Amigo Fiel Serviços para Animais Ltda.",
-                      WithCnpjCheckDigits("000000000001"),
-                      "Avenida das Hortênsias, 1200 - Centro - Vale Sereno/SP", "(00) 3000-0000"});
+                      WithCnpjCheckDigits("999999990001"),
+                      "Avenida das Hortênsias, 1200 - Centro - Vale Sereno/SP", "(11) 90100-0000"});
     Key code = 0;
     for (const char* name : {"Recepção", "Carla", "Marcos"})
         Insert(database, UserRow{++code, name});

@@ -93,7 +93,7 @@ PhoneText OfBrazil(const std::string& typed, const std::string& digits, PhoneKin
     if (!HasForm(digits, kind))
         return {{}, WrongForm(typed, kind)};
     const int code = (digits[0] - '0') * 10 + (digits[1] - '0');
-    if (code != 0 && !IsAreaCode(code))
+    if (!IsAreaCode(code))
         return {{}, "o DDD " + digits.substr(0, 2) + ", de " + typed + ", não existe."};
     return {Shown(digits), {}};
 }

@@ -25,11 +25,9 @@ struct PhoneText {
 /// A number of Brazil, however it is written, as "(11) 91234-5678", "(11) 3123-4567" or "0800 123 4567"; its
 /// country's code and the 0 before an area code are taken off. One of another country begins with "+" and
 /// stays as it is written.
-///
-/// The area code 00 is taken, too: it belongs to no place, and people who are made up have it.
 PhoneText ReadPhone(std::string_view typed, PhoneKind kind);
 
-/// Whether such an area code exists, 00 aside.
+/// Whether such an area code exists.
 bool IsAreaCode(int code);
 
 } // namespace kova::family::registers

@@ -50,6 +50,8 @@ Col PostalCode()
         const auto digits = ReadPostalCode(text);
         if (!digits)
             return "não é um CEP: são oito dígitos.";
+        if (StateOfPostalCode(*digits).empty())
+            return "não existe: os CEPs começam em 01000-000.";
         record.cep = *digits;
         return {};
     };

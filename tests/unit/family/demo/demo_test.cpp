@@ -4,6 +4,7 @@
 #include "family/data/checks/documents.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/demo/shop.hpp"
+#include "family/registers/registers.hpp"
 
 #include <set>
 
@@ -80,6 +81,26 @@ TEST_F(DemonstrationShop, HasTheSameContentAsEver)
 }
 
 TEST_F(DemonstrationShop, IsSound) { EXPECT_EQ(CheckDatabase(path_).problems, std::vector<std::string>()); }
+
+TEST_F(DemonstrationShop, HoldsWhatAFormWouldTake)
+{
+    const auto database = OpenForReading(path_);
+    for (const registers::Register* one : registers::Registers())
+        one->Judge(*database, [&](const registers::JudgedField& field) {
+            ADD_FAILURE() << one->Name().name << " " << field.key << " " << field.text << ": " << field.why;
+        });
+}
+
+// 901 to 909 are dialled before a number that is to pay for the call.
+TEST_F(DemonstrationShop, HasPhoneNumbersThatAreNobodys)
+{
+    const std::string nobodys = " like '(1_) 90_%'";
+    EXPECT_GT(Count("canal_de_comunicacao where tipo = 'Telefone'"), 0);
+    EXPECT_EQ(Count("canal_de_comunicacao where tipo <> 'E-mail' and not canal" + nobodys), 0);
+    EXPECT_EQ(Count("canal_de_comunicacao where canal like '(1_) 900%' or canal like '(10)%'"), 0);
+    EXPECT_EQ(Count("agendamento where canais_do_cliente <> '' and not canais_do_cliente" + nobodys), 0);
+    EXPECT_EQ(Count("empresa where telefone" + nobodys), 1);
+}
 
 TEST_F(DemonstrationShop, HasAboutFortyAppointmentsADayAndFewerOnSundays)
 {

@@ -97,6 +97,14 @@ TEST_F(RegisterRules, JudgeWhatIsStoredByWhatAFormWouldTake)
             });
         return lines;
     };
+    EXPECT_EQ(judged(),
+              (std::vector<std::string>{
+                  "clientes 10 CEP 00123-456: não existe: os CEPs começam em 01000-000.",
+                  "clientes 10 Canais Celular: (00) 91234-5678; E-mail: ze@example.com: o DDD 00, de (00) "
+                  "91234-5678, não existe.",
+                  "clientes 11 CEP 00123-456: não existe: os CEPs começam em 01000-000."}));
+    Run("update cliente set cep = '01234567'");
+    Run("update canal_de_comunicacao set canal = '(11) 91234-5678' where tipo = 'Celular'");
     EXPECT_EQ(judged(), std::vector<std::string>());
     Run("update cliente set documento = '123', cep = '20040002' where codigo = 10");
     Run("insert into canal_de_comunicacao (codigo_do_cliente, tipo, canal) values (11, 'Fixo', '7')");
@@ -119,6 +127,7 @@ TEST_F(RegisterRules, TidyWhatIsTyped)
     const Typing typings[] = {
         {CustomerRegister(), "CEP", "", " 01234567 ", "01234-567", ""},
         {CustomerRegister(), "CEP", "", "123", "123", "não é um CEP: são oito dígitos."},
+        {CustomerRegister(), "CEP", "", "00999999", "00999999", "não existe: os CEPs começam em 01000-000."},
         {CustomerRegister(), "CEP", "123", "123", "123", ""},
         {CustomerRegister(), "CEP", "01234-567", "", "", ""},
         {CustomerRegister(), "Documento", "", "12abc34501de35", "12.ABC.345/01DE-35", ""},

@@ -17,7 +17,7 @@ std::string CustomerLine(int number, bool bad)
     const char* state = bad && number % 3 == 0 ? "Perdido" : "Ativo";
     const char* postalCode = bad && number % 3 == 1 ? "123" : "01234-567";
     const char* name = bad && number % 3 == 2 ? "" : "Maria";
-    std::snprintf(text, sizeof text, "%d;%s;%s;Rua %d;%s;Celular: (00) 9%08d\n", number, name, state, number,
+    std::snprintf(text, sizeof text, "%d;%s;%s;Rua %d;%s;Celular: (11) 9%08d\n", number, name, state, number,
                   postalCode, number);
     return text;
 }
