@@ -72,7 +72,20 @@ void ImportRun::Check(Database& database, ImportStep step)
         updates_.emplace(
             *registers::RegisterNamed(register_.name), *header_, import_->Titles(),
             [this](Key key, const std::vector<std::string>& texts) { import_->Replace(key, texts); });
+    if (updates_ && updates_->Expects())
+        ExpectUpdates(database);
     ForEachGroup(step, [this](std::span<Line> lines) { CheckGroup(lines); });
+}
+
+void ImportRun::ExpectUpdates(Database& database)
+{
+    Problems untold([](const Problem&) {});
+    CsvReader reader = reader_;
+    for (CsvRecord record; reader.Next(record);) {
+        watch_.RequireGoingOn();
+        if (!record.IsBlank())
+            updates_->Expect(database, header_->Read(record, untold));
+    }
 }
 
 void ImportRun::CheckGroup(std::span<Line> lines)

@@ -51,6 +51,8 @@ private:
     bool ReadHeader();
     /// Calls `use` with the lines behind the header, so many at a time.
     template <class Use> void ForEachGroup(ImportStep step, Use use);
+    /// Goes through the file once, so that its lines can be judged as the rows stand after it.
+    void ExpectUpdates(Database& database);
     void CheckGroup(std::span<Line> lines);
     void CheckNew(std::vector<Line>& lines);
     void WriteLine(Line& line, const Author& author);

@@ -29,6 +29,11 @@ struct ImportWatch {
     {
         if (progress)
             progress(step, done, total);
+        RequireGoingOn();
+    }
+    /// Fails with Interrupted where the import is asked to end.
+    void RequireGoingOn() const
+    {
         if (stop.stop_requested())
             throw Interrupted();
     }

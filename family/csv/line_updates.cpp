@@ -18,10 +18,39 @@ std::string Quoted(const std::string& text) { return text.empty() ? "(vazio)" : 
 
 } // namespace
 
-bool LineUpdates::Take(family::Database& database, Line& line)
+bool LineUpdates::Expects() const
+{
+    for (std::size_t column = 1; column < titles_.size(); ++column) {
+        const auto field = FieldOf(column);
+        if (field && header_.Has(column) && register_.IsJudgedAmong(*field))
+            return true;
+    }
+    return false;
+}
+
+void LineUpdates::Expect(family::Database& database, const Line& line)
+{
+    const auto [key, before] = Stored(database, line);
+    if (!before)
+        return;
+    Texts typed = TypedOver(*before, line);
+    if (typed == *before)
+        return;
+    const auto [row, isNew] = toBe_.try_emplace(key, std::move(typed));
+    if (isNew)
+        onChange_(key, row->second);
+}
+
+std::pair<Key, std::optional<LineUpdates::Texts>> LineUpdates::Stored(family::Database& database,
+                                                                      const Line& line) const
 {
     const Key key = family::registers::ReadWhole(line.Cell(0)).value_or(0);
-    const auto before = key == 0 ? std::nullopt : register_.Read(database, key);
+    return {key, key == 0 ? std::nullopt : register_.Read(database, key)};
+}
+
+bool LineUpdates::Take(family::Database& database, Line& line)
+{
+    const auto [key, before] = Stored(database, line);
     if (!before)
         return false;
     keys_[line.Number()] = key;
@@ -36,28 +65,42 @@ bool LineUpdates::Take(family::Database& database, Line& line)
 
 void LineUpdates::Check(family::Database& database, Key key, const Texts& before, Line& line)
 {
+    RefuseWhatIsNoField(line);
     const Texts typed = TypedOver(before, line);
-    const SaveAnswer answer = register_.Check(database, key, before, typed);
+    const SaveAnswer answer = register_.CheckAmong(database, toBe_, key, before, typed);
     if (!answer.IsDone())
         return Refuse(answer, typed, line);
     if (!answer.changed.empty())
         changing_.insert(line.Number());
-    onChange_(key, typed);
     for (const ChangedField& changed : answer.changed)
         changes_ += "linha " + std::to_string(line.Number()) + ": "
             + std::string(register_.Fields()[changed.field].label) + " " + Quoted(changed.before) + " → "
             + Quoted(changed.after) + "\n";
 }
 
-LineUpdates::Texts LineUpdates::TypedOver(Texts texts, Line& line) const
+std::optional<std::size_t> LineUpdates::FieldOf(std::size_t column) const
 {
     const std::vector<FieldInfo>& fields = register_.Fields();
+    const auto field = std::ranges::find(fields, titles_[column].name, &FieldInfo::label);
+    if (field == fields.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(field - fields.begin());
+}
+
+void LineUpdates::RefuseWhatIsNoField(Line& line) const
+{
     for (std::size_t column = 1; column < titles_.size(); ++column) {
-        const auto field = std::ranges::find(fields, titles_[column].name, &FieldInfo::label);
-        if (field != fields.end() && header_.Has(column))
-            texts[static_cast<std::size_t>(field - fields.begin())] = line.Cell(column);
-        else if (field == fields.end() && !line.Cell(column).empty())
+        if (!FieldOf(column) && !line.Cell(column).empty())
             line.Refuse(titles_[column].name, line.Cell(column), "só entra com um registro novo.");
+    }
+}
+
+LineUpdates::Texts LineUpdates::TypedOver(Texts texts, const Line& line) const
+{
+    for (std::size_t column = 1; column < titles_.size(); ++column) {
+        const auto field = FieldOf(column);
+        if (field && header_.Has(column))
+            texts[*field] = line.Cell(column);
     }
     return texts;
 }
@@ -71,7 +114,7 @@ void LineUpdates::Write(family::Database& database, Line& line, const family::Au
     if (!before)
         return line.Refuse(titles_.front().name, line.Cell(0), "não existe mais.");
     const Texts typed = TypedOver(*before, line);
-    const SaveAnswer answer = register_.SaveWithin(database, key, *before, typed, author);
+    const SaveAnswer answer = register_.SaveAmong(database, toBe_, key, *before, typed, author);
     if (!answer.IsDone())
         Refuse(answer, typed, line);
 }

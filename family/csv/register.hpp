@@ -24,8 +24,8 @@ public:
     virtual bool HasCode(const Line& line) const = 0;
     /// Tells each of the lines all that speaks against it. Lines count as there for those after them.
     virtual void Check(std::span<Line> lines) = 0;
-    /// Tells that a line changes the stored row of that key: what stands in it from now on, a text for each
-    /// column that is written.
+    /// Tells, before any line is checked, that the file changes the stored row of that key: what stands in it
+    /// then, a text for each column that is written.
     virtual void Replace(family::Key, const std::vector<std::string>&) { }
     /// Has everybody else wait who would take the room that the lines checked so far take, until the
     /// transaction that is open ends.

@@ -12,6 +12,7 @@
 #include "family/registers/registers.hpp"
 
 #include <algorithm>
+#include <map>
 
 namespace kova::family::registers {
 
@@ -118,6 +119,17 @@ public:
     {
     }
 
+    /// Notes what a row that was changed gets back, where others are judged by it. To be told of all rows
+    /// before the first is taken back.
+    void Expect(const ImportedRow& row)
+    {
+        const Register* of = row.WasNew() ? nullptr : RegisterOfTable(row.table);
+        if (of == nullptr || !ChangesOthers(*of, row))
+            return;
+        if (auto former = of->Former(database_, row.key, row.before))
+            toBe_[of].insert_or_assign(row.key, *std::move(former));
+    }
+
     void TakeBack(const ImportedRow& row)
     {
         const RemoveAnswer answer = Answer(row);
@@ -128,14 +140,30 @@ public:
     }
 
 private:
-    RemoveAnswer Answer(const ImportedRow& row) const
+    RemoveAnswer Answer(const ImportedRow& row)
     {
         if (const Register* of = RegisterOfTable(row.table))
-            return of->TakeBackWithin(database_, row.key, row.before, row.after, author_);
+            return of->TakeBackWithin(database_, toBe_[of], row.key, row.before, row.after, author_);
         const OtherRows* other = OthersOfTable(row.table);
         return other == nullptr || !row.WasNew()
             ? Kept("Este programa não sabe desfazer o que foi gravado nele.")
             : other->takeBack(database_, row, author_);
+    }
+
+    /// Whether a field has changed by which other rows are judged.
+    static bool ChangesOthers(const Register& of, const ImportedRow& row)
+    {
+        const std::vector<FieldInfo>& fields = of.Fields();
+        for (std::size_t at = 0; at < fields.size(); ++at) {
+            const bool hasChanged = std::ranges::any_of(fields[at].stored, [&](const std::string& column) {
+                const auto before = row.before.find(column), after = row.after.find(column);
+                return before != row.before.end()
+                    && (after == row.after.end() || before->second != after->second);
+            });
+            if (hasChanged && of.IsJudgedAmong(at))
+                return true;
+        }
+        return false;
     }
 
     /// Who has made it stand otherwise, where the audit tells.
@@ -153,6 +181,7 @@ private:
     Database& database_;
     UndoneImport& undone_;
     const Author& author_;
+    std::map<const Register*, RowsToBe> toBe_;
 };
 
 UndoneImport Find(Database& database, std::optional<Key> number)
@@ -168,6 +197,11 @@ UndoneImport Find(Database& database, std::optional<Key> number)
 void TakeAllBack(Database& database, UndoneImport& undone, const Author& author, const LongWork& work)
 {
     Undoing undoing(database, undone, author);
+    if (undone.import.changed.value_or(1) > 0)
+        ForEachRowOf(undone.import, database, [&](const ImportedRow& row) {
+            work.RequireGoingOn();
+            undoing.Expect(row);
+        });
     long long done = 0;
     const long long total = undone.import.records;
     ForEachRowOf(undone.import, database, [&](const ImportedRow& row) {

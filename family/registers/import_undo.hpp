@@ -47,11 +47,11 @@ struct UndoneImport {
 };
 
 /// Takes an import back, the last of all where no number is given: rows that it made go, rows that it changed
-/// get their former values, by the rules of their registers, each with its line in the audit, and one more
-/// for the whole. All in one transaction, for which other imports and saves of registers wait. Rows whose
-/// newest line in the audit is another one, that stand otherwise than the import left them, or that others
-/// refer to, speak against it. Fails with a DatabaseFailure, also where the work is asked to end; nothing is
-/// taken back then.
+/// get their former values, by the rules of their registers (judged beside each other as they will be), each
+/// with its line in the audit, and one more for the whole. All in one transaction, for which other imports
+/// and saves of registers wait. Rows whose newest line in the audit is another one, that stand otherwise than
+/// the import left them, or that others refer to, speak against it. Fails with a DatabaseFailure, also where
+/// the work is asked to end; nothing is taken back then.
 UndoneImport UndoImport(Database& database, std::optional<Key> number, ChangedRows changed,
                         const Author& author, const LongWork& work);
 

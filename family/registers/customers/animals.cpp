@@ -48,6 +48,8 @@ class Animals : public RegisterOf<AnimalRecord> {
 public:
     Animals() : RegisterOf({"animais", "Animais", "animal"}, AnimalColumns(), ListOfAnimals()) { }
 
+    bool IsJudgedAmong(std::size_t) const override { return false; }
+
     std::span<const RelatedList* const> Related() const override
     {
         static const RelatedList* const lists[] = {&AnimalAppointments()};
@@ -112,12 +114,12 @@ private:
             record.customer = names[record.codigoDoCliente];
     }
 
-    void CheckRecord(Database& database, const AnimalRecord* stored, AnimalRecord& record,
+    void CheckRecord(const Among& among, const AnimalRecord* stored, AnimalRecord& record,
                      Refusals& refusals) const override
     {
         record.Complete();
-        CheckCustomer(database, stored, record, refusals);
-        CheckBreed(database, stored, record, refusals);
+        CheckCustomer(among, stored, record, refusals);
+        CheckBreed(among, stored, record, refusals);
     }
 
     /// Its appointments name its customer, too.

@@ -7,6 +7,7 @@
 #include "family/registers/customers/likely_doubles.hpp"
 #include "family/registers/customers/related_lists.hpp"
 #include "family/registers/description/register_of.hpp"
+#include "family/registers/description/typed_values.hpp"
 
 namespace kova::family::registers {
 
@@ -32,6 +33,11 @@ private:
     {
         const ListSearch sought(text);
         return CustomersWith(database, sought.Parts(), sought.Code().ValueOr(0), listed == Listed::Active);
+    }
+
+    bool IsJudgedAmong(std::size_t field) const override
+    {
+        return field == FieldNamed(Fields(), customer_columns::Document);
     }
 
     std::span<const RelatedList* const> Related() const override
@@ -72,7 +78,7 @@ private:
             record.channels = ShownChannels(record.tiposECanais);
     }
 
-    void CheckRecord(Database& database, const CustomerRecord* stored, CustomerRecord& record,
+    void CheckRecord(const Among& among, const CustomerRecord* stored, CustomerRecord& record,
                      Refusals& refusals) const override
     {
         if (std::string why = WrongKindOfPerson(record); !why.empty())
@@ -81,7 +87,7 @@ private:
         record.Complete();
         const bool isNew = !stored || stored->documento != record.documento;
         if (!record.documento.empty() && isNew)
-            CheckDocument(database, record, refusals);
+            CheckDocument(among, record, refusals);
     }
 
     void JudgeRecord(const CustomerRecord& record, Refusals& refusals) const override
@@ -100,14 +106,24 @@ private:
             refusals.Add(customer_columns::PostalCode, std::move(why));
     }
 
-    static void CheckDocument(Database& database, const CustomerRecord& record, Refusals& refusals)
+    void CheckDocument(const Among& among, const CustomerRecord& record, Refusals& refusals) const
     {
         SelectWhere<KnownDocument>(
-            database, std::set<std::string>{record.documento}, [&](const KnownDocument& known) {
-                if (known.code != record.codigo)
+            among, std::set<std::string>{record.documento}, [&](const KnownDocument& known) {
+                if (known.code != record.codigo && !GivesUp(among, known))
                     refusals.Add(customer_columns::Document,
                                  "o cliente " + std::to_string(known.code) + " já tem este documento.");
             });
+    }
+
+    /// Whether that customer is written together with the record, and has another document then.
+    bool GivesUp(const Among& among, const KnownDocument& known) const
+    {
+        const auto toBe = among.rows.find(known.code);
+        if (toBe == among.rows.end())
+            return false;
+        const std::string& text = toBe->second.at(FieldNamed(Fields(), customer_columns::Document));
+        return ReadDocument(CleanText(text)) != known.document;
     }
 
     Key WriteRecord(Database& database, const CustomerRecord* stored, CustomerRecord& record,

@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <unordered_map>
 
 namespace kova::family {
 class Database;
@@ -137,6 +138,10 @@ struct Suggestion {
     bool isStored = false;
 };
 
+/// Rows of a register that are written together, as they will be, by their keys: what stands in one of them
+/// is judged by the others as they will be.
+using RowsToBe = std::unordered_map<Key, Texts>;
+
 /// How people speak of a register.
 struct RegisterName {
     /// In the command line: "clientes".
@@ -194,11 +199,25 @@ public:
     SaveAnswer Save(Database& database, Key key, const Texts& before, const Texts& typed,
                     const Author& author) const;
     /// The same in the transaction that is open; whatever it answers, nothing was written unless it is Done.
-    virtual SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
-                                  const Author& author) const = 0;
+    SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
+                          const Author& author) const
+    {
+        return SaveAmong(database, {}, key, before, typed, author);
+    }
+    /// The same of one of several rows, all of which are written in that transaction, one after the other.
+    virtual SaveAnswer SaveAmong(Database& database, const RowsToBe& rows, Key key, const Texts& before,
+                                 const Texts& typed, const Author& author) const = 0;
 
     /// What SaveWithin would answer now. Writes and locks nothing.
-    virtual SaveAnswer Check(Database& database, Key key, const Texts& before, const Texts& typed) const = 0;
+    SaveAnswer Check(Database& database, Key key, const Texts& before, const Texts& typed) const
+    {
+        return CheckAmong(database, {}, key, before, typed);
+    }
+    /// What SaveAmong would answer now.
+    virtual SaveAnswer CheckAmong(Database& database, const RowsToBe& rows, Key key, const Texts& before,
+                                  const Texts& typed) const = 0;
+    /// Whether what stands in that field of one row can speak against another row.
+    virtual bool IsJudgedAmong(std::size_t) const { return true; }
 
     /// Stored rows that may be about the same as what is typed into the form of a row, by something that the
     /// row did not have in common with them before; by code. Empty for registers that know no such thing.
@@ -227,8 +246,12 @@ public:
     /// Takes back, in the transaction that is open, a write of which the audit has kept these columns: a row
     /// that was new (`before` is empty then) goes, one that was changed gets its former values, both by the
     /// rules of the register. It is kept, with the reason, where it stands otherwise than that write left it.
-    virtual RemoveAnswer TakeBackWithin(Database& database, Key key, const AuditedColumns& before,
-                                        const AuditedColumns& after, const Author& author) const = 0;
+    /// `rows` are those that get former values together with it.
+    virtual RemoveAnswer TakeBackWithin(Database& database, const RowsToBe& rows, Key key,
+                                        const AuditedColumns& before, const AuditedColumns& after,
+                                        const Author& author) const = 0;
+    /// The row as it is, but for those columns; nothing where there is none, or they are not such columns.
+    virtual std::optional<Texts> Former(Database& database, Key key, const AuditedColumns& columns) const = 0;
 
     /// Whether its rows can be inactive.
     virtual bool HasInactive() const = 0;

@@ -28,6 +28,23 @@ template <class Record> struct Locked : Record {
     static constexpr bool LocksRow = true;
 };
 
+/// Where a record is judged: what is stored, and the rows that are written together with it.
+struct Among {
+    Among(Database& of) : Among(of, None()) { }
+    Among(Database& of, const RowsToBe& toBe) : database(of), rows(toBe) { }
+    operator Database&() const { return database; }
+
+    Database& database;
+    const RowsToBe& rows;
+
+private:
+    static const RowsToBe& None()
+    {
+        static const RowsToBe none;
+        return none;
+    }
+};
+
 /// All rows of a table of few. Fails with a DatabaseFailure.
 template <class Row> std::vector<Row> AllOf(Database& database)
 {
@@ -77,16 +94,17 @@ public:
         return form_.Tidy(field, before, typed);
     }
 
-    SaveAnswer SaveWithin(Database& database, Key key, const Texts& before, const Texts& typed,
-                          const Author& author) const override
+    SaveAnswer SaveAmong(Database& database, const RowsToBe& rows, Key key, const Texts& before,
+                         const Texts& typed, const Author& author) const override
     {
         LockImports(database);
-        return Answer<Locked<Record>>(database, key, before, typed, &author);
+        return Answer<Locked<Record>>({database, rows}, key, before, typed, &author);
     }
 
-    SaveAnswer Check(Database& database, Key key, const Texts& before, const Texts& typed) const override
+    SaveAnswer CheckAmong(Database& database, const RowsToBe& rows, Key key, const Texts& before,
+                          const Texts& typed) const override
     {
-        return Answer<Record>(database, key, before, typed, nullptr);
+        return Answer<Record>({database, rows}, key, before, typed, nullptr);
     }
 
     RemoveAnswer RemoveWithin(Database& database, Key key, const Author& author) const override
@@ -105,8 +123,9 @@ public:
         return {};
     }
 
-    RemoveAnswer TakeBackWithin(Database& database, Key key, const AuditedColumns& before,
-                                const AuditedColumns& after, const Author& author) const override
+    RemoveAnswer TakeBackWithin(Database& database, const RowsToBe& rows, Key key,
+                                const AuditedColumns& before, const AuditedColumns& after,
+                                const Author& author) const override
     {
         LockImports(database);
         const auto stored = FindRow<Locked<Record>>(database, key);
@@ -118,7 +137,16 @@ public:
             return RemoveWithin(database, key, author);
         if (std::string missing = MissingTarget(database, Record::Table, before, after); !missing.empty())
             return {RemoveAnswer::Outcome::Kept, std::move(missing)};
-        return PutBack(database, *stored, before, author);
+        return PutBack({database, rows}, *stored, before, author);
+    }
+
+    std::optional<Texts> Former(Database& database, Key key, const AuditedColumns& columns) const override
+    {
+        auto record = FindRow<Record>(database, key);
+        if (!record || !TakeColumns(columns, *record))
+            return std::nullopt;
+        LoadFormer(database, *record);
+        return TextsOf(*record);
     }
 
     void Judge(Database& database, const std::function<void(const JudgedField&)>& tell) const override
@@ -170,7 +198,7 @@ protected:
     }
     /// What speaks against a record beyond its single fields; `stored` is missing for a new one. Fills in
     /// what follows from the fields. A field that could not be read is refused already.
-    virtual void CheckRecord(Database&, const Record* stored, Record& record, Refusals&) const = 0;
+    virtual void CheckRecord(const Among&, const Record* stored, Record& record, Refusals&) const = 0;
     /// Writes a record that is good, with its line in the audit. Answers its key.
     virtual Key WriteRecord(Database& database, const Record* stored, Record& record,
                             const Author& author) const
@@ -235,31 +263,47 @@ protected:
         return false;
     }
 
-    std::vector<Record> AllRows(Database& database) const
+    /// Those that are written together as they will be, as far as their fields tell.
+    std::vector<Record> AllRows(const Among& among) const
     {
         std::vector<Record> records;
-        SelectRows<Record>(database, [&](const Record& record) { records.push_back(record); });
-        LoadShown(database, records);
+        SelectRows<Record>(among, [&](const Record& record) { records.push_back(record); });
+        LoadShown(among, records);
+        for (Record& record : records) {
+            if (const auto toBe = among.rows.find(KeyIn(record)); toBe != among.rows.end())
+                Fill(record, toBe->second);
+        }
         return records;
+    }
+
+    /// What cannot be read is told where the row itself is judged.
+    void Fill(Record& record, const Texts& texts) const
+    {
+        for (std::size_t at = 1; at < texts.size(); ++at) {
+            const std::string text = CleanText(texts[at]);
+            columns_[at]->clear(record);
+            if (!text.empty())
+                columns_[at]->read(text, record);
+        }
     }
 
     /// Whether a row other than the record has the same `trait` although the record, as it is stored, has
     /// not.
     template <class Trait>
-    bool IsTaken(Database& database, const Record* stored, const Record& record, Trait trait) const
+    bool IsTaken(const Among& among, const Record* stored, const Record& record, Trait trait) const
     {
         const auto sought = trait(record);
         if (stored && trait(*stored) == sought)
             return false;
-        return std::ranges::any_of(AllRows(database), [&](const Record& other) {
+        return std::ranges::any_of(AllRows(among), [&](const Record& other) {
             return KeyIn(other) != KeyIn(record) && trait(other) == sought;
         });
     }
 
     /// Whether the record is the last active one, as it is stored.
-    bool IsLastActive(Database& database, const Record& record) const
+    bool IsLastActive(const Among& among, const Record& record) const
     {
-        return IsActive(record) && std::ranges::none_of(AllRows(database), [&](const Record& other) {
+        return IsActive(record) && std::ranges::none_of(AllRows(among), [&](const Record& other) {
                    return IsActive(other) && KeyIn(other) != KeyIn(record);
                });
     }
@@ -291,29 +335,29 @@ private:
 
     /// Without an author nothing is written.
     template <class Row>
-    SaveAnswer Answer(Database& database, Key key, const Texts& before, const Texts& typed,
+    SaveAnswer Answer(const Among& among, Key key, const Texts& before, const Texts& typed,
                       const Author* author) const
     {
         if (typed.size() != Fields().size() || (key != 0 && before.size() != Fields().size()))
             throw Failure(FailureNumber::InvalidArgument);
         if (key == 0)
-            return Write(database, nullptr, form_.Comparable(New()), form_.Comparable(typed), author);
-        const auto stored = FindRow<Row>(database, key);
+            return Write(among, nullptr, form_.Comparable(New()), form_.Comparable(typed), author);
+        const auto stored = FindRow<Row>(among, key);
         if (!stored)
             return {.outcome = SaveAnswer::Outcome::Gone, .key = key};
         const Texts now = form_.Comparable(TextsOf(*stored));
         const MergedTexts merged =
             MergeTexts(Fields(), {form_.Comparable(before), now, form_.Comparable(typed)},
-                       [&] { return FindAuditLines(database, Record::Table, key, LinesToLookAt); });
+                       [&] { return FindAuditLines(among, Record::Table, key, LinesToLookAt); });
         if (!merged.clashes.empty())
             return {.outcome = SaveAnswer::Outcome::Refused,
                     .key = key,
                     .refused = merged.clashes,
                     .clash = merged.text};
-        return Write(database, &*stored, now, merged.wanted, author);
+        return Write(among, &*stored, now, merged.wanted, author);
     }
 
-    SaveAnswer Write(Database& database, const Record* stored, const Texts& now, const Texts& wanted,
+    SaveAnswer Write(const Among& among, const Record* stored, const Texts& now, const Texts& wanted,
                      const Author* author) const
     {
         Record record = stored ? *stored : Record();
@@ -326,14 +370,14 @@ private:
             if (wanted[at] != now[at])
                 answer.changed.push_back({at, now[at], wanted[at]});
         }
-        CheckRecord(database, stored, record, refusals);
+        CheckRecord(among, stored, record, refusals);
         if (!refusals.IsEmpty())
             return {
                 .outcome = SaveAnswer::Outcome::Refused, .key = answer.key, .refused = refusals.InOrder()};
         if (author && !(stored && IsSame(*stored, record)))
-            answer.key = WriteRecord(database, stored, record, *author);
+            answer.key = WriteRecord(among, stored, record, *author);
         if (author && stored && IsActive(*stored) && !IsActive(record) && *BookedBy())
-            answer.booked = BookedSince(database, BookedBy(), answer.key, author->moment);
+            answer.booked = BookedSince(among, BookedBy(), answer.key, author->moment);
         return answer;
     }
 
@@ -347,15 +391,15 @@ private:
                 {KeyIn(record), refused.field, form_.Written(refused.field, record), std::move(refused.why)});
     }
 
-    RemoveAnswer PutBack(Database& database, const Record& stored, const AuditedColumns& before,
+    RemoveAnswer PutBack(const Among& among, const Record& stored, const AuditedColumns& before,
                          const Author& author) const
     {
         Record record = stored;
         if (!TakeColumns(before, record))
             return {RemoveAnswer::Outcome::Kept, StandsOtherwise};
-        LoadFormer(database, record);
+        LoadFormer(among, record);
         Refusals refusals(Fields());
-        CheckRecord(database, &stored, record, refusals);
+        CheckRecord(among, &stored, record, refusals);
         std::string why;
         for (const RefusedField& refused : refusals.InOrder())
             why.append(why.empty() ? "" : " ")
@@ -364,7 +408,7 @@ private:
                 .append(refused.why);
         if (!why.empty())
             return {RemoveAnswer::Outcome::Kept, "O que havia antes não cabe mais. " + why};
-        WriteRecord(database, &stored, record, author);
+        WriteRecord(among, &stored, record, author);
         return {};
     }
 

@@ -22,13 +22,13 @@ public:
     }
 
 private:
-    void CheckRecord(Database& database, const ServiceTypeRow* stored, ServiceTypeRow& record,
+    void CheckRecord(const Among& among, const ServiceTypeRow* stored, ServiceTypeRow& record,
                      Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
-        if (IsTaken(database, stored, record, [](const ServiceTypeRow& row) { return row.nomeDeBusca; }))
+        if (IsTaken(among, stored, record, [](const ServiceTypeRow& row) { return FoldText(row.nome); }))
             refusals.Add(column::Name, "já há um tipo de serviço com este nome.");
-        if (stored && !IsActive(record) && IsLastActive(database, *stored))
+        if (stored && !IsActive(record) && IsLastActive(among, *stored))
             refusals.Add(column::Situation, "a agenda precisa de ao menos um tipo de serviço ativo.");
     }
 
@@ -81,15 +81,15 @@ private:
             record.typeName = names[record.numeroDoTipo];
     }
 
-    void CheckRecord(Database& database, const ServiceRecord* stored, ServiceRecord& record,
+    void CheckRecord(const Among& among, const ServiceRecord* stored, ServiceRecord& record,
                      Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
-        CheckType(database, stored, record, refusals);
+        CheckType(among, stored, record, refusals);
         const auto trait = [](const ServiceRecord& row) {
-            return std::pair(row.numeroDoTipo, row.nomeDeBusca);
+            return std::pair(row.numeroDoTipo, FoldText(row.nome));
         };
-        if (IsTaken(database, stored, record, trait))
+        if (IsTaken(among, stored, record, trait))
             refusals.Add(column::Name, "já há um serviço deste tipo com este nome.");
     }
 
@@ -120,16 +120,16 @@ public:
     }
 
 private:
-    void CheckRecord(Database& database, const EmployeeRow* stored, EmployeeRow& record,
+    void CheckRecord(const Among& among, const EmployeeRow* stored, EmployeeRow& record,
                      Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
         const auto trait = [](const EmployeeRow& row) {
-            return std::pair(FoldText(row.apelido), row.nomeDeBusca);
+            return std::pair(FoldText(row.apelido), FoldText(row.nome));
         };
-        if (IsTaken(database, stored, record, trait))
+        if (IsTaken(among, stored, record, trait))
             refusals.Add(column::Nickname, "já há um(a) funcionário(a) com este apelido e este nome.");
-        if (stored && !IsActive(record) && IsLastActive(database, *stored))
+        if (stored && !IsActive(record) && IsLastActive(among, *stored))
             refusals.Add(column::Situation, "a agenda precisa de ao menos um(a) funcionário(a) ativo(a).");
     }
 
@@ -150,11 +150,11 @@ public:
     }
 
 private:
-    void CheckRecord(Database& database, const SpeciesRow* stored, SpeciesRow& record,
+    void CheckRecord(const Among& among, const SpeciesRow* stored, SpeciesRow& record,
                      Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
-        if (IsTaken(database, stored, record, [](const SpeciesRow& row) { return row.nomeDeBusca; }))
+        if (IsTaken(among, stored, record, [](const SpeciesRow& row) { return FoldText(row.nome); }))
             refusals.Add(column::Name, "já há uma espécie com este nome.");
     }
 };
@@ -185,16 +185,16 @@ private:
             record.species = names[record.codigoDaEspecie];
     }
 
-    void CheckRecord(Database& database, const BreedRecord* stored, BreedRecord& record,
+    void CheckRecord(const Among& among, const BreedRecord* stored, BreedRecord& record,
                      Refusals& refusals) const override
     {
         record.nomeDeBusca = FoldText(record.nome);
         if (!stored || stored->species != record.species)
-            FindSpecies(database, record, refusals);
+            FindSpecies(among, record, refusals);
         const auto trait = [](const BreedRecord& row) {
-            return std::pair(row.codigoDaEspecie, row.nomeDeBusca);
+            return std::pair(FoldText(row.species), FoldText(row.nome));
         };
-        if (IsTaken(database, stored, record, trait))
+        if (IsTaken(among, stored, record, trait))
             refusals.Add(column::Name, "já há uma raça desta espécie com este nome.");
     }
 
@@ -242,11 +242,11 @@ private:
     static constexpr std::size_t DayAndMonth = 5;
 
     /// Different holidays can fall on one day.
-    void CheckRecord(Database& database, const HolidayRow* stored, HolidayRow& record,
+    void CheckRecord(const Among& among, const HolidayRow* stored, HolidayRow& record,
                      Refusals& refusals) const override
     {
         const auto trait = [](const HolidayRow& row) { return WriteDay(row) + " " + FoldText(row.nome); };
-        if (IsTaken(database, stored, record, trait))
+        if (IsTaken(among, stored, record, trait))
             refusals.Add(column::Day, "este feriado já está cadastrado.");
     }
 };
@@ -260,10 +260,10 @@ public:
     }
 
 private:
-    void CheckRecord(Database& database, const CompanyRow* stored, CompanyRow&,
+    void CheckRecord(const Among& among, const CompanyRow* stored, CompanyRow&,
                      Refusals& refusals) const override
     {
-        if (!stored && !AllRows(database).empty())
+        if (!stored && !AllRows(among).empty())
             refusals.Add(0, "a empresa já está cadastrada.");
     }
 

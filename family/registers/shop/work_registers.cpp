@@ -68,7 +68,7 @@ template <class Record> class WeekRegister : public RegisterOf<Record> {
 protected:
     using RegisterOf<Record>::RegisterOf;
 
-    void CheckHours(Database& database, const Record* stored, const Record& record, Refusals& refusals) const
+    void CheckHours(const Among& among, const Record* stored, const Record& record, Refusals& refusals) const
     {
         if (record.diaDaSemana == 0 || record.horaInicial.empty() || record.horaFinal.empty())
             return;
@@ -76,7 +76,7 @@ protected:
             return refusals.Add(column::UntilTime, "deve ser depois da hora inicial.");
         if (stored && AreOfOneDay(*stored, record) && AreSame(*stored, record))
             return;
-        for (const Record& other : this->AllRows(database)) {
+        for (const Record& other : this->AllRows(among)) {
             if (this->KeyIn(other) == this->KeyIn(record) || !AreOfOneDay(other, record))
                 continue;
             if (AreSame(other, record))
@@ -110,10 +110,10 @@ public:
     }
 
 private:
-    void CheckRecord(Database& database, const OpeningHoursRow* stored, OpeningHoursRow& record,
+    void CheckRecord(const Among& among, const OpeningHoursRow* stored, OpeningHoursRow& record,
                      Refusals& refusals) const override
     {
-        CheckHours(database, stored, record, refusals);
+        CheckHours(among, stored, record, refusals);
     }
 
     std::string WhyKept(Database& database, const OpeningHoursRow&) const override
@@ -153,12 +153,11 @@ private:
             record.nickname = nicknames[record.codigoDoFuncionario];
     }
 
-    void CheckRecord(Database& database, const EmployeeHoursRecord* stored, EmployeeHoursRecord& record,
+    void CheckRecord(const Among& among, const EmployeeHoursRecord* stored, EmployeeHoursRecord& record,
                      Refusals& refusals) const override
     {
-        CheckEmployee(database, stored ? stored->codigoDoFuncionario : 0, record.codigoDoFuncionario,
-                      refusals);
-        CheckHours(database, stored, record, refusals);
+        CheckEmployee(among, stored ? stored->codigoDoFuncionario : 0, record.codigoDoFuncionario, refusals);
+        CheckHours(among, stored, record, refusals);
     }
 
     /// Two employees may have one nickname.
@@ -239,10 +238,10 @@ private:
             record.nickname = nicknames[record.codigoDoFuncionario.ValueOr(0)];
     }
 
-    void CheckRecord(Database& database, const AbsenceRecord* stored, AbsenceRecord& record,
+    void CheckRecord(const Among& among, const AbsenceRecord* stored, AbsenceRecord& record,
                      Refusals& refusals) const override
     {
-        CheckEmployee(database, stored ? stored->codigoDoFuncionario.ValueOr(0) : 0,
+        CheckEmployee(among, stored ? stored->codigoDoFuncionario.ValueOr(0) : 0,
                       record.codigoDoFuncionario.ValueOr(0), refusals);
         if (record.dataInicial.empty() || record.dataFinal.empty())
             return;

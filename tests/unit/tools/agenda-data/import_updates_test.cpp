@@ -184,7 +184,9 @@ TEST_F(ImportUpdates, TellWhoHasTheCodeOfACustomerThatHasBecomeOneWithAnother)
     EXPECT_EQ(Update("animais", "Código do cliente;Nome;Sexo;Espécie;Porte\n11;Bidu;Macho;Canina;Médio\n"),
               1);
     EXPECT_EQ(Error(), "linha 2: Código do cliente " + merged + rest);
-    EXPECT_EQ(Update("animais", "Código;Código do cliente\n51;11\n"), 1);
+    EXPECT_EQ(
+        Update("animais", "Código;Código do cliente;Nome;Sexo;Espécie;Porte\n51;11;Leão;M;Canina;Gigante\n"),
+        1);
     EXPECT_EQ(Error(), "linha 2: Código do cliente " + merged + rest);
     EXPECT_EQ(Import("agendamentos",
                      "Data inicial;Hora inicial;Hora final;Código do cliente;Código do animal;"
@@ -195,6 +197,33 @@ TEST_F(ImportUpdates, TellWhoHasTheCodeOfACustomerThatHasBecomeOneWithAnother)
     ASSERT_EQ(Import("clientes", customers, {"--skip-existing"}), 0) << Error();
     EXPECT_EQ(Answer(), "Arquivo lido em UTF-8.\n0 linhas importadas; 2 linhas já estavam no banco.\n");
     EXPECT_EQ(Ask("select cast(codigo as text) from cliente"), "10");
+}
+
+TEST_F(ImportUpdates, SwapWhatMayStandOnlyOnce)
+{
+    ImportShop();
+    ASSERT_EQ(Import("especies", "Nome\nFelina\n"), 0) << Error();
+    const std::string species = Ask("select codigo || nome || nome_de_busca from especie order by codigo");
+    ASSERT_EQ(Update("especies", "Código;Nome\n1;Felina\n2;Canina\n"), 0) << Error();
+    EXPECT_EQ(Ask("select codigo || nome || nome_de_busca from especie order by codigo"),
+              "1Felinafelina,2Caninacanina");
+    ASSERT_EQ(Run({"undo-import", Database()}), 0) << Error();
+    EXPECT_EQ(Ask("select codigo || nome || nome_de_busca from especie order by codigo"), species);
+    ASSERT_EQ(Import("clientes", "Código;Nome;Documento\n12;Ana;529.982.247-25\n"), 0) << Error();
+    ASSERT_EQ(
+        Update("clientes", "Código;Nome;Documento\n10;José Peçanha;529.982.247-25\n12;Ana;123.456.789-09\n"),
+        0)
+        << Error();
+    EXPECT_EQ(Ask("select codigo || ' ' || documento from cliente order by codigo"),
+              "10 52998224725,11 11222333000181,12 12345678909");
+    ASSERT_EQ(Run({"undo-import", Database()}), 0) << Error();
+    EXPECT_EQ(Ask("select codigo || ' ' || documento from cliente order by codigo"),
+              "10 12345678909,11 11222333000181,12 52998224725");
+    EXPECT_EQ(Update("especies", "Código;Nome\n1;Ave\n2;AVE\n"), 1);
+    EXPECT_EQ(Error(),
+              "linha 2: Nome \"Ave\": já há uma espécie com este nome.\n"
+              "linha 3: Nome \"AVE\": já há uma espécie com este nome.\n"
+              "2 erros em 2 linhas; nada foi importado.\n");
 }
 
 TEST_F(ImportUpdates, AreForTheShopsRegistersOnlyAndNotBothAtOnce)

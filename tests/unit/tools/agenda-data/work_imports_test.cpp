@@ -2,6 +2,8 @@
 
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
+#include "agenda/contracts/date_time.hpp"
+
 namespace kova::data::test {
 
 class WorkImports : public ImportTest {
@@ -111,6 +113,42 @@ TEST_F(WorkImports, PutABreakIntoADayByOneLineThatChangesAndOneThatIsNew)
                            " cruzam."),
               std::string::npos)
         << Error();
+}
+
+TEST_F(WorkImports, JudgeHoursAsTheyStandAfterTheFile)
+{
+    const std::string header = "Código;Código do funcionário;Dia da semana;Hora inicial;Hora final\n";
+    const std::string hours = "select codigo || ' ' || hora_inicial || '-' || hora_final"
+                              " from horario_do_funcionario order by codigo";
+    ASSERT_EQ(Import("horarios", header + ";1;Sábado;08:00;12:00\n;1;Sábado;13:00;18:00\n"), 0) << Error();
+    ASSERT_EQ(Import("horarios", header + "1;1;Sábado;13:00;18:00\n2;1;Sábado;08:00;12:00\n", {"--update"}),
+              0)
+        << Error();
+    EXPECT_EQ(Ask(hours), "1 13:00-18:00,2 08:00-12:00");
+    ASSERT_EQ(Run({"undo-import", Database()}), 0) << Error();
+    EXPECT_EQ(Ask(hours), "1 08:00-12:00,2 13:00-18:00");
+    EXPECT_EQ(Import("horarios", header + "1;1;Sábado;08:00;13:30\n2;1;Sábado;13:00;18:00\n", {"--update"}),
+              1);
+    EXPECT_NE(
+        Error().find("linha 2: Hora inicial \"08:00\": há outro horário nesse dia, das 13:00 às 18:00, e os"
+                     " dois se cruzam."),
+        std::string::npos)
+        << Error();
+    EXPECT_EQ(Ask(hours), "1 08:00-12:00,2 13:00-18:00");
+}
+
+TEST_F(WorkImports, JudgeANewLineByTheRowsThatTheFileChangesFurtherOn)
+{
+    const std::string header = "Código;Código do funcionário;Dia da semana;Hora inicial;Hora final\n";
+    ASSERT_EQ(Import("horarios", header + ";1;Sábado;08:00;12:00\n"), 0) << Error();
+    std::string content = header + ";1;Sábado;09:00;12:00\n";
+    for (int minute = 0; minute < 600; ++minute)
+        content += ";2;Domingo;" + FormatTime({minute / 60, minute % 60, 0}) + ";"
+            + FormatTime({(minute + 1) / 60, (minute + 1) % 60, 0}) + "\n";
+    EXPECT_EQ(Import("horarios", content + "1;1;Sábado;13:00;18:00\n", {"--update"}), 0) << Error();
+    EXPECT_EQ(Ask("select hora_inicial from horario_do_funcionario where codigo_do_funcionario = 1"
+                  " order by hora_inicial"),
+              "09:00,13:00");
 }
 
 TEST_F(WorkImports, LeaveOutWhatIsThereAlready)
