@@ -24,6 +24,10 @@ using Outcome = AnonymiseAnswer::Outcome;
 /// A customer's values of `situacao`, and an animal's.
 constexpr int DeletedCustomer = 4, InactiveAnimal = 2;
 
+struct HeldCustomer : CustomerRow {
+    static constexpr bool LocksRow = true;
+};
+
 struct ChannelOfPerson : ChannelRow {
     static constexpr const char* FoundBy = "codigo_do_cliente";
 };
@@ -284,6 +288,8 @@ AnonymiseAnswer WriteAll(Database& database, const AnonymiseRequest& request, co
         return answer;
     WriteSafely(database, [&] {
         LockImports(database);
+        // Who books for the customer now is waited for, and counts.
+        FindByKey<HeldCustomer>(database, request.code);
         answer = anonymiser.Look(author.moment, {});
         if (answer.IsDone())
             anonymiser.Write(answer, author);

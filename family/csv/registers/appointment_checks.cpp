@@ -1,6 +1,7 @@
 #include "family/csv/registers/appointment_checks.hpp"
 
 #include "family/business/merged_row_text.hpp"
+#include "family/csv/import_of.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/people_rows.hpp"
@@ -13,7 +14,6 @@ namespace kova::family::csv {
 namespace {
 
 using family::BookedAnimal;
-using family::BookedCustomer;
 using family::BookedEmployee;
 using family::BookedService;
 using family::SelectRows;
@@ -64,8 +64,9 @@ void AppointmentChecks::LookUp(std::span<const AppointmentRecord> records)
     }
     customers_.clear();
     animals_.clear();
-    SelectWhere<BookedCustomer>(database_, customers,
-                                [this](const BookedCustomer& row) { customers_.insert(row.code); });
+    using KnownCustomer = CodeOf<family::CustomerRow>;
+    SelectWhere<KnownCustomer>(database_, customers,
+                               [this](const KnownCustomer& known) { customers_.insert(known.code); });
     SelectWhere<BookedAnimal>(database_, animals,
                               [this](const BookedAnimal& row) { animals_[row.code] = row.customer; });
 }

@@ -135,6 +135,7 @@ Dialect Postgresql(const char* moreSettings)
         .beginOfSchemaChange = BeginOfSchemaChangeOnServer,
         .beginOfSnapshot = "begin isolation level repeatable read read only",
         .lockRow = " for no key update",
+        .shareRow = " for share",
         .position = "strpos",
         .countChanges = CountByTriggerFunction,
         .countVersionTables = "select count(to_regclass('versao_do_esquema'))",
@@ -169,6 +170,7 @@ const Dialect& SqliteDialect()
         .beginOfSnapshot = "begin",
         // Nobody else writes while such a transaction is open.
         .lockRow = "",
+        .shareRow = "",
         .position = "instr",
         .countChanges = CountByTriggers,
         .countVersionTables =

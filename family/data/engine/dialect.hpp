@@ -27,6 +27,8 @@ struct Dialect {
     /// Appended to a selection inside a transaction that writes: nobody else may change or lock the rows
     /// found before it ends. A selection of several tables locks the rows of all of them.
     std::string lockRow;
+    /// The same, but that others may hold the rows in this way too: nobody may change or remove them.
+    std::string shareRow;
     /// The function that tells at which character a text holds another, from 1.
     std::string position;
     /// The statements that make the engine add to the row of contador_de_alteracoes that bears the table's

@@ -15,7 +15,7 @@ public:
         this->FetchColumns();
         TakeFrom(this->statement_, key_, "chave");
         this->Prepare("select " + this->ColumnNames() + " from " + Row::Table + " where " + this->KeyColumn()
-                      + " = :chave" + (LocksRow() ? database.GetDialect().lockRow : ""));
+                      + " = :chave" + Lock(database.GetDialect()));
     }
 
     /// Walks to the end, so that no read stays open behind it.
@@ -30,18 +30,22 @@ public:
     }
 
 private:
-    static constexpr bool LocksRow()
+    static std::string Lock(const Dialect& dialect)
     {
         if constexpr (requires { Row::LocksRow; })
-            return Row::LocksRow;
-        return false;
+            return dialect.lockRow;
+        else if constexpr (requires { Row::SharesRow; })
+            return dialect.shareRow;
+        else
+            return {};
     }
 
     Key key_ = 0;
 };
 
 /// The row with that key; nothing where there is none. A row struct with LocksRow locks what it finds until
-/// the end of the transaction that is open. Fails as Database::With.
+/// the end of the transaction that is open; one with SharesRow holds it, as others may. Fails as
+/// Database::With.
 template <class Row> std::optional<Row> FindByKey(Database& database, Key key)
 {
     return database.With<ReadRow<Row>>([&](ReadRow<Row>& reading) { return reading.Run(key); });

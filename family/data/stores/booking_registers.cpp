@@ -64,7 +64,7 @@ public:
         TakeFrom(statement_, keys_.serviceType, "tipo");
         TakeFrom(statement_, keys_.service, "servico");
         TakeFrom(statement_, keys_.employee, "funcionario");
-        statement_.prepare(StatementWith(columns, database.GetDialect().lockRow));
+        statement_.prepare(StatementWith(columns, database.GetDialect()));
         statement_.define_and_bind();
     }
 
@@ -80,14 +80,15 @@ public:
     }
 
 private:
-    /// An employee cannot be locked in the selection itself, where there may be none.
-    static std::string StatementWith(const std::string& columns, const std::string& lockRow)
+    /// Rows cannot be locked in the selection itself, where there may be none.
+    static std::string StatementWith(const std::string& columns, const Dialect& dialect)
     {
-        return "with f as (select * from funcionario where codigo = :funcionario" + lockRow + ") select ("
+        return "with f as (select * from funcionario where codigo = :funcionario" + dialect.lockRow
+            + "), c as (select * from cliente where codigo = :cliente" + dialect.shareRow + ") select ("
             + ChangeCount::Selection({HolidayCalendar::Table}) + "), ("
             + ChangeCount::Selection(NamesOfWorkTables()) + ")" + columns
             + " from (select 1 as um) as sempre"
-              " left join cliente c on c.codigo = :cliente"
+              " left join c on 1 = 1"
               " left join animal n on n.codigo = :animal"
               " left join tipo_de_servico t on t.numero = :tipo"
               " left join servico s on s.codigo = :servico"

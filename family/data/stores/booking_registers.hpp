@@ -11,6 +11,9 @@ class Database;
 
 struct BookedCustomer {
     static constexpr const char* Table = "cliente";
+    /// Whoever books for a customer holds the row, so that nobody removes or empties it before the booking is
+    /// there, or waits for whoever does so, and sees it then.
+    static constexpr bool SharesRow = true;
     Key code = 0;
     /// 1 active, 2 inactive, 3 blocked, 4 deleted.
     int status = 0;
@@ -102,7 +105,8 @@ struct BookingRegisters {
 };
 
 /// Reads them all at once, since a server that lies far away answers one question as soon as five. Locks the
-/// employee, as FindByKey does, in the transaction that is open. Fails as Database::With.
+/// employee and holds the customer, as FindByKey does, in the transaction that is open. Fails as
+/// Database::With.
 BookingRegisters FindBookingRegisters(Database& database, const BookingKeys& keys);
 
 } // namespace kova::family

@@ -2,9 +2,13 @@
 
 #include "tests/unit/family/server_fixture.hpp"
 
+#include "family/business/appointments/appointment_writes.hpp"
+#include "family/data/engine/write_transaction.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/stores/booking_registers.hpp"
 #include "family/privacy/anonymise.hpp"
 
+#include <atomic>
 #include <thread>
 
 namespace kova::family::test {
@@ -19,6 +23,25 @@ std::string LineNaming(const char* name)
                        " ('2026-11-20 09:00:00', '1 - Ana', 'animal', 77, 'exclusao',"
                        " '{\"codigo_do_cliente\":10,\"nome\":\"")
         + name + "\"}')";
+}
+
+using privacy::AnonymiseAnswer;
+
+/// Booked, and still to come then.
+constexpr const char* BookingForCustomer10 =
+    "insert into agendamento (data_inicial, hora_inicial, data_final, hora_final, tipo_do_agendamento,"
+    " codigo_do_cliente, codigo_do_animal, numero_do_tipo_de_servico, codigo_do_servico,"
+    " codigo_do_funcionario, situacao, incluido_em, incluido_por) select '2026-12-02', '09:00', '2026-12-02',"
+    " '10:00', 0, codigo_do_cliente, codigo_do_animal, numero_do_tipo_de_servico, codigo_do_servico,"
+    " codigo_do_funcionario, 1, incluido_em, incluido_por from agendamento where numero = 2";
+
+AppointmentInput BathOfCustomer10()
+{
+    AppointmentInput input = Bath("02/12/2026");
+    input.kind = 0;
+    input.customer = 10;
+    input.animal = 50;
+    return input;
 }
 
 using PostgresqlPrivacy = PostgresqlShop;
@@ -72,6 +95,59 @@ TEST_F(PostgresqlPrivacy, WaitsForADeskThatWritesAnAppointment)
     EXPECT_TRUE(done);
     EXPECT_EQ(shop_.Run("select situacao, observacao from agendamento where numero = 2"),
               std::vector<std::string>{"2|(null)"});
+}
+
+TEST_F(PostgresqlPrivacy, WaitsForABookingOfTheCustomerAndIsRefusedForIt)
+{
+    const auto desk = OpenDatabase(shop_.Address());
+    AnonymiseAnswer answer;
+    std::string failure;
+    {
+        WriteTransaction booking(*desk);
+        ASSERT_TRUE(FindBookingRegisters(*desk, {.customer = 10, .employee = 2}).customer->IsUsable());
+        std::atomic<bool> over = false;
+        const std::jthread anonymising([&] {
+            failure = FailureOf([&] { answer = privacy::Anonymise(shop_.Address(), {10, {}}, Later, {}); });
+            over = true;
+        });
+        while (!over && WaitingForALock() == 0)
+            std::this_thread::yield();
+        desk->Session() << BookingForCustomer10;
+        booking.Commit();
+    }
+    EXPECT_EQ(failure, "");
+    EXPECT_EQ(answer.outcome, AnonymiseAnswer::Outcome::Refused);
+    EXPECT_NE(answer.text.find("ainda tem agendamentos marcados"), std::string::npos) << answer.text;
+    EXPECT_EQ(shop_.Run("select situacao from cliente where codigo = 10").front(), "1");
+}
+
+TEST_F(PostgresqlPrivacy, LetsNobodyBookForTheCustomerWhoIsBecomingAnonymous)
+{
+    const auto another = OpenDatabase(shop_.Address()), desk = OpenDatabase(shop_.Address());
+    another->Session() << "begin";
+    another->Session() << "select numero from agendamento where numero = 2 for update";
+    WriteAnswer booked;
+    std::string failure;
+    {
+        std::atomic<bool> over = false;
+        const std::jthread anonymising([&] {
+            failure = FailureOf([&] { privacy::Anonymise(shop_.Address(), {10, {}}, Later, {}); });
+            over = true;
+        });
+        while (!over && WaitingForALock() < 1)
+            std::this_thread::yield();
+        const std::jthread booking([&] {
+            booked = AddAppointments(*desk, BathOfCustomer10(), Later);
+            over = true;
+        });
+        while (!over && WaitingForALock() < 2)
+            std::this_thread::yield();
+        another->Session() << "commit";
+    }
+    EXPECT_EQ(failure, "");
+    EXPECT_EQ(booked.status, WriteAnswer::Invalid);
+    EXPECT_EQ(booked.text, "O cliente informado não está ativo.");
+    EXPECT_EQ(Booked(), 0);
 }
 
 } // namespace kova::family::test

@@ -3,6 +3,7 @@
 #include "tests/support/postgres_relay.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
+#include "family/business/appointments/appointment_writes.hpp"
 #include "family/data/rows/numbering.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/registers/customers/customer_merge.hpp"
@@ -160,6 +161,40 @@ TEST_F(PostgresqlRegisters, UniteACustomerWithTheAppointmentThatIsJustBeingBooke
     EXPECT_TRUE(answer.IsDone());
     EXPECT_EQ(answer.appointments, 7);
     EXPECT_EQ(shop_.Run("select count(*) from agendamento where codigo_do_cliente = 10").front(), "9");
+}
+
+TEST_F(PostgresqlRegisters, TellWhoBooksForACustomerThatIsJustBecomingOneWithAnother)
+{
+    const auto another = OpenDatabase(shop_.Address()), desk = OpenDatabase(shop_.Address());
+    another->Session().begin();
+    another->Session() << "select numero from agendamento where numero = 3 for update";
+    const auto plan = registers::PlanCustomerMerge(*database_, 10, 11);
+    AppointmentInput input = Bath("01/12/2026");
+    input.kind = 0;
+    input.customer = 11;
+    input.animal = 51;
+    registers::MergeAnswer merged;
+    WriteAnswer booked;
+    std::string failureOfMerge, failureOfBooking;
+    {
+        std::atomic<bool> over = false;
+        const std::jthread merging([&] {
+            failureOfMerge =
+                FailureOf([&] { merged = registers::MergeCustomers(*database_, plan.value(), {}, Lia); });
+            over = true;
+        });
+        while (!over && WaitingForALock() < 1) { }
+        const std::jthread booking([&] {
+            failureOfBooking = FailureOf([&] { booked = AddAppointments(*desk, input, Lia); });
+            over = true;
+        });
+        while (!over && WaitingForALock() < 2) { }
+        another->Session().commit();
+    }
+    EXPECT_EQ(failureOfMerge, "");
+    EXPECT_TRUE(merged.IsDone()) << merged.text;
+    EXPECT_EQ(failureOfBooking, "");
+    EXPECT_EQ(booked.text, "O cliente 11 foi unido ao cliente 10. Use o código 10.");
 }
 
 TEST_F(PostgresqlRegisters, WriteAnAbsenceOfOneAndOfAll)
