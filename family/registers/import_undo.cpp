@@ -20,6 +20,8 @@ namespace {
 
 /// Rows between two looks whether to go on.
 constexpr long long RowsAtOnce = 100;
+/// Rows that are taken back with a few statements.
+constexpr std::size_t MostTogether = 500;
 
 RemoveAnswer Kept(std::string why) { return {RemoveAnswer::Outcome::Kept, std::move(why)}; }
 
@@ -132,14 +134,39 @@ public:
 
     void TakeBack(const ImportedRow& row)
     {
-        const RemoveAnswer answer = Answer(row);
+        const Register* of = row.WasNew() ? RegisterOfTable(row.table) : nullptr;
+        if (of != addedTo_ || added_.size() == MostTogether)
+            TakeAddedBack();
+        addedTo_ = of;
+        if (of != nullptr)
+            added_.push_back(row);
+        else
+            Note(Answer(row), row);
+    }
+
+    /// Those of which TakeBack was told last; to be called behind the last of all.
+    void TakeAddedBack()
+    {
+        std::vector<AddedRow> rows;
+        for (const ImportedRow& row : added_)
+            rows.push_back({row.key, &row.after});
+        if (rows.empty())
+            return;
+        const std::vector<RemoveAnswer> answers = addedTo_->TakeBackAdded(database_, rows, author_);
+        for (std::size_t at = 0; at < added_.size(); ++at)
+            Note(answers.at(at), added_[at]);
+        added_.clear();
+    }
+
+private:
+    void Note(const RemoveAnswer& answer, const ImportedRow& row)
+    {
         if (answer.IsDone())
             ++(row.WasNew() ? undone_.removed : undone_.restored);
         else if (answer.outcome == RemoveAnswer::Outcome::Kept || !row.WasNew())
             undone_.kept.push_back({NameOf(database_, row), WhyKept(answer, row)});
     }
 
-private:
     RemoveAnswer Answer(const ImportedRow& row)
     {
         if (const Register* of = RegisterOfTable(row.table))
@@ -182,6 +209,9 @@ private:
     UndoneImport& undone_;
     const Author& author_;
     std::map<const Register*, RowsToBe> toBe_;
+    /// New rows, one behind the other, of one register.
+    std::vector<ImportedRow> added_;
+    const Register* addedTo_ = nullptr;
 };
 
 UndoneImport Find(Database& database, std::optional<Key> number)
@@ -211,6 +241,7 @@ void TakeAllBack(Database& database, UndoneImport& undone, const Author& author,
         work.Reach(std::min(done, total), total);
         work.RequireGoingOn();
     });
+    undoing.TakeAddedBack();
     work.Reach(total, total);
 }
 

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/utf8.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/data/rows/insert_rows.hpp"
 
 #include <nlohmann/json.hpp>
 
@@ -105,6 +106,17 @@ void AuditRemoval(Database& database, const Author& author, const char* table, K
     AuditRow row = RowOf(author, table, key, audit_operation::Removal);
     row.antes = before.Line();
     Insert(database, row);
+}
+
+void AuditRemovals(Database& database, const Author& author, const char* table,
+                   std::span<const std::pair<Key, AuditValues>> before)
+{
+    std::vector<AuditRow> rows;
+    for (const auto& [key, values] : before) {
+        rows.push_back(RowOf(author, table, key, audit_operation::Removal));
+        rows.back().antes = values.Line();
+    }
+    InsertAll<AuditRow>(database, rows);
 }
 
 void AuditMerging(Database& database, const Author& author, const char* table, Key kept, Key gone,

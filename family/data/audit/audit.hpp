@@ -3,6 +3,7 @@
 #include "family/data/audit/author.hpp"
 #include "family/data/rows/rows.hpp"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -95,6 +96,9 @@ void AuditRemoval(Database& database, const Author& author, const char* table, K
                   const AuditValues& before);
 void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
                       const AuditValues& after);
+/// Many rows of a table that are gone, by their keys.
+void AuditRemovals(Database& database, const Author& author, const char* table,
+                   std::span<const std::pair<Key, AuditValues>> before);
 
 /// Writes a line for a row that goes on in the place of `gone`, with what there is to say of it, and one for
 /// that one, with the key that it goes on under in `unido_a`; in the transaction that is open.

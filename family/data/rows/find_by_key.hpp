@@ -15,7 +15,7 @@ public:
         this->FetchColumns();
         TakeFrom(this->statement_, key_, "chave");
         this->Prepare("select " + this->ColumnNames() + " from " + Row::Table + " where " + this->KeyColumn()
-                      + " = :chave" + Lock(database.GetDialect()));
+                      + " = :chave" + this->Lock(database.GetDialect()));
     }
 
     /// Walks to the end, so that no read stays open behind it.
@@ -30,16 +30,6 @@ public:
     }
 
 private:
-    static std::string Lock(const Dialect& dialect)
-    {
-        if constexpr (requires { Row::LocksRow; })
-            return dialect.lockRow;
-        else if constexpr (requires { Row::SharesRow; })
-            return dialect.shareRow;
-        else
-            return {};
-    }
-
     Key key_ = 0;
 };
 

@@ -42,6 +42,18 @@ protected:
 
     std::string KeyColumn() const { return columns_.front(); }
 
+    /// What a selection ends with whose rows are locked (LocksRow in the row struct), or held (SharesRow),
+    /// until the end of the transaction that is open.
+    static std::string Lock(const Dialect& dialect)
+    {
+        if constexpr (requires { Row::LocksRow; })
+            return dialect.lockRow;
+        else if constexpr (requires { Row::SharesRow; })
+            return dialect.shareRow;
+        else
+            return {};
+    }
+
     /// The columns from the `first` on (0 is the key), each as `write` puts it, with commas between.
     template <class Write> std::string Columns(Write write, std::size_t first = 0) const
     {

@@ -35,7 +35,7 @@ public:
         const std::string key = "+" + this->KeyColumn();
         this->Prepare("select " + this->ColumnNames() + " from " + Row::Table + " where " + SoughtColumn()
                       + " in (" + marks + ") and " + key + " > :apos order by " + key + " limit "
-                      + std::to_string(PageSize));
+                      + std::to_string(PageSize) + this->Lock(database.GetDialect()));
     }
 
     /// At least one value, and ValuesAtOnce at most.
@@ -74,7 +74,7 @@ void SelectGroup(Database& database, const std::vector<Value>& group,
 }
 
 /// The rows that have one of the values in the column that Row is found by; ordered by their key for each of
-/// the groups in which the values are looked for. Fails as Database::With.
+/// the groups in which the values are looked for. Rows are locked as FindByKey does. Fails as Database::With.
 template <class Row, class Value>
 void SelectWhere(Database& database, const std::set<Value>& values,
                  const std::function<void(const Row&)>& visit)

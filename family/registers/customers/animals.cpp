@@ -165,6 +165,7 @@ private:
     }
 
     const char* BookedBy() const override { return "codigo_do_animal"; }
+    bool AreRemovedTogether() const override { return true; }
 };
 
 } // namespace

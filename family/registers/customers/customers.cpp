@@ -132,7 +132,7 @@ private:
         if (!stored)
             return AddCustomer(database, record, record.channels, author);
         if (stored->tiposECanais != record.tiposECanais) {
-            RemoveOwn(database, record.codigo);
+            RemoveOwn(database, std::span(&record.codigo, 1));
             for (ChannelRow channel : record.channels) {
                 channel.codigoDoCliente = record.codigo;
                 InsertNew(database, channel);
@@ -142,10 +142,11 @@ private:
     }
 
     const char* OwnTable() const override { return ChannelRow::Table; }
-    void RemoveOwn(Database& database, Key key) const override
+    void RemoveOwn(Database& database, std::span<const Key> keys) const override
     {
-        DeleteWhere(database, ChannelRow::Table, ChannelOfCustomer::FoundBy, key);
+        DeleteWhere(database, ChannelRow::Table, ChannelOfCustomer::FoundBy, keys);
     }
+    bool AreRemovedTogether() const override { return true; }
     const char* BookedBy() const override { return "codigo_do_cliente"; }
 };
 

@@ -59,6 +59,17 @@ public:
         return record;
     }
 
+    /// Reads what can be read of the texts into the record.
+    void Fill(const Texts& texts, Record& record) const
+    {
+        for (std::size_t at = 1; at < texts.size(); ++at) {
+            const std::string text = CleanText(texts[at]);
+            columns_[at]->clear(record);
+            if (!text.empty())
+                columns_[at]->read(text, record);
+        }
+    }
+
     TidyText Tidy(std::size_t field, const std::string& before, const std::string& typed) const
     {
         const Column<Record>& column = *columns_.at(field);

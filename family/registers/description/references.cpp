@@ -70,6 +70,15 @@ std::string Counted(std::string_view table, long long count)
     return std::to_string(count).append(" ").append(count == 1 ? One(table) : many);
 }
 
+/// "(1, 2, 3)"
+std::string ListOf(std::span<const Key> keys)
+{
+    std::string list;
+    for (const Key key : keys)
+        list.append(list.empty() ? "(" : ", ").append(std::to_string(key));
+    return list + ")";
+}
+
 } // namespace
 
 std::string UsersOf(Database& database, const char* table, Key key, const char* own)
@@ -84,6 +93,28 @@ std::string UsersOf(Database& database, const char* table, Key key, const char* 
             users.append(users.empty() ? "" : ", ").append(Counted(reference.table, count));
     }
     return users;
+}
+
+std::set<Key> UsedAmong(Database& database, const char* table, std::span<const Key> keys, const char* own)
+{
+    std::set<Key> used;
+    for (const Reference& reference : References()) {
+        if (keys.empty() || std::string_view(reference.target) != table
+            || std::string_view(reference.table) == own)
+            continue;
+        const std::string column = reference.column;
+        Guarded(database, [&](soci::session& session) {
+            Key key = 0;
+            soci::statement statement =
+                (session.prepare << "select distinct " + column + " from " + reference.table + " where "
+                         + column + " in " + ListOf(keys),
+                 soci::into(key));
+            statement.execute();
+            while (statement.fetch())
+                used.insert(key);
+        });
+    }
+    return used;
 }
 
 std::string MissingTarget(Database& database, const char* table, const AuditedColumns& former,
@@ -132,6 +163,14 @@ void DeleteWhere(Database& database, const char* table, const std::string& colum
         session << std::string("delete from ") + table + " where " + column + " = :chave",
             soci::use(key, "chave");
     });
+}
+
+void DeleteWhere(Database& database, const char* table, const std::string& column, std::span<const Key> keys)
+{
+    if (!keys.empty())
+        Guarded(database, [&](soci::session& session) {
+            session << std::string("delete from ") + table + " where " + column + " in " + ListOf(keys);
+        });
 }
 
 } // namespace kova::family::registers

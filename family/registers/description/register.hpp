@@ -71,6 +71,12 @@ struct JudgedField {
     std::string text, why;
 };
 
+/// A row that was added, with the columns that the audit has kept of it.
+struct AddedRow {
+    Key key = 0;
+    const AuditedColumns* columns = nullptr;
+};
+
 /// What a removal answers.
 struct RemoveAnswer {
     enum class Outcome { Done, Kept, Gone };
@@ -250,6 +256,9 @@ public:
     virtual RemoveAnswer TakeBackWithin(Database& database, const RowsToBe& rows, Key key,
                                         const AuditedColumns& before, const AuditedColumns& after,
                                         const Author& author) const = 0;
+    /// The same of several rows that were new, one after the other. An answer for each.
+    virtual std::vector<RemoveAnswer> TakeBackAdded(Database& database, std::span<const AddedRow> rows,
+                                                    const Author& author) const = 0;
     /// The row as it is, but for those columns; nothing where there is none, or they are not such columns.
     virtual std::optional<Texts> Former(Database& database, Key key, const AuditedColumns& columns) const = 0;
 

@@ -11,6 +11,7 @@
 #include "family/data/rows/select_where.hpp"
 #include "family/data/rows/update_row.hpp"
 #include "family/data/selections/register_texts.hpp"
+#include "family/registers/description/among.hpp"
 #include "family/registers/description/field_merge.hpp"
 #include "family/registers/description/list_search.hpp"
 #include "family/registers/description/list_texts.hpp"
@@ -28,41 +29,12 @@ template <class Record> struct Locked : Record {
     static constexpr bool LocksRow = true;
 };
 
-/// Where a record is judged: what is stored, and the rows that are written together with it.
-struct Among {
-    Among(Database& of) : Among(of, None()) { }
-    Among(Database& of, const RowsToBe& toBe) : database(of), rows(toBe) { }
-    operator Database&() const { return database; }
-
-    Database& database;
-    const RowsToBe& rows;
-
-private:
-    static const RowsToBe& None()
-    {
-        static const RowsToBe none;
-        return none;
-    }
-};
-
 /// All rows of a table of few. Fails with a DatabaseFailure.
 template <class Row> std::vector<Row> AllOf(Database& database)
 {
     std::vector<Row> rows;
     SelectRows<Row>(database, [&](const Row& row) { rows.push_back(row); });
     return rows;
-}
-
-/// Offers the active ones of the rows that `isMeant` takes, by their names.
-template <class Row, class IsMeant> std::vector<Offer> OfferedNames(std::vector<Row> rows, IsMeant isMeant)
-{
-    std::ranges::sort(rows, {}, &Row::nomeDeBusca);
-    std::vector<Offer> offers;
-    for (const Row& row : rows) {
-        if (row.situacao == 1 && isMeant(row))
-            offers.push_back({row.nome, row.nome});
-    }
-    return offers;
 }
 
 /// A register whose rows are Records: rows of one table with what belongs to them. What is of its own lies in
@@ -117,7 +89,7 @@ public:
             return {RemoveAnswer::Outcome::Kept, std::move(why)};
         if (const std::string users = UsersOf(database, Record::Table, key, OwnTable()); !users.empty())
             return {RemoveAnswer::Outcome::Kept, InUse(users)};
-        RemoveOwn(database, key);
+        RemoveOwn(database, std::span(&key, 1));
         DeleteWhere(database, Record::Table, KeyColumn(), key);
         AuditRemoval(database, author, Record::Table, key, ValuesOf<Record>(*stored));
         return {};
@@ -138,6 +110,17 @@ public:
         if (std::string missing = MissingTarget(database, Record::Table, before, after); !missing.empty())
             return {RemoveAnswer::Outcome::Kept, std::move(missing)};
         return PutBack({database, rows}, *stored, before, author);
+    }
+
+    std::vector<RemoveAnswer> TakeBackAdded(Database& database, std::span<const AddedRow> rows,
+                                            const Author& author) const override
+    {
+        if (AreRemovedTogether())
+            return TakeBackTogether(database, rows, author);
+        std::vector<RemoveAnswer> answers;
+        for (const AddedRow& row : rows)
+            answers.push_back(TakeBackWithin(database, {}, row.key, {}, *row.columns, author));
+        return answers;
     }
 
     std::optional<Texts> Former(Database& database, Key key, const AuditedColumns& columns) const override
@@ -217,7 +200,10 @@ protected:
     virtual std::string WhyKept(Database&, const Record&) const { return {}; }
     /// The table whose rows belong to the register's own and go with them.
     virtual const char* OwnTable() const { return ""; }
-    virtual void RemoveOwn(Database&, Key) const { }
+    virtual void RemoveOwn(Database&, std::span<const Key>) const { }
+    /// Whether rows may be removed with a few statements for many: no row's removal speaks against another's,
+    /// and WhyKept has nothing to say.
+    virtual bool AreRemovedTogether() const { return false; }
     /// The column of an appointment that refers to the register.
     virtual const char* BookedBy() const { return ""; }
     /// What the list is ordered by, before the code.
@@ -271,20 +257,9 @@ protected:
         LoadShown(among, records);
         for (Record& record : records) {
             if (const auto toBe = among.rows.find(KeyIn(record)); toBe != among.rows.end())
-                Fill(record, toBe->second);
+                form_.Fill(toBe->second, record);
         }
         return records;
-    }
-
-    /// What cannot be read is told where the row itself is judged.
-    void Fill(Record& record, const Texts& texts) const
-    {
-        for (std::size_t at = 1; at < texts.size(); ++at) {
-            const std::string text = CleanText(texts[at]);
-            columns_[at]->clear(record);
-            if (!text.empty())
-                columns_[at]->read(text, record);
-        }
     }
 
     /// Whether a row other than the record has the same `trait` although the record, as it is stored, has
@@ -314,6 +289,65 @@ private:
     static constexpr Key LinesToLookAt = 100;
     /// Rows whose own are read together: several of them belong to one.
     static constexpr std::size_t LoadedAtOnce = 200;
+
+    /// By their keys, with what belongs to them.
+    std::unordered_map<Key, Record> LockRows(Database& database, std::span<const AddedRow> rows) const
+    {
+        std::set<Key> keys;
+        for (const AddedRow& row : rows)
+            keys.insert(row.key);
+        std::vector<Record> records;
+        SelectWhere<Locked<Record>>(database, keys,
+                                    [&](const Locked<Record>& record) { records.push_back(record); });
+        Load(database, records);
+        std::unordered_map<Key, Record> found;
+        for (Record& record : records)
+            found.emplace(KeyIn(record), std::move(record));
+        return found;
+    }
+
+    std::vector<RemoveAnswer> TakeBackTogether(Database& database, std::span<const AddedRow> rows,
+                                               const Author& author) const
+    {
+        LockImports(database);
+        const std::unordered_map<Key, Record> stored = LockRows(database, rows);
+        std::vector<Key> going;
+        for (const AddedRow& row : rows) {
+            const auto found = stored.find(row.key);
+            if (found != stored.end() && StandsAs<Record>(found->second, *row.columns))
+                going.push_back(row.key);
+        }
+        const std::set<Key> used = UsedAmong(database, Record::Table, going, OwnTable());
+        std::erase_if(going, [&](Key key) { return used.contains(key); });
+        RemoveOwn(database, going);
+        DeleteWhere(database, Record::Table, KeyColumn(), going);
+        std::vector<std::pair<Key, AuditValues>> before;
+        for (const Key key : going)
+            before.emplace_back(key, ValuesOf<Record>(stored.at(key)));
+        AuditRemovals(database, author, Record::Table, before);
+        return AnswersFor(database, rows, stored, std::set<Key>(going.begin(), going.end()));
+    }
+
+    /// Of rows that were there; those of `gone` are no more.
+    std::vector<RemoveAnswer> AnswersFor(Database& database, std::span<const AddedRow> rows,
+                                         const std::unordered_map<Key, Record>& stored,
+                                         const std::set<Key>& gone) const
+    {
+        std::vector<RemoveAnswer> answers;
+        for (const AddedRow& row : rows) {
+            const auto found = stored.find(row.key);
+            if (found == stored.end())
+                answers.push_back({RemoveAnswer::Outcome::Gone, {}});
+            else if (gone.contains(row.key))
+                answers.push_back({});
+            else if (!StandsAs<Record>(found->second, *row.columns))
+                answers.push_back({RemoveAnswer::Outcome::Kept, StandsOtherwise});
+            else
+                answers.push_back({RemoveAnswer::Outcome::Kept,
+                                   InUse(UsersOf(database, Record::Table, row.key, OwnTable()))});
+        }
+        return answers;
+    }
 
     template <class Row> std::optional<Record> FindRow(Database& database, Key key) const
     {

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QTableWidget>
 
 #include <fstream>
@@ -300,6 +301,23 @@ TEST_F(Importing, IsTakenBackFromTheAnswer)
     EXPECT_EQ(Visible<QPushButton>("desfazer"), nullptr);
     Keys(Qt::Key_Escape);
     EXPECT_EQ(Rows(), (Lines{"Ana Lúcia Prado", "José Antônio Peçanha", "Márcia Lima"}));
+}
+
+TEST_F(Importing, IsNotTakenBackWhereThatIsCancelled)
+{
+    std::string content = "Nome\n";
+    for (int line = 0; line < 3000; ++line)
+        content += "Cliente " + std::to_string(line) + "\n";
+    BringIn(content);
+    Press("desfazer");
+    EXPECT_TRUE(Find<QProgressBar>("progresso").isVisible());
+    Keys(Qt::Key_Escape);
+    EXPECT_EQ(Outcome(), "O trabalho foi interrompido antes do fim; nada foi gravado.");
+    EXPECT_EQ(Stored("select count(*) from cliente"), Lines{"3003"});
+    Press("desfazer");
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return Outcome().find("desfeita") != std::string::npos; }, LongEnough));
+    EXPECT_EQ(Stored("select count(*) from cliente"), Lines{"3"});
 }
 
 TEST_F(Importing, LeavesWhatWasChangedSinceAsItIsWhereThatIsWanted)

@@ -4,9 +4,11 @@
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/business/appointments/appointment_writes.hpp"
+#include "family/data/audit/import_audit.hpp"
 #include "family/data/rows/numbering.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/registers/customers/customer_merge.hpp"
+#include "family/registers/import_undo.hpp"
 #include "family/registers/registers.hpp"
 
 #include <atomic>
@@ -195,6 +197,33 @@ TEST_F(PostgresqlRegisters, TellWhoBooksForACustomerThatIsJustBecomingOneWithAno
     EXPECT_TRUE(merged.IsDone()) << merged.text;
     EXPECT_EQ(failureOfBooking, "");
     EXPECT_EQ(booked.text, "O cliente 11 foi unido ao cliente 10. Use o código 10.");
+}
+
+TEST_F(PostgresqlRegisters, AreTakenBackWithAFewStatementsForManyNewRows)
+{
+    constexpr int Rows = 600;
+    const Register& customers = registers::CustomerRegister();
+    registers::Texts typed = customers.New();
+    typed[FieldNamed(customers.Fields(), "Nome")] = "Ana";
+    typed[FieldNamed(customers.Fields(), "Canais")] = "Celular: (11) 91234-5678";
+    Author importer = Lia;
+    {
+        WriteTransaction importing(*database_);
+        BeginImport(*database_, importer, {"clientes.csv", "UTF-8", "clientes", Rows, Rows, 0});
+        for (int row = 0; row < Rows; ++row)
+            ASSERT_TRUE(customers.SaveWithin(*database_, 0, {}, typed, importer).IsDone());
+        importing.Commit();
+    }
+    const int before = relay_.RoundTrips();
+    const registers::UndoneImport undone =
+        registers::UndoImport(*database_, std::nullopt, registers::ChangedRows::Refuse, Lia, {});
+    EXPECT_EQ(undone.removed, Rows);
+    EXPECT_EQ(shop_.Run("select count(*) from cliente").front(), "2");
+    EXPECT_EQ(shop_.Run("select count(*) from canal_de_comunicacao where codigo_do_cliente > 11").front(),
+              "0");
+    EXPECT_EQ(shop_.Run("select count(*) from auditoria where operacao = 'exclusao'").front(),
+              std::to_string(Rows));
+    EXPECT_LT(relay_.RoundTrips() - before, 100);
 }
 
 TEST_F(PostgresqlRegisters, WriteAnAbsenceOfOneAndOfAll)
