@@ -176,7 +176,7 @@ std::vector<LikelyDouble> DoublesOfAnimal(Database& database, Key key, const Tex
     const bool isAsBefore =
         key != 0 && name == Folded(before.at(nameAt)) && typed.at(ownerAt) == before.at(ownerAt);
     const auto customer = FindCustomer(database, owner);
-    if (isAsBefore || name.empty() || !customer)
+    if (isAsBefore || !customer)
         return {};
     FoundDoubles found(key);
     SelectWhere<AnimalOfCustomer>(

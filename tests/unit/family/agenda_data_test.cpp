@@ -186,7 +186,8 @@ TEST_F(AgendaData, CreatesAShopThatCanBegin)
 {
     EXPECT_EQ(Run({"create", a_, "--company", "Pet Shop Céu", "--user", "Antônia"}), 0);
     EXPECT_EQ(Run({"check", a_}), 0);
-    for (const char* count : {"empresa: 1\n", "usuario: 1\n", "tipo_de_servico: 4\n", "agendamento: 0\n"})
+    for (const char* count :
+         {"empresa: 1\n", "usuario: 1\n", "tipo_de_servico: 4\n", "agendamento: 0\n", "expediente: 6\n"})
         EXPECT_TRUE(Said(count)) << output_.str();
     const auto database = OpenForReading(a_);
     std::string company, user, type;

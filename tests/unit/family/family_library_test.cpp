@@ -65,6 +65,16 @@ TEST_F(FamilyLibrary, KeepsTheConnectionBetweenComponentsAndClosesItWithTheHost)
         ASSERT_EQ(database->Call("Abrir"), Value(Integer(0)));
         EXPECT_NE(Entry<DllCanUnloadNowFunction>("DllCanUnloadNow")(), 0);
     }
+    RecordSetRef records;
+    {
+        const ComponentRef types = Create(host, "KOVA_N_TipoDeServ.clsTiposDeServ");
+        ASSERT_EQ(types->Call("SelecionarParaComboBox", {Long(0)}), Value(Integer(0)));
+        records = types->Get("ResultadoDaSelecaoEmRecordSet").ToObject<RecordSet>();
+    }
+    EXPECT_NE(Entry<DllCanUnloadNowFunction>("DllCanUnloadNow")(), 0) << "somebody holds what was found";
+    EXPECT_NE(Attach(nullptr), 0);
+    EXPECT_EQ(Attach(&host), 0) << "it is the same host";
+    records = nullptr;
     EXPECT_EQ(Entry<DllCanUnloadNowFunction>("DllCanUnloadNow")(), 0);
     EXPECT_TRUE(std::filesystem::exists(log));
     EXPECT_EQ(Attach(nullptr), 0);

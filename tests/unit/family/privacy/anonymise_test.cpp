@@ -209,6 +209,19 @@ TEST_F(AnonymousCustomer, TakesAlongAppointmentsOfTheSameNameOnlyWhereThatWasDec
     EXPECT_NE(WholeDatabase().find("99999-8888"), std::string::npos);
 }
 
+TEST_F(AnonymousCustomer, LeavesTheAuditOfAppointmentsOfTheSameNameWhereNothingWasDecided)
+{
+    AppointmentInput booked = Bath("25/11/2026");
+    booked.customerName = "ZQ Cliente Nome";
+    booked.customerChannels = "99999-8888";
+    Database& database = *SharedDatabase(host_.DataSource());
+    ASSERT_TRUE(AddAppointments(database, booked, ana_).IsDone());
+    booked.number = std::stoi(Texts("select cast(max(numero) as text) from agendamento").front());
+    ASSERT_TRUE(DeleteAppointment(database, booked, ana_).IsDone());
+    ASSERT_TRUE(Forget().IsDone());
+    EXPECT_NE(WholeDatabase().find("99999-8888"), std::string::npos);
+}
+
 TEST_F(AnonymousCustomer, TakesAlongTheAuditOfAppointmentsOfTheSameName)
 {
     AppointmentInput booked = Bath("25/11/2026");
@@ -235,6 +248,8 @@ TEST_F(AnonymousCustomer, IsNamedByNoAppointmentThatWasDeletedAndComesBack)
     for (const Key number : {2, 4})
         EXPECT_TRUE(RestoreAppointment(database, number, ana_).IsDone());
     EXPECT_EQ(WholeDatabase().find("zq"), std::string::npos);
+    EXPECT_EQ(Texts("select texto_de_busca from agendamento where numero in (2, 4) order by numero"),
+              (std::vector<std::string>{"", "pessoa anonimizada\nanimal anonimizado"}));
     std::vector<std::string> problems;
     FindBrokenRows(database, problems);
     EXPECT_EQ(problems, std::vector<std::string>{});

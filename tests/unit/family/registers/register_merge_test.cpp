@@ -92,6 +92,16 @@ TEST_F(RegisterMerge, TakesSpeciesAndBreedAsOne)
     EXPECT_EQ(Field(animals, 50, "Raça"), "Persa");
 }
 
+TEST_F(RegisterMerge, TakesWhatStandsBesideSpeciesAndBreedAlone)
+{
+    const Register& animals = AnimalRegister();
+    const registers::Texts before = Shown(animals, 50);
+    OtherChanges(animals, 50, {{"Sexo", "Macho"}, {"Porte", "Grande"}});
+    EXPECT_EQ(Told(animals, ChangeFrom(animals, 50, before, {{"Raça", ""}})), "feito");
+    EXPECT_EQ(Field(animals, 50, "Porte"), "Grande");
+    EXPECT_EQ(Field(animals, 50, "Raça"), "Sem raça definida");
+}
+
 TEST_F(RegisterMerge, LooksAtTheRulesOfWhatComesOfBoth)
 {
     const Register& employees = EmployeeRegister();

@@ -112,6 +112,16 @@ TEST_F(LikelyDoublesOf, AnAnimalAreItsNamesakesOfTheSameCustomerOrOfOneOfTheSame
     EXPECT_EQ(Found(animals, 0, {{"Código do cliente", "11"}, {"Nome", "Paçoca"}}), Lines{});
     EXPECT_EQ(Found(animals, 0, {{"Código do cliente", "99"}, {"Nome", "Paçoca"}}), Lines{});
     EXPECT_EQ(Found(animals, 50, {{"Cor", "Bege"}}), Lines{});
+    EXPECT_EQ(Found(animals, 50, {{"Código do cliente", "12"}}), Lines{}) << "it is none of its own";
+    EXPECT_EQ(Found(animals, 50, {{"Código do cliente", "12"}, {"Nome", ""}}), Lines{});
+    const SaveAnswer namesake = Add(animals,
+                                    {{"Código do cliente", "10"},
+                                     {"Nome", "Paçoca"},
+                                     {"Sexo", "Fêmea"},
+                                     {"Espécie", "Canina"},
+                                     {"Porte", "Médio"}});
+    EXPECT_EQ(Found(animals, namesake.key, {{"Cor", "Bege"}}), Lines{}) << "that was told when it was added";
+    ASSERT_TRUE(animals.Remove(Data(), namesake.key, lia_).IsDone());
     EXPECT_EQ(Found(animals, 51, {{"Código do cliente", "10"}, {"Nome", "Paçoca"}}),
               Lines{"Paçoca (código 50): o mesmo nome e o mesmo cliente;"});
 }
