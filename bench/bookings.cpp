@@ -15,7 +15,7 @@ namespace kova::bench {
 namespace {
 
 constexpr int Desks = 8, BookingsOfDesk = 100, Rounds = 9;
-constexpr double Limit = 2.5;
+constexpr double Limit = 2;
 
 /// Sets what the record form sets for a new appointment, and has it added.
 void BookByName(BookingHost& host, const Order& order)
