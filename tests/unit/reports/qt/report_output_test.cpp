@@ -338,26 +338,19 @@ TEST_F(ReportOutput, TellsOfAPrinterThatVanishesInTheMiddleOfTheJob)
     EXPECT_TRUE(Print(printer, document, From(0)).startsWith(QStringLiteral("A impressora parou.")));
 }
 
+// Of one page the printing itself tells nothing; of many it notices on the way.
 TEST_F(ReportOutput, TellsOfAPrintFileThatCouldNotBeWrittenToItsEnd)
 {
-    const auto document = LaidOut(NumberedList(300));
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(File("papel.pdf"));
-    Prepare(printer, document);
-    const FullDisk full(2000);
-    EXPECT_TRUE(Print(printer, document, From(0)).startsWith(QStringLiteral("A impressora parou.")));
-}
-
-TEST_F(ReportOutput, TellsOfAPrintFileWhoseOnlyPageCouldNotBeWritten)
-{
-    const auto document = LaidOut(NumberedList(1));
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(File("papel.pdf"));
-    Prepare(printer, document);
-    const FullDisk full(2000);
-    EXPECT_TRUE(Print(printer, document, From(0)).startsWith(QStringLiteral("A impressora parou.")));
+    for (const int rows : {1, 300}) {
+        const auto document = LaidOut(NumberedList(rows));
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(File("papel.pdf"));
+        Prepare(printer, document);
+        const FullDisk full(2000);
+        EXPECT_TRUE(Print(printer, document, From(0)).startsWith(QStringLiteral("A impressora parou.")))
+            << rows;
+    }
 }
 
 TEST_F(ReportOutput, DrawsInkWhereTheLayoutPutsIt)
