@@ -8,6 +8,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
+#include <QProgressBar>
+
+#include <algorithm>
 
 namespace kova::monkey {
 
@@ -112,9 +115,21 @@ bool IsInOtherArea()
     return main && Front() == main && !main->findChild<QWidget*>("container")->isVisible();
 }
 
+// Long work on a thread of its own shows a bar; asked to stop, it still ends the piece that it is at.
+bool IsAtWork()
+{
+    const QWidget* front = Front();
+    const auto bars = front ? front->findChildren<QProgressBar*>() : QList<QProgressBar*>();
+    return std::ranges::any_of(bars, [](const QProgressBar* bar) { return bar->isVisible(); });
+}
+
 bool IsSettled()
 {
-    if (QApplication::activePopupWidget() || BoxInFront() || IsInOtherArea())
+    if (QApplication::activePopupWidget() || BoxInFront())
+        return true;
+    if (IsAtWork())
+        return false;
+    if (IsInOtherArea())
         return true;
     const toolkit::FormModel* form = FormInFront();
     if (form)

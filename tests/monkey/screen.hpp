@@ -28,6 +28,8 @@ QWidget* ControlOnShow(const toolkit::FormModel& form, const std::string& name);
 
 /// Whether another area than the agenda is on show, with nothing before it.
 bool IsInOtherArea();
+/// Whether the window in front shows how far its work is, which takes as long as the machine lets it.
+bool IsAtWork();
 /// Whether what is in front takes input now.
 bool IsSettled();
 /// "frmLista" and why it takes no input, what a box says, the name of another window.
