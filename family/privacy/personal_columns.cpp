@@ -45,6 +45,7 @@ constexpr ColumnsThatHold Columns[] = {
 
     {"empresa", Holds::Staff, "codigo nome_fantasia razao_social cnpj endereco telefone"},
     {"usuario", Holds::Staff, "codigo nome situacao"},
+    {"usuario", Holds::NoPerson, "codigo_do_papel senha pin"},
     {"funcionario", Holds::Staff, "codigo apelido nome nome_de_busca agendamentos_simultaneos situacao"},
     {"horario_do_funcionario", Holds::Staff,
      "codigo codigo_do_funcionario dia_da_semana hora_inicial hora_final"},
@@ -59,6 +60,9 @@ constexpr ColumnsThatHold Columns[] = {
     {"raca", Holds::NoPerson, "codigo codigo_da_especie nome nome_de_busca situacao"},
     {"feriado", Holds::NoPerson, "codigo nome dia mes data"},
     {"expediente", Holds::NoPerson, "codigo dia_da_semana hora_inicial hora_final"},
+    {"papel", Holds::NoPerson, "codigo nome"},
+    {"papel_direito", Holds::NoPerson, "codigo codigo_do_papel direito"},
+    {"tentativa_de_entrada", Holds::NoPerson, "identificador erros ultimo_erro"},
     {"gravacao", Holds::NoPerson, "identificador momento"},
     {"contador_de_alteracoes", Holds::NoPerson, "tabela alteracoes"},
     {"versao_do_esquema", Holds::NoPerson, "versao"},

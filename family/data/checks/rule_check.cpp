@@ -87,6 +87,8 @@ constexpr Rule Rules[] = {
     {"ausencia", "codigo", "data_final || ' ' || hora_final <= data_inicial || ' ' || hora_inicial",
      "o fim não é posterior ao início."},
     {"ausencia", "codigo", "trim(motivo) = ''", "falta o motivo."},
+    {"papel", "codigo", "trim(nome) = ''", "falta o nome."},
+    {"papel_direito", "codigo", "direito not like '_%._%'", "o direito não é um nome com um ponto."},
 };
 
 /// The rows come in pages.

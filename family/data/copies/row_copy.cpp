@@ -3,6 +3,7 @@
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/rows/numbering.hpp"
 
+#include <algorithm>
 #include <limits>
 
 namespace kova::family {
@@ -181,8 +182,6 @@ TableSum CopyTable(Database& source, Database& target, const StoredTable& table,
 {
     AnyRow row(source, table);
     TableReading reading(source, table, row);
-    // What a new schema brings with it stands in the source, or was taken away there.
-    target.Session() << std::string("delete from ") + table.name;
     TableWriting writing(target, table, row);
     SumOfRows sum;
     reading.ForEach([&] {
@@ -193,6 +192,15 @@ TableSum CopyTable(Database& source, Database& target, const StoredTable& table,
     if (table.numbered)
         NumberOnAfter(target, table, LastNumber(source, table));
     return {table.name, sum.rows, sum.all};
+}
+
+/// What a new schema brings with it stands in the source, or was taken away there. Rows go before those that
+/// they refer to.
+void Empty(Database& target, const std::vector<StoredTable>& tables)
+{
+    std::for_each(tables.rbegin(), tables.rend(), [&](const StoredTable& table) {
+        target.Session() << std::string("delete from ") + table.name;
+    });
 }
 
 } // namespace
@@ -216,8 +224,10 @@ std::vector<TableSum> CopyRows(Database& source, Database& target, const LongWor
 {
     const Snapshot snapshot(source);
     CopyProgress progress(source, work);
+    const std::vector<StoredTable> tables = StoredTables(source);
+    Empty(target, tables);
     std::vector<TableSum> sums;
-    for (const StoredTable& table : StoredTables(source))
+    for (const StoredTable& table : tables)
         sums.push_back(CopyTable(source, target, table, progress));
     progress.End();
     return sums;

@@ -4,6 +4,8 @@
 
 namespace kova::family {
 
+std::vector<std::string> CountedRights() { return {"usuario", "papel", "papel_direito"}; }
+
 std::string ChangeCount::Selection(const std::vector<std::string>& tables)
 {
     std::string names;

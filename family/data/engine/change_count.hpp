@@ -11,6 +11,9 @@ namespace kova::family {
 
 class Database;
 
+/// The tables that tell who may do what.
+std::vector<std::string> CountedRights();
+
 /// How often the rows of some tables were changed, by any program: what a connection keeps of them in memory
 /// is read again where they were. The Database must outlive it.
 class ChangeCount {

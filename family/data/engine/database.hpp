@@ -7,6 +7,7 @@
 #include <soci/soci.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <typeindex>
 #include <unordered_map>
@@ -69,6 +70,11 @@ public:
     /// again.
     void Reconnect();
 
+    /// How often it had been changed who may do what when the writing transaction that is open began; nothing
+    /// where none is.
+    std::optional<long long> ChangesOfRights() const { return changesOfRights_; }
+    void TakeChangesOfRights(std::optional<long long> changes) { changesOfRights_ = changes; }
+
     /// While a transaction is open nothing runs again: what came before is lost with the connection.
     void SetInTransaction(bool inTransaction) { inTransaction_ = inTransaction; }
 
@@ -101,6 +107,7 @@ private:
     std::string connection_, path_;
     RowVersions versions_;
     int schemaVersion_ = 0;
+    std::optional<long long> changesOfRights_;
     bool connected_ = false, inTransaction_ = false;
     soci::session session_;
     std::unordered_map<std::type_index, std::unique_ptr<KeptStatement>> kept_;

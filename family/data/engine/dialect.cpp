@@ -1,5 +1,7 @@
 #include "family/data/engine/dialect.hpp"
 
+#include "family/data/engine/change_count.hpp"
+
 namespace kova::family {
 
 namespace {
@@ -76,9 +78,15 @@ constexpr const char* ForgetMarks =
 constexpr const char* BeginOnLockedSchema =
     "begin isolation level read committed; select pg_advisory_xact_lock_shared(20081113); ";
 
+/// What every beginning of a write selects.
+std::string VersionAndRights()
+{
+    return "select max(versao), (" + ChangeCount::Selection(CountedRights()) + ")";
+}
+
 std::string BeginOfWriteOnServer()
 {
-    return std::string(BeginOnLockedSchema) + "select max(versao) from versao_do_esquema";
+    return BeginOnLockedSchema + VersionAndRights() + " from versao_do_esquema";
 }
 
 std::string MarkedWriteOnServer(const std::string& name)
@@ -86,8 +94,8 @@ std::string MarkedWriteOnServer(const std::string& name)
     return "prepare " + name
         + " (text) as with marca as (insert into gravacao (identificador, momento) values ($1,"
           " to_char(now() at time zone 'utc', 'YYYY-MM-DD HH24:MI:SS'))"
-          " on conflict (identificador) do nothing returning identificador)"
-          " select max(versao), (select count(*) from marca) from versao_do_esquema";
+          " on conflict (identificador) do nothing returning identificador) "
+        + VersionAndRights() + ", (select count(*) from marca) from versao_do_esquema";
 }
 
 /// What a desk's write looks for it finds by keys, and by indexes that are right for all values. To plan it
@@ -134,6 +142,7 @@ Dialect Postgresql(const char* moreSettings)
         .beginOfWrite = {BeginOfWriteOnServer()},
         .beginOfSchemaChange = BeginOfSchemaChangeOnServer,
         .beginOfSnapshot = "begin isolation level repeatable read read only",
+        .secondsNow = "select cast(extract(epoch from clock_timestamp()) as bigint)",
         .lockRow = " for no key update",
         .shareRow = " for share",
         .position = "strpos",
@@ -165,9 +174,10 @@ const Dialect& SqliteDialect()
         .bigInteger = "integer",
         .orderedText = "text",
         // The lock is taken at once: a transaction that begins by reading could not wait for it later.
-        .beginOfWrite = {"begin immediate", "select max(versao) from versao_do_esquema"},
+        .beginOfWrite = {"begin immediate", VersionAndRights() + " from versao_do_esquema"},
         .beginOfSchemaChange = "begin immediate",
         .beginOfSnapshot = "begin",
+        .secondsNow = "",
         // Nobody else writes while such a transaction is open.
         .lockRow = "",
         .shareRow = "",

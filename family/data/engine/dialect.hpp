@@ -17,13 +17,17 @@ struct Dialect {
     /// A text that orders by its bytes, as the folded texts are ordered.
     std::string orderedText;
     /// The statements that begin a transaction that writes rows; the last one selects the version of the
-    /// schema, which nobody changes before the transaction ends. What it has locked cannot be changed by
-    /// another connection before it ends: that one waits, or fails.
+    /// schema, which nobody changes before the transaction ends, and how often it was changed who may do what
+    /// (CountedRights). What it has locked cannot be changed by another connection before it ends: that one
+    /// waits, or fails.
     std::vector<std::string> beginOfWrite;
     /// Begins a transaction that changes the schema. It waits for those that write, and they for it.
     std::string beginOfSchemaChange;
     /// Begins a transaction that only reads, and sees one moment from its first selection on.
     std::string beginOfSnapshot;
+    /// Selects the seconds since 1970 by the clock that all desks have in common. Empty where that is the
+    /// desk's own.
+    std::string secondsNow;
     /// Appended to a selection inside a transaction that writes: nobody else may change or lock the rows
     /// found before it ends. A selection of several tables locks the rows of all of them.
     std::string lockRow;
@@ -62,10 +66,10 @@ struct Dialect {
     std::string (*lastGiven)(const std::string& table, const std::string& key);
     /// The statements after which the engine numbers the table's next row one higher than `last`.
     std::vector<std::string> (*numberAfter)(const std::string& table, const std::string& key, long long last);
-    /// Prepares on a connection, under that name, what a transaction begins with that bears a mark: it writes
-    /// the mark, unless it stands there already, and selects how many it has written beside the version; it
-    /// waits for another transaction that is writing the same mark. Null where a connection cannot break
-    /// between a commit and its answer.
+    /// Prepares on a connection, under that name, the same beginning of a transaction that bears a mark: it
+    /// writes the mark, unless it stands there already, and selects how many it has written behind the other
+    /// two; it waits for another transaction that is writing the same mark. Null where a connection cannot
+    /// break between a commit and its answer.
     std::string (*markedWrite)(const std::string& name);
     /// The beginning of such a transaction, in one message. A mark has letters and digits only.
     std::string (*beginOfMarkedWrite)(const std::string& name, const std::string& mark);

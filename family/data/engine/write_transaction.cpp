@@ -20,6 +20,8 @@ void RollBack(Database& database)
 struct Beginning {
     /// Of the schema.
     int version = 0;
+    /// How often it was changed who may do what.
+    long long rights = 0;
     /// How many marks it has written.
     int marks = 1;
 };
@@ -31,7 +33,7 @@ Beginning BeginRows(Database& database)
         database.Session() << statements[at];
     Beginning told;
     soci::indicator found = soci::i_null;
-    database.Session() << statements.back(), soci::into(told.version, found);
+    database.Session() << statements.back(), soci::into(told.version, found), soci::into(told.rights);
     return told;
 }
 
@@ -48,7 +50,7 @@ public:
         Beginning told;
         soci::indicator found = soci::i_null;
         database_.Session() << database_.GetDialect().beginOfMarkedWrite(name_, mark),
-            soci::into(told.version, found), soci::into(told.marks);
+            soci::into(told.version, found), soci::into(told.rights), soci::into(told.marks);
         return told;
     }
 
@@ -66,13 +68,13 @@ Beginning BeginMarkedRows(Database& database, const std::string& mark)
         [&](MarkedBeginning& beginning) { return beginning.Run(mark); });
 }
 
-void RequireSchema(Database& database, int version)
+void TakeIn(Database& database, const Beginning& told)
 {
     const int known = database.SchemaVersion();
-    if (known == 0)
-        return;
-    if (const auto refusal = RefusalOfOther(database.Path(), version, known))
+    const auto refusal = known == 0 ? std::nullopt : RefusalOfOther(database.Path(), told.version, known);
+    if (refusal)
         throw DatabaseFailure(*refusal);
+    database.TakeChangesOfRights(told.rights);
 }
 
 /// Runs what begins a transaction; what has begun is undone where it fails.
@@ -112,7 +114,7 @@ WriteTransaction::WriteTransaction(Database& database, Of what) : database_(data
         if (what == Of::Schema)
             database_.Session() << database_.GetDialect().beginOfSchemaChange;
         else
-            RequireSchema(database_, BeginRows(database_).version);
+            TakeIn(database_, BeginRows(database_));
     });
     database_.SetInTransaction(true);
 }
@@ -122,7 +124,7 @@ WriteTransaction::WriteTransaction(Database& database, const std::string& mark) 
     BeginOnLiveConnection(database_, [&] {
         const Beginning told =
             database_.GetDialect().IsServer() ? BeginMarkedRows(database_, mark) : BeginRows(database_);
-        RequireSchema(database_, told.version);
+        TakeIn(database_, told);
         isKeptAlready_ = told.marks == 0;
     });
     database_.SetInTransaction(true);
@@ -131,6 +133,7 @@ WriteTransaction::WriteTransaction(Database& database, const std::string& mark) 
 WriteTransaction::~WriteTransaction()
 {
     database_.SetInTransaction(false);
+    database_.TakeChangesOfRights(std::nullopt);
     if (open_)
         RollBack(database_);
 }

@@ -15,6 +15,7 @@ constexpr Migration Steps[] = {
     {6, SchemaOfVersion6, HoldRulesOfVersion6},
     {7, SchemaOfVersion7},
     {8, SchemaOfVersion8, HoldRulesOfVersion8},
+    {9, SchemaOfVersion9, HoldRulesOfVersion9},
 };
 
 } // namespace

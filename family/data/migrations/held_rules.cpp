@@ -81,6 +81,25 @@ constexpr RowRule OfAbsences[] = {
     {"motivo", "trim(@motivo) = ''", "falta o motivo"},
 };
 
+constexpr RowRule OfRoles[] = {
+    {"nome", "trim(@nome) = ''", "falta o nome"},
+};
+
+constexpr RowRule OfRights[] = {
+    {"direito", "@direito not like '_%._%'", "o direito não é um nome com um ponto"},
+};
+
+constexpr RowRule OfUsers[] = {
+    {"situacao", "@situacao not in (1, 2)", "a situação não existe"},
+    {"nome", "@codigo_do_papel is not null and trim(@nome) = ''", "tem um papel e falta o nome"},
+    {"senha", "@senha not like '$argon2id$%' or @pin not like '$argon2id$%'",
+     "a senha ou o PIN não está protegido"},
+};
+
+constexpr RowRule OfTries[] = {
+    {"erros", "@erros < 0 or @ultimo_erro < 0", "os erros ou o momento do último não são possíveis"},
+};
+
 constexpr const char* ColumnsOfHours = "dia_da_semana, hora_inicial, hora_final";
 
 /// The rules of a table, held from a version on.
@@ -106,6 +125,10 @@ constexpr HeldTable Tables[] = {
     {8, {"expediente", ColumnsOfHours, OfOpeningHours}},
     {8, {"horario_do_funcionario", ColumnsOfHours, OfOpeningHours}},
     {8, {"ausencia", "data_inicial, hora_inicial, data_final, hora_final, motivo", OfAbsences}},
+    {9, {"papel", "nome", OfRoles}},
+    {9, {"papel_direito", "direito", OfRights}},
+    {9, {"usuario", "nome, situacao, codigo_do_papel, senha, pin", OfUsers}},
+    {9, {"tentativa_de_entrada", "erros, ultimo_erro", OfTries}},
 };
 
 bool HasBrokenRow(soci::session& session, const TableRules& table, const RowRule& rule)

@@ -26,5 +26,10 @@ std::vector<std::string> SchemaOfVersion7(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion8(const Dialect& dialect);
 /// Holds their rows to their rules.
 void HoldRulesOfVersion8(soci::session& session, const Dialect& dialect);
+/// Roles with their rights, users' roles and passwords, and wrong tries to sign in; three roles, and nobody
+/// who has one.
+std::vector<std::string> SchemaOfVersion9(const Dialect& dialect);
+/// Holds their rows to their rules.
+void HoldRulesOfVersion9(soci::session& session, const Dialect& dialect);
 
 } // namespace kova::family

@@ -1,3 +1,4 @@
+#include "family/data/migrations/counted_tables.hpp"
 #include "family/data/migrations/held_rules.hpp"
 #include "family/data/migrations/schemas.hpp"
 
@@ -43,32 +44,12 @@ std::string OpenFromMondayToSaturday()
     return "insert into expediente (dia_da_semana, hora_inicial, hora_final) values " + rows;
 }
 
-struct CountedTable {
-    const char *name, *columns;
-};
+/// All three stay in memory until a change is counted.
 constexpr CountedTable CountedTables[] = {
     {"expediente", "codigo, dia_da_semana, hora_inicial, hora_final"},
     {"horario_do_funcionario", "codigo, codigo_do_funcionario, dia_da_semana, hora_inicial, hora_final"},
     {"ausencia", "codigo, codigo_do_funcionario, data_inicial, hora_inicial, data_final, hora_final, motivo"},
 };
-
-/// All three stay in memory until a change is counted.
-std::vector<std::string> CountChanges(const Dialect& dialect)
-{
-    std::vector<std::string> statements;
-    for (const CountedTable& table : CountedTables) {
-        const std::string name = table.name;
-        statements.push_back("insert into contador_de_alteracoes (tabela, alteracoes) values ('" + name
-                             + "', 0)");
-        for (std::string& statement : dialect.countChanges(name, table.columns))
-            statements.push_back(std::move(statement));
-        // Names stand for the agenda's own tables, whoever writes.
-        if (dialect.IsServer())
-            statements.push_back("alter function conta_alteracao_de_" + name
-                                 + "() set search_path from current");
-    }
-    return statements;
-}
 
 } // namespace
 
@@ -76,7 +57,7 @@ std::vector<std::string> SchemaOfVersion8(const Dialect& dialect)
 {
     std::vector<std::string> statements = Tables(dialect);
     statements.push_back(OpenFromMondayToSaturday());
-    for (std::string& statement : CountChanges(dialect))
+    for (std::string& statement : CountFromNowOn(CountedTables, dialect))
         statements.push_back(std::move(statement));
     return statements;
 }

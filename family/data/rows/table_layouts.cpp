@@ -10,6 +10,8 @@ namespace kova::family {
 namespace {
 
 constexpr StoredTable Tables[] = {
+    {"papel", "codigo", 9},
+    {"papel_direito", "codigo", 9},
     {"empresa", "codigo"},
     {"usuario", "codigo"},
     {"tipo_de_servico", "numero"},
@@ -29,9 +31,12 @@ constexpr StoredTable Tables[] = {
     {"expediente", "codigo", 8},
     {"horario_do_funcionario", "codigo", 8},
     {"ausencia", "codigo", 8},
+    {"tentativa_de_entrada", "identificador", 9, false},
 };
 
 constexpr Reference AllReferences[] = {
+    {"papel_direito", "codigo_do_papel", "papel", "codigo"},
+    {"usuario", "codigo_do_papel", "papel", "codigo"},
     {"servico", "numero_do_tipo_de_servico", "tipo_de_servico", "numero"},
     {"raca", "codigo_da_especie", "especie", "codigo"},
     {"canal_de_comunicacao", "codigo_do_cliente", "cliente", "codigo"},
@@ -68,7 +73,9 @@ std::vector<Reference> References(Database& database)
     const std::vector<StoredTable> tables = StoredTables(database);
     std::vector<Reference> references;
     std::copy_if(std::begin(AllReferences), std::end(AllReferences), std::back_inserter(references),
-                 [&](const Reference& reference) { return Has(tables, reference.table); });
+                 [&](const Reference& reference) {
+                     return Has(tables, reference.table) && Has(tables, reference.target);
+                 });
     return references;
 }
 

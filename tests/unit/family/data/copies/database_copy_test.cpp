@@ -169,6 +169,15 @@ void FillEveryTable(const std::string& shop)
                         "exclusao",
                         AuditValues().Add("observacao", std::string("\"Laço\"\n\\")).Line(),
                         {}});
+    for (const char* statement :
+         {"insert into papel (nome) values ('Banhista')",
+          "insert into papel_direito (codigo_do_papel, direito) values (4, 'agendamento.incluir')",
+          "insert into usuario (nome, codigo_do_papel, senha) values ('Bia', 4,"
+          " '$argon2id$v=19$m=8,t=1,p=1$c2Fs$aGFzaA')",
+          "delete from papel_direito where codigo_do_papel = 2",
+          "insert into tentativa_de_entrada (identificador, erros, ultimo_erro)"
+          " values ('a1', 3, 1795185845)"})
+        database->Session() << statement;
     database->Session() << "insert into gravacao (identificador, momento)"
                            " values ('a1', '2026-11-20 09:00:00')";
     transaction.commit();

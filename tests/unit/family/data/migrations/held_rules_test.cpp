@@ -66,6 +66,18 @@ constexpr const char* Breaches[] = {
     " values ('2026-12-01', '24:00', '2026-12-02', '08:00', 'Reforma')",
     "insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
     " values ('2026-12-01', '00:00', '2026-12-01', '24:00', ' ')",
+    "update papel set nome = ' ' where codigo = 1",
+    "insert into papel (nome) values ('')",
+    "update papel_direito set direito = 'tudo' where codigo = 1",
+    "insert into papel_direito (codigo_do_papel, direito) values (3, '.tudo')",
+    "insert into papel_direito (codigo_do_papel, direito) values (3, 'tudo.')",
+    "insert into usuario (nome, situacao) values ('Bia', 3)",
+    "insert into usuario (nome, codigo_do_papel) values (' ', 3)",
+    "insert into usuario (nome, senha) values ('Bia', 'gato preto')",
+    "insert into usuario (nome, pin) values ('Bia', '2580')",
+    "insert into usuario (nome, senha, pin) values ('Bia', '$argon2id$v=19$m=8,t=1,p=1$c2Fs$aGFzaA', '')",
+    "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', -1, 0)",
+    "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', 1, -1)",
 };
 
 } // namespace
@@ -123,7 +135,12 @@ TEST_F(HeldRules, TakeWhatBreaksNone)
           "insert into ausencia (data_inicial, hora_inicial, data_final, hora_final, motivo)"
           " values ('2026-12-01', '00:00', '2026-12-01', '24:00', 'Reforma')",
           "insert into pre_venda (codigo, numero_do_agendamento, valor_em_centavos, situacao, criada_em)"
-          " values (2, 7, 6000, 2, '2026-11-20 09:00:00')"})
+          " values (2, 7, 6000, 2, '2026-11-20 09:00:00')",
+          "insert into papel_direito (codigo_do_papel, direito) values (3, 'caixa.abrir_de_manha')",
+          "insert into usuario (nome) values ('')",
+          "insert into usuario (nome, codigo_do_papel, situacao, senha, pin) values ('Bia', 3, 2, null,"
+          " '$argon2id$v=19$m=8,t=1,p=1$c2Fs$aGFzaA')",
+          "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', 0, 0)"})
         EXPECT_EQ(Try(statement), "") << statement;
 }
 

@@ -63,6 +63,7 @@ protected:
         return names;
     }
 
+    static constexpr int ColumnsToday = 6;
     static int ColumnsOfUser(Database& database)
     {
         int columns = 0;
@@ -98,7 +99,10 @@ TEST_F(SchemaMigration, MakesEveryRegister)
                                     "gravacao",
                                     "expediente",
                                     "horario_do_funcionario",
-                                    "ausencia"}) {
+                                    "ausencia",
+                                    "papel",
+                                    "papel_direito",
+                                    "tentativa_de_entrada"}) {
         int found = 0;
         database->Session() << "select count(*) from sqlite_master where type = 'table' and name = :nome",
             soci::use(table), soci::into(found);
@@ -111,14 +115,14 @@ TEST_F(SchemaMigration, BringsAnOlderVersionUpToDateAfterACopy)
 {
     const auto migrated = OpenDatabase(path_, NextVersion);
     EXPECT_EQ(StoredVersion(migrated->Session()), Newest + 1);
-    EXPECT_EQ(ColumnsOfUser(*migrated), 4);
+    EXPECT_EQ(ColumnsOfUser(*migrated), ColumnsToday + 1);
     EXPECT_EQ(NameOfUser(*migrated), "Carla");
 
     const std::string copy = path_ + ".antes-da-versao-" + std::to_string(Newest + 1) + ".bak";
     ASSERT_EQ(BackupName(path_, Newest + 1), copy);
     const auto former = OpenDatabase(copy);
     EXPECT_EQ(StoredVersion(former->Session()), Newest);
-    EXPECT_EQ(ColumnsOfUser(*former), 3);
+    EXPECT_EQ(ColumnsOfUser(*former), ColumnsToday);
     EXPECT_EQ(NameOfUser(*former), "Carla");
 }
 
@@ -133,7 +137,7 @@ TEST_F(SchemaMigration, ThatFailsChangesNothing)
     EXPECT_THROW(OpenDatabase(path_, BrokenVersion), Failure);
     const auto database = OpenDatabase(path_);
     EXPECT_EQ(StoredVersion(database->Session()), Newest);
-    EXPECT_EQ(ColumnsOfUser(*database), 3);
+    EXPECT_EQ(ColumnsOfUser(*database), ColumnsToday);
     EXPECT_EQ(NameOfUser(*database), "Carla");
 }
 
@@ -306,6 +310,43 @@ TEST_F(SchemaMigration, HoldsTheRowsOfAMigratedShopToTheRulesOfTheNewTables)
                                         " hora_final, motivo) values ('2026-12-01', '08:00', '2026-12-01',"
                                         " '18:00', '')",
                  soci::soci_error);
+}
+
+TEST_F(SchemaMigration, GivesAShopRolesAndNobodyOneOfThem)
+{
+    const std::string path = folder_ / "antigo.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + path, path);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(8));
+        // Nobody was held to one name each.
+        database.Session() << "insert into usuario (nome, situacao) values ('Carla', 1), ('Carla', 2)";
+    }
+    OpenDatabase(path);
+    for (const std::string& shop : {path, path_}) {
+        kova::test::SqliteFile file(shop);
+        EXPECT_EQ(file.Run("select p.codigo || ' ' || nome || ' ' || count(*) from papel p"
+                           " join papel_direito d on d.codigo_do_papel = p.codigo group by p.codigo"),
+                  (std::vector<std::string>{"1 Administração 11", "2 Gerência 9", "3 Recepção 4"}));
+        EXPECT_EQ(file.Run("select count(*) from usuario where codigo_do_papel is not null"
+                           " or senha is not null or pin is not null"),
+                  std::vector<std::string>{"0"});
+        EXPECT_EQ(file.Run("select count(*) from tentativa_de_entrada"), std::vector<std::string>{"0"});
+    }
+    kova::test::SqliteFile file(path);
+    EXPECT_EQ(file.Run("select nome || ' ' || situacao from usuario order by codigo"),
+              (std::vector<std::string>{"Carla 1", "Carla 2"}));
+}
+
+TEST_F(SchemaMigration, HasNoTwoRolesNorUsersInThemOfOneName)
+{
+    const auto database = OpenDatabase(path_);
+    database->Session() << "insert into usuario (nome, codigo_do_papel) values ('Bia', 3)";
+    for (const char* statement :
+         {"insert into papel (nome) values ('Recepção')",
+          "insert into usuario (nome, codigo_do_papel) values ('Bia', 2)",
+          "update usuario set codigo_do_papel = 99 where nome = 'Bia'", "delete from papel where codigo = 3"})
+        EXPECT_THROW(database->Session() << statement, soci::soci_error) << statement;
+    database->Session() << "insert into usuario (nome) values ('Bia')";
 }
 
 TEST_F(SchemaMigration, KeepsReferencesWhole)
