@@ -53,6 +53,8 @@ function families_of(header) {
         return "libpq"
     if (header == "utf8proc.h")
         return "utf8proc"
+    if (header == "sodium.h")
+        return "sodium"
     if (header ~ /^(gtest|gmock)\//)
         return "gtest"
     if (header ~ /^(sys\/[a-z]+|dlfcn|link|netdb|poll|pwd|unistd)\.h$/)
