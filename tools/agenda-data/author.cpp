@@ -15,8 +15,11 @@ constexpr const char* NoUser = "0";
 
 family::Author AuthorOf(const Call& call, DateTime now)
 {
-    return {NoUser, call.Option("--user").value_or(host::NameOfThisUser()), family::IsoMoment(now),
-            system::ComputerName()};
+    return {.code = NoUser,
+            .name = call.Option("--user").value_or(host::NameOfThisUser()),
+            .moment = family::IsoMoment(now),
+            .desk = system::ComputerName(),
+            .isOwner = true};
 }
 
 } // namespace kova::data

@@ -146,4 +146,12 @@ void AuditAnonymisation(Database& database, const Author& author, const char* ta
     Insert(database, row);
 }
 
+void AuditAccess(Database& database, const Author& author, const char* operation, Key user,
+                 const AuditValues& what)
+{
+    AuditRow row = RowOf(author, "usuario", user, operation);
+    row.depois = what.Line();
+    Insert(database, row);
+}
+
 } // namespace kova::family

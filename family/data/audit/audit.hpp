@@ -48,6 +48,12 @@ inline constexpr const char* ImportUndone = "importacao_desfeita";
 inline constexpr const char* Anonymisation = "anonimizacao";
 /// Two rows have become one.
 inline constexpr const char* Merging = "uniao";
+/// Somebody has signed in.
+inline constexpr const char* SigningIn = "entrada";
+/// Somebody has tried to, and may not.
+inline constexpr const char* SigningInRefused = "entrada_recusada";
+/// Somebody wanted what he has no right to.
+inline constexpr const char* Denial = "direito_negado";
 } // namespace audit_operation
 
 /// Stands among the values of a row that has come in an import: the import's number.
@@ -109,6 +115,11 @@ void AuditMerging(Database& database, const Author& author, const char* table, K
 void AuditImport(Database& database, const Author& author, const AuditValues& what);
 /// The same of an import that was taken back.
 void AuditUndoneImport(Database& database, const Author& author, Key number, const AuditValues& what);
+
+/// Writes the line of one who has signed in, or was refused, or has wanted what he has no right to: one of
+/// the three operations. `user` is his code, 0 where he has none; in the transaction that is open.
+void AuditAccess(Database& database, const Author& author, const char* operation, Key user,
+                 const AuditValues& what);
 
 /// Writes the line of a person who was made anonymous, with figures of what it was done to.
 void AuditAnonymisation(Database& database, const Author& author, const char* table, Key key,

@@ -17,6 +17,8 @@ struct Author {
     std::string desk{};
     /// Number of the import in which the rows come; 0 where they come in none.
     Key importNumber = 0;
+    /// Whoever has the database itself at hand, at the tools for it: no user's rights bind him.
+    bool isOwner = false;
 };
 
 } // namespace kova::family

@@ -39,6 +39,8 @@ public:
             try {
                 return Try();
             } catch (const DatabaseFailure& failure) {
+                if (!mayBeKept_ && !IsPassing(failure.GetFault()))
+                    throw;
                 if (attempt == MostAttempts || !IsWorthAnother(failure))
                     throw Told(failure);
             }
@@ -84,8 +86,6 @@ private:
                         + "\r\nNão foi possível saber se a gravação foi concluída. Quando o servidor voltar, "
                           "atualize a lista e confira antes de gravar de novo.",
                     Fault::InDoubt};
-        if (!IsPassing(failure.GetFault()))
-            return failure;
         return {failure.Description() + "\r\nNada foi gravado.", failure.GetFault(), failure.Cause()};
     }
 

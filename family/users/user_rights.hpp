@@ -1,0 +1,41 @@
+#pragma once
+
+#include "family/data/audit/author.hpp"
+#include "family/data/engine/database_failure.hpp"
+#include "family/users/rights.hpp"
+
+namespace kova::family {
+
+class Database;
+
+/// Somebody wants what he has no right to. Its text says so and whom to ask.
+class RightDenied : public DatabaseFailure {
+public:
+    RightDenied(Right right, std::string text) : DatabaseFailure(std::move(text)), right_(right) { }
+
+    Right DeniedRight() const { return right_; }
+
+private:
+    Right right_;
+};
+
+/// Whether the shop has users at all: somebody active with a role. Where it has none everybody may do
+/// everything, as in a shop that was made before there were users.
+bool HasUsers(Database& database);
+
+/// What the user of that code may do: all of it in a shop without users, nothing for the code of nobody who
+/// is active and has a role.
+Rights RightsOf(Database& database, Key user);
+
+/// Why the author may not do it, as sentences; empty where he may: "Recepção não pode excluir agendamentos.
+/// Peça a quem administra os usuários."
+std::string WhyDenied(Database& database, const Author& author, Right right);
+
+/// Fails with RightDenied where the author may not do it.
+void RequireRight(Database& database, const Author& author, Right right);
+
+/// All four go by what stood there when the writing transaction that is open began, or by what stands there
+/// now where none is; it stays in memory with the connection until a change of it is counted. A transaction
+/// that changes who may do what asks before it does. They fail as Database::With.
+
+} // namespace kova::family
