@@ -9,6 +9,7 @@
 #include "family/data/rows/people_rows.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/appointment_store.hpp"
+#include "family/users/user_rights.hpp"
 
 namespace kova::family {
 
@@ -103,7 +104,10 @@ WriteAnswer Restore(Database& database, Key number, const Author& author)
 
 WriteAnswer RestoreAppointment(Database& database, Key number, const Author& author)
 {
-    return InTransaction(database, [&] { return Restore(database, number, author); });
+    return InTransaction(database, author, [&] {
+        RequireRight(database, author, Right::Book);
+        return Restore(database, number, author);
+    });
 }
 
 } // namespace kova::family

@@ -3,11 +3,13 @@
 #include "family/business/appointments/appointment_merge.hpp"
 #include "family/business/appointments/booking.hpp"
 #include "family/business/appointments/pre_sale_rules.hpp"
+#include "family/business/appointments/status_rights.hpp"
 #include "family/business/appointments/write_in_transaction.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/appointment_store.hpp"
+#include "family/users/user_rights.hpp"
 
 #include <tuple>
 
@@ -67,6 +69,8 @@ WriteAnswer WriteOver(Database& database, const AppointmentRow& stored, Appointm
     Booking booking(database, input, stored);
     if (const Refusal refusal = Check(booking))
         return *refusal;
+    if (booking.row.situacao != stored.situacao)
+        RequireRightToStatus(database, author, stored.situacao, booking.row.situacao);
     const auto follow = SellsOtherwise(stored, booking.row) ? RenewPreSale : FollowWithPreSale;
     WriteAnswer answer =
         follow(database, StateOf(booking, stored.numero, stored.situacao), booking.row.situacao, author);
@@ -77,9 +81,11 @@ WriteAnswer WriteOver(Database& database, const AppointmentRow& stored, Appointm
 }
 
 /// Finds the appointment with that number and runs `write` with it, both under the lock of one transaction.
-template <class Write> WriteAnswer WithStored(Database& database, Double number, Write write)
+template <class Write>
+WriteAnswer WithStored(Database& database, Double number, const Author& author, Right right, Write write)
 {
-    return InTransaction(database, [&]() -> WriteAnswer {
+    return InTransaction(database, author, [&]() -> WriteAnswer {
+        RequireRight(database, author, right);
         const auto stored = FindByKey<LockedAppointmentRow>(database, KeyOf(number));
         if (!stored)
             return WriteAnswer::Refusal("O agendamento não existe mais.");
@@ -93,7 +99,8 @@ template <class Write> WriteAnswer WithStored(Database& database, Double number,
 
 WriteAnswer AddAppointments(Database& database, const AppointmentInput& input, const Author& author)
 {
-    return InTransaction(database, [&]() -> WriteAnswer {
+    return InTransaction(database, author, [&]() -> WriteAnswer {
+        RequireRight(database, author, Right::Book);
         Booking booking(database, input);
         if (const Refusal refusal = Check(booking))
             return *refusal;
@@ -104,10 +111,11 @@ WriteAnswer AddAppointments(Database& database, const AppointmentInput& input, c
 WriteAnswer AlterAppointment(Database& database, const AppointmentInput& input, const Author& author)
 {
     Key before = 0;
-    const WriteAnswer answer = WithStored(database, input.number, [&](const AppointmentRow& stored) {
-        before = stored.versao;
-        return WriteOver(database, stored, input, author);
-    });
+    const WriteAnswer answer = WithStored(database, input.number, author, Right::ChangeAppointments,
+                                          [&](const AppointmentRow& stored) {
+                                              before = stored.versao;
+                                              return WriteOver(database, stored, input, author);
+                                          });
     if (answer.IsDone())
         database.Versions().Follow(KeyOf(input.number), before, before + 1);
     return answer;
@@ -115,7 +123,7 @@ WriteAnswer AlterAppointment(Database& database, const AppointmentInput& input, 
 
 WriteAnswer DeleteAppointment(Database& database, const AppointmentInput& input, const Author& author)
 {
-    return WithStored(database, input.number, [&](const AppointmentRow& stored) -> WriteAnswer {
+    const auto remove = [&](const AppointmentRow& stored) -> WriteAnswer {
         if (const Refusal refusal = CheckUnchanged(database, stored))
             return *refusal;
         WriteAnswer answer = CheckNoPreSale(database, stored.numero, stored.situacao);
@@ -123,7 +131,8 @@ WriteAnswer DeleteAppointment(Database& database, const AppointmentInput& input,
             RemoveAppointment(database, stored, author);
         answer.appointmentStatus = stored.situacao;
         return answer;
-    });
+    };
+    return WithStored(database, input.number, author, Right::DeleteAppointments, remove);
 }
 
 } // namespace kova::family

@@ -9,7 +9,8 @@ namespace kova::family {
 class Database;
 
 /// The writes of whole appointments. Each runs in a transaction of its own: what is not answered with Done
-/// has changed nothing. They fail with a DatabaseFailure.
+/// has changed nothing. Refused before all else is what the author has no right to. They fail with a
+/// DatabaseFailure.
 
 /// Writes a booking.
 /// 1. The checks of Check (booking.hpp) in their order; the first refusal is the answer.

@@ -3,6 +3,7 @@
 #include "family/business/appointments/appointment_merge.hpp"
 #include "family/business/appointments/employee_room.hpp"
 #include "family/business/appointments/pre_sale_rules.hpp"
+#include "family/business/appointments/status_rights.hpp"
 #include "family/business/appointments/write_in_transaction.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/find_by_key.hpp"
@@ -37,6 +38,7 @@ WriteAnswer CheckEmployee(Database& database, const AppointmentState& appointmen
 WriteAnswer Change(Database& database, const AppointmentState& appointment, int status, const Author& author,
                    Written& written)
 {
+    RequireRightToStatus(database, author, appointment.status, status);
     WriteAnswer answer = FollowWithPreSale(database, appointment, status, author);
     if (answer.IsDone() && ComesBack(appointment, status))
         answer = CheckEmployee(database, appointment);
@@ -81,12 +83,13 @@ WriteAnswer ChangePackage(Database& database, Key package, int status, const Aut
 }
 
 /// Runs `write` in a transaction where there is such a status. What was written is then known to the session.
-template <class Write> WriteAnswer WriteKnownStatus(Database& database, int status, Write write)
+template <class Write>
+WriteAnswer WriteKnownStatus(Database& database, int status, const Author& author, Write write)
 {
     if (!appointment_status::IsKnown(status))
         return WriteAnswer::InvalidField("Situacao", "Selecione a situação.");
     Written written;
-    const WriteAnswer answer = InTransaction(database, [&] {
+    const WriteAnswer answer = InTransaction(database, author, [&] {
         written.clear();
         return write(written);
     });
@@ -96,9 +99,10 @@ template <class Write> WriteAnswer WriteKnownStatus(Database& database, int stat
 }
 
 /// Finds the appointment and runs `change` with it, both under the lock of one transaction.
-template <class ChangeOf> WriteAnswer WithStored(Database& database, Key number, int status, ChangeOf change)
+template <class ChangeOf>
+WriteAnswer WithStored(Database& database, Key number, int status, const Author& author, ChangeOf change)
 {
-    return WriteKnownStatus(database, status, [&](Written& written) -> WriteAnswer {
+    return WriteKnownStatus(database, status, author, [&](Written& written) -> WriteAnswer {
         const std::optional<AppointmentState> appointment = FindAppointment(database, number);
         if (!appointment)
             return WriteAnswer::Refusal("O agendamento não existe mais.");
@@ -110,26 +114,28 @@ template <class ChangeOf> WriteAnswer WithStored(Database& database, Key number,
 
 WriteAnswer ChangeStatus(Database& database, Key appointment, int status, const Author& author)
 {
-    return WithStored(database, appointment, status, [&](const AppointmentState& stored, Written& written) {
-        if (std::optional<WriteAnswer> answer = AnswerToChangedStatus(database, stored, status)) {
-            answer->package = stored.package.ValueOr(0);
-            answer->appointmentStatus = status;
-            return *answer;
-        }
-        return Change(database, stored, status, author, written);
-    });
+    return WithStored(
+        database, appointment, status, author, [&](const AppointmentState& stored, Written& written) {
+            if (std::optional<WriteAnswer> answer = AnswerToChangedStatus(database, stored, status)) {
+                answer->package = stored.package.ValueOr(0);
+                answer->appointmentStatus = status;
+                return *answer;
+            }
+            return Change(database, stored, status, author, written);
+        });
 }
 
 WriteAnswer ChangeStatusOfPackage(Database& database, Key appointment, int status, const Author& author)
 {
-    return WithStored(database, appointment, status, [&](const AppointmentState& stored, Written& written) {
-        return ChangePackage(database, stored.package.ValueOr(0), status, author, written);
-    });
+    return WithStored(database, appointment, status, author,
+                      [&](const AppointmentState& stored, Written& written) {
+                          return ChangePackage(database, stored.package.ValueOr(0), status, author, written);
+                      });
 }
 
 WriteAnswer ChangeStatusInPackage(Database& database, Key package, int status, const Author& author)
 {
-    return WriteKnownStatus(database, status, [&](Written& written) {
+    return WriteKnownStatus(database, status, author, [&](Written& written) {
         return ChangePackage(database, package, status, author, written);
     });
 }

@@ -10,8 +10,8 @@ class Database;
 
 /// Each runs in a transaction of its own: what is not answered with Done has changed nothing. A change to 4
 /// makes the pre-sale with the service's price, one from 4 cancels it, and one from 3 needs the employee at
-/// work and room with it. The stored status counts, not the one that a screen shows. They fail with a
-/// DatabaseFailure.
+/// work and room with it. The stored status counts, not the one that a screen shows. Refused is what the
+/// author has no right to (RequireRightToStatus). They fail with a DatabaseFailure.
 
 /// Sets the status of one appointment. Refused where it is gone, where another desk has set a different one
 /// since this session selected it, where its pre-sale cannot be made (a clinical type, no registered

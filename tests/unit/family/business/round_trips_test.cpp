@@ -119,6 +119,19 @@ TEST_F(RoundTripsPostgresql, OfABookingAreOneMoreAfterAChangeOfHoursOrAbsences)
               "Bia está ausente em 09/12/2026 (Reforma).");
 }
 
+/// How often it was changed who may do what comes along with the transaction's beginning.
+TEST_F(RoundTripsPostgresql, OfABookingAreNoMoreInAShopWithUsers)
+{
+    shop_.Run("insert into usuario (codigo, nome, codigo_do_papel) values (7, 'Lia', 3), (8, 'Ana', 1)");
+    Book(FullBath("01/12/2026"));
+    EXPECT_EQ(Count([&] { Book(FullBath("02/12/2026")); }), 6);
+    shop_.Run("delete from papel_direito where codigo_do_papel = 3 and direito = 'agendamento.cancelar'");
+    EXPECT_EQ(Count([&] { Book(FullBath("03/12/2026")); }), 7);
+    shop_.Run("delete from papel_direito where codigo_do_papel = 3");
+    EXPECT_EQ(AddAppointments(Data(), FullBath("04/12/2026"), Somebody).text,
+              "Recepção não pode incluir agendamentos. Peça a quem administra os usuários.");
+}
+
 /// The transaction's beginning with its mark, and its end, the appointment, its employee with the counters of
 /// changes, the employee's booked times, the row and the audit's line.
 TEST_F(RoundTripsPostgresql, OfAReturnFromCancelledAreSeven)
