@@ -175,11 +175,12 @@ void PersonDialog::ChooseFolder()
 void PersonDialog::Export()
 {
     const std::string folder = folder_->text().toStdString();
-    const DateTime now = MomentOf(desk_.author().moment);
+    const family::Author author = desk_.author();
     auto files = std::make_shared<PersonFiles>();
     Begin(
-        [source = source_, code = customer_, folder, now, files](const family::LongWork& work) {
-            *files = family::privacy::ExportPerson(source, code, folder, now, work);
+        [source = source_, code = customer_, folder, author, files](const family::LongWork& work) {
+            *files =
+                family::privacy::ExportPerson(source, code, folder, author, MomentOf(author.moment), work);
         },
         [this, files] {
             told_->setText(

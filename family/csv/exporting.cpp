@@ -1,9 +1,11 @@
 #include "family/csv/exporting.hpp"
 
 #include "family/csv/csv_writer.hpp"
+#include "family/csv/prices.hpp"
 #include "family/csv/whole_file.hpp"
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/users/denials.hpp"
 
 namespace kova::family::csv {
 
@@ -69,14 +71,22 @@ private:
 
 } // namespace
 
-long long ExportTo(const std::string& source, const ExportOrder& order, const LongWork& work)
+long long ExportTo(const std::string& source, const ExportOrder& order, const Author& author,
+                   const LongWork& work)
 {
     try {
         const auto database = OpenNewestForReading(source);
         const Snapshot snapshot(*database);
+        RequireRight(*database, author, Right::Export);
+        if (HasPrices(*order.from))
+            RequireRight(*database, author, Right::SeePrices);
         ExportRun run(order, CountRows(*database, order.from->table), work);
         order.from->exportTo(*database, [&](const std::vector<std::string>& fields) { run.Write(fields); });
         return run.Finish();
+    } catch (const RightDenied& denied) {
+        // Over another connection: that one only reads.
+        AuditDenial(*OpenDatabase(source), author, denied);
+        throw;
     } catch (const Interrupted& cause) {
         throw TranslatedFailure(source, cause);
     }

@@ -1,11 +1,13 @@
 #include "family/csv/importing.hpp"
 
+#include "family/csv/prices.hpp"
 #include "family/data/audit/import_audit.hpp"
 #include "family/data/copies/import_copy.hpp"
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/registers/registers.hpp"
+#include "family/users/denials.hpp"
 
 namespace kova::family::csv {
 
@@ -40,6 +42,13 @@ std::optional<long long> ChangesOfOthers(Database& database)
     }
 }
 
+/// Appointments are no register that is written by its rules; whoever may book brings them in.
+Right RightToBringIn(const Register& into)
+{
+    const registers::Register* const written = registers::RegisterNamed(into.name);
+    return written ? written->RightToWrite() : Right::Book;
+}
+
 /// A file on its way into a database.
 class Importing {
 public:
@@ -55,6 +64,22 @@ public:
 
     ImportReport Run(const Author& author)
     {
+        return TellingDenials(*database_, author, [&] {
+            RequireRights(author);
+            return RunAllowed(author);
+        });
+    }
+
+private:
+    void RequireRights(const Author& author) const
+    {
+        RequireRight(*database_, author, RightToBringIn(*order_.into));
+        if (HasPrices(*order_.into))
+            RequireRight(*database_, author, Right::SeePrices);
+    }
+
+    ImportReport RunAllowed(const Author& author)
+    {
         Check();
         ImportReport report = ReportOf(run_);
         if (!report.IsGood() || !report.Writes())
@@ -65,7 +90,6 @@ public:
         return report;
     }
 
-private:
     /// Nobody waits for it.
     void Check()
     {
@@ -89,6 +113,7 @@ private:
     ImportReport Write(Author author)
     {
         WriteTransaction transaction(*database_);
+        RequireRights(author);
         LockImports(*database_);
         run_.LockRoom();
         if (!changes_ || changes_ != ChangesOfOthers(*database_))

@@ -48,7 +48,8 @@ ImportReport RehearseImport(const std::string& source, const ImportOrder& order,
 /// Brings a file into the shop at `source`: all of it, or nothing where any line is wrong. It is checked
 /// while others go on writing; then, where it would change anything, the shop's file is copied beside itself,
 /// and what others may have written meanwhile is looked at again before it is written, in one transaction
-/// that tells who, when and what in the audit. Fails with a DatabaseFailure; nothing is written then.
+/// that tells who, when and what in the audit. Fails with a DatabaseFailure, and with RightDenied where the
+/// author may not write such rows, or not their prices; nothing is written then.
 ImportReport BringIn(const std::string& source, const ImportOrder& order, const Author& author, DateTime now,
                      const ImportWatch& watch);
 

@@ -14,6 +14,7 @@
 #include "family/privacy/affected.hpp"
 #include "family/privacy/clean_values.hpp"
 #include "family/privacy/remains.hpp"
+#include "family/users/denials.hpp"
 
 namespace kova::family::privacy {
 
@@ -282,11 +283,13 @@ std::string WhyLateLinesStay(Anonymiser& anonymiser)
 AnonymiseAnswer WriteAll(Database& database, const AnonymiseRequest& request, const Author& author,
                          const LongWork& work)
 {
+    RequireRight(database, author, Right::Anonymise);
     Anonymiser anonymiser(database, request);
     AnonymiseAnswer answer = anonymiser.Look(author.moment, work);
     if (!answer.IsDone())
         return answer;
     WriteSafely(database, [&] {
+        RequireRight(database, author, Right::Anonymise);
         LockImports(database);
         // Who books for the customer now is waited for, and counts.
         FindByKey<HeldCustomer>(database, request.code);
@@ -320,7 +323,7 @@ AnonymiseAnswer Anonymise(const std::string& source, const AnonymiseRequest& req
     AnonymiseAnswer answer = Told(source, [&] {
         const std::shared_ptr<Database> database = OpenForLongWork(source);
         EraseWhatIsFreed(*database);
-        return WriteAll(*database, request, author, work);
+        return TellingDenials(*database, author, [&] { return WriteAll(*database, request, author, work); });
     });
     if (!answer.IsDone())
         return answer;

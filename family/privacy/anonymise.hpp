@@ -50,7 +50,7 @@ AnonymiseAnswer PlanToAnonymise(const std::string& source, const AnonymiseReques
 /// and its animals inactive. Appointments, dates, services, employees and values stay. Refused where booked
 /// appointments are still to come or pre-sales are open. A line of the audit tells who did it, when, and
 /// whose code it was. Afterwards what the engine has kept of the former values is taken away. Fails with a
-/// DatabaseFailure; nothing is written then.
+/// DatabaseFailure, and with RightDenied where the author may not; nothing is written then.
 AnonymiseAnswer Anonymise(const std::string& source, const AnonymiseRequest& request, const Author& author,
                           const LongWork& work);
 

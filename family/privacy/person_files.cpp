@@ -6,6 +6,7 @@
 #include "family/data/rows/people_rows.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/privacy/person_report.hpp"
+#include "family/users/denials.hpp"
 #include "system/path_text.hpp"
 
 #include <cerrno>
@@ -18,11 +19,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-PersonReport ReportOf(const std::string& source, Key code, DateTime now, const LongWork& work)
+PersonReport ReportOf(const std::string& source, Key code, const Author& author, DateTime now,
+                      const LongWork& work)
 {
     try {
         const std::unique_ptr<Database> database = OpenNewestForReading(source);
         const Snapshot snapshot(*database);
+        RequireRight(*database, author, Right::Export);
         // Whose data they are is asked for under the other code.
         if (const std::string merged = MergedText<CustomerRow>(*database, code); !merged.empty())
             throw DatabaseFailure(merged);
@@ -30,6 +33,10 @@ PersonReport ReportOf(const std::string& source, Key code, DateTime now, const L
         if (!data)
             throw DatabaseFailure("Não há cliente com o código " + std::to_string(code) + ".");
         return InWords(*data, now);
+    } catch (const RightDenied& denied) {
+        // Over another connection: that one only reads.
+        AuditDenial(*OpenDatabase(source), author, denied);
+        throw;
     } catch (const Interrupted& cause) {
         throw TranslatedFailure(source, cause);
     }
@@ -81,8 +88,8 @@ void FinishBoth(UnfinishedFile& first, UnfinishedFile& second)
 
 } // namespace
 
-PersonFiles ExportPerson(const std::string& source, Key code, const std::string& folder, DateTime now,
-                         const LongWork& work)
+PersonFiles ExportPerson(const std::string& source, Key code, const std::string& folder, const Author& author,
+                         DateTime now, const LongWork& work)
 {
     RequireFolder(folder);
     const std::string name =
@@ -90,7 +97,7 @@ PersonFiles ExportPerson(const std::string& source, Key code, const std::string&
     PersonFiles files{name + ".html", name + ".json"};
     // Before anything is read: what stands there already is refused at once.
     UnfinishedFile page(files.page), json(files.json);
-    const PersonReport report = ReportOf(source, code, now, work);
+    const PersonReport report = ReportOf(source, code, author, now, work);
     Write(page, PageOf(report));
     Write(json, JsonOf(report));
     FinishBoth(page, json);

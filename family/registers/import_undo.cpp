@@ -10,6 +10,7 @@
 #include "family/registers/description/references.hpp"
 #include "family/registers/description/taken_back.hpp"
 #include "family/registers/registers.hpp"
+#include "family/users/denials.hpp"
 
 #include <algorithm>
 #include <map>
@@ -245,13 +246,12 @@ void TakeAllBack(Database& database, UndoneImport& undone, const Author& author,
     work.Reach(total, total);
 }
 
-} // namespace
-
-UndoneImport UndoImport(Database& database, std::optional<Key> number, ChangedRows changed,
-                        const Author& author, const LongWork& work)
+UndoneImport UndoInTransaction(Database& database, std::optional<Key> number, ChangedRows changed,
+                               const Author& author, const LongWork& work)
 {
     try {
         WriteTransaction transaction(database);
+        RequireRight(database, author, Right::ChangeRegisters);
         LockImports(database);
         UndoneImport undone = Find(database, number);
         if (!undone.IsDone())
@@ -271,6 +271,15 @@ UndoneImport UndoImport(Database& database, std::optional<Key> number, ChangedRo
     } catch (const std::runtime_error& cause) {
         throw TranslatedFailure(database.Path(), cause);
     }
+}
+
+} // namespace
+
+UndoneImport UndoImport(Database& database, std::optional<Key> number, ChangedRows changed,
+                        const Author& author, const LongWork& work)
+{
+    return TellingDenials(database, author,
+                          [&] { return UndoInTransaction(database, number, changed, author, work); });
 }
 
 } // namespace kova::family::registers

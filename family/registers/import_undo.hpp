@@ -51,7 +51,8 @@ struct UndoneImport {
 /// with its line in the audit, and one more for the whole. All in one transaction, for which other imports
 /// and saves of registers wait. Rows whose newest line in the audit is another one, that stand otherwise than
 /// the import left them, or that others refer to, speak against it. Fails with a DatabaseFailure, also where
-/// the work is asked to end; nothing is taken back then.
+/// the work is asked to end, and with RightDenied where the author may not change registers; nothing is taken
+/// back then.
 UndoneImport UndoImport(Database& database, std::optional<Key> number, ChangedRows changed,
                         const Author& author, const LongWork& work);
 

@@ -123,7 +123,7 @@ void ExportDialog::Write()
     cancel_->setFocus();
     auto records = std::make_shared<long long>(0);
     job_->Begin(
-        [this, source = desk_.source, order = csv::ExportOrder{&register_, path},
+        [this, source = desk_.source, order = csv::ExportOrder{&register_, path}, author = desk_.author(),
          records](const std::stop_token& stop) {
             family::LongWork work;
             work.stop = stop;
@@ -135,7 +135,7 @@ void ExportDialog::Write()
                         progress_->setValue(static_cast<int>(reached));
                     });
             };
-            *records = csv::ExportTo(source, order, work);
+            *records = csv::ExportTo(source, order, author, work);
         },
         [this, records](const std::string& failure) { ShowWritten(*records, failure); });
 }

@@ -1,4 +1,5 @@
 #include "family/csv/exporting.hpp"
+#include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/csv_options.hpp"
 #include "tools/agenda-data/shown_work.hpp"
@@ -15,8 +16,9 @@ int Run(const Call& call, Surroundings& surroundings)
     const csv::ExportOrder order{&FindRegister(call, 1), call.Operand(2),
                                  GivenEncoding(call).value_or(csv::Encoding::Utf8),
                                  GivenSeparator(call).value_or(';')};
-    const long long records = csv::ExportTo(
-        call.Operand(0), order, LongWorkOf(surroundings.error, "Exportação", RecordsWithoutProgress));
+    const long long records =
+        csv::ExportTo(call.Operand(0), order, AuthorOf(call, surroundings.now),
+                      LongWorkOf(surroundings.error, "Exportação", RecordsWithoutProgress));
     surroundings.output << records << (records == 1 ? " linha exportada" : " linhas exportadas") << " em "
                         << csv::NameOf(order.encoding) << ".\n";
     return 0;

@@ -1,4 +1,5 @@
 #include "family/privacy/person_files.hpp"
+#include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/customer_option.hpp"
 #include "tools/agenda-data/shown_work.hpp"
@@ -13,8 +14,9 @@ int Run(const Call& call, Surroundings& surroundings)
     const std::optional<std::string> folder = call.Option("--to");
     if (!folder)
         call.Refuse("Informe com --to a pasta em que os arquivos são gravados.");
-    const family::privacy::PersonFiles files = family::privacy::ExportPerson(
-        call.Operand(0), customer, *folder, surroundings.now, ShownWork(surroundings.error, "Auditoria"));
+    const family::privacy::PersonFiles files =
+        family::privacy::ExportPerson(call.Operand(0), customer, *folder, AuthorOf(call, surroundings.now),
+                                      surroundings.now, ShownWork(surroundings.error, "Auditoria"));
     surroundings.output << "Página: " << files.page << "\nJSON: " << files.json << "\n";
     return 0;
 }

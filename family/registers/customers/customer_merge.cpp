@@ -14,6 +14,7 @@
 #include "family/registers/customers/merged_customer.hpp"
 #include "family/registers/description/field_merge.hpp"
 #include "family/registers/description/references.hpp"
+#include "family/users/denials.hpp"
 
 #include <algorithm>
 #include <map>
@@ -310,9 +311,12 @@ MergeAnswer MergeCustomers(Database& database, const CustomerMerge& plan,
                            std::span<const AlikeAnimals> joined, const Author& author)
 {
     MergeAnswer answer;
-    WriteSafely(database, [&] {
-        answer = Merging(database, plan, joined, author).Run();
-        return answer.IsDone();
+    TellingDenials(database, author, [&] {
+        WriteSafely(database, [&] {
+            RequireRight(database, author, Right::ChangeRegisters);
+            answer = Merging(database, plan, joined, author).Run();
+            return answer.IsDone();
+        });
     });
     return answer;
 }

@@ -58,7 +58,8 @@ struct MergeAnswer {
 /// that a desk that has it on show notices. Every row that changes leaves its line in the audit, and the
 /// merge a line under either customer. Of the pairs in `joined` only the first animal stays, with the
 /// second's appointments; all other animals of the other customer go on as they are. Refused where one of
-/// the customers, or an animal of a pair, is not as it was planned.
+/// the customers, or an animal of a pair, is not as it was planned. Fails with RightDenied where the author
+/// may not change registers.
 MergeAnswer MergeCustomers(Database& database, const CustomerMerge& plan,
                            std::span<const AlikeAnimals> joined, const Author& author);
 

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/failure.hpp"
 #include "family/data/engine/safe_write.hpp"
+#include "family/users/denials.hpp"
 
 #include <algorithm>
 
@@ -10,12 +11,14 @@ namespace kova::family::registers {
 namespace {
 
 /// `write` may run more than once; the last answer counts.
-template <class Write> auto InTransaction(Database& database, Write write)
+template <class Write> auto InTransaction(Database& database, const Author& author, Write write)
 {
     decltype(write()) answer;
-    WriteSafely(database, [&] {
-        answer = write();
-        return answer.IsDone();
+    TellingDenials(database, author, [&] {
+        WriteSafely(database, [&] {
+            answer = write();
+            return answer.IsDone();
+        });
     });
     return answer;
 }
@@ -25,12 +28,12 @@ template <class Write> auto InTransaction(Database& database, Write write)
 SaveAnswer Register::Save(Database& database, Key key, const Texts& before, const Texts& typed,
                           const Author& author) const
 {
-    return InTransaction(database, [&] { return SaveWithin(database, key, before, typed, author); });
+    return InTransaction(database, author, [&] { return SaveWithin(database, key, before, typed, author); });
 }
 
 RemoveAnswer Register::Remove(Database& database, Key key, const Author& author) const
 {
-    return InTransaction(database, [&] { return RemoveWithin(database, key, author); });
+    return InTransaction(database, author, [&] { return RemoveWithin(database, key, author); });
 }
 
 std::string Register::ConcernAbout(Database&, Key, const Texts&) const { return {}; }
@@ -39,7 +42,7 @@ std::vector<Suggestion> Register::Suggestions(Database&, int) const { return {};
 
 SaveAnswer Register::AddAll(Database& database, std::span<const Texts> rows, const Author& author) const
 {
-    return InTransaction(database, [&] {
+    return InTransaction(database, author, [&] {
         SaveAnswer answer;
         for (const Texts& row : rows) {
             answer = SaveWithin(database, 0, {}, row, author);

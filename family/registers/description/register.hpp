@@ -4,6 +4,7 @@
 #include "family/data/audit/author.hpp"
 #include "family/data/engine/key.hpp"
 #include "family/registers/description/field.hpp"
+#include "family/users/rights.hpp"
 
 #include <functional>
 #include <optional>
@@ -187,6 +188,10 @@ public:
     virtual const char* Table() const = 0;
     /// The first is the code. They stay where they are as long as the process.
     virtual const std::vector<FieldInfo>& Fields() const = 0;
+
+    /// What its rows are written with: without it every write fails with RightDenied, which stands in the
+    /// audit.
+    virtual Right RightToWrite() const { return Right::ChangeRegisters; }
 
     /// What the form of a new row shows.
     virtual Texts New() const = 0;

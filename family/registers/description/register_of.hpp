@@ -18,6 +18,7 @@
 #include "family/registers/description/record_texts.hpp"
 #include "family/registers/description/references.hpp"
 #include "family/registers/description/taken_back.hpp"
+#include "family/users/user_rights.hpp"
 
 #include <algorithm>
 #include <unordered_map>
@@ -69,6 +70,7 @@ public:
     SaveAnswer SaveAmong(Database& database, const RowsToBe& rows, Key key, const Texts& before,
                          const Texts& typed, const Author& author) const override
     {
+        RequireRight(database, author, RightToWrite());
         LockImports(database);
         return Answer<Locked<Record>>({database, rows}, key, before, typed, &author);
     }
@@ -81,6 +83,7 @@ public:
 
     RemoveAnswer RemoveWithin(Database& database, Key key, const Author& author) const override
     {
+        RequireRight(database, author, RightToWrite());
         LockImports(database);
         const auto stored = FindRow<Locked<Record>>(database, key);
         if (!stored)
@@ -99,6 +102,7 @@ public:
                                 const AuditedColumns& before, const AuditedColumns& after,
                                 const Author& author) const override
     {
+        RequireRight(database, author, RightToWrite());
         LockImports(database);
         const auto stored = FindRow<Locked<Record>>(database, key);
         if (!stored)
@@ -408,6 +412,10 @@ private:
         if (!refusals.IsEmpty())
             return {
                 .outcome = SaveAnswer::Outcome::Refused, .key = answer.key, .refused = refusals.InOrder()};
+        if (author && std::ranges::any_of(answer.changed, [this](const ChangedField& one) {
+                return fields_[one.field].kind == FieldKind::Money;
+            }))
+            RequireRight(database, *author, Right::SeePrices);
         if (author && !(stored && IsSame(*stored, record)))
             answer.key = WriteRecord(among, stored, record, *author);
         if (author && stored && IsActive(*stored) && !IsActive(record) && *BookedBy())

@@ -14,7 +14,7 @@ class PersonFilesOfAShop : public PrivacyTest {
 protected:
     privacy::PersonFiles Export(Key code = 10)
     {
-        return privacy::ExportPerson(host_.DataSource(), code, to_.Path().string(), now_, {});
+        return privacy::ExportPerson(host_.DataSource(), code, to_.Path().string(), ana_, now_, {});
     }
     std::vector<std::string> Names() const
     {
@@ -65,7 +65,7 @@ TEST_F(PersonFilesOfAShop, AreThereBothOrNotAtAll)
 TEST_F(PersonFilesOfAShop, WantAFolderThatIsThere)
 {
     EXPECT_NE(FailureOf([&] {
-                  privacy::ExportPerson(host_.DataSource(), 10, to_ / "nenhuma", now_, {});
+                  privacy::ExportPerson(host_.DataSource(), 10, to_ / "nenhuma", ana_, now_, {});
               }).find("não existe"),
               std::string::npos);
 }
@@ -79,7 +79,7 @@ TEST_F(PersonFilesOfAShop, AreNotMadeWhereTheWorkIsStopped)
     Change(2, 2);
     ASSERT_EQ(Count("auditoria"), 1) << "before the first line is read";
     EXPECT_NE(FailureOf([&] {
-                  privacy::ExportPerson(host_.DataSource(), 10, to_.Path().string(), now_, work);
+                  privacy::ExportPerson(host_.DataSource(), 10, to_.Path().string(), ana_, now_, work);
               }).find("interrompido"),
               std::string::npos);
     EXPECT_EQ(Names(), std::vector<std::string>{});
