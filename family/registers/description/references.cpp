@@ -29,6 +29,8 @@ constexpr Words AllWords[] = {
     {"especie", "espécie", "espécies"},
     {"tipo_de_servico", "tipo de serviço", "tipos de serviço"},
     {"funcionario", "funcionário(a)", "funcionários"},
+    {"usuario", "usuário", "usuários"},
+    {"papel", "papel", "papéis"},
 };
 
 /// Runs what asks the engine directly.

@@ -186,6 +186,11 @@ protected:
     /// What speaks against a record beyond its single fields; `stored` is missing for a new one. Fills in
     /// what follows from the fields. A field that could not be read is refused already.
     virtual void CheckRecord(const Among&, const Record* stored, Record& record, Refusals&) const = 0;
+    /// Whether the record stands there already as it is.
+    virtual bool IsUnchanged(const Record& stored, const Record& record) const
+    {
+        return ValuesOf<Record>(stored).Line() == ValuesOf<Record>(record).Line();
+    }
     /// Writes a record that is good, with its line in the audit. Answers its key.
     virtual Key WriteRecord(Database& database, const Record* stored, Record& record,
                             const Author& author) const
@@ -415,8 +420,8 @@ private:
         if (author && std::ranges::any_of(answer.changed, [this](const ChangedField& one) {
                 return fields_[one.field].kind == FieldKind::Money;
             }))
-            RequireRight(database, *author, Right::SeePrices);
-        if (author && !(stored && IsSame(*stored, record)))
+            RequireRight(among, *author, Right::SeePrices);
+        if (author && !(stored && IsUnchanged(*stored, record)))
             answer.key = WriteRecord(among, stored, record, *author);
         if (author && stored && IsActive(*stored) && !IsActive(record) && *BookedBy())
             answer.booked = BookedSince(among, BookedBy(), answer.key, author->moment);
@@ -452,11 +457,6 @@ private:
             return {RemoveAnswer::Outcome::Kept, "O que havia antes não cabe mais. " + why};
         WriteRecord(among, &stored, record, author);
         return {};
-    }
-
-    static bool IsSame(const Record& one, const Record& other)
-    {
-        return ValuesOf<Record>(one).Line() == ValuesOf<Record>(other).Line();
     }
 
     std::string InUse(const std::string& users) const
