@@ -418,7 +418,7 @@ private:
             return {
                 .outcome = SaveAnswer::Outcome::Refused, .key = answer.key, .refused = refusals.InOrder()};
         if (author && std::ranges::any_of(answer.changed, [this](const ChangedField& one) {
-                return fields_[one.field].kind == FieldKind::Money;
+                return Fields()[one.field].kind == FieldKind::Money;
             }))
             RequireRight(among, *author, Right::SeePrices);
         if (author && !(stored && IsUnchanged(*stored, record)))

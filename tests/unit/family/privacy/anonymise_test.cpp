@@ -394,7 +394,7 @@ TEST_F(AnonymousCustomer, IsAskedForUnderTheCodeThatItGoesOnWith)
     EXPECT_EQ(answer.text, told);
     EXPECT_EQ(WholeDatabase(), before);
     const std::string failure = FailureOf(
-        [&] { privacy::ExportPerson(host_.DataSource(), gone, folder_.Path().string(), now_, {}); });
+        [&] { privacy::ExportPerson(host_.DataSource(), gone, folder_.Path().string(), ana_, now_, {}); });
     EXPECT_NE(failure.find(told), std::string::npos) << failure;
 }
 
