@@ -1,5 +1,6 @@
 if(NOT KOVARIS_CORE_ONLY)
-    kovaris_test_program(test_tools agenda_data_commands test_postgres_server)
+    kovaris_test_program(test_tools agenda_data_commands)
+    target_link_libraries(test_tools PRIVATE test_postgres_server)
     kovaris_precompile(test_tools ${CMAKE_CURRENT_LIST_DIR}/import_fixture.hpp <soci/soci.h>)
 
     # All of it again with the databases on a server. Left out is what needs none, and the disk that is full: it
