@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -48,6 +49,8 @@ RegistersPage::RegistersPage(Desk desk, QWidget* parent, RecordActions actions)
         item->setSizeHint({0, HeightOfName});
         pages_->addWidget(new QWidget(pages_));
     }
+    // On a low screen the names scroll, and the bar must not cover their ends.
+    widest += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, names_);
     LayOut(std::max(LeastWidthOfNames, widest + RoomBesideNames));
     connect(names_, &QListWidget::currentRowChanged, this, [this](int row) { TurnTo(row); });
     AddShortcuts();

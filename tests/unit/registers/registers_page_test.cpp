@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStyle>
 #include <QTimer>
@@ -27,9 +28,12 @@ TEST_F(CadastrosTest, NamesEveryRegisterOfTheShop)
         EXPECT_NE(std::find(names.begin(), names.end(), name), names.end()) << name;
 }
 
-TEST_F(CadastrosTest, HasRoomForTheLongestName)
+TEST_F(CadastrosTest, HasRoomForTheLongestNameBesideTheBarOfALowScreen)
 {
     auto& list = Find<QListWidget>("cadastros");
+    list.setFixedHeight(list.sizeHintForRow(0) * 3);
+    QApplication::processEvents();
+    ASSERT_TRUE(list.verticalScrollBar()->isVisible());
     const int margin = 1 + list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list);
     for (int row = 0; row < list.count(); ++row) {
         const QString name = list.item(row)->text();
