@@ -26,6 +26,8 @@ public:
     /// Where something is typed in any of them that was not saved: asks, one after the other. False where the
     /// user stays.
     bool MayLeave();
+    /// Shows in every list what is stored now.
+    void Refresh();
 
 private:
     void LayOut(int widthOfNames);
@@ -36,8 +38,6 @@ private:
     void Open(QDialog& dialog);
     /// The name of the register on show.
     std::string_view CurrentName() const;
-    /// Shows in every list what is stored now.
-    void Refresh();
     void TurnTo(int row);
     /// To the register so many below, or above, in the list of them.
     void TurnBy(int step);

@@ -3,6 +3,7 @@
 #include "family/business/current_author.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "host/folders.hpp"
+#include "host/session/user_change.hpp"
 #include "host/shell/main_window.hpp"
 #include "registers/company_question.hpp"
 #include "registers/registers_page.hpp"
@@ -40,8 +41,8 @@ QString DraftsOf(const std::string& source)
 
 } // namespace
 
-RegistersTab::RegistersTab(std::string source, ObjectRef user, const Clock& clock)
-    : source_(std::move(source)), user_(std::move(user)), clock_(clock)
+RegistersTab::RegistersTab(std::string source, ObjectRef user, const Clock& clock, UserChange& change)
+    : source_(std::move(source)), user_(std::move(user)), clock_(clock), change_(change)
 {
 }
 
@@ -71,6 +72,7 @@ QWidget* RegistersTab::MakePage(QWidget& parent)
         registers::Desk desk = OpenDesk();
         desk.drafts = std::make_shared<screens::DraftFolder>(DraftsOf(source_));
         page_ = new registers::RegistersPage(std::move(desk), &parent);
+        change_.Follow(*page_, [this] { page_->Refresh(); });
         return page_;
     } catch (const Failure& failure) {
         return Explanation(QStringLiteral("Os cadastros não puderam ser abertos.\n\n")

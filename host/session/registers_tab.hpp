@@ -14,13 +14,14 @@ class RegistersPage;
 namespace kova::host {
 
 class MainWindow;
+class UserChange;
 
 /// The registers' tab over a connection of its own to the shop at that source. It is opened when the tab is
 /// turned to for the first time, so that the start does not wait for it.
 class RegistersTab {
 public:
     /// `user` and `clock` say who writes, and when. All must outlive the window.
-    RegistersTab(std::string source, ObjectRef user, const Clock& clock);
+    RegistersTab(std::string source, ObjectRef user, const Clock& clock, UserChange& change);
 
     void AddTo(MainWindow& window);
     /// Asks a shop that has no company for it, and answers its trade name: "" where the user leaves that for
@@ -36,6 +37,7 @@ private:
     std::string source_;
     ObjectRef user_;
     const Clock& clock_;
+    UserChange& change_;
     /// Null before the page is made.
     registers::RegistersPage* page_ = nullptr;
 };

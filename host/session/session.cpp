@@ -18,6 +18,7 @@
 #include "host/session/session_clock.hpp"
 #include "host/session/session_user.hpp"
 #include "host/session/shop.hpp"
+#include "host/session/user_change.hpp"
 #include "host/shell/main_window.hpp"
 #include "system/path_text.hpp"
 #include "toolkits/common/form.hpp"
@@ -113,7 +114,8 @@ private:
     HostPlatform platform_;
     RegistryServerHost server_;
     RegisteredComponents components_;
-    ObjectRef user_;
+    std::shared_ptr<SessionUser> user_;
+    UserChange userChange_;
     std::unique_ptr<RegistersTab> registers_;
     std::unique_ptr<MainWindow> window_;
     ComponentRef agenda_;
@@ -126,7 +128,7 @@ SessionEnd Session::Run()
     Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
     user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
-    registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_);
+    registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_, userChange_);
     if (shop.tradeName.empty() && outlet_ == Outlet::Window && !options_.firstPaint)
         shop.tradeName = registers_->AskForCompany();
     window_ = std::make_unique<MainWindow>(MainWindow::Heading{QString::fromStdString(shop.tradeName),

@@ -6,6 +6,12 @@ namespace kova::host {
 
 SessionUser::SessionUser(Long code, Text name) : code_(code), name_(std::move(name)) { }
 
+void SessionUser::Become(Long code, Text name)
+{
+    code_ = code;
+    name_ = std::move(name);
+}
+
 std::span<const Property<SessionUser>> SessionUser::Properties()
 {
     static constexpr Property<SessionUser> properties[] = {

@@ -2,6 +2,7 @@
 
 #include "host/session/session_clock.hpp"
 #include "host/session/session_user.hpp"
+#include "host/session/user_change.hpp"
 #include "host/shell/main_window.hpp"
 #include "tests/unit/host/program_run.hpp"
 #include "tests/unit/host/with_application.hpp"
@@ -25,7 +26,8 @@ TEST_F(TheTabOfTheRegisters, TellsWhyTheyCannotBeOpenedInAsManyLinesAsItNeeds)
     const std::string folder = "uma pasta que foi levada para outro lugar enquanto a agenda estava aberta";
     const fs::path lost = home.Path() / folder / folder / folder / "loja.db";
     const SessionClock clock;
-    RegistersTab tab(lost.string(), std::make_shared<SessionUser>(1, "Ana"), clock);
+    UserChange change;
+    RegistersTab tab(lost.string(), std::make_shared<SessionUser>(1, "Ana"), clock, change);
     MainWindow window({"", false, ""});
     tab.AddTo(window);
     window.Open(WindowSize{1000, 700});

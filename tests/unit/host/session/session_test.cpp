@@ -41,6 +41,14 @@ TEST(SessionUser, CannotBeWrittenAndHasNothingElse)
     EXPECT_EQ(user.Get("Nome"), Value("Ana"));
 }
 
+TEST(SessionUser, BecomesAnother)
+{
+    SessionUser user(7, "Ana");
+    user.Become(8, "Bia");
+    EXPECT_EQ(user.Get("Codigo"), Value(Long{8}));
+    EXPECT_EQ(user.Get("Nome"), Value("Bia"));
+}
+
 TEST(SessionClock, StaysOnTheGivenDay)
 {
     const SessionClock clock(Date{2026, 3, 25});
