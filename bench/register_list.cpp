@@ -4,6 +4,7 @@
 #include "bench/floor_list.hpp"
 #include "bench/measure.hpp"
 #include "bench/paint_watch.hpp"
+#include "family/data/audit/audit.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/registers/registers.hpp"
 #include "registers/registers_page.hpp"
@@ -119,9 +120,7 @@ std::vector<double> PressAfterAChange(ListInWindow& window, const std::string& p
         window.Clear();
         other->Session() << "begin immediate";
         other->Session() << "update cliente set nome_de_busca = nome_de_busca where codigo = 77";
-        other->Session()
-            << "insert into auditoria (momento, usuario, tabela, chave, operacao, antes, depois)"
-               " values ('2026-11-20 09:00:00', '1 - Ana', 'cliente', 77, 'alteracao', '{}', '{}')";
+        family::AuditChange(*other, {"1", "Ana", "2026-11-20 09:00:00"}, "cliente", 77, {}, {});
         other->Session() << "commit";
         times.push_back(
             window.Press(QString::fromUtf8(FirstKeys[static_cast<std::size_t>(round) % FirstKeys.size()])));

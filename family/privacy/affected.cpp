@@ -1,5 +1,6 @@
 #include "family/privacy/affected.hpp"
 
+#include "family/data/audit/audit_chain.hpp"
 #include "family/data/rows/select_where.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/pre_sales.hpp"
@@ -71,6 +72,9 @@ AffectedAppointments FindAffected(Database& database, const Person& person, std:
 std::string WhyNotNow(Database& database, const Person& person, const AffectedAppointments& affected,
                       const std::string& moment)
 {
+    if (!MayRewriteAudit(database))
+        return "O usuário deste endereço não pode alterar a auditoria, como convém a um posto. Quem cuida do "
+               "servidor torna o cliente anônimo com \"agenda-data forget\" e o usuário que é dono do banco.";
     const std::string customer = "O cliente " + std::to_string(person.code);
     if (const std::vector<Key> numbers = StillToCome(affected, moment); !numbers.empty())
         return customer + " ainda tem agendamentos marcados: " + Listed(numbers)

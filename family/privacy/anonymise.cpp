@@ -2,6 +2,8 @@
 
 #include "family/business/merged_row_text.hpp"
 #include "family/data/audit/audit.hpp"
+#include "family/data/audit/audit_chain.hpp"
+#include "family/data/audit/code_ranges.hpp"
 #include "family/data/audit/import_audit.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/safe_write.hpp"
@@ -120,7 +122,7 @@ public:
 
     /// Cleans the lines that a desk had written, but not yet kept, when the audit was looked through. To be
     /// run where several write at a time, after what Write has written is kept.
-    void CleanLateLines(const LongWork& work)
+    void CleanLateLines(const Author& author, const LongWork& work)
     {
         BeginAnew();
         CollectLines(work);
@@ -128,6 +130,7 @@ public:
             return;
         WriteSafely(database_, [&] {
             WriteLines();
+            Tell(author, {});
             return true;
         });
     }
@@ -141,12 +144,11 @@ public:
         for (const AppointmentRow& row : affected_.all)
             WriteAppointment(row.numero);
         WriteLines();
-        AuditAnonymisation(database_, author, CustomerRow::Table, person_->code,
-                           AuditValues()
-                               .Add("canais", answer.channels)
-                               .Add("animais", answer.animals)
-                               .Add("agendamentos", answer.appointments)
-                               .Add("linhas_da_auditoria", answer.auditLines));
+        Tell(author,
+             AuditValues()
+                 .Add("canais", answer.channels)
+                 .Add("animais", answer.animals)
+                 .Add("agendamentos", answer.appointments));
     }
 
 private:
@@ -158,8 +160,21 @@ private:
 
     void WriteLines()
     {
-        for (const AuditTexts& line : lines_)
+        for (const AuditTexts& line : lines_) {
             Update(database_, line);
+            LinkAnew(database_, line.codigo);
+        }
+    }
+
+    /// Behind the lines that were cleaned: those that it names are known to be changed rightly.
+    void Tell(const Author& author, AuditValues what)
+    {
+        std::vector<Key> codes;
+        for (const AuditTexts& line : lines_)
+            codes.push_back(line.codigo);
+        what.Add("linhas_da_auditoria", static_cast<long long>(codes.size()))
+            .Add(CleanedLinesColumn, RangesOf(codes));
+        AuditAnonymisation(database_, author, CustomerRow::Table, person_->code, what);
     }
 
     AnonymiseAnswer Counted() const
@@ -186,6 +201,9 @@ private:
         LinesOfPerson judge(*person_, std::move(numbers));
         VisitAudit(database_, lastLine_, work, [&](const StoredAuditLine& line) {
             lastLine_ = line.codigo;
+            // It names nobody, and tells which lines were changed rightly.
+            if (line.operacao == audit_operation::Anonymisation)
+                return;
             AuditTexts cleaned{line.codigo, CleanedText(judge, line, line.antes),
                                CleanedText(judge, line, line.depois)};
             // A null is never cleaned.
@@ -268,10 +286,10 @@ template <class Act> auto Told(const std::string& source, Act act)
 }
 
 /// Empty where none stays.
-std::string WhyLateLinesStay(Anonymiser& anonymiser)
+std::string WhyLateLinesStay(Anonymiser& anonymiser, const Author& author)
 {
     try {
-        anonymiser.CleanLateLines({});
+        anonymiser.CleanLateLines(author, {});
         return {};
     } catch (const DatabaseFailure& failure) {
         return "O histórico não pôde ser conferido até o fim; torne o cliente anônimo mais uma vez. "
@@ -299,7 +317,7 @@ AnonymiseAnswer WriteAll(Database& database, const AnonymiseRequest& request, co
         return answer.IsDone();
     });
     if (answer.IsDone() && database.GetDialect().IsServer())
-        answer.remains = WhyLateLinesStay(anonymiser);
+        answer.remains = WhyLateLinesStay(anonymiser, author);
     return answer;
 }
 

@@ -48,9 +48,10 @@ AnonymiseAnswer PlanToAnonymise(const std::string& source, const AnonymiseReques
 /// Takes from every table of the shop at `source`, the audit included, what tells who a customer is, in one
 /// transaction: names become nobody's, texts are emptied, contact channels go, the customer becomes deleted
 /// and its animals inactive. Appointments, dates, services, employees and values stay. Refused where booked
-/// appointments are still to come or pre-sales are open. A line of the audit tells who did it, when, and
-/// whose code it was. Afterwards what the engine has kept of the former values is taken away. Fails with a
-/// DatabaseFailure, and with RightDenied where the author may not; nothing is written then.
+/// appointments are still to come or pre-sales are open, and on a server to whoever may not change the audit.
+/// A line of the audit tells who did it, when, whose code it was, and which lines were cleaned. Afterwards
+/// what the engine has kept of the former values is taken away. Fails with a DatabaseFailure, and with
+/// RightDenied where the author may not; nothing is written then.
 AnonymiseAnswer Anonymise(const std::string& source, const AnonymiseRequest& request, const Author& author,
                           const LongWork& work);
 

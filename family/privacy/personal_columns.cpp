@@ -42,6 +42,9 @@ constexpr ColumnsThatHold Columns[] = {
     {"auditoria", Holds::Figure, "codigo momento tabela chave operacao"},
     {"auditoria", Holds::ValuesOfRows, "antes depois"},
     {"auditoria", Holds::Staff, "usuario posto"},
+    {"elo_da_auditoria", Holds::NoPerson, "ordem codigo_da_linha"},
+    // Digests of the lines.
+    {"elo_da_auditoria", Holds::Composed, "sal elo"},
 
     {"empresa", Holds::Staff, "codigo nome_fantasia razao_social cnpj endereco telefone"},
     {"usuario", Holds::Staff, "codigo nome situacao"},

@@ -21,7 +21,7 @@ enum class Holds {
     Text,
     /// The same of a column that may be Null, and is so afterwards.
     OptionalText,
-    /// Composed of others for searching and showing: not exported, and composed anew afterwards.
+    /// Composed of others, for searching, showing and checking: not exported, and composed anew afterwards.
     Composed,
     /// Values of rows, as the audit keeps them: exported and cleaned as the columns that they are of.
     ValuesOfRows,

@@ -14,13 +14,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Tables with values of persons.
+/// Tables with values of persons, or with what was made of such.
 std::set<std::string> TablesWithPersons()
 {
     std::set<std::string> tables;
     for (const ColumnsThatHold& one : AllColumns()) {
         const bool ofPerson = one.holds == Holds::Name || one.holds == Holds::Text
-            || one.holds == Holds::OptionalText || one.holds == Holds::ValuesOfRows;
+            || one.holds == Holds::OptionalText || one.holds == Holds::ValuesOfRows
+            || one.holds == Holds::Composed;
         if (ofPerson)
             tables.emplace(one.table);
     }

@@ -1,3 +1,4 @@
+#include "family/data/checks/audit_check.hpp"
 #include "family/data/checks/database_check.hpp"
 #include "family/data/checks/rule_check.hpp"
 #include "family/data/engine/snapshot.hpp"
@@ -14,20 +15,27 @@ namespace {
 /// Smaller databases are looked through before anybody asks how far it is.
 constexpr long long RowsWithoutProgress = 50'000;
 
-family::LongWork WorkOn(const family::DatabaseReport& report, Surroundings& surroundings)
+family::LongWork WorkOn(const family::DatabaseReport& report, const std::string& what,
+                        Surroundings& surroundings)
 {
     long long rows = 0;
     for (const family::TableCount& table : report.tables)
         rows += table.rows;
-    return rows > RowsWithoutProgress ? ShownWork(surroundings.error, "Verificação") : family::LongWork();
+    return rows > RowsWithoutProgress ? ShownWork(surroundings.error, what) : family::LongWork();
 }
 
-std::vector<std::string> BrokenRules(const std::string& source, DateTime now, const family::LongWork& work)
+std::vector<std::string> BrokenRules(const std::string& source, const family::DatabaseReport& report,
+                                     Surroundings& surroundings)
 {
     const std::unique_ptr<family::Database> database = family::OpenForReading(source);
     const family::Snapshot snapshot(*database);
     try {
-        return family::FindBrokenRules(*database, now, work);
+        std::vector<std::string> problems =
+            family::FindBrokenRules(*database, surroundings.now, WorkOn(report, "Verificação", surroundings));
+        for (std::string& problem :
+             family::FindBrokenChain(*database, WorkOn(report, "Auditoria", surroundings)))
+            problems.push_back(std::move(problem));
+        return problems;
     } catch (const std::runtime_error& cause) {
         throw family::TranslatedFailure(source, cause);
     }
@@ -37,8 +45,7 @@ std::vector<std::string> BrokenRules(const std::string& source, DateTime now, co
 std::vector<std::string> ProblemsOf(const std::string& source, const family::DatabaseReport& report,
                                     Surroundings& surroundings)
 {
-    return report.problems.empty() ? BrokenRules(source, surroundings.now, WorkOn(report, surroundings))
-                                   : report.problems;
+    return report.problems.empty() ? BrokenRules(source, report, surroundings) : report.problems;
 }
 
 int Run(const Call& call, Surroundings& surroundings)
@@ -61,9 +68,9 @@ int Run(const Call& call, Surroundings& surroundings)
 
 const Command CheckCommand{
     {"check",
-     "Verifica se o banco está íntegro e se o que contém segue as regras, e conta as suas\n"
-     "linhas; escreve cada problema com a tabela e o número do registro. O que os cadastros não\n"
-     "aceitariam mais, mas está lá desde antes, é só um aviso.",
+     "Verifica se o banco está íntegro, se o que contém segue as regras e se a auditoria está como\n"
+     "foi gravada, e conta as suas linhas; escreve cada problema com a tabela e o número do\n"
+     "registro. O que os cadastros não aceitariam mais, mas está lá desde antes, é só um aviso.",
      {"BANCO"}},
     Run,
 };

@@ -1,8 +1,7 @@
 #include "family/data/audit/audit.hpp"
 
 #include "agenda/contracts/utf8.hpp"
-#include "family/data/rows/insert_row.hpp"
-#include "family/data/rows/insert_rows.hpp"
+#include "family/data/audit/audit_chain.hpp"
 
 #include <nlohmann/json.hpp>
 
@@ -74,21 +73,21 @@ void AuditInsertion(Database& database, const Author& author, const char* table,
 {
     AuditRow row = RowOf(author, table, key, audit_operation::Insertion);
     row.depois = WithImport(after, author).Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 void AuditImport(Database& database, const Author& author, const AuditValues& what)
 {
     AuditRow row = RowOf(author, ImportsTable, author.importNumber, audit_operation::Import);
     row.depois = what.Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 void AuditUndoneImport(Database& database, const Author& author, Key number, const AuditValues& what)
 {
     AuditRow row = RowOf(author, ImportsTable, number, audit_operation::ImportUndone);
     row.depois = what.Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 void AuditChange(Database& database, const Author& author, const char* table, Key key,
@@ -97,7 +96,7 @@ void AuditChange(Database& database, const Author& author, const char* table, Ke
     AuditRow row = RowOf(author, table, key, audit_operation::Change);
     row.antes = before.Line();
     row.depois = WithImport(after, author).Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
@@ -105,7 +104,7 @@ void AuditRemoval(Database& database, const Author& author, const char* table, K
 {
     AuditRow row = RowOf(author, table, key, audit_operation::Removal);
     row.antes = before.Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 void AuditRemovals(Database& database, const Author& author, const char* table,
@@ -116,7 +115,7 @@ void AuditRemovals(Database& database, const Author& author, const char* table,
         rows.push_back(RowOf(author, table, key, audit_operation::Removal));
         rows.back().antes = values.Line();
     }
-    InsertAll<AuditRow>(database, rows);
+    AddLines(database, std::move(rows));
 }
 
 void AuditMerging(Database& database, const Author& author, const char* table, Key kept, Key gone,
@@ -124,10 +123,10 @@ void AuditMerging(Database& database, const Author& author, const char* table, K
 {
     AuditRow row = RowOf(author, table, kept, audit_operation::Merging);
     row.depois = what.Add("unido", gone).Line();
-    Insert(database, row);
+    AddLine(database, row);
     row.chave = gone;
     row.depois = AuditValues().Add("unido_a", kept).Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
@@ -135,7 +134,7 @@ void AuditRestoration(Database& database, const Author& author, const char* tabl
 {
     AuditRow row = RowOf(author, table, key, audit_operation::Restoration);
     row.depois = after.Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 void AuditAnonymisation(Database& database, const Author& author, const char* table, Key key,
@@ -143,7 +142,7 @@ void AuditAnonymisation(Database& database, const Author& author, const char* ta
 {
     AuditRow row = RowOf(author, table, key, audit_operation::Anonymisation);
     row.depois = what.Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 void AuditAccess(Database& database, const Author& author, const char* operation, Key user,
@@ -151,7 +150,7 @@ void AuditAccess(Database& database, const Author& author, const char* operation
 {
     AuditRow row = RowOf(author, "usuario", user, operation);
     row.depois = what.Line();
-    Insert(database, row);
+    AddLine(database, row);
 }
 
 } // namespace kova::family

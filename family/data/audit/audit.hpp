@@ -1,7 +1,7 @@
 #pragma once
 
 #include "family/data/audit/author.hpp"
-#include "family/data/rows/rows.hpp"
+#include "family/data/engine/audit_link.hpp"
 
 #include <span>
 #include <string>
@@ -61,27 +61,16 @@ inline constexpr std::string_view ImportColumn = "importacao";
 /// In the place of a table where a line is about an import itself; its key is the import's number.
 inline constexpr const char* ImportsTable = "importacao";
 
-/// A row of the audit; the engine numbers it. `usuario` is "CODE - NAME", `posto` the computer's name.
-struct AuditRow {
-    static constexpr const char* Table = "auditoria";
-    std::string momento, usuario, posto, tabela;
-    Key chave = 0;
-    /// One of audit_operation.
-    std::string operacao;
-    /// The written columns only; `antes` is Null for a new or restored row, `depois` for one that is gone.
-    Nullable<std::string> antes, depois;
+/// Stands in the line of an anonymisation: the codes of the lines that it has cleaned (code_ranges.hpp).
+inline constexpr std::string_view CleanedLinesColumn = "linhas_limpas";
 
-    template <class Visit> void Columns(Visit visit)
-    {
-        visit("momento", momento);
-        visit("usuario", usuario);
-        visit("posto", posto);
-        visit("tabela", tabela);
-        visit("chave", chave);
-        visit("operacao", operacao);
-        visit("antes", antes);
-        visit("depois", depois);
-    }
+/// A row of the audit; the engine numbers it. `usuario` is "CODE - NAME", `posto` the computer's name,
+/// `operacao` one of audit_operation. `antes` and `depois` hold the written columns only; `antes` is Null for
+/// a new or restored row, `depois` for one that is gone.
+struct AuditRow : ChainedLine {
+    static constexpr const char* Table = "auditoria";
+    /// It is written with its link alone (audit_chain.hpp).
+    static constexpr bool IsChained = true;
 };
 
 /// All columns of a row.

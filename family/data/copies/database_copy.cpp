@@ -3,6 +3,7 @@
 #include "family/data/copies/row_copy.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/unfinished_file.hpp"
+#include "family/data/migrations/chained_audit.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_source.hpp"
 #include "family/data/sources/trial_restore.hpp"
@@ -25,7 +26,10 @@ std::vector<TableCount> CountsOf(const std::vector<TableSum>& sums)
 void FillFrom(Database& source, Database& target, const LongWork& work, std::vector<TableCount>& counts)
 {
     try {
+        // Links come as they are: what is wrong with the source's chain is wrong with the copy's.
+        LiftChain(target.Session(), target.GetDialect());
         const std::vector<TableSum> read = CopyRows(source, target, work);
+        HoldChain(target.Session(), target.GetDialect());
         if (SumTables(target, work) != read)
             throw DatabaseFailure("A cópia em \"" + target.Path()
                                   + "\" não ficou igual ao original e foi desfeita. Verifique o disco.");

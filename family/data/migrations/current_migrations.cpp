@@ -16,6 +16,7 @@ constexpr Migration Steps[] = {
     {7, SchemaOfVersion7},
     {8, SchemaOfVersion8, HoldRulesOfVersion8},
     {9, SchemaOfVersion9, HoldRulesOfVersion9},
+    {10, SchemaOfVersion10, ChainLinesOfVersion10},
 };
 
 } // namespace

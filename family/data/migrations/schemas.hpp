@@ -31,5 +31,9 @@ void HoldRulesOfVersion8(soci::session& session, const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion9(const Dialect& dialect);
 /// Holds their rows to their rules.
 void HoldRulesOfVersion9(soci::session& session, const Dialect& dialect);
+/// The chain of the audit (chained_audit.hpp).
+std::vector<std::string> SchemaOfVersion10(const Dialect& dialect);
+/// Links the lines that are there already.
+void ChainLinesOfVersion10(soci::session& session, const Dialect& dialect);
 
 } // namespace kova::family

@@ -21,9 +21,17 @@ public:
     }
 };
 
+/// A row that has to be written with more than itself says so.
+template <class Row>
+concept IsChained = requires
+{
+    Row::IsChained;
+};
+
 /// Writes a row in the transaction that is open, or in one of its own. Fails as Database::With.
 template <class Row> void Insert(Database& database, const Row& row)
 {
+    static_assert(!IsChained<Row>, "its link would be missing");
     database.With<InsertRow<Row>>([&](InsertRow<Row>& insertion) { insertion.Run(row); });
 }
 

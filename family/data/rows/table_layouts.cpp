@@ -32,6 +32,7 @@ constexpr StoredTable Tables[] = {
     {"horario_do_funcionario", "codigo", 8},
     {"ausencia", "codigo", 8},
     {"tentativa_de_entrada", "identificador", 9, false},
+    {"elo_da_auditoria", "ordem", 10, false},
 };
 
 constexpr Reference AllReferences[] = {

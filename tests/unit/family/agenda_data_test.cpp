@@ -136,7 +136,8 @@ TEST_F(AgendaData, GeneratesAShopOfFewEmployeesWithItsAudit)
         0);
     EXPECT_EQ(Run({"check", a_}), 0);
     EXPECT_TRUE(Said("funcionario: 6\n"));
-    EXPECT_FALSE(Said("auditoria: 0\n"));
+    EXPECT_FALSE(Said("\nauditoria: 0\n"));
+    EXPECT_FALSE(Said("elo_da_auditoria: 0\n"));
     EXPECT_EQ(Run({"generate", b_, "--customers", "50", "--appointments", "200", "--employees", "9"}), 0);
     EXPECT_EQ(Run({"check", b_}), 0);
     EXPECT_TRUE(Said("funcionario: 9\n")) << output_.str();
@@ -292,6 +293,27 @@ TEST_F(AgendaData, CopiesAShop)
     EXPECT_TRUE(Complained("Cópia: 100%"));
     EXPECT_EQ(Run({"check", b_}), 0);
     EXPECT_TRUE(Said("cliente: 400\n"));
+}
+
+TEST_F(AgendaData, ChainsTheAuditOfAnOlderShop)
+{
+    std::vector<std::string> statements;
+    for (int line = 1; line <= 3; ++line)
+        statements.emplace_back(
+            "insert into auditoria (momento, usuario, tabela, chave, operacao, antes, depois)"
+            " values ('2026-11-01 09:00:00', '1 - Zé', 'cliente', 7, 'alteracao', '', '{}')");
+    // As the codes of a server may come: not in the order of the rows.
+    statements.emplace_back("update auditoria set codigo = 9 where codigo = 1");
+    MakeOld(a_, 8, statements);
+    EXPECT_EQ(Migrate(a_), 0) << error_.str();
+    EXPECT_EQ(Run({"check", a_}), 0) << error_.str();
+    EXPECT_TRUE(Said("elo_da_auditoria: 3\n")) << output_.str();
+    RunUnchecked(a_, "update auditoria set antes = null where codigo = 3");
+    EXPECT_EQ(Run({"check", a_}), 1);
+    EXPECT_TRUE(Complained("auditoria 3: a linha foi alterada depois de gravada.\n")) << error_.str();
+    EXPECT_EQ(Run({"backup", a_, folder_ / "copia.bak"}), 0);
+    EXPECT_EQ(Run({"check", folder_ / "copia.bak"}), 1);
+    EXPECT_TRUE(Complained("auditoria 3: a linha foi alterada depois de gravada.\n")) << error_.str();
 }
 
 TEST_F(AgendaData, FindsRowsThatBreakARule)

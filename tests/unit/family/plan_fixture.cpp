@@ -133,14 +133,16 @@ std::vector<StatementPlan> PlansForValues(Database& database)
 bool ReadsWholeTable(const std::string& plan)
 {
     // The letters are the names that statements give to these tables.
-    static const std::regex inFile(
-        "(^|\\n)SCAN "
-        "(agendamento|cliente|animal|auditoria|pre_venda|pacote|canal_de_comunicacao|a|c|n|p)\\b");
+    static const std::regex inFile("(^|\\n)SCAN "
+                                   "(agendamento|cliente|animal|auditoria|elo_da_auditoria|pre_venda|pacote|"
+                                   "canal_de_comunicacao|a|c|n|p)\\b");
     static const std::regex onServer(
-        "Seq Scan on (agendamento|cliente|animal|auditoria|pre_venda|pacote|canal_de_comunicacao)\\b");
+        "Seq Scan on "
+        "(agendamento|cliente|animal|auditoria|elo_da_auditoria|pre_venda|pacote|canal_de_comunicacao)\\b");
     // An index from its one end to the other: no condition in the line behind.
     static const std::regex wholeIndex(
-        "Scan using \\w+ on (agendamento|cliente|animal|auditoria|pre_venda|pacote)\\b[^\\n]*\\n"
+        "Scan using \\w+ on "
+        "(agendamento|cliente|animal|auditoria|elo_da_auditoria|pre_venda|pacote)\\b[^\\n]*\\n"
         "(?!\\s*Index Cond)");
     return std::regex_search(plan, inFile) || std::regex_search(plan, onServer)
         || std::regex_search(plan, wholeIndex);
@@ -198,6 +200,10 @@ void BigShopTest::AddTheRest()
     insert("auditoria (momento, usuario, tabela, chave, operacao, depois)",
            "'2026-11-01 09:00:00', '1 - Carla', 'agendamento', 100 + i % 9000, 'inclusao', '{}'",
            2 * NewAppointments);
+    // A server has linked them.
+    if (!TestsRunOnServer())
+        insert("elo_da_auditoria (ordem, codigo_da_linha, sal, elo)", "1000 + i, 1000 + i, '', 'x'",
+               2 * NewAppointments);
 }
 
 void BigShopTest::AnalyseALittle()

@@ -3,6 +3,7 @@
 
 #include "family/business/appointments/appointment_restoration.hpp"
 #include "family/business/appointments/appointment_writes.hpp"
+#include "family/data/checks/audit_check.hpp"
 #include "family/data/checks/rule_check.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/insert_row.hpp"
@@ -133,7 +134,30 @@ TEST_F(AnonymousCustomer, HasALineOfTheAuditThatNamesNobody)
               " coalesce(antes, '-') || '|' || depois from auditoria where operacao = 'anonimizacao'"),
         std::vector<std::string>{
             "2026-12-01 10:00:00|3 - Ana|BALCAO-1|cliente|10|-|{\"canais\":2,\"animais\":1,"
-            "\"agendamentos\":6,\"linhas_da_auditoria\":1}"});
+            "\"agendamentos\":6,\"linhas_da_auditoria\":1,\"linhas_limpas\":\"1\"}"});
+}
+
+TEST_F(AnonymousCustomer, LeavesTheChainOfTheAuditWhole)
+{
+    Write();
+    AppointmentInput deleted;
+    deleted.number = 4;
+    ASSERT_TRUE(DeleteAppointment(*SharedDatabase(host_.DataSource()), deleted, ana_).IsDone());
+    const auto broken = [this] { return FindBrokenChain(*OpenForReading(host_.DataSource())); };
+    ASSERT_EQ(broken(), std::vector<std::string>{});
+    ASSERT_TRUE(Forget().IsDone());
+    EXPECT_EQ(Texts("select depois from auditoria where operacao = 'anonimizacao'"),
+              std::vector<std::string>{"{\"canais\":2,\"animais\":1,\"agendamentos\":5,"
+                                       "\"linhas_da_auditoria\":2,\"linhas_limpas\":\"1,3\"}"});
+    EXPECT_EQ(broken(), std::vector<std::string>{});
+    EXPECT_EQ(Texts("select codigo_da_linha || ' ' || ordem from elo_da_auditoria where sal = ''"
+                    " order by ordem"),
+              (std::vector<std::string>{"1 1", "3 3"}));
+    ASSERT_TRUE(Forget().IsDone());
+    EXPECT_EQ(Count("auditoria where operacao = 'anonimizacao'"), 2);
+    EXPECT_EQ(broken(), std::vector<std::string>{});
+    RunUnchecked(host_.DataSource(), "update auditoria set antes = '{}' where codigo = 3");
+    EXPECT_EQ(broken().front(), "auditoria 3: a linha foi alterada depois de gravada.");
 }
 
 TEST_F(AnonymousCustomer, LeavesASoundShopBehind)

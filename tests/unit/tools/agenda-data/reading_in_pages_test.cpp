@@ -64,11 +64,11 @@ TEST_F(ReadingInPages, TellsHowFarTheCheckOfALargeDatabaseIs)
     EXPECT_EQ(Run({"check", Database()}), 0);
     const auto write = [this](long long lines) {
         family::OpenDatabase(Database())->Session()
-            << "insert into auditoria (momento, usuario, tabela, chave, operacao)"
-               " with recursive linha (numero) as (select 1 union all select numero + 1 from linha"
+            << "insert into tentativa_de_entrada (identificador, erros, ultimo_erro)"
+               " with recursive nome (numero) as (select 1 union all select numero + 1 from nome"
                " where numero < "
-                + std::to_string(lines)
-                + ") select '2026-11-20 09:00:00', '7 - Lia', 'cliente', numero, 'inclusao' from linha";
+                + std::to_string(lines) + ") select '" + std::to_string(lines)
+                + "a' || numero, 1, 1795185845 from nome";
     };
     long long rows = 0;
     std::istringstream counts(Output());

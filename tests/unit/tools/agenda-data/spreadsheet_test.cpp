@@ -124,7 +124,7 @@ protected:
     {
         auto sums = AllTables();
         std::erase_if(sums, [](const family::TableSum& sum) {
-            return sum.name == "auditoria" || sum.name == "gravacao";
+            return sum.name == "auditoria" || sum.name == "elo_da_auditoria" || sum.name == "gravacao";
         });
         return sums;
     }

@@ -35,7 +35,8 @@ protected:
     {
         auto sums = family::SumTables(*family::OpenForReading(Database()));
         std::erase_if(sums, [](const family::TableSum& sum) {
-            return sum.name == "auditoria" || sum.name == "gravacao" || sum.name == "canal_de_comunicacao";
+            return sum.name == "auditoria" || sum.name == "elo_da_auditoria" || sum.name == "gravacao"
+                || sum.name == "canal_de_comunicacao";
         });
         return sums;
     }

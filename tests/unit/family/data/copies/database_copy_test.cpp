@@ -1,6 +1,7 @@
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/data/audit/audit.hpp"
+#include "family/data/checks/audit_check.hpp"
 #include "family/data/copies/database_copy.hpp"
 #include "family/data/copies/row_copy.hpp"
 #include "family/data/rows/find_by_key.hpp"
@@ -159,16 +160,10 @@ void FillEveryTable(const std::string& shop)
     InsertNew(*database, AbsenceRow{0, {}, "2026-12-24", "00:00", "2026-12-26", "12:00", "Recesso"});
     InsertNew(*database, PackageRow{0, 2, "2026-11-20 09:00:00", "Ana"});
     InsertNew(*database, PreSaleRow{0, 7, 9'000'000'000'000, 1, "2026-11-20 09:00:00"});
+    const Author author{"1", "Zé", "2026-11-20 09:00:00", "BALCÃO-1"};
     for (int line = 0; line < 2500; ++line)
-        Insert(*database,
-               AuditRow{"2026-11-20 09:00:00",
-                        "1 - Zé",
-                        "BALCÃO-1",
-                        "agendamento",
-                        line,
-                        "exclusao",
-                        AuditValues().Add("observacao", std::string("\"Laço\"\n\\")).Line(),
-                        {}});
+        AuditRemoval(*database, author, "agendamento", line,
+                     AuditValues().Add("observacao", std::string("\"Laço\"\n\\")));
     for (const char* statement :
          {"insert into papel (nome) values ('Banhista')",
           "insert into papel_direito (codigo_do_papel, direito) values (4, 'agendamento.incluir')",
@@ -209,6 +204,33 @@ TEST_F(DatabaseCopyPostgresql, ThereAndBackIsEqual)
     EXPECT_EQ(SumsOf(server_.Address()), before);
     CopyDatabase(server_.Address(), back_, {});
     EXPECT_EQ(SumsOf(back_), before);
+}
+
+TEST_F(DatabaseCopyPostgresql, HasTheChainOfTheAuditThatGoesOn)
+{
+    const Author author{"1", "Zé", "2026-11-20 09:00:00", "BALCÃO-1"};
+    CopyDatabase(file_, server_.Address(), {});
+    AuditRemoval(*OpenDatabase(server_.Address()), author, "agendamento", 1, AuditValues());
+    EXPECT_EQ(server_.Run("select count(*) from elo_da_auditoria").front(), "2501");
+    EXPECT_EQ(FindBrokenChain(*OpenForReading(server_.Address())), std::vector<std::string>{});
+    CopyDatabase(server_.Address(), back_, {});
+    AuditRemoval(*OpenDatabase(back_), author, "agendamento", 2, AuditValues());
+    EXPECT_EQ(FindBrokenChain(*OpenForReading(back_)), std::vector<std::string>{});
+}
+
+TEST_F(DatabaseCopyPostgresql, HasWhatIsWrongWithTheChainOfTheAudit)
+{
+    RunUnchecked(file_, "update auditoria set posto = '' where codigo = 7");
+    RunUnchecked(file_,
+                 "insert into auditoria (momento, usuario, tabela, chave, operacao)"
+                 " values ('2026-11-20 09:00:00', 'Carla', 'empresa', 40, 'exclusao')");
+    const auto problems = [](const std::string& source) { return FindBrokenChain(*OpenForReading(source)); };
+    const std::vector<std::string> before = problems(file_);
+    EXPECT_EQ(before.size(), 3U);
+    CopyDatabase(file_, server_.Address(), {});
+    EXPECT_EQ(problems(server_.Address()), before);
+    CopyDatabase(server_.Address(), back_, {});
+    EXPECT_EQ(problems(back_), before);
 }
 
 TEST_F(DatabaseCopyPostgresql, NeverGivesANumberTwiceThereAndBack)

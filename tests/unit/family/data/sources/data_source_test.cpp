@@ -4,6 +4,7 @@
 #include "tests/support/statement_watch.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
+#include "family/data/audit/audit.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/rows/rows.hpp"
 #include "family/data/sources/data_source.hpp"
@@ -211,9 +212,7 @@ TEST_F(DataSource, ThatNobodyMayWriteIsReadAndLeftAsItIs)
 TEST_F(DataSource, ThatNobodyMayWriteIsCheckedExportedCopiedAndItsHistoryTold)
 {
     const std::string path = MakeEmptyShop("loja.db");
-    OpenDatabase(path)->Session()
-        << "insert into auditoria (momento, usuario, tabela, chave, operacao)"
-           " values ('2026-11-20 09:00:00', '1 - Ana', 'agendamento', 5, 'inclusao')";
+    AuditInsertion(*OpenDatabase(path), {"1", "Ana", "2026-11-20 09:00:00"}, "agendamento", 5, AuditValues());
     fs::permissions(path, ReadableByAll);
     fs::permissions(folder_.Path(), ReadableByAll | ExecutableByAll);
     const TemporaryFolder other;
