@@ -1,4 +1,5 @@
 #include "family/data/checks/audit_check.hpp"
+#include "family/data/checks/audit_rights.hpp"
 #include "family/data/checks/database_check.hpp"
 #include "family/data/checks/rule_check.hpp"
 #include "family/data/engine/snapshot.hpp"
@@ -48,6 +49,20 @@ std::vector<std::string> ProblemsOf(const std::string& source, const family::Dat
     return report.problems.empty() ? BrokenRules(source, report, surroundings) : report.problems;
 }
 
+/// The rights are a matter of the server; what is stored may be whole all the same.
+void TellWideRights(const std::string& source, std::ostream& error)
+{
+    const std::unique_ptr<family::Database> database = family::OpenForReading(source);
+    try {
+        for (const std::string& role : family::WhoMayRewriteAudit(*database))
+            error << "aviso: no servidor o papel \"" << role
+                  << "\" pode mudar a auditoria sem ser o dono dela; \"agenda-data server-roles\" dá aos "
+                     "postos só o que eles precisam.\n";
+    } catch (const std::runtime_error& cause) {
+        throw family::TranslatedFailure(source, cause);
+    }
+}
+
 int Run(const Call& call, Surroundings& surroundings)
 {
     const family::DatabaseReport report = family::CheckDatabase(call.Operand(0));
@@ -56,6 +71,7 @@ int Run(const Call& call, Surroundings& surroundings)
     const std::vector<std::string> problems = ProblemsOf(call.Operand(0), report, surroundings);
     for (const std::string& problem : problems)
         surroundings.error << problem << "\n";
+    TellWideRights(call.Operand(0), surroundings.error);
     if (!problems.empty())
         return 1;
     if (report.version == family::NewestVersion(family::CurrentMigrations()))
@@ -68,9 +84,11 @@ int Run(const Call& call, Surroundings& surroundings)
 
 const Command CheckCommand{
     {"check",
-     "Verifica se o banco está íntegro, se o que contém segue as regras e se a auditoria está como\n"
-     "foi gravada, e conta as suas linhas; escreve cada problema com a tabela e o número do\n"
-     "registro. O que os cadastros não aceitariam mais, mas está lá desde antes, é só um aviso.",
+     "Verifica se o banco está íntegro, se o que contém segue as regras e se a auditoria\n"
+     "está como foi gravada, e conta as suas linhas; escreve cada problema com a tabela e o\n"
+     "número do registro. O que os cadastros não aceitariam mais, mas está lá desde antes, é\n"
+     "só um aviso, como os direitos de um papel do servidor que vão além do que um posto\n"
+     "precisa.",
      {"BANCO"}},
     Run,
 };

@@ -8,9 +8,9 @@ namespace {
 
 /// In the order of the help.
 constexpr const Command* Commands[] = {
-    &CreateCommand, &DemoCommand,       &GenerateCommand, &MigrateCommand, &CheckCommand,
-    &ImportCommand, &UndoImportCommand, &ExportCommand,   &BackupCommand,  &RestoreCommand,
-    &CopyCommand,   &HistoryCommand,    &UndeleteCommand, &PersonCommand,  &ForgetCommand,
+    &CreateCommand,     &DemoCommand,   &GenerateCommand, &MigrateCommand,     &CheckCommand, &ImportCommand,
+    &UndoImportCommand, &ExportCommand, &BackupCommand,   &RestoreCommand,     &CopyCommand,  &HistoryCommand,
+    &UndeleteCommand,   &PersonCommand, &ForgetCommand,   &ServerRolesCommand,
 };
 
 arguments::Program ThisProgram()

@@ -23,6 +23,7 @@ extern const Command ImportCommand;
 extern const Command MigrateCommand;
 extern const Command PersonCommand;
 extern const Command RestoreCommand;
+extern const Command ServerRolesCommand;
 extern const Command UndeleteCommand;
 extern const Command UndoImportCommand;
 

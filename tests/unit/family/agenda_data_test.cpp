@@ -391,6 +391,8 @@ TEST_F(AgendaData, RefusesAWrongCommandLine)
                                                {"undo-import"},
                                                {"undo-import", file, "--import", "0"},
                                                {"undo-import", file, "--list", "--keep-changed"},
+                                               {"server-roles", file},
+                                               {"server-roles", "--role", "postos"},
                                                {"migrate"}}) {
         EXPECT_EQ(Run(words), 2);
         EXPECT_TRUE(Complained(" --help")) << error_.str();
@@ -414,7 +416,7 @@ TEST_F(AgendaData, ExplainsEachOfItsCommands)
     const std::string all = output_.str();
     for (const char* command :
          {"create", "demo", "generate", "migrate", "check", "import", "undo-import", "export", "backup",
-          "restore", "copy", "history", "undelete", "person", "forget"}) {
+          "restore", "copy", "history", "undelete", "person", "forget", "server-roles"}) {
         EXPECT_NE(all.find(std::string("\n  ") + command + " "), std::string::npos) << command;
         EXPECT_EQ(Run({command, "--help"}), 0);
         EXPECT_TRUE(Said("Uso: agenda-data " + std::string(command) + " ")) << output_.str();

@@ -212,9 +212,9 @@ TEST(Arguments, AnswerHelpForTheProgramAndForEachCommand)
               "  --version   Mostra a versão.\n"
               "\n"
               "Comandos:\n"
-              "  copy        Copia uma loja.\n"
-              "              Sem parar.\n"
-              "  check       Confere uma loja.\n"
+              "  copy         Copia uma loja.\n"
+              "               Sem parar.\n"
+              "  check        Confere uma loja.\n"
               "\n"
               "BANCO é um arquivo.\n");
     EXPECT_EQ(AnswerTo({"copy", "--help"}, Several),

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "family/data/engine/database.hpp"
+
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+/// Who of a server's may change what is stored of the audit although he does not own it: the roles that can
+/// sign in, or "PUBLIC" where everybody may. Nobody where it is a file. Fails with soci::soci_error.
+std::vector<std::string> WhoMayRewriteAudit(Database& database);
+
+} // namespace kova::family
