@@ -13,7 +13,7 @@
 #include "family/users/administrators.hpp"
 #include "family/users/denials.hpp"
 #include "family/users/role_rights.hpp"
-#include "family/users/tries.hpp"
+#include "family/users/write_secret.hpp"
 
 #include <optional>
 
@@ -71,20 +71,6 @@ std::string ObjectionToAccount(Database& database, const Account& account, const
     if (account.role != 0 && !FindByKey<RoleRow>(database, account.role))
         return "O papel não existe mais. Escolha outro.";
     return {};
-}
-
-/// For an account whose row is there.
-void WriteSecret(Database& database, Key user, Nullable<std::string> SecretsRow::*which,
-                 const Nullable<std::string>& kept, const Author& author)
-{
-    SecretsRow secrets = FindByKey<SecretsRow>(database, user).value();
-    secrets.*which = kept;
-    Update(database, secrets);
-    const char* const name = which == &SecretsRow::pin ? "pin" : "senha";
-    AuditChange(database, author, SecretsRow::Table, user, {},
-                AuditValues().Add(name, std::string(kept.IsNull() ? "retirada" : "definida")));
-    const auto account = FindByKey<AccountRow>(database, user);
-    ForgetTries(database, DigestOf(FoldText(account->nome)));
 }
 
 /// Writes the row over the stored one, or a new one. Answers its code.

@@ -15,6 +15,7 @@
 #include "system/computer_name.hpp"
 
 #include <optional>
+#include <vector>
 
 namespace kova::family {
 
@@ -70,25 +71,52 @@ private:
     bool IsRight()
     {
         secrets_ = FindByKey<SecretsRow>(database_, user_ ? user_->codigo : 0).value_or(SecretsRow());
-        const Nullable<std::string>& kept = Kept();
-        if (!kept.IsNull())
-            return IsHashOf(kept.value, wanted_.secret);
-        HashOf(wanted_.secret, cost_);
+        for (Nullable<std::string>* kept : Compared()) {
+            kept_ = kept;
+            if (IsHashOf(kept->value, wanted_.secret))
+                return true;
+        }
+        if (kept_ == nullptr)
+            HashOf(wanted_.secret, cost_);
         return false;
     }
 
-    Nullable<std::string>& Kept() { return wanted_.isPin ? secrets_.pin : secrets_.senha; }
+    /// The kept texts that the secret may be one of. One that is too short for a password, or cannot be a
+    /// PIN, is compared with one only: that is what changing places in two seconds lives on.
+    std::vector<Nullable<std::string>*> Compared()
+    {
+        std::vector<Nullable<std::string>*> all;
+        const bool isEither = wanted_.kind == SignInTry::Kind::Either;
+        if (isEither ? ObjectionToPin(wanted_.secret).empty() : IsPin())
+            all.push_back(&secrets_.pin);
+        if (isEither ? ObjectionToPassword(wanted_.secret).empty() : !IsPin())
+            all.push_back(&secrets_.senha);
+        std::erase_if(all, [](const Nullable<std::string>* kept) { return kept->IsNull(); });
+        return all;
+    }
+
+    bool IsPin() const { return wanted_.kind == SignInTry::Kind::Pin; }
 
     SignInAnswer Refuse(const Tries& tries)
     {
         CountWrongTry(database_, digest_, now_);
         Audit(audit_operation::SigningInRefused, "senha");
         SignInAnswer answer{.outcome = Outcome::Wrong, .wait = WaitAfter(tries.wrong + 1)};
-        answer.text = wanted_.isPin ? "O nome ou o PIN não confere." : "O nome ou a senha não confere.";
+        answer.text = WhatIsWrong();
         answer.text += answer.wait > 0
             ? " A próxima tentativa pode ser feita em " + WordsOfWait(answer.wait) + "."
             : " Tente de novo. Quem ainda não tem, ou não lembra, pede a quem administra os usuários.";
         return answer;
+    }
+
+    std::string WhatIsWrong() const
+    {
+        switch (wanted_.kind) {
+        case SignInTry::Kind::Password: return "O nome ou a senha não confere.";
+        case SignInTry::Kind::Pin: return "O nome ou o PIN não confere.";
+        case SignInTry::Kind::Either: break;
+        }
+        return "O nome, o PIN ou a senha não confere.";
     }
 
     SignInAnswer RefuseInactive()
@@ -102,8 +130,8 @@ private:
     SignInAnswer LetIn()
     {
         ForgetTries(database_, digest_);
-        if (IsOutdated(Kept().value, cost_)) {
-            Kept() = HashOf(wanted_.secret, cost_);
+        if (IsOutdated(kept_->value, cost_)) {
+            *kept_ = HashOf(wanted_.secret, cost_);
             Update(database_, secrets_);
         }
         Audit(audit_operation::SigningIn, {});
@@ -123,7 +151,7 @@ private:
             author.name = CleanText(user_->nome, WidthOfShownName);
         }
         AuditValues what;
-        what.Add("meio", std::string(wanted_.isPin ? "pin" : "senha"));
+        what.Add("meio", std::string(kept_ == &secrets_.pin || IsPin() ? "pin" : "senha"));
         if (!why.empty())
             what.Add("motivo", why);
         AuditAccess(database_, author, operation, user_ ? user_->codigo : 0, what);
@@ -136,6 +164,8 @@ private:
     const long long now_;
     std::optional<AccountRow> user_;
     SecretsRow secrets_;
+    /// The one that was compared last; null where there was none.
+    Nullable<std::string>* kept_ = nullptr;
 };
 
 } // namespace

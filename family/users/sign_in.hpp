@@ -16,8 +16,8 @@ struct SignInTry {
     /// As it was typed; case and accents do not count.
     std::string name;
     const Secret& secret;
-    /// Whether it is the PIN, and not the password.
-    bool isPin = false;
+    /// What the secret is: at a desk where places are changed it may be either.
+    enum class Kind { Password, Pin, Either } kind = Kind::Password;
 };
 
 /// What a try to sign in answers, technical failures aside.

@@ -163,6 +163,38 @@ TEST_F(SigningIn, TakesNoPinForAPasswordNorOneThatIsGone)
     EXPECT_EQ(EnterByPin("Lia", "").outcome, Outcome::Wrong);
 }
 
+TEST_F(SigningIn, TakesEitherWhereItIsNotSaidWhich)
+{
+    const auto enter = [this](const std::string& typed) {
+        const Secret secret{std::string(typed)};
+        return SignIn(Data(), {"Lia", secret, SignInTry::Kind::Either}, desk_.GetPlatform().Clock(), Cheap);
+    };
+    const auto setPin = [this](const char* typed) {
+        const Secret pin{std::string(typed)};
+        EXPECT_EQ(SetPin(Data(), 7, &pin, ana_, Cheap).why, "");
+    };
+    EXPECT_TRUE(enter("Laço Azul 22").IsDone());
+    EXPECT_EQ(enter("2580").text,
+              "O nome, o PIN ou a senha não confere. Tente de novo. Quem ainda não tem, ou não lembra, pede a"
+              " quem administra os usuários.");
+    setPin("2580");
+    EXPECT_TRUE(enter("2580").IsDone());
+    EXPECT_TRUE(enter("Laço Azul 22").IsDone());
+    EXPECT_EQ(LinesOf("entrada"),
+              (std::vector<std::string>{R"(7 7 - Lia entrada {"meio":"senha"})",
+                                        R"(7 7 - Lia entrada {"meio":"pin"})",
+                                        R"(7 7 - Lia entrada {"meio":"senha"})"}));
+
+    // Eight digits may be the one or the other, and are one try.
+    const Secret digits("19840512");
+    EXPECT_EQ(SetPassword(Data(), 7, digits, ana_, Cheap).why, "");
+    setPin("84051219");
+    EXPECT_TRUE(enter("19840512").IsDone());
+    EXPECT_TRUE(enter("84051219").IsDone());
+    enter("11223344");
+    EXPECT_EQ(Texts("select cast(erros as text) from tentativa_de_entrada"), std::vector<std::string>{"1"});
+}
+
 TEST_F(SigningIn, SlowsDownForANameOfNobodyInTheSameWay)
 {
     Fail(9, "Nina");

@@ -41,7 +41,7 @@ SignInAnswer UsersTest::Enter(const std::string& name, const std::string& passwo
 SignInAnswer UsersTest::EnterByPin(const std::string& name, const std::string& pin)
 {
     const Secret secret{std::string(pin)};
-    return SignIn(Data(), {name, secret, true}, desk_.GetPlatform().Clock(), Cheap);
+    return SignIn(Data(), {name, secret, SignInTry::Kind::Pin}, desk_.GetPlatform().Clock(), Cheap);
 }
 
 void UsersTest::Pass(long long seconds)

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "family/data/engine/key.hpp"
+
+#include <string>
+#include <vector>
+
+namespace kova::family {
+
+class Database;
+
+struct UserWhoEnters {
+    Key code = 0;
+    std::string name;
+};
+
+/// Those who can sign in, by their names: active, in a role, with a password. Fails as Database::With.
+std::vector<UserWhoEnters> UsersWhoEnter(Database& database);
+
+} // namespace kova::family
