@@ -9,7 +9,7 @@ namespace kova::arguments {
 namespace {
 
 /// Where the help tells what an option does, and what a command.
-constexpr std::size_t OptionColumn = 24, CommandColumn = 15;
+constexpr std::size_t OptionColumn = 24, CommandColumn = 17;
 
 /// The usage shows the operands; a list of them would repeat it.
 class HelpFormat : public CLI::Formatter {

@@ -2,19 +2,28 @@
 
 #include "host/arguments/arguments.hpp"
 
+#include <istream>
 #include <ostream>
 
 namespace kova::data {
 
 using arguments::Call;
 
-/// What a command meets: where it writes, and when it runs.
+/// Where a command reads what must not stand on its command line.
+struct Input {
+    std::istream& stream;
+    /// By a person, at a console.
+    bool isTyped = false;
+};
+
+/// What a command meets: where it reads and writes, and when it runs.
 struct Surroundings {
     /// What was asked for.
     std::ostream& output;
     /// What went wrong, and how far long work has come.
     std::ostream& error;
     DateTime now;
+    Input input;
 };
 
 /// A command; each stands in a file of its own and in the list of commands.cpp.

@@ -8,9 +8,10 @@ namespace {
 
 /// In the order of the help.
 constexpr const Command* Commands[] = {
-    &CreateCommand,     &DemoCommand,   &GenerateCommand, &MigrateCommand,     &CheckCommand, &ImportCommand,
-    &UndoImportCommand, &ExportCommand, &BackupCommand,   &RestoreCommand,     &CopyCommand,  &HistoryCommand,
-    &UndeleteCommand,   &PersonCommand, &ForgetCommand,   &ServerRolesCommand,
+    &CreateCommand,      &DemoCommand,          &GenerateCommand, &MigrateCommand, &CheckCommand,
+    &ImportCommand,      &UndoImportCommand,    &ExportCommand,   &BackupCommand,  &RestoreCommand,
+    &CopyCommand,        &HistoryCommand,       &UndeleteCommand, &PersonCommand,  &ForgetCommand,
+    &ServerRolesCommand, &ResetPasswordCommand,
 };
 
 arguments::Program ThisProgram()
@@ -45,9 +46,10 @@ int Carry(std::span<const std::string> words, Surroundings& surroundings)
 
 } // namespace
 
-int Run(std::span<const std::string> words, DateTime now, std::ostream& output, std::ostream& error)
+int Run(std::span<const std::string> words, DateTime now, std::ostream& output, std::ostream& error,
+        const Input& input)
 {
-    Surroundings surroundings{output, error, now};
+    Surroundings surroundings{output, error, now, input};
     try {
         return Carry(words, surroundings);
     } catch (const arguments::BadArguments& refusal) {

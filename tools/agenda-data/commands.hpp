@@ -2,11 +2,14 @@
 
 #include "tools/agenda-data/command.hpp"
 
+#include <iostream>
+
 namespace kova::data {
 
 /// Runs the program: 0 done, 1 the data cannot be read or written, 2 the command line is wrong. What
 /// went wrong is written to `error` in Portuguese.
-int Run(std::span<const std::string> words, DateTime now, std::ostream& output, std::ostream& error);
+int Run(std::span<const std::string> words, DateTime now, std::ostream& output, std::ostream& error,
+        const Input& input = {std::cin});
 
 // Each in the file of its name.
 
@@ -22,6 +25,7 @@ extern const Command HistoryCommand;
 extern const Command ImportCommand;
 extern const Command MigrateCommand;
 extern const Command PersonCommand;
+extern const Command ResetPasswordCommand;
 extern const Command RestoreCommand;
 extern const Command ServerRolesCommand;
 extern const Command UndeleteCommand;

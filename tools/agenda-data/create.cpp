@@ -1,10 +1,13 @@
 #include "family/data/stores/new_shop.hpp"
 #include "host/session/computer_user.hpp"
 #include "tools/agenda-data/commands.hpp"
+#include "tools/agenda-data/password.hpp"
 
 namespace kova::data {
 
 namespace {
+
+constexpr const char* WithPassword = "--password";
 
 int Run(const Call& call, Surroundings& surroundings)
 {
@@ -15,6 +18,12 @@ int Run(const Call& call, Surroundings& surroundings)
     shop.company.nomeFantasia = company;
     shop.user = call.Option("--user").value_or(host::NameOfThisUser());
     shop.employee = call.Option("--employee").value_or(shop.user);
+    if (call.Has(WithPassword)) {
+        const auto password = NewPassword(surroundings);
+        if (!password)
+            return 1;
+        shop.password = family::HashOf(*password, family::FrontDeskCost);
+    }
     family::CreateNewShop(call.Operand(0), shop);
     surroundings.output << "Banco de dados criado: " << call.Operand(0) << "\n";
     return 0;
@@ -30,6 +39,10 @@ const Command CreateCommand{
      {"BANCO"},
      {{"--company", "NOME", "Nome da empresa, que precisa ser informado."},
       {"--user", "NOME", "Nome do usuário (padrão: o do computador)."},
+      {WithPassword,
+       {},
+       "Lê uma senha, digitada duas vezes ou na primeira linha da entrada padrão: o\n"
+       "usuário entra com ela e administra os usuários da loja."},
       {"--employee", "NOME", "Nome do(a) funcionário(a) (padrão: o do usuário)."}}},
     Run,
 };

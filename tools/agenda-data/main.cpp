@@ -1,4 +1,5 @@
 #include "system/command_line.hpp"
+#include "system/hidden_typing.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 #include <ctime>
@@ -20,5 +21,6 @@ kova::DateTime Now()
 int main(int count, char** words)
 {
     kova::system::WriteBytesUnchanged();
-    return kova::data::Run(kova::system::Arguments(count, words), Now(), std::cout, std::cerr);
+    return kova::data::Run(kova::system::Arguments(count, words), Now(), std::cout, std::cerr,
+                           {std::cin, kova::system::IsInputTyped()});
 }

@@ -2,6 +2,8 @@
 
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/insert_new_row.hpp"
+#include "family/data/rows/update_row.hpp"
+#include "family/data/rows/user_rows.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/stores/national_holidays.hpp"
 
@@ -29,6 +31,31 @@ EmployeeRow EmployeeOf(const NewShop& shop)
     return {0, shop.employee, name, FoldText(name)};
 }
 
+/// The one that administers the users, of those that any new database has.
+Key RoleOfAdministrators(Database& database)
+{
+    Key role = 0;
+    database.Session() << "select codigo_do_papel from papel_direito where direito = 'usuarios.administrar'",
+        soci::into(role);
+    return role;
+}
+
+Nullable<std::string> KeptOf(const std::string& kept)
+{
+    return kept.empty() ? Nullable<std::string>() : Nullable(kept);
+}
+
+void AddFirstUser(Database& database, const NewShop& shop)
+{
+    AccountRow account;
+    account.nome = shop.user;
+    if (!shop.password.empty())
+        account.codigoDoPapel = RoleOfAdministrators(database);
+    const Key code = InsertNew(database, account);
+    if (!shop.password.empty())
+        Update(database, SecretsRow{code, KeptOf(shop.password), KeptOf(shop.pin)});
+}
+
 /// In the place of the hours that any new database has.
 void SetHours(Database& database, const std::vector<OpeningHoursRow>& hours)
 {
@@ -44,7 +71,7 @@ void Fill(Database& database, const NewShop& shop)
 {
     if (!shop.company.nomeFantasia.empty())
         InsertNew(database, CompanyOf(shop));
-    InsertNew(database, UserRow{0, shop.user});
+    AddFirstUser(database, shop);
     InsertNew(database, EmployeeOf(shop));
     for (const char* name : ServiceTypes)
         InsertNew(database, ServiceTypeRow{0, name, FoldText(name)});

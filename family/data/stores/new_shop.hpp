@@ -13,6 +13,9 @@ struct NewShop {
     CompanyRow company;
     /// Name of the first user.
     std::string user;
+    /// What is to be kept of the first user's password and PIN, as Argon2id makes it; "" where there is none.
+    /// Whoever has a password administers the shop; a shop without begins without users who sign in.
+    std::string password{}, pin{};
     /// How the first employee is called; the agenda opens only where there is one.
     std::string employee;
     /// The employee's name; the former where it is "".

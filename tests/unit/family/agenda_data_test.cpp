@@ -416,7 +416,7 @@ TEST_F(AgendaData, ExplainsEachOfItsCommands)
     const std::string all = output_.str();
     for (const char* command :
          {"create", "demo", "generate", "migrate", "check", "import", "undo-import", "export", "backup",
-          "restore", "copy", "history", "undelete", "person", "forget", "server-roles"}) {
+          "restore", "copy", "history", "undelete", "person", "forget", "server-roles", "reset-password"}) {
         EXPECT_NE(all.find(std::string("\n  ") + command + " "), std::string::npos) << command;
         EXPECT_EQ(Run({command, "--help"}), 0);
         EXPECT_TRUE(Said("Uso: agenda-data " + std::string(command) + " ")) << output_.str();

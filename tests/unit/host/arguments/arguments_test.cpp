@@ -208,13 +208,13 @@ TEST(Arguments, AnswerHelpForTheProgramAndForEachCommand)
               "Uso: lojas [opções] COMANDO\n"
               "\n"
               "Opções:\n"
-              "  -h,--help   Mostra esta ajuda.\n"
-              "  --version   Mostra a versão.\n"
+              "  -h,--help      Mostra esta ajuda.\n"
+              "  --version      Mostra a versão.\n"
               "\n"
               "Comandos:\n"
-              "  copy         Copia uma loja.\n"
-              "               Sem parar.\n"
-              "  check        Confere uma loja.\n"
+              "  copy           Copia uma loja.\n"
+              "                 Sem parar.\n"
+              "  check          Confere uma loja.\n"
               "\n"
               "BANCO é um arquivo.\n");
     EXPECT_EQ(AnswerTo({"copy", "--help"}, Several),
