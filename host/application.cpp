@@ -1,6 +1,7 @@
 #include "host/application.hpp"
 
 #include "agenda/contracts/failure.hpp"
+#include "host/arguments/call.hpp"
 #include "host/display.hpp"
 #include "host/messages.hpp"
 #include "host/session/shops.hpp"
@@ -58,6 +59,8 @@ int RunTelling(const Options& options, Outlet outlet)
 {
     try {
         return RunShops(options, outlet);
+    } catch (const arguments::BadArguments&) {
+        throw;
     } catch (const Failure& failure) {
         TellFailure(failure.Description());
     } catch (const std::exception& failure) {

@@ -16,9 +16,13 @@ const arguments::Program ThisProgram{
        "Abre o banco de dados BANCO: o caminho de um arquivo, ou o endereço de um\n"
        "servidor PostgreSQL, como postgresql://ana@servidor/loja, sem a senha. Sem\n"
        "esta opção abre a última loja, ou pergunta com que loja trabalhar."},
-      {"--user", "NOME", "Nome do usuário da sessão, gravado em tudo que for alterado."},
-      {"--date", "dd/mm/aaaa", "Abre a agenda como se fosse este dia."},
-      {"--time", "hh:mm", "Começa como se fosse esta hora; o relógio anda a partir dela."},
+      {"--user", "NOME",
+       "Nome do usuário da sessão, gravado em tudo que for alterado. Só em lojas de\n"
+       "demonstração; nas outras entra quem está no posto, com a data e a hora do relógio."},
+      {"--date", "dd/mm/aaaa", "Abre a agenda como se fosse este dia. Só em lojas de demonstração."},
+      {"--time", "hh:mm",
+       "Começa como se fosse esta hora; o relógio anda a partir dela. Só em lojas de\n"
+       "demonstração."},
       {"--picture", "ARQUIVO",
        "Não abre a janela: desenha a agenda no ARQUIVO (PNG), escreve as primeiras\n"
        "linhas do dia e termina."},
@@ -93,6 +97,7 @@ Options ParseOptions(const std::vector<std::string>& words)
     const arguments::Asked asked = arguments::Read(ThisProgram, words);
     Options options;
     options.answer = asked.answer;
+    options.isTyped = true;
     options.database = asked.call.Option("--database").value_or("");
     options.user = asked.call.Option("--user").value_or("");
     options.date = asked.call.Day("--date");

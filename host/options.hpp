@@ -22,7 +22,8 @@ enum class LookChoice { Light, Dark };
 struct Options {
     /// Path of the database, or its address on a server; "" is the demonstration shop.
     std::string database;
-    /// Name of the session's user; "" is the name that the computer knows.
+    /// Name of the session's user; "" is the name that the computer knows. In a shop with users whoever signs
+    /// in.
     std::string user;
     /// The day shown instead of today's.
     std::optional<Date> date;
@@ -37,6 +38,8 @@ struct Options {
     std::optional<WindowSize> size;
     /// Nothing takes the desktop's look.
     std::optional<LookChoice> look;
+    /// Somebody has typed them: a name, a day or a time of day hold in fictional shops only.
+    bool isTyped = false;
     /// Ends as soon as the day has been painted: for those who measure the start.
     bool firstPaint = false;
     /// The help or the version: it is printed and nothing opened.

@@ -31,19 +31,23 @@ QString Shown(std::string_view text)
 
 } // namespace
 
-RegistersPage::RegistersPage(Desk desk, QWidget* parent, RecordActions actions)
+RegistersPage::RegistersPage(Desk desk, QWidget* parent, RegistersChoice choice)
     : QWidget(parent),
       desk_(std::move(desk)),
-      actions_(std::move(actions)),
+      actions_(std::move(choice.actions)),
+      registers_(family::registers::Registers().begin(), family::registers::Registers().end()),
+      guarded_(registers_.size()),
+      showsGuarded_(std::move(choice.showsGuarded)),
       names_(new QListWidget(this)),
-      pages_(new QStackedWidget(this)),
-      screens_(family::registers::Registers().size())
+      pages_(new QStackedWidget(this))
 {
+    registers_.insert(registers_.end(), choice.guarded.begin(), choice.guarded.end());
+    screens_.resize(registers_.size());
     names_->setObjectName(QStringLiteral("cadastros"));
     names_->setAccessibleName(QStringLiteral("Cadastros"));
     names_->ensurePolished();
     int widest = 0;
-    for (const family::registers::Register* one : family::registers::Registers()) {
+    for (const family::registers::Register* one : registers_) {
         auto* item = new QListWidgetItem(Shown(one->Name().title), names_);
         widest = std::max(widest, names_->fontMetrics().horizontalAdvance(item->text()));
         item->setSizeHint({0, HeightOfName});
@@ -54,21 +58,38 @@ RegistersPage::RegistersPage(Desk desk, QWidget* parent, RecordActions actions)
     LayOut(std::max(LeastWidthOfNames, widest + RoomBesideNames));
     connect(names_, &QListWidget::currentRowChanged, this, [this](int row) { TurnTo(row); });
     AddShortcuts();
+    ShowGuarded();
     names_->setCurrentRow(0);
+}
+
+void RegistersPage::ShowGuarded()
+{
+    const bool isShown = guarded_ < registers_.size() && showsGuarded_();
+    if (!isShown && names_->currentRow() >= static_cast<int>(guarded_))
+        names_->setCurrentRow(0);
+    for (std::size_t row = guarded_; row < registers_.size(); ++row)
+        names_->item(static_cast<int>(row))->setHidden(!isShown);
+}
+
+void RegistersPage::OfferFiles()
+{
+    const bool isOffered = names_->currentRow() < static_cast<int>(guarded_);
+    import_->setEnabled(isOffered);
+    export_->setEnabled(isOffered);
 }
 
 void RegistersPage::LayOut(int widthOfNames)
 {
-    QPushButton* import = FileButton(QStringLiteral("importarPlanilha"),
-                                     QStringLiteral("&Importar planilha..."), &RegistersPage::Import);
-    QPushButton* save = FileButton(QStringLiteral("exportarPlanilha"),
-                                   QStringLiteral("E&xportar planilha..."), &RegistersPage::Export);
-    names_->setFixedWidth(std::max({widthOfNames, import->sizeHint().width(), save->sizeHint().width()}));
+    import_ = FileButton(QStringLiteral("importarPlanilha"), QStringLiteral("&Importar planilha..."),
+                         &RegistersPage::Import);
+    export_ = FileButton(QStringLiteral("exportarPlanilha"), QStringLiteral("E&xportar planilha..."),
+                         &RegistersPage::Export);
+    names_->setFixedWidth(std::max({widthOfNames, import_->sizeHint().width(), export_->sizeHint().width()}));
     auto* left = new QVBoxLayout;
     left->setSpacing(8);
     left->addWidget(names_, 1);
-    left->addWidget(import);
-    left->addWidget(save);
+    left->addWidget(import_);
+    left->addWidget(export_);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(20, 16, 20, 12);
     layout->setSpacing(16);
@@ -105,7 +126,11 @@ void RegistersPage::AddShortcuts()
 // From the last one to the first.
 void RegistersPage::TurnBy(int step)
 {
-    names_->setCurrentRow((names_->currentRow() + step + names_->count()) % names_->count());
+    int row = names_->currentRow();
+    do
+        row = (row + step + names_->count()) % names_->count();
+    while (names_->item(row)->isHidden());
+    names_->setCurrentRow(row);
     Current()->setFocus();
 }
 
@@ -119,7 +144,7 @@ QPushButton* RegistersPage::FileButton(const QString& name, const QString& text,
 
 std::string_view RegistersPage::CurrentName() const
 {
-    return family::registers::Registers()[static_cast<std::size_t>(names_->currentRow())]->Name().name;
+    return registers_[static_cast<std::size_t>(names_->currentRow())]->Name().name;
 }
 
 void RegistersPage::Open(QDialog& dialog)
@@ -142,6 +167,7 @@ void RegistersPage::Export()
 
 void RegistersPage::Refresh()
 {
+    ShowGuarded();
     for (RegisterScreen* screen : screens_) {
         if (screen != nullptr)
             screen->Refresh();
@@ -157,8 +183,7 @@ void RegistersPage::TurnTo(int row)
 {
     RegisterScreen*& screen = screens_[static_cast<std::size_t>(row)];
     if (screen == nullptr) {
-        screen = new RegisterScreen(*family::registers::Registers()[static_cast<std::size_t>(row)], desk_,
-                                    actions_, pages_);
+        screen = new RegisterScreen(*registers_[static_cast<std::size_t>(row)], desk_, actions_, pages_);
         QWidget* const placeholder = pages_->widget(row);
         pages_->insertWidget(row, screen);
         pages_->removeWidget(placeholder);
@@ -168,6 +193,7 @@ void RegistersPage::TurnTo(int row)
     }
     pages_->setCurrentIndex(row);
     setFocusProxy(screen);
+    OfferFiles();
 }
 
 bool RegistersPage::MayLeave()

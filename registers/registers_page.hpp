@@ -12,21 +12,35 @@ class QListWidget;
 class QPushButton;
 class QStackedWidget;
 
+namespace kova::family::registers {
+class Register;
+}
+
 namespace kova::registers {
 
 class RegisterScreen;
+
+/// What a page has besides the usual registers.
+struct RegistersChoice {
+    /// What is offered behind "Mais...".
+    RecordActions actions = UsualActions();
+    /// Registers below the usual ones, which are there as long as `showsGuarded`; asked when the page is
+    /// made, and when it is refreshed.
+    std::vector<const family::registers::Register*> guarded{};
+    std::function<bool()> showsGuarded = [] { return true; };
+};
 
 /// "Cadastros": the names of the registers, and the screen of the one that is chosen. Screens are made when
 /// they are first turned to, and keep what is typed in them.
 class RegistersPage : public QWidget {
 public:
-    RegistersPage(Desk desk, QWidget* parent, RecordActions actions = UsualActions());
+    RegistersPage(Desk desk, QWidget* parent, RegistersChoice choice = {});
     ~RegistersPage() override;
 
     /// Where something is typed in any of them that was not saved: asks, one after the other. False where the
     /// user stays.
     bool MayLeave();
-    /// Shows in every list what is stored now.
+    /// Shows in every list what is stored now, and the registers that the user may see now.
     void Refresh();
 
 private:
@@ -41,11 +55,20 @@ private:
     void TurnTo(int row);
     /// To the register so many below, or above, in the list of them.
     void TurnBy(int step);
+    /// Shows the guarded ones, or turns away from them.
+    void ShowGuarded();
+    /// No file comes from the guarded ones, or goes to them.
+    void OfferFiles();
     RegisterScreen* Current() const;
 
     const Desk desk_;
     const RecordActions actions_;
+    /// In the order of the list; from `guarded_` on they are not for everybody.
+    std::vector<const family::registers::Register*> registers_;
+    std::size_t guarded_;
+    const std::function<bool()> showsGuarded_;
     QListWidget* names_;
+    QPushButton *import_ = nullptr, *export_ = nullptr;
     QStackedWidget* pages_;
     /// By register; null until it is turned to.
     std::vector<RegisterScreen*> screens_;

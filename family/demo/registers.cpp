@@ -3,6 +3,7 @@
 #include "family/data/checks/documents.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/insert_row.hpp"
+#include "family/demo/fictional_shop.hpp"
 #include "family/demo/words.hpp"
 
 namespace kova::family {
@@ -82,10 +83,7 @@ const std::vector<Breeds>& AllBreeds()
 
 void WriteCompany(Database& database)
 {
-    Insert(database,
-           CompanyRow{1, "Pet Shop Amigo Fiel", "Amigo Fiel Serviços para Animais Ltda.",
-                      WithCnpjCheckDigits("999999990001"),
-                      "Avenida das Hortênsias, 1200 - Centro - Vale Sereno/SP", "(11) 90100-0000"});
+    Insert(database, FictionalCompany());
     Key code = 0;
     for (const char* name : {"Recepção", "Carla", "Marcos"})
         Insert(database, UserRow{++code, name});

@@ -62,8 +62,6 @@ CompanyStep::CompanyStep(const Beginning& beginning, QWidget* parent)
     document_ = AddField(QStringLiteral("documento"), QStringLiteral("CN&PJ ou CPF"), LongestDocument, false);
     phone_ = AddField(QStringLiteral("telefone"), QStringLiteral("&Telefone"), LongestPhone, false);
     address_ = AddField(QStringLiteral("endereco"), QStringLiteral("&Endereço"), LongestAddress, false);
-    user_ = AddField(QStringLiteral("usuario"), QStringLiteral("Nome de quem &usa este computador"),
-                     LongestName, true);
     nickname_ =
         AddField(QStringLiteral("apelido"), QStringLiteral("Primeiro(a) &funcionário(a), como é chamado(a)"),
                  LongestNickname, true);
@@ -87,18 +85,18 @@ void CompanyStep::LayOut()
     auto* heading = new QLabel(QStringLiteral("A empresa e quem trabalha nela"), this);
     heading->setFont(qt::MakeFont("Arial", 14, true));
     grid->addWidget(heading, 0, 0, 1, 2);
-    const std::pair<FieldFrame*, QPoint> places[] = {
-        {tradeName_, {0, 1}}, {legalName_, {1, 1}}, {document_, {0, 2}}, {phone_, {1, 2}},
-        {user_, {0, 4}},      {nickname_, {0, 5}},  {employee_, {1, 5}}};
+    const std::pair<FieldFrame*, QPoint> places[] = {{tradeName_, {0, 1}}, {legalName_, {1, 1}},
+                                                     {document_, {0, 2}},  {phone_, {1, 2}},
+                                                     {nickname_, {0, 4}},  {employee_, {1, 4}}};
     for (const auto& [frame, place] : places)
         grid->addWidget(frame, place.y(), place.x());
     grid->addWidget(address_, 3, 0, 1, 2);
-    grid->addWidget(file_, 6, 0, 1, 2);
+    grid->addWidget(file_, 5, 0, 1, 2);
     auto* browse = new QPushButton(QStringLiteral("E&scolher outra pasta..."), this);
     browse->setObjectName(QStringLiteral("pasta"));
     connect(browse, &QPushButton::clicked, this, [this] { ChooseFile(); });
-    grid->addWidget(browse, 7, 0, Qt::AlignLeft);
-    grid->setRowStretch(8, 1);
+    grid->addWidget(browse, 6, 0, Qt::AlignLeft);
+    grid->setRowStretch(7, 1);
 }
 
 FieldFrame* CompanyStep::AddField(const QString& name, const QString& label, int longest, bool isRequired)
@@ -113,7 +111,6 @@ FieldFrame* CompanyStep::AddField(const QString& name, const QString& label, int
 
 void CompanyStep::Propose(const Beginning& beginning)
 {
-    BoxOf(*user_).setText(QString::fromStdString(beginning.user));
     BoxOf(*nickname_).setText(QString::fromStdString(beginning.user));
     ProposeFile();
 }
@@ -142,7 +139,6 @@ bool CompanyStep::Accepts()
 {
     const std::pair<FieldFrame*, const char*> required[] = {
         {tradeName_, "Informe o nome fantasia da empresa."},
-        {user_, "Informe o nome de quem usa este computador."},
         {nickname_, "Informe como o(a) primeiro(a) funcionário(a) é chamado(a)."},
         {file_, "Informe o arquivo em que a loja fica guardada."}};
     Tidy(*document_, family::registers::shop_columns::CompanyNumber);
@@ -151,7 +147,7 @@ bool CompanyStep::Accepts()
         if (TextOf(*frame).empty())
             frame->Refuse(QString::fromUtf8(reason));
     }
-    for (FieldFrame* frame : {tradeName_, document_, phone_, user_, nickname_, file_}) {
+    for (FieldFrame* frame : {tradeName_, document_, phone_, nickname_, file_}) {
         if (!frame->IsRefused())
             continue;
         BoxOf(*frame).setFocus();
@@ -168,7 +164,6 @@ void CompanyStep::Fill(family::NewShop& shop) const
                     family::DocumentOf(TextOf(*document_)),
                     TextOf(*address_),
                     TextOf(*phone_)};
-    shop.user = TextOf(*user_);
     shop.employee = TextOf(*nickname_);
     shop.nameOfEmployee = TextOf(*employee_);
 }

@@ -14,7 +14,7 @@ namespace kova::host {
 class CompanyStep : public NewShopStep {
 public:
     struct Beginning {
-        /// Proposed as the user's name and as the first employee's.
+        /// Proposed as the first employee's name.
         std::string user;
         /// The folder that is proposed for the file.
         std::string documents;
@@ -34,8 +34,8 @@ private:
     void ChooseFile();
 
     std::string documents_;
-    screens::FieldFrame *tradeName_, *legalName_, *document_, *phone_, *address_, *user_, *nickname_,
-        *employee_, *file_;
+    screens::FieldFrame *tradeName_, *legalName_, *document_, *phone_, *address_, *nickname_, *employee_,
+        *file_;
     bool fileIsChosen_ = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include "family/data/engine/database_failure.hpp"
 #include "family/data/stores/new_shop.hpp"
+#include "host/first_start/administrator_step.hpp"
 #include "host/first_start/company_step.hpp"
 #include "host/first_start/hours_step.hpp"
 #include "host/first_start/services_step.hpp"
@@ -19,7 +20,7 @@ NewShopPage::NewShopPage(const std::string& user, const std::string& documents, 
     : QWidget(parent),
       company_(new CompanyStep({user, documents}, this)),
       pages_(new QStackedWidget(this)),
-      steps_{company_, new ServicesStep(this), new HoursStep(this)},
+      steps_{company_, new AdministratorStep(user, this), new ServicesStep(this), new HoursStep(this)},
       failure_(new screens::RefusalLabel(this)),
       next_(new QPushButton(this))
 {

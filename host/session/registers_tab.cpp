@@ -2,9 +2,12 @@
 
 #include "family/business/current_author.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/registers/access/access_registers.hpp"
+#include "family/users/user_rights.hpp"
 #include "host/folders.hpp"
 #include "host/session/user_change.hpp"
 #include "host/shell/main_window.hpp"
+#include "host/sign_in/user_dialogs.hpp"
 #include "registers/company_question.hpp"
 #include "registers/registers_page.hpp"
 #include "screens/run_alone.hpp"
@@ -27,6 +30,15 @@ QWidget* Explanation(const QString& text, QWidget& parent)
     label->setMargin(80);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     return label;
+}
+
+bool MayAdminister(const registers::Desk& desk)
+{
+    try {
+        return family::WhyDenied(*desk.database, desk.author(), family::Right::AdministerUsers).empty();
+    } catch (const Failure&) {
+        return false;
+    }
 }
 
 /// A folder for each shop; the name tells nobody where it lies.
@@ -71,7 +83,11 @@ QWidget* RegistersTab::MakePage(QWidget& parent)
     try {
         registers::Desk desk = OpenDesk();
         desk.drafts = std::make_shared<screens::DraftFolder>(DraftsOf(source_));
-        page_ = new registers::RegistersPage(std::move(desk), &parent);
+        registers::RegistersChoice choice;
+        choice.actions.push_back(SecretsAction());
+        choice.guarded = {&family::registers::UserRegister(), &family::registers::RoleRegister()};
+        choice.showsGuarded = [desk] { return MayAdminister(desk); };
+        page_ = new registers::RegistersPage(std::move(desk), &parent, std::move(choice));
         change_.Follow(*page_, [this] { page_->Refresh(); });
         return page_;
     } catch (const Failure& failure) {

@@ -2,6 +2,9 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "family/data/engine/server_connection.hpp"
+#include "family/data/sources/data_source.hpp"
+#include "family/demo/fictional_shop.hpp"
+#include "host/arguments/call.hpp"
 #include "host/component_setup.hpp"
 #include "host/components/component_service.hpp"
 #include "host/day_text.hpp"
@@ -20,6 +23,8 @@
 #include "host/session/shop.hpp"
 #include "host/session/user_change.hpp"
 #include "host/shell/main_window.hpp"
+#include "host/sign_in/door.hpp"
+#include "host/sign_in/door_menu.hpp"
 #include "system/path_text.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/qt/handles.hpp"
@@ -94,6 +99,12 @@ private:
     /// Ends this session for one with that shop.
     void TurnTo(const std::string& source);
     void OpenList();
+    /// Whether whoever is there gets in. Where nobody can be asked a shop with users is for nobody.
+    bool LetsIn();
+    /// In a shop that is none of the fictional ones nobody types who he is, or when it is.
+    void RequireReality() const;
+    /// What is stamped by a clock or a name of the options is for trials: no users begin there.
+    bool Pretends() const { return !options_.user.empty() || options_.date || options_.time; }
     std::string NameOfUser() const { return options_.user.empty() ? NameOfThisUser() : options_.user; }
     /// The day's list; null where none was made.
     Form* List() const { return toolkit_.FindForm("frmLista"); }
@@ -118,6 +129,7 @@ private:
     UserChange userChange_;
     std::unique_ptr<RegistersTab> registers_;
     std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<Door> door_;
     ComponentRef agenda_;
     std::unique_ptr<DailyBackup> backup_;
 };
@@ -128,22 +140,48 @@ SessionEnd Session::Run()
     Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
     user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
+    door_ = std::make_unique<Door>(Door::Surroundings{
+        SourceOf(options_), shop.tradeName, KeptEntries(SettingsFile()), user_, userChange_, clock_});
+    RequireReality();
+    if (!LetsIn())
+        return {EXIT_SUCCESS, std::nullopt};
     registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_, userChange_);
     if (shop.tradeName.empty() && outlet_ == Outlet::Window && !options_.firstPaint)
         shop.tradeName = registers_->AskForCompany();
     window_ = std::make_unique<MainWindow>(MainWindow::Heading{QString::fromStdString(shop.tradeName),
                                                                options_.database.empty(),
-                                                               QString::fromStdString(NameOfUser())});
+                                                               QString::fromStdString(user_->Name())});
     if (outlet_ == Outlet::Window && !options_.firstPaint)
         Remember(shop);
     registers_->AddTo(*window_);
     window_->mayClose = [this] { return registers_->MayLeave(); };
+    AddDoorToMenu(*door_, *window_, !Pretends());
+    door_->Watch(*window_);
     FillMenu();
     OpenList();
     if (options_.firstPaint)
         return {PaintWindow(), std::nullopt};
     const int status = outlet_ == Outlet::Window ? RunWindow() : DrawWindow();
     return {status, next_};
+}
+
+void Session::RequireReality() const
+{
+    if (!options_.isTyped || !Pretends())
+        return;
+    if (door_->HasUsers() || !family::IsFictional(*family::OpenDatabase(SourceOf(options_))))
+        throw arguments::BadArguments("As opções --user, --date e --time só valem em lojas de demonstração. "
+                                      "Nesta loja entra quem está no "
+                                      "posto, com a data e a hora do relógio: abra o programa sem elas.");
+}
+
+bool Session::LetsIn()
+{
+    if (!door_->HasUsers() || (outlet_ == Outlet::Window && !options_.firstPaint))
+        return door_->Enter();
+    throw arguments::BadArguments(
+        "Esta loja tem usuários, e sem a janela do programa ninguém pode entrar nela. "
+        "Abra o programa em uma tela, sem --picture e sem --first-paint.");
 }
 
 void Session::Remember(const Shop& shop) { remembered_.Remember({SourceOf(options_), shop.tradeName}); }
@@ -264,6 +302,7 @@ Session::~Session()
     if (Form* list = List())
         list->Unload();
     agenda_.reset();
+    door_.reset();
     // The toolkit ends forms from its event loop; what they hold of a library must go before it. So must
     // what a library has put into the window.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

@@ -1,6 +1,7 @@
 #include "host/session/shops.hpp"
 
 #include "agenda/contracts/failure.hpp"
+#include "host/arguments/call.hpp"
 #include "host/first_start/ask_for_shop.hpp"
 #include "host/folders.hpp"
 #include "host/session/remembered_shops.hpp"
@@ -24,12 +25,24 @@ std::string AsOption(const std::string& source)
 /// Of those with a window.
 bool AsksForShops(const Options& options) { return !options.firstPaint && options.database.empty(); }
 
+/// A name, a day and a time that somebody has typed are for the first shop.
+void ForgetPretence(Options& options)
+{
+    if (!options.isTyped)
+        return;
+    options.user.clear();
+    options.date.reset();
+    options.time.reset();
+}
+
 /// Why the shop could not be opened; nothing where the session has begun. `end` is how it ended.
 std::optional<std::string> TryShop(const Options& options, SessionEnd& end)
 {
     try {
         end = RunSession(options, Outlet::Window);
         return std::nullopt;
+    } catch (const arguments::BadArguments&) {
+        throw;
     } catch (const Failure& failure) {
         return failure.Description();
     } catch (const std::exception& failure) {
@@ -56,11 +69,14 @@ int RunShops(const Options& given, Outlet outlet)
         end.next = shops.empty() ? AskForShop(remembered, {}) : shops.front().source;
     } else {
         end = RunSession(options, outlet);
+        ForgetPretence(options);
     }
     while (end.next) {
         options.database = AsOption(*end.next);
         if (const auto refusal = TryShop(options, end))
             end = {EXIT_FAILURE, AskForShop(remembered, *refusal)};
+        else
+            ForgetPretence(options);
     }
     return end.status;
 }

@@ -46,16 +46,16 @@ QString TitleOf(const MainWindow::Heading& heading)
 } // namespace
 
 MainWindow::MainWindow(const Heading& heading)
-    : row_(new TabRow(this)),
+    : heading_(heading),
+      row_(new TabRow(this)),
       pages_(new QStackedWidget(this)),
       container_(new QWidget(this)),
       notice_(new NoticeBar(this))
 {
-    setWindowTitle(TitleOf(heading));
     setWindowIcon(ApplicationIcon());
     setBackgroundRole(QPalette::Base);
 
-    row_->TellUser(heading.user);
+    TellUser(heading.user);
     row_->TellShop(heading.isDemonstration ? DemonstrationText : QString());
     container_->setObjectName(QStringLiteral("container"));
     row_->GetTabs().addTab(QStringLiteral("Agenda"));
@@ -107,6 +107,15 @@ void MainWindow::TurnTo(int tab)
     QWidget* const page = pages_->currentWidget();
     (make || page->focusWidget() == nullptr ? page : page->focusWidget())->setFocus();
 }
+
+void MainWindow::TellUser(const QString& name)
+{
+    heading_.user = name;
+    setWindowTitle(TitleOf(heading_));
+    row_->TellUser(name);
+}
+
+void MainWindow::OfferChange(std::function<void()> change) { row_->OfferChange(std::move(change)); }
 
 QMenu& MainWindow::Menu() { return row_->Menu(); }
 

@@ -36,6 +36,10 @@ public:
     void AddTab(const QString& name, MakePage make);
     /// The application's menu, at the right end of the tabs.
     QMenu& Menu();
+    /// Somebody else works with it from now on: in the title, and at the right end of the tabs.
+    void TellUser(const QString& name);
+    /// The user's name is a button from then on.
+    void OfferChange(std::function<void()> change);
     /// Asked before the window closes; false keeps it open.
     std::function<bool()> mayClose = [] { return true; };
 
@@ -58,6 +62,7 @@ private:
     /// However small the screen is or however large it draws: no edge of the window has to lie beyond it.
     void FitToScreen();
 
+    Heading heading_;
     TabRow* row_;
     QStackedWidget* pages_;
     QWidget* container_;

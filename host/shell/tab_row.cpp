@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QToolButton>
 
+#include <utility>
+
 namespace kova::host {
 
 namespace {
@@ -22,7 +24,7 @@ TabRow::TabRow(QWidget* parent)
     : QWidget(parent),
       tabs_(new screens::Tabs(QStringLiteral("Áreas do programa"), this)),
       shop_(new QLabel(this)),
-      user_(new QLabel(this)),
+      user_(new QToolButton(this)),
       button_(new QToolButton(this)),
       menu_(new QMenu(this))
 {
@@ -30,12 +32,19 @@ TabRow::TabRow(QWidget* parent)
     setObjectName(QStringLiteral("barra"));
     shop_->setObjectName(QStringLiteral("loja"));
     user_->setObjectName(QStringLiteral("usuario"));
-    for (QLabel* label : {shop_, user_})
-        label->setTextFormat(Qt::PlainText);
+    shop_->setTextFormat(Qt::PlainText);
     screens::ColourAsRefusal(*shop_);
     QFont bold = shop_->font();
     bold.setBold(true);
     shop_->setFont(bold);
+
+    user_->setAutoRaise(true);
+    user_->setFocusPolicy(Qt::NoFocus);
+    user_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    connect(user_, &QToolButton::clicked, this, [this] {
+        if (change_)
+            change_();
+    });
 
     button_->setObjectName(QStringLiteral("menu"));
     button_->setText(QStringLiteral("Menu"));
@@ -64,9 +73,31 @@ void TabRow::TellShop(const QString& text)
 
 void TabRow::TellUser(const QString& name)
 {
-    user_->setText(user_->fontMetrics().elidedText(name, Qt::ElideRight, WidestName));
-    user_->setToolTip(user_->text() == name ? QString() : name);
-    user_->setVisible(!name.isEmpty());
+    name_ = name;
+    ShowUser();
+}
+
+void TabRow::OfferChange(std::function<void()> change)
+{
+    change_ = std::move(change);
+    user_->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+    user_->setFocusPolicy(Qt::TabFocus);
+    ShowUser();
+}
+
+void TabRow::ShowUser()
+{
+    const QString shown = user_->fontMetrics().elidedText(name_, Qt::ElideRight, WidestName);
+    const QString whole = shown == name_ ? QString() : name_;
+    const QString offer = QStringLiteral("Trocar usuário (Ctrl+Shift+U)");
+    user_->setText(QString(shown).replace(QLatin1Char('&'), QLatin1String("&&")));
+    if (!change_)
+        user_->setToolTip(whole);
+    else
+        user_->setToolTip(whole.isEmpty() ? offer : whole + QLatin1Char('\n') + offer);
+    user_->setAccessibleName(QStringLiteral("Usuário: ") + name_);
+    user_->setAccessibleDescription(change_ ? offer : QString());
+    user_->setVisible(!name_.isEmpty());
 }
 
 void TabRow::OpenMenu() { button_->showMenu(); }

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QLabel;
 class QMenu;
 class QToolButton;
@@ -11,7 +13,8 @@ class QToolButton;
 namespace kova::host {
 
 /// The narrow row at the upper edge of the window: its tabs, that a demonstration is one, who works with the
-/// window, and the menu of the application, which F10 opens too.
+/// window, as a button where another can take the place, and the menu of the application, which F10 opens
+/// too.
 class TabRow : public QWidget {
 public:
     explicit TabRow(QWidget* parent);
@@ -21,6 +24,8 @@ public:
     void TellShop(const QString& text);
     /// "" where nobody is known.
     void TellUser(const QString& name);
+    /// The user's name is a button from then on.
+    void OfferChange(std::function<void()> change);
     QMenu& Menu() { return *menu_; }
     void OpenMenu();
 
@@ -29,9 +34,12 @@ protected:
 
 private:
     screens::Tabs* tabs_;
+    void ShowUser();
+
     QLabel* shop_;
-    QLabel* user_;
-    QToolButton* button_;
+    QToolButton *user_, *button_;
+    QString name_;
+    std::function<void()> change_;
     QMenu* menu_;
 };
 

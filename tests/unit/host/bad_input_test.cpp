@@ -18,8 +18,7 @@ void ExpectRefusal(const ProgramResult& result, const std::string& name)
 
 ProgramResult Open(const fs::path& database, const fs::path& home)
 {
-    return RunKovaris({"--date", "25/03/2026", "--picture", home / "agenda.png", "--database", database},
-                      home);
+    return RunKovaris({"--picture", home / "agenda.png", "--database", database}, home);
 }
 
 fs::path RegistryIn(const fs::path& home) { return home / ".local/share/kovaris/componentes.reg"; }

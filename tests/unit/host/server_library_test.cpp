@@ -72,15 +72,12 @@ protected:
         ASSERT_EQ(made.status, 0) << made.errors;
     }
     /// Without a display the program tells the day and ends.
-    ProgramResult Open(const std::string& place)
-    {
-        return Run("kovaris", {"--date", "25/03/2026", "--database", place});
-    }
+    ProgramResult Open(const std::string& place) { return Run("kovaris", {"--database", place}); }
     void ExpectOpens(const std::string& place)
     {
         const ProgramResult result = Open(place);
         EXPECT_EQ(result.status, 0) << result.errors;
-        EXPECT_NE(result.output.find("Agenda de 25/03/2026"), std::string::npos) << result.output;
+        EXPECT_NE(result.output.find("Agenda de "), std::string::npos) << result.output;
     }
     static void ExpectRefusal(const ProgramResult& result, const std::string& words)
     {

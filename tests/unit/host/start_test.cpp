@@ -1,3 +1,5 @@
+#include "family/data/stores/new_shop.hpp"
+#include "family/users/passwords.hpp"
 #include "host/session/remembered_shops.hpp"
 #include "tests/unit/host/program_run.hpp"
 
@@ -142,12 +144,65 @@ TEST(Start, OpensAShopThatWasJustCreated)
     const ProgramResult created =
         RunProgram(BuildFolder() / "agenda-data", {"create", shop, "--company", "Pet Shop Céu"}, home.Path());
     ASSERT_EQ(created.status, 0) << created.errors;
-    const ProgramResult result = RunKovaris({"--database", shop, "--date", "25/03/2026"}, home.Path());
+    const ProgramResult result = RunKovaris({"--database", shop}, home.Path());
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(result.errors, "");
-    ExpectText(result.output, "Agenda de 25/03/2026");
+    ExpectText(result.output, "Agenda de ");
     EXPECT_EQ(RowsIn(result.output), 0);
+}
+
+TEST(Start, TakesNoNameNoDayAndNoTimeForAShopThatIsReal)
+{
+    const TemporaryFolder home;
+    const std::string shop = home / "loja.db";
+    RunProgram(BuildFolder() / "agenda-data", {"create", shop, "--company", "Pet Shop Céu"}, home.Path());
+    for (const std::vector<std::string>& pretence : std::vector<std::vector<std::string>>{
+             {"--user", "Ana"}, {"--date", "25/03/2026"}, {"--time", "08:30"}}) {
+        std::vector<std::string> words = {"--database", shop};
+        words.insert(words.end(), pretence.begin(), pretence.end());
+        const ProgramResult result = RunKovaris(words, home.Path());
+        EXPECT_EQ(result.status, 2) << pretence.front();
+        EXPECT_EQ(result.output, "");
+        EXPECT_EQ(
+            result.errors,
+            "Kovaris: As opções --user, --date e --time só valem em lojas de demonstração. Nesta loja entra "
+            "quem está no posto, com a data e a hora do relógio: abra o programa sem elas.\n");
+    }
+}
+
+TEST(Start, TakesThemForEveryFictionalShop)
+{
+    const TemporaryFolder home;
+    const std::string shop = home / "loja.db";
+    RunProgram(BuildFolder() / "agenda-data", {"demo", shop, "--date", "25/03/2026"}, home.Path());
+    const ProgramResult result = RunKovaris(
+        {"--database", shop, "--user", "Ana", "--date", "25/03/2026", "--time", "08:30"}, home.Path());
+    EXPECT_EQ(result.status, 0) << result.errors;
+    ExpectText(result.output, "Agenda de 25/03/2026");
+}
+
+TEST(Start, DrawsNoShopThatHasUsers)
+{
+    const TemporaryFolder home;
+    const std::string shop = home / "loja.db";
+    family::NewShop content;
+    content.company.nomeFantasia = "Céu";
+    content.user = content.employee = "Ana";
+    content.password = family::HashOf(family::Secret(std::string("Gato-Preto 1")), {1, 8192});
+    family::CreateNewShop(shop, content);
+    for (const std::vector<std::string>& words :
+         std::vector<std::vector<std::string>>{{"--database", shop},
+                                               {"--database", shop, "--picture", home / "agenda.png"},
+                                               {"--database", shop, "--first-paint"}}) {
+        const ProgramResult result = RunKovaris(words, home.Path());
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.output, "");
+        ExpectText(result.errors,
+                   "Kovaris: Esta loja tem usuários, e sem a janela do programa ninguém pode entrar");
+    }
+    EXPECT_FALSE(fs::exists(home / "agenda.png"));
+    EXPECT_FALSE(fs::exists(home / ".local/share/kovaris/agenda.png"));
 }
 
 TEST(Start, PrintsTheHelpAndTheVersion)

@@ -63,7 +63,7 @@ CadastrosTest::CadastrosTest()
 void CadastrosTest::Open(RecordActions actions)
 {
     page_ = std::make_unique<RegistersPage>(Desk{family::OpenDatabase(file_), [] { return Ana; }}, nullptr,
-                                            std::move(actions));
+                                            RegistersChoice{.actions = std::move(actions)});
     ShowPage({});
 }
 

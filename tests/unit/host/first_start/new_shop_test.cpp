@@ -13,7 +13,6 @@ TEST_F(TheQuestionForAShop, MakesAShop)
 {
     Open();
     Press("criar");
-    EXPECT_EQ(TextOf("usuario"), "Ana Maria");
     Type("fantasia", "Pet Shop \"Céu\"");
     EXPECT_EQ(TextOf("arquivo"), (folder_ / "Pet Shop Céu.db").string());
     Type("arquivo", (folder_ / "nova" / "céu.db").c_str());
@@ -26,6 +25,11 @@ TEST_F(TheQuestionForAShop, MakesAShop)
     Type("apelido", "Bia");
     Type("funcionario", "Beatriz Souza");
     QTest::keyClick(&Find<QLineEdit>("funcionario"), Qt::Key_Return);
+    EXPECT_EQ(TextOf("usuario"), "Ana Maria");
+    GiveAPassword();
+    Type("pin", "2580");
+    Type("pinDeNovo", "2580");
+    QTest::keyClick(&Find<QLineEdit>("pinDeNovo"), Qt::Key_Return);
     ASSERT_TRUE(Find<QTableWidget>("servicos").isVisible());
     Press("avancar");
     Press("avancar");
@@ -39,7 +43,51 @@ TEST_F(TheQuestionForAShop, MakesAShop)
                   "Pet Shop Céu;Céu Comércio Ltda.;12ABC34501DE35;(11) 3333-4444;Rua das Flores, 12"});
     EXPECT_EQ(made.Run("select apelido || ';' || nome from funcionario"),
               std::vector<std::string>{"Bia;Beatriz Souza"});
-    EXPECT_EQ(made.Run("select nome from usuario"), std::vector<std::string>{"Ana Maria"});
+    EXPECT_EQ(made.Run("select usuario.nome || ';' || papel.nome from usuario join papel"
+                       " on papel.codigo = codigo_do_papel"),
+              std::vector<std::string>{"Ana Maria;Administração"});
+    EXPECT_EQ(
+        made.Run("select count(*) from usuario where senha like '$argon2id$%' and pin like '$argon2id$%'"),
+        std::vector<std::string>{"1"});
+    EXPECT_EQ(ContentOf(*Answer()).find("Gato-Preto"), std::string::npos);
+}
+
+TEST_F(TheQuestionForAShop, WantsAPasswordThatWillDoTwice)
+{
+    Open();
+    Press("criar");
+    Type("fantasia", "Céu");
+    Press("avancar");
+    ASSERT_TRUE(Find<QLineEdit>("usuario").isVisible());
+    for (const char* box : {"senha", "senhaDeNovo", "pin", "pinDeNovo"})
+        EXPECT_EQ(Find<QLineEdit>(box).echoMode(), QLineEdit::Password) << box;
+    Type("usuario", " ");
+    Press("avancar");
+    EXPECT_EQ(Reasons(),
+              "Informe o nome de quem administra a loja.\n"
+              "A senha precisa ter pelo menos 8 caracteres.\n");
+    EXPECT_EQ(QApplication::focusWidget(), &Find<QLineEdit>("usuario"));
+    Type("usuario", "D'Ávila \"Lia\"");
+    Type("senha", "Gato-Preto 1");
+    Type("senhaDeNovo", "Gato-Preto 2");
+    Type("pin", "1234");
+    Press("avancar");
+    EXPECT_EQ(Reasons(),
+              "As duas senhas não são iguais.\nO PIN é fácil demais de adivinhar. Escolha outro.\n");
+    EXPECT_EQ(QApplication::focusWidget(), &Find<QLineEdit>("senhaDeNovo"));
+    Type("senhaDeNovo", "Gato-Preto 1");
+    Type("pin", "2580");
+    Type("pinDeNovo", "2581");
+    Press("avancar");
+    EXPECT_EQ(Reasons(), "Os dois PINs não são iguais.\n");
+    Type("pin", "");
+    Type("pinDeNovo", "");
+    for (int step = 0; step < 3; ++step)
+        Press("avancar");
+    ASSERT_NE(Answer(), std::nullopt);
+    kova::test::SqliteFile made(*Answer());
+    EXPECT_EQ(made.Run("select nome from usuario where pin is null"),
+              std::vector<std::string>{"D'Ávila \"Lia\""});
 }
 
 TEST_F(TheQuestionForAShop, ProposesAFileThatBearsTheShopsNameUntilOneIsChosen)
@@ -73,6 +121,8 @@ TEST_F(TheQuestionForAShop, GoesThroughTheStepsOfANewShopAndBack)
     EXPECT_TRUE(Find<QTableWidget>("servicos").isVisible());
     EXPECT_EQ(offered(), "&Avançar");
     Press("voltar");
+    EXPECT_EQ(TextOf("senha"), "Gato-Preto 1") << "what was typed stays";
+    Press("voltar");
     EXPECT_EQ(TextOf("fantasia"), "Céu");
     Press("voltar");
     EXPECT_TRUE(Find<QPushButton>("demonstracao").isVisible());
@@ -82,7 +132,7 @@ TEST_F(TheQuestionForAShop, MakesNoShopWithoutACompanyAUserAndAnEmployee)
 {
     Open();
     Press("criar");
-    for (const char* box : {"usuario", "apelido", "arquivo"})
+    for (const char* box : {"apelido", "arquivo"})
         Type(box, " ");
     Type("documento", "123");
     Type("telefone", "3333-4444");
@@ -90,7 +140,6 @@ TEST_F(TheQuestionForAShop, MakesNoShopWithoutACompanyAUserAndAnEmployee)
     EXPECT_EQ(Reasons(),
               "Informe o nome fantasia da empresa.\nNão é um CNPJ nem um CPF válido: confira os dígitos.\n"
               "O telefone 3333-4444 não tem DDD e oito ou nove dígitos, como (11) 3123-4567.\n"
-              "Informe o nome de quem usa este computador.\n"
               "Informe como o(a) primeiro(a) funcionário(a) é chamado(a).\n"
               "Informe o arquivo em que a loja fica guardada.\n");
     EXPECT_EQ(QApplication::focusWidget(), &Find<QLineEdit>("fantasia"));
@@ -110,8 +159,8 @@ TEST_F(TheQuestionForAShop, OverwritesNoFile)
     EXPECT_NE(Find<QLabel>("falha").text().toStdString().find("já existe"), std::string::npos)
         << Find<QLabel>("falha").text().toStdString();
     EXPECT_EQ(ContentOf(folder_ / "ocupado.db"), "conteúdo");
-    Press("voltar");
-    Press("voltar");
+    for (int step = 0; step < 3; ++step)
+        Press("voltar");
     EXPECT_EQ(TextOf("fantasia"), "Céu");
     EXPECT_EQ(Answer(), std::nullopt);
     Type("arquivo", (folder_ / "outro.db").c_str());

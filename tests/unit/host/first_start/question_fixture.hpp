@@ -54,8 +54,15 @@ protected:
     /// From the company to the last step, and on.
     void MakeWithTheRestAsItIs()
     {
+        Press("avancar");
+        GiveAPassword();
         for (int step = 0; step < 3; ++step)
             Press("avancar");
+    }
+    void GiveAPassword(const char* password = "Gato-Preto 1")
+    {
+        Type("senha", password);
+        Type("senhaDeNovo", password);
     }
     /// In a row of the services, as by hand.
     void Correct(int row, int column, const std::string& text)
@@ -74,6 +81,8 @@ protected:
         Open();
         Press("criar");
         Type("fantasia", "Céu");
+        Press("avancar");
+        GiveAPassword();
         Press("avancar");
     }
     /// Chooses a file in the dialog that comes next; leaves the dialog where there is none.

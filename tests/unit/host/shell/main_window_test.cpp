@@ -174,9 +174,33 @@ TEST_F(TheMainWindow, CutsALongNameOfItsUserAndTellsItAllInATip)
 {
     const QString name = QStringLiteral("Maria Antônia da Conceição e Albuquerque Vasconcelos de Souza Lima");
     const MainWindow window({"", false, name});
-    const auto* label = window.findChild<QLabel*>(QStringLiteral("usuario"));
-    EXPECT_NE(label->text(), name);
-    EXPECT_EQ(label->toolTip(), name);
+    const auto* user = window.findChild<QToolButton*>(QStringLiteral("usuario"));
+    EXPECT_NE(user->text(), name);
+    EXPECT_EQ(user->toolTip(), name);
+    EXPECT_EQ(user->accessibleName(), QStringLiteral("Usuário: ") + name);
+}
+
+TEST_F(TheMainWindow, HasItsUsersNameAsAButtonOnceAnotherCanTakeThePlace)
+{
+    MainWindow window({"Pet Shop Céu", false, "Ana & Bia"});
+    window.Open(WindowSize{1000, 700});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    auto* user = window.findChild<QToolButton*>(QStringLiteral("usuario"));
+    const QPoint place = user->mapTo(&window, user->rect().center());
+    int changes = 0;
+    EXPECT_EQ(user->text(), "Ana && Bia");
+    EXPECT_EQ(user->focusPolicy(), Qt::NoFocus);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+    window.OfferChange([&] { ++changes; });
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(changes, 1);
+    user->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(user, Qt::Key_Space);
+    EXPECT_EQ(changes, 2);
+    window.TellUser(QStringLiteral("Caio"));
+    EXPECT_EQ(user->text(), "Caio");
+    EXPECT_EQ(user->toolTip(), "Trocar usuário (Ctrl+Shift+U)");
+    EXPECT_EQ(window.windowTitle(), "Pet Shop Céu - Caio - Kovaris");
 }
 
 TEST_F(TheMainWindow, TellsTheShopAndTheUserInItsTitle)

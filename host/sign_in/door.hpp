@@ -1,0 +1,91 @@
+#pragma once
+
+#include "agenda/contracts/platform.hpp"
+#include "host/sign_in/kept_entries.hpp"
+#include "host/sign_in/sign_in_dialog.hpp"
+#include "registers/desk.hpp"
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+namespace kova::family {
+class Database;
+}
+
+namespace kova::host {
+
+class Cover;
+class IdleWatch;
+class MainWindow;
+class SessionUser;
+class SignInTrial;
+class UserChange;
+
+/// Who gets at the shop's desk: asks at the start, lets another user take the place, and locks the window.
+/// In a shop without users everybody is let in, and nobody is asked.
+class Door : public QObject {
+public:
+    struct Surroundings {
+        /// Where the shop lies, and its name; "" where it has none.
+        std::string source, shop;
+        KeptEntries kept;
+        std::shared_ptr<SessionUser> user;
+        /// Both must outlive the door.
+        UserChange& change;
+        const Clock& clock;
+    };
+
+    /// Looks whether the shop has users. Fails with a DatabaseFailure.
+    explicit Door(Surroundings surroundings);
+    ~Door() override;
+
+    bool HasUsers() const { return hasUsers_; }
+    /// Whether the user who is at the desk has administered the users when he came.
+    bool IsAdministrator() const { return isAdministrator_; }
+    /// A connection of its own to the shop, and whoever is at the desk. Fails with a DatabaseFailure.
+    registers::Desk OpenDesk() const;
+    const Clock& GetClock() const { return surroundings_.clock; }
+    /// Asks who it is, where the shop has users and this computer does not keep the answer. False where the
+    /// question is left. Fails with a DatabaseFailure.
+    bool Enter();
+    /// From then on Ctrl+Shift+U lets another take the place, over every window of the application, and the
+    /// window is locked when nobody is at it. The window must outlive the door.
+    void Watch(MainWindow& window);
+
+    /// Another one takes the place; nothing on the screen is lost. Nothing happens where somebody is asked
+    /// already.
+    void Change();
+    void Lock();
+
+    /// The shop has its first user, who administers it and is at the desk from now on.
+    void BeginWithUsers(family::Key code, const std::string& name);
+
+    int IdleMinutes() const { return surroundings_.kept.IdleMinutes(surroundings_.source); }
+    void SetIdleMinutes(int minutes);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    std::shared_ptr<family::Database> Open() const;
+    bool EnterByToken(family::Database& database);
+    /// Those whose names are proposed; none where the data cannot be read now.
+    std::vector<std::string> Names() const;
+    SignInForm::Look Look(family::SignInTry::Kind kind);
+    SignInDialog& Ask(const SignInDialog::Question& question);
+    void LetIn(const family::SignInAnswer& answer);
+    void Keep(family::Key code, bool keeps) const;
+    void FollowIdleness();
+
+    Surroundings surroundings_;
+    bool hasUsers_ = false, isAdministrator_ = false;
+    SignInTrial* trial_;
+    IdleWatch* idle_;
+    MainWindow* window_ = nullptr;
+    QPointer<SignInDialog> dialog_;
+    std::unique_ptr<Cover> cover_;
+};
+
+} // namespace kova::host

@@ -1,0 +1,50 @@
+#include "host/session/remembered_shops.hpp"
+#include "host/sign_in/kept_entries.hpp"
+#include "tests/unit/host/program_run.hpp"
+
+#include <gtest/gtest.h>
+
+namespace kova::host::test {
+
+TEST(KeptEntries, AreKeptShopByShopBesideTheShopsThatWereOpened)
+{
+    const TemporaryFolder home;
+    const fs::path file = home / "kovaris.ini";
+    RememberedShops shops(file);
+    ASSERT_TRUE(shops.Remember({"/casa/loja.db", "Céu"}));
+    const KeptEntries entries(file);
+    EXPECT_EQ(entries.LastName("/casa/loja.db"), "");
+    EXPECT_EQ(entries.Token("/casa/loja.db"), "");
+    EXPECT_EQ(entries.IdleMinutes("/casa/loja.db"), 15);
+    entries.SetLastName("/casa/loja.db", "D'Ávila \"Lia\"; Peçanha");
+    entries.SetToken("/casa/loja.db", "0123abcd");
+    entries.SetIdleMinutes("/casa/loja.db", 0);
+    EXPECT_EQ(entries.LastName("/casa/loja.db"), "D'Ávila \"Lia\"; Peçanha");
+    EXPECT_EQ(entries.Token("/casa/loja.db"), "0123abcd");
+    EXPECT_EQ(entries.IdleMinutes("/casa/loja.db"), 0);
+    EXPECT_EQ(entries.Token("postgresql:///loja"), "");
+    EXPECT_EQ(entries.IdleMinutes("postgresql:///loja"), 15);
+    ASSERT_TRUE(shops.Remember({"/casa/outra.db", ""}));
+    EXPECT_EQ(entries.Token("/casa/loja.db"), "0123abcd");
+    EXPECT_EQ(shops.All().size(), 2U);
+    entries.SetToken("/casa/loja.db", "");
+    EXPECT_EQ(entries.Token("/casa/loja.db"), "");
+    EXPECT_EQ(entries.LastName("/casa/loja.db"), "D'Ávila \"Lia\"; Peçanha");
+}
+
+TEST(KeptEntries, AreForTheirOwnerAloneAndReadAsNoneWhereTheyAreNone)
+{
+    const TemporaryFolder home;
+    const KeptEntries entries(home / "kovaris.ini");
+    entries.SetToken("loja", "0123abcd");
+    const fs::perms others = fs::perms::group_all | fs::perms::others_all;
+    EXPECT_EQ(fs::status(home / "kovaris.ini").permissions() & others, fs::perms::none);
+    for (const char* minutes : {"-1", "x", "99999999999"}) {
+        const std::string content = ContentOf(home / "kovaris.ini");
+        const std::string group = content.substr(0, content.find(']') + 1);
+        WriteFile(home / "kovaris.ini", group + "\nbloqueio=" + minutes + "\n");
+        EXPECT_EQ(entries.IdleMinutes("loja"), 15) << minutes;
+    }
+}
+
+} // namespace kova::host::test
