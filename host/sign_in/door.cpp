@@ -53,6 +53,15 @@ registers::Desk Door::OpenDesk() const
             }};
 }
 
+void Door::LookAgain()
+{
+    try {
+        hasUsers_ = hasUsers_ || family::HasUsers(*Open());
+    } catch (const family::DatabaseFailure&) {
+        return;
+    }
+}
+
 bool Door::Enter()
 {
     if (!hasUsers_)
@@ -65,7 +74,7 @@ bool Door::Enter()
     const bool isOne = users.size() == 1;
     bool hasEntered = false;
     SignInDialog dialog({.title = QStringLiteral("Entrar - Kovaris"),
-                         .leave = QStringLiteral("&Sair do programa"),
+                         .leave = QStringLiteral("Sair do &programa"),
                          .shop = QString::fromStdString(surroundings_.shop),
                          .why = QStringLiteral("Entre com o seu usuário desta loja."),
                          .names = NamesOf(users),
@@ -155,6 +164,7 @@ SignInDialog& Door::Ask(const SignInDialog::Question& question)
 
 void Door::Change()
 {
+    LookAgain();
     if (!hasUsers_ || window_ == nullptr || dialog_ != nullptr)
         return;
     Ask({.title = QStringLiteral("Trocar usuário"),
@@ -207,7 +217,7 @@ void Door::FollowIdleness()
 // A shortcut of the window would be none where a form is open over it.
 bool Door::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || !hasUsers_)
+    if (event->type() != QEvent::KeyPress)
         return QObject::eventFilter(object, event);
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() != Qt::Key_U || key->modifiers() != (Qt::ControlModifier | Qt::ShiftModifier))

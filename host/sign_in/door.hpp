@@ -42,6 +42,8 @@ public:
     ~Door() override;
 
     bool HasUsers() const { return hasUsers_; }
+    /// A shop gets its first user at any desk, or in its register. What cannot be read now stays as it was.
+    void LookAgain();
     /// Whether the user who is at the desk has administered the users when he came.
     bool IsAdministrator() const { return isAdministrator_; }
     /// A connection of its own to the shop, and whoever is at the desk. Fails with a DatabaseFailure.

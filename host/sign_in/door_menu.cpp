@@ -65,8 +65,11 @@ void AddDoorToMenu(Door& door, MainWindow& window, bool mayBegin)
     menu.addSeparator();
     entries.Offer(door, mayBegin);
     OfferChange(door, window);
-    QObject::connect(&menu, &QMenu::aboutToShow, &window,
-                     [&door, entries, mayBegin] { entries.Offer(door, mayBegin); });
+    QObject::connect(&menu, &QMenu::aboutToShow, &window, [&door, &window, entries, mayBegin] {
+        door.LookAgain();
+        entries.Offer(door, mayBegin);
+        OfferChange(door, window);
+    });
 }
 
 } // namespace kova::host

@@ -4,6 +4,7 @@
 #include "family/users/accounts.hpp"
 #include "host/sign_in/secret_box.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/grows_with_contents.hpp"
 #include "screens/plain_label.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
@@ -60,6 +61,7 @@ SecretsDialog::SecretsDialog(const Question& question, Save save, QWidget* paren
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Try(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
+    screens::GrowWithContents(*this);
     resize(Width, layout->totalHeightForWidth(Width));
 }
 

@@ -1,6 +1,7 @@
 #include "host/sign_in/sign_in_dialog.hpp"
 
 #include "host/shell/icon.hpp"
+#include "screens/grows_with_contents.hpp"
 #include "screens/plain_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -54,6 +55,7 @@ SignInDialog::SignInDialog(const Question& question, SignInForm::Look look, QWid
     };
     setFixedWidth(Width);
     setTabOrder(keep_, &form_->Offered());
+    screens::GrowWithContents(*this);
     form_->FocusNext();
 }
 

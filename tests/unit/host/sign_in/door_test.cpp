@@ -2,6 +2,7 @@
 
 #include "family/data/sources/data_source.hpp"
 #include "family/data/stores/new_shop.hpp"
+#include "family/users/accounts.hpp"
 #include "family/users/kept_sign_in.hpp"
 #include "host/session/session_clock.hpp"
 #include "host/session/session_user.hpp"
@@ -68,6 +69,27 @@ TEST_F(TheDoor, StandsOpenInAShopWithoutUsersAndLocksNobodyOut)
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(PatienceOf(door), std::chrono::minutes(0));
     EXPECT_EQ(user_->Name(), "Recepção");
+}
+
+TEST_F(TheDoor, IsNoLongerOpenOnceTheShopHasAUserFromElsewhere)
+{
+    MakeShop(false);
+    Door& door = Open();
+    EXPECT_TRUE(door.Enter());
+    door.Watch(window_);
+    window_.Open(WindowSize{1000, 700});
+    const auto database = family::OpenDatabase(file_);
+    const family::Secret password(std::string("Gato-Preto 1"));
+    EXPECT_EQ(family::SaveAccount(
+                  *database, {0, "Bia", 1, true}, &password,
+                  {.code = "0", .name = "root", .moment = "2026-11-20 09:00:00", .isOwner = true}, {1, 8192})
+                  .why,
+              "");
+    EXPECT_FALSE(door.HasUsers());
+    door.Change();
+    EXPECT_TRUE(door.HasUsers());
+    EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+    door_.reset();
 }
 
 TEST_F(TheDoor, LetsInWhomThisComputerKnowsAndTellsTheAreas)

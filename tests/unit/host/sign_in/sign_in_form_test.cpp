@@ -153,6 +153,21 @@ TEST_F(SigningInAtTheDesk, CountsTheWaitAfterWrongTriesDown)
     EXPECT_EQ(tried_, "Bia/errada\nBia/gato\n");
 }
 
+TEST_F(SigningInAtTheDesk, MakesRoomForWhatItTells)
+{
+    Open(OfThree());
+    const int height = Find<QLineEdit>("segredo").height();
+    TypeSecret("errada");
+    PressReturn();
+    std::string words;
+    for (int word = 0; word < 100; ++word)
+        words += "senha ";
+    Answer({.outcome = Outcome::Wrong, .text = words});
+    const auto& told = Find<QLabel>("recusa");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told.height() >= told.heightForWidth(told.width()); }));
+    EXPECT_EQ(Find<QLineEdit>("segredo").height(), height);
+}
+
 TEST_F(SigningInAtTheDesk, LetsAnotherNameWaitForNobody)
 {
     Open(OfThree());
