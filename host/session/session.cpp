@@ -2,9 +2,6 @@
 
 #include "agenda/contracts/failure_detail.hpp"
 #include "family/data/engine/server_connection.hpp"
-#include "family/data/sources/data_source.hpp"
-#include "family/demo/fictional_shop.hpp"
-#include "host/arguments/call.hpp"
 #include "host/component_setup.hpp"
 #include "host/components/component_service.hpp"
 #include "host/day_text.hpp"
@@ -14,6 +11,7 @@
 #include "host/host_platform.hpp"
 #include "host/host_toolkit.hpp"
 #include "host/picture.hpp"
+#include "host/session/admission.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
 #include "host/session/registers_tab.hpp"
@@ -99,12 +97,6 @@ private:
     /// Ends this session for one with that shop.
     void TurnTo(const std::string& source);
     void OpenList();
-    /// Whether whoever is there gets in. Where nobody can be asked a shop with users is for nobody.
-    bool LetsIn();
-    /// In a shop that is none of the fictional ones nobody types who he is, or when it is.
-    void RequireReality() const;
-    /// What is stamped by a clock or a name of the options is for trials: no users begin there.
-    bool Pretends() const { return !options_.user.empty() || options_.date || options_.time; }
     std::string NameOfUser() const { return options_.user.empty() ? NameOfThisUser() : options_.user; }
     /// The day's list; null where none was made.
     Form* List() const { return toolkit_.FindForm("frmLista"); }
@@ -142,8 +134,7 @@ SessionEnd Session::Run()
     user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
     door_ = std::make_unique<Door>(Door::Surroundings{
         SourceOf(options_), shop.tradeName, KeptEntries(SettingsFile()), user_, userChange_, clock_});
-    RequireReality();
-    if (!LetsIn())
+    if (!Admit(*door_, options_, SourceOf(options_), outlet_))
         return {EXIT_SUCCESS, std::nullopt};
     registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_, userChange_);
     if (shop.tradeName.empty() && outlet_ == Outlet::Window && !options_.firstPaint)
@@ -155,7 +146,7 @@ SessionEnd Session::Run()
         Remember(shop);
     registers_->AddTo(*window_);
     window_->mayClose = [this] { return registers_->MayLeave(); };
-    AddDoorToMenu(*door_, *window_, !Pretends());
+    AddDoorToMenu(*door_, *window_, !Pretends(options_));
     door_->Watch(*window_);
     FillMenu();
     OpenList();
@@ -163,25 +154,6 @@ SessionEnd Session::Run()
         return {PaintWindow(), std::nullopt};
     const int status = outlet_ == Outlet::Window ? RunWindow() : DrawWindow();
     return {status, next_};
-}
-
-void Session::RequireReality() const
-{
-    if (!options_.isTyped || !Pretends())
-        return;
-    if (door_->HasUsers() || !family::IsFictional(*family::OpenDatabase(SourceOf(options_))))
-        throw arguments::BadArguments("As opções --user, --date e --time só valem em lojas de demonstração. "
-                                      "Nesta loja entra quem está no "
-                                      "posto, com a data e a hora do relógio: abra o programa sem elas.");
-}
-
-bool Session::LetsIn()
-{
-    if (!door_->HasUsers() || (outlet_ == Outlet::Window && !options_.firstPaint))
-        return door_->Enter();
-    throw arguments::BadArguments(
-        "Esta loja tem usuários, e sem a janela do programa ninguém pode entrar nela. "
-        "Abra o programa em uma tela, sem --picture e sem --first-paint.");
 }
 
 void Session::Remember(const Shop& shop) { remembered_.Remember({SourceOf(options_), shop.tradeName}); }

@@ -1,13 +1,9 @@
 // Who is at the desk: signing in, changing places and the lock, in the application's own window.
 
-#include "tests/window/shop.hpp"
+#include "tests/window/shop_with_users.hpp"
 
 #include "agenda/contracts/widgets.hpp"
-#include "family/data/sources/data_source.hpp"
-#include "family/users/accounts.hpp"
-#include "family/users/user_rights.hpp"
 #include "host/folders.hpp"
-#include "host/session/session.hpp"
 #include "host/sign_in/kept_entries.hpp"
 
 #include <QApplication>
@@ -15,12 +11,9 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
-
-#include <cstdlib>
 
 namespace kova::window_test {
 
@@ -28,90 +21,6 @@ namespace {
 
 constexpr const char* List = "frmLista";
 constexpr const char* Form = "frmFichaSimplificada";
-constexpr family::Key Administration = 1, Reception = 3;
-
-class ShopWithUsers : public Shop {
-protected:
-    void AddUser(const std::string& name, family::Key role, const std::string& password,
-                 const std::string& pin = "")
-    {
-        const auto database = family::OpenDatabase(Database());
-        const family::Secret secret{std::string(password)};
-        const auto made = family::SaveAccount(*database, {0, name, role, true}, &secret, owner_);
-        EXPECT_EQ(made.why, "");
-        if (pin.empty())
-            return;
-        const family::Secret short_{std::string(pin)};
-        EXPECT_EQ(family::SetPin(*database, made.code, &short_, owner_).why, "");
-    }
-    void AddAnaAndLia()
-    {
-        AddUser("Ana", Administration, "Gato-Preto 1");
-        AddUser("Lia", Reception, "Laço Azul 22", "2580");
-    }
-
-    static QWidget* Window()
-    {
-        for (QWidget* top : QApplication::topLevelWidgets()) {
-            if (top->isVisible() && top->findChild<QWidget*>(QStringLiteral("container")))
-                return top;
-        }
-        return nullptr;
-    }
-    static QWidget* Dialog(const char* name)
-    {
-        QWidget* modal = QApplication::activeModalWidget();
-        return modal != nullptr && modal->objectName() == QLatin1String(name) ? modal : nullptr;
-    }
-    static QWidget* Question() { return Dialog("Entrada"); }
-    template <class Kind> static Kind& In(QWidget* dialog, const char* name)
-    {
-        return *dialog->findChild<Kind*>(QString::fromUtf8(name));
-    }
-    static std::string Told() { return In<QLabel>(Question(), "recusa").text().toStdString(); }
-    /// Whether the question takes a try.
-    static bool IsReady()
-    {
-        return Question() != nullptr && In<QPushButton>(Question(), "entrar").isEnabled();
-    }
-
-    static void Fill(QLineEdit& box, const QString& text)
-    {
-        box.setFocus();
-        box.selectAll();
-        QTest::keyClick(&box, Qt::Key_Delete);
-        for (const QChar letter : text)
-            QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(letter), Qt::NoModifier);
-    }
-    static void Enter(const QString& name, const QString& secret)
-    {
-        if (!name.isEmpty())
-            Fill(*In<QComboBox>(Question(), "nome").lineEdit(), name);
-        Fill(In<QLineEdit>(Question(), "segredo"), secret);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    }
-    /// "" leaves the name as it stands there.
-    Receptionist& Enters(const char* name, const char* secret)
-    {
-        return receptionist->WaitsUntil("somebody is asked for", [] { return IsReady(); })
-            .Does(std::string("enter as ") + name,
-                  [name, secret] { Enter(QString::fromUtf8(name), QString::fromUtf8(secret)); });
-    }
-    Receptionist& WaitsForAnswer()
-    {
-        return receptionist->WaitsUntil("there is an answer",
-                                        [] { return Question() != nullptr && !Told().empty(); });
-    }
-    static std::string Title() { return Window()->windowTitle().toStdString(); }
-    std::string LastAuthor() const
-    {
-        return Value(
-            "select usuario from auditoria where tabela = 'agendamento' order by codigo desc limit 1");
-    }
-
-    const family::Author owner_{
-        .code = "0", .name = "root", .moment = "2026-11-20 09:00:00", .isOwner = true};
-};
 
 } // namespace
 
@@ -297,71 +206,6 @@ TEST_F(ShopWithUsers, OfOnePersonNeedNotAskAtThisComputer)
     receptionist->WaitsFor(List).Leaves();
     Run();
     EXPECT_FALSE(isOffered);
-}
-
-TEST_F(ShopWithUsers, BeginsWithTheFirstByTheMenu)
-{
-    int offered = 0;
-    std::string title;
-    receptionist->WaitsFor(List).Presses("Ctrl+Shift+U").Presses("Ctrl+L").WaitsFor(List).Looks([&] {
-        offered = Question() != nullptr;
-    });
-    receptionist->Presses("F10").Picks("&Começar a usar usuários...");
-    receptionist->WaitsUntil("the first is asked for", [] { return Dialog("SenhaEPin") != nullptr; })
-        .Does("answer", [] {
-            QWidget* dialog = Dialog("SenhaEPin");
-            Fill(In<QLineEdit>(dialog, "nome"), QStringLiteral("Antônia"));
-            for (const char* box : {"senha", "senhaDeNovo"})
-                Fill(In<QLineEdit>(dialog, box), QStringLiteral("Gato-Preto 1"));
-            for (const char* box : {"pin", "pinDeNovo"})
-                Fill(In<QLineEdit>(dialog, box), QStringLiteral("2580"));
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        });
-    receptionist->WaitsFor(List).Presses("Ctrl+Shift+U");
-    Enters("Antônia", "2580");
-    receptionist->WaitsFor(List).Looks([&] { title = Title(); }).Leaves();
-    host::Options options;
-    options.database = Database();
-    options.size = host::WindowSize{1366, 768};
-    EXPECT_EQ(host::RunSession(options, host::Outlet::Window).status, EXIT_SUCCESS);
-    EXPECT_EQ(offered, 0);
-    EXPECT_EQ(title, "Pet Shop Amigo Fiel - Antônia - Kovaris");
-    EXPECT_TRUE(family::HasUsers(*family::OpenDatabase(Database())));
-}
-
-TEST_F(ShopWithUsers, ShowsItsUsersToThoseWhoAdministerThemAlone)
-{
-    AddAnaAndLia();
-    Enters("Lia", "Laço Azul 22");
-    const auto shown = [] {
-        const auto& names = In<QListWidget>(Window(), "cadastros");
-        std::string titles;
-        for (int row = 0; row < names.count(); ++row) {
-            if (!names.item(row)->isHidden() && row > 10)
-                titles += names.item(row)->text().toStdString() + ";";
-        }
-        return titles;
-    };
-    std::string toLia, toAna;
-    receptionist->WaitsFor(List).Presses("Alt+2");
-    const auto isOpen = [] {
-        return Window()->findChild<QListWidget*>(QStringLiteral("cadastros")) != nullptr;
-    };
-    receptionist->WaitsUntil("the registers are there", isOpen).Does("change", [&, shown] {
-        toLia = shown();
-        QTest::keyClick(Window()->windowHandle(), Qt::Key_U, Qt::ControlModifier | Qt::ShiftModifier);
-    });
-    Enters("Ana", "Gato-Preto 1");
-    receptionist
-        ->WaitsUntil("Ana is there",
-                     [] { return Question() == nullptr && Title().find("Ana") != std::string::npos; })
-        .Does("look", [&, shown] {
-            toAna = shown();
-            Window()->close();
-        });
-    Run();
-    EXPECT_EQ(toLia, "Empresa;");
-    EXPECT_EQ(toAna, "Empresa;Usuários;Papéis;");
 }
 
 } // namespace kova::window_test
