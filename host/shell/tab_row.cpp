@@ -3,6 +3,7 @@
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -40,7 +41,7 @@ TabRow::TabRow(QWidget* parent)
 
     user_->setAutoRaise(true);
     user_->setFocusPolicy(Qt::NoFocus);
-    user_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    user_->installEventFilter(this);
     connect(user_, &QToolButton::clicked, this, [this] {
         if (change_)
             change_();
@@ -80,7 +81,6 @@ void TabRow::TellUser(const QString& name)
 void TabRow::OfferChange(std::function<void()> change)
 {
     change_ = std::move(change);
-    user_->setAttribute(Qt::WA_TransparentForMouseEvents, false);
     user_->setFocusPolicy(Qt::TabFocus);
     ShowUser();
 }
@@ -98,6 +98,14 @@ void TabRow::ShowUser()
     user_->setAccessibleName(QStringLiteral("Usuário: ") + name_);
     user_->setAccessibleDescription(change_ ? offer : QString());
     user_->setVisible(!name_.isEmpty());
+}
+
+bool TabRow::eventFilter(QObject* object, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    const bool isPress =
+        type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick || type == QEvent::HoverEnter;
+    return object == user_ && !change_ && isPress;
 }
 
 void TabRow::OpenMenu() { button_->showMenu(); }

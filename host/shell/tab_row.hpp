@@ -31,6 +31,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    /// A name that is no button is not pressed, and tells no more than its tip.
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     screens::Tabs* tabs_;
