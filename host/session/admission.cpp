@@ -1,6 +1,6 @@
 #include "host/session/admission.hpp"
 
-#include "family/data/sources/data_source.hpp"
+#include "family/data/engine/database.hpp"
 #include "family/demo/fictional_shop.hpp"
 #include "host/arguments/call.hpp"
 #include "host/sign_in/door.hpp"
@@ -9,10 +9,10 @@ namespace kova::host {
 
 bool Pretends(const Options& options) { return !options.user.empty() || options.date || options.time; }
 
-bool Admit(Door& door, const Options& options, const std::string& source, Outlet outlet)
+bool Admit(Door& door, const Options& options, Outlet outlet)
 {
     if (options.isTyped && Pretends(options)
-        && (door.HasUsers() || !family::IsFictional(*family::OpenDatabase(source))))
+        && (door.HasUsers() || !family::IsFictional(*door.OpenDesk().database)))
         throw arguments::BadArguments(
             "As opções --user, --date e --time só valem em lojas de demonstração. Nesta "
             "loja entra quem está no posto, com a data e a hora do relógio: abra o "

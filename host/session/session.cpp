@@ -134,7 +134,7 @@ SessionEnd Session::Run()
     user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
     door_ = std::make_unique<Door>(Door::Surroundings{
         SourceOf(options_), shop.tradeName, KeptEntries(SettingsFile()), user_, userChange_, clock_});
-    if (!Admit(*door_, options_, SourceOf(options_), outlet_))
+    if (!Admit(*door_, options_, outlet_))
         return {EXIT_SUCCESS, std::nullopt};
     registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_, userChange_);
     if (shop.tradeName.empty() && outlet_ == Outlet::Window && !options_.firstPaint)

@@ -35,7 +35,8 @@ std::vector<std::string> NamesOf(const std::vector<family::UserWhoEnters>& users
 
 Door::Door(Surroundings surroundings)
     : surroundings_(std::move(surroundings)),
-      hasUsers_(family::HasUsers(*Open())),
+      atStart_(family::OpenDatabase(surroundings_.source)),
+      hasUsers_(family::HasUsers(*atStart_)),
       trial_(new SignInTrial(surroundings_.source, surroundings_.clock, this)),
       idle_(new IdleWatch(this))
 {
@@ -44,7 +45,10 @@ Door::Door(Surroundings surroundings)
 
 Door::~Door() = default;
 
-std::shared_ptr<family::Database> Door::Open() const { return family::OpenDatabase(surroundings_.source); }
+std::shared_ptr<family::Database> Door::Open() const
+{
+    return atStart_ ? atStart_ : family::OpenDatabase(surroundings_.source);
+}
 
 registers::Desk Door::OpenDesk() const
 {
@@ -145,6 +149,7 @@ void Door::LetIn(const SignInAnswer& answer)
 void Door::Watch(MainWindow& window)
 {
     window_ = &window;
+    atStart_.reset();
     window.TellUser(QString::fromStdString(surroundings_.user->Name()));
     QCoreApplication::instance()->installEventFilter(this);
     FollowIdleness();

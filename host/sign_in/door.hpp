@@ -82,6 +82,8 @@ private:
     void FollowIdleness();
 
     Surroundings surroundings_;
+    /// Open until the window is watched: what is asked at the start is asked over one connection.
+    std::shared_ptr<family::Database> atStart_;
     bool hasUsers_ = false, isAdministrator_ = false;
     SignInTrial* trial_;
     IdleWatch* idle_;
