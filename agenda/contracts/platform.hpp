@@ -16,6 +16,9 @@ public:
     virtual DateTime Now() const = 0;
     /// Seconds since midnight, with their fraction.
     virtual Double Timer() const = 0;
+    /// Whether it is this computer's own, which may be wrong: a server's clock goes before it. False of one
+    /// that was set on purpose.
+    virtual bool IsComputersOwn() const { return false; }
 };
 
 /// The settings file: sections in brackets, lines "key=value". Names of sections and keys ignore case.

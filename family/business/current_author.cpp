@@ -12,8 +12,11 @@ Author CurrentAuthor(const ObjectRef& user, const Clock& clock)
     const auto session = std::dynamic_pointer_cast<Component>(user);
     if (!session)
         throw missing;
-    Author author{CleanText(session->Get("Codigo").ToText()), CleanText(session->Get("Nome").ToText()),
-                  IsoMoment(clock.Now()), system::ComputerName()};
+    Author author{.code = CleanText(session->Get("Codigo").ToText()),
+                  .name = CleanText(session->Get("Nome").ToText()),
+                  .moment = IsoMoment(clock.Now()),
+                  .desk = system::ComputerName(),
+                  .isByComputersClock = clock.IsComputersOwn()};
     if (author.name.empty())
         throw missing;
     return author;

@@ -29,7 +29,8 @@ SignInAnswer LetIn(Database& database, const UserWhoEnters& user, const Clock& c
     const Author author{.code = std::to_string(user.code),
                         .name = CleanText(user.name),
                         .moment = IsoMoment(clock.Now()),
-                        .desk = system::ComputerName()};
+                        .desk = system::ComputerName(),
+                        .isByComputersClock = clock.IsComputersOwn()};
     AuditAccess(database, author, audit_operation::SigningIn, user.code,
                 AuditValues().Add("meio", std::string("computador")));
     const auto account = FindByKey<AccountRow>(database, user.code);

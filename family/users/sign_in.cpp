@@ -45,7 +45,7 @@ public:
           cost_(cost),
           folded_(FoldText(CleanText(wanted.name))),
           digest_(DigestOf(folded_)),
-          moment_(IsoMoment(clock.Now())),
+          clock_(clock),
           now_(SecondsNow(database, clock))
     {
     }
@@ -145,7 +145,11 @@ private:
     /// What was typed where nobody is called so stays untold: it may be a password in the wrong field.
     void Audit(const char* operation, const std::string& why)
     {
-        Author author{.code = "0", .name = "Desconhecido", .moment = moment_, .desk = system::ComputerName()};
+        Author author{.code = "0",
+                      .name = "Desconhecido",
+                      .moment = IsoMoment(clock_.Now()),
+                      .desk = system::ComputerName(),
+                      .isByComputersClock = clock_.IsComputersOwn()};
         if (user_) {
             author.code = std::to_string(user_->codigo);
             author.name = CleanText(user_->nome, WidthOfShownName);
@@ -160,7 +164,8 @@ private:
     Database& database_;
     const SignInTry& wanted_;
     const PasswordCost& cost_;
-    const std::string folded_, digest_, moment_;
+    const std::string folded_, digest_;
+    const Clock& clock_;
     const long long now_;
     std::optional<AccountRow> user_;
     SecretsRow secrets_;

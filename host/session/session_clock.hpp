@@ -53,6 +53,8 @@ public:
                           : std::fmod(timerAtStart_ + Running().count(), secondsPerDay);
     }
 
+    bool IsComputersOwn() const override { return !day_ && !start_ && pace_ == 1; }
+
 private:
     std::chrono::duration<double> Running() const
     {

@@ -8,6 +8,7 @@ namespace kova::qt {
 class SystemClock : public Clock {
 public:
     DateTime Now() const override;
+    bool IsComputersOwn() const override { return true; }
     Double Timer() const override;
 };
 

@@ -13,13 +13,14 @@ constexpr const char* NoUser = "0";
 
 } // namespace
 
-family::Author AuthorOf(const Call& call, DateTime now)
+family::Author AuthorOf(const Call& call, const Surroundings& surroundings)
 {
     return {.code = NoUser,
             .name = call.Option("--user").value_or(host::NameOfThisUser()),
-            .moment = family::IsoMoment(now),
+            .moment = family::IsoMoment(surroundings.now),
             .desk = system::ComputerName(),
-            .isOwner = true};
+            .isOwner = true,
+            .isByComputersClock = surroundings.isByComputersClock};
 }
 
 } // namespace kova::data

@@ -24,6 +24,8 @@ struct Surroundings {
     std::ostream& error;
     DateTime now;
     Input input;
+    /// Whether the moment is by the computer's own clock, which a server's goes before.
+    bool isByComputersClock = false;
 };
 
 /// A command; each stands in a file of its own and in the list of commands.cpp.

@@ -47,9 +47,9 @@ int Carry(std::span<const std::string> words, Surroundings& surroundings)
 } // namespace
 
 int Run(std::span<const std::string> words, DateTime now, std::ostream& output, std::ostream& error,
-        const Input& input)
+        const Input& input, bool isByComputersClock)
 {
-    Surroundings surroundings{output, error, now, input};
+    Surroundings surroundings{output, error, now, input, isByComputersClock};
     try {
         return Carry(words, surroundings);
     } catch (const arguments::BadArguments& refusal) {

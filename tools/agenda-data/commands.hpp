@@ -7,9 +7,10 @@
 namespace kova::data {
 
 /// Runs the program: 0 done, 1 the data cannot be read or written, 2 the command line is wrong. What
-/// went wrong is written to `error` in Portuguese.
+/// went wrong is written to `error` in Portuguese. `isByComputersClock` tells whether the moment is by the
+/// computer's own clock, and so may be wrong.
 int Run(std::span<const std::string> words, DateTime now, std::ostream& output, std::ostream& error,
-        const Input& input = {std::cin});
+        const Input& input = {std::cin}, bool isByComputersClock = false);
 
 // Each in the file of its name.
 

@@ -17,7 +17,7 @@ int Run(const Call& call, Surroundings& surroundings)
                                  GivenEncoding(call).value_or(csv::Encoding::Utf8),
                                  GivenSeparator(call).value_or(';')};
     const long long records =
-        csv::ExportTo(call.Operand(0), order, AuthorOf(call, surroundings.now),
+        csv::ExportTo(call.Operand(0), order, AuthorOf(call, surroundings),
                       LongWorkOf(surroundings.error, "Exportação", RecordsWithoutProgress));
     surroundings.output << records << (records == 1 ? " linha exportada" : " linhas exportadas") << " em "
                         << csv::NameOf(order.encoding) << ".\n";

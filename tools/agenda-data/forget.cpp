@@ -40,7 +40,7 @@ int Run(const Call& call, Surroundings& surroundings)
     const family::LongWork work = ShownWork(surroundings.error, "Auditoria");
     const bool isConfirmed = call.Has("--confirm");
     const AnonymiseAnswer answer = isConfirmed
-        ? Anonymise(source, request, AuthorOf(call, surroundings.now), work)
+        ? Anonymise(source, request, AuthorOf(call, surroundings), work)
         : PlanToAnonymise(source, request, family::IsoMoment(surroundings.now), work);
     if (!answer.IsDone())
         return TellRefusal(answer, surroundings.error);

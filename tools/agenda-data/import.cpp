@@ -125,7 +125,7 @@ int Run(const Call& call, Surroundings& surroundings)
     surroundings.output << "Arquivo lido em " << csv::NameOf(order.file.encoding) << ".\n";
     if (call.Has("--dry-run"))
         return Rehearse(call, order, surroundings);
-    const ImportReport report = csv::BringIn(call.Operand(0), order, AuthorOf(call, surroundings.now),
+    const ImportReport report = csv::BringIn(call.Operand(0), order, AuthorOf(call, surroundings),
                                              surroundings.now, WatchOn(surroundings.error));
     if (!report.IsGood())
         return Refuse(report, surroundings);

@@ -22,5 +22,5 @@ int main(int count, char** words)
 {
     kova::system::WriteBytesUnchanged();
     return kova::data::Run(kova::system::Arguments(count, words), Now(), std::cout, std::cerr,
-                           {std::cin, kova::system::IsInputTyped()});
+                           {std::cin, kova::system::IsInputTyped()}, true);
 }

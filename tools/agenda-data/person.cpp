@@ -15,7 +15,7 @@ int Run(const Call& call, Surroundings& surroundings)
     if (!folder)
         call.Refuse("Informe com --to a pasta em que os arquivos são gravados.");
     const family::privacy::PersonFiles files =
-        family::privacy::ExportPerson(call.Operand(0), customer, *folder, AuthorOf(call, surroundings.now),
+        family::privacy::ExportPerson(call.Operand(0), customer, *folder, AuthorOf(call, surroundings),
                                       surroundings.now, ShownWork(surroundings.error, "Auditoria"));
     surroundings.output << "Página: " << files.page << "\nJSON: " << files.json << "\n";
     return 0;

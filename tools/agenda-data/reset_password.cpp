@@ -41,7 +41,7 @@ int Run(const Call& call, Surroundings& surroundings)
     const auto password = NewPassword(surroundings);
     if (!password)
         return 1;
-    family::Author author = AuthorOf(call, surroundings.now);
+    family::Author author = AuthorOf(call, surroundings);
     author.name = host::NameOfThisUser();
     const auto answer = family::SetPassword(*database, user->codigo, *password, author);
     if (!answer.IsDone()) {

@@ -12,7 +12,7 @@ int Run(const Call& call, Surroundings& surroundings)
     const long long number = call.Number(1);
     const std::shared_ptr<family::Database> database = family::OpenDatabase(call.Operand(0));
     const family::WriteAnswer answer =
-        family::RestoreAppointment(*database, number, AuthorOf(call, surroundings.now));
+        family::RestoreAppointment(*database, number, AuthorOf(call, surroundings));
     if (!answer.IsDone()) {
         surroundings.error << "agendamento " << number << ": " << answer.text << "\n";
         return 1;

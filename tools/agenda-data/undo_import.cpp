@@ -101,7 +101,7 @@ int Undo(const Call& call, Surroundings& surroundings)
     const ChangedRows changed = call.Has(KeepChanged) ? ChangedRows::Keep : ChangedRows::Refuse;
     const auto database = family::OpenForLongWork(call.Operand(0));
     const UndoneImport undone =
-        family::registers::UndoImport(*database, number, changed, AuthorOf(call, surroundings.now),
+        family::registers::UndoImport(*database, number, changed, AuthorOf(call, surroundings),
                                       LongWorkOf(surroundings.error, "Desfazendo", RowsWithoutProgress));
     if (!undone.IsDone())
         return Refuse(undone, surroundings.error);

@@ -1,6 +1,7 @@
 #include "family/csv/import_of.hpp"
 #include "family/csv/registers/all_registers.hpp"
 #include "family/csv/registers/appointment_checks.hpp"
+#include "family/data/audit/stamp.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/pre_sales.hpp"
@@ -74,7 +75,7 @@ private:
     {
         checks_.Complete(record);
         if (record.incluidoEm.empty())
-            record.incluidoEm = author.moment;
+            record.incluidoEm = family::StampOfRow(GetDatabase(), author);
         if (record.incluidoPor.empty())
             record.incluidoPor = author.name;
         if (!record.codigoDoPacote.IsNull())

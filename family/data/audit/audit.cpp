@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/utf8.hpp"
 #include "family/data/audit/audit_chain.hpp"
+#include "family/data/audit/stamp.hpp"
 
 #include <nlohmann/json.hpp>
 
@@ -9,10 +10,11 @@ namespace kova::family {
 
 namespace {
 
-AuditRow RowOf(const Author& author, const char* table, Key key, const char* operation)
+AuditRow RowOf(const Database& database, const Author& author, const char* table, Key key,
+               const char* operation)
 {
     AuditRow row;
-    row.momento = author.moment;
+    row.momento = StampOfLine(database, author);
     row.usuario = utf8::WellFormed(author.code + " - " + author.name);
     row.posto = utf8::WellFormed(author.desk);
     row.tabela = table;
@@ -71,21 +73,21 @@ std::string AuditValues::Line() const
 void AuditInsertion(Database& database, const Author& author, const char* table, Key key,
                     const AuditValues& after)
 {
-    AuditRow row = RowOf(author, table, key, audit_operation::Insertion);
+    AuditRow row = RowOf(database, author, table, key, audit_operation::Insertion);
     row.depois = WithImport(after, author).Line();
     AddLine(database, row);
 }
 
 void AuditImport(Database& database, const Author& author, const AuditValues& what)
 {
-    AuditRow row = RowOf(author, ImportsTable, author.importNumber, audit_operation::Import);
+    AuditRow row = RowOf(database, author, ImportsTable, author.importNumber, audit_operation::Import);
     row.depois = what.Line();
     AddLine(database, row);
 }
 
 void AuditUndoneImport(Database& database, const Author& author, Key number, const AuditValues& what)
 {
-    AuditRow row = RowOf(author, ImportsTable, number, audit_operation::ImportUndone);
+    AuditRow row = RowOf(database, author, ImportsTable, number, audit_operation::ImportUndone);
     row.depois = what.Line();
     AddLine(database, row);
 }
@@ -93,7 +95,7 @@ void AuditUndoneImport(Database& database, const Author& author, Key number, con
 void AuditChange(Database& database, const Author& author, const char* table, Key key,
                  const AuditValues& before, const AuditValues& after)
 {
-    AuditRow row = RowOf(author, table, key, audit_operation::Change);
+    AuditRow row = RowOf(database, author, table, key, audit_operation::Change);
     row.antes = before.Line();
     row.depois = WithImport(after, author).Line();
     AddLine(database, row);
@@ -102,7 +104,7 @@ void AuditChange(Database& database, const Author& author, const char* table, Ke
 void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
                   const AuditValues& before)
 {
-    AuditRow row = RowOf(author, table, key, audit_operation::Removal);
+    AuditRow row = RowOf(database, author, table, key, audit_operation::Removal);
     row.antes = before.Line();
     AddLine(database, row);
 }
@@ -112,7 +114,7 @@ void AuditRemovals(Database& database, const Author& author, const char* table,
 {
     std::vector<AuditRow> rows;
     for (const auto& [key, values] : before) {
-        rows.push_back(RowOf(author, table, key, audit_operation::Removal));
+        rows.push_back(RowOf(database, author, table, key, audit_operation::Removal));
         rows.back().antes = values.Line();
     }
     AddLines(database, std::move(rows));
@@ -121,7 +123,7 @@ void AuditRemovals(Database& database, const Author& author, const char* table,
 void AuditMerging(Database& database, const Author& author, const char* table, Key kept, Key gone,
                   AuditValues what)
 {
-    AuditRow row = RowOf(author, table, kept, audit_operation::Merging);
+    AuditRow row = RowOf(database, author, table, kept, audit_operation::Merging);
     row.depois = what.Add("unido", gone).Line();
     AddLine(database, row);
     row.chave = gone;
@@ -132,7 +134,7 @@ void AuditMerging(Database& database, const Author& author, const char* table, K
 void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
                       const AuditValues& after)
 {
-    AuditRow row = RowOf(author, table, key, audit_operation::Restoration);
+    AuditRow row = RowOf(database, author, table, key, audit_operation::Restoration);
     row.depois = after.Line();
     AddLine(database, row);
 }
@@ -140,7 +142,7 @@ void AuditRestoration(Database& database, const Author& author, const char* tabl
 void AuditAnonymisation(Database& database, const Author& author, const char* table, Key key,
                         const AuditValues& what)
 {
-    AuditRow row = RowOf(author, table, key, audit_operation::Anonymisation);
+    AuditRow row = RowOf(database, author, table, key, audit_operation::Anonymisation);
     row.depois = what.Line();
     AddLine(database, row);
 }
@@ -148,7 +150,7 @@ void AuditAnonymisation(Database& database, const Author& author, const char* ta
 void AuditAccess(Database& database, const Author& author, const char* operation, Key user,
                  const AuditValues& what)
 {
-    AuditRow row = RowOf(author, "usuario", user, operation);
+    AuditRow row = RowOf(database, author, "usuario", user, operation);
     row.depois = what.Line();
     AddLine(database, row);
 }

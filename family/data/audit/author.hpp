@@ -11,7 +11,7 @@ struct Author {
     std::string code;
     /// What the lists show as the one who made or changed a record.
     std::string name;
-    /// "yyyy-mm-dd hh:mm:ss"
+    /// "yyyy-mm-dd hh:mm:ss" by the session's clock; what is written down is told by stamp.hpp.
     std::string moment;
     /// Name of the computer; empty where it has none.
     std::string desk{};
@@ -19,6 +19,8 @@ struct Author {
     Key importNumber = 0;
     /// Whoever has the database itself at hand, at the tools for it: no user's rights bind him.
     bool isOwner = false;
+    /// The moment is by the computer's own clock (Clock::IsComputersOwn).
+    bool isByComputersClock = false;
 };
 
 } // namespace kova::family

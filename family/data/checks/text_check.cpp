@@ -29,7 +29,7 @@ constexpr DatedColumn DatedColumns[] = {
     {"agendamento", "numero", "alterado_em", IsIsoMoment},
     {"pacote", "codigo", "criado_em", IsIsoMoment},
     {"pre_venda", "codigo", "criada_em", IsIsoMoment},
-    {"auditoria", "codigo", "momento", IsIsoMoment},
+    {"auditoria", "codigo", "momento", IsMomentOfZone},
     {"feriado", "codigo", "data", IsIsoDate},
     {"expediente", "codigo", "hora_inicial", IsIsoTime},
     {"expediente", "codigo", "hora_final", IsIsoEndTime},

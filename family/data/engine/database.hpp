@@ -75,6 +75,11 @@ public:
     std::optional<long long> ChangesOfRights() const { return changesOfRights_; }
     void TakeChangesOfRights(std::optional<long long> changes) { changesOfRights_ = changes; }
 
+    /// What the server's clock showed when the transaction that is open and writes rows began, as
+    /// Dialect::beginOfWrite tells it; empty where none is, and where the data lie in a file.
+    const std::string& ServersMoment() const { return serversMoment_; }
+    void TakeServersMoment(std::string moment) { serversMoment_ = std::move(moment); }
+
     /// While a transaction is open nothing runs again: what came before is lost with the connection.
     void SetInTransaction(bool inTransaction) { inTransaction_ = inTransaction; }
 
@@ -108,6 +113,7 @@ private:
     RowVersions versions_;
     int schemaVersion_ = 0;
     std::optional<long long> changesOfRights_;
+    std::string serversMoment_;
     bool connected_ = false, inTransaction_ = false;
     soci::session session_;
     std::unordered_map<std::type_index, std::unique_ptr<KeptStatement>> kept_;

@@ -79,15 +79,17 @@ constexpr const char* BeginOnLockedSchema =
     "begin isolation level read committed; select pg_advisory_xact_lock_shared(20081113); ";
 
 /// What every beginning of a write selects.
-std::string VersionAndRights()
+std::string VersionRightsAnd(const std::string& moment)
 {
-    return "select max(versao), (" + ChangeCount::Selection(CountedRights()) + ")";
+    return "select max(versao), (" + ChangeCount::Selection(CountedRights()) + "), " + moment;
 }
 
-std::string BeginOfWriteOnServer()
+std::string OnServer()
 {
-    return BeginOnLockedSchema + VersionAndRights() + " from versao_do_esquema";
+    return VersionRightsAnd("to_char(clock_timestamp(), 'YYYY-MM-DD HH24:MI:SSTZH:TZM')");
 }
+
+std::string BeginOfWriteOnServer() { return BeginOnLockedSchema + OnServer() + " from versao_do_esquema"; }
 
 std::string MarkedWriteOnServer(const std::string& name)
 {
@@ -95,7 +97,7 @@ std::string MarkedWriteOnServer(const std::string& name)
         + " (text) as with marca as (insert into gravacao (identificador, momento) values ($1,"
           " to_char(now() at time zone 'utc', 'YYYY-MM-DD HH24:MI:SS'))"
           " on conflict (identificador) do nothing returning identificador) "
-        + VersionAndRights() + ", (select count(*) from marca) from versao_do_esquema";
+        + OnServer() + ", (select count(*) from marca) from versao_do_esquema";
 }
 
 /// What a desk's write looks for it finds by keys, and by indexes that are right for all values. To plan it
@@ -174,7 +176,7 @@ const Dialect& SqliteDialect()
         .bigInteger = "integer",
         .orderedText = "text",
         // The lock is taken at once: a transaction that begins by reading could not wait for it later.
-        .beginOfWrite = {"begin immediate", VersionAndRights() + " from versao_do_esquema"},
+        .beginOfWrite = {"begin immediate", VersionRightsAnd("''") + " from versao_do_esquema"},
         .beginOfSchemaChange = "begin immediate",
         .beginOfSnapshot = "begin",
         .secondsNow = "",

@@ -17,9 +17,10 @@ struct Dialect {
     /// A text that orders by its bytes, as the folded texts are ordered.
     std::string orderedText;
     /// The statements that begin a transaction that writes rows; the last one selects the version of the
-    /// schema, which nobody changes before the transaction ends, and how often it was changed who may do what
-    /// (CountedRights). What it has locked cannot be changed by another connection before it ends: that one
-    /// waits, or fails.
+    /// schema, which nobody changes before the transaction ends, how often it was changed who may do what
+    /// (CountedRights), and the moment by the clock that all desks have in common: "yyyy-mm-dd
+    /// hh:mm:ss-03:00" in the server's time zone, empty where that clock is the desk's own. What it has
+    /// locked cannot be changed by another connection before it ends: that one waits, or fails.
     std::vector<std::string> beginOfWrite;
     /// Begins a transaction that changes the schema. It waits for those that write, and they for it.
     std::string beginOfSchemaChange;
@@ -68,7 +69,7 @@ struct Dialect {
     std::vector<std::string> (*numberAfter)(const std::string& table, const std::string& key, long long last);
     /// Prepares on a connection, under that name, the same beginning of a transaction that bears a mark: it
     /// writes the mark, unless it stands there already, and selects how many it has written behind the other
-    /// two; it waits for another transaction that is writing the same mark. Null where a connection cannot
+    /// three; it waits for another transaction that is writing the same mark. Null where a connection cannot
     /// break between a commit and its answer.
     std::string (*markedWrite)(const std::string& name);
     /// The beginning of such a transaction, in one message. A mark has letters and digits only.

@@ -67,6 +67,19 @@ bool IsIsoMoment(std::string_view text)
         && IsIsoTime(text.substr(11, 5)) && NumberAt(text, 17, 2) < 60;
 }
 
+bool IsMomentOfZone(std::string_view text)
+{
+    const std::string_view zone = text.substr(WithoutZone(text).size());
+    const bool isZone = zone.empty() || HasShape(zone, "+99:99") || HasShape(zone, "-99:99");
+    return isZone && IsIsoMoment(WithoutZone(text));
+}
+
+std::string_view WithoutZone(std::string_view isoMoment)
+{
+    constexpr std::size_t Length = std::string_view("yyyy-mm-dd hh:mm:ss").size();
+    return isoMoment.substr(0, Length);
+}
+
 bool IsIsoEndTime(std::string_view text) { return IsIsoTime(text) || text == "24:00"; }
 
 std::string ShownDate(std::string_view isoDate)
@@ -85,7 +98,7 @@ std::string ShownMoment(std::string_view isoMoment)
 {
     if (isoMoment.size() < 10)
         return std::string(isoMoment);
-    return ShownDate(isoMoment.substr(0, 10)) + std::string(isoMoment.substr(10));
+    return ShownDate(isoMoment.substr(0, 10)) + std::string(WithoutZone(isoMoment).substr(10));
 }
 
 std::string ShownDuration(long long minutes)

@@ -19,10 +19,14 @@ DateTime ReadIsoMoment(std::string_view isoDate, std::string_view time);
 bool IsIsoDate(std::string_view text);
 bool IsIsoTime(std::string_view text);
 bool IsIsoMoment(std::string_view text);
+/// The same where the distance from Greenwich, as "-03:00", may stand behind it.
+bool IsMomentOfZone(std::string_view text);
+/// Such a moment without that.
+std::string_view WithoutZone(std::string_view isoMoment);
 /// A time of the day or "24:00", with which the day ends.
 bool IsIsoEndTime(std::string_view text);
 
-/// "dd/mm/yyyy" of a kept date, "dd/mm/yyyy hh:mm:ss" of a kept moment.
+/// "dd/mm/yyyy" of a kept date, "dd/mm/yyyy hh:mm:ss" of a kept moment, of whatever zone.
 std::string ShownDate(std::string_view isoDate);
 std::string ShownMoment(std::string_view isoMoment);
 

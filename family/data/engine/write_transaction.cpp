@@ -22,6 +22,8 @@ struct Beginning {
     int version = 0;
     /// How often it was changed who may do what.
     long long rights = 0;
+    /// By the server's clock.
+    std::string moment;
     /// How many marks it has written.
     int marks = 1;
 };
@@ -33,7 +35,8 @@ Beginning BeginRows(Database& database)
         database.Session() << statements[at];
     Beginning told;
     soci::indicator found = soci::i_null;
-    database.Session() << statements.back(), soci::into(told.version, found), soci::into(told.rights);
+    database.Session() << statements.back(), soci::into(told.version, found), soci::into(told.rights),
+        soci::into(told.moment);
     return told;
 }
 
@@ -50,7 +53,8 @@ public:
         Beginning told;
         soci::indicator found = soci::i_null;
         database_.Session() << database_.GetDialect().beginOfMarkedWrite(name_, mark),
-            soci::into(told.version, found), soci::into(told.rights), soci::into(told.marks);
+            soci::into(told.version, found), soci::into(told.rights), soci::into(told.moment),
+            soci::into(told.marks);
         return told;
     }
 
@@ -75,6 +79,7 @@ void TakeIn(Database& database, const Beginning& told)
     if (refusal)
         throw DatabaseFailure(*refusal);
     database.TakeChangesOfRights(told.rights);
+    database.TakeServersMoment(told.moment);
 }
 
 /// Runs what begins a transaction; what has begun is undone where it fails.
@@ -134,6 +139,7 @@ WriteTransaction::~WriteTransaction()
 {
     database_.SetInTransaction(false);
     database_.TakeChangesOfRights(std::nullopt);
+    database_.TakeServersMoment({});
     if (open_)
         RollBack(database_);
 }

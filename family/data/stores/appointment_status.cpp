@@ -1,6 +1,7 @@
 #include "family/data/stores/appointment_status.hpp"
 
 #include "family/data/audit/audit.hpp"
+#include "family/data/audit/stamp.hpp"
 #include "family/data/engine/database.hpp"
 
 namespace kova::family {
@@ -73,25 +74,26 @@ public:
         : statement_((database.Session().prepare
                           << "update agendamento set situacao = :situacao, alterado_em = :momento,"
                              " alterado_por = :nome, versao = :versao where numero = :numero",
-                      soci::use(status_, "situacao"), soci::use(author_.moment, "momento"),
-                      soci::use(author_.name, "nome"), soci::use(version_, "versao"),
-                      soci::use(number_, "numero")))
+                      soci::use(status_, "situacao"), soci::use(moment_, "momento"), soci::use(name_, "nome"),
+                      soci::use(version_, "versao"), soci::use(number_, "numero")))
     {
     }
 
-    void Run(const AppointmentState& appointment, int status, const Author& author)
+    void Run(const AppointmentState& appointment, int status, const std::string& moment,
+             const std::string& name)
     {
         number_ = appointment.number;
         version_ = appointment.version + 1;
         status_ = status;
-        author_ = author;
+        moment_ = moment;
+        name_ = name;
         statement_.execute(true);
     }
 
 private:
     Key number_ = 0, version_ = 0;
     int status_ = 0;
-    Author author_;
+    std::string moment_, name_;
     soci::statement statement_;
 };
 
@@ -115,14 +117,16 @@ std::vector<AppointmentState> FindUnattendedOfPackage(Database& database, Key pa
 
 void WriteStatus(Database& database, const AppointmentState& appointment, int status, const Author& author)
 {
-    database.With<StatusUpdate>([&](StatusUpdate& update) { update.Run(appointment, status, author); });
+    const std::string moment = StampOfRow(database, author);
+    database.With<StatusUpdate>(
+        [&](StatusUpdate& update) { update.Run(appointment, status, moment, author.name); });
     AuditValues before, after;
     before.Add("situacao", appointment.status)
         .Add("alterado_em", appointment.changedAt)
         .Add("alterado_por", appointment.changedBy)
         .Add("versao", appointment.version);
     after.Add("situacao", status)
-        .Add("alterado_em", author.moment)
+        .Add("alterado_em", moment)
         .Add("alterado_por", author.name)
         .Add("versao", appointment.version + 1);
     AuditChange(database, author, "agendamento", appointment.number, before, after);

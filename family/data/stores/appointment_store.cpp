@@ -1,6 +1,7 @@
 #include "family/data/stores/appointment_store.hpp"
 
 #include "family/data/audit/audit.hpp"
+#include "family/data/audit/stamp.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/insert_new_row.hpp"
 #include "family/data/rows/insert_row.hpp"
@@ -33,7 +34,7 @@ private:
 
 Key AddAppointment(Database& database, AppointmentRow row, const Author& author)
 {
-    row.incluidoEm = author.moment;
+    row.incluidoEm = StampOfRow(database, author);
     row.incluidoPor = author.name;
     row.Compose();
     row.numero = InsertNew(database, row);
@@ -46,7 +47,7 @@ void ReplaceAppointment(Database& database, const AppointmentRow& before, Appoin
 {
     after.incluidoEm = before.incluidoEm;
     after.incluidoPor = before.incluidoPor;
-    after.alteradoEm = author.moment;
+    after.alteradoEm = StampOfRow(database, author);
     after.alteradoPor = author.name;
     after.versao = before.versao + 1;
     after.Compose();
@@ -69,7 +70,7 @@ void RestoreRow(Database& database, AppointmentRow row, const Author& author)
 
 Key AddPackage(Database& database, Key service, const Author& author)
 {
-    PackageRow package{0, service, author.moment, author.name};
+    PackageRow package{0, service, StampOfRow(database, author), author.name};
     package.codigo = InsertNew(database, package);
     AuditInsertion(database, author, PackageRow::Table, package.codigo, ValuesOf(package));
     return package.codigo;

@@ -1,6 +1,7 @@
 #include "family/data/stores/pre_sales.hpp"
 
 #include "family/data/audit/audit.hpp"
+#include "family/data/audit/stamp.hpp"
 #include "family/data/engine/database.hpp"
 
 namespace kova::family {
@@ -99,13 +100,14 @@ std::vector<PreSale> FindPreSales(Database& database, Key appointment)
 
 void CreatePreSale(Database& database, Key appointment, Key priceInCents, const Author& author)
 {
+    const std::string moment = StampOfRow(database, author);
     const Key code = database.With<PreSaleInsertion>(
-        [&](PreSaleInsertion& insertion) { return insertion.Run(appointment, priceInCents, author.moment); });
+        [&](PreSaleInsertion& insertion) { return insertion.Run(appointment, priceInCents, moment); });
     AuditValues after;
     after.Add("numero_do_agendamento", appointment)
         .Add("valor_em_centavos", priceInCents)
         .Add("situacao", pre_sale_status::Open)
-        .Add("criada_em", author.moment);
+        .Add("criada_em", moment);
     AuditInsertion(database, author, Table, code, after);
 }
 

@@ -25,6 +25,20 @@ TEST(IsoTexts, AreDatesTimesAndMomentsThatThereAre)
         EXPECT_FALSE(IsIsoMoment(none)) << none;
 }
 
+TEST(IsoTexts, MayBearTheZoneOfAMoment)
+{
+    for (const char* moment :
+         {"2026-11-20 23:59:59", "2026-11-20 23:59:59-03:00", "2026-11-20 00:00:00+05:45"})
+        EXPECT_TRUE(IsMomentOfZone(moment)) << moment;
+    for (const char* none :
+         {"", "2026-11-20", "2026-11-20 23:59:59-03", "2026-11-20 23:59:59Z", "2026-11-20 23:59:59 03:00",
+          "2026-11-31 23:59:59-03:00", "2026-11-20 23:59:59-03:00 "})
+        EXPECT_FALSE(IsMomentOfZone(none)) << none;
+    EXPECT_FALSE(IsIsoMoment("2026-11-20 23:59:59-03:00"));
+    EXPECT_EQ(WithoutZone("2026-11-20 23:59:59-03:00"), "2026-11-20 23:59:59");
+    EXPECT_EQ(ShownMoment("2026-11-20 23:59:59-03:00"), "20/11/2026 23:59:59");
+}
+
 TEST(IsoTexts, AreShownAsPeopleWriteThem)
 {
     EXPECT_EQ(ShownDate("2026-11-20"), "20/11/2026");
