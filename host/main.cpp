@@ -1,3 +1,4 @@
+#include "family/data/engine/secrets_in_text.hpp"
 #include "host/application.hpp"
 #include "host/arguments/call.hpp"
 #include "system/command_line.hpp"
@@ -14,7 +15,7 @@ int main(int count, char** words)
         std::cout << *options.answer;
         return 0;
     } catch (const kova::arguments::BadArguments& refusal) {
-        std::cerr << "Kovaris: " << refusal.what() << std::endl;
+        std::cerr << "Kovaris: " << kova::family::WithoutSecrets(refusal.what()) << std::endl;
         return 2;
     }
 }

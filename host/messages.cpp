@@ -1,6 +1,7 @@
 #include "host/messages.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "family/data/engine/secrets_in_text.hpp"
 #include "host/display.hpp"
 
 #include <QApplication>
@@ -10,8 +11,9 @@
 
 namespace kova::host {
 
-void TellFailure(const std::string& text)
+void TellFailure(const std::string& told)
 {
+    const std::string text = family::WithoutSecrets(told);
     std::cerr << "Kovaris: " << text << std::endl;
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr || !HasDisplay())
         return;

@@ -1,5 +1,6 @@
 #include "host/session/remembered_shops.hpp"
 
+#include "family/data/engine/secrets_in_text.hpp"
 #include "system/access.hpp"
 #include "system/path_text.hpp"
 
@@ -27,7 +28,8 @@ std::vector<RememberedShop> RememberedShops::All() const
     for (int at = 0; at < count; ++at) {
         settings.setArrayIndex(at);
         const std::string source = settings.value(SourceKey).toString().toStdString();
-        if (!source.empty())
+        // One with a password in it cannot be opened, and would show it.
+        if (!source.empty() && family::WithoutSecrets(source) == source)
             shops.push_back({source, settings.value(NameKey).toString().toStdString()});
     }
     return shops;
@@ -35,6 +37,8 @@ std::vector<RememberedShop> RememberedShops::All() const
 
 bool RememberedShops::Remember(const RememberedShop& shop)
 {
+    if (family::WithoutSecrets(shop.source) != shop.source)
+        return false;
     std::vector<RememberedShop> shops = All();
     if (!shops.empty() && shops.front() == shop)
         return true;

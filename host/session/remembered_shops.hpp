@@ -21,9 +21,9 @@ public:
 
     explicit RememberedShops(std::filesystem::path file) : file_(std::move(file)) { }
 
-    /// The last one first; at most `Most`.
+    /// The last one first; at most `Most`. None has a password in its address.
     std::vector<RememberedShop> All() const;
-    /// Puts it first. False where the file could not be written.
+    /// Puts it first. False where the file could not be written, and where the address has a password.
     bool Remember(const RememberedShop& shop);
     /// False where the file could not be written.
     bool Forget(const std::string& source);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/failure.hpp"
+#include "family/data/engine/secrets_in_text.hpp"
 
 #include <stdexcept>
 #include <string>
@@ -31,14 +32,15 @@ enum class Fault {
 /// Whether the same may succeed later although nobody changes it. Of a write that fails so, nothing remains.
 bool IsPassing(Fault fault);
 
-/// A failure of the database; the text is Portuguese, names the path, and says what to do.
+/// A failure of the database; the text is Portuguese, names the path, and says what to do. A password in it
+/// is hidden.
 class DatabaseFailure : public Failure {
 public:
     /// A lasting one.
-    explicit DatabaseFailure(std::string text) : DatabaseFailure(std::move(text), Fault::Lasting) { }
+    explicit DatabaseFailure(const std::string& text) : DatabaseFailure(text, Fault::Lasting) { }
     /// `cause` is the part of the text that is for everybody: without the path and the engine's own words.
-    DatabaseFailure(std::string text, Fault fault, std::string cause = {})
-        : Failure(DatabaseFailureNumber, std::move(text)), fault_(fault), cause_(std::move(cause))
+    DatabaseFailure(const std::string& text, Fault fault, const std::string& cause = {})
+        : Failure(DatabaseFailureNumber, WithoutSecrets(text)), fault_(fault), cause_(WithoutSecrets(cause))
     {
     }
 

@@ -1,5 +1,6 @@
 #include "family/data/sources/data_source.hpp"
 
+#include "family/data/engine/secrets_in_text.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/sources/file_source.hpp"
 #include "family/data/sources/server_source.hpp"
@@ -17,7 +18,9 @@ bool DataSourceExists(const std::string& path)
 
 std::optional<std::string> CheckDataSource(const std::string& path, Migrations migrations)
 {
-    return IsServer(path) ? CheckServerSource(path, migrations) : CheckFileSource(path, migrations);
+    const auto refusal =
+        IsServer(path) ? CheckServerSource(path, migrations) : CheckFileSource(path, migrations);
+    return refusal ? std::optional(WithoutSecrets(*refusal)) : std::nullopt;
 }
 
 std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migrations)
