@@ -6,6 +6,8 @@
 #include <libpq-fe.h>
 #include <soci/postgresql/soci-postgresql.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <memory>
 #include <string_view>
 
@@ -29,13 +31,24 @@ std::string StateIn(const std::string& reported)
     return isState ? state : std::string();
 }
 
-/// Answers whether the connection was about to be protected when the attempt ended.
-bool Connect(PGconn* asked)
-{
+/// How far an attempt came.
+struct Course {
+    /// The connection was about to be protected when the attempt ended.
     bool atProtection = false;
+    /// The connection was protected, and nothing was sent over it yet.
+    bool isProtected = false;
+};
+
+/// To the end, or only until the connection is protected.
+Course Connect(PGconn* asked, bool forProtectionOnly = false)
+{
+    Course course;
     PostgresPollingStatusType state = PGRES_POLLING_WRITING;
     while (PQstatus(asked) != CONNECTION_BAD && state != PGRES_POLLING_OK && state != PGRES_POLLING_FAILED) {
-        atProtection = PQstatus(asked) == CONNECTION_SSL_STARTUP;
+        course.atProtection = PQstatus(asked) == CONNECTION_SSL_STARTUP;
+        course.isProtected = !course.atProtection && PQsslInUse(asked) != 0;
+        if (course.isProtected && forProtectionOnly)
+            break;
         constexpr int LongestWaitMs = 5000;
         const auto awaited = state == PGRES_POLLING_READING ? system::SocketEvent::CanBeRead
                                                             : system::SocketEvent::CanBeWritten;
@@ -43,33 +56,88 @@ bool Connect(PGconn* asked)
             break;
         state = PQconnectPoll(asked);
     }
-    return atProtection;
+    return course;
+}
+
+/// Whether the same connection can be protected in that mode, with those whom that file trusts or, where it
+/// is null, whom the connection does. Whoever answers gets to know nothing.
+bool CanBeProtected(const std::string& connection, const char* mode, const char* trusted = nullptr)
+{
+    // A keyword ends the list where it is null.
+    const char* const keywords[] = {"dbname", "sslmode", trusted != nullptr ? "sslrootcert" : nullptr,
+                                    nullptr};
+    const char* const values[] = {connection.c_str(), mode, trusted, nullptr};
+    const Connection asked(PQconnectStartParams(keywords, values, 1), PQfinish);
+    return Connect(asked.get(), true).isProtected;
+}
+
+/// No file, so that no certificate is looked at.
+constexpr const char* Nobody = "/dev/null/root.crt";
+
+AddressParts PartsOf(PQconninfoOption* told)
+{
+    const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(told, PQconninfoFree);
+    AddressParts parts;
+    for (const PQconninfoOption* one = options.get(); one != nullptr && one->keyword != nullptr; ++one) {
+        if (one->val != nullptr)
+            parts[one->keyword] = one->val;
+    }
+    return parts;
+}
+
+bool IsFile(const std::string& path)
+{
+    std::error_code unreadable;
+    return std::filesystem::exists(path, unreadable);
 }
 
 class PostgresqlClient final : public ServerClient {
 public:
     std::optional<AddressParts> Read(const std::string& address) const override
     {
-        const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(
-            PQconninfoParse(address.c_str(), nullptr), PQconninfoFree);
-        if (!options)
-            return std::nullopt;
-        AddressParts parts;
-        for (const PQconninfoOption* one = options.get(); one->keyword != nullptr; ++one) {
-            if (one->val != nullptr)
-                parts[one->keyword] = one->val;
+        PQconninfoOption* const told = PQconninfoParse(address.c_str(), nullptr);
+        return told != nullptr ? std::optional(PartsOf(told)) : std::nullopt;
+    }
+
+    std::optional<AddressParts> Complete(const std::string& address) const override
+    {
+        // The library tells what it would take only of a connection. One with a value that there is not ends
+        // before anybody is asked.
+        const char* const keywords[] = {"dbname", "channel_binding", nullptr};
+        const char* const values[] = {address.c_str(), "?", nullptr};
+        const Connection refused(PQconnectStartParams(keywords, values, 1), PQfinish);
+        const AddressParts parts = PartsOf(PQconninfo(refused.get()));
+        return parts.empty() ? std::nullopt : std::optional(parts);
+    }
+
+    std::string TrustedCertificates() const override
+    {
+        const char* const home = std::getenv("HOME");
+        if (home != nullptr && IsFile(std::string(home) + "/.postgresql/root.crt"))
+            return {};
+        constexpr int KnowsTheSystems = 160000;
+        if (PQlibVersion() >= KnowsTheSystems)
+            return "system";
+        for (const char* file : {"/etc/ssl/certs/ca-certificates.crt", "/etc/pki/tls/certs/ca-bundle.crt"}) {
+            if (IsFile(file))
+                return file;
         }
-        return parts;
+        return {};
     }
 
     ConnectionAttempt TryConnection(const std::string& connection) const override
     {
         const Connection asked(PQconnectStart(connection.c_str()), PQfinish);
         PQsetErrorVerbosity(asked.get(), PQERRORS_SQLSTATE);
-        const bool atProtection = Connect(asked.get());
+        const Course course = Connect(asked.get());
+        const bool offersProtection = course.atProtection && CanBeProtected(connection, "require", Nobody);
         const char* host = PQhost(asked.get());
-        return {PQconnectionNeedsPassword(asked.get()) != 0, StateIn(PQerrorMessage(asked.get())),
-                host != nullptr ? host : "", atProtection};
+        return {PQconnectionNeedsPassword(asked.get()) != 0,
+                StateIn(PQerrorMessage(asked.get())),
+                host != nullptr ? host : "",
+                course.atProtection,
+                offersProtection,
+                offersProtection && CanBeProtected(connection, "verify-ca")};
     }
 
     std::optional<std::string> StateOf(const std::runtime_error& reported) const override

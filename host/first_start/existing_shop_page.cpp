@@ -1,5 +1,6 @@
 #include "host/first_start/existing_shop_page.hpp"
 
+#include "family/data/engine/server_protection.hpp"
 #include "screens/field_frame.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -20,6 +21,13 @@ const QString Explanation = QStringLiteral(
     "servidor, como postgresql://ana@servidor/loja. A senha não faz parte do endereço: ela fica no arquivo "
     "de "
     "senhas (~/.pgpass).");
+
+QString FoundText(const std::string& source)
+{
+    const auto warning = family::WarningOfAddress(source);
+    return QStringLiteral("A loja foi encontrada e pode ser aberta.")
+        + (warning ? QStringLiteral("\n\n") + QString::fromStdString(*warning) : QString());
+}
 
 QPushButton* Button(const QString& name, const QString& text, QWidget* parent)
 {
@@ -43,6 +51,7 @@ ExistingShopPage::ExistingShopPage(SourceTrial::Look look, QWidget* parent)
     source_->setObjectName(QStringLiteral("fonte"));
     outcome_->setObjectName(QStringLiteral("resultado"));
     outcome_->setTextFormat(Qt::PlainText);
+    outcome_->setWordWrap(true);
     auto* explanation = new QLabel(Explanation, this);
     explanation->setTextFormat(Qt::PlainText);
     explanation->setWordWrap(true);
@@ -112,7 +121,7 @@ void ExistingShopPage::Try(bool thenOpen)
 void ExistingShopPage::ShowOutcome(const SourceTrial::Refusal& refusal, const std::string& source,
                                    bool thenOpen)
 {
-    outcome_->setText(refusal ? QString() : QStringLiteral("A loja foi encontrada e pode ser aberta."));
+    outcome_->setText(refusal ? QString() : FoundText(source));
     if (refusal) {
         frame_->Refuse(qt::Lines(*refusal));
         source_->setFocus();

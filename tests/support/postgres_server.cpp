@@ -179,7 +179,7 @@ void PostgresServer::Spawn()
     if (port_ == UsualPort)
         words.insert(words.end(), {"-h", ""});
     else
-        words.insert(words.end(), {"-h", "localhost", "-c", "ssl=on"});
+        words.insert(words.end(), {"-h", "localhost", "-c", isProtected_ ? "ssl=on" : "ssl=off"});
     for (const char* setting :
          {"max_connections=60", "shared_buffers=16MB", "max_wal_senders=0", "wal_level=minimal",
           "autovacuum=off", "log_min_messages=warning", "fsync=off", "full_page_writes=off"})
@@ -214,7 +214,16 @@ void PostgresServer::AnswerOnPort(const std::string& certificate, const std::str
     GiveAway(certificate, folder_ + "/data/server.crt");
     GiveAway(key, folder_ + "/data/server.key");
     std::ofstream(folder_ + "/data/pg_hba.conf", std::ios::app) << "hostssl all all samehost scram-sha-256\n";
+    isProtected_ = true;
     port_ = FreePort();
+    Start();
+}
+
+void PostgresServer::AnswerUnprotected()
+{
+    Stop();
+    std::ofstream(folder_ + "/data/pg_hba.conf", std::ios::app) << "host all all samehost scram-sha-256\n";
+    isProtected_ = false;
     Start();
 }
 

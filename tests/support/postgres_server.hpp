@@ -33,6 +33,9 @@ public:
     /// password only. Takes the files of its certificate and key.
     void AnswerOnPort(const std::string& certificate, const std::string& key);
 
+    /// Then starts it anew so that it answers there on unprotected connections alone.
+    void AnswerUnprotected();
+
     /// The folder of its socket.
     const std::string& Folder() const { return folder_; }
     /// The usual one, or that of AnswerOnPort.
@@ -58,6 +61,7 @@ private:
     std::string programs_, folder_;
     pid_t process_ = 0;
     int port_ = UsualPort;
+    bool isProtected_ = true;
     int databases_ = 0;
     std::map<std::string, std::string> models_;
 };

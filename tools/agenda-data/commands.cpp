@@ -1,5 +1,8 @@
 #include "tools/agenda-data/commands.hpp"
 
+#include "family/data/engine/secrets_in_text.hpp"
+#include "family/data/engine/server_protection.hpp"
+
 #include <algorithm>
 
 namespace kova::data {
@@ -41,6 +44,10 @@ int Carry(std::span<const std::string> words, Surroundings& surroundings)
     }
     const auto* command = *std::find_if(std::begin(Commands), std::end(Commands),
                                         [&](const Command* one) { return &one->words == asked.command; });
+    for (std::size_t at = 0; at < command->words.operands.size(); ++at) {
+        if (const auto warning = family::WarningOfAddress(asked.call.Operand(at)))
+            surroundings.error << "Aviso: " << *warning << "\n";
+    }
     return command->run(asked.call, surroundings);
 }
 
@@ -53,10 +60,10 @@ int Run(std::span<const std::string> words, DateTime now, std::ostream& output, 
     try {
         return Carry(words, surroundings);
     } catch (const arguments::BadArguments& refusal) {
-        error << "agenda-data: " << refusal.what() << "\n";
+        error << "agenda-data: " << family::WithoutSecrets(refusal.what()) << "\n";
         return 2;
     } catch (const std::exception& failure) {
-        error << "agenda-data: " << failure.what() << "\n";
+        error << "agenda-data: " << family::WithoutSecrets(failure.what()) << "\n";
         return 1;
     }
 }

@@ -64,6 +64,12 @@ const ServerClient* Load()
 
 } // namespace
 
+std::string ValueOf(const AddressParts& parts, const char* keyword)
+{
+    const auto found = parts.find(keyword);
+    return found == parts.end() ? std::string() : found->second;
+}
+
 const ServerClient& RequireServerClient()
 {
     static std::mutex loading;

@@ -19,7 +19,14 @@ struct ConnectionAttempt {
     std::string host;
     /// The connection was about to be protected when the attempt ended.
     bool atProtection = false;
+    /// The server offers that, and it failed by what the certificates are.
+    bool offersProtection = false;
+    /// The certificate is good, and another host's.
+    bool isOthersCertificate = false;
 };
+
+/// The value of a keyword; "" where nothing is said of it.
+std::string ValueOf(const AddressParts& parts, const char* keyword);
 
 /// What is asked of the client library of servers. It brings some thirty libraries with it, which take longer
 /// to load than a shop in a file takes to open: only a library of its own needs it, which is loaded when a
@@ -30,6 +37,12 @@ public:
 
     /// Nothing where the address cannot be understood. Asks nobody.
     virtual std::optional<AddressParts> Read(const std::string& address) const = 0;
+    /// The same with what the service file and the environment say besides, and what is taken where nobody
+    /// says anything. Asks nobody.
+    virtual std::optional<AddressParts> Complete(const std::string& address) const = 0;
+    /// The file of those whom this computer trusts to make certificates, as "sslrootcert" takes it; "" where
+    /// the user has one of his own in the usual place, or the computer has none.
+    virtual std::string TrustedCertificates() const = 0;
     /// Connects for the sake of what comes of it, and ends the connection.
     virtual ConnectionAttempt TryConnection(const std::string& connection) const = 0;
     /// The state (SQLSTATE) under which a server's back end reported this; nothing where none has.

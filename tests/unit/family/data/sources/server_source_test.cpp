@@ -474,15 +474,19 @@ TEST(ServerAddress, GetsWhatItLeavesOpen)
     EXPECT_TRUE(connection.starts_with("postgresql://carla@servidor/loja?connect_timeout=3&"));
     EXPECT_EQ(connection.find("connect_timeout=10"), std::string::npos);
     EXPECT_NE(connection.find("&tcp_user_timeout=15000"), std::string::npos);
-    EXPECT_TRUE(ConnectionTo("postgresql://servidor/loja")
-                    .starts_with("postgresql://servidor/loja?connect_timeout=10&"));
+    EXPECT_TRUE(ConnectionTo("postgresql://localhost/loja")
+                    .starts_with("postgresql://localhost/loja?application_name=kovaris&"));
 }
 
 TEST(ServerAddress, IsToldFromAPath)
 {
     EXPECT_TRUE(IsServer("postgresql:///loja"));
     EXPECT_TRUE(IsServer("postgres://servidor/loja"));
+    EXPECT_TRUE(IsServer(" PostgreSQL://servidor/loja")) << "it is refused as an address";
+    EXPECT_TRUE(IsServer("host=servidor dbname=loja"));
+    EXPECT_FALSE(IsServer("./host=servidor"));
     EXPECT_FALSE(IsServer("/dados/postgresql.db"));
+    EXPECT_FALSE(IsServer("postgresql.db"));
     EXPECT_FALSE(IsServer(""));
 }
 
