@@ -36,6 +36,8 @@ void FormModel::ReviewFocus()
         MoveFocus(nullptr);
     else if (focused_ && !focused_->HoldsForChain(&WidgetState::enabled))
         MoveFocus(nullptr);
+    else if (focused_ && !focused_->Denial().empty())
+        MoveFocus(nullptr);
 }
 
 // Whoever walks the rows by key goes on from the same row.

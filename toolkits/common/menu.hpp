@@ -16,7 +16,7 @@ public:
     const Text& ShownCaption() const override { return caption_; }
     bool IsRule() const { return caption_ == "-"; }
     /// Whether the user could choose the entry in an open menu.
-    bool IsChoosable() const { return State().visible && State().enabled && !IsRule(); }
+    bool IsChoosable() const { return State().visible && State().enabled && !IsRule() && Denial().empty(); }
 
     bool HoldsOthers() const override { return true; }
     void PopUp(FormModel& form, Twips x, Twips y) override;

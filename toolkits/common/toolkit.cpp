@@ -3,6 +3,7 @@
 #include "toolkits/common/event_scope.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/report.hpp"
+#include "toolkits/common/view.hpp"
 #include "toolkits/common/widget_core.hpp"
 
 #include <algorithm>
@@ -95,6 +96,25 @@ void ToolkitModel::SendKeys(const Text& keys)
     if (FormModel* form = ActiveForm()) {
         if (WidgetCore* focused = form->Focused())
             focused->SelectToStart();
+    }
+}
+
+void ToolkitModel::SetGuard(Guard guard)
+{
+    guard_ = std::move(guard);
+    LookAtGuard();
+}
+
+void ToolkitModel::LookAtGuard()
+{
+    const EventScope scope(*this);
+    const auto forms = forms_;
+    for (FormModel* form : forms) {
+        for (const auto& widget : form->Widgets()) {
+            if (View* view = widget->GetView())
+                view->Update(Aspect::Enabled);
+        }
+        form->ReviewFocus();
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
+#include "toolkits/common/guard.hpp"
 #include "toolkits/common/report_owner.hpp"
 
 #include <memory>
@@ -38,6 +39,13 @@ public:
     /// May be null. It must stay valid until it is replaced.
     AccessObserver* Observer() const override { return observer_; }
     void Observer(AccessObserver* observer) { observer_ = observer; }
+
+    /// Who says which controls the user may use; without one he may use all. Of the controls that are there
+    /// it is asked at once, and again whenever something of one changes.
+    void SetGuard(Guard guard);
+    const Guard& GetGuard() const { return guard_; }
+    /// What the guard would answer has changed: of somebody else, or of another row.
+    void LookAtGuard();
 
     /// The innermost modal form; null where none is shown.
     FormModel* ModalForm() const;
@@ -156,6 +164,7 @@ private:
 
     const WidgetMaker maker_;
     AccessObserver* observer_ = nullptr;
+    Guard guard_;
     int eventDepth_ = 0;
     /// How many events were on the stack when each of the modal forms was shown.
     std::vector<int> idleDepths_{0};

@@ -35,6 +35,12 @@ Text WidgetCore::Purpose() const
     return state_.toolTipText.empty() ? caption : state_.toolTipText;
 }
 
+Text WidgetCore::Denial() const
+{
+    const Guard& guard = form_.GetToolkit().GetGuard();
+    return guard ? guard({form_.Design().name, design_.name, ShownCaption()}) : Text();
+}
+
 bool WidgetCore::HoldsForChain(bool WidgetState::*flag) const
 {
     for (const WidgetCore* widget = this; widget; widget = widget->container_) {
@@ -46,7 +52,10 @@ bool WidgetCore::HoldsForChain(bool WidgetState::*flag) const
 
 bool WidgetCore::IsOnShow() const { return form_.IsOnScreen() && HoldsForChain(&WidgetState::visible); }
 
-bool WidgetCore::IsUsable() const { return form_.Current().enabled && HoldsForChain(&WidgetState::enabled); }
+bool WidgetCore::IsUsable() const
+{
+    return form_.Current().enabled && HoldsForChain(&WidgetState::enabled) && Denial().empty();
+}
 
 std::string WidgetCore::Refusal() const
 {
@@ -56,6 +65,8 @@ std::string WidgetCore::Refusal() const
         return FullName() + " is not visible";
     if (!HoldsForChain(&WidgetState::enabled))
         return FullName() + " is disabled";
+    if (const Text denial = Denial(); !denial.empty())
+        return FullName() + " is denied: " + denial;
     return {};
 }
 

@@ -77,7 +77,11 @@ public:
     /// its accessible name, its tool tip, the caption of its design.
     Text Purpose() const;
 
-    /// Whether the widget and all that holds it, the form too, are visible or enabled.
+    /// Why the user may not use the widget, as the toolkit's guard says it; "" where he may.
+    Text Denial() const;
+
+    /// Whether the widget and all that holds it, the form too, are visible or enabled; one that is denied is
+    /// not usable.
     bool IsOnShow() const;
     bool IsUsable() const;
     /// Why the user cannot act on the widget now, as in "frmLista.kvcmdAlterar is not visible"; "" where

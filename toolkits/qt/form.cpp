@@ -7,6 +7,7 @@
 #include "toolkits/qt/form_area.hpp"
 #include "toolkits/qt/handles.hpp"
 #include "toolkits/qt/look/theme.hpp"
+#include "toolkits/qt/look/tool_tip.hpp"
 #include "toolkits/qt/top_window.hpp"
 #include "toolkits/qt/widget_view.hpp"
 
@@ -394,6 +395,7 @@ toolkit::MenuModel* FormWindow::PopupMenu(toolkit::MenuModel&,
         return nullptr;
     QMenu menu(widget_);
     menu.setFont(MakeFont("Arial", 9.75));
+    menu.setToolTipsVisible(true);
     QHash<QAction*, toolkit::MenuModel*> entryOf;
     for (toolkit::MenuModel* entry : entries) {
         if (entry->IsRule()) {
@@ -401,7 +403,8 @@ toolkit::MenuModel* FormWindow::PopupMenu(toolkit::MenuModel&,
             continue;
         }
         QAction* action = menu.addAction(FromText(entry->ShownCaption()));
-        action->setEnabled(entry->State().enabled);
+        action->setEnabled(entry->IsChoosable());
+        action->setToolTip(ToolTipOf(entry->Denial()));
         entryOf.insert(action, entry);
     }
     const QPoint place = widget_->Area().ToScreen(QPoint(Pixels(x), Pixels(y)));

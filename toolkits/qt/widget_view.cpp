@@ -7,6 +7,7 @@
 #include "toolkits/qt/look/tool_tip.hpp"
 
 #include <QFocusEvent>
+#include <QStringList>
 
 namespace kova::qt {
 
@@ -79,9 +80,7 @@ WidgetView::WidgetView(toolkit::WidgetCore& core, QWidget* widget) : core_(core)
     widget->setObjectName(FromText(core.FullName()));
     widget->setFont(MakeFont(design.fontName, static_cast<double>(design.fontSize), design.fontBold));
     widget->setAccessibleName(AccessibleNameOf(core));
-    if (!design.shortcut.empty())
-        widget->setAccessibleDescription(QStringLiteral("Tecla: ")
-                                         + FromText(toolkit::KeyName(design.shortcut)));
+    Describe();
     StackByKind();
 }
 
@@ -98,6 +97,7 @@ void WidgetView::Update(Aspect aspect)
 {
     if (!widget_)
         return;
+    ReviewDenial();
     switch (aspect) {
     case Aspect::Geometry: return ShowGeometry();
     case Aspect::Visible: return ShowVisible();
@@ -139,9 +139,32 @@ void WidgetView::ShowVisible()
 
 void WidgetView::ShowEnabled()
 {
-    if (!core_.State().enabled)
+    const bool open = core_.State().enabled && denial_.empty();
+    if (!open)
         LeaveFocus();
-    OpenWindow(core_.State().enabled);
+    OpenWindow(open);
+}
+
+// What the guard says of a control may hang on where it stands, and on what is written on it.
+void WidgetView::ReviewDenial()
+{
+    const Text denial = core_.Denial();
+    if (denial == denial_)
+        return;
+    denial_ = denial;
+    ShowEnabled();
+    ShowToolTip();
+    Describe();
+}
+
+void WidgetView::Describe()
+{
+    QStringList sentences;
+    if (!denial_.empty())
+        sentences << FromText(denial_);
+    if (const std::string& key = core_.Design().shortcut; !key.empty())
+        sentences << QStringLiteral("Tecla: ") + FromText(toolkit::KeyName(key));
+    widget_->setAccessibleDescription(sentences.join(QLatin1Char(' ')));
 }
 
 void WidgetView::OpenWindow(bool open) { widget_->setEnabled(open); }
@@ -160,7 +183,10 @@ void WidgetView::LeaveFocus()
     }
 }
 
-void WidgetView::ShowToolTip() { widget_->setToolTip(ToolTipOf(core_.State().toolTipText)); }
+void WidgetView::ShowToolTip()
+{
+    widget_->setToolTip(ToolTipOf(denial_.empty() ? core_.State().toolTipText : denial_));
+}
 
 void WidgetView::ShowOrder()
 {

@@ -42,6 +42,8 @@ protected:
     toolkit::WidgetCore& Core() const { return core_; }
 
 private:
+    void ReviewDenial();
+    void Describe();
     void ShowVisible();
     void ShowEnabled();
     void ShowOrder();
@@ -50,6 +52,8 @@ private:
 
     toolkit::WidgetCore& core_;
     QPointer<QWidget> widget_;
+    /// Why the user may not use the widget, as it is shown.
+    Text denial_;
 };
 
 /// A view whose model and Qt widget are of known types.
