@@ -48,6 +48,7 @@ public:
         box_->setCursorPosition(0);
     }
     std::string Text() const override { return box_->text().toStdString(); }
+    void SetReadOnly(bool isReadOnly) override { box_->setReadOnly(isReadOnly); }
 
 protected:
     QLineEdit& Box() { return *box_; }
@@ -299,6 +300,7 @@ public:
         lines.removeAll(QString());
         return lines.join(QStringLiteral("; ")).toStdString();
     }
+    void SetReadOnly(bool isReadOnly) override { box_->setReadOnly(isReadOnly); }
 
 private:
     QPlainTextEdit* box_;

@@ -19,6 +19,8 @@ public:
     virtual QWidget& Widget() = 0;
     virtual void Show(const std::string& text) = 0;
     virtual std::string Text() const = 0;
+    /// Shows what stands there and lets nobody change it.
+    virtual void SetReadOnly(bool isReadOnly) { Widget().setEnabled(!isReadOnly); }
     /// Chooses what a typed part of a name stands for, where that is one row only. Answers, in lower case
     /// and with a full stop, why it stands for none; "" for an editor that takes what is typed.
     virtual std::string Settle() { return {}; }

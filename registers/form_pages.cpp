@@ -58,6 +58,12 @@ void FormPages::ShowRow(family::Key key)
         panel->Show(key);
 }
 
+void FormPages::ShowPrices(bool areShown)
+{
+    for (RelatedPanel* panel : panels_)
+        panel->ShowPrices(areShown);
+}
+
 bool FormPages::TurnToNext()
 {
     tabs_->setCurrentIndex((tabs_->currentIndex() + 1) % tabs_->count());

@@ -29,6 +29,7 @@ public:
     /// Turns to the next page and gives it the keyboard, or from the last to the form, which is left to the
     /// caller: false then.
     bool TurnToNext();
+    void ShowPrices(bool areShown);
 
 private:
     screens::Tabs* tabs_;

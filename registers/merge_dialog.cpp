@@ -183,12 +183,14 @@ void MergeDialog::ShowAnswer(const MergeAnswer& answer)
 
 RecordAction MergeAction()
 {
-    return {family::registers::CustomerRegister().Name().name, QStringLiteral("&Unir com outro cadastro..."),
+    return {family::registers::CustomerRegister().Name().name,
+            QStringLiteral("&Unir com outro cadastro..."),
             [](const ActionTarget& target) {
                 MergeDialog dialog(target, &target.over);
                 dialog.exec();
                 return ActionResult{target.key, dialog.Done()};
-            }};
+            },
+            {family::Right::ChangeRegisters}};
 }
 
 } // namespace kova::registers

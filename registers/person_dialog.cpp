@@ -6,6 +6,7 @@
 #include "family/privacy/person_files.hpp"
 #include "registers/importing/background_job.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/offer.hpp"
 #include "screens/plain_label.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
@@ -56,6 +57,7 @@ PersonDialog::PersonDialog(const Desk& desk, family::Key customer, QWidget* pare
       desk_(desk),
       customer_(customer),
       source_(desk.database->Path()),
+      denied_(family::DeniedRightsOf(*desk.database, desk.author())),
       folder_(new QLineEdit(this)),
       code_(new QLineEdit(this)),
       choose_(Button("escolherPasta", QStringLiteral("&Escolher..."))),
@@ -249,15 +251,21 @@ family::LongWork PersonDialog::Followed(std::stop_token stop)
 
 void PersonDialog::MakeRoom() { resize(width(), std::max(height(), layout()->totalHeightForWidth(width()))); }
 
+QString PersonDialog::Why(family::Right right) const
+{
+    return QString::fromStdString(family::WhyOf(denied_, right));
+}
+
 void PersonDialog::Offer()
 {
     const bool isFree = !job_->IsUnderWay();
-    export_->setEnabled(isFree);
+    screens::Offer(*export_, isFree, Why(family::Right::Export));
     choose_->setEnabled(isFree);
     folder_->setEnabled(isFree);
     code_->setEnabled(isFree && !isAnonymous_);
     sameName_->setEnabled(isFree && !isAnonymous_);
-    anonymise_->setEnabled(isFree && !isAnonymous_ && code_->text().trimmed() == QString::number(customer_));
+    const bool isMeant = code_->text().trimmed() == QString::number(customer_);
+    screens::Offer(*anonymise_, isFree && !isAnonymous_ && isMeant, Why(family::Right::Anonymise));
     close_->setText(isFree ? QStringLiteral("&Fechar") : QStringLiteral("&Cancelar"));
 }
 
@@ -276,7 +284,10 @@ RecordAction PersonAction()
         return ActionResult{target.key,
                             dialog.IsAnonymous() ? QStringLiteral("O cliente ficou anônimo.") : QString()};
     };
-    return {"clientes", QStringLiteral("&Dados da pessoa..."), open};
+    return {"clientes",
+            QStringLiteral("&Dados da pessoa..."),
+            open,
+            {family::Right::Export, family::Right::Anonymise}};
 }
 
 } // namespace kova::registers

@@ -3,6 +3,7 @@
 #include "registers/record_actions.hpp"
 
 #include "family/privacy/anonymise.hpp"
+#include "family/users/user_rights.hpp"
 
 #include <QDialog>
 
@@ -48,6 +49,8 @@ private:
     /// For the thread of the work.
     family::LongWork Followed(std::stop_token stop);
     void Offer();
+    /// Why whoever is at the desk may not do it.
+    QString Why(family::Right right) const;
     /// As high as its texts want it.
     void MakeRoom();
 
@@ -55,6 +58,7 @@ private:
     const family::Key customer_;
     /// Where the shop's data lie.
     const std::string source_;
+    const family::DeniedRights denied_;
     QLineEdit *folder_, *code_;
     QPushButton *choose_, *export_, *anonymise_, *close_;
     QCheckBox* sameName_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "family/data/engine/key.hpp"
+#include "family/users/rights.hpp"
 #include "registers/desk.hpp"
 
 #include <QString>
@@ -39,6 +40,8 @@ struct RecordAction {
     /// Runs where the user has picked it, after asking what becomes of unsaved changes. A DatabaseFailure
     /// that comes out of it is shown.
     std::function<ActionResult(const ActionTarget& target)> run;
+    /// It is offered to whoever has one of these; to everybody where there are none.
+    std::vector<family::Right> rights{};
 };
 
 using RecordActions = std::vector<RecordAction>;

@@ -165,10 +165,24 @@ void RecordForm::Refuse(std::span<const family::registers::RefusedField> refused
         frames_[refused.front().field]->setFocus();
 }
 
+void RecordForm::LookAtRights(const family::DeniedRights& denied)
+{
+    const std::string why = family::WhyOf(denied, register_.RightToWrite());
+    const bool seesPrices = family::WhyOf(denied, family::Right::SeePrices).empty();
+    for (std::size_t field = 0; field < editors_.size(); ++field) {
+        const FieldInfo& info = register_.Fields()[field];
+        if (info.kind == FieldKind::Code)
+            continue;
+        editors_[field]->SetReadOnly(!why.empty());
+        editors_[field]->Widget().setToolTip(why.empty() ? Shown(info.help) : QString::fromStdString(why));
+        FrameOf(field).setVisible(info.kind != FieldKind::Money || seesPrices);
+    }
+}
+
 void RecordForm::FocusFirst()
 {
     for (screens::FieldFrame* frame : frames_) {
-        if (frame->Editor().isEnabled())
+        if (frame->Editor().isEnabled() && !frame->isHidden())
             return frame->setFocus(Qt::TabFocusReason);
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/users/user_rights.hpp"
 #include "registers/desk.hpp"
 #include "registers/field_editor.hpp"
 
@@ -38,6 +39,8 @@ public:
     /// told.
     void Refuse(std::span<const family::registers::RefusedField> refused);
     void FocusFirst();
+    /// Of whoever lacks those rights: what he may not change is only to be read, and prices are not there.
+    void LookAtRights(const family::DeniedRights& denied);
 
     std::function<void()> onEdited = [] {};
 

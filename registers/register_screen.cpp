@@ -7,6 +7,7 @@
 #include "registers/more_button.hpp"
 #include "registers/row_list.hpp"
 #include "registers/suggestions_dialog.hpp"
+#include "screens/offer.hpp"
 #include "screens/plain_label.hpp"
 #include "screens/question.hpp"
 #include "screens/search_box.hpp"
@@ -73,6 +74,9 @@ RegisterScreen::RegisterScreen(const Register& of, const Desk& desk, const Recor
     inactive_->setToolTip(QStringLiteral("Ctrl+I"));
     inactive_->setVisible(of.HasInactive());
     title_->setFont(qt::MakeFont("Arial", TitlePoints, true));
+    if (!of.SuggestionsTitle().empty())
+        suggest_ = Button(QStringLiteral("sugestoes"), Shown(of.SuggestionsTitle()),
+                          QStringLiteral("Mostra o que outras lojas costumam ter, para escolher"), this);
     LayOut();
     Connect();
     Find();
@@ -98,8 +102,8 @@ void RegisterScreen::LayOut()
     auto* belowList = new QHBoxLayout;
     belowList->addWidget(found_, 1);
     belowList->addWidget(inactive_);
-    if (!register_.SuggestionsTitle().empty())
-        belowList->addWidget(SuggestButton());
+    if (suggest_ != nullptr)
+        belowList->addWidget(suggest_);
     leftColumn->addLayout(belowList);
 
     auto* right = new QWidget(this);
@@ -127,14 +131,6 @@ void RegisterScreen::LayOut()
     layout->addWidget(sides);
 }
 
-QPushButton* RegisterScreen::SuggestButton()
-{
-    auto* suggest = Button(QStringLiteral("sugestoes"), Shown(register_.SuggestionsTitle()),
-                           QStringLiteral("Mostra o que outras lojas costumam ter, para escolher"), this);
-    connect(suggest, &QPushButton::clicked, this, [this] { Suggest(); });
-    return suggest;
-}
-
 void RegisterScreen::Connect()
 {
     connect(search_, &screens::SearchBox::textChanged, this, [this] { Find(); });
@@ -149,6 +145,8 @@ void RegisterScreen::Connect()
     connect(save_, &QPushButton::clicked, this, [this] { Save(); });
     connect(discard_, &QPushButton::clicked, this, [this] { Discard(); });
     connect(remove_, &QPushButton::clicked, this, [this] { Remove(); });
+    if (suggest_ != nullptr)
+        connect(suggest_, &QPushButton::clicked, this, [this] { Suggest(); });
     more_->onPicked = [this](const RecordAction& action) { Run(action); };
     form_->onEdited = [this] {
         Tell({});
@@ -287,6 +285,8 @@ void RegisterScreen::ShowRow(family::Key key)
 
 void RegisterScreen::New()
 {
+    if (const QString why = WhyNothingNew(); !why.isEmpty())
+        return Tell(why);
     if (!MayLeave())
         return;
     ShowNew();
@@ -321,7 +321,12 @@ void RegisterScreen::Suggest()
                              : QStringLiteral("%L1 incluídos.").arg(dialog.Added()));
 }
 
-void RegisterScreen::Save() { SaveRow(); }
+void RegisterScreen::Save()
+{
+    if (const QString why = WhyNotWritten(); !why.isEmpty())
+        return Tell(why);
+    SaveRow();
+}
 
 bool RegisterScreen::SaveRow()
 {
@@ -419,6 +424,8 @@ void RegisterScreen::Discard()
 
 void RegisterScreen::Remove()
 {
+    if (const QString why = WhyNotWritten(); !why.isEmpty())
+        return Tell(why);
     if (form_->Key() == 0 || !screens::AskToRemove(*this, Shown(register_.Name().one)))
         return;
     Try([this] {
@@ -461,11 +468,38 @@ void RegisterScreen::Tell(const QString& text)
 
 void RegisterScreen::OfferButtons()
 {
-    save_->setEnabled(IsChanged() || form_->Key() == 0);
+    const QString why = WhyNotWritten();
+    screens::Offer(*new_, true, WhyNothingNew());
+    screens::Offer(*save_, IsChanged() || form_->Key() == 0, why);
     discard_->setEnabled(IsChanged());
-    remove_->setEnabled(form_->Key() != 0);
+    screens::Offer(*remove_, form_->Key() != 0, why);
+    if (suggest_ != nullptr)
+        screens::Offer(*suggest_, true, why);
     more_->setEnabled(form_->Key() != 0);
     draft_->Follow();
+}
+
+void RegisterScreen::LookAtRights(const family::DeniedRights& denied)
+{
+    denied_ = denied;
+    const bool seesPrices = family::WhyOf(denied, family::Right::SeePrices).empty();
+    ShowPrices(*list_, register_.ListColumns(), seesPrices);
+    form_->LookAtRights(denied);
+    pages_->ShowPrices(seesPrices);
+    more_->LookAtRights(denied);
+    OfferButtons();
+}
+
+QString RegisterScreen::WhyNotWritten() const
+{
+    return QString::fromStdString(family::WhyOf(denied_, register_.RightToWrite()));
+}
+
+QString RegisterScreen::WhyNothingNew() const
+{
+    const QString why = WhyNotWritten();
+    const bool needsPrice = why.isEmpty() && family::registers::NeedsPrice(register_);
+    return needsPrice ? QString::fromStdString(family::WhyOf(denied_, family::Right::SeePrices)) : why;
 }
 
 bool RegisterScreen::event(QEvent* event)

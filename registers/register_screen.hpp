@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/users/user_rights.hpp"
 #include "registers/desk.hpp"
 #include "registers/record_actions.hpp"
 #include "registers/record_form.hpp"
@@ -50,6 +51,8 @@ public:
     void TurnInactive();
     /// To the next page of the form.
     void TurnPage();
+    /// Whoever is at the desk lacks those rights from now on: what he may not do is shut, and says why.
+    void LookAtRights(const family::DeniedRights& denied);
 
 private:
     void Find();
@@ -76,10 +79,12 @@ private:
     void Run(const RecordAction& action);
     void Tell(const QString& text);
     void OfferButtons();
+    /// Why nothing may be written here, and no row added; empty where that may be.
+    QString WhyNotWritten() const;
+    QString WhyNothingNew() const;
     QString TitleOfNew() const;
     /// Offers rows that many shops have.
     void Suggest();
-    QPushButton* SuggestButton();
     void LayOut();
     void Connect();
     /// Runs what needs the database and tells what it reports. False where it failed.
@@ -99,6 +104,9 @@ private:
     FormDraft* draft_;
     QPushButton *new_, *save_, *discard_, *remove_;
     MoreButton* more_;
+    /// Null where there is nothing to suggest.
+    QPushButton* suggest_ = nullptr;
+    family::DeniedRights denied_;
     /// The list follows the form and not the other way round.
     bool isMarking_ = false;
 };

@@ -5,6 +5,7 @@
 #include "registers/importing/export_dialog.hpp"
 #include "registers/importing/import_wizard.hpp"
 #include "registers/register_screen.hpp"
+#include "screens/offer.hpp"
 
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -73,9 +74,16 @@ void RegistersPage::ShowGuarded()
 
 void RegistersPage::OfferFiles()
 {
+    const family::registers::Register& of = *registers_[static_cast<std::size_t>(names_->currentRow())];
     const bool isOffered = names_->currentRow() < static_cast<int>(guarded_);
-    import_->setEnabled(isOffered);
-    export_->setEnabled(isOffered);
+    const std::string prices =
+        family::registers::HasPrices(of) ? family::WhyOf(denied_, family::Right::SeePrices) : std::string();
+    const auto why = [&](family::Right right) {
+        const std::string without = family::WhyOf(denied_, right);
+        return QString::fromStdString(without.empty() ? prices : without);
+    };
+    screens::Offer(*import_, isOffered, why(of.RightToWrite()));
+    screens::Offer(*export_, isOffered, why(family::Right::Export));
 }
 
 void RegistersPage::LayOut(int widthOfNames)
@@ -168,6 +176,7 @@ void RegistersPage::Export()
 void RegistersPage::Refresh()
 {
     ShowGuarded();
+    LookAtRights();
     for (RegisterScreen* screen : screens_) {
         if (screen != nullptr)
             screen->Refresh();
@@ -193,6 +202,21 @@ void RegistersPage::TurnTo(int row)
     }
     pages_->setCurrentIndex(row);
     setFocusProxy(screen);
+    LookAtRights();
+}
+
+// They may have been changed at another desk, too. While nobody can be asked it is as it was before.
+void RegistersPage::LookAtRights()
+{
+    try {
+        denied_ = family::DeniedRightsOf(*desk_.database, desk_.author());
+        for (RegisterScreen* screen : screens_) {
+            if (screen != nullptr)
+                screen->LookAtRights(denied_);
+        }
+    } catch (const family::DatabaseFailure&) {
+        return OfferFiles();
+    }
     OfferFiles();
 }
 

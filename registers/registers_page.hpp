@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/users/user_rights.hpp"
 #include "registers/desk.hpp"
 #include "registers/record_actions.hpp"
 
@@ -40,7 +41,8 @@ public:
     /// Where something is typed in any of them that was not saved: asks, one after the other. False where the
     /// user stays.
     bool MayLeave();
-    /// Shows in every list what is stored now, and the registers that the user may see now.
+    /// Shows in every list what is stored now, and the registers that the user may see now, and shuts what he
+    /// may not do.
     void Refresh();
 
 private:
@@ -53,11 +55,13 @@ private:
     /// The name of the register on show.
     std::string_view CurrentName() const;
     void TurnTo(int row);
+    /// Whoever is at the desk may have other rights than before.
+    void LookAtRights();
     /// To the register so many below, or above, in the list of them.
     void TurnBy(int step);
     /// Shows the guarded ones, or turns away from them.
     void ShowGuarded();
-    /// No file comes from the guarded ones, or goes to them.
+    /// Files come and go where the rights allow it; none comes from the guarded ones, or goes to them.
     void OfferFiles();
     RegisterScreen* Current() const;
 
@@ -67,6 +71,7 @@ private:
     std::vector<const family::registers::Register*> registers_;
     std::size_t guarded_;
     const std::function<bool()> showsGuarded_;
+    family::DeniedRights denied_;
     QListWidget* names_;
     QPushButton *import_ = nullptr, *export_ = nullptr;
     QStackedWidget* pages_;

@@ -56,6 +56,11 @@ RelatedPanel::RelatedPanel(const family::registers::RelatedList& of, const Desk&
     layout->addWidget(told_);
 }
 
+void RelatedPanel::ShowPrices(bool areShown)
+{
+    registers::ShowPrices(*table_, list_.ListColumns(), areShown);
+}
+
 void RelatedPanel::Show(family::Key key)
 {
     key_ = key;

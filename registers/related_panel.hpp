@@ -22,6 +22,7 @@ public:
 
     /// Of that row from now on; 0 is none.
     void Show(family::Key key);
+    void ShowPrices(bool areShown);
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -36,6 +36,12 @@ QTableView* MakeRowList(RowModel& rows, const QString& name, QWidget* parent)
     return list;
 }
 
+void ShowPrices(QTableView& list, std::span<const family::registers::ListColumn> columns, bool areShown)
+{
+    for (std::size_t column = 0; column < columns.size(); ++column)
+        list.setColumnHidden(static_cast<int>(column), columns[column].money && !areShown);
+}
+
 void FitColumns(QTableView& list)
 {
     list.resizeColumnsToContents();

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "family/registers/description/register.hpp"
+
 #include <QString>
+
+#include <span>
 
 class QTableView;
 class QWidget;
@@ -14,5 +18,8 @@ QTableView* MakeRowList(RowModel& rows, const QString& name, QWidget* parent);
 
 /// Gives every column the room that its texts want, within limits.
 void FitColumns(QTableView& list);
+
+/// The columns of prices are there, or not.
+void ShowPrices(QTableView& list, std::span<const family::registers::ListColumn> columns, bool areShown);
 
 } // namespace kova::registers

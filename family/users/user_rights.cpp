@@ -83,6 +83,19 @@ Rights EveryRight()
     return all;
 }
 
+std::string Objection(const UsersInRoles& users, const Author& author, Right right)
+{
+    if (users.empty() || author.isOwner)
+        return {};
+    const std::string act = InfoOf(right).Act();
+    const auto user = users.find(KeyOf(author.code));
+    if (user == users.end())
+        return "Para " + act + " é preciso entrar com um usuário desta loja. Entre e tente de novo.";
+    if (user->second.rights.contains(right))
+        return {};
+    return user->second.role + " não pode " + act + ". Peça a quem administra os usuários.";
+}
+
 } // namespace
 
 bool HasUsers(Database& database) { return !FindUsersInRoles(database)->empty(); }
@@ -98,16 +111,18 @@ Rights RightsOf(Database& database, Key user)
 
 std::string WhyDenied(Database& database, const Author& author, Right right)
 {
+    return Objection(*FindUsersInRoles(database), author, right);
+}
+
+DeniedRights DeniedRightsOf(Database& database, const Author& author)
+{
     const auto users = FindUsersInRoles(database);
-    if (users->empty() || author.isOwner)
-        return {};
-    const std::string act = InfoOf(right).Act();
-    const auto user = users->find(KeyOf(author.code));
-    if (user == users->end())
-        return "Para " + act + " é preciso entrar com um usuário desta loja. Entre e tente de novo.";
-    if (user->second.rights.contains(right))
-        return {};
-    return user->second.role + " não pode " + act + ". Peça a quem administra os usuários.";
+    DeniedRights denied;
+    for (const RightInfo& info : AllRights()) {
+        if (std::string why = Objection(*users, author, info.right); !why.empty())
+            denied[info.right] = std::move(why);
+    }
+    return denied;
 }
 
 void RequireRight(Database& database, const Author& author, Right right)

@@ -4,6 +4,9 @@
 #include "family/data/engine/database_failure.hpp"
 #include "family/users/rights.hpp"
 
+#include <map>
+#include <string>
+
 namespace kova::family {
 
 class Database;
@@ -31,10 +34,21 @@ Rights RightsOf(Database& database, Key user);
 /// Peça a quem administra os usuários."
 std::string WhyDenied(Database& database, const Author& author, Right right);
 
+/// The same of every right that the author lacks.
+using DeniedRights = std::map<Right, std::string>;
+DeniedRights DeniedRightsOf(Database& database, const Author& author);
+
+/// Why that one is denied; empty where it is not.
+inline std::string WhyOf(const DeniedRights& denied, Right right)
+{
+    const auto found = denied.find(right);
+    return found == denied.end() ? std::string() : found->second;
+}
+
 /// Fails with RightDenied where the author may not do it.
 void RequireRight(Database& database, const Author& author, Right right);
 
-/// All four go by what stood there when the writing transaction that is open began, or by what stands there
+/// All five go by what stood there when the writing transaction that is open began, or by what stands there
 /// now where none is; it stays in memory with the connection until a change of it is counted. A transaction
 /// that changes who may do what asks before it does. They fail as Database::With.
 

@@ -40,7 +40,8 @@ protected:
     explicit Appointments(bool namesAnimal) : namesAnimal_(namesAnimal)
     {
         for (const char* label : {"Data", "Hora", "Animal", "Serviço", "Funcionário(a)", "Situação", "Valor"})
-            columns_.push_back({label, std::string_view(label) == "Valor"});
+            columns_.push_back(
+                {label, std::string_view(label) == "Valor", std::string_view(label) == "Valor"});
         if (!namesAnimal)
             std::erase_if(columns_, [](const ListColumn& column) { return column.label == "Animal"; });
     }

@@ -69,6 +69,18 @@ std::vector<LikelyDouble> Register::LikelyDoubles(Database&, Key, const Texts&, 
 
 std::vector<Offer> Register::Offers(Database&, std::size_t, const Texts&) const { return {}; }
 
+bool HasPrices(const Register& of)
+{
+    return std::ranges::any_of(of.Fields(),
+                               [](const FieldInfo& field) { return field.kind == FieldKind::Money; });
+}
+
+bool NeedsPrice(const Register& of)
+{
+    return std::ranges::any_of(
+        of.Fields(), [](const FieldInfo& field) { return field.kind == FieldKind::Money && field.required; });
+}
+
 std::size_t FieldNamed(const std::vector<FieldInfo>& fields, std::string_view label)
 {
     const auto found = std::ranges::find(fields, label, &FieldInfo::label);

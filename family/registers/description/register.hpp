@@ -105,6 +105,8 @@ struct ListColumn {
     std::string_view label;
     /// A number, to be aligned at the right.
     bool number = false;
+    /// A price or a cost, which not everybody may see.
+    bool money = false;
 };
 
 /// A row of a register's list.
@@ -293,6 +295,11 @@ public:
 protected:
     virtual std::vector<Key> FindRows(Database& database, const std::string& text, Listed listed) const = 0;
 };
+
+/// Whether its rows have prices or costs, which not everybody may see.
+bool HasPrices(const Register& of);
+/// Whether no row can do without one, so that none is added by who may not.
+bool NeedsPrice(const Register& of);
 
 /// The place of the field that is called so. Fails with 5 where there is none.
 std::size_t FieldNamed(const std::vector<FieldInfo>& fields, std::string_view label);

@@ -26,7 +26,8 @@ std::vector<ShownColumn<Record>> ShownColumns(const Columns<Record>& columns,
         const FieldKind kind = column->field.kind;
         const bool isNumber =
             kind == FieldKind::Code || kind == FieldKind::WholeNumber || kind == FieldKind::Money;
-        shown.push_back({{label, isNumber}, [column](const Record& record) { return column->Show(record); }});
+        shown.push_back({{label, isNumber, kind == FieldKind::Money},
+                         [column](const Record& record) { return column->Show(record); }});
     }
     return shown;
 }

@@ -54,7 +54,7 @@ void FillShop(const std::string& file)
 
 } // namespace
 
-CadastrosTest::CadastrosTest()
+CadastrosTest::CadastrosTest() : author_(Ana)
 {
     FillShop(file_);
     Open(UsualActions());
@@ -62,15 +62,15 @@ CadastrosTest::CadastrosTest()
 
 void CadastrosTest::Open(RecordActions actions)
 {
-    page_ = std::make_unique<RegistersPage>(Desk{family::OpenDatabase(file_), [] { return Ana; }}, nullptr,
-                                            RegistersChoice{.actions = std::move(actions)});
+    page_ = std::make_unique<RegistersPage>(Desk{family::OpenDatabase(file_), [this] { return author_; }},
+                                            nullptr, RegistersChoice{.actions = std::move(actions)});
     ShowPage({});
 }
 
 void CadastrosTest::OpenWithDrafts(const QString& drafts, std::initializer_list<const char*> answers)
 {
     page_.reset();
-    Desk desk{family::OpenDatabase(file_), [] { return Ana; }};
+    Desk desk{family::OpenDatabase(file_), [this] { return author_; }};
     if (!drafts.isEmpty())
         desk.drafts = std::make_shared<screens::DraftFolder>(drafts);
     page_ = std::make_unique<RegistersPage>(std::move(desk), nullptr);

@@ -76,6 +76,8 @@ protected:
 
     system::TemporaryFolder folder_{"cadastros-"};
     const std::string file_ = (folder_.Path() / "loja.db").string();
+    /// Who is at the desk.
+    family::Author author_;
     std::unique_ptr<RegistersPage> page_;
     std::vector<std::string> boxes_;
 
