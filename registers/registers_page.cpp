@@ -1,5 +1,6 @@
 #include "registers/registers_page.hpp"
 
+#include "agenda/contracts/failure.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/registers/registers.hpp"
 #include "registers/importing/export_dialog.hpp"
@@ -214,7 +215,7 @@ void RegistersPage::LookAtRights()
             if (screen != nullptr)
                 screen->LookAtRights(denied_);
         }
-    } catch (const family::DatabaseFailure&) {
+    } catch (const Failure&) {
         return OfferFiles();
     }
     OfferFiles();

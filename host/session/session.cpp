@@ -12,6 +12,7 @@
 #include "host/host_toolkit.hpp"
 #include "host/picture.hpp"
 #include "host/session/admission.hpp"
+#include "host/session/agenda_guard.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
 #include "host/session/registers_tab.hpp"
@@ -97,6 +98,8 @@ private:
     /// Ends this session for one with that shop.
     void TurnTo(const std::string& source);
     void OpenList();
+    /// What whoever is at the desk may not do is shut in the agenda, also where somebody else takes it over.
+    void GuardAgenda();
     std::string NameOfUser() const { return options_.user.empty() ? NameOfThisUser() : options_.user; }
     /// The day's list; null where none was made.
     Form* List() const { return toolkit_.FindForm("frmLista"); }
@@ -123,6 +126,7 @@ private:
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<Door> door_;
     ComponentRef agenda_;
+    std::unique_ptr<AgendaGuard> guard_;
     std::unique_ptr<DailyBackup> backup_;
 };
 
@@ -149,6 +153,7 @@ SessionEnd Session::Run()
     AddDoorToMenu(*door_, *window_, !Pretends(options_));
     door_->Watch(*window_);
     FillMenu();
+    GuardAgenda();
     OpenList();
     if (options_.firstPaint)
         return {PaintWindow(), std::nullopt};
@@ -203,6 +208,22 @@ void Session::OpenList()
     toolkit_.RegisterTopWindow(window_.get());
     window_->Open(SizeOf(options_, outlet_));
     agenda_->Call("AbrirLista", {qt::HandleOf(*window_), qt::HandleOf(window_->Container())});
+}
+
+void Session::GuardAgenda()
+{
+    guard_ = std::make_unique<AgendaGuard>(toolkit_, [this] {
+        if (!door_->HasUsers())
+            return family::DeniedRights();
+        const registers::Desk desk = door_->OpenDesk();
+        return family::DeniedRightsOf(*desk.database, desk.author());
+    });
+    const auto look = [this] {
+        guard_->Look();
+        components_.CreateObject("KOVA_N_Dados.clsBanco")->Set("OcultarPrecos", !guard_->MaySeePrices());
+    };
+    look();
+    userChange_.Follow(*window_, look);
 }
 
 /// AbrirLista does not tell whether it opened the list: what went wrong has been told to the user.

@@ -5,6 +5,10 @@
 #include "family/business/shown_values.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/selections/service_selection.hpp"
+#include "family/data/sources/shared_database.hpp"
+
+#include <array>
+#include <string_view>
 
 namespace kova::family {
 
@@ -26,6 +30,24 @@ constexpr KeptField<FoundServiceOf> Fields[] = {
     {"NumeroDoTipoDeServico", [](const Row& row) { return Value(static_cast<Long>(row.numeroDoTipo)); }},
     {"TempoDeExecucao", [](const Row& row) { return Value(ShownDuration(row.duracaoEmMinutos)); }},
 };
+
+/// The same for who may not see prices and costs.
+constexpr auto FieldsWithoutPrices = [] {
+    auto fields = std::to_array(Fields);
+    for (auto& field : fields) {
+        const std::string_view name = field.name;
+        if (name == "ValorDeVenda" || name == "Custo")
+            field.read = [](const Row&) { return Value(Text()); };
+    }
+    return fields;
+}();
+
+std::span<const KeptField<FoundServiceOf>> FieldsOf(const std::string& dataSource)
+{
+    if (ArePricesHidden(dataSource))
+        return FieldsWithoutPrices;
+    return Fields;
+}
 
 ServiceFilter FilterOf(std::span<const Argument> arguments)
 {
@@ -54,7 +76,7 @@ Value Services::Selecionar(std::span<Argument> arguments)
 {
     return Select("Selecionar", [&] {
         auto selection = std::make_shared<KeptRecordSet<FoundServiceOf>>(
-            Fields, SelectServices(Data(), FilterOf(arguments)));
+            FieldsOf(Host().DataSource()), SelectServices(Data(), FilterOf(arguments)));
         selection->PageSize(RowsOfPage(arguments, selection->RecordCount()));
         return selection;
     });

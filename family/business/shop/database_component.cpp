@@ -26,6 +26,7 @@ std::span<const Property<DatabaseComponent>> DatabaseComponent::Properties()
         {"Caminho", &DatabaseComponent::Caminho},
         {"Existe", &DatabaseComponent::Existe},
         {"NomeFantasia", &DatabaseComponent::NomeFantasia},
+        {"OcultarPrecos", nullptr, &DatabaseComponent::OcultarPrecos},
         {"CopiaDoDiaTerminou", &DatabaseComponent::CopiaDoDiaTerminou},
         {"FalhaDaCopiaDoDia", &DatabaseComponent::FalhaDaCopiaDoDia},
         {"NumeroDoErro", &DatabaseComponent::NumeroDoErro},
@@ -38,6 +39,11 @@ std::span<const Property<DatabaseComponent>> DatabaseComponent::Properties()
 Value DatabaseComponent::Caminho() const { return Host().DataSource(); }
 
 Value DatabaseComponent::Existe() const { return DataSourceExists(Host().DataSource()); }
+
+void DatabaseComponent::OcultarPrecos(const Value& value)
+{
+    HidePrices(Host().DataSource(), value.ToBoolean());
+}
 
 Value DatabaseComponent::Verificar(std::span<Argument>)
 {

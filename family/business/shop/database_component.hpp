@@ -26,6 +26,10 @@ private:
     /// Text: trade name of the first company; "" before Abrir and where none is registered.
     Value NomeFantasia() const { return tradeName_; }
 
+    /// Boolean: whoever is at the desk may not see prices and costs, so that what the components show of them
+    /// is empty from then on. Write-only.
+    void OcultarPrecos(const Value& value);
+
     /// Looks whether the data source can be opened, and changes nothing.
     Value Verificar(std::span<Argument>);
     /// Opens it for the whole process, bringing an older schema up to date.

@@ -3,6 +3,7 @@
 #include "family/data/sources/data_source.hpp"
 
 #include <map>
+#include <set>
 
 namespace kova::family {
 
@@ -14,6 +15,13 @@ std::map<std::string, std::shared_ptr<Database>>& Kept()
     return kept;
 }
 
+/// Data sources whose prices are hidden.
+std::set<std::string>& WithoutPrices()
+{
+    static std::set<std::string> paths;
+    return paths;
+}
+
 } // namespace
 
 std::shared_ptr<Database> SharedDatabase(const std::string& path)
@@ -23,6 +31,16 @@ std::shared_ptr<Database> SharedDatabase(const std::string& path)
         database = OpenDatabase(path);
     return database;
 }
+
+void HidePrices(const std::string& path, bool areHidden)
+{
+    if (areHidden)
+        WithoutPrices().insert(path);
+    else
+        WithoutPrices().erase(path);
+}
+
+bool ArePricesHidden(const std::string& path) { return WithoutPrices().contains(path); }
 
 void CloseSharedDatabases() { Kept().clear(); }
 

@@ -11,6 +11,11 @@ namespace kova::family {
 /// open between short-lived components.
 std::shared_ptr<Database> SharedDatabase(const std::string& path);
 
+/// Whoever is at the desk may not see prices and costs: what the process shows of that data source is without
+/// them from then on.
+void HidePrices(const std::string& path, bool areHidden);
+bool ArePricesHidden(const std::string& path);
+
 /// Lets go of the kept connections; each closes when the last component that uses it ends.
 void CloseSharedDatabases();
 

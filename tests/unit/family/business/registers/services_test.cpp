@@ -1,6 +1,7 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/business/registers/services.hpp"
+#include "family/business/shop/database_component.hpp"
 #include "family/business/shown_values.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/insert_row.hpp"
@@ -109,6 +110,22 @@ TEST_F(ServiceSearch, GivesMoneyDurationAndTypedFields)
     EXPECT_EQ(row->Field("Custo"), Value("12,50"));
     EXPECT_EQ(row->Field("NumeroDoTipoDeServico"), Value(Long(4)));
     EXPECT_EQ(row->Field("TempoDeExecucao"), Value("00:30"));
+}
+
+TEST_F(ServiceSearch, GivesNoMoneyWhileWhoeverIsAtTheDeskMaySeeNone)
+{
+    DatabaseComponent database(host_);
+    Services services(host_);
+    const auto prices = [&] {
+        services.Call("Selecionar", {Long(2), Integer(0), Long(1), "13", Long(0)});
+        const RecordSetRef row = ResultOf(services);
+        EXPECT_EQ(row->Field("Nome"), Value("Hidratação"));
+        return row->Field("ValorDeVenda").ToText() + "|" + row->Field("Custo").ToText();
+    };
+    database.Set("OcultarPrecos", true);
+    EXPECT_EQ(prices(), "|");
+    database.Set("OcultarPrecos", false);
+    EXPECT_EQ(prices(), "5.045,00|12,50");
 }
 
 TEST_F(ServiceSearch, TakesFiveToSevenArguments)
