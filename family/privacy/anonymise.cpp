@@ -198,7 +198,10 @@ private:
         std::set<Key> numbers;
         for (const AppointmentRow& row : affected_.all)
             numbers.insert(row.numero);
-        LinesOfPerson judge(*person_, std::move(numbers));
+        std::set<Key> animals;
+        for (const AnimalRow& animal : RowsOf<AnimalOfPerson>(database_, person_->code))
+            animals.insert(animal.codigo);
+        LinesOfPerson judge(*person_, numbers, animals);
         VisitAudit(database_, lastLine_, work, [&](const StoredAuditLine& line) {
             lastLine_ = line.codigo;
             // It names nobody, and tells which lines were changed rightly.

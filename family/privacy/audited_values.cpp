@@ -89,28 +89,41 @@ std::string ValueOf(const AuditedValues& values, const char* column)
     return found->is_string() ? found->get<std::string>() : found->dump();
 }
 
+LinesOfPerson::LinesOfPerson(const Person& person, const std::set<Key>& appointments,
+                             const std::set<Key>& animals)
+    : person_(person)
+{
+    for (const Key number : appointments)
+        rows_[{AppointmentRow::Table, number}] = Likeness::Contact;
+    for (const Key code : animals)
+        rows_[{AnimalRow::Table, code}] = Likeness::Contact;
+}
+
 Likeness LinesOfPerson::Of(const StoredAuditLine& line, const Nullable<std::string>& text)
 {
     if (text.IsNull())
         return Likeness::None;
     if (line.tabela == CustomerRow::Table)
         return person_.codes.contains(line.chave) ? Likeness::Contact : Likeness::None;
-    if (line.tabela != AppointmentRow::Table)
-        return IsOfCustomer(text.value, person_.codes) ? Likeness::Contact : Likeness::None;
-    const Likeness likeness = OfAppointment(line, text.value);
-    if (IsHis(likeness))
-        appointments_.insert(line.chave);
-    return likeness;
+    const std::optional<Likeness> told = ToldBy(line, text.value);
+    if (!told)
+        return Former(line);
+    if (*told == Likeness::None)
+        rows_.erase({line.tabela, line.chave});
+    else
+        rows_[{line.tabela, line.chave}] = *told;
+    return *told;
 }
 
-Likeness LinesOfPerson::OfAppointment(const StoredAuditLine& line, const std::string& text) const
+std::optional<Likeness> LinesOfPerson::ToldBy(const StoredAuditLine& line, const std::string& text) const
 {
+    const bool isSimplified =
+        line.tabela == AppointmentRow::Table && text.find(Simplified) != std::string::npos;
+    if (!isSimplified && text.find(CustomerColumn) == std::string::npos)
+        return std::nullopt;
     if (IsOfCustomer(text, person_.codes))
         return Likeness::Contact;
-    // A change of the status alone keeps few columns.
-    if (text.find(CustomerColumn) == std::string::npos)
-        return appointments_.contains(line.chave) ? Likeness::Contact : Likeness::None;
-    if (text.find(Simplified) == std::string::npos)
+    if (!isSimplified)
         return Likeness::None;
     const AuditedValues values = ReadValues(text);
     return person_.identity.LikenessTo(ValueOf(values, "nome_do_cliente"),
@@ -118,10 +131,15 @@ Likeness LinesOfPerson::OfAppointment(const StoredAuditLine& line, const std::st
                                        ValueOf(values, "nome_do_animal"));
 }
 
+Likeness LinesOfPerson::Former(const StoredAuditLine& line) const
+{
+    const auto found = rows_.find({line.tabela, line.chave});
+    return found == rows_.end() ? Likeness::None : found->second;
+}
+
 bool LinesOfPerson::IsAboutHis(const StoredAuditLine& line) const
 {
-    return (line.tabela == CustomerRow::Table && person_.codes.contains(line.chave))
-        || (line.tabela == AppointmentRow::Table && appointments_.contains(line.chave));
+    return (line.tabela == CustomerRow::Table && person_.codes.contains(line.chave)) || IsHis(Former(line));
 }
 
 } // namespace kova::family::privacy

@@ -6,7 +6,12 @@
 
 #include <nlohmann/json.hpp>
 
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
 #include <string>
+#include <utility>
 
 namespace kova::family::privacy {
 
@@ -51,15 +56,12 @@ AuditedValues ReadValues(const std::string& text);
 /// The text of a column; "" where it is not there or Null. Numbers in digits.
 std::string ValueOf(const AuditedValues& values, const char* column);
 
-/// Tells the lines of a person from those of others. To be asked in the order of the lines: a number that was
-/// his once stays his.
+/// Tells the lines of a person from those of others. To be asked in the order of the lines, before and then
+/// after: a row of which a line does not say whose it is, since that has not changed, is whose it was before.
 class LinesOfPerson {
 public:
-    /// `appointments` are the numbers of those that are his today.
-    LinesOfPerson(const Person& person, std::set<Key> appointments)
-        : person_(person), appointments_(std::move(appointments))
-    {
-    }
+    /// The numbers of the appointments and the codes of the animals that are his today.
+    LinesOfPerson(const Person& person, const std::set<Key>& appointments, const std::set<Key>& animals);
 
     /// What speaks for it that the values which a line keeps, before or after, are of the person's rows:
     /// Contact where they are of his registered ones.
@@ -68,10 +70,13 @@ public:
     bool IsAboutHis(const StoredAuditLine& line) const;
 
 private:
-    Likeness OfAppointment(const StoredAuditLine& line, const std::string& text) const;
+    /// Nothing where the text does not say whose the row is.
+    std::optional<Likeness> ToldBy(const StoredAuditLine& line, const std::string& text) const;
+    Likeness Former(const StoredAuditLine& line) const;
 
     const Person& person_;
-    std::set<Key> appointments_;
+    /// By table and key: what spoke last for rows that were his.
+    std::map<std::pair<std::string, Key>, Likeness> rows_;
 };
 
 } // namespace kova::family::privacy

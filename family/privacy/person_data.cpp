@@ -7,6 +7,8 @@
 #include "family/privacy/personal_columns.hpp"
 #include "family/registers/registers.hpp"
 
+#include <set>
+
 namespace kova::family::privacy {
 
 namespace {
@@ -47,10 +49,9 @@ private:
         data_.customer = registers::CustomerRegister().Read(database_, person_.code);
         SelectWhere<ChannelOfPerson>(database_, code,
                                      [&](const ChannelOfPerson& row) { data_.channels.push_back(row); });
-        std::vector<Key> animals;
         SelectWhere<AnimalOfPerson>(database_, code,
-                                    [&](const AnimalOfPerson& row) { animals.push_back(row.codigo); });
-        for (const Key animal : animals)
+                                    [&](const AnimalOfPerson& row) { animals_.insert(row.codigo); });
+        for (const Key animal : animals_)
             data_.animals.push_back(registers::AnimalRegister().Read(database_, animal).value());
     }
 
@@ -106,7 +107,7 @@ private:
     void ReadChanges(const LongWork& work)
     {
         constexpr Key FromTheFirst = 0;
-        LinesOfPerson lines(person_, HisNumbers());
+        LinesOfPerson lines(person_, HisNumbers(), animals_);
         VisitAudit(database_, FromTheFirst, work, [&](const StoredAuditLine& line) {
             AuditedValues before = HisValues(lines, line, line.antes);
             AuditedValues after = HisValues(lines, line, line.depois);
@@ -152,6 +153,7 @@ private:
 
     Database& database_;
     const Person person_;
+    std::set<Key> animals_;
     PersonData data_;
 };
 

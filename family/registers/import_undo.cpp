@@ -13,6 +13,7 @@
 #include "family/users/denials.hpp"
 
 #include <algorithm>
+#include <limits>
 #include <map>
 
 namespace kova::family::registers {
@@ -50,7 +51,7 @@ RemoveAnswer TakeRowBack(Database& database, const ImportedRow& written, const A
     const std::optional<Row> stored = FindByKey<LockedRow<Row>>(database, written.key);
     if (!stored)
         return {RemoveAnswer::Outcome::Gone, {}};
-    if (!StandsAs<Row>(*stored, written.after))
+    if (!StandsAsAdded<Row>(*stored, written.after))
         return Kept(StandsOtherwise);
     if (std::string why = HeldBy(database, *stored); !why.empty())
         return Kept(std::move(why));
@@ -126,7 +127,7 @@ public:
     /// before the first is taken back.
     void Expect(const ImportedRow& row)
     {
-        const Register* of = row.WasNew() ? nullptr : RegisterOfTable(row.table);
+        const Register* of = row.isNew ? nullptr : RegisterOfTable(row.table);
         if (of == nullptr || !ChangesOthers(*of, row))
             return;
         if (auto former = of->Former(database_, row.key, row.before))
@@ -135,7 +136,7 @@ public:
 
     void TakeBack(const ImportedRow& row)
     {
-        const Register* of = row.WasNew() ? RegisterOfTable(row.table) : nullptr;
+        const Register* of = row.isNew ? RegisterOfTable(row.table) : nullptr;
         if (of != addedTo_ || added_.size() == MostTogether)
             TakeAddedBack();
         addedTo_ = of;
@@ -163,17 +164,34 @@ private:
     void Note(const RemoveAnswer& answer, const ImportedRow& row)
     {
         if (answer.IsDone())
-            ++(row.WasNew() ? undone_.removed : undone_.restored);
-        else if (answer.outcome == RemoveAnswer::Outcome::Kept || !row.WasNew())
+            ++(row.isNew ? undone_.removed : undone_.restored);
+        else if (answer.outcome == RemoveAnswer::Outcome::Kept || !row.isNew)
             undone_.kept.push_back({NameOf(database_, row), WhyKept(answer, row)});
+    }
+
+    /// What the row has to be now: as the import left it, and as it was then in what others have changed.
+    AuditedColumns Standing(const ImportedRow& row) const
+    {
+        AuditedColumns standing = row.after, since;
+        if (row.isNew)
+            return standing;
+        constexpr Key All = std::numeric_limits<Key>::max();
+        for (const AuditLine& line : FindAuditLines(database_, row.table.c_str(), row.key, All)) {
+            if (line.code <= row.line)
+                break;
+            for (const auto& [column, value] : line.before)
+                since.insert_or_assign(column, value);
+        }
+        standing.merge(since);
+        return standing;
     }
 
     RemoveAnswer Answer(const ImportedRow& row)
     {
         if (const Register* of = RegisterOfTable(row.table))
-            return of->TakeBackWithin(database_, toBe_[of], row.key, row.before, row.after, author_);
+            return of->TakeBackWithin(database_, toBe_[of], row.key, row.before, Standing(row), author_);
         const OtherRows* other = OthersOfTable(row.table);
-        return other == nullptr || !row.WasNew()
+        return other == nullptr || !row.isNew
             ? Kept("Este programa não sabe desfazer o que foi gravado nele.")
             : other->takeBack(database_, row, author_);
     }

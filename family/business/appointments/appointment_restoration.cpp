@@ -11,6 +11,8 @@
 #include "family/data/stores/appointment_store.hpp"
 #include "family/users/user_rights.hpp"
 
+#include <type_traits>
+
 namespace kova::family {
 
 namespace {
@@ -24,12 +26,14 @@ WriteAnswer Refused(Key number, const Obstacle& obstacle)
                                 + " não pode ser restaurado: " + obstacle);
 }
 
-/// Whether the audit line has all columns of the row but for the version, which the oldest lines lack.
-bool HasAllColumns(const AuditedColumns& columns)
+/// Whether the audit line is of a whole row: it has all numbers that are never Null but for the version,
+/// which the oldest lines lack.
+bool IsWhole(const AuditedColumns& columns)
 {
     bool all = true;
-    AppointmentRow().Columns([&](const std::string& column, const auto&) {
-        all = all && (columns.contains(column) || column == "versao");
+    AppointmentRow().Columns([&](const std::string& column, const auto& field) {
+        if constexpr (std::is_integral_v<std::decay_t<decltype(field)>>)
+            all = all && (columns.contains(column) || column == "versao");
     });
     return all;
 }
@@ -46,8 +50,8 @@ std::optional<AppointmentRow> DeletedRow(Database& database, Key number)
 {
     const auto lines = FindAuditLines(database, AppointmentRow::Table, number, 1);
     AppointmentRow row;
-    if (lines.empty() || lines.front().operation != audit_operation::Removal
-        || !HasAllColumns(lines.front().before) || !TakeColumns(lines.front().before, row))
+    if (lines.empty() || lines.front().operation != audit_operation::Removal || !IsWhole(lines.front().before)
+        || !TakeRow(lines.front().before, row))
         return std::nullopt;
     Follow<CustomerRow>(database, row.codigoDoCliente);
     Follow<AnimalRow>(database, row.codigoDoAnimal);

@@ -6,6 +6,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+
 namespace kova::family {
 
 namespace {
@@ -23,6 +25,22 @@ AuditRow RowOf(const Database& database, const Author& author, const char* table
     return row;
 }
 
+/// What the line tells itself is not told twice.
+void DropAuthor(const Database& database, AuditValues& after, const Author& author,
+                AuditValues* before = nullptr)
+{
+    const auto drop = [&](std::string_view column, const std::string& value) {
+        if (!after.Tells(column, value))
+            return;
+        after.Drop(column);
+        if (before)
+            before->Drop(column);
+    };
+    const auto& [addedAt, addedBy, changedAt, changedBy] = AuthorColumns;
+    drop(before ? changedAt : addedAt, StampOfRow(database, author));
+    drop(before ? changedBy : addedBy, author.name);
+}
+
 /// The values with the number of the import that the author writes in.
 AuditValues WithImport(AuditValues values, const Author& author)
 {
@@ -37,43 +55,85 @@ AuditValues& AuditValues::Add(std::string_view column, long long value) { return
 
 AuditValues& AuditValues::Add(std::string_view column, const std::string& value)
 {
-    return Keep(column, value);
+    return Keep(column, value, value.empty());
 }
 
 AuditValues& AuditValues::Add(std::string_view column, const Nullable<std::string>& value)
 {
-    return value.IsNull() ? Keep(column, nullptr) : Keep(column, value.value);
+    return value.IsNull() ? Keep(column, nullptr, true) : Keep(column, value.value);
 }
 
 AuditValues& AuditValues::Add(std::string_view column, const Nullable<Key>& value)
 {
-    return value.IsNull() ? Keep(column, nullptr) : Keep(column, value.value);
+    return value.IsNull() ? Keep(column, nullptr, true) : Keep(column, value.value);
 }
 
 AuditValues& AuditValues::Add(std::string_view column, const Nullable<int>& value)
 {
-    return value.IsNull() ? Keep(column, nullptr) : Keep(column, value.value);
+    return value.IsNull() ? Keep(column, nullptr, true) : Keep(column, value.value);
 }
 
-AuditValues& AuditValues::Keep(std::string_view column, Kept value)
+AuditValues& AuditValues::Keep(std::string_view column, Kept value, bool isEmpty)
 {
-    columns_.emplace_back(column, std::move(value));
+    columns_.push_back({std::string(column), std::move(value), isEmpty});
     return *this;
+}
+
+void AuditValues::Drop(std::string_view column)
+{
+    std::erase_if(columns_, [&](const Value& value) { return value.column == column; });
+}
+
+void AuditValues::DropEmpty()
+{
+    std::erase_if(columns_, [](const Value& value) { return value.isEmpty; });
+}
+
+void AuditValues::DropAlike(AuditValues& one, AuditValues& other, std::span<const std::string_view> together)
+{
+    const auto belongs = [&](const Value& value) { return std::ranges::count(together, value.column) > 0; };
+    const auto differs = [&](const Value& value) { return belongs(value) && !other.HasAlike(value); };
+    const bool isSplit = std::ranges::any_of(one.columns_, differs);
+    std::vector<std::string> alike;
+    for (const Value& value : one.columns_) {
+        if (other.HasAlike(value) && !(isSplit && belongs(value)))
+            alike.push_back(value.column);
+    }
+    if (alike.size() == one.columns_.size() && alike.size() == other.columns_.size() && !alike.empty())
+        alike.erase(alike.begin());
+    for (const std::string& column : alike) {
+        one.Drop(column);
+        other.Drop(column);
+    }
+}
+
+bool AuditValues::HasAlike(const Value& value) const
+{
+    return std::ranges::any_of(columns_, [&](const Value& other) {
+        return other.column == value.column && other.kept == value.kept;
+    });
+}
+
+bool AuditValues::Tells(std::string_view column, const std::string& value) const
+{
+    return std::ranges::any_of(
+        columns_, [&](const Value& other) { return other.column == column && other.kept == Kept(value); });
 }
 
 std::string AuditValues::Line() const
 {
     auto line = nlohmann::ordered_json::object();
-    for (const auto& [column, kept] : columns_)
-        std::visit([&line, &key = column](const auto& value) { line[key] = value; }, kept);
+    for (const Value& value : columns_)
+        std::visit([&](const auto& kept) { line[value.column] = kept; }, value.kept);
     // A text that is no UTF-8 loses the characters that are none: the write and its line count for more.
     return line.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
 
-void AuditInsertion(Database& database, const Author& author, const char* table, Key key,
-                    const AuditValues& after)
+void AuditInsertion(Database& database, const Author& author, const char* table, Key key, AuditValues after)
 {
     AuditRow row = RowOf(database, author, table, key, audit_operation::Insertion);
+    after.DropEmpty();
+    DropAuthor(database, after, author);
     row.depois = WithImport(after, author).Line();
     AddLine(database, row);
 }
@@ -92,19 +152,21 @@ void AuditUndoneImport(Database& database, const Author& author, Key number, con
     AddLine(database, row);
 }
 
-void AuditChange(Database& database, const Author& author, const char* table, Key key,
-                 const AuditValues& before, const AuditValues& after)
+void AuditChange(Database& database, const Author& author, const char* table, Key key, AuditValues before,
+                 AuditValues after, std::span<const std::string_view> together)
 {
     AuditRow row = RowOf(database, author, table, key, audit_operation::Change);
+    DropAuthor(database, after, author, &before);
+    AuditValues::DropAlike(before, after, together);
     row.antes = before.Line();
     row.depois = WithImport(after, author).Line();
     AddLine(database, row);
 }
 
-void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
-                  const AuditValues& before)
+void AuditRemoval(Database& database, const Author& author, const char* table, Key key, AuditValues before)
 {
     AuditRow row = RowOf(database, author, table, key, audit_operation::Removal);
+    before.DropEmpty();
     row.antes = before.Line();
     AddLine(database, row);
 }
@@ -115,7 +177,9 @@ void AuditRemovals(Database& database, const Author& author, const char* table,
     std::vector<AuditRow> rows;
     for (const auto& [key, values] : before) {
         rows.push_back(RowOf(database, author, table, key, audit_operation::Removal));
-        rows.back().antes = values.Line();
+        AuditValues given = values;
+        given.DropEmpty();
+        rows.back().antes = given.Line();
     }
     AddLines(database, std::move(rows));
 }
@@ -131,10 +195,10 @@ void AuditMerging(Database& database, const Author& author, const char* table, K
     AddLine(database, row);
 }
 
-void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
-                      const AuditValues& after)
+void AuditRestoration(Database& database, const Author& author, const char* table, Key key, AuditValues after)
 {
     AuditRow row = RowOf(database, author, table, key, audit_operation::Restoration);
+    after.DropEmpty();
     row.depois = after.Line();
     AddLine(database, row);
 }

@@ -25,12 +25,27 @@ public:
 
     std::string Line() const;
 
+    /// Takes a column away; nothing where it is not there.
+    void Drop(std::string_view column);
+    /// Takes away what is empty: Null, and no letters in a text that is never Null.
+    void DropEmpty();
+    /// Takes away the columns that both have alike. Of those that belong together all stay where one differs;
+    /// where none differs at all the first stays.
+    static void DropAlike(AuditValues& one, AuditValues& other, std::span<const std::string_view> together);
+    bool Tells(std::string_view column, const std::string& value) const;
+
 private:
     using Kept = std::variant<std::nullptr_t, long long, std::string>;
+    struct Value {
+        std::string column;
+        Kept kept;
+        bool isEmpty = false;
+    };
 
-    AuditValues& Keep(std::string_view column, Kept value);
+    AuditValues& Keep(std::string_view column, Kept value, bool isEmpty = false);
+    bool HasAlike(const Value& value) const;
 
-    std::vector<std::pair<std::string, Kept>> columns_;
+    std::vector<Value> columns_;
 };
 
 /// The values of `operacao`.
@@ -65,8 +80,10 @@ inline constexpr const char* ImportsTable = "importacao";
 inline constexpr std::string_view CleanedLinesColumn = "linhas_limpas";
 
 /// A row of the audit; the engine numbers it. `usuario` is "CODE - NAME", `posto` the computer's name,
-/// `operacao` one of audit_operation. `antes` and `depois` hold the written columns only; `antes` is Null for
-/// a new or restored row, `depois` for one that is gone.
+/// `operacao` one of audit_operation. `antes` is Null for a new or restored row, `depois` for one that is
+/// gone. A change keeps the columns that differ, everything else a whole row without what is empty; who wrote
+/// it and when (AuthorColumns) stand among them only where they are others than the line's own. Lines of
+/// former programs keep all columns of a row.
 struct AuditRow : ChainedLine {
     static constexpr const char* Table = "auditoria";
     /// It is written with its link alone (audit_chain.hpp).
@@ -81,16 +98,20 @@ template <class Row> AuditValues ValuesOf(Row row)
     return values;
 }
 
+/// The columns of a row that say when it was written and by whom; a line that has nothing of them says so
+/// itself.
+inline constexpr std::string_view AuthorColumns[] = {"incluido_em", "incluido_por", "alterado_em",
+                                                     "alterado_por"};
+
 /// Write a line for a new row, for a changed one, for one that is gone and for one that is back, in the
-/// transaction that is open.
-void AuditInsertion(Database& database, const Author& author, const char* table, Key key,
-                    const AuditValues& after);
-void AuditChange(Database& database, const Author& author, const char* table, Key key,
-                 const AuditValues& before, const AuditValues& after);
-void AuditRemoval(Database& database, const Author& author, const char* table, Key key,
-                  const AuditValues& before);
+/// transaction that is open. Columns of a changed row that belong `together` are all kept where one of them
+/// differs.
+void AuditInsertion(Database& database, const Author& author, const char* table, Key key, AuditValues after);
+void AuditChange(Database& database, const Author& author, const char* table, Key key, AuditValues before,
+                 AuditValues after, std::span<const std::string_view> together = {});
+void AuditRemoval(Database& database, const Author& author, const char* table, Key key, AuditValues before);
 void AuditRestoration(Database& database, const Author& author, const char* table, Key key,
-                      const AuditValues& after);
+                      AuditValues after);
 /// Many rows of a table that are gone, by their keys.
 void AuditRemovals(Database& database, const Author& author, const char* table,
                    std::span<const std::pair<Key, AuditValues>> before);

@@ -45,6 +45,18 @@ AuditedColumns ReadAuditedColumns(const Nullable<std::string>& written)
 
 namespace {
 
+/// Lines of former programs keep all columns of a changed row.
+void DropWhatStayed(AuditedColumns& before, AuditedColumns& after)
+{
+    std::erase_if(before, [&](const auto& column) {
+        const auto same = after.find(column.first);
+        if (same == after.end() || same->second != column.second)
+            return false;
+        after.erase(same);
+        return true;
+    });
+}
+
 class AuditSelection : public KeptStatement {
 public:
     explicit AuditSelection(Database& database)
@@ -79,6 +91,7 @@ private:
             *text = utf8::WellFormed(*text);
         line.before = ReadAuditedColumns(before_);
         line.after = ReadAuditedColumns(after_);
+        DropWhatStayed(line.before, line.after);
         return line;
     }
 

@@ -24,7 +24,8 @@ struct AuditLine {
     std::string desk;
     /// One of audit_operation.
     std::string operation;
-    /// The written columns; `before` is empty for a new or restored row, `after` for one that is gone.
+    /// Of a change the columns that differ; else all that are not empty: `before` has none for a new or
+    /// restored row, `after` for one that is gone.
     AuditedColumns before, after;
     /// Orders the lines as they were written.
     Key code = 0;

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "family/data/audit/audit.hpp"
 #include "family/data/audit/audit_lines.hpp"
 #include "family/data/engine/nullable.hpp"
 
+#include <algorithm>
 #include <charconv>
+#include <string_view>
 
 namespace kova::family {
 
@@ -49,6 +52,21 @@ template <class Row> std::optional<int> TakeColumns(const AuditedColumns& column
         ++written;
     });
     return fit ? std::optional(written) : std::nullopt;
+}
+
+inline void EmptyField(std::string& field) { field.clear(); }
+template <class Number> void EmptyField(Number&) { }
+template <class T> void EmptyField(Nullable<T>& field) { field = {}; }
+
+/// The same of a line that keeps a whole row: what it leaves out is empty in the row. Numbers, and who wrote
+/// the row and when (AuthorColumns), stay as they are there where it has none.
+template <class Row> std::optional<int> TakeRow(const AuditedColumns& columns, Row& row)
+{
+    row.Columns([&](std::string_view column, auto& field) {
+        if (!columns.contains(column) && std::ranges::count(AuthorColumns, column) == 0)
+            EmptyField(field);
+    });
+    return TakeColumns(columns, row);
 }
 
 } // namespace kova::family

@@ -107,6 +107,7 @@ std::vector<ImportedRow> ReadPage(Database& database, const ImportLine& of, Key 
         statement.execute();
         while (statement.fetch()) {
             rows.push_back(row);
+            rows.back().isNew = former.IsNull();
             rows.back().before = ReadAuditedColumns(former);
             rows.back().after = ReadAuditedColumns(written);
         }

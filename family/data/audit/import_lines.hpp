@@ -27,13 +27,12 @@ std::vector<ImportLine> FindImports(Database& database);
 struct ImportedRow {
     std::string table;
     Key key = 0;
-    /// Empty of a row that was new.
+    /// Whether the import has brought it; `before` is empty then.
+    bool isNew = false;
     AuditedColumns before;
     AuditedColumns after;
     /// The code of its line.
     Key line = 0;
-
-    bool WasNew() const { return before.empty(); }
 };
 
 /// Goes through what an import has written, the last first, a page at a time. `visit` may write. Fails with a

@@ -19,9 +19,12 @@ std::optional<AppointmentRow> Before(const AuditLine& line, const AppointmentRow
     if (line.operation == audit_operation::Change && !HasVersion(line.after, after.versao))
         return std::nullopt;
     AppointmentRow before = after;
-    if (!line.before.contains("versao") || !TakeColumns(line.before, before))
+    if (!line.before.contains("versao"))
         return std::nullopt;
-    return before;
+    const bool isWhole = line.operation == audit_operation::Removal;
+    const bool isTaken =
+        (isWhole ? TakeRow(line.before, before) : TakeColumns(line.before, before)).has_value();
+    return isTaken ? std::optional(before) : std::nullopt;
 }
 
 } // namespace

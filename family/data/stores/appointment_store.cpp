@@ -30,6 +30,10 @@ private:
     soci::statement statement_;
 };
 
+/// They tell whose an appointment is, together.
+constexpr std::string_view WhoseItIs[] = {"tipo_do_agendamento", "codigo_do_cliente", "nome_do_cliente",
+                                          "canais_do_cliente", "nome_do_animal"};
+
 } // namespace
 
 Key AddAppointment(Database& database, AppointmentRow row, const Author& author)
@@ -52,7 +56,8 @@ void ReplaceAppointment(Database& database, const AppointmentRow& before, Appoin
     after.versao = before.versao + 1;
     after.Compose();
     Update(database, after);
-    AuditChange(database, author, AppointmentRow::Table, before.numero, ValuesOf(before), ValuesOf(after));
+    AuditChange(database, author, AppointmentRow::Table, before.numero, ValuesOf(before), ValuesOf(after),
+                WhoseItIs);
 }
 
 void RemoveAppointment(Database& database, const AppointmentRow& row, const Author& author)

@@ -107,7 +107,9 @@ public:
         const auto stored = FindRow<Locked<Record>>(database, key);
         if (!stored)
             return {RemoveAnswer::Outcome::Gone, {}};
-        if (!StandsAs<Record>(*stored, after))
+        const bool isAsItWas =
+            before.empty() ? StandsAsAdded<Record>(*stored, after) : StandsAs<Record>(*stored, after);
+        if (!isAsItWas)
             return {RemoveAnswer::Outcome::Kept, StandsOtherwise};
         if (before.empty())
             return RemoveWithin(database, key, author);
@@ -323,7 +325,7 @@ private:
         std::vector<Key> going;
         for (const AddedRow& row : rows) {
             const auto found = stored.find(row.key);
-            if (found != stored.end() && StandsAs<Record>(found->second, *row.columns))
+            if (found != stored.end() && StandsAsAdded<Record>(found->second, *row.columns))
                 going.push_back(row.key);
         }
         const std::set<Key> used = UsedAmong(database, Record::Table, going, OwnTable());
@@ -349,7 +351,7 @@ private:
                 answers.push_back({RemoveAnswer::Outcome::Gone, {}});
             else if (gone.contains(row.key))
                 answers.push_back({});
-            else if (!StandsAs<Record>(found->second, *row.columns))
+            else if (!StandsAsAdded<Record>(found->second, *row.columns))
                 answers.push_back({RemoveAnswer::Outcome::Kept, StandsOtherwise});
             else
                 answers.push_back({RemoveAnswer::Outcome::Kept,

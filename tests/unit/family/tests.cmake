@@ -14,6 +14,6 @@ if(NOT KOVARIS_CORE_ONLY)
         "Encodings.*:Csv.*"
         "DatabaseBackup.ThatIsDamagedOnTheDiskIsNotTakenForACopy"
         "StatusWrite.TellsThatTheDataAreInUseAndWorksWhenTheyAreFree"
-        "WritesAudit.KeepsTheWholeRowBeforeAndAfterAnAlteration"
+        "WritesAudit.KeepsAllThatTellsWhoseAnAppointmentIsWhereOneOfItIsChanged"
         "WritesAudit.LetsADeletedAppointmentBePutBack")
 endif()

@@ -301,6 +301,37 @@ TEST_F(AnonymousCustomer, KeepsWhatIsAnothersInLinesOfTheAuditThatTellOfBoth)
     EXPECT_NE(all.find("\"nome\":\"Rex\""), std::string::npos);
 }
 
+TEST_F(AnonymousCustomer, IsTakenOutOfLinesThatKeepOnlyWhatWasChanged)
+{
+    const auto line = [&](const char* table, int key, const char* operation, const char* before,
+                          const char* after) {
+        const auto text = [](const char* values) {
+            return *values ? "'" + std::string(values) + "'" : std::string("null");
+        };
+        Run("insert into auditoria (momento, usuario, tabela, chave, operacao, antes, depois) values"
+            " ('2026-11-20 09:00:00', '1 - Ana', '"
+            + std::string(table) + "', " + std::to_string(key) + ", '" + operation + "', " + text(before)
+            + ", " + text(after) + ")");
+    };
+    line("agendamento", 900, "inclusao", "",
+         "{\"codigo_do_cliente\":10,\"observacao\":\"zq 1\",\"tipo_do_agendamento\":0}");
+    line("agendamento", 900, "alteracao", "{\"observacao\":\"zq 1\"}", "{\"observacao\":\"zq 2\"}");
+    line("agendamento", 900, "alteracao", "{\"codigo_do_cliente\":10,\"tipo_do_agendamento\":0}",
+         "{\"codigo_do_cliente\":11,\"tipo_do_agendamento\":0}");
+    line("agendamento", 900, "alteracao", "{\"observacao\":\"of others\"}",
+         "{\"observacao\":\"of others, too\"}");
+    line("animal", 77, "inclusao", "", "{\"codigo\":77,\"codigo_do_cliente\":10,\"nome\":\"zq Rex\"}");
+    line("animal", 77, "alteracao", "{\"nome\":\"zq Rex\"}", "{\"nome\":\"zq Max\"}");
+    line("animal", 50, "alteracao", "{\"cor\":\"zq black\"}", "{\"cor\":\"zq white\"}");
+    line("animal", 78, "alteracao", "{\"nome\":\"Rex\"}", "{\"nome\":\"Max\"}");
+    ASSERT_TRUE(Forget().IsDone());
+    const std::string all = WholeDatabase();
+    EXPECT_EQ(all.find("zq"), std::string::npos);
+    for (const char* kept :
+         {"\"of others\"", "\"of others, too\"", "{\"nome\":\"Rex\"}", "{\"nome\":\"Max\"}"})
+        EXPECT_NE(all.find(kept), std::string::npos) << kept;
+}
+
 TEST_F(AnonymousCustomer, IsKnownByFormerNamesAndNumbersToo)
 {
     const registers::Register& customers = registers::CustomerRegister();

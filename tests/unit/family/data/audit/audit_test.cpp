@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+#include <vector>
+
 namespace kova::family::test {
 
 TEST(AuditValues, WriteNumbersTextsAndNull)
@@ -37,6 +40,40 @@ TEST(AuditValues, ReplaceBytesThatAreNoCharacters)
 {
     EXPECT_EQ(AuditValues().Add("nome", std::string("Jos\xE9 e \xC3")).Add("numero", 1).Line(),
               "{\"nome\":\"Jos\uFFFD e \uFFFD\",\"numero\":1}");
+}
+
+TEST(AuditValues, DropWhatIsNullAndTextsOfNoLettersThatAreNeverNull)
+{
+    AuditValues values = AuditValues()
+                             .Add("numero", 0)
+                             .Add("nome", std::string())
+                             .Add("cor", Nullable<std::string>())
+                             .Add("porte", Nullable<std::string>(""))
+                             .Add("pacote", Nullable<Key>());
+    values.DropEmpty();
+    EXPECT_EQ(values.Line(), R"({"numero":0,"porte":""})");
+}
+
+TEST(AuditValues, DropWhatTwoHaveAlike)
+{
+    const auto differences = [](AuditValues one, AuditValues other,
+                                std::vector<std::string_view> together = {}) {
+        AuditValues::DropAlike(one, other, together);
+        return one.Line() + other.Line();
+    };
+    const AuditValues before = AuditValues().Add("a", 1).Add("b", std::string("x")).Add("c", 3);
+    EXPECT_EQ(differences(before, AuditValues().Add("a", 1).Add("b", std::string("y")).Add("c", 3)),
+              R"({"b":"x"}{"b":"y"})");
+    EXPECT_EQ(differences(before, AuditValues().Add("a", 1).Add("b", Nullable<std::string>()).Add("d", 3)),
+              R"({"b":"x","c":3}{"b":null,"d":3})");
+    EXPECT_EQ(
+        differences(before, AuditValues().Add("a", 1).Add("b", std::string("y")).Add("c", 3), {"b", "c"}),
+        R"({"b":"x","c":3}{"b":"y","c":3})");
+    EXPECT_EQ(
+        differences(before, AuditValues().Add("a", 2).Add("b", std::string("x")).Add("c", 3), {"b", "c"}),
+        R"({"a":1}{"a":2})");
+    EXPECT_EQ(differences(before, before), R"({"a":1}{"a":1})");
+    EXPECT_EQ(differences({}, before), R"({}{"a":1,"b":"x","c":3})");
 }
 
 } // namespace kova::family::test
