@@ -3,9 +3,13 @@
 #include "family/csv/csv_writer.hpp"
 #include "family/csv/prices.hpp"
 #include "family/csv/whole_file.hpp"
+#include "family/data/audit/audit_events.hpp"
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/sources/told_reading.hpp"
 #include "family/users/denials.hpp"
+
+#include <memory>
 
 namespace kova::family::csv {
 
@@ -20,6 +24,18 @@ long long CountRows(Database& database, const char* table)
     } catch (const soci::soci_error& cause) {
         throw TranslatedFailure(database.Path(), cause);
     }
+}
+
+/// Before the file gets its name: what leaves the shop is told, or does not leave it. A copy stays as it is.
+void TellExport(const std::string& source, const ExportOrder& order, long long records, const Author& author)
+{
+    TellOfSource(source, [&](Database& database) {
+        AuditExport(database, author, 0,
+                    AuditValues()
+                        .Add("cadastro", std::string(order.from->name))
+                        .Add("arquivo", order.path)
+                        .Add("linhas", records));
+    });
 }
 
 /// The lines of one file on their way out.
@@ -42,12 +58,8 @@ public:
         ++lines_;
     }
 
-    /// Answers the number of records.
-    long long Finish()
-    {
-        file_.Finish();
-        return lines_ - 1;
-    }
+    long long Records() const { return lines_ - 1; }
+    void Finish() { file_.Finish(); }
 
 private:
     std::string Encoded(std::string line) const
@@ -69,20 +81,30 @@ private:
     long long lines_ = 0;
 };
 
+/// Closes the connection: a file that nobody has worked with yet is not written to while it is read.
+std::unique_ptr<ExportRun> Read(const std::string& source, const ExportOrder& order, const Author& author,
+                                const LongWork& work)
+{
+    const auto database = OpenNewestForReading(source);
+    const Snapshot snapshot(*database);
+    RequireRight(*database, author, Right::Export);
+    if (HasPrices(*order.from))
+        RequireRight(*database, author, Right::SeePrices);
+    auto run = std::make_unique<ExportRun>(order, CountRows(*database, order.from->table), work);
+    order.from->exportTo(*database, [&](const std::vector<std::string>& fields) { run->Write(fields); });
+    return run;
+}
+
 } // namespace
 
 long long ExportTo(const std::string& source, const ExportOrder& order, const Author& author,
                    const LongWork& work)
 {
     try {
-        const auto database = OpenNewestForReading(source);
-        const Snapshot snapshot(*database);
-        RequireRight(*database, author, Right::Export);
-        if (HasPrices(*order.from))
-            RequireRight(*database, author, Right::SeePrices);
-        ExportRun run(order, CountRows(*database, order.from->table), work);
-        order.from->exportTo(*database, [&](const std::vector<std::string>& fields) { run.Write(fields); });
-        return run.Finish();
+        const std::unique_ptr<ExportRun> run = Read(source, order, author, work);
+        TellExport(source, order, run->Records(), author);
+        run->Finish();
+        return run->Records();
     } catch (const RightDenied& denied) {
         // Over another connection: that one only reads.
         AuditDenial(*OpenDatabase(source), author, denied);

@@ -1,10 +1,12 @@
 #include "family/privacy/person_files.hpp"
 
 #include "family/business/merged_row_text.hpp"
+#include "family/data/audit/audit_events.hpp"
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/rows/people_rows.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/sources/told_reading.hpp"
 #include "family/privacy/person_report.hpp"
 #include "family/users/denials.hpp"
 #include "system/path_text.hpp"
@@ -100,6 +102,9 @@ PersonFiles ExportPerson(const std::string& source, Key code, const std::string&
     const PersonReport report = ReportOf(source, code, author, now, work);
     Write(page, PageOf(report));
     Write(json, JsonOf(report));
+    TellOfSource(source, [&](Database& database) {
+        AuditExport(database, author, code, AuditValues().Add("pagina", files.page).Add("json", files.json));
+    });
     FinishBoth(page, json);
     return files;
 }

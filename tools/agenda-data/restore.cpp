@@ -1,4 +1,5 @@
 #include "family/data/copies/database_backup.hpp"
+#include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
 
@@ -9,7 +10,7 @@ namespace {
 int Run(const Call& call, Surroundings& surroundings)
 {
     WriteCounts(surroundings.output,
-                family::RestoreDatabase(call.Operand(0), call.Operand(1),
+                family::RestoreDatabase(call.Operand(0), call.Operand(1), AuthorOf(call, surroundings.now),
                                         ShownWork(surroundings.error, "Restauração")));
     surroundings.output << "Banco de dados restaurado e conferido: " << call.Operand(1) << "\n";
     return 0;

@@ -69,6 +69,14 @@ inline constexpr const char* SigningIn = "entrada";
 inline constexpr const char* SigningInRefused = "entrada_recusada";
 /// Somebody wanted what he has no right to.
 inline constexpr const char* Denial = "direito_negado";
+/// Data have gone into a file.
+inline constexpr const char* Export = "exportacao";
+/// Data of customers have gone onto paper, or into a file instead.
+inline constexpr const char* Print = "impressao";
+/// The shop has become what a copy of it was.
+inline constexpr const char* CopyRestored = "restauracao_de_copia";
+/// The schema has become another.
+inline constexpr const char* Migration = "atualizacao";
 } // namespace audit_operation
 
 /// Stands among the values of a row that has come in an import: the import's number.

@@ -1,11 +1,14 @@
 #include "family/data/copies/database_backup.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "family/data/audit/audit_events.hpp"
 #include "family/data/copies/database_copy.hpp"
 #include "family/data/engine/file_checks.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/unfinished_file.hpp"
+#include "family/data/engine/write_transaction.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/sources/file_connection.hpp"
 #include "family/data/sources/online_copy.hpp"
 #include "family/data/sources/trial_restore.hpp"
 #include "system/path_text.hpp"
@@ -56,6 +59,15 @@ void CopyContent(const std::string& file, const std::string& target, const LongW
         system::CopyWholeFile(file, target);
 }
 
+/// The file stands for itself again afterwards, without a log beside it.
+void TellRestored(const std::string& restored, const Author& author, const std::string& file)
+{
+    const std::unique_ptr<Database> database = ConnectForBuilding(restored);
+    WriteTransaction transaction(*database, WriteTransaction::Of::Schema);
+    AuditRestore(*database, author, file);
+    transaction.Commit();
+}
+
 } // namespace
 
 std::vector<TableCount> BackUpDatabase(const std::string& source, const std::string& file,
@@ -72,11 +84,14 @@ std::vector<TableCount> BackUpDatabase(const std::string& source, const std::str
 }
 
 std::vector<TableCount> RestoreDatabase(const std::string& file, const std::string& target,
-                                        const LongWork& work)
+                                        const Author& author, const LongWork& work)
 {
     RequireFile(file);
-    if (IsServer(target))
-        return CopyDatabase(file, target, work);
+    if (IsServer(target)) {
+        std::vector<TableCount> counts = CopyDatabase(file, target, work);
+        AuditRestore(*OpenDatabase(target), author, file);
+        return counts;
+    }
     if (const auto refusal = CheckLocalDisk(target))
         throw DatabaseFailure(*refusal);
     UnfinishedFile restored(target);
@@ -88,6 +103,7 @@ std::vector<TableCount> RestoreDatabase(const std::string& file, const std::stri
         throw UnwritableFile(target, cause.code());
     }
     std::vector<TableCount> counts = TryRestored(restored.Name(), file, work);
+    TellRestored(restored.Name(), author, file);
     restored.Finish();
     return counts;
 }

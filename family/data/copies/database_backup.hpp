@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/data/audit/author.hpp"
 #include "family/data/engine/long_work.hpp"
 #include "family/data/rows/table_layouts.hpp"
 
@@ -15,9 +16,10 @@ std::vector<TableCount> BackUpDatabase(const std::string& source, const std::str
                                        const LongWork& work);
 
 /// Makes a new database of a file that BackUpDatabase has made, which may lie where nothing can be written,
-/// and tries it before it gets its name. Answers its rows. Never replaces anything. Fails with a
-/// DatabaseFailure, and leaves nothing then.
+/// and tries it before it gets its name. Answers the copy's rows; a line of the audit more tells of the
+/// restoration. Never replaces anything. Fails with a DatabaseFailure, and leaves nothing then, but that on a
+/// server the line alone may be missing.
 std::vector<TableCount> RestoreDatabase(const std::string& file, const std::string& target,
-                                        const LongWork& work);
+                                        const Author& author, const LongWork& work);
 
 } // namespace kova::family

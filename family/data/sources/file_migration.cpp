@@ -1,5 +1,6 @@
 #include "family/data/sources/file_migration.hpp"
 
+#include "family/data/audit/audit_events.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/sources/file_connection.hpp"
@@ -49,6 +50,7 @@ MigrationReport MigrateIn(Database& database, Migrations migrations)
         return report;
     report.copy = CopyBefore(database.Path(), report.after);
     RunMissing(database.Session(), database.GetDialect(), migrations);
+    AuditMigration(database, report.before, report.after, report.copy);
     transaction.Commit();
     return report;
 }

@@ -1,5 +1,6 @@
 #include "family/data/sources/server_source.hpp"
 
+#include "family/data/audit/audit_events.hpp"
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/migrations/current_migrations.hpp"
@@ -185,6 +186,7 @@ MigrationReport MigrateOnServer(const std::string& address, Migrations migration
         // Who reads a table for long is not waited for: those behind would have to wait as well.
         session << "set local lock_timeout = '5s'";
         RunMissing(session, database->GetDialect(), migrations);
+        AuditMigration(*database, report.before, report.after, report.copy);
     });
     transaction.Commit();
     return report;
