@@ -81,7 +81,7 @@ std::vector<std::string> CopiesBeside(const std::string& source)
     std::error_code unreadable;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder, unreadable)) {
         const std::string name = system::TextOf(entry.path().filename());
-        if (name.starts_with(begin) && name.ends_with(".bak"))
+        if (name.starts_with(begin) && (name.ends_with(".bak") || name == begin + "auditoria"))
             copies.push_back(system::TextOf(folder / entry.path().filename()));
     }
     std::ranges::sort(copies);

@@ -1,3 +1,5 @@
+#include "family/data/archive/audit_archive.hpp"
+#include "family/data/audit/archived_part.hpp"
 #include "family/data/checks/audit_check.hpp"
 #include "family/data/checks/audit_rights.hpp"
 #include "family/data/checks/database_check.hpp"
@@ -25,16 +27,31 @@ family::LongWork WorkOn(const family::DatabaseReport& report, const std::string&
     return rows > RowsWithoutProgress ? ShownWork(surroundings.error, what) : family::LongWork();
 }
 
-std::vector<std::string> BrokenRules(const std::string& source, const family::DatabaseReport& report,
+/// Only what is there can be proved.
+void TellArchive(family::Database& database, const family::Database* archive, Surroundings& surroundings)
+{
+    const std::string told = family::ToldArchive(database);
+    if (archive)
+        surroundings.output << "arquivo da auditoria: " << archive->Path() << "\n";
+    else if (!told.empty())
+        surroundings.error << "aviso: " << told
+                           << " Ele não foi encontrado, e o que está nele não foi conferido; informe-o com "
+                              "--archive.\n";
+}
+
+std::vector<std::string> BrokenRules(const Call& call, const family::DatabaseReport& report,
                                      Surroundings& surroundings)
 {
+    const std::string& source = call.Operand(0);
     const std::unique_ptr<family::Database> database = family::OpenForReading(source);
+    const auto archive = family::OpenArchive(*database, call.Option("--archive"));
+    TellArchive(*database, archive.get(), surroundings);
     const family::Snapshot snapshot(*database);
     try {
         std::vector<std::string> problems =
             family::FindBrokenRules(*database, surroundings.now, WorkOn(report, "Verificação", surroundings));
         for (std::string& problem :
-             family::FindBrokenChain(*database, WorkOn(report, "Auditoria", surroundings)))
+             family::FindBrokenChain(*database, WorkOn(report, "Auditoria", surroundings), archive.get()))
             problems.push_back(std::move(problem));
         return problems;
     } catch (const std::runtime_error& cause) {
@@ -43,10 +60,10 @@ std::vector<std::string> BrokenRules(const std::string& source, const family::Da
 }
 
 /// Rows of a file that is damaged would only be told to break rules which nobody broke.
-std::vector<std::string> ProblemsOf(const std::string& source, const family::DatabaseReport& report,
+std::vector<std::string> ProblemsOf(const Call& call, const family::DatabaseReport& report,
                                     Surroundings& surroundings)
 {
-    return report.problems.empty() ? BrokenRules(source, report, surroundings) : report.problems;
+    return report.problems.empty() ? BrokenRules(call, report, surroundings) : report.problems;
 }
 
 /// The rights are a matter of the server; what is stored may be whole all the same.
@@ -68,7 +85,7 @@ int Run(const Call& call, Surroundings& surroundings)
     const family::DatabaseReport report = family::CheckDatabase(call.Operand(0));
     WriteCounts(surroundings.output, report.tables);
     surroundings.output << "versão do esquema: " << report.version << "\n";
-    const std::vector<std::string> problems = ProblemsOf(call.Operand(0), report, surroundings);
+    const std::vector<std::string> problems = ProblemsOf(call, report, surroundings);
     for (const std::string& problem : problems)
         surroundings.error << problem << "\n";
     TellWideRights(call.Operand(0), surroundings.error);
@@ -89,7 +106,8 @@ const Command CheckCommand{
      "número do registro. O que os cadastros não aceitariam mais, mas está lá desde antes, é\n"
      "só um aviso, como os direitos de um papel do servidor que vão além do que um posto\n"
      "precisa.",
-     {"BANCO"}},
+     {"BANCO"},
+     {{"--archive", "ARQUIVO", "O arquivo da auditoria (padrão: onde foi gravado, ou ao lado do banco)."}}},
     Run,
 };
 

@@ -11,10 +11,10 @@ namespace {
 
 /// In the order of the help.
 constexpr const Command* Commands[] = {
-    &CreateCommand,      &DemoCommand,          &GenerateCommand, &MigrateCommand, &CheckCommand,
-    &ImportCommand,      &UndoImportCommand,    &ExportCommand,   &BackupCommand,  &RestoreCommand,
-    &CopyCommand,        &HistoryCommand,       &UndeleteCommand, &PersonCommand,  &ForgetCommand,
-    &ServerRolesCommand, &ResetPasswordCommand,
+    &CreateCommand,      &DemoCommand,          &GenerateCommand,     &MigrateCommand, &CheckCommand,
+    &ImportCommand,      &UndoImportCommand,    &ExportCommand,       &BackupCommand,  &RestoreCommand,
+    &CopyCommand,        &HistoryCommand,       &UndeleteCommand,     &PersonCommand,  &ForgetCommand,
+    &ServerRolesCommand, &ResetPasswordCommand, &ArchiveAuditCommand,
 };
 
 arguments::Program ThisProgram()

@@ -29,6 +29,7 @@ extern const Command PersonCommand;
 extern const Command ResetPasswordCommand;
 extern const Command RestoreCommand;
 extern const Command ServerRolesCommand;
+extern const Command ArchiveAuditCommand;
 extern const Command UndeleteCommand;
 extern const Command UndoImportCommand;
 

@@ -10,7 +10,7 @@ namespace {
 int Run(const Call& call, Surroundings& surroundings)
 {
     WriteCounts(surroundings.output,
-                family::RestoreDatabase(call.Operand(0), call.Operand(1), AuthorOf(call, surroundings.now),
+                family::RestoreDatabase(call.Operand(0), call.Operand(1), AuthorOf(call, surroundings),
                                         ShownWork(surroundings.error, "Restauração")));
     surroundings.output << "Banco de dados restaurado e conferido: " << call.Operand(1) << "\n";
     return 0;

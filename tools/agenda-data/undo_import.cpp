@@ -1,4 +1,5 @@
 #include "family/business/shown_values.hpp"
+#include "family/data/audit/archived_part.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/registers/import_undo.hpp"
@@ -64,12 +65,14 @@ void WriteKept(const std::vector<KeptRow>& rows, std::ostream& output)
         output << row.what << ": " << row.why << "\n";
 }
 
-int Refuse(const UndoneImport& undone, std::ostream& error)
+int Refuse(const UndoneImport& undone, const std::string& archive, std::ostream& error)
 {
     const ImportLine& of = undone.import;
     switch (undone.outcome) {
     case UndoneImport::Outcome::Unknown:
         error << "Não há essa importação. Veja as que há com --list.\n";
+        if (!archive.empty())
+            error << archive << " O que está nele não pode mais ser desfeito.\n";
         break;
     case UndoneImport::Outcome::UndoneBefore:
         error << "A importação " << of.number << " já foi desfeita em "
@@ -104,7 +107,7 @@ int Undo(const Call& call, Surroundings& surroundings)
         family::registers::UndoImport(*database, number, changed, AuthorOf(call, surroundings),
                                       LongWorkOf(surroundings.error, "Desfazendo", RowsWithoutProgress));
     if (!undone.IsDone())
-        return Refuse(undone, surroundings.error);
+        return Refuse(undone, family::ToldArchive(*database), surroundings.error);
     const ImportLine& of = undone.import;
     surroundings.output << "Importação " << of.number << " desfeita: " << of.registerName << ", \"" << of.path
                         << "\", de " << family::ShownMoment(of.line.moment) << " por " << Who(of.line)

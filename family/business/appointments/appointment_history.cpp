@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <limits>
 
 namespace kova::family {
 
@@ -103,11 +102,10 @@ std::vector<FieldHistory> ChangedFields(Database& database, const AuditLine& lin
 
 } // namespace
 
-std::vector<HistoryLine> HistoryOf(Database& database, Key number)
+std::vector<HistoryLine> HistoryOf(Database& database, Key number, Database* archive)
 {
     std::vector<HistoryLine> history;
-    for (const AuditLine& line :
-         FindAuditLines(database, AppointmentRow::Table, number, std::numeric_limits<Key>::max()))
+    for (const AuditLine& line : FindAllAuditLines(database, archive, AppointmentRow::Table, number))
         history.push_back({ShownMoment(line.moment), line.user, line.desk, ShownOperation(line.operation),
                            ChangedFields(database, line)});
     std::ranges::reverse(history);

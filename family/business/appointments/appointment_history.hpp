@@ -30,7 +30,8 @@ struct HistoryLine {
 };
 
 /// Everything that the audit tells of an appointment, also of one that is gone, oldest first. Empty where it
-/// tells nothing. Codes come with the names that the registers have today. Fails with a DatabaseFailure.
-std::vector<HistoryLine> HistoryOf(Database& database, Key number);
+/// tells nothing. Codes come with the names that the registers have today. The shop's archive (
+/// family/data/archive/), where there is one, tells of what lies further back. Fails with a DatabaseFailure.
+std::vector<HistoryLine> HistoryOf(Database& database, Key number, Database* archive = nullptr);
 
 } // namespace kova::family

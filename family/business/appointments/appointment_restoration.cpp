@@ -2,6 +2,7 @@
 
 #include "family/business/appointments/employee_room.hpp"
 #include "family/business/appointments/write_in_transaction.hpp"
+#include "family/data/audit/archived_part.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audited_row.hpp"
 #include "family/data/audit/merged_rows.hpp"
@@ -89,13 +90,20 @@ Obstacle ObjectionOfEmployee(Database& database, const AppointmentRow& row)
                              ReadIsoSpan(row.dataInicial, row.horaInicial, row.dataFinal, row.horaFinal));
 }
 
+Obstacle WithArchive(Obstacle obstacle, const std::string& archive)
+{
+    if (!archive.empty())
+        obstacle.append(" ").append(archive).append(" O que está nele não pode mais ser restaurado.");
+    return obstacle;
+}
+
 WriteAnswer Restore(Database& database, Key number, const Author& author)
 {
     if (FindByKey<AppointmentRow>(database, number))
         return Refused(number, "ele existe.");
     const std::optional<AppointmentRow> row = DeletedRow(database, number);
     if (!row)
-        return Refused(number, "não há registro da exclusão dele.");
+        return Refused(number, WithArchive("não há registro da exclusão dele.", ToldArchive(database)));
     for (const auto obstacle : {MissingReference, ObjectionOfEmployee}) {
         if (const Obstacle found = obstacle(database, *row); !found.empty())
             return Refused(number, found);

@@ -75,6 +75,8 @@ inline constexpr const char* Export = "exportacao";
 inline constexpr const char* Print = "impressao";
 /// The shop has become what a copy of it was.
 inline constexpr const char* CopyRestored = "restauracao_de_copia";
+/// Lines have gone into an archive.
+inline constexpr const char* Archiving = "arquivamento";
 /// The schema has become another.
 inline constexpr const char* Migration = "atualizacao";
 } // namespace audit_operation

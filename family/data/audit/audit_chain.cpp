@@ -1,5 +1,6 @@
 #include "family/data/audit/audit_chain.hpp"
 
+#include "agenda/contracts/utf8.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/insert_new_row.hpp"
@@ -71,6 +72,20 @@ void AddLinks(Database& database, std::span<const AuditRow> lines)
 }
 
 } // namespace
+
+AuditRow EventOf(const Author& author, const char* table, Key key, const char* operation,
+                 const AuditValues& what)
+{
+    AuditRow row;
+    row.momento = author.moment;
+    row.usuario = utf8::WellFormed(author.code + " - " + author.name);
+    row.posto = utf8::WellFormed(author.desk);
+    row.tabela = table;
+    row.chave = key;
+    row.operacao = operation;
+    row.depois = what.Line();
+    return row;
+}
 
 void AddLine(Database& database, const AuditRow& row) { AddLines(database, {row}); }
 

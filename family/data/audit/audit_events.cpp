@@ -1,6 +1,5 @@
 #include "family/data/audit/audit_events.hpp"
 
-#include "agenda/contracts/utf8.hpp"
 #include "family/data/audit/audit_chain.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/engine/migration.hpp"
@@ -17,20 +16,6 @@ constexpr const char* NoUser = "0";
 constexpr const char* SchemaTable = "versao_do_esquema";
 /// The first schema in which the audit knows the computer.
 constexpr int SchemaWithDesks = 4;
-
-AuditRow EventOf(const Author& author, const char* table, Key key, const char* operation,
-                 const AuditValues& what)
-{
-    AuditRow row;
-    row.momento = author.moment;
-    row.usuario = utf8::WellFormed(author.code + " - " + author.name);
-    row.posto = utf8::WellFormed(author.desk);
-    row.tabela = table;
-    row.chave = key;
-    row.operacao = operation;
-    row.depois = what.Line();
-    return row;
-}
 
 std::string MomentOfEngine(Database& database)
 {

@@ -6,6 +6,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <limits>
+
 namespace kova::family {
 
 namespace {
@@ -108,6 +111,22 @@ std::vector<AuditLine> FindAuditLines(Database& database, const char* table, Key
 {
     return database.With<AuditSelection>(
         [&](AuditSelection& selection) { return selection.Run(table, key, most); });
+}
+
+std::vector<AuditLine> FindAllAuditLines(Database& database, Database* archive, const char* table, Key key)
+{
+    constexpr Key All = std::numeric_limits<Key>::max();
+    std::vector<AuditLine> lines = FindAuditLines(database, table, key, All);
+    if (!archive)
+        return lines;
+    const std::size_t own = lines.size();
+    for (AuditLine& line : FindAuditLines(*archive, table, key, All)) {
+        // An archiving that was cut off has left it in both.
+        const auto isSame = [&](const AuditLine& other) { return other.code == line.code; };
+        if (std::none_of(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(own), isSame))
+            lines.push_back(std::move(line));
+    }
+    return lines;
 }
 
 } // namespace kova::family

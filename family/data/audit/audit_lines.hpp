@@ -39,4 +39,7 @@ AuditedColumns ReadAuditedColumns(const Nullable<std::string>& written);
 /// hold what the audit writes.
 std::vector<AuditLine> FindAuditLines(Database& database, const char* table, Key key, Key most);
 
+/// All lines of one row, newest first: the shop's and those of its archive, where there is one. Fails alike.
+std::vector<AuditLine> FindAllAuditLines(Database& database, Database* archive, const char* table, Key key);
+
 } // namespace kova::family

@@ -1,6 +1,9 @@
 #include "family/data/audit/import_audit.hpp"
 
+#include "family/data/audit/archived_part.hpp"
 #include "family/data/engine/database.hpp"
+
+#include <algorithm>
 
 namespace kova::family {
 
@@ -24,7 +27,9 @@ Key NextNumber(Database& database)
         session << "select coalesce(max(chave), 0) + 1 from auditoria where tabela = :tabela",
             soci::use(table, "tabela"), soci::into(number);
     });
-    return number;
+    // A number is not given again because its lines were archived.
+    const std::optional<ArchivedPart> archived = LastArchived(database);
+    return archived ? std::max(number, archived->lastImport + 1) : number;
 }
 
 } // namespace

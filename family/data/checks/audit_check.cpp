@@ -1,97 +1,22 @@
 #include "family/data/checks/audit_check.hpp"
 
-#include "family/data/checks/chain_walk.hpp"
-#include "family/data/checks/walk_pages.hpp"
+#include "family/data/audit/archived_part.hpp"
+#include "family/data/checks/stored_links.hpp"
+#include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/table_layouts.hpp"
 
 #include <algorithm>
-#include <functional>
-#include <limits>
 #include <optional>
 
 namespace kova::family {
 
 namespace {
 
-/// The lines of links behind a place of the chain, in pages. A page is cut before its lines are looked for,
-/// so that each is found by its key.
-std::string PageOfLinks()
-{
-    std::string columns;
-    ChainedLine().Columns([&](const std::string& column, const auto&) { columns += ", a." + column; });
-    return "select e.ordem, e.codigo_da_linha, e.sal, e.elo" + columns
-        + " from (select ordem, codigo_da_linha, sal, elo from elo_da_auditoria where ordem > :apos"
-          " order by ordem limit "
-        + std::to_string(PageSize)
-        + ") e left join auditoria a on a.codigo = e.codigo_da_linha order by e.ordem";
-}
-
-/// What a row of such a page is fetched into.
-class LinkCells {
-public:
-    void FetchBy(soci::statement& statement)
-    {
-        link_.Columns([&](const char*, auto& field) { statement.exchange(soci::into(field)); });
-        statement.exchange(soci::into(code_.value, code_.state));
-        for (Nullable<std::string>* text : {&moment_, &user_, &desk_, &table_})
-            statement.exchange(soci::into(text->value, text->state));
-        statement.exchange(soci::into(key_.value, key_.state));
-        for (Nullable<std::string>* text : {&operation_, &before_, &after_})
-            statement.exchange(soci::into(text->value, text->state));
-    }
-
-    StoredLink Stored() const
-    {
-        StoredLink stored{link_, std::nullopt};
-        if (!code_.IsNull())
-            stored.line = ChainedLine{code_.value,
-                                      moment_.ValueOr(""),
-                                      user_.ValueOr(""),
-                                      desk_.ValueOr(""),
-                                      table_.ValueOr(""),
-                                      key_.ValueOr(0),
-                                      operation_.ValueOr(""),
-                                      before_,
-                                      after_};
-        return stored;
-    }
-
-private:
-    LinkRow link_;
-    Nullable<Key> code_, key_;
-    Nullable<std::string> moment_, user_, desk_, table_, operation_, before_, after_;
-};
-
 Key Number(Database& database, const std::string& selection)
 {
     Key number = 0;
     database.Session() << selection, soci::into(number);
     return number;
-}
-
-void VisitLinks(Database& database, const LongWork& work, const std::function<void(const StoredLink&)>& visit)
-{
-    const Key last = Number(database, "select coalesce(max(ordem), 0) from elo_da_auditoria");
-    Key behind = std::numeric_limits<Key>::min(), at = behind;
-    LinkCells cells;
-    soci::statement statement(database.Session());
-    statement.alloc();
-    cells.FetchBy(statement);
-    statement.exchange(soci::use(behind, "apos"));
-    statement.prepare(PageOfLinks());
-    statement.define_and_bind();
-    WalkPages(
-        statement,
-        [&] {
-            const StoredLink stored = cells.Stored();
-            at = stored.link.ordem;
-            visit(stored);
-        },
-        [&] {
-            behind = at;
-            work.RequireGoingOn();
-            work.Reach(std::max<Key>(at, 0), last);
-        });
 }
 
 std::string Opening(Key line) { return "auditoria " + std::to_string(line) + ": "; }
@@ -104,14 +29,14 @@ public:
     /// The code of the line behind which it was written; nothing where it was written otherwise than it is.
     std::optional<Key> Run()
     {
-        VisitLinks(database_, {}, [&](const StoredLink& stored) {
+        VisitLinks(database_, FirstPlace, {}, [&](const StoredLink& stored) {
             if (stored.link.ordem == fault_.order)
                 wanted_ = stored;
         });
         std::optional<Key> found;
         if (!wanted_.line)
             return found;
-        VisitLinks(database_, {}, [&](const StoredLink& stored) {
+        VisitLinks(database_, FirstPlace, {}, [&](const StoredLink& stored) {
             if (LinkOf(stored.link.elo, wanted_.link.sal, *wanted_.line) == wanted_.link.elo)
                 found = stored.link.codigoDaLinha;
         });
@@ -145,22 +70,121 @@ std::string TextOf(Database& database, const ChainFault& fault)
 constexpr const char* LinesWithoutLink = " from auditoria a where not exists (select 1 from elo_da_auditoria "
                                          "e where e.codigo_da_linha = a.codigo)";
 
-} // namespace
+/// Goes through a shop's chain, and through the archive's before it where there is one.
+class WholeWalk {
+public:
+    WholeWalk(Database& shop, Database* archive) : shop_(shop), archive_(archive), part_(LastArchived(shop))
+    {
+        if (part_)
+            archived_ = ReadRanges(part_->lines);
+    }
 
-std::vector<std::string> FindBrokenChain(Database& database, const LongWork& work)
+    ChainWalk Run(const LongWork& work)
+    {
+        if (archive_)
+            VisitLinks(*archive_, FirstPlace, work, [&](const StoredLink& stored) {
+                walk_.Take(stored);
+                lastArchived_ = stored.link.ordem;
+            });
+        VisitLinks(shop_, FirstPlace, work, [&](const StoredLink& stored) { Take(stored); });
+        return std::move(walk_);
+    }
+
+    /// The place of the archive's last link; 0 without one.
+    Key LastArchivedPlace() const { return lastArchived_; }
+
+private:
+    void Take(StoredLink stored)
+    {
+        if (archive_ && stored.link.ordem <= lastArchived_)
+            Compare(stored.link);
+        else if (!archive_ && IsBeginning(stored))
+            walk_.BeginBehind(stored.link);
+        else if (!stored.line && IsArchived(stored.link.codigoDaLinha))
+            TakeArchived(stored);
+        else
+            walk_.Take(stored);
+    }
+
+    /// The last archived link stays in the shop; more of them do after an archiving that was cut off.
+    void Compare(const LinkRow& link)
+    {
+        const auto archived = FindByKey<LinkRow>(*archive_, link.ordem);
+        if (!archived || archived->elo != link.elo || archived->codigoDaLinha != link.codigoDaLinha)
+            walk_.TakeOther(link);
+    }
+
+    bool IsBeginning(const StoredLink& stored) const
+    {
+        return part_ && !stored.line && stored.link.ordem == part_->order && stored.link.elo == part_->link;
+    }
+
+    bool IsArchived(Key code) const
+    {
+        return std::ranges::any_of(
+            archived_, [&](const CodeRange& range) { return range.first <= code && code <= range.last; });
+    }
+
+    /// A line that was cleaned before it was archived has a further link behind it.
+    void TakeArchived(StoredLink& stored)
+    {
+        if (!archive_) {
+            walk_.TakeWithoutLine(stored.link);
+            return;
+        }
+        if (const auto line = FindByKey<AuditRow>(*archive_, stored.link.codigoDaLinha))
+            stored.line = *line;
+        walk_.Take(stored);
+    }
+
+    Database& shop_;
+    Database* archive_;
+    const std::optional<ArchivedPart> part_;
+    std::vector<CodeRange> archived_;
+    ChainWalk walk_;
+    Key lastArchived_ = 0;
+};
+
+/// What is wrong with an archive as a whole; empty where it is the shop's.
+std::string WrongArchive(Database& shop, Database& archive)
 {
-    std::vector<std::string> problems;
-    if (!Has(StoredTables(database), LinkRow::Table))
-        return problems;
-    ChainWalk walk;
-    VisitLinks(database, work, [&](const StoredLink& stored) { walk.Take(stored); });
-    if (const auto first = walk.First())
-        problems.push_back(TextOf(database, *first));
+    const std::optional<ArchivedPart> part = LastArchived(shop);
+    const auto last = part ? FindByKey<LinkRow>(archive, part->order) : std::nullopt;
+    const bool isOfShop = part ? last && last->elo == part->link
+                               : Number(archive, "select count(*) from elo_da_auditoria") == 0;
+    return isOfShop ? ""
+                    : "O arquivo da auditoria \"" + archive.Path()
+            + "\" não é o desta loja, ou não tem tudo que foi arquivado.";
+}
+
+/// Lines that no program of this shop's has written, of the shop and of the archive.
+Key TellAdded(Database& database, std::vector<std::string>& problems)
+{
     const std::string without = LinesWithoutLink;
     const Key added = Number(database, "select count(*)" + without);
     if (added > 0)
         problems.push_back(Opening(Number(database, "select min(a.codigo)" + without))
                            + "a linha não foi gravada pela agenda.");
+    return added;
+}
+
+} // namespace
+
+std::vector<std::string> FindBrokenChain(Database& database, const LongWork& work, Database* archive)
+{
+    std::vector<std::string> problems;
+    if (!Has(StoredTables(database), LinkRow::Table))
+        return problems;
+    if (archive) {
+        if (std::string wrong = WrongArchive(database, *archive); !wrong.empty())
+            return {std::move(wrong)};
+    }
+    WholeWalk whole(database, archive);
+    const ChainWalk walk = whole.Run(work);
+    if (const auto first = walk.First())
+        problems.push_back(
+            TextOf(archive && first->order <= whole.LastArchivedPlace() ? *archive : database, *first));
+    const Key added = TellAdded(database, problems) + (archive ? TellAdded(*archive, problems) : 0);
     const long long more = walk.Faults() + added - static_cast<long long>(problems.size());
     if (more > 0)
         problems.push_back("auditoria: mais " + std::to_string(more)

@@ -30,6 +30,13 @@ void ChainWalk::Take(const StoredLink& stored)
     former_ = link;
 }
 
+void ChainWalk::TakeWithoutLine(const LinkRow& link)
+{
+    if (const Key gone = link.ordem - former_.ordem - 1; gone != 0)
+        Keep({ChainFault::What::LinksGone, link.ordem, link.codigoDaLinha, gone});
+    former_ = link;
+}
+
 void ChainWalk::TakeLine(const LinkRow& link, const ChainedLine& line)
 {
     const auto doubt = doubts_.find(line.codigo);

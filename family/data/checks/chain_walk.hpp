@@ -33,6 +33,12 @@ struct ChainFault {
 class ChainWalk {
 public:
     void Take(const StoredLink& stored);
+    /// A link whose line lies elsewhere, rightly.
+    void TakeWithoutLine(const LinkRow& link);
+    /// The chain begins behind that one, rightly.
+    void BeginBehind(const LinkRow& link) { former_ = link; }
+    /// A link that stands in two places, and not alike.
+    void TakeOther(const LinkRow& link) { Keep({ChainFault::What::Changed, link.ordem, link.codigoDaLinha}); }
 
     /// To be asked at the end.
     std::optional<ChainFault> First() const;
