@@ -8,7 +8,8 @@
 namespace kova::family {
 
 /// Who of a server's may change what is stored of the audit although he does not own it: the roles that can
-/// sign in, or "PUBLIC" where everybody may. Nobody where it is a file. Fails with soci::soci_error.
+/// sign in, or "PUBLIC" where everybody may. A desk's role is told also where it may because it is an
+/// administrator's or may act as the owner. Nobody where it is a file. Fails with soci::soci_error.
 std::vector<std::string> WhoMayRewriteAudit(Database& database);
 
 } // namespace kova::family

@@ -172,6 +172,20 @@ TEST_F(PostgresqlDeskRole, IsToldWhereItMayDoMore)
     EXPECT_EQ(Rewriters(), std::vector<std::string>{});
 }
 
+TEST_F(PostgresqlDeskRole, IsToldWhereItIsAnAdministratorsOrMayActAsTheOwner)
+{
+    GiveToDesks(shop_.Address(), Role);
+    EXPECT_EQ(Rewriters(), std::vector<std::string>{});
+    shop_.Run("alter role \"postos da loja\" superuser");
+    EXPECT_EQ(Rewriters(), std::vector<std::string>{Role});
+    shop_.Run("alter role \"postos da loja\" nosuperuser");
+    EXPECT_EQ(Rewriters(), std::vector<std::string>{});
+    shop_.Run("grant postgres to \"postos da loja\"");
+    EXPECT_EQ(Rewriters(), std::vector<std::string>{Role});
+    shop_.Run("revoke postgres from \"postos da loja\"");
+    EXPECT_EQ(Rewriters(), std::vector<std::string>{});
+}
+
 TEST_F(PostgresqlDeskRole, IsGivenItsRightsByTheCommandOrByWhatItPrints)
 {
     EXPECT_EQ(Run({"server-roles", shop_.Address(), "--role", Role}), 0) << error_.str();
