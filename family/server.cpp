@@ -11,6 +11,7 @@
 #include "family/business/registers/species.hpp"
 #include "family/business/shop/company.hpp"
 #include "family/business/shop/database_component.hpp"
+#include "family/business/shop/print_component.hpp"
 #include "family/business/shop/system_version.hpp"
 #include "family/data/sources/shared_database.hpp"
 
@@ -40,6 +41,7 @@ kova::ComponentLibrary& Library()
         Entry<Customers>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0A}"),
         Entry<Animals>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0B}"),
         Entry<Holidays>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0C}"),
+        Entry<PrintComponent>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0D}"),
     });
     return library;
 }

@@ -14,10 +14,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array<std::string_view, 17> NeededClasses{
+constexpr std::array<std::string_view, 18> NeededClasses{
     "KOVA_A_Agenda.clsAgenda",
     "KOVA_A_MsgErro.clsMensagem",
     "KOVA_N_Dados.clsBanco",
+    "KOVA_N_Dados.clsImpressoes",
     "KOVA_N_Agenda.clsAgenda",
     "KOVA_N_TipoDeServ.clsTiposDeServ",
     "KOVA_N_Funcionarios.clsFuncionarios",

@@ -3,6 +3,7 @@
 #include "agenda/contracts/text.hpp"
 #include "family/presentation/clsMensagem.hpp"
 #include "family/presentation/window_in_front.hpp"
+#include "reports/pages.hpp"
 
 #include <QApplication>
 
@@ -87,6 +88,9 @@ Value clsEtiquetas::AbrirEmissaoDeEtiqueta(std::span<Argument> arguments)
 void clsEtiquetas::OpenLabels()
 {
     desk_ = makeDesk_(host_.GetPlatform().Toolkit(), application_);
+    desk_->NotePrints([this](const reports::Document& labels, const QString& file) {
+        return NotePrint(static_cast<Long>(labels.pages.size()), file);
+    });
     const auto customer = FindCustomer(host_.GetPlatform().Components(), user_, Val(code_));
     if (!MayHaveLabel(customer))
         return;
@@ -138,6 +142,20 @@ void clsEtiquetas::ShowWindow(PostalAddress address)
 Text clsEtiquetas::SettingsFile()
 {
     return host_.GetPlatform().SettingsFolder() + "/KOVA_A_EmissorDeEtiquetas.ini";
+}
+
+QString clsEtiquetas::NotePrint(Long sheets, const QString& file)
+{
+    try {
+        const ComponentRef prints =
+            host_.GetPlatform().Components().CreateObject("KOVA_N_Dados.clsImpressoes");
+        prints->Set("DadosDoUsuario", user_);
+        const Value done = prints->Call(
+            "Registrar", {Text("Etiqueta de endereço"), sheets, Text(file.toStdString()), code_});
+        return done.ToInteger() == 0 ? QString() : ToQString(prints->Get("DescricaoDoErro").ToText());
+    } catch (const Failure& failure) {
+        return ToQString(failure.Description());
+    }
 }
 
 void clsEtiquetas::TellFailure(const Failure& failure, const Text& place) const

@@ -42,6 +42,8 @@ private:
     bool MayHaveLabel(const std::optional<RegisteredCustomer>& customer);
     void ShowWindow(PostalAddress address);
     Text SettingsFile();
+    /// Answers "" or why it could not be noted.
+    QString NotePrint(Long sheets, const QString& file);
     void TellFailure(const Failure& failure, const Text& place) const;
 
     ServerHost& host_;

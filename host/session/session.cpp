@@ -15,6 +15,7 @@
 #include "host/session/agenda_guard.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
+#include "host/session/noted_prints.hpp"
 #include "host/session/registers_tab.hpp"
 #include "host/session/remembered_shops.hpp"
 #include "host/session/session_clock.hpp"
@@ -204,6 +205,9 @@ void Session::OpenList()
 {
     agenda_ = components_.CreateObject("KOVA_A_Agenda.clsAgenda");
     agenda_->Set("DadosDoUsuario", Value(user_));
+    toolkit_.NotePrints([this](const std::string& title, long long pages, const std::string& file) {
+        return NotePrint(components_, user_, title, pages, file);
+    });
     agenda_->Set("NomeDaAplicacao", "Kovaris");
     toolkit_.RegisterTopWindow(window_.get());
     window_->Open(SizeOf(options_, outlet_));

@@ -63,6 +63,7 @@ Delivered PrintFrom(QWidget& over, PaperDesk& desk, const reports::Document& doc
         desk.Tell(&over, MessageKind::Critical, trouble);
         return {};
     }
+    desk.Gone(&over, document, {});
     return {QStringLiteral("Enviado para a impressora"), {}};
 }
 
@@ -81,6 +82,7 @@ Delivered SaveFrom(QWidget& over, PaperDesk& desk, const reports::Document& docu
         return {};
     }
     LastFolder() = QFileInfo(path).absolutePath();
+    desk.Gone(&over, document, path);
     return {QStringLiteral("Salvo em %1").arg(QFileInfo(path).fileName()), path};
 }
 

@@ -17,6 +17,8 @@ QString PaperDesk::AskPdfPath(QWidget* over, const QString& proposal)
     return isChosen ? dialog.selectedFiles().front() : QString();
 }
 
+void PaperDesk::Gone(QWidget*, const reports::Document&, const QString&) { }
+
 bool PaperDesk::HasPrinter() const { return !QPrinterInfo::availablePrinterNames().isEmpty(); }
 
 bool PaperDesk::ChoosePrinter(QWidget* over, QPrinter& printer, std::size_t pages, bool hasCurrentPage)

@@ -7,6 +7,10 @@
 class QPrinter;
 class QWidget;
 
+namespace kova::reports {
+struct Document;
+}
+
 namespace kova::paper {
 
 /// What a window that prints asks of the desktop: files, printers, messages.
@@ -21,6 +25,8 @@ public:
     /// `hasCurrentPage` offers to print the one page in view.
     virtual bool ChoosePrinter(QWidget* over, QPrinter& printer, std::size_t pages, bool hasCurrentPage);
     virtual void Tell(QWidget* over, MessageKind kind, const QString& text) = 0;
+    /// A document has gone to a printer, or into that file where one is named.
+    virtual void Gone(QWidget* over, const reports::Document& document, const QString& file);
 };
 
 } // namespace kova::paper

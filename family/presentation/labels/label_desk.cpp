@@ -14,6 +14,15 @@ void LabelDesk::Tell(QWidget*, MessageKind kind, const QString& text)
     toolkit_.MessageBox(kind, BoxText(text), title_);
 }
 
+void LabelDesk::Gone(QWidget* over, const reports::Document& labels, const QString& file)
+{
+    const QString trouble = note_ ? note_(labels, file) : QString();
+    if (!trouble.isEmpty())
+        Tell(over, MessageKind::Critical,
+             QStringLiteral("As etiquetas saíram, mas isso não pôde ser anotado na auditoria.\n\n")
+                 + trouble);
+}
+
 bool LabelDesk::Ask(const QString& text)
 {
     return toolkit_.MessageBox(MessageKind::Question, BoxText(text), title_) == Reply::Yes;

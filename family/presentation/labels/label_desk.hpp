@@ -2,6 +2,8 @@
 
 #include "reports/qt/paper_desk.hpp"
 
+#include <functional>
+
 namespace kova::family {
 
 /// What the label window asks of the desktop. Its messages are the toolkit's own.
@@ -15,9 +17,16 @@ public:
     /// A question whose default is No.
     bool Ask(const QString& text);
 
+    /// Notes labels that were printed, or saved into that file ("" for a printer). Answers "" or, for the
+    /// user, why it could not.
+    using Note = std::function<QString(const reports::Document& labels, const QString& file)>;
+    void NotePrints(Note note) { note_ = std::move(note); }
+    void Gone(QWidget* over, const reports::Document& labels, const QString& file) override;
+
 private:
     Toolkit& toolkit_;
     Text title_;
+    Note note_;
 };
 
 } // namespace kova::family

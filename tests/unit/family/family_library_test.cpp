@@ -44,9 +44,9 @@ TEST_F(FamilyLibrary, RegistersItsClassesAndMakesThem)
     for (const char* name :
          {"KOVA_N_Agenda.clsAgenda", "KOVA_N_TipoDeServ.clsTiposDeServ",
           "KOVA_N_Funcionarios.clsFuncionarios", "KOVA_N_Empresa.clsEmpresa", "KOVA_N_SO.clsObterVersaoDoSO",
-          "KOVA_N_Dados.clsBanco", "KOVA_N_EspecRacas.clsEspecies", "KOVA_N_EspecRacas.clsRacas",
-          "KOVA_N_Servicos.clsServicos", "KOVA_N_ClientAnim.clsClientes", "KOVA_N_ClientAnim.clsAnimais",
-          "KOVA_N_Feriados.clsFeriados"})
+          "KOVA_N_Dados.clsBanco", "KOVA_N_Dados.clsImpressoes", "KOVA_N_EspecRacas.clsEspecies",
+          "KOVA_N_EspecRacas.clsRacas", "KOVA_N_Servicos.clsServicos", "KOVA_N_ClientAnim.clsClientes",
+          "KOVA_N_ClientAnim.clsAnimais", "KOVA_N_Feriados.clsFeriados"})
         EXPECT_NE(Create(host, name), nullptr) << name;
     EXPECT_EQ(Entry<DllUnregisterServerFunction>("DllUnregisterServer")(), 0);
     EXPECT_TRUE(host.registered.empty());

@@ -144,12 +144,14 @@ void QtToolkit::RunPreview(const toolkit::ReportModel& report)
 void QtToolkit::ShowPreview(const toolkit::ReportModel& report, const reports::Document& pages)
 {
     const Date day = DayOfReport(report.Data(), clock_.Now().date);
-    ReportDesk desk;
-    ReportPreview preview(pages, desk, day, top_.Below(nullptr));
+    const std::unique_ptr<ReportDesk> desk = MakeReportDesk();
+    ReportPreview preview(pages, *desk, day, top_.Below(nullptr));
     if (report.Current().windowState == ReportWindowState::Maximized)
         preview.setWindowState(Qt::WindowMaximized);
     preview.exec();
 }
+
+std::unique_ptr<ReportDesk> QtToolkit::MakeReportDesk() const { return std::make_unique<ReportDesk>(); }
 
 // Qt may still be inside a handler of a widget that would die.
 void QtToolkit::ScheduleRelease()

@@ -12,6 +12,7 @@ struct Document;
 namespace kova::qt {
 
 class InputGate;
+class ReportDesk;
 
 /// Handles for the host: see handles.hpp.
 Long HandleOf(QWidget& widget);
@@ -46,6 +47,8 @@ protected:
     void RunPreview(const toolkit::ReportModel& report) override;
     /// Shows a report that has been laid out, until the user has closed it.
     void ShowPreview(const toolkit::ReportModel& report, const reports::Document& pages);
+    /// What a preview asks of the desktop.
+    virtual std::unique_ptr<ReportDesk> MakeReportDesk() const;
     void ScheduleRelease() override;
     void EventsEnded() override;
     void InputAwaited() override;

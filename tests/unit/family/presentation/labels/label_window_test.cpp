@@ -292,6 +292,22 @@ TEST_F(LabelWindowTest, SavesAPdf)
     EXPECT_EQ(Shown("situacao"), "Salvo em e.pdf");
 }
 
+TEST_F(LabelWindowTest, HasWhatIsSavedOrPrintedNotedAndTellsWhereItCannotBe)
+{
+    std::vector<std::string> noted;
+    desk_.NotePrints([&](const reports::Document& labels, const QString& file) {
+        noted.push_back(std::to_string(labels.pages.size()) + "|" + file.toStdString());
+        return file.isEmpty() ? QStringLiteral("O disco está cheio.") : QString();
+    });
+    desk_.path = File("e.pdf");
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(toolkit.Queue().Questions().empty());
+    desk_.printTo = File("papel.pdf");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(noted, (std::vector<std::string>{"1|" + File("e.pdf").toStdString(), "1|"}));
+    EXPECT_NE(toolkit.Queue().Questions().back().text.find("O disco está cheio."), std::string::npos);
+}
+
 TEST_F(LabelWindowTest, PrintsByEnter)
 {
     desk_.printTo = File("papel.pdf");

@@ -22,11 +22,17 @@ public:
     QString proposal;
     int asked = 0;
     std::string told;
+    /// Titles and files of what was printed or saved.
+    std::vector<std::string> gone;
 
     QString AskPdfPath(QWidget* over, const QString& proposed) override;
     bool HasPrinter() const override { return hasPrinter; }
     bool ChoosePrinter(QWidget* over, QPrinter& printer, std::size_t pages, bool hasCurrentPage) override;
     void Tell(QWidget* over, MessageKind kind, const QString& text) override;
+    void Gone(QWidget*, const reports::Document& document, const QString& file) override
+    {
+        gone.push_back(document.title + "|" + file.toStdString());
+    }
 };
 
 /// The preview of a list of 30 appointments.

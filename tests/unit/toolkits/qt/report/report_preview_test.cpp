@@ -252,6 +252,7 @@ TEST_F(Preview, SavesAPdfAndSaysSo)
     EXPECT_TRUE(Desk().proposal.endsWith(QStringLiteral("/Imprimir agendamentos 2026-11-20.pdf")))
         << Desk().proposal.toStdString();
     EXPECT_EQ(Desk().told, "");
+    EXPECT_EQ(Desk().gone, std::vector<std::string>{"Imprimir agendamentos|" + Desk().path.toStdString()});
 }
 
 TEST_F(Preview, GoesOnWhereTheUserThinksBetterOfSavingOrPrinting)
@@ -280,6 +281,7 @@ TEST_F(Preview, TellsOfAFolderThatCannotBeWritten)
     Desk().path = QStringLiteral("/proc/dia.pdf");
     Press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(Desk().told.starts_with("Não foi possível salvar o arquivo")) << Desk().told;
+    EXPECT_TRUE(Desk().gone.empty());
     EXPECT_TRUE(Window().isVisible());
 }
 
@@ -298,6 +300,7 @@ TEST_F(Preview, PrintsOnThePrinterThatWasChosen)
     const QTemporaryDir folder;
     Desk().printTo = folder.filePath(QStringLiteral("papel.pdf"));
     Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(Desk().gone, std::vector<std::string>{"Imprimir agendamentos|"});
     EXPECT_TRUE(QFile::exists(Desk().printTo));
     EXPECT_EQ(Label("situacao"), "Enviado para a impressora");
 }
