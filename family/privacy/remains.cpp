@@ -28,9 +28,11 @@ std::set<std::string> TablesWithPersons()
     return tables;
 }
 
-/// The engine then counts the tables anew, too: what it has counted before names values.
+/// The engine then counts the tables anew, too: what it has counted before names values. An index of words
+/// keeps a word that no row has any more until it is made anew.
 void CleanServer(Database& database)
 {
+    database.Session() << "reindex index concurrently auditoria_por_palavra";
     for (const std::string& table : TablesWithPersons())
         database.Session() << "vacuum (analyze) " + table;
 }
@@ -39,6 +41,8 @@ void CleanServer(Database& database)
 bool CleanFile(Database& database)
 {
     int busy = 0, inLog = 0, written = 0;
+    // Words that no line has any more go with it.
+    database.Session() << "insert into palavras_da_auditoria (palavras_da_auditoria) values ('optimize')";
     database.Session() << "vacuum";
     // Those who read do so for a moment only, unless they have forgotten to end.
     database.Session() << "pragma busy_timeout = 1000";

@@ -17,6 +17,7 @@ constexpr Migration Steps[] = {
     {8, SchemaOfVersion8, HoldRulesOfVersion8},
     {9, SchemaOfVersion9, HoldRulesOfVersion9},
     {10, SchemaOfVersion10, ChainLinesOfVersion10},
+    {11, SchemaOfVersion11},
 };
 
 } // namespace

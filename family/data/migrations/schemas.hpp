@@ -35,5 +35,8 @@ void HoldRulesOfVersion9(soci::session& session, const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion10(const Dialect& dialect);
 /// Links the lines that are there already.
 void ChainLinesOfVersion10(soci::session& session, const Dialect& dialect);
+/// What the lines of the audit are found by: their day, their user, their kind, their table, and the words
+/// among what they tell.
+std::vector<std::string> SchemaOfVersion11(const Dialect& dialect);
 
 } // namespace kova::family

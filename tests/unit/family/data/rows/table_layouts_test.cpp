@@ -10,8 +10,15 @@ namespace kova::family::test {
 namespace {
 
 /// What the schema keeps about itself.
-const std::set<std::string> OwnTables = {"versao_do_esquema", "contador_de_alteracoes", "sqlite_sequence",
-                                         "sqlite_stat1", "sqlite_stat4"};
+const std::set<std::string> OwnTables = {"versao_do_esquema",
+                                         "contador_de_alteracoes",
+                                         "sqlite_sequence",
+                                         "sqlite_stat1",
+                                         "sqlite_stat4",
+                                         "palavras_da_auditoria",
+                                         "palavras_da_auditoria_config",
+                                         "palavras_da_auditoria_data",
+                                         "palavras_da_auditoria_idx"};
 
 /// Asks an engine about its schema, in its own words.
 struct SchemaQuestions {
