@@ -1,13 +1,10 @@
 #include "family/privacy/person_report.hpp"
 
+#include "family/business/audit_words.hpp"
 #include "family/business/shown_values.hpp"
-#include "family/data/audit/audit.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/stores/pre_sales.hpp"
 #include "family/registers/registers.hpp"
-
-#include <algorithm>
-#include <iterator>
 
 namespace kova::family::privacy {
 
@@ -171,19 +168,6 @@ ReportGroup PreSales(const PersonData& data)
     return group;
 }
 
-constexpr std::pair<const char*, const char*> Operations[] = {
-    {audit_operation::Insertion, "Inclusão"},         {audit_operation::Change, "Alteração"},
-    {audit_operation::Removal, "Exclusão"},           {audit_operation::Restoration, "Restauração"},
-    {audit_operation::Anonymisation, "Anonimização"},
-};
-
-std::string ShownOperation(const std::string& operation)
-{
-    const auto found =
-        std::ranges::find(Operations, operation, [](const auto& known) { return known.first; });
-    return found == std::end(Operations) ? operation : found->second;
-}
-
 ReportEntry Values(const char* label, const std::vector<std::pair<std::string, std::string>>& values)
 {
     ReportEntry entry{label, {}, {}, true};
@@ -201,7 +185,7 @@ ReportGroup Changes(const PersonData& data)
     for (const PersonChange& change : data.changes)
         group.records.push_back({{"Momento", ShownMoment(change.moment)},
                                  {"Quem", change.user},
-                                 {"Operação", ShownOperation(change.operation)},
+                                 {"Operação", WordsOfOperation(change.operation).one},
                                  {"Registro", change.table + " " + std::to_string(change.key)},
                                  Values("Antes", change.before),
                                  Values("Depois", change.after)});

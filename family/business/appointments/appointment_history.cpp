@@ -1,8 +1,7 @@
 #include "family/business/appointments/appointment_history.hpp"
 
+#include "family/business/audit_words.hpp"
 #include "family/business/shown_values.hpp"
-#include "family/data/audit/audit.hpp"
-#include "family/data/audit/audit_lines.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/register_names.hpp"
@@ -67,20 +66,6 @@ constexpr ShownColumn Columns[] = {
     {"importacao", "Importação", AsItIs},
 };
 
-constexpr std::pair<const char*, const char*> Operations[] = {
-    {audit_operation::Insertion, "Inclusão"},
-    {audit_operation::Change, "Alteração"},
-    {audit_operation::Removal, "Exclusão"},
-    {audit_operation::Restoration, "Restauração"},
-};
-
-std::string ShownOperation(const std::string& operation)
-{
-    const auto found =
-        std::ranges::find(Operations, operation, [](const auto& known) { return known.first; });
-    return found == std::end(Operations) ? operation : found->second;
-}
-
 std::string Shown(Database& database, const ShownColumn& column, const AuditedColumns& kept)
 {
     const auto found = kept.find(column.column);
@@ -88,26 +73,27 @@ std::string Shown(Database& database, const ShownColumn& column, const AuditedCo
     return empty ? "" : column.show(database, *found->second);
 }
 
-std::vector<FieldHistory> ChangedFields(Database& database, const AuditLine& line)
+} // namespace
+
+std::vector<FieldHistory> ChangedFieldsOf(Database& database, const AuditedColumns& before,
+                                          const AuditedColumns& after)
 {
     std::vector<FieldHistory> fields;
     for (const ShownColumn& column : Columns) {
-        FieldHistory field{column.caption, Shown(database, column, line.before),
-                           Shown(database, column, line.after)};
+        FieldHistory field{column.caption, Shown(database, column, before), Shown(database, column, after)};
         if (field.before != field.after)
             fields.push_back(std::move(field));
     }
     return fields;
 }
 
-} // namespace
-
 std::vector<HistoryLine> HistoryOf(Database& database, Key number, Database* archive)
 {
     std::vector<HistoryLine> history;
     for (const AuditLine& line : FindAllAuditLines(database, archive, AppointmentRow::Table, number))
-        history.push_back({ShownMoment(line.moment), line.user, line.desk, ShownOperation(line.operation),
-                           ChangedFields(database, line)});
+        history.push_back({ShownMoment(line.moment), line.user, line.desk,
+                           WordsOfOperation(line.operation).one,
+                           ChangedFieldsOf(database, line.before, line.after)});
     std::ranges::reverse(history);
     return history;
 }

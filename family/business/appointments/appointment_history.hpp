@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/data/rows/rows.hpp"
+#include "family/data/audit/audit_lines.hpp"
 
 #include <string>
 #include <vector>
@@ -28,6 +28,11 @@ struct HistoryLine {
     std::string operation;
     std::vector<FieldHistory> fields;
 };
+
+/// The fields in which a row was another one before than after, in the order of the record forms. Codes come
+/// with the names that the registers have today. Fails as Database::With.
+std::vector<FieldHistory> ChangedFieldsOf(Database& database, const AuditedColumns& before,
+                                          const AuditedColumns& after);
 
 /// Everything that the audit tells of an appointment, also of one that is gone, oldest first. Empty where it
 /// tells nothing. Codes come with the names that the registers have today. The shop's archive (
