@@ -74,15 +74,6 @@ constexpr OtherRows Others[] = {
     {PreSaleRow::Table, "pré-venda", TakeRowBack<PreSaleRow>},
 };
 
-const Register* RegisterOfTable(std::string_view table)
-{
-    for (const Register* one : Registers()) {
-        if (one->Table() == table)
-            return one;
-    }
-    return nullptr;
-}
-
 const OtherRows* OthersOfTable(std::string_view table)
 {
     const auto found = std::ranges::find(Others, table, &OtherRows::table);

@@ -21,4 +21,13 @@ const Register* RegisterNamed(std::string_view name)
     return nullptr;
 }
 
+const Register* RegisterOfTable(std::string_view table)
+{
+    for (const Register* one : Registers()) {
+        if (one->Table() == table)
+            return one;
+    }
+    return nullptr;
+}
+
 } // namespace kova::family::registers

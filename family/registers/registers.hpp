@@ -12,4 +12,7 @@ std::span<const Register* const> Registers();
 /// The one of that name ("clientes"); nothing where there is none.
 const Register* RegisterNamed(std::string_view name);
 
+/// The one whose rows that table has; nothing where there is none.
+const Register* RegisterOfTable(std::string_view table);
+
 } // namespace kova::family::registers

@@ -41,9 +41,12 @@ void DropAuthor(const Database& database, AuditValues& after, const Author& auth
     drop(before ? changedBy : addedBy, author.name);
 }
 
-/// The values with the number of the import that the author writes in.
-AuditValues WithImport(AuditValues values, const Author& author)
+/// The values with the line that is undone and, behind all others, the number of the import that the author
+/// writes in.
+AuditValues WithCause(AuditValues values, const Author& author)
 {
+    if (author.undoneLine != 0)
+        values.Add(UndoneLineColumn, author.undoneLine);
     if (author.importNumber != 0)
         values.Add(ImportColumn, author.importNumber);
     return values;
@@ -131,10 +134,11 @@ std::string AuditValues::Line() const
 
 void AuditInsertion(Database& database, const Author& author, const char* table, Key key, AuditValues after)
 {
-    AuditRow row = RowOf(database, author, table, key, audit_operation::Insertion);
+    AuditRow row = RowOf(database, author, table, key,
+                         author.isRestoring ? audit_operation::Restoration : audit_operation::Insertion);
     after.DropEmpty();
     DropAuthor(database, after, author);
-    row.depois = WithImport(after, author).Line();
+    row.depois = WithCause(after, author).Line();
     AddLine(database, row);
 }
 
@@ -159,7 +163,7 @@ void AuditChange(Database& database, const Author& author, const char* table, Ke
     DropAuthor(database, after, author, &before);
     AuditValues::DropAlike(before, after, together);
     row.antes = before.Line();
-    row.depois = WithImport(after, author).Line();
+    row.depois = WithCause(after, author).Line();
     AddLine(database, row);
 }
 
@@ -199,7 +203,7 @@ void AuditRestoration(Database& database, const Author& author, const char* tabl
 {
     AuditRow row = RowOf(database, author, table, key, audit_operation::Restoration);
     after.DropEmpty();
-    row.depois = after.Line();
+    row.depois = WithCause(after, author).Line();
     AddLine(database, row);
 }
 

@@ -83,6 +83,8 @@ inline constexpr const char* Migration = "atualizacao";
 
 /// Stands among the values of a row that has come in an import: the import's number.
 inline constexpr std::string_view ImportColumn = "importacao";
+/// Stands among the values of a row by whose write a line of the audit was undone: the code of that line.
+inline constexpr std::string_view UndoneLineColumn = "desfaz";
 /// In the place of a table where a line is about an import itself; its key is the import's number.
 inline constexpr const char* ImportsTable = "importacao";
 

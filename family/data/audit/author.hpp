@@ -17,6 +17,10 @@ struct Author {
     std::string desk{};
     /// Number of the import in which the rows come; 0 where they come in none.
     Key importNumber = 0;
+    /// Code of the line of the audit that is undone by what is written; 0 where none is.
+    Key undoneLine = 0;
+    /// Whether the rows that are added were there before.
+    bool isRestoring = false;
     /// Whoever has the database itself at hand, at the tools for it: no user's rights bind him.
     bool isOwner = false;
     /// The moment is by the computer's own clock (Clock::IsComputersOwn).

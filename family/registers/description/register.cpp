@@ -36,6 +36,12 @@ RemoveAnswer Register::Remove(Database& database, Key key, const Author& author)
     return InTransaction(database, author, [&] { return RemoveWithin(database, key, author); });
 }
 
+RemoveAnswer Register::Restore(Database& database, Key key, const AuditedColumns& columns,
+                               const Author& author) const
+{
+    return InTransaction(database, author, [&] { return RestoreWithin(database, key, columns, author); });
+}
+
 std::string Register::ConcernAbout(Database&, Key, const Texts&) const { return {}; }
 
 std::vector<Suggestion> Register::Suggestions(Database&, int) const { return {}; }

@@ -269,6 +269,16 @@ public:
     /// The row as it is, but for those columns; nothing where there is none, or they are not such columns.
     virtual std::optional<Texts> Former(Database& database, Key key, const AuditedColumns& columns) const = 0;
 
+    /// What a form would show of a row of which those columns alone are known.
+    virtual Texts Told(Database& database, const AuditedColumns& columns) const = 0;
+    /// Puts a row back that was removed, under its key and with what the audit has kept of it, by the rules
+    /// of the register; in a transaction of its own. It stays away, with the reason, where there is such a
+    /// row, where a column is missing, and where what it was does not fit any more.
+    RemoveAnswer Restore(Database& database, Key key, const AuditedColumns& columns,
+                         const Author& author) const;
+    virtual RemoveAnswer RestoreWithin(Database& database, Key key, const AuditedColumns& columns,
+                                       const Author& author) const = 0;
+
     /// Whether its rows can be inactive.
     virtual bool HasInactive() const = 0;
     /// Keys of the rows that hold the text, case, accents and the punctuation of numbers aside, in the order

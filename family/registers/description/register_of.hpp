@@ -138,6 +138,38 @@ public:
         return TextsOf(*record);
     }
 
+    Texts Told(Database& database, const AuditedColumns& columns) const override
+    {
+        Record record;
+        TakeColumns(columns, record);
+        LoadFormer(database, record);
+        return TextsOf(record);
+    }
+
+    RemoveAnswer RestoreWithin(Database& database, Key key, const AuditedColumns& columns,
+                               const Author& author) const override
+    {
+        RequireRight(database, author, RightToWrite());
+        LockImports(database);
+        if (FindByKey<Locked<Record>>(database, key))
+            return {RemoveAnswer::Outcome::Kept, "Já existe de novo."};
+        Record record;
+        // A line that cannot be read has no key.
+        if (!TakeRow(columns, record) || KeyIn(record) != key)
+            return {RemoveAnswer::Outcome::Kept, "Não há registro de tudo que havia nele."};
+        if (std::string missing = MissingTarget(database, Record::Table, columns, {}); !missing.empty())
+            return {RemoveAnswer::Outcome::Kept, std::move(missing)};
+        LoadFormer(database, record);
+        Refusals refusals(Fields());
+        CheckRecord({database}, nullptr, record, refusals);
+        if (std::string why = NoLongerFits(refusals); !why.empty())
+            return {RemoveAnswer::Outcome::Kept, std::move(why)};
+        Author restoring = author;
+        restoring.isRestoring = true;
+        WriteRecord(database, nullptr, record, restoring);
+        return {};
+    }
+
     void Judge(Database& database, const std::function<void(const JudgedField&)>& tell) const override
     {
         SelectPages<Record>(database, [&](std::vector<Record>& page) {
@@ -449,16 +481,22 @@ private:
         LoadFormer(among, record);
         Refusals refusals(Fields());
         CheckRecord(among, &stored, record, refusals);
+        if (std::string why = NoLongerFits(refusals); !why.empty())
+            return {RemoveAnswer::Outcome::Kept, std::move(why)};
+        WriteRecord(among, &stored, record, author);
+        return {};
+    }
+
+    /// Why former values are refused; empty where they are not.
+    std::string NoLongerFits(const Refusals& refusals) const
+    {
         std::string why;
         for (const RefusedField& refused : refusals.InOrder())
-            why.append(why.empty() ? "" : " ")
+            why.append(why.empty() ? "O que havia antes não cabe mais. " : " ")
                 .append(Fields()[refused.field].label)
                 .append(": ")
                 .append(refused.why);
-        if (!why.empty())
-            return {RemoveAnswer::Outcome::Kept, "O que havia antes não cabe mais. " + why};
-        WriteRecord(among, &stored, record, author);
-        return {};
+        return why;
     }
 
     std::string InUse(const std::string& users) const
