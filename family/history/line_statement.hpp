@@ -1,0 +1,51 @@
+#pragma once
+
+#include "family/data/engine/dialect.hpp"
+#include "family/history/filter.hpp"
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace kova::family::history {
+
+/// A selection of lines and the texts that stand in for its parameters, by their names.
+struct LineStatement {
+    std::string text;
+    std::vector<std::pair<std::string, std::string>> parameters;
+};
+
+/// What has to be looked for before the lines are.
+struct Findings {
+    /// Of a customer, also those of rows that have gone into it.
+    std::vector<Key> customers;
+    /// Rows that are gone, by their tables.
+    std::vector<std::pair<std::string, Key>> gone;
+    /// As the audit has them, of a user.
+    std::vector<std::string> users;
+    /// The column of several that are narrowed by which only few lines come into question; may be empty.
+    std::string rare;
+};
+
+/// What a column is to be, of those that lines are narrowed by.
+struct ColumnValue {
+    std::string column, value;
+};
+std::vector<ColumnValue> ColumnsOf(const Filter& filter);
+
+/// Where a page ends.
+struct Place {
+    /// "yyyy-mm-dd"
+    std::string day;
+    Key code = 0;
+};
+
+/// The statement that selects `most` lines behind a place: codigo, momento, usuario, posto, tabela, chave,
+/// operacao, antes and depois, in the order of the days, the last first.
+LineStatement StatementOf(const Filter& filter, const Findings& findings, const std::optional<Place>& behind,
+                          std::size_t most, const Dialect& dialect);
+
+/// The words of a text as an engine looks for their beginnings; empty where there is none.
+std::string WordsSought(const std::string& text, const Dialect& dialect);
+
+} // namespace kova::family::history
