@@ -1,0 +1,94 @@
+// What a line tells of the fields that it has changed.
+
+#include "tests/unit/family/history/history_fixture.hpp"
+
+#include "family/registers/customers/customer_registers.hpp"
+
+#include <algorithm>
+
+namespace kova::family::test {
+
+using Lines = std::vector<std::string>;
+
+using HistoryChanges = HistoryTest;
+
+TEST_F(HistoryChanges, OfAnAppointmentAreCalledAsTheRecordFormsCallThem)
+{
+    OtherChanges(FullNumber, [](AppointmentInput& input) {
+        input.startTime = "11:00";
+        input.endTime = "12:00";
+        input.remark = "Às 10h, \"sem falta\"";
+    });
+    EXPECT_EQ(Changes(Newest("agendamento", FullNumber)),
+              (Lines{"Hora inicial: 09:00 > 11:00", "Hora final: 10:00 > 12:00",
+                     "Observação: Laço azul. > Às 10h, \"sem falta\""}));
+}
+
+TEST_F(HistoryChanges, OfARegisterAreCalledAndShownAsItsFormDoes)
+{
+    OtherSaves(registers::AnimalRegister(), 50,
+               {{"Código do cliente", "10"}, {"Sexo", "Macho"}, {"Porte", "Gigante"}});
+    EXPECT_EQ(Changes(Newest("animal", 50)), (Lines{"Sexo: Fêmea > Macho", "Porte: Médio > Gigante"}));
+    OtherSaves(registers::CustomerRegister(), 10,
+               {{"Canais", "Celular: (11) 91234-5678"}, {"Situação", "Bloqueado"}, {"CEP", "01310-100"}});
+    const Lines told = Changes(Newest("cliente", 10));
+    EXPECT_NE(std::ranges::find(told, "Situação: Ativo > Bloqueado"), told.end());
+    EXPECT_NE(std::ranges::find(told, "CEP: 00123-456 > 01310-100"), told.end());
+    EXPECT_TRUE(std::ranges::any_of(told, [](const std::string& one) {
+        return one.starts_with("Canais: ") && one.ends_with("> Celular: (11) 91234-5678");
+    }));
+    EXPECT_EQ(told.size(), 3U) << "what follows from other fields is not told twice";
+}
+
+TEST_F(HistoryChanges, NameTheRowsThatCodesStandFor)
+{
+    OtherSaves(registers::ServiceRegister(), 2, {{"Nome", "Banho e tosa"}});
+    Run("update auditoria set antes = '{\"numero_do_tipo_de_servico\":1}',"
+        " depois = '{\"numero_do_tipo_de_servico\":77}' where tabela = 'servico' and chave = 2");
+    EXPECT_EQ(Changes(Newest("servico", 2)), (Lines{"Tipo: 1 - Consulta > 77"}));
+}
+
+TEST_F(HistoryChanges, HideAmountsFromWhoeverMayNotSeePrices)
+{
+    OtherSaves(registers::ServiceRegister(), 2, {{"Preço", "70,00"}, {"Descrição", "Com xampu"}});
+    EXPECT_EQ(Changes(Newest("servico", 2)), (Lines{"Descrição:  > Com xampu", "Preço: 60,00 > 70,00"}));
+    OtherSetsStatus(FullNumber, 4);
+    LiaMay({Right::SeeHistory});
+    EXPECT_EQ(Changes(Newest("servico", 2)),
+              (Lines{"Descrição:  > Com xampu", "Preço: (oculto) > (oculto)"}));
+    const Lines preSale = Changes(Find(OfRow("agendamento", FullNumber)).at(1));
+    EXPECT_NE(std::ranges::find(preSale, "Valor:  > (oculto)"), preSale.end());
+}
+
+TEST_F(HistoryChanges, OfLinesOfOtherKindsAreToldInWords)
+{
+    LiaMay({Right::SeeHistory});
+    Run("insert into auditoria (momento, usuario, tabela, chave, operacao, depois) values"
+        " ('2026-11-20 11:00:00', '7 - Lia', 'usuario', 7, 'direito_negado', "
+        "'{\"direito\":\"dados.exportar\"}'),"
+        " ('2026-11-20 11:00:01', '7 - Lia', 'uma_tabela', 7, 'outra_coisa', '{\"de_onde\":\"daqui\"}')");
+    const std::vector<Line> found = Find({}, 2);
+    EXPECT_EQ(history::ActOf(found[0]), "outra coisa: uma tabela 7");
+    EXPECT_EQ(Changes(found[0]), (Lines{"De onde:  > daqui"}));
+    EXPECT_EQ(history::ActOf(found[1]), "Foi recusado por falta de direito: o usuário 7");
+    EXPECT_EQ(Changes(found[1]), (Lines{"Direito:  > Exportar dados"}));
+}
+
+TEST_F(HistoryChanges, TellOfColumnsThatTheLineHasAndOfNoOthers)
+{
+    Run("update auditoria set antes = '{\"observacao\":\"a\"}', depois = '{\"observacao\":\"b\"}',"
+        " operacao = 'alteracao' where tabela = 'agendamento' and chave = 24");
+    EXPECT_EQ(Changes(Newest("agendamento", FullNumber)), (Lines{"Observação: a > b"}));
+}
+
+TEST_F(HistoryChanges, KeepQuotesLongTextsAndBytesThatAreNoCharacters)
+{
+    const std::string longText(1000, 'x');
+    Run("update auditoria set antes = '{\"nome\":\"d''Ávila \\\"Zé\\\" <b>\"}', depois = '{\"nome\":\""
+        + longText
+        + "\"}', operacao = 'alteracao', tabela = 'cliente', chave = 10 where tabela = 'agendamento' and "
+          "chave = 24");
+    EXPECT_EQ(Changes(Newest("cliente", 10)), (Lines{"Nome: d'Ávila \"Zé\" <b> > " + longText}));
+}
+
+} // namespace kova::family::test
