@@ -1,6 +1,7 @@
 #include "screens/plain_label.hpp"
 
 #include <QLabel>
+#include <QTextDocument>
 
 namespace kova::screens {
 
@@ -11,6 +12,11 @@ QLabel* MakePlainLabel(const QString& name, QWidget* parent)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
+}
+
+QString PlainTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
 
 } // namespace kova::screens

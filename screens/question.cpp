@@ -14,6 +14,7 @@ const QString ProductName = QStringLiteral("Kovaris");
 bool AskWhether(QWidget& over, const QString& question)
 {
     QMessageBox box(QMessageBox::Question, ProductName, question, QMessageBox::NoButton, &over);
+    box.setTextFormat(Qt::PlainText);
     QPushButton* yes = box.addButton(QStringLiteral("&Sim"), QMessageBox::YesRole);
     QPushButton* no = box.addButton(QStringLiteral("&Não"), QMessageBox::NoRole);
     box.setDefaultButton(no);
@@ -27,6 +28,7 @@ WhatOfChanges AskAboutChanges(QWidget& over, const QString& title)
     QMessageBox box(QMessageBox::Question, ProductName,
                     title + QStringLiteral(": há alterações que não foram salvas."), QMessageBox::NoButton,
                     &over);
+    box.setTextFormat(Qt::PlainText);
     QPushButton* save = box.addButton(QStringLiteral("&Salvar"), QMessageBox::AcceptRole);
     QPushButton* discard = box.addButton(QStringLiteral("&Descartar"), QMessageBox::DestructiveRole);
     QPushButton* stay = box.addButton(QStringLiteral("&Continuar aqui"), QMessageBox::RejectRole);
