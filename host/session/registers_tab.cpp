@@ -5,6 +5,7 @@
 #include "family/registers/access/access_registers.hpp"
 #include "family/users/user_rights.hpp"
 #include "host/folders.hpp"
+#include "host/session/tab_explanation.hpp"
 #include "host/session/user_change.hpp"
 #include "host/shell/main_window.hpp"
 #include "host/sign_in/user_dialogs.hpp"
@@ -12,25 +13,12 @@
 #include "registers/registers_page.hpp"
 #include "screens/run_alone.hpp"
 #include "system/path_text.hpp"
-#include "toolkits/qt/look/theme.hpp"
 
 #include <QCryptographicHash>
-#include <QLabel>
 
 namespace kova::host {
 
 namespace {
-
-QWidget* Explanation(const QString& text, QWidget& parent)
-{
-    auto* label = new QLabel(text, &parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setAlignment(Qt::AlignCenter);
-    label->setMargin(80);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    return label;
-}
 
 bool MayAdminister(const registers::Desk& desk)
 {
@@ -85,16 +73,15 @@ QWidget* RegistersTab::MakePage(QWidget& parent)
         desk.drafts = std::make_shared<screens::DraftFolder>(DraftsOf(source_));
         registers::RegistersChoice choice;
         choice.actions.push_back(SecretsAction());
+        choice.actions.insert(choice.actions.end(), more_.begin(), more_.end());
         choice.guarded = {&family::registers::UserRegister(), &family::registers::RoleRegister()};
         choice.showsGuarded = [desk] { return MayAdminister(desk); };
         page_ = new registers::RegistersPage(std::move(desk), &parent, std::move(choice));
         change_.Follow(*page_, [this] { page_->Refresh(); });
         return page_;
     } catch (const Failure& failure) {
-        return Explanation(QStringLiteral("Os cadastros não puderam ser abertos.\n\n")
-                               + qt::Lines(failure.Description())
-                               + QStringLiteral("\n\nCorrija a causa e abra o programa novamente."),
-                           parent);
+        return ExplanationInTab(QStringLiteral("Os cadastros não puderam ser abertos."),
+                                failure.Description(), parent);
     }
 }
 

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
-#include "registers/desk.hpp"
+#include "registers/record_actions.hpp"
 
 #include <string>
+#include <utility>
 
 class QWidget;
 
@@ -24,6 +25,8 @@ public:
     RegistersTab(std::string source, ObjectRef user, const Clock& clock, UserChange& change);
 
     void AddTo(MainWindow& window);
+    /// More that can be done with rows, behind what is usual; to be told before the page is made.
+    void Offer(registers::RecordActions actions) { more_ = std::move(actions); }
     /// Asks a shop that has no company for it, and answers its trade name: "" where the user leaves that for
     /// later. Fails with a DatabaseFailure.
     std::string AskForCompany();
@@ -38,6 +41,7 @@ private:
     ObjectRef user_;
     const Clock& clock_;
     UserChange& change_;
+    registers::RecordActions more_;
     /// Null before the page is made.
     registers::RegistersPage* page_ = nullptr;
 };

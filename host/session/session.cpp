@@ -15,6 +15,7 @@
 #include "host/session/agenda_guard.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
+#include "host/session/history_tab.hpp"
 #include "host/session/noted_prints.hpp"
 #include "host/session/registers_tab.hpp"
 #include "host/session/remembered_shops.hpp"
@@ -124,6 +125,7 @@ private:
     std::shared_ptr<SessionUser> user_;
     UserChange userChange_;
     std::unique_ptr<RegistersTab> registers_;
+    std::unique_ptr<HistoryTab> history_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<Door> door_;
     ComponentRef agenda_;
@@ -142,6 +144,7 @@ SessionEnd Session::Run()
     if (!Admit(*door_, options_, outlet_))
         return {EXIT_SUCCESS, std::nullopt};
     registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_, userChange_);
+    history_ = std::make_unique<HistoryTab>(SourceOf(options_), user_, clock_, userChange_);
     if (shop.tradeName.empty() && outlet_ == Outlet::Window && !options_.firstPaint)
         shop.tradeName = registers_->AskForCompany();
     window_ = std::make_unique<MainWindow>(MainWindow::Heading{QString::fromStdString(shop.tradeName),
@@ -155,6 +158,8 @@ SessionEnd Session::Run()
     door_->Watch(*window_);
     FillMenu();
     GuardAgenda();
+    history_->AddTo(*window_);
+    registers_->Offer(history_->Actions());
     OpenList();
     if (options_.firstPaint)
         return {PaintWindow(), std::nullopt};

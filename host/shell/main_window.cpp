@@ -86,13 +86,16 @@ void MainWindow::AddShortcuts()
             [this] { row_->OpenMenu(); });
 }
 
-void MainWindow::AddTab(const QString& name, MakePage make)
+int MainWindow::AddTab(const QString& name, MakePage make)
 {
     unmade_.push_back(std::move(make));
     const int tab = row_->GetTabs().addTab(name);
     row_->GetTabs().setTabToolTip(tab, name + QStringLiteral(" (Alt+%1)").arg(tab + 1));
     pages_->addWidget(new QWidget(pages_));
+    return tab;
 }
+
+void MainWindow::ShowTab(int tab) { row_->GetTabs().setCurrentIndex(tab); }
 
 void MainWindow::TurnTo(int tab)
 {

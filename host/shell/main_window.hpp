@@ -33,7 +33,10 @@ public:
 
     /// Makes what a tab shows, when it is turned to for the first time.
     using MakePage = std::function<QWidget*(QWidget& parent)>;
-    void AddTab(const QString& name, MakePage make);
+    /// Answers its place in the row.
+    int AddTab(const QString& name, MakePage make);
+    /// As a press of that tab does.
+    void ShowTab(int tab);
     /// The application's menu, at the right end of the tabs.
     QMenu& Menu();
     /// Somebody else works with it from now on: in the title, and at the right end of the tabs.

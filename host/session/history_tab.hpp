@@ -1,0 +1,46 @@
+#pragma once
+
+#include "agenda/contracts/platform.hpp"
+#include "family/data/engine/key.hpp"
+#include "registers/record_actions.hpp"
+
+#include <string>
+
+class QWidget;
+
+namespace kova::history {
+class HistoryPage;
+}
+
+namespace kova::host {
+
+class MainWindow;
+class UserChange;
+
+/// The history's tab, "Histórico", over a connection of its own to the shop at that source, which is opened
+/// when the tab is turned to for the first time. Ctrl+H, an entry of the menu, and one behind "Mais..." of
+/// every register lead to it.
+class HistoryTab {
+public:
+    /// `user` and `clock` say who looks at it and undoes, and when. All must outlive the window.
+    HistoryTab(std::string source, ObjectRef user, const Clock& clock, UserChange& change);
+
+    void AddTo(MainWindow& window);
+    /// "Histórico" of a row, for each register.
+    registers::RecordActions Actions();
+
+private:
+    QWidget* MakePage(QWidget& parent);
+    void ShowRow(const std::string& table, family::Key key, const QString& called);
+
+    std::string source_;
+    ObjectRef user_;
+    const Clock& clock_;
+    UserChange& change_;
+    MainWindow* window_ = nullptr;
+    int tab_ = 0;
+    /// Null before the page is made.
+    history::HistoryPage* page_ = nullptr;
+};
+
+} // namespace kova::host
