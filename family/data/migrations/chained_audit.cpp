@@ -50,6 +50,9 @@ std::vector<std::string> LinkOnServer()
         // Names stand for the agenda's own tables, and never for temporary ones of whoever writes.
         "do $$ begin execute format('alter function encadeia_auditoria() set search_path = %I, pg_temp',"
         " current_schema()); end $$",
+        // The plan is kept for as long as a desk is connected, and made when there may be few links yet: it
+        // must not be one that reads all of them.
+        "alter function encadeia_auditoria() set enable_seqscan = off",
         // Whoever may run it can have it link rows of a table of his own.
         "revoke all on function encadeia_auditoria() from public",
         "create constraint trigger auditoria_encadeada after insert or update on auditoria"
