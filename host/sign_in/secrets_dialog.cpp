@@ -39,7 +39,7 @@ bool IsGiven(screens::FieldFrame* frame, const QString& reason)
 SecretsDialog::SecretsDialog(const Question& question, Save save, QWidget* parent)
     : QDialog(parent),
       save_(std::move(save)),
-      removesPin_(new QCheckBox(QStringLiteral("&Tirar o PIN"))),
+      removesPin_(new QCheckBox(QStringLiteral("&Tirar o PIN"), this)),
       failure_(new screens::RefusalLabel(this))
 {
     setObjectName(QStringLiteral("SenhaEPin"));
