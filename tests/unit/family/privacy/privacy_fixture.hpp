@@ -17,7 +17,7 @@ protected:
     const std::vector<std::string>& Marks() const { return marks_; }
     /// Books and changes in the shop's own ways, so that the audit tells of it.
     void Write();
-    /// Every value of every table, a line for each row.
+    /// Every value of every table but the links of the audit, a line for each row.
     std::string WholeDatabase();
 
     const Author ana_{"3", "Ana", "2026-11-20 09:04:05", "BALCAO-1"};
