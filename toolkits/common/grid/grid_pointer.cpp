@@ -13,11 +13,20 @@ namespace {
 /// A place above and left of all cells.
 constexpr Twips Outside = -1;
 
+/// Forms count rows from the heading down: behind it a place is told as it would be were no row scrolled out.
+Twips ToldPlace(const GridAxis& rows, Twips y)
+{
+    const auto firstRow = static_cast<Twips>(rows.Start(rows.First()));
+    if (y < firstRow)
+        return y;
+    return y + firstRow - static_cast<Twips>(rows.Start(rows.Fixed()));
+}
+
 } // namespace
 
 void GridModel::RaiseMouseMoveAt(Twips x, Twips y)
 {
-    GetForm().Raise(mouseMove_, Integer{0}, Integer{0}, x, y);
+    GetForm().Raise(mouseMove_, Integer{0}, Integer{0}, x, ToldPlace(rows_, y));
 }
 
 void GridModel::UserMovesMouse(Integer button, Integer shift, Twips x, Twips y)
@@ -25,7 +34,7 @@ void GridModel::UserMovesMouse(Integer button, Integer shift, Twips x, Twips y)
     const bool wasUntold = pointer_.isUntold;
     pointer_ = {.kind = Pointer::Kind::Mouse, .x = x, .y = y, .isUntold = wasUntold};
     if (TakesInput())
-        ByUser([=, this] { GetForm().Raise(mouseMove_, button, shift, x, y); });
+        ByUser([=, this] { GetForm().Raise(mouseMove_, button, shift, x, ToldPlace(rows_, y)); });
     else
         MarkUntold();
 }

@@ -228,6 +228,21 @@ TEST_F(Grid, PlacesTheCurrentCellInsideItself)
     EXPECT_EQ(grid_->CellTop(), 700);
 }
 
+TEST_F(Grid, TellsThePlaceOfTheMouseAsIfNoRowWereScrolledOut)
+{
+    Shape(20, 3);
+    Listen();
+    grid_->TopRow(3);
+    TakeEvents();
+    Model().UserMovesMouse(0, 0, 10, 250);
+    Model().UserMovesMouse(0, 0, 10, 239);
+    EXPECT_EQ(TakeEvents(), (std::vector<std::string>{"move 730", "move 239"}));
+    grid_->Row(4);
+    TakeEvents();
+    Model().UserKey(toolkit::GridKey::Down);
+    EXPECT_EQ(TakeEvents().back(), "move " + std::to_string(5 * 240 + 120));
+}
+
 TEST_F(Grid, ReducesATopRowThatIsTooLarge)
 {
     Shape(20, 2);
