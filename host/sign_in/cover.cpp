@@ -4,7 +4,9 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QWidget>
 
 namespace kova::host {
 
