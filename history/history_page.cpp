@@ -8,6 +8,7 @@
 #include "history/line_panel.hpp"
 #include "screens/plain_label.hpp"
 #include "screens/question.hpp"
+#include "screens/row_table.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QHeaderView>
@@ -27,7 +28,6 @@ namespace {
 
 using family::history::Subject;
 
-constexpr int RowHeight = 28;
 /// Beside each other.
 constexpr int WidthOfList = 3, WidthOfPanel = 2;
 constexpr int RoomInColumn = 10;
@@ -35,19 +35,8 @@ constexpr int WidestColumn = 160;
 
 QTableView* MakeList(LineModel& lines, QWidget* parent)
 {
-    auto* list = new QTableView(parent);
-    list->setModel(&lines);
+    QTableView* const list = screens::MakeRowTable(lines, QStringLiteral("Linhas do histórico"), parent);
     list->setObjectName(QStringLiteral("linhas"));
-    list->setAccessibleName(QStringLiteral("Linhas do histórico"));
-    list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list->setShowGrid(false);
-    list->setWordWrap(false);
-    list->setTabKeyNavigation(false);
-    list->verticalHeader()->hide();
-    list->verticalHeader()->setDefaultSectionSize(RowHeight);
-    list->horizontalHeader()->setHighlightSections(false);
     list->horizontalHeader()->moveSection(LineModel::Where, LineModel::What);
     list->horizontalHeader()->setSectionResizeMode(LineModel::What, QHeaderView::Stretch);
     return list;
@@ -195,9 +184,8 @@ void HistoryPage::FindLines(const family::history::Filter& filter)
     Tell({});
     lines_->Show(filter);
     TellFound();
-    list_->resizeColumnsToContents();
     for (const int column : {LineModel::When, LineModel::Who, LineModel::Where})
-        list_->setColumnWidth(column, std::min(list_->columnWidth(column) + RoomInColumn, WidestColumn));
+        screens::FitColumn(*list_, column, RoomInColumn, WidestColumn);
     Mark(marked);
 }
 

@@ -1,17 +1,15 @@
 #include "registers/row_list.hpp"
 
 #include "registers/row_model.hpp"
+#include "screens/row_table.hpp"
 
 #include <QHeaderView>
 #include <QTableView>
-
-#include <algorithm>
 
 namespace kova::registers {
 
 namespace {
 
-constexpr int RowHeight = 28;
 constexpr int RoomInColumn = 8;
 constexpr int WidestColumn = 200;
 
@@ -19,19 +17,8 @@ constexpr int WidestColumn = 200;
 
 QTableView* MakeRowList(RowModel& rows, const QString& name, QWidget* parent)
 {
-    auto* list = new QTableView(parent);
-    list->setModel(&rows);
-    list->setAccessibleName(name);
+    QTableView* const list = screens::MakeRowTable(rows, name, parent);
     list->setObjectName(QStringLiteral("lista"));
-    list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list->setShowGrid(false);
-    list->setWordWrap(false);
-    list->setTabKeyNavigation(false);
-    list->verticalHeader()->hide();
-    list->verticalHeader()->setDefaultSectionSize(RowHeight);
-    list->horizontalHeader()->setHighlightSections(false);
     list->horizontalHeader()->setStretchLastSection(true);
     return list;
 }
@@ -44,9 +31,8 @@ void ShowPrices(QTableView& list, std::span<const family::registers::ListColumn>
 
 void FitColumns(QTableView& list)
 {
-    list.resizeColumnsToContents();
     for (int column = 0; column < list.model()->columnCount(); ++column)
-        list.setColumnWidth(column, std::min(list.columnWidth(column) + RoomInColumn, WidestColumn));
+        screens::FitColumn(list, column, RoomInColumn, WidestColumn);
 }
 
 } // namespace kova::registers
