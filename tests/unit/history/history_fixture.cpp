@@ -8,11 +8,9 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
 #include <QTableWidget>
-#include <QTimer>
 
 namespace kova::history::test {
 
@@ -131,34 +129,6 @@ std::vector<std::string> HistoricoTest::Fields()
 }
 
 std::string HistoricoTest::TextOf(const char* label) { return Find<QLabel>(label).text().toStdString(); }
-
-void HistoricoTest::Answer(std::initializer_list<const char*> buttons)
-{
-    answers_.assign(buttons.begin(), buttons.end());
-    QTimer::singleShot(0, page_.get(), [this] { AnswerBox(); });
-}
-
-void HistoricoTest::AnswerBox()
-{
-    auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr || answers_.empty()) {
-        if (!answers_.empty())
-            QTimer::singleShot(1, page_.get(), [this] { AnswerBox(); });
-        return;
-    }
-    boxes_.push_back(box->text().toStdString());
-    EXPECT_EQ(box->textFormat(), Qt::PlainText);
-    const QString wanted = QString::fromStdString(answers_.front());
-    answers_.pop_front();
-    if (!answers_.empty())
-        QTimer::singleShot(1, page_.get(), [this] { AnswerBox(); });
-    for (QAbstractButton* button : box->buttons()) {
-        if (button->text().remove(QLatin1Char('&')) == wanted)
-            return QTest::mouseClick(button, Qt::LeftButton);
-    }
-    ADD_FAILURE() << "the box \"" << boxes_.back() << "\" has no button " << wanted.toStdString();
-    box->reject();
-}
 
 std::vector<std::string> HistoricoTest::Stored(const std::string& statement)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/box_answers.hpp"
 #include "tests/support/sqlite_file.hpp"
 
 #include "history/history_page.hpp"
@@ -9,7 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -52,7 +52,7 @@ protected:
     std::string TextOf(const char* label);
 
     /// The buttons that the next boxes are answered with; what they said is kept in `boxes_`.
-    void Answer(std::initializer_list<const char*> buttons);
+    void Answer(std::initializer_list<const char*> buttons) { answers_.Give(buttons); }
 
     std::vector<std::string> Stored(const std::string& statement);
 
@@ -63,10 +63,9 @@ protected:
     std::vector<std::string> boxes_;
 
 private:
-    void AnswerBox();
     QWidget& Keyboard();
 
-    std::deque<std::string> answers_;
+    kova::test::BoxAnswers answers_{boxes_};
 };
 
 } // namespace kova::history::test

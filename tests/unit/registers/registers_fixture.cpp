@@ -5,7 +5,6 @@
 #include "family/registers/registers.hpp"
 
 #include <QApplication>
-#include <QMessageBox>
 #include <QTimer>
 
 namespace kova::registers::test {
@@ -85,7 +84,7 @@ void CadastrosTest::ShowPage(std::initializer_list<const char*> answers)
     page_->show();
     if (answers.size() > 0) {
         EXPECT_TRUE(QTest::qWaitFor(
-            [this] { return answers_.empty() && QApplication::activeModalWidget() == nullptr; }));
+            [this] { return answers_.AreGiven() && QApplication::activeModalWidget() == nullptr; }));
         page_->activateWindow();
     }
     EXPECT_TRUE(QTest::qWaitForWindowActive(page_.get()));
@@ -173,33 +172,6 @@ std::vector<std::string> CadastrosTest::Reasons()
             reasons.push_back(one->accessibleDescription().toStdString());
     }
     return reasons;
-}
-
-void CadastrosTest::Answer(std::initializer_list<const char*> buttons)
-{
-    answers_.assign(buttons.begin(), buttons.end());
-    QTimer::singleShot(0, page_.get(), [this] { AnswerBox(); });
-}
-
-void CadastrosTest::AnswerBox()
-{
-    auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr || answers_.empty()) {
-        if (!answers_.empty())
-            QTimer::singleShot(1, page_.get(), [this] { AnswerBox(); });
-        return;
-    }
-    boxes_.push_back(box->text().toStdString());
-    const QString wanted = QString::fromStdString(answers_.front());
-    answers_.pop_front();
-    if (!answers_.empty())
-        QTimer::singleShot(1, page_.get(), [this] { AnswerBox(); });
-    for (QAbstractButton* button : box->buttons()) {
-        if (button->text().remove(QLatin1Char('&')) == wanted)
-            return QTest::mouseClick(button, Qt::LeftButton);
-    }
-    ADD_FAILURE() << "the box \"" << boxes_.back() << "\" has no button " << wanted.toStdString();
-    box->reject();
 }
 
 void CadastrosTest::InDialog(const char* name, const std::function<void(QDialog&)>& act)

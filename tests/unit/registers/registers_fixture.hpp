@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/box_answers.hpp"
 #include "tests/support/sqlite_file.hpp"
 
 #include "registers/registers_page.hpp"
@@ -15,7 +16,6 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <functional>
 #include <optional>
 
@@ -65,7 +65,7 @@ protected:
     std::string Told() { return Find<QLabel>("recado").text().toStdString(); }
 
     /// The buttons that the next boxes are answered with; what they said is kept in `boxes_`.
-    void Answer(std::initializer_list<const char*> buttons);
+    void Answer(std::initializer_list<const char*> buttons) { answers_.Give(buttons); }
 
     /// Acts in the dialog of that name as soon as it takes input.
     void InDialog(const char* name, const std::function<void(QDialog&)>& act);
@@ -82,11 +82,10 @@ protected:
     std::vector<std::string> boxes_;
 
 private:
-    void AnswerBox();
     void ShowPage(std::initializer_list<const char*> answers);
     QWidget& Keyboard();
 
-    std::deque<std::string> answers_;
+    kova::test::BoxAnswers answers_{boxes_};
 };
 
 } // namespace kova::registers::test
