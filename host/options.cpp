@@ -16,6 +16,7 @@ const arguments::Program ThisProgram{
        "Abre o banco de dados BANCO: o caminho de um arquivo, ou o endereço de um\n"
        "servidor PostgreSQL, como postgresql://ana@servidor/loja, sem a senha. Sem\n"
        "esta opção abre a última loja, ou pergunta com que loja trabalhar."},
+      {"--demo", {}, "Abre a loja de demonstração, e a cria onde ela falta."},
       {"--user", "NOME",
        "Nome do usuário da sessão, gravado em tudo que for alterado. Só em lojas de\n"
        "demonstração; nas outras entra quem está no posto, com a data e a hora do relógio."},
@@ -99,6 +100,9 @@ Options ParseOptions(const std::vector<std::string>& words)
     options.answer = asked.answer;
     options.isTyped = true;
     options.database = asked.call.Option("--database").value_or("");
+    options.demonstration = asked.call.Has("--demo");
+    if (options.demonstration && !options.database.empty())
+        asked.call.Refuse("As opções --demo e --database pedem duas lojas.");
     options.user = asked.call.Option("--user").value_or("");
     options.date = asked.call.Day("--date");
     options.time = GivenStart(asked.call);

@@ -22,6 +22,8 @@ enum class LookChoice { Light, Dark };
 struct Options {
     /// Path of the database, or its address on a server; "" is the demonstration shop.
     std::string database;
+    /// The demonstration shop, whichever was open last.
+    bool demonstration = false;
     /// Name of the session's user; "" is the name that the computer knows. In a shop with users whoever signs
     /// in.
     std::string user;

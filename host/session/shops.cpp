@@ -23,7 +23,10 @@ std::string AsOption(const std::string& source)
 }
 
 /// Of those with a window.
-bool AsksForShops(const Options& options) { return !options.firstPaint && options.database.empty(); }
+bool AsksForShops(const Options& options)
+{
+    return !options.firstPaint && !options.demonstration && options.database.empty();
+}
 
 /// A name, a day and a time that somebody has typed are for the first shop.
 void ForgetPretence(Options& options)

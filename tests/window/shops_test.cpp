@@ -24,15 +24,20 @@ constexpr const char* List = "frmLista";
 
 class ShopsOfThisComputer : public Shop {
 protected:
+    static int Run(host::Options options)
+    {
+        options.user = "Antônia";
+        options.date = Date{2026, 11, 20};
+        options.size = host::WindowSize{1366, 768};
+        return host::RunShops(options, host::Outlet::Window);
+    }
+
     /// The application with a shop on its command line, or without.
     static int RunShops(const std::string& given = "")
     {
         host::Options options;
         options.database = given;
-        options.user = "Antônia";
-        options.date = Date{2026, 11, 20};
-        options.size = host::WindowSize{1366, 768};
-        return host::RunShops(options, host::Outlet::Window);
+        return Run(options);
     }
 
     host::RememberedShops remembered_{host::SettingsFile()};
@@ -166,6 +171,17 @@ TEST_F(ShopsOfThisComputer, AreNotAskedForWhereOneIsGiven)
     EXPECT_EQ(RunShops(Database()), EXIT_SUCCESS);
     EXPECT_EQ(title.find("(demonstração)"), std::string::npos) << title;
     EXPECT_EQ(remembered_.All().front().source, Database());
+}
+
+TEST_F(ShopsOfThisComputer, AreNotAskedForWhereTheDemonstrationIs)
+{
+    remembered_.Remember({Database(), "Esta"});
+    host::Options options;
+    options.demonstration = true;
+    std::string title;
+    receptionist->WaitsFor(List).Looks([&] { title = Title(); }).Leaves();
+    EXPECT_EQ(Run(options), EXIT_SUCCESS);
+    EXPECT_NE(title.find("(demonstração)"), std::string::npos) << title;
 }
 
 TEST_F(ShopsOfThisComputer, TellWhyTheirAgendaCannotBeOpenedAndSayInTheirWindowThatItIsNot)

@@ -31,6 +31,7 @@ TEST(Options, AreTheDemonstrationShopInAWindowWithoutArguments)
 {
     const Options options = ParseOptions({});
     EXPECT_EQ(options.database, "");
+    EXPECT_FALSE(options.demonstration);
     EXPECT_EQ(options.user, "");
     EXPECT_EQ(options.picture, "");
     EXPECT_FALSE(options.date.has_value());
@@ -41,6 +42,12 @@ TEST(Options, AreTheDemonstrationShopInAWindowWithoutArguments)
 }
 
 TEST(Options, KnowTheSwitchForMeasuringTheStart) { EXPECT_TRUE(ParseOptions({"--first-paint"}).firstPaint); }
+
+TEST(Options, AskForTheDemonstrationOrForAShopButNotForBoth)
+{
+    EXPECT_TRUE(ParseOptions({"--demo"}).demonstration);
+    ExpectRefusalNames({"--demo", "--database", "loja.db"}, "--database");
+}
 
 TEST(Options, TakeTheirValueFromTheNextArgument)
 {
@@ -129,8 +136,8 @@ TEST(Options, ChooseALook)
 TEST(Options, HelpNamesEveryOption)
 {
     const std::string help = ParseOptions({"--help"}).answer.value_or("");
-    for (const char* name : {"--database", "--user", "--date", "--time", "--picture", "--size", "--look",
-                             "--first-paint", "--version", "--help"})
+    for (const char* name : {"--database", "--demo", "--user", "--date", "--time", "--picture", "--size",
+                             "--look", "--first-paint", "--version", "--help"})
         EXPECT_NE(help.find(name), std::string::npos) << name;
 }
 
