@@ -166,11 +166,15 @@ template <class Change> void Registry::ChangeLocked(Change change)
 {
     std::error_code error;
     std::filesystem::create_directories(FolderOf(path_), error);
-    const system::FileLock lock = system::FileLock::Await(path_ + ".lock", error);
+    system::FileLock lock;
+    // Where there is no folder, what the lock would say of it is not the reason.
+    if (!error)
+        lock = system::FileLock::Await(path_ + ".lock", error);
     if (!lock.IsHeld())
         throw ComponentError(
             WithDetail("O arquivo de registro " + Quoted(path_)
-                           + " não pôde ser bloqueado para gravação. Verifique as permissões da pasta.",
+                           + " não pôde ser bloqueado para gravação. Verifique as permissões "
+                             "da pasta e o espaço em disco.",
                        error.message()));
     Lines lines = ReadLines();
     if (change(lines))
