@@ -23,6 +23,7 @@
 #include "host/session/session_user.hpp"
 #include "host/session/shop.hpp"
 #include "host/session/user_change.hpp"
+#include "host/shell/help.hpp"
 #include "host/shell/main_window.hpp"
 #include "host/sign_in/door.hpp"
 #include "host/sign_in/door_menu.hpp"
@@ -177,6 +178,7 @@ void Session::FillMenu()
             TurnTo(*source);
     });
     AddRememberedShops();
+    AddHelp(*window_, GuideFile(), OpenOnDesktop);
 }
 
 void Session::AddRememberedShops()
