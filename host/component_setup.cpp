@@ -95,4 +95,14 @@ void SetUpComponents(Registry& registry, RegistryServerHost& server, const fs::p
         std::cerr << "Kovaris: " << problem.message << std::endl;
 }
 
+void LoadComponents(const Registry& registry, RegistryServerHost& server)
+{
+    for (const ClassRegistration& entry : registry.Load().classes) {
+        try {
+            server.Libraries().Load(registry.Find(entry.className)->libraryPath);
+        } catch (const ComponentError&) {
+        }
+    }
+}
+
 } // namespace kova::host

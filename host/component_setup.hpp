@@ -14,4 +14,8 @@ namespace kova::host {
 /// the text names it.
 void SetUpComponents(Registry& registry, RegistryServerHost& server, const std::filesystem::path& folder);
 
+/// Loads what is not loaded yet of the libraries that the registry names, so that an update under the running
+/// program does not mix libraries of two versions. One that cannot be loaded is told when it is needed.
+void LoadComponents(const Registry& registry, RegistryServerHost& server);
+
 } // namespace kova::host

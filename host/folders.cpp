@@ -42,6 +42,11 @@ fs::path DraftsFolder() { return SettingsFolder() / "rascunhos"; }
 
 fs::path SettingsFile() { return SettingsFolder() / "kovaris.ini"; }
 
-fs::path ProgramFolder() { return system::ProgramPath().parent_path(); }
+fs::path ProgramFolder()
+{
+    // Once the program's file is replaced by an update, nobody can ask where it was.
+    static const fs::path folder = system::ProgramPath().parent_path();
+    return folder;
+}
 
 } // namespace kova::host

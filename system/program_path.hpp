@@ -11,4 +11,8 @@ std::filesystem::path ProgramPath();
 /// Throws std::filesystem::filesystem_error.
 std::filesystem::path OwnPath();
 
+/// Whether the file of the program that runs is gone from its place: an update has put another one there, or
+/// it was removed. False on systems that let nobody do so.
+bool ProgramWasReplaced();
+
 } // namespace kova::system

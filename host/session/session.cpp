@@ -16,6 +16,7 @@
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
 #include "host/session/history_tab.hpp"
+#include "host/session/newer_program.hpp"
 #include "host/session/noted_prints.hpp"
 #include "host/session/registers_tab.hpp"
 #include "host/session/remembered_shops.hpp"
@@ -44,6 +45,9 @@ namespace kova::host {
 namespace {
 
 constexpr Long PrintedRows = 15;
+const QString NewerProgramText = QStringLiteral(
+    "Uma versão mais nova do programa foi instalada. Esta continua funcionando; feche-a e abra o "
+    "programa novamente quando for conveniente.");
 /// The code that writes carry until users have registers of their own; their name tells who it was.
 constexpr Long OnlyUser = 1;
 
@@ -132,6 +136,7 @@ private:
     ComponentRef agenda_;
     std::unique_ptr<AgendaGuard> guard_;
     std::unique_ptr<DailyBackup> backup_;
+    NewerProgram newer_{[this] { window_->ShowNotice(NewerProgramText); }};
 };
 
 SessionEnd Session::Run()
@@ -201,6 +206,11 @@ void Session::TurnTo(const std::string& source)
 {
     if (source == SourceOf(options_))
         return;
+    // Another session would begin with the libraries of another version.
+    if (newer_.IsThere()) {
+        window_->ShowNotice(NewerProgramText);
+        return;
+    }
     next_ = source;
     if (!window_->close())
         next_.reset();
@@ -267,7 +277,11 @@ void Session::BackUpDaily()
                                            : QStringLiteral("A cópia de segurança de hoje não foi feita. ")
                                     + QString::fromStdString(WithoutDetail(reason)));
     });
-    AfterFirstPaint(*window_, [this] { backup_->Begin(); });
+    AfterFirstPaint(*window_, [this] {
+        backup_->Begin();
+        LoadComponents(registry_, server_);
+        newer_.Watch();
+    });
 }
 
 void Session::RequireDay() const

@@ -19,4 +19,11 @@ std::filesystem::path OwnPath()
     return isLibrary ? std::filesystem::canonical(file->l_name) : ProgramPath();
 }
 
+bool ProgramWasReplaced()
+{
+    std::error_code unreadable;
+    const std::filesystem::path file = std::filesystem::read_symlink("/proc/self/exe", unreadable);
+    return !unreadable && file.native().ends_with(" (deleted)") && !std::filesystem::exists(file, unreadable);
+}
+
 } // namespace kova::system

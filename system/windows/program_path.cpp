@@ -36,4 +36,6 @@ std::filesystem::path OwnPath()
     return FileOf(module);
 }
 
+bool ProgramWasReplaced() { return false; }
+
 } // namespace kova::system
