@@ -40,6 +40,8 @@ fs::path PictureWithoutDisplay() { return DataFolder() / "agenda.png"; }
 
 fs::path DraftsFolder() { return SettingsFolder() / "rascunhos"; }
 
+fs::path FatalReportsFolder() { return SettingsFolder() / "falhas"; }
+
 fs::path SettingsFile() { return SettingsFolder() / "kovaris.ini"; }
 
 fs::path ProgramFolder()

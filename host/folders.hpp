@@ -20,6 +20,8 @@ std::filesystem::path PictureWithoutDisplay();
 std::filesystem::path SettingsFile();
 /// What is typed and not saved, of all shops.
 std::filesystem::path DraftsFolder();
+/// What a failure that ends the program leaves.
+std::filesystem::path FatalReportsFolder();
 
 /// Folder of this executable, where the component libraries lie.
 std::filesystem::path ProgramFolder();

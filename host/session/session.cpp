@@ -15,6 +15,7 @@
 #include "host/session/agenda_guard.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
+#include "host/session/fatal_reports.hpp"
 #include "host/session/history_tab.hpp"
 #include "host/session/newer_program.hpp"
 #include "host/session/noted_prints.hpp"
@@ -28,12 +29,14 @@
 #include "host/shell/main_window.hpp"
 #include "host/sign_in/door.hpp"
 #include "host/sign_in/door_menu.hpp"
+#include "screens/question.hpp"
 #include "system/path_text.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/qt/handles.hpp"
 
 #include <QApplication>
 #include <QMenu>
+#include <QUrl>
 
 #include <cstdlib>
 #include <iostream>
@@ -114,6 +117,7 @@ private:
     void RequireDay() const;
     int RunWindow();
     void BackUpDaily();
+    void BeginReports();
     int PaintWindow();
     int DrawWindow();
 
@@ -281,7 +285,21 @@ void Session::BackUpDaily()
         backup_->Begin();
         LoadComponents(registry_, server_);
         newer_.Watch();
+        BeginReports();
     });
+}
+
+void Session::BeginReports()
+{
+    const FatalReports reports(FatalReportsFolder());
+    if (reports.TakeNews()
+        && screens::AskWhether(
+            *window_,
+            QStringLiteral("Da última vez o programa terminou por uma falha. O que estava gravado "
+                           "continua gravado.\n\nUm relato para quem cuida do sistema ficou em uma "
+                           "pasta deste computador; ele não tem dados da loja. Abrir essa pasta?")))
+        OpenOnDesktop(QUrl::fromLocalFile(QString::fromStdString(system::TextOf(reports.Folder()))));
+    reports.Begin(family::IsServer(options_.database) ? "uma loja em um servidor" : "uma loja em um arquivo");
 }
 
 void Session::RequireDay() const

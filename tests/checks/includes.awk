@@ -57,7 +57,7 @@ function families_of(header) {
         return "sodium"
     if (header ~ /^(gtest|gmock)\//)
         return "gtest"
-    if (header ~ /^(sys\/[a-z]+|dlfcn|link|netdb|poll|pwd|termios|unistd)\.h$/)
+    if (header ~ /^(sys\/[a-z]+|dlfcn|execinfo|link|netdb|poll|pwd|termios|unistd)\.h$/)
         return "posix"
     if (header ~ /^(initguid|io|knownfolders|lm|shellapi|shlobj|windows|winsock2|ws2tcpip)\.h$/)
         return "windows"

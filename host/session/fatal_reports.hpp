@@ -1,0 +1,27 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace kova::host {
+
+/// Reports of the failures that have ended the program, in a folder beside the settings. They name versions
+/// and places of the program, and nothing of a shop; nobody sends them anywhere.
+class FatalReports {
+public:
+    explicit FatalReports(std::filesystem::path folder) : folder_(std::move(folder)) { }
+
+    const std::filesystem::path& Folder() const { return folder_; }
+
+    /// From now on a fault leaves one. `opened` says what kind of shop is open. Where the folder cannot be
+    /// made the program does without.
+    void Begin(const std::string& opened) const;
+
+    /// Whether there is one that nobody has been told of, and none from then on.
+    bool TakeNews() const;
+
+private:
+    std::filesystem::path folder_;
+};
+
+} // namespace kova::host

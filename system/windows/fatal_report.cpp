@@ -1,0 +1,7 @@
+#include "system/fatal_report.hpp"
+
+namespace kova::system {
+
+void WriteOnFatalFailure(const FatalReport&) { }
+
+} // namespace kova::system
