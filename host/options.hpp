@@ -40,6 +40,9 @@ struct Options {
     std::optional<WindowSize> size;
     /// Nothing takes the desktop's look.
     std::optional<LookChoice> look;
+    /// Lets in whoever has just made the shop, without a question; "" where somebody is asked. The command
+    /// line has none for it.
+    std::string entry;
     /// Somebody has typed them: a name, a day or a time of day hold in fictional shops only.
     bool isTyped = false;
     /// Ends as soon as the day has been painted: for those who measure the start.

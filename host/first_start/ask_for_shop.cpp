@@ -11,8 +11,8 @@
 
 namespace kova::host {
 
-std::optional<std::string> AskForShop(const RememberedShops& remembered, const std::string& told,
-                                      QWidget* parent)
+std::optional<ChosenShop> AskForShop(const RememberedShops& remembered, const std::string& told,
+                                     QWidget* parent)
 {
     const auto look = [](const std::string& source) { return family::CheckDataSource(source); };
     ShopQuestion question({remembered.All(), system::TextOf(DemonstrationDatabase()), NameOfThisUser(),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/first_start/chosen_shop.hpp"
+
 #include <optional>
 #include <string>
 
@@ -9,9 +11,9 @@ namespace kova::host {
 
 class RememberedShops;
 
-/// Asks with which shop to work and answers where it lies; nothing where the user leaves the question. `told`
+/// Asks with which shop to work; nothing where the user leaves the question. `told`
 /// stands above it: "" or why another shop could not be opened.
-std::optional<std::string> AskForShop(const RememberedShops& remembered, const std::string& told,
-                                      QWidget* parent = nullptr);
+std::optional<ChosenShop> AskForShop(const RememberedShops& remembered, const std::string& told,
+                                     QWidget* parent = nullptr);
 
 } // namespace kova::host

@@ -1,7 +1,10 @@
 #include "host/first_start/new_shop_page.hpp"
 
 #include "family/data/engine/database_failure.hpp"
+#include "family/data/sources/data_source.hpp"
 #include "family/data/stores/new_shop.hpp"
+#include "family/users/kept_sign_in.hpp"
+#include "family/users/who_enters.hpp"
 #include "host/first_start/administrator_step.hpp"
 #include "host/first_start/company_step.hpp"
 #include "host/first_start/hours_step.hpp"
@@ -15,6 +18,22 @@
 #include <QStackedWidget>
 
 namespace kova::host {
+
+namespace {
+
+/// Of the only user that a new shop has. Where it cannot be read he is asked for his password again.
+std::string EntryOfMaker(const std::string& file)
+{
+    try {
+        const auto database = family::OpenDatabase(file);
+        const auto users = family::UsersWhoEnter(*database);
+        return users.size() == 1 ? family::SignInToken(*database, users.front().code) : std::string();
+    } catch (const family::DatabaseFailure&) {
+        return {};
+    }
+}
+
+} // namespace
 
 NewShopPage::NewShopPage(const std::string& user, const std::string& documents, QWidget* parent)
     : QWidget(parent),
@@ -90,7 +109,7 @@ void NewShopPage::Make()
     } catch (const family::DatabaseFailure& failure) {
         return failure_->Tell(qt::Lines(failure.Description()));
     }
-    onMade(file);
+    onMade({file, EntryOfMaker(file)});
 }
 
 } // namespace kova::host

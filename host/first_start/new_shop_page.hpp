@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/first_start/chosen_shop.hpp"
+
 #include <QWidget>
 
 #include <functional>
@@ -25,8 +27,8 @@ public:
     NewShopPage(const std::string& user, const std::string& documents, QWidget* parent);
 
     std::function<void()> onBack;
-    /// The shop was made and lies there.
-    std::function<void(const std::string& source)> onMade;
+    /// The shop was made.
+    std::function<void(const ChosenShop&)> onMade;
     /// What Enter presses.
     QPushButton& Offered() { return *next_; }
 

@@ -55,7 +55,7 @@ ShopQuestion::ShopQuestion(const Surroundings& surroundings, QWidget* parent)
         pages_->setCurrentWidget(page->parentWidget()->parentWidget());
         page->setFocus();
     };
-    const auto answer = [this](const std::string& source) { Answer(source); };
+    const auto answer = [this](const std::string& source) { Answer({source, {}}); };
     welcome_->onNew = [=] {
         turnTo(made);
         made->Offered().setDefault(true);
@@ -67,14 +67,15 @@ ShopQuestion::ShopQuestion(const Surroundings& surroundings, QWidget* parent)
     welcome_->onDemonstration = [=, demonstration = surroundings.demonstration] { answer(demonstration); };
     welcome_->onRemembered = answer;
     made->onBack = existing->onBack = [=, this] { turnTo(welcome_); };
-    made->onMade = existing->onChosen = answer;
+    made->onMade = [this](const ChosenShop& shop) { Answer(shop); };
+    existing->onChosen = answer;
 }
 
 void ShopQuestion::Tell(const std::string& text) { welcome_->Tell(qt::Lines(text)); }
 
-void ShopQuestion::Answer(const std::string& source)
+void ShopQuestion::Answer(const ChosenShop& shop)
 {
-    chosen_ = source;
+    chosen_ = shop;
     accept();
 }
 

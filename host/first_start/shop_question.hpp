@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/first_start/chosen_shop.hpp"
 #include "host/first_start/source_trial.hpp"
 #include "host/session/remembered_shops.hpp"
 
@@ -34,15 +35,15 @@ public:
 
     /// What stands above the question, such as why a shop could not be opened.
     void Tell(const std::string& text);
-    /// Where the chosen shop lies; nothing where none was chosen.
-    const std::optional<std::string>& Chosen() const { return chosen_; }
+    /// Nothing where none was chosen.
+    const std::optional<ChosenShop>& Chosen() const { return chosen_; }
 
 private:
-    void Answer(const std::string& source);
+    void Answer(const ChosenShop& shop);
 
     QStackedWidget* pages_;
     WelcomePage* welcome_;
-    std::optional<std::string> chosen_;
+    std::optional<ChosenShop> chosen_;
 };
 
 } // namespace kova::host

@@ -106,7 +106,7 @@ private:
     void AddRememberedShops();
     void Remember(const Shop& shop);
     /// Ends this session for one with that shop.
-    void TurnTo(const std::string& source);
+    void TurnTo(const ChosenShop& shop);
     void OpenList();
     /// What whoever is at the desk may not do is shut in the agenda, also where somebody else takes it over.
     void GuardAgenda();
@@ -124,7 +124,7 @@ private:
     const Options& options_;
     Outlet outlet_;
     RememberedShops remembered_{SettingsFile()};
-    std::optional<std::string> next_;
+    std::optional<ChosenShop> next_;
     Registry registry_;
     SessionClock clock_;
     HostToolkit toolkit_;
@@ -149,8 +149,9 @@ SessionEnd Session::Run()
     Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
     user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
-    door_ = std::make_unique<Door>(Door::Surroundings{
-        SourceOf(options_), shop.tradeName, KeptEntries(SettingsFile()), user_, userChange_, clock_});
+    door_ = std::make_unique<Door>(Door::Surroundings{SourceOf(options_), shop.tradeName,
+                                                      KeptEntries(SettingsFile()), user_, userChange_, clock_,
+                                                      options_.entry});
     if (!Admit(*door_, options_, outlet_))
         return {EXIT_SUCCESS, std::nullopt};
     registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_, userChange_);
@@ -183,8 +184,8 @@ void Session::FillMenu()
 {
     QMenu& menu = window_->Menu();
     menu.addAction(QStringLiteral("&Abrir outra loja..."), window_.get(), [this] {
-        if (const auto source = AskForShop(remembered_, {}, window_.get()))
-            TurnTo(*source);
+        if (const auto chosen = AskForShop(remembered_, {}, window_.get()))
+            TurnTo(*chosen);
     });
     AddRememberedShops();
     AddHelp(*window_, GuideFile(), OpenOnDesktop);
@@ -200,22 +201,23 @@ void Session::AddRememberedShops()
         QAction* action =
             menu.addAction(QString::fromStdString(shown).replace(QLatin1Char('&'), QLatin1String("&&")));
         action->setToolTip(QString::fromStdString(shop.source));
-        QObject::connect(action, &QAction::triggered, window_.get(),
-                         [this, source = shop.source] { TurnTo(source); });
+        QObject::connect(action, &QAction::triggered, window_.get(), [this, source = shop.source] {
+            TurnTo({source, {}});
+        });
     }
     menu.setToolTipsVisible(true);
 }
 
-void Session::TurnTo(const std::string& source)
+void Session::TurnTo(const ChosenShop& shop)
 {
-    if (source == SourceOf(options_))
+    if (shop.source == SourceOf(options_))
         return;
     // Another session would begin with the libraries of another version.
     if (newer_.IsThere()) {
         window_->ShowNotice(NewerProgramText);
         return;
     }
-    next_ = source;
+    next_ = shop;
     if (!window_->close())
         next_.reset();
 }

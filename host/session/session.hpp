@@ -1,9 +1,9 @@
 #pragma once
 
+#include "host/first_start/chosen_shop.hpp"
 #include "host/options.hpp"
 
 #include <optional>
-#include <string>
 
 namespace kova::host {
 
@@ -14,8 +14,8 @@ enum class Outlet { Window, PictureOnPurpose, PictureForWantOfDisplay };
 struct SessionEnd {
     /// The exit status.
     int status = 0;
-    /// Where the shop lies that the user has turned to; nothing where the window was closed.
-    std::optional<std::string> next;
+    /// The shop that the user has turned to; nothing where the window was closed.
+    std::optional<ChosenShop> next;
 };
 
 /// One session with the agenda, from the components to the last window: opens the database, shows the

@@ -69,13 +69,14 @@ int RunShops(const Options& given, Outlet outlet)
     SessionEnd end;
     if (AsksForShops(given)) {
         const auto shops = remembered.All();
-        end.next = shops.empty() ? AskForShop(remembered, {}) : shops.front().source;
+        end.next = shops.empty() ? AskForShop(remembered, {}) : ChosenShop{shops.front().source, {}};
     } else {
         end = RunSession(options, outlet);
         ForgetPretence(options);
     }
     while (end.next) {
-        options.database = AsOption(*end.next);
+        options.database = AsOption(end.next->source);
+        options.entry = end.next->entry;
         if (const auto refusal = TryShop(options, end))
             end = {EXIT_FAILURE, AskForShop(remembered, *refusal)};
         else

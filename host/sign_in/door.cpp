@@ -71,7 +71,7 @@ bool Door::Enter()
     if (!hasUsers_)
         return true;
     const auto database = Open();
-    if (EnterByToken(*database))
+    if (EnterBy(surroundings_.entry, *database) || EnterByKeptToken(*database))
         return true;
     const auto users = family::UsersWhoEnter(*database);
     const std::string last = surroundings_.kept.LastName(surroundings_.source);
@@ -94,17 +94,24 @@ bool Door::Enter()
     return hasEntered;
 }
 
-bool Door::EnterByToken(family::Database& database)
+bool Door::EnterBy(const std::string& token, family::Database& database)
 {
-    const std::string token = surroundings_.kept.Token(surroundings_.source);
     if (token.empty())
         return false;
     const SignInAnswer answer = family::SignInByToken(database, token, surroundings_.clock);
     if (answer.IsDone())
         LetIn(answer);
-    else
-        surroundings_.kept.SetToken(surroundings_.source, {});
     return answer.IsDone();
+}
+
+// What lets nobody in any more is not kept.
+bool Door::EnterByKeptToken(family::Database& database)
+{
+    const std::string token = surroundings_.kept.Token(surroundings_.source);
+    const bool isIn = EnterBy(token, database);
+    if (!isIn && !token.empty())
+        surroundings_.kept.SetToken(surroundings_.source, {});
+    return isIn;
 }
 
 // Not to be able to is no reason to stay outside: the question comes again.

@@ -35,6 +35,8 @@ public:
         /// Both must outlive the door.
         UserChange& change;
         const Clock& clock;
+        /// By which whoever has just made the shop is let in; "" where somebody is asked.
+        std::string entry = {};
     };
 
     /// Looks whether the shop has users. Fails with a DatabaseFailure.
@@ -72,7 +74,8 @@ protected:
 
 private:
     std::shared_ptr<family::Database> Open() const;
-    bool EnterByToken(family::Database& database);
+    bool EnterBy(const std::string& token, family::Database& database);
+    bool EnterByKeptToken(family::Database& database);
     /// Those whose names are proposed; none where the data cannot be read now.
     std::vector<std::string> Names() const;
     SignInForm::Look Look(family::SignInTry::Kind kind);

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
@@ -88,6 +89,15 @@ protected:
                                                                                                   : nullptr;
     }
 
+    /// Over what stands in that box, whatever page it is on.
+    static void Type(const char* name, const QString& text)
+    {
+        auto* box = Question()->findChild<QLineEdit*>(QString::fromUtf8(name));
+        box->clear();
+        for (const QChar letter : text)
+            QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    }
+
     Receptionist& PressesInTheQuestion(const char* button)
     {
         return receptionist->WaitsUntil("a shop is asked for", [] { return Question() != nullptr; })
@@ -112,6 +122,26 @@ TEST_F(ShopsOfThisComputer, AreAskedForAtFirstAndRememberedThen)
     receptionist->WaitsFor(List).Looks([&] { title = Title(); }).Leaves();
     EXPECT_EQ(RunShops(), EXIT_SUCCESS);
     EXPECT_NE(title.find("(demonstração)"), std::string::npos) << title;
+}
+
+// Whoever has just given a name and a password is not asked for them.
+TEST_F(ShopsOfThisComputer, AreMadeStepByStepAndOpenWithWhoeverMadeThem)
+{
+    const QString file = QString::fromStdString(Database()) + QStringLiteral("-nova.db");
+    std::string title;
+    PressesInTheQuestion("criar").Does("make a shop", [&] {
+        Type("fantasia", QStringLiteral("Pet Novo"));
+        Type("arquivo", file);
+        Type("usuario", QStringLiteral("Rosa"));
+        Type("senha", QStringLiteral("Gato-Preto 1"));
+        Type("senhaDeNovo", QStringLiteral("Gato-Preto 1"));
+        for (int page = 0; page < 4; ++page)
+            QTest::mouseClick(Question()->findChild<QPushButton*>(QStringLiteral("avancar")), Qt::LeftButton);
+    });
+    receptionist->WaitsFor(List).Looks([&] { title = Title(); }).Leaves();
+    EXPECT_EQ(RunShops(), EXIT_SUCCESS);
+    EXPECT_EQ(title, "Pet Novo - Rosa - Kovaris");
+    EXPECT_EQ(remembered_.All().front().source, file.toStdString());
 }
 
 TEST_F(ShopsOfThisComputer, AreLeftWhereTheQuestionIsLeft)

@@ -1,5 +1,8 @@
 // A shop that is made from the question for one, step by step.
 
+#include "family/data/sources/data_source.hpp"
+#include "family/users/kept_sign_in.hpp"
+#include "host/session/session_clock.hpp"
 #include "tests/support/sqlite_file.hpp"
 #include "tests/unit/host/first_start/question_fixture.hpp"
 
@@ -50,6 +53,10 @@ TEST_F(TheQuestionForAShop, MakesAShop)
         made.Run("select count(*) from usuario where senha like '$argon2id$%' and pin like '$argon2id$%'"),
         std::vector<std::string>{"1"});
     EXPECT_EQ(ContentOf(*Answer()).find("Gato-Preto"), std::string::npos);
+    const SessionClock clock;
+    EXPECT_EQ(family::SignInByToken(*family::OpenDatabase(*Answer()), question_->Chosen()->entry, clock).name,
+              "Ana Maria")
+        << "nobody is asked for a password twice";
 }
 
 TEST_F(TheQuestionForAShop, WantsAPasswordThatWillDoTwice)

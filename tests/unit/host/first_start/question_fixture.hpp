@@ -112,7 +112,9 @@ protected:
     /// Nothing while it stands there.
     std::optional<std::string> Answer()
     {
-        return question_->isVisible() ? std::nullopt : question_->Chosen();
+        if (question_->isVisible() || !question_->Chosen())
+            return std::nullopt;
+        return question_->Chosen()->source;
     }
 
     void AwaitOutcome()

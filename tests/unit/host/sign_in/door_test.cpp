@@ -109,6 +109,19 @@ TEST_F(TheDoor, LetsInWhomThisComputerKnowsAndTellsTheAreas)
     EXPECT_EQ(PatienceOf(door), std::chrono::minutes(0)) << "whoever is never asked is not locked out";
 }
 
+TEST_F(TheDoor, LetsInOnceWhoeverHasJustMadeTheShop)
+{
+    MakeShop(true);
+    const std::string entry = family::SignInToken(*family::OpenDatabase(file_), 1);
+    door_.emplace(Door::Surroundings{file_, "Céu", kept_, user_, change_, clock_, entry});
+    EXPECT_TRUE(door_->Enter());
+    EXPECT_EQ(user_->Name(), "Ana");
+    EXPECT_EQ(kept_.Token(file_), "") << "the next start asks";
+    door_->Watch(window_);
+    EXPECT_EQ(PatienceOf(*door_), std::chrono::minutes(15));
+    door_.reset();
+}
+
 TEST_F(TheDoor, LocksAfterAsManyIdleMinutesAsAreSet)
 {
     MakeShop(true);
