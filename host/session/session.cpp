@@ -48,6 +48,9 @@ namespace kova::host {
 namespace {
 
 constexpr Long PrintedRows = 15;
+/// Subjects of notices.
+const QString Program = QStringLiteral("programa"), Copy = QStringLiteral("cópia"),
+              Update = QStringLiteral("atualização");
 const QString NewerProgramText = QStringLiteral(
     "Uma versão mais nova do programa foi instalada. Esta continua funcionando; feche-a e abra o "
     "programa novamente quando for conveniente.");
@@ -140,7 +143,7 @@ private:
     ComponentRef agenda_;
     std::unique_ptr<AgendaGuard> guard_;
     std::unique_ptr<DailyBackup> backup_;
-    NewerProgram newer_{[this] { window_->ShowNotice(NewerProgramText); }};
+    NewerProgram newer_{[this] { window_->ShowNotice(Program, NewerProgramText); }};
 };
 
 SessionEnd Session::Run()
@@ -171,6 +174,7 @@ SessionEnd Session::Run()
     GuardAgenda();
     history_->AddTo(*window_);
     registers_->Offer(history_->Actions());
+    window_->ShowNotice(Update, QString::fromStdString(shop.update));
     OpenList();
     if (options_.firstPaint)
         return {PaintWindow(), std::nullopt};
@@ -214,7 +218,7 @@ void Session::TurnTo(const ChosenShop& shop)
         return;
     // Another session would begin with the libraries of another version.
     if (newer_.IsThere()) {
-        window_->ShowNotice(NewerProgramText);
+        window_->ShowNotice(Program, NewerProgramText);
         return;
     }
     next_ = shop;
@@ -279,7 +283,8 @@ int Session::RunWindow()
 void Session::BackUpDaily()
 {
     backup_ = std::make_unique<DailyBackup>(components_, [this](const std::string& reason) {
-        window_->ShowNotice(reason.empty() ? QString()
+        window_->ShowNotice(Copy,
+                            reason.empty() ? QString()
                                            : QStringLiteral("A cópia de segurança de hoje não foi feita. ")
                                     + QString::fromStdString(WithoutDetail(reason)));
     });

@@ -41,7 +41,7 @@ Shop OpenShop(ComponentService& components, const fs::path& path, bool makeDemon
         Do(*database, "CriarDemonstracao", {today});
     }
     Do(*database, "Abrir");
-    return {database->Get("NomeFantasia").ToText()};
+    return {database->Get("NomeFantasia").ToText(), database->Get("Atualizacao").ToText()};
 }
 
 } // namespace kova::host

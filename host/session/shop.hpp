@@ -11,6 +11,8 @@ namespace kova::host {
 struct Shop {
     /// "" where no company is registered.
     std::string tradeName;
+    /// What was done to bring an older one up to date, for the user; "" where it was not older.
+    std::string update;
 };
 
 /// Opens the data source of the host at `path` through the database component, for the whole process. Where

@@ -18,10 +18,14 @@ namespace kova::host {
 
 namespace {
 
+/// Of its notices.
+const QString Subject = QStringLiteral("guia");
+
 /// Headings of the guide, as they stand in it.
 constexpr std::pair<const char*, const char*> Sections[] = {
     {"Agenda", "a-lista-do-dia"},
     {"Cadastros", "cadastros"},
+    {"Histórico", "histórico"},
 };
 
 QUrl PageOf(const std::filesystem::path& guide, const QString& section)
@@ -37,11 +41,13 @@ void OpenGuide(MainWindow& window, const std::filesystem::path& guide, const QSt
     std::error_code unreadable;
     const QString file = QString::fromStdString(system::TextOf(guide));
     if (!std::filesystem::exists(guide, unreadable)) {
-        window.ShowNotice(QStringLiteral("Esta instalação não tem o guia: falta o arquivo \"%1\". Instale o "
+        window.ShowNotice(Subject,
+                          QStringLiteral("Esta instalação não tem o guia: falta o arquivo \"%1\". Instale o "
                                          "programa novamente.")
                               .arg(file));
     } else if (!open(PageOf(guide, section))) {
-        window.ShowNotice(QStringLiteral("O guia não pôde ser aberto: não há um navegador neste computador. "
+        window.ShowNotice(Subject,
+                          QStringLiteral("O guia não pôde ser aberto: não há um navegador neste computador. "
                                          "Ele está no arquivo \"%1\".")
                               .arg(file));
     }
@@ -54,7 +60,7 @@ std::filesystem::path GuideFile() { return ProgramFolder() / "guia" / "index.htm
 QString GuideSection(const QString& tab)
 {
     for (const auto& [name, section] : Sections) {
-        if (tab == QLatin1String(name))
+        if (tab == QString::fromUtf8(name))
             return QString::fromUtf8(section);
     }
     return {};

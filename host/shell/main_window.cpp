@@ -122,7 +122,7 @@ void MainWindow::OfferChange(std::function<void()> change) { row_->OfferChange(s
 
 QMenu& MainWindow::Menu() { return row_->Menu(); }
 
-void MainWindow::ShowNotice(const QString& text) { notice_->Show(text); }
+void MainWindow::ShowNotice(const QString& subject, const QString& text) { notice_->Show(subject, text); }
 
 void MainWindow::ShowHint(const QString& text)
 {

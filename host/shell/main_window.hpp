@@ -48,9 +48,9 @@ public:
 
     /// Shown in the container, until something else fills it.
     void ShowHint(const QString& text);
-    /// Shown in a line below the container until the user closes it or "" takes it away. It never takes the
-    /// keyboard.
-    void ShowNotice(const QString& text);
+    /// Shown in a line below the container until the user closes it; one subject has one line, which "" takes
+    /// away. It never takes the keyboard.
+    void ShowNotice(const QString& subject, const QString& text);
     /// Shows the window at that size; without one filling the screen, and then returns once the desktop has
     /// given it its place, so that what is laid out in it finds the final size.
     void Open(std::optional<WindowSize> size);

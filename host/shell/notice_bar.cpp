@@ -2,7 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStringList>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace kova::host {
 
@@ -26,7 +29,7 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), text_(new QLabel(this))
     auto* closing = new QToolButton(this);
     closing->setText(QStringLiteral("Fechar aviso"));
     closing->setFocusPolicy(Qt::NoFocus);
-    connect(closing, &QToolButton::clicked, this, &QWidget::hide);
+    connect(closing, &QToolButton::clicked, this, &NoticeBar::Close);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 12, 6);
@@ -35,10 +38,25 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), text_(new QLabel(this))
     hide();
 }
 
-void NoticeBar::Show(const QString& text)
+void NoticeBar::Show(const QString& subject, const QString& text)
 {
-    text_->setText(text);
-    setVisible(!text.isEmpty());
+    const auto told = std::find_if(notices_.begin(), notices_.end(),
+                                   [&](const auto& notice) { return notice.first == subject; });
+    if (told != notices_.end())
+        notices_.erase(told);
+    if (!text.isEmpty())
+        notices_.emplace_back(subject, text);
+    QStringList lines;
+    for (const auto& notice : notices_)
+        lines.append(notice.second);
+    text_->setText(lines.join(QLatin1Char('\n')));
+    setVisible(!lines.isEmpty());
+}
+
+void NoticeBar::Close()
+{
+    notices_.clear();
+    hide();
 }
 
 } // namespace kova::host

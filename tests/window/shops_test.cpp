@@ -2,6 +2,8 @@
 
 #include "tests/window/shop.hpp"
 
+#include "family/data/engine/database.hpp"
+#include "family/data/migrations/current_migrations.hpp"
 #include "host/folders.hpp"
 #include "host/session/remembered_shops.hpp"
 #include "host/session/shops.hpp"
@@ -51,6 +53,26 @@ protected:
                 return top;
         }
         return nullptr;
+    }
+
+    /// A shop as the first version kept it.
+    static void MakeOlder(const std::string& file)
+    {
+        family::Database older(family::SqliteDialect(), "dbname=" + file, file);
+        family::Migrate(older.Session(), family::SqliteDialect(), family::CurrentMigrations().first(1));
+        for (const char* statement :
+             {"insert into empresa values (1, 'Patas', 'Patas Ltda', '', '', '')",
+              "insert into tipo_de_servico values (4, 'Banho', 'banho', 1)",
+              "insert into servico values (1, 'Banho', 'banho', '', 4, 60, 5000, 1000, null, 1)",
+              "insert into funcionario values (1, 'Lia', 'Lia', 'lia', 1, 1)"})
+            older.Session() << statement;
+    }
+
+    /// What the window tells below the list; "" where it tells nothing.
+    static std::string Notice()
+    {
+        const auto* notice = Window()->findChild<QLabel*>(QStringLiteral("aviso"));
+        return notice->isVisible() ? notice->text().toStdString() : "";
     }
 
     static std::string Title() { return Window() == nullptr ? "" : Window()->windowTitle().toStdString(); }
@@ -142,6 +164,21 @@ TEST_F(ShopsOfThisComputer, AreMadeStepByStepAndOpenWithWhoeverMadeThem)
     EXPECT_EQ(RunShops(), EXIT_SUCCESS);
     EXPECT_EQ(title, "Pet Novo - Rosa - Kovaris");
     EXPECT_EQ(remembered_.All().front().source, file.toStdString());
+}
+
+TEST_F(ShopsOfThisComputer, AreBroughtUpToDateAndSaySo)
+{
+    const std::string file = system::TextOf(Folder() / "antiga.db");
+    MakeOlder(file);
+    std::string notice, again = "not looked at";
+    receptionist->WaitsFor(List).Looks([&] { notice = Notice(); }).Leaves();
+    EXPECT_EQ(RunShops(file), EXIT_SUCCESS);
+    EXPECT_NE(notice.find("A loja foi atualizada da versão 1 para a versão "), std::string::npos) << notice;
+    EXPECT_NE(notice.find(file + ".antes-da-versao-"), std::string::npos) << notice;
+
+    receptionist->WaitsFor(List).Looks([&] { again = Notice(); }).Leaves();
+    EXPECT_EQ(RunShops(file), EXIT_SUCCESS);
+    EXPECT_EQ(again, "");
 }
 
 TEST_F(ShopsOfThisComputer, AreLeftWhereTheQuestionIsLeft)

@@ -8,6 +8,19 @@
 
 namespace kova::family {
 
+namespace {
+
+Text Told(const MigrationReport& report)
+{
+    if (report.before == report.after)
+        return {};
+    return "A loja foi atualizada da versão " + std::to_string(report.before) + " para a versão "
+        + std::to_string(report.after) + " do banco de dados. Antes disso ela foi copiada para \""
+        + report.copy + "\". Programas anteriores a este já não a abrem.";
+}
+
+} // namespace
+
 std::span<const Method<DatabaseComponent>> DatabaseComponent::Methods()
 {
     static constexpr Method<DatabaseComponent> methods[] = {
@@ -26,6 +39,7 @@ std::span<const Property<DatabaseComponent>> DatabaseComponent::Properties()
         {"Caminho", &DatabaseComponent::Caminho},
         {"Existe", &DatabaseComponent::Existe},
         {"NomeFantasia", &DatabaseComponent::NomeFantasia},
+        {"Atualizacao", &DatabaseComponent::Atualizacao},
         {"OcultarPrecos", nullptr, &DatabaseComponent::OcultarPrecos},
         {"CopiaDoDiaTerminou", &DatabaseComponent::CopiaDoDiaTerminou},
         {"FalhaDaCopiaDoDia", &DatabaseComponent::FalhaDaCopiaDoDia},
@@ -58,6 +72,7 @@ Value DatabaseComponent::Abrir(std::span<Argument>)
     return Attempt("Abrir", [&] {
         const std::vector<std::string> names = SelectTradeNames(Data());
         tradeName_ = names.empty() ? Text() : names.front();
+        update_ = Told(TakeMigrationReport(Host().DataSource()));
     });
 }
 

@@ -26,6 +26,10 @@ private:
     /// Text: trade name of the first company; "" before Abrir and where none is registered.
     Value NomeFantasia() const { return tradeName_; }
 
+    /// Text: what Abrir has done to bring an older schema up to date, for the user; "" where it was not
+    /// older.
+    Value Atualizacao() const { return update_; }
+
     /// Boolean: whoever is at the desk may not see prices and costs, so that what the components show of them
     /// is empty from then on. Write-only.
     void OcultarPrecos(const Value& value);
@@ -49,6 +53,7 @@ private:
     Value FalhaDaCopiaDoDia() const;
 
     Text tradeName_;
+    Text update_;
     std::unique_ptr<BackgroundBackup> backup_;
 };
 

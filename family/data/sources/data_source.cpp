@@ -23,9 +23,9 @@ std::optional<std::string> CheckDataSource(const std::string& path, Migrations m
     return refusal ? std::optional(WithoutSecrets(*refusal)) : std::nullopt;
 }
 
-std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migrations)
+std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migrations, MigrationReport* done)
 {
-    return IsServer(path) ? OpenOnServer(path, migrations) : OpenFile(path, migrations);
+    return IsServer(path) ? OpenOnServer(path, migrations) : OpenFile(path, migrations, done);
 }
 
 std::shared_ptr<Database> OpenForLongWork(const std::string& path)

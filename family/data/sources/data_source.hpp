@@ -24,8 +24,9 @@ std::optional<std::string> CheckDataSource(const std::string& path,
 /// Opens an existing database for work. A file of an older schema is brought to the newest version, all or
 /// nothing, after a copy (file_migration.hpp); on a server, where others may still work on it, it is refused.
 /// Fails with the text of CheckDataSource, or with what the engine reports. Writes fail from the moment that
-/// another program changes the schema.
-std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migrations = CurrentMigrations());
+/// another program changes the schema. `done` is told what was done to bring a file up to date.
+std::shared_ptr<Database> OpenDatabase(const std::string& path, Migrations migrations = CurrentMigrations(),
+                                       MigrationReport* done = nullptr);
 
 /// The same for one write that takes as long as it takes: a server does not end it.
 std::shared_ptr<Database> OpenForLongWork(const std::string& path);

@@ -104,7 +104,7 @@ std::unique_ptr<Database> OpenFileForReading(const std::string& path)
     return ConnectForReading(path);
 }
 
-std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migrations)
+std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migrations, MigrationReport* done)
 {
     if (const auto refusal = CheckFileSource(path, migrations))
         throw DatabaseFailure(*refusal);
@@ -113,7 +113,9 @@ std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migration
     std::unique_ptr<Database> database = ConnectForWork(path);
     if (!IsOfVersion(*database, newest)) {
         database.reset();
-        MigrateFile(path, migrations);
+        const MigrationReport report = MigrateFile(path, migrations);
+        if (done != nullptr)
+            *done = report;
         database = ConnectForWork(path);
     }
     database->ExpectSchema(newest);

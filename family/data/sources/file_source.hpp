@@ -10,7 +10,8 @@
 namespace kova::family {
 
 std::optional<std::string> CheckFileSource(const std::string& path, Migrations migrations);
-std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migrations);
+std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migrations,
+                                   MigrationReport* done = nullptr);
 std::unique_ptr<Database> OpenFileForReading(const std::string& path);
 void CreateFile(const std::string& path, const std::function<void(Database&)>& fill);
 

@@ -4,14 +4,20 @@
 
 #include <map>
 #include <set>
+#include <utility>
 
 namespace kova::family {
 
 namespace {
 
-std::map<std::string, std::shared_ptr<Database>>& Kept()
+struct KeptDatabase {
+    std::shared_ptr<Database> database;
+    MigrationReport untold;
+};
+
+std::map<std::string, KeptDatabase>& Kept()
 {
-    static std::map<std::string, std::shared_ptr<Database>> kept;
+    static std::map<std::string, KeptDatabase> kept;
     return kept;
 }
 
@@ -26,10 +32,15 @@ std::set<std::string>& WithoutPrices()
 
 std::shared_ptr<Database> SharedDatabase(const std::string& path)
 {
-    std::shared_ptr<Database>& database = Kept()[path];
-    if (!database)
-        database = OpenDatabase(path);
-    return database;
+    KeptDatabase& kept = Kept()[path];
+    if (!kept.database)
+        kept.database = OpenDatabase(path, CurrentMigrations(), &kept.untold);
+    return kept.database;
+}
+
+MigrationReport TakeMigrationReport(const std::string& path)
+{
+    return std::exchange(Kept()[path].untold, {});
 }
 
 void HidePrices(const std::string& path, bool areHidden)

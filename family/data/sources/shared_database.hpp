@@ -1,6 +1,7 @@
 #pragma once
 
 #include "family/data/engine/database.hpp"
+#include "family/data/engine/migration.hpp"
 
 #include <memory>
 #include <string>
@@ -10,6 +11,9 @@ namespace kova::family {
 /// The process's one connection to a data source, opened at the first request (OpenDatabase) and kept
 /// open between short-lived components.
 std::shared_ptr<Database> SharedDatabase(const std::string& path);
+
+/// What was done to bring the data source up to date when that connection was opened; it is told once.
+MigrationReport TakeMigrationReport(const std::string& path);
 
 /// Whoever is at the desk may not see prices and costs: what the process shows of that data source is without
 /// them from then on.

@@ -232,15 +232,35 @@ TEST_F(TheMainWindow, TellsANoticeOnItsOwnGroundInAsManyLinesAsItNeeds)
     QWidget window;
     NoticeBar bar(&window);
     EXPECT_TRUE(bar.isHidden());
-    bar.Show(QStringLiteral("A cópia do dia não foi feita."));
+    const QString subject = QStringLiteral("cópia");
+    bar.Show(subject, QStringLiteral("A cópia do dia não foi feita."));
     EXPECT_FALSE(bar.isHidden());
     bar.resize(600, 60);
     EXPECT_EQ(window.grab().toImage().pixelColor(2, 2), QColor(255, 244, 204));
     const int oneLine = bar.layout()->heightForWidth(600);
-    bar.Show(QStringLiteral("A cópia do dia não foi feita porque o disco está cheio. ").repeated(5));
+    bar.Show(subject, QStringLiteral("A cópia do dia não foi feita porque o disco está cheio. ").repeated(5));
     EXPECT_GT(bar.layout()->heightForWidth(600), oneLine);
-    bar.Show(QString());
+    bar.Show(subject, QString());
     EXPECT_TRUE(bar.isHidden());
+}
+
+TEST_F(TheMainWindow, TellsNoticesOfSeveralSubjectsBelowEachOther)
+{
+    QWidget window;
+    NoticeBar bar(&window);
+    const auto* text = bar.findChild<QLabel*>();
+    const QString program = QStringLiteral("programa"), copy = QStringLiteral("cópia");
+    bar.Show(program, QStringLiteral("Há um programa mais novo."));
+    bar.Show(copy, QStringLiteral("A cópia não foi feita."));
+    EXPECT_EQ(text->text().toStdString(), "Há um programa mais novo.\nA cópia não foi feita.");
+    bar.Show(copy, QString());
+    EXPECT_EQ(text->text().toStdString(), "Há um programa mais novo.");
+    EXPECT_FALSE(bar.isHidden());
+
+    bar.findChild<QToolButton*>()->click();
+    EXPECT_TRUE(bar.isHidden());
+    bar.Show(copy, QStringLiteral("A cópia não foi feita."));
+    EXPECT_EQ(text->text().toStdString(), "A cópia não foi feita.");
 }
 
 TEST_F(TheMainWindow, GivesAHintAsManyLinesAsItNeeds)

@@ -4,7 +4,9 @@
 #include "family/business/shop/database_component.hpp"
 #include "family/data/copies/daily_backup.hpp"
 #include "family/data/engine/unfinished_file.hpp"
+#include "family/data/migrations/current_migrations.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/sources/file_migration.hpp"
 #include "family/data/sources/shared_database.hpp"
 
 #include <thread>
@@ -51,6 +53,29 @@ TEST_F(TheDatabaseComponent, MakesTheDemonstrationShopAndOpensIt)
     Agenda agenda(host_);
     EXPECT_EQ(agenda.Call("Selecionar", DayArguments("20/11/2026")), Value(Integer(0)));
     EXPECT_GE(ResultOf(agenda)->RecordCount(), 36);
+}
+
+TEST_F(TheDatabaseComponent, TellsOnceWhatBringingAnOlderFileUpToDateHasDone)
+{
+    {
+        Database older(SqliteDialect(), "dbname=" + host_.DataSource(), host_.DataSource());
+        Migrate(older.Session(), SqliteDialect(), CurrentMigrations().first(4));
+    }
+    DatabaseComponent component(host_);
+    EXPECT_EQ(component.Get("Atualizacao"), Value(""));
+    ASSERT_EQ(component.Call("Abrir"), Value(Integer(0)));
+    const int newest = NewestVersion(CurrentMigrations());
+    const std::string told = component.Get("Atualizacao").ToText();
+    EXPECT_NE(told.find("da versão 4 para a versão " + std::to_string(newest)), std::string::npos) << told;
+    const std::string copy = BackupName(host_.DataSource(), newest);
+    EXPECT_NE(told.find("\"" + copy + "\""), std::string::npos) << told;
+    EXPECT_EQ(StoredVersion(OpenForReading(copy)->Session()), 4);
+
+    EXPECT_EQ(component.Call("Abrir"), Value(Integer(0)));
+    EXPECT_EQ(component.Get("Atualizacao"), Value(""));
+    component.Call("Fechar");
+    EXPECT_EQ(component.Call("Abrir"), Value(Integer(0)));
+    EXPECT_EQ(component.Get("Atualizacao"), Value(""));
 }
 
 TEST_F(TheDatabaseComponent, NeverMakesADemonstrationOverAFile)
