@@ -66,7 +66,7 @@ std::optional<ArchivedPart> LastArchived(Database& database)
 void AuditArchiving(Database& database, const Author& author, const ArchivedPart& part)
 {
     AddLine(database,
-            EventOf(author, ArchiveTable, part.order, audit_operation::Archiving,
+            EventOf(database, author, ArchiveTable, part.order, audit_operation::Archiving,
                     AuditValues()
                         .Add("ate", part.until)
                         .Add("arquivo", part.file)

@@ -1,6 +1,7 @@
 #include "family/data/audit/audit_chain.hpp"
 
 #include "agenda/contracts/utf8.hpp"
+#include "family/data/audit/stamp.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/insert_new_row.hpp"
@@ -73,11 +74,11 @@ void AddLinks(Database& database, std::span<const AuditRow> lines)
 
 } // namespace
 
-AuditRow EventOf(const Author& author, const char* table, Key key, const char* operation,
-                 const AuditValues& what)
+AuditRow EventOf(const Database& database, const Author& author, const char* table, Key key,
+                 const char* operation, const AuditValues& what)
 {
     AuditRow row;
-    row.momento = author.moment;
+    row.momento = StampOfLine(database, author);
     row.usuario = utf8::WellFormed(author.code + " - " + author.name);
     row.posto = utf8::WellFormed(author.desk);
     row.tabela = table;

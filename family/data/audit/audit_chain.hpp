@@ -27,8 +27,8 @@ struct LinkRow {
 };
 
 /// A line about something that is done with the shop as a whole; `table` stands in a table's place.
-AuditRow EventOf(const Author& author, const char* table, Key key, const char* operation,
-                 const AuditValues& what);
+AuditRow EventOf(const Database& database, const Author& author, const char* table, Key key,
+                 const char* operation, const AuditValues& what);
 
 /// Writes a new line of the audit and its link, in the transaction that is open; a server writes the link by
 /// itself when the transaction is kept. Fails as Database::With.

@@ -21,7 +21,7 @@ std::string MomentOfEngine(Database& database)
 {
     std::string moment;
     database.Session() << (database.GetDialect().IsServer()
-                               ? "select to_char(localtimestamp, 'YYYY-MM-DD HH24:MI:SS')"
+                               ? "select to_char(clock_timestamp(), 'YYYY-MM-DD HH24:MI:SSTZH:TZM')"
                                : "select datetime('now', 'localtime')"),
         soci::into(moment);
     return moment;
@@ -45,19 +45,19 @@ void AddLineToAny(Database& database, const AuditRow& row)
 
 void AuditExport(Database& database, const Author& author, Key customer, const AuditValues& what)
 {
-    AddLine(database, EventOf(author, ExportsTable, customer, audit_operation::Export, what));
+    AddLine(database, EventOf(database, author, ExportsTable, customer, audit_operation::Export, what));
 }
 
 void AuditPrint(Database& database, const Author& author, Key customer, const AuditValues& what)
 {
-    AddLine(database, EventOf(author, PrintsTable, customer, audit_operation::Print, what));
+    AddLine(database, EventOf(database, author, PrintsTable, customer, audit_operation::Print, what));
 }
 
 void AuditRestore(Database& database, const Author& author, const std::string& copy)
 {
-    AddLineToAny(
-        database,
-        EventOf(author, RestoresTable, 0, audit_operation::CopyRestored, AuditValues().Add("copia", copy)));
+    AddLineToAny(database,
+                 EventOf(database, author, RestoresTable, 0, audit_operation::CopyRestored,
+                         AuditValues().Add("copia", copy)));
 }
 
 void AuditMigration(Database& database, int before, int after, const std::string& copy)
@@ -67,7 +67,7 @@ void AuditMigration(Database& database, int before, int after, const std::string
                         .moment = MomentOfEngine(database),
                         .desk = system::ComputerName()};
     AddLineToAny(database,
-                 EventOf(author, SchemaTable, after, audit_operation::Migration,
+                 EventOf(database, author, SchemaTable, after, audit_operation::Migration,
                          AuditValues().Add("de", before).Add("para", after).Add("copia", copy)));
 }
 

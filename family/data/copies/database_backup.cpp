@@ -10,6 +10,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_connection.hpp"
 #include "family/data/sources/online_copy.hpp"
+#include "family/data/sources/told_reading.hpp"
 #include "family/data/sources/trial_restore.hpp"
 #include "system/path_text.hpp"
 #include "system/whole_file.hpp"
@@ -89,7 +90,7 @@ std::vector<TableCount> RestoreDatabase(const std::string& file, const std::stri
     RequireFile(file);
     if (IsServer(target)) {
         std::vector<TableCount> counts = CopyDatabase(file, target, work);
-        AuditRestore(*OpenDatabase(target), author, file);
+        TellOfSource(target, [&](Database& database) { AuditRestore(database, author, file); });
         return counts;
     }
     if (const auto refusal = CheckLocalDisk(target))

@@ -7,10 +7,12 @@
 #include "family/business/appointments/appointment_writes.hpp"
 #include "family/business/appointments/status_change.hpp"
 #include "family/business/current_author.hpp"
+#include "family/data/audit/audit_events.hpp"
 #include "family/data/checks/rule_check.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
+#include "family/data/sources/told_reading.hpp"
 
 namespace kova::family::test {
 
@@ -94,6 +96,29 @@ TEST_F(Stamps, OfEveryWriteOfAnAppointmentAgree)
             EXPECT_LE(stamp, WithoutZone(after));
         } else {
             EXPECT_EQ(stamp, "2026-11-20 09:04:00");
+        }
+    }
+}
+
+TEST_F(Stamps, OfWhatLeavesTheShopAreOfTheSameClock)
+{
+    const std::string before = Now();
+    const Author author = AuthorAt(Now("1 hour"), true);
+    TellOfSource(host_.DataSource(), [&](Database& database) {
+        AuditExport(database, author, 0, {});
+        AuditPrint(database, author, 10, {});
+        AuditRestore(database, author, "copia.bak");
+    });
+    const std::string after = Now();
+    const std::vector<std::string> lines = LinesOfAudit();
+    EXPECT_EQ(lines.size(), 3U);
+    for (const std::string& line : lines) {
+        if (TestsRunOnServer()) {
+            EXPECT_LE(before, line);
+            EXPECT_LE(line, after);
+            EXPECT_EQ(line.size(), before.size()) << "with the zone: " << line;
+        } else {
+            EXPECT_EQ(line, "2026-11-20 09:04:00");
         }
     }
 }
