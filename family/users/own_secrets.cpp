@@ -45,7 +45,7 @@ std::string Prove(Database& database, const AccountRow& account, const Secret& c
 {
     const std::string digest = DigestOf(FoldText(account.nome));
     const long long now = SecondsNow(database, clock);
-    const Tries tries = FindTries(database, digest);
+    const Tries tries = FindTries(database, digest, now);
     if (const long long wait = tries.WaitAt(now); wait > 0)
         return "Houve muitas tentativas erradas. Espere " + WordsOfWait(wait) + " e tente de novo.";
     const auto secrets = FindByKey<SecretsRow>(database, account.codigo);

@@ -55,13 +55,10 @@ long long WaitAfter(int wrong)
     return std::min(LongestWait, 1LL << std::min(wrong - FreeTries, Doublings));
 }
 
-long long Tries::WaitAt(long long now) const
-{
-    return now < last ? 0 : std::max(0LL, last + WaitAfter(wrong) - now);
-}
+long long Tries::WaitAt(long long now) const { return std::max(0LL, last + WaitAfter(wrong) - now); }
 
 // The row is made where there is none: only what is there can be held.
-Tries FindTries(Database& database, const std::string& digest)
+Tries FindTries(Database& database, const std::string& digest, long long now)
 {
     Tries tries;
     Guarded(database, [&](soci::session& session) {
@@ -71,6 +68,11 @@ Tries FindTries(Database& database, const std::string& digest)
         session << "select erros, ultimo_erro from tentativa_de_entrada where identificador = :nome"
                 + database.GetDialect().lockRow,
             soci::use(digest, "nome"), soci::into(tries.wrong), soci::into(tries.last);
+        if (tries.last <= now)
+            return;
+        tries.last = now;
+        session << "update tentativa_de_entrada set ultimo_erro = :agora where identificador = :nome",
+            soci::use(now, "agora"), soci::use(digest, "nome");
     });
     return tries;
 }

@@ -23,14 +23,15 @@ struct Tries {
     /// When the last wrong one was, in seconds since 1970.
     long long last = 0;
 
-    /// Seconds before another one is looked at. A last one that lies ahead was written while the clock was
-    /// wrong, and is not waited for.
+    /// Seconds before another one is looked at.
     long long WaitAt(long long now) const;
 };
 
 /// Those under the name of that digest, from then on nobody else's before the transaction that is open ends.
-/// All four fail with a DatabaseFailure.
-Tries FindTries(Database& database, const std::string& digest);
+/// A last one that lies ahead was written while the clock was wrong, or the clock has been set back since: it
+/// is written as one of now, so that it is waited for, and for no longer than any other. All four fail with a
+/// DatabaseFailure.
+Tries FindTries(Database& database, const std::string& digest, long long now);
 /// One more wrong try. What is older than a day, of whatever name, is forgotten.
 void CountWrongTry(Database& database, const std::string& digest, long long now);
 /// A right one makes all before it forgotten.

@@ -5,6 +5,8 @@
 #include "system/computer_name.hpp"
 
 #include <map>
+#include <thread>
+#include <vector>
 
 namespace kova::family::test {
 
@@ -105,6 +107,23 @@ TEST_F(SigningIn, IsOpenAgainWhenTheTimeIsOver)
     EXPECT_TRUE(Enter("Lia", "Laço Azul 22").IsDone());
 }
 
+/// Whoever sets the clock back tries no faster, and one that was wrong keeps nobody outside for years.
+TEST_F(SigningIn, IsWaitedForWithAClockThatWasSetBack)
+{
+    Fail(10);
+    Pass(-7200);
+    for (const char* password : {"errada 123", "Laço Azul 22"}) {
+        const SignInAnswer answer = Enter("Lia", password);
+        EXPECT_EQ(answer.outcome, Outcome::Wait) << password;
+        EXPECT_GE(answer.wait, 250);
+        EXPECT_LE(answer.wait, 256);
+    }
+    Pass(128);
+    EXPECT_EQ(Enter("Lia", "Laço Azul 22").outcome, Outcome::Wait) << "it is not begun anew each time";
+    Pass(128);
+    EXPECT_TRUE(Enter("Lia", "Laço Azul 22").IsDone());
+}
+
 TEST_F(SigningIn, ForgetsWrongTriesAfterARightOne)
 {
     Fail(10);
@@ -135,6 +154,28 @@ TEST_F(SigningIn, IsSlowedDownAtAllDesks)
     const std::shared_ptr<Database> other = OpenDatabase(host_.DataSource());
     const Secret right("Laço Azul 22");
     EXPECT_EQ(SignIn(*other, {"Lia", right}, desk_.GetPlatform().Clock(), Cheap).outcome, Outcome::Wait);
+}
+
+/// On a file the clock stands, and behind the third none is looked at.
+TEST_F(SigningIn, IsSlowedDownForTwoDesksThatTryAtOnce)
+{
+    std::vector<std::jthread> desks;
+    for (int desk = 0; desk < 2; ++desk)
+        desks.emplace_back([this] {
+            const std::shared_ptr<Database> own = OpenDatabase(host_.DataSource());
+            const Secret wrong("errada 123");
+            for (int time = 0; time < 10; ++time)
+                SignIn(*own, {"Lia", wrong}, desk_.GetPlatform().Clock(), Cheap);
+        });
+    desks.clear();
+    const int counted = std::stoi(Texts("select cast(erros as text) from tentativa_de_entrada").at(0));
+    EXPECT_EQ(LinesOf("entrada_recusada").size(), static_cast<std::size_t>(counted));
+    if (TestsRunOnServer())
+        EXPECT_GE(counted, 3);
+    else
+        EXPECT_EQ(counted, 3);
+    const Secret right("Laço Azul 22");
+    EXPECT_EQ(SignIn(Data(), {"Lia", right}, desk_.GetPlatform().Clock(), Cheap).outcome, Outcome::Wait);
 }
 
 TEST_F(SigningIn, IsSlowedDownByPinsAndPasswordsTogether)

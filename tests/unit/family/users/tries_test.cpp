@@ -22,7 +22,6 @@ TEST(WaitsBetweenTries, EndWithTheirTime)
     EXPECT_EQ(tries.WaitAt(1003), 1);
     EXPECT_EQ(tries.WaitAt(1004), 0);
     EXPECT_EQ(tries.WaitAt(900'000), 0);
-    EXPECT_EQ(tries.WaitAt(999), 0) << "the clock was wrong when it was written";
     EXPECT_EQ((Tries{2, 1000}).WaitAt(1000), 0);
 }
 
