@@ -3,6 +3,7 @@
 #include "family/business/appointments/appointment_fields.hpp"
 #include "family/business/appointments/appointment_restoration.hpp"
 #include "family/business/appointments/appointment_writes.hpp"
+#include "family/business/appointments/pre_sale_rules.hpp"
 #include "family/business/appointments/status_change.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audited_row.hpp"
@@ -54,8 +55,7 @@ std::string WhyNoRight(Database& database, const Author& author, const Line& lin
         rights.push_back(Right::CancelAppointments);
     if (!cancels || !IsOfStatusAlone(line))
         rights.push_back(Right::ChangeAppointments);
-    if (rows.stored.situacao == appointment_status::PreSaleGenerated
-        && rows.wanted.situacao != appointment_status::PreSaleGenerated)
+    if (UndoesPreSale(rows.stored, rows.wanted))
         rights.push_back(Right::UndoPreSales);
     for (const Right right : rights) {
         if (std::string why = WhyDenied(database, author, right); !why.empty())

@@ -11,8 +11,6 @@
 #include "family/data/stores/appointment_store.hpp"
 #include "family/users/user_rights.hpp"
 
-#include <tuple>
-
 namespace kova::family {
 
 namespace {
@@ -30,16 +28,6 @@ AppointmentState StateOf(const Booking& booking, Key number, int statusBefore)
     state.customer = booking.row.codigoDoCliente;
     state.priceInCents = booking.service.priceInCents;
     return state;
-}
-
-/// Whether a write changes what a pre-sale is made for.
-bool SellsOtherwise(const AppointmentRow& before, const AppointmentRow& after)
-{
-    const auto sold = [](const AppointmentRow& row) {
-        return std::tuple(row.numeroDoTipoDeServico, row.codigoDoServico, row.codigoDoCliente.ValueOr(0),
-                          row.codigoDoAnimal.ValueOr(0));
-    };
-    return sold(before) != sold(after);
 }
 
 bool FormsPackage(const Booking& booking)
@@ -71,6 +59,8 @@ WriteAnswer WriteOver(Database& database, const AppointmentRow& stored, Appointm
         return *refusal;
     if (booking.row.situacao != stored.situacao)
         RequireRightToStatus(database, author, stored.situacao, booking.row.situacao);
+    if (UndoesPreSale(stored, booking.row))
+        RequireRight(database, author, Right::UndoPreSales);
     const auto follow = SellsOtherwise(stored, booking.row) ? RenewPreSale : FollowWithPreSale;
     WriteAnswer answer =
         follow(database, StateOf(booking, stored.numero, stored.situacao), booking.row.situacao, author);

@@ -1,7 +1,10 @@
 #include "family/business/appointments/pre_sale_rules.hpp"
 
+#include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/pre_sales.hpp"
+
+#include <tuple>
 
 namespace kova::family {
 
@@ -35,6 +38,21 @@ WriteAnswer UndoPreSale(Database& database, Key appointment, const char* refusal
 }
 
 } // namespace
+
+bool SellsOtherwise(const AppointmentRow& before, const AppointmentRow& after)
+{
+    const auto sold = [](const AppointmentRow& row) {
+        return std::tuple(row.numeroDoTipoDeServico, row.codigoDoServico, row.codigoDoCliente.ValueOr(0),
+                          row.codigoDoAnimal.ValueOr(0));
+    };
+    return sold(before) != sold(after);
+}
+
+bool UndoesPreSale(const AppointmentRow& before, const AppointmentRow& after)
+{
+    return before.situacao == appointment_status::PreSaleGenerated
+        && (after.situacao != appointment_status::PreSaleGenerated || SellsOtherwise(before, after));
+}
 
 WriteAnswer FollowWithPreSale(Database& database, const AppointmentState& appointment, int status,
                               const Author& author)

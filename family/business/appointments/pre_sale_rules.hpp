@@ -7,7 +7,14 @@
 namespace kova::family {
 
 class Database;
+struct AppointmentRow;
 struct AppointmentState;
+
+/// Whether a write changes what a pre-sale is made for.
+bool SellsOtherwise(const AppointmentRow& before, const AppointmentRow& after);
+
+/// Whether a write takes a generated pre-sale away, or has it made for something else.
+bool UndoesPreSale(const AppointmentRow& before, const AppointmentRow& after);
 
 /// What a change from the appointment's status to another one means for its pre-sale, in the transaction that
 /// is open: a change to 4 makes it with the service's price, one from 4 cancels it. Refused where it cannot

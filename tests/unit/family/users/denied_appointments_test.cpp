@@ -3,9 +3,11 @@
 #include "tests/unit/family/bath.hpp"
 #include "tests/unit/family/users/users_fixture.hpp"
 
+#include "family/business/appointments/appointment_fields.hpp"
 #include "family/business/appointments/appointment_restoration.hpp"
 #include "family/business/appointments/appointment_writes.hpp"
 #include "family/business/appointments/status_change.hpp"
+#include "family/data/rows/find_by_key.hpp"
 
 #include <functional>
 
@@ -65,6 +67,13 @@ const Write Writes[] = {
      [](Database& database, const Author& author) { return ChangeStatus(database, 7, 2, author); }},
     {"PreSaleUndoneAndCancelled", Right::CancelAppointments,
      [](Database& database, const Author& author) { return ChangeStatus(database, 7, 3, author); }},
+    {"PreSaleMadeForAnother", Right::UndoPreSales,
+     [](Database& database, const Author& author) {
+         AppointmentInput input = InputOf(FindByKey<AppointmentRow>(database, 7).value());
+         input.customer = 10;
+         input.animal = 50;
+         return AlterAppointment(database, input, author);
+     }},
     {"PackageAttended", Right::ChangeAppointments,
      [](Database& database, const Author& author) { return ChangeStatusOfPackage(database, 21, 2, author); }},
     {"PackageCancelled", Right::CancelAppointments,
