@@ -259,7 +259,8 @@ QString PersonDialog::Why(family::Right right) const
 void PersonDialog::Offer()
 {
     const bool isFree = !job_->IsUnderWay();
-    screens::Offer(*export_, isFree, Why(family::Right::Export));
+    const QString whyNoExport = Why(family::Right::Export);
+    screens::Offer(*export_, isFree, whyNoExport.isEmpty() ? Why(family::Right::SeePrices) : whyNoExport);
     choose_->setEnabled(isFree);
     folder_->setEnabled(isFree);
     code_->setEnabled(isFree && !isAnonymous_);

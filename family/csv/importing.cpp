@@ -49,6 +49,13 @@ Right RightToBringIn(const Register& into)
     return written ? written->RightToWrite() : Right::Book;
 }
 
+void RequireRights(Database& database, const Register& into, const Author& author)
+{
+    RequireRight(database, author, RightToBringIn(into));
+    if (HasPrices(into))
+        RequireRight(database, author, Right::SeePrices);
+}
+
 /// A file on its way into a database.
 class Importing {
 public:
@@ -65,19 +72,12 @@ public:
     ImportReport Run(const Author& author)
     {
         return TellingDenials(*database_, author, [&] {
-            RequireRights(author);
+            RequireRights(*database_, *order_.into, author);
             return RunAllowed(author);
         });
     }
 
 private:
-    void RequireRights(const Author& author) const
-    {
-        RequireRight(*database_, author, RightToBringIn(*order_.into));
-        if (HasPrices(*order_.into))
-            RequireRight(*database_, author, Right::SeePrices);
-    }
-
     ImportReport RunAllowed(const Author& author)
     {
         Check();
@@ -113,7 +113,7 @@ private:
     ImportReport Write(Author author)
     {
         WriteTransaction transaction(*database_);
-        RequireRights(author);
+        RequireRights(*database_, *order_.into, author);
         LockImports(*database_);
         run_.LockRoom();
         if (!changes_ || changes_ != ChangesOfOthers(*database_))
@@ -146,15 +146,21 @@ private:
 
 bool TakesUpdates(const Register& into) { return registers::RegisterNamed(into.name) != nullptr; }
 
-ImportReport RehearseImport(const std::string& source, const ImportOrder& order, DateTime now,
-                            const ImportWatch& watch)
+ImportReport RehearseImport(const std::string& source, const ImportOrder& order, const Author& author,
+                            DateTime now, const ImportWatch& watch)
 {
     try {
         const auto database = OpenNewestForReading(source);
         const Snapshot snapshot(*database);
+        // It tells what stands there now of what it would change.
+        RequireRights(*database, *order.into, author);
         ImportRun run(*order.into, order.file.text, order.separator, order.known, now, watch);
         run.Check(*database, ImportStep::Checking);
         return ReportOf(run);
+    } catch (const RightDenied& denied) {
+        // Over another connection: that one only reads.
+        AuditDenial(*OpenDatabase(source), author, denied);
+        throw;
     } catch (const Interrupted& cause) {
         throw TranslatedFailure(source, cause);
     }

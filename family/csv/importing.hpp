@@ -41,9 +41,10 @@ struct ImportReport {
     std::string copy{};
 };
 
-/// Tells what BringIn would do. Reads only, and waits for nobody. Fails with a DatabaseFailure.
-ImportReport RehearseImport(const std::string& source, const ImportOrder& order, DateTime now,
-                            const ImportWatch& watch);
+/// Tells what BringIn would do, to whoever may have it done. Reads only, and waits for nobody. Fails with a
+/// DatabaseFailure, and with RightDenied as BringIn.
+ImportReport RehearseImport(const std::string& source, const ImportOrder& order, const Author& author,
+                            DateTime now, const ImportWatch& watch);
 
 /// Brings a file into the shop at `source`: all of it, or nothing where any line is wrong. It is checked
 /// while others go on writing; then, where it would change anything, the shop's file is copied beside itself,

@@ -28,6 +28,8 @@ PersonReport ReportOf(const std::string& source, Key code, const Author& author,
         const std::unique_ptr<Database> database = OpenNewestForReading(source);
         const Snapshot snapshot(*database);
         RequireRight(*database, author, Right::Export);
+        // What was sold to him is told with its prices.
+        RequireRight(*database, author, Right::SeePrices);
         // Whose data they are is asked for under the other code.
         if (const std::string merged = MergedText<CustomerRow>(*database, code); !merged.empty())
             throw DatabaseFailure(merged);

@@ -255,6 +255,16 @@ void TakeAllBack(Database& database, UndoneImport& undone, const Author& author,
     work.Reach(total, total);
 }
 
+/// What an import has brought goes, and what it has changed comes back, by the rights that its rows are
+/// otherwise removed and changed with.
+void RequireRights(Database& database, const ImportLine& import, const Author& author)
+{
+    const Register* of = RegisterNamed(import.registerName);
+    RequireRight(database, author, of == nullptr ? Right::DeleteAppointments : of->RightToWrite());
+    if (of != nullptr && HasPrices(*of))
+        RequireRight(database, author, Right::SeePrices);
+}
+
 UndoneImport UndoInTransaction(Database& database, std::optional<Key> number, ChangedRows changed,
                                const Author& author, const LongWork& work)
 {
@@ -265,6 +275,7 @@ UndoneImport UndoInTransaction(Database& database, std::optional<Key> number, Ch
         UndoneImport undone = Find(database, number);
         if (!undone.IsDone())
             return undone;
+        RequireRights(database, undone.import, author);
         TakeAllBack(database, undone, author, work);
         if (!undone.kept.empty() && changed == ChangedRows::Refuse) {
             undone.outcome = UndoneImport::Outcome::Refused;

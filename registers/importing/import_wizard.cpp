@@ -166,8 +166,8 @@ void ImportWizard::Check()
     BeginWork(NameOf(ImportStep::Checking));
     job_->Begin(
         [this, source = desk_.source, order = order_, report = report_,
-         now = MomentOf(desk_.author())](const std::stop_token& stop) {
-            *report = csv::RehearseImport(source, *order, now, WatchFrom(stop));
+         author = desk_.author()](const std::stop_token& stop) {
+            *report = csv::RehearseImport(source, *order, author, MomentOf(author), WatchFrom(stop));
         },
         [this](const std::string& failure) { ShowChecked(failure); });
     Offer({});

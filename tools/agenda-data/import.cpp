@@ -99,8 +99,8 @@ ImportOrder OrderOf(const Call& call)
 
 int Rehearse(const Call& call, const ImportOrder& order, Surroundings& surroundings)
 {
-    const ImportReport report =
-        csv::RehearseImport(call.Operand(0), order, surroundings.now, WatchOn(surroundings.error));
+    const ImportReport report = csv::RehearseImport(call.Operand(0), order, AuthorOf(call, surroundings),
+                                                    surroundings.now, WatchOn(surroundings.error));
     if (!report.IsGood())
         return Refuse(report, surroundings);
     surroundings.output << report.changes

@@ -352,6 +352,7 @@ private:
     std::vector<RemoveAnswer> TakeBackTogether(Database& database, std::span<const AddedRow> rows,
                                                const Author& author) const
     {
+        RequireRight(database, author, RightToWrite());
         LockImports(database);
         const std::unordered_map<Key, Record> stored = LockRows(database, rows);
         std::vector<Key> going;

@@ -50,17 +50,37 @@ bool Change(const Place& place, const registers::Register& of, Key key, const ch
     return of.Save(place.database, key, before, With(of, before, label, text), place.author).IsDone();
 }
 
-bool BringIn(const Place& place, const char* into, const std::string& text)
+csv::ImportOrder OrderOf(const char* into, const std::string& text)
 {
     csv::ImportOrder order;
     order.into = csv::RegisterNamed(into);
     order.path = "planilha.csv";
     order.file = {text, csv::Encoding::Utf8};
     order.makesCopy = false;
+    return order;
+}
+
+bool BringIn(const Place& place, const char* into, const std::string& text)
+{
+    const csv::ImportOrder order = OrderOf(into, text);
     const csv::ImportWatch watch{.problem = [](const auto&...) {}};
     const csv::ImportReport report =
         csv::BringIn(place.source, order, place.author, {{2026, 11, 20}, {9, 4, 5}}, watch);
     return report.IsGood() && report.number != 0;
+}
+
+bool Rehearse(const Place& place, const char* into, const std::string& text)
+{
+    const csv::ImportOrder order = OrderOf(into, text);
+    return csv::RehearseImport(place.source, order, place.author, {{2026, 11, 20}, {9, 4, 5}},
+                               {.problem = [](const auto&...) {}})
+        .IsGood();
+}
+
+bool TakeLastBack(const Place& place)
+{
+    return csv::TakeBack(place.source, std::nullopt, registers::ChangedRows::Refuse, place.author, {})
+        .IsDone();
 }
 
 bool Export(const Place& place, const char* from)
@@ -69,6 +89,18 @@ bool Export(const Place& place, const char* from)
     csv::ExportTo(place.source, order, place.author, {});
     return std::filesystem::exists(order.path);
 }
+
+bool ExportOfAPerson(const Place& place)
+{
+    const privacy::PersonFiles files =
+        privacy::ExportPerson(place.source, 10, place.folder, place.author, {{2026, 11, 20}, {9, 4, 5}}, {});
+    return std::filesystem::exists(files.page);
+}
+
+constexpr const char* Prices = "Nome;Número do tipo;Duração em minutos;Preço\nTosa;4;60;80,00\n";
+constexpr const char* Appointments =
+    "Data inicial;Hora inicial;Data final;Hora final;Código do cliente;Código do animal;Número do"
+    " tipo;Código do serviço;Código do funcionário\n07/12/2026;09:00;07/12/2026;10:00;10;50;4;2;2\n";
 
 const Act Acts[] = {
     {"NewRow", Right::ChangeRegisters,
@@ -95,23 +127,17 @@ const Act Acts[] = {
     {"Import", Right::ChangeRegisters,
      [](const Place& place) { return BringIn(place, "especies", "Nome\nPeixe\n"); }},
     {"ImportOfPrices", Right::SeePrices,
-     [](const Place& place) {
-         return BringIn(place, "servicos", "Nome;Número do tipo;Duração em minutos;Preço\nTosa;4;60;80,00\n");
-     }},
-    {"ImportTakenBack", Right::ChangeRegisters,
-     [](const Place& place) {
-         return csv::TakeBack(place.source, std::nullopt, registers::ChangedRows::Refuse, place.author, {})
-             .IsDone();
-     }},
+     [](const Place& place) { return BringIn(place, "servicos", Prices); }},
+    {"ImportThatIsTried", Right::ChangeRegisters,
+     [](const Place& place) { return Rehearse(place, "especies", "Nome\nPeixe\n"); }},
+    {"ImportOfPricesThatIsTried", Right::SeePrices,
+     [](const Place& place) { return Rehearse(place, "servicos", Prices); }},
+    {"ImportTakenBack", Right::ChangeRegisters, TakeLastBack},
     {"Export", Right::Export, [](const Place& place) { return Export(place, "especies"); }},
     {"ExportOfPrices", Right::SeePrices, [](const Place& place) { return Export(place, "servicos"); }},
     {"ExportOfAppointments", Right::Export, [](const Place& place) { return Export(place, "agendamentos"); }},
-    {"ExportOfAPerson", Right::Export,
-     [](const Place& place) {
-         const privacy::PersonFiles files = privacy::ExportPerson(
-             place.source, 10, place.folder, place.author, {{2026, 11, 20}, {9, 4, 5}}, {});
-         return std::filesystem::exists(files.page);
-     }},
+    {"ExportOfAPerson", Right::Export, ExportOfAPerson},
+    {"ExportOfAPersonsSales", Right::SeePrices, ExportOfAPerson},
     {"Anonymising", Right::Anonymise,
      [](const Place& place) {
          return privacy::Anonymise(place.source, {12, {}}, place.author, {}).IsDone();
@@ -178,6 +204,34 @@ TEST_P(DeniedActs, AreRefusedWithoutThatRightAndDoneWithAll)
                                        + std::string(InfoOf(act.needed).name) + "\"}"});
     GiveLia(Administration);
     EXPECT_TRUE(act.run(PlaceOf(lia_)));
+}
+
+/// What an import has brought goes by the rights that it is otherwise removed and changed with.
+TEST_F(DeniedActs, AreTheReturnsOfWhatAnImportHasBrought)
+{
+    const auto without = [this](Right needed) {
+        Rights rights;
+        for (const RightInfo& info : AllRights()) {
+            if (info.right != needed)
+                rights.insert(info.right);
+        }
+        Allow(rights);
+    };
+    const std::pair<Right, std::function<bool()>> imports[] = {
+        {Right::SeePrices, [this] { return BringIn(PlaceOf(ana_), "servicos", Prices); }},
+        {Right::DeleteAppointments, [this] { return BringIn(PlaceOf(ana_), "agendamentos", Appointments); }},
+    };
+    for (const auto& [needed, bringIn] : imports) {
+        GiveLia(Reception);
+        without(needed);
+        ASSERT_TRUE(bringIn());
+        const std::vector<std::string> before = Everything();
+        EXPECT_THROW(TakeLastBack(PlaceOf(lia_)), RightDenied) << InfoOf(needed).name;
+        EXPECT_EQ(Everything(), before);
+        GiveLia(Administration);
+        EXPECT_TRUE(TakeLastBack(PlaceOf(lia_)));
+        EXPECT_NE(Everything(), before);
+    }
 }
 
 TEST_P(DeniedActs, AreDoneWithoutUsers)
