@@ -54,8 +54,9 @@ const QString Program = QStringLiteral("programa"), Copy = QStringLiteral("cópi
 const QString NewerProgramText = QStringLiteral(
     "Uma versão mais nova do programa foi instalada. Esta continua funcionando; feche-a e abra o "
     "programa novamente quando for conveniente.");
-/// The code that writes carry until users have registers of their own; their name tells who it was.
-constexpr Long OnlyUser = 1;
+/// The code of whoever works in a shop without users, with a name alone: no user that the shop may get
+/// meanwhile has it.
+constexpr Long NoUser = 0;
 
 std::filesystem::path DatabaseOf(const Options& options)
 {
@@ -151,7 +152,7 @@ SessionEnd Session::Run()
     SetUpComponents(registry_, server_, ProgramFolder());
     Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
-    user_ = std::make_shared<SessionUser>(OnlyUser, NameOfUser());
+    user_ = std::make_shared<SessionUser>(NoUser, NameOfUser());
     door_ = std::make_unique<Door>(Door::Surroundings{SourceOf(options_), shop.tradeName,
                                                       KeptEntries(SettingsFile()), user_, userChange_, clock_,
                                                       options_.entry});

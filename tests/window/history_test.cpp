@@ -111,7 +111,7 @@ TEST_F(HistoryOfTheShop, TellsOfACancellationAndUndoesItByKeys)
     EXPECT_EQ(told, "Desfeito: " + act + ".");
     EXPECT_EQ(StatusNow(), "1");
     EXPECT_EQ(Value("select usuario from auditoria where tabela = 'agendamento' and depois like '%desfaz%'"),
-              "1 - Antônia");
+              "0 - Antônia");
 }
 
 TEST_F(HistoryOfTheShop, IsTurnedToAndUndoneByMouse)
@@ -156,9 +156,9 @@ TEST_F(HistoryOfTheShop, OfACustomerIsReachedFromHisForm)
         ->Does("another program writes",
                [&] {
                    Execute("insert into auditoria (momento, usuario, tabela, chave, operacao, depois) values"
-                           " ('2026-11-20 08:00:00', '1 - Antônia', 'cliente', "
+                           " ('2026-11-20 08:00:00', '0 - Antônia', 'cliente', "
                            + code
-                           + ", 'alteracao', '{}'), ('2026-11-20 08:00:00', '1 - Antônia', 'especie', 1,"
+                           + ", 'alteracao', '{}'), ('2026-11-20 08:00:00', '0 - Antônia', 'especie', 1,"
                              " 'alteracao', '{}')");
                })
         .Does("the menu", [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_M, Qt::AltModifier); });

@@ -103,7 +103,7 @@ TEST_F(DataOfACustomer, AreExportedAndThenTakenAwayByTheKeyboard)
     EXPECT_TRUE(file.readAll().contains(QByteArray::fromStdString(name_)));
     EXPECT_EQ(Value("select nome from cliente where codigo = " + code_), "Pessoa anonimizada " + code_);
     EXPECT_EQ(Value("select usuario from auditoria where operacao = 'anonimizacao' and chave = " + code_),
-              "1 - Antônia");
+              "0 - Antônia");
     EXPECT_EQ(Value("select count(*) from agendamento"), appointments);
     EXPECT_EQ(Value("select coalesce(sum(valor_em_centavos), 0) from pre_venda"), values);
 }

@@ -124,7 +124,7 @@ TEST_F(RegistersOfTheShop, AreChangedWhileTheAgendaStaysAsItWas)
     Run();
     EXPECT_EQ(Value("select apelido from cliente where codigo = " + code), "Fulaninha");
     EXPECT_EQ(Value("select usuario from auditoria where tabela = 'cliente' order by codigo desc limit 1"),
-              "1 - Antônia");
+              "0 - Antônia");
     EXPECT_FALSE(page.empty());
 }
 
@@ -174,7 +174,7 @@ TEST_F(RegistersOfTheShop, BringAFileInAndTakeItBackByKeys)
     Run();
     EXPECT_EQ(std::stoi(between), std::stoi(before) + 2);
     EXPECT_EQ(Value("select count(*) from cliente"), before);
-    EXPECT_EQ(Value("select usuario from auditoria where operacao = 'importacao_desfeita'"), "1 - Antônia");
+    EXPECT_EQ(Value("select usuario from auditoria where operacao = 'importacao_desfeita'"), "0 - Antônia");
 }
 
 TEST_F(RegistersOfTheShop, ShowTheAppointmentsOfACustomer)

@@ -21,7 +21,7 @@ TEST_F(Status, ChangedByKeyInTheWindowIsInTheDatabaseWithWhoAndWhen)
     EXPECT_EQ(Value("select situacao, alterado_por from agendamento where numero = " + number), "2|Antônia");
     EXPECT_EQ(Value("select substr(alterado_em, 1, 10) from agendamento where numero = " + number),
               "2026-11-20");
-    EXPECT_EQ(Value("select count(*) from auditoria where tabela = 'agendamento' and usuario = '1 - Antônia' "
+    EXPECT_EQ(Value("select count(*) from auditoria where tabela = 'agendamento' and usuario = '0 - Antônia' "
                     "and chave = '"
                     + number + "'"),
               "1");

@@ -3,6 +3,7 @@
 #include "tests/window/shop_with_users.hpp"
 
 #include "family/data/sources/data_source.hpp"
+#include "family/users/accounts.hpp"
 #include "family/users/user_rights.hpp"
 #include "host/session/session.hpp"
 
@@ -53,6 +54,25 @@ TEST_F(UsersOfTheShop, BeginsWithTheFirstByTheMenu)
     EXPECT_EQ(offered, 0);
     EXPECT_EQ(title, "Pet Shop Amigo Fiel - Antônia - Kovaris");
     EXPECT_TRUE(family::HasUsers(*family::OpenDatabase(Database())));
+}
+
+/// Another desk makes the first user of a name that was written down before.
+TEST_F(UsersOfTheShop, LeavesNobodysRightsToADeskThatWasOpenBefore)
+{
+    Execute("update agendamento set situacao = 1");
+    const std::string former = Value("select nome from usuario where codigo = 1");
+    receptionist->WaitsFor(List).Looks([&] {
+        const auto database = family::OpenDatabase(Database());
+        const family::Secret secret{std::string("Gato-Preto 1")};
+        EXPECT_EQ(family::SaveAccount(*database, {1, former, Administration, true}, &secret, owner_).why, "");
+    });
+    receptionist->Presses("F7").Presses("Down").Presses("Ctrl+2").Answers("Return");
+    receptionist->WaitsFor(List).Leaves();
+    Run();
+    EXPECT_EQ(receptionist->Boxes().size(), 1U);
+    EXPECT_EQ(Value("select count(*) from auditoria where tabela = 'agendamento' and operacao = 'alteracao'"),
+              "0");
+    EXPECT_EQ(Value("select usuario from auditoria where operacao = 'direito_negado'"), "0 - Antônia");
 }
 
 TEST_F(UsersOfTheShop, ShowsItsUsersToThoseWhoAdministerThemAlone)
