@@ -74,9 +74,20 @@ bool Cover::eventFilter(QObject* object, QEvent* event)
     auto* widget = static_cast<QWidget*>(object);
     const bool isOfTheDialog = widget == &besides_ || besides_.isAncestorOf(widget);
     const bool isPassing = widget->windowType() == Qt::Popup || widget->windowType() == Qt::ToolTip;
-    if (widget->isWindow() && !isOfTheDialog && !isPassing)
-        Put(*widget);
+    if (!widget->isWindow() || isOfTheDialog || isPassing)
+        return false;
+    Put(*widget);
+    if (widget->isModal())
+        QMetaObject::invokeMethod(
+            this, [this] { ComeToTheFront(); }, Qt::QueuedConnection);
     return false;
+}
+
+// What is modal and came last has the keys: a question that nobody sees would be answered by whoever types.
+void Cover::ComeToTheFront()
+{
+    besides_.hide();
+    besides_.show();
 }
 
 } // namespace kova::host

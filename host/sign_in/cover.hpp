@@ -10,7 +10,7 @@ class QWidget;
 namespace kova::host {
 
 /// Covers the contents of all windows of the application, as long as it is there, also of those that come
-/// up meanwhile; menus and lists that are open are closed.
+/// up meanwhile; menus and lists that are open are closed. A message that comes up stays behind the dialog.
 class Cover : public QObject {
 public:
     /// That dialog stays as it is.
@@ -22,6 +22,7 @@ protected:
 
 private:
     void Put(QWidget& window);
+    void ComeToTheFront();
 
     QWidget& besides_;
     std::vector<QPointer<QWidget>> sheets_;

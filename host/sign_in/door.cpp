@@ -149,7 +149,6 @@ void Door::LetIn(const SignInAnswer& answer)
     isAdministrator_ = answer.rights.contains(family::Right::AdministerUsers);
     if (window_ != nullptr)
         window_->TellUser(QString::fromStdString(answer.name));
-    FollowIdleness();
     surroundings_.change.Tell();
 }
 
@@ -159,6 +158,7 @@ void Door::Watch(MainWindow& window)
     atStart_.reset();
     window.TellUser(QString::fromStdString(surroundings_.user->Name()));
     QCoreApplication::instance()->installEventFilter(this);
+    surroundings_.change.Follow(*this, [this] { FollowIdleness(); });
     FollowIdleness();
 }
 
@@ -218,11 +218,20 @@ void Door::SetIdleMinutes(int minutes)
     FollowIdleness();
 }
 
+bool Door::IsNeverAsked() const
+{
+    const std::string token = surroundings_.kept.Token(surroundings_.source);
+    try {
+        return !token.empty() && token == family::SignInToken(*Open(), surroundings_.user->Code());
+    } catch (const family::DatabaseFailure&) {
+        return false;
+    }
+}
+
 // Whoever is never asked at this computer is not to be asked in the midst of the work.
 void Door::FollowIdleness()
 {
-    const bool isAsked = surroundings_.kept.Token(surroundings_.source).empty();
-    const bool locks = hasUsers_ && isAsked && window_ != nullptr;
+    const bool locks = hasUsers_ && window_ != nullptr && !IsNeverAsked();
     idle_->SetPatience(std::chrono::minutes(locks ? IdleMinutes() : 0));
 }
 

@@ -82,6 +82,9 @@ private:
     SignInDialog& Ask(const SignInDialog::Question& question);
     void LetIn(const family::SignInAnswer& answer);
     void Keep(family::Key code, bool keeps) const;
+    /// Whoever is at the desk is the one whom this computer knows, and the only one who enters. Not where the
+    /// data cannot be read now.
+    bool IsNeverAsked() const;
     void FollowIdleness();
 
     Surroundings surroundings_;

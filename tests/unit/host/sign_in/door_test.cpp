@@ -139,6 +139,26 @@ TEST_F(TheDoor, LocksAfterAsManyIdleMinutesAsAreSet)
     EXPECT_EQ(door.IdleMinutes(), 0);
 }
 
+/// What this computer keeps is of the only user; once there is another it keeps nobody's place.
+TEST_F(TheDoor, LocksWhereThisComputerKnewTheOnlyUserAndThereIsAnotherNow)
+{
+    MakeShop(true);
+    KeepToken();
+    Door& door = Open();
+    EXPECT_TRUE(door.Enter());
+    door.Watch(window_);
+    EXPECT_EQ(PatienceOf(door), std::chrono::minutes(0));
+    const auto database = family::OpenDatabase(file_);
+    const family::Secret password(std::string("Laço Azul 22"));
+    EXPECT_EQ(family::SaveAccount(
+                  *database, {0, "Lia", 3, true}, &password,
+                  {.code = "0", .name = "root", .moment = "2026-11-20 09:00:00", .isOwner = true}, {1, 8192})
+                  .why,
+              "");
+    change_.Tell();
+    EXPECT_EQ(PatienceOf(door), std::chrono::minutes(15));
+}
+
 TEST_F(TheDoor, AsksOnceForALockAndChangesNoPlaceMeanwhile)
 {
     MakeShop(true);

@@ -7,7 +7,9 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -79,6 +81,27 @@ TEST_F(TheLock, CoversWindowsThatComeUpMeanwhileAndOutlivesThoseThatGo)
     EXPECT_TRUE(IsCovered(*message));
     message.reset();
     EXPECT_TRUE(IsCovered(window_));
+}
+
+/// A question that was on its way, and would take the keys of whoever wants to sign in, or be answered
+/// unseen.
+TEST_F(TheLock, StaysInFrontOfAMessageThatComesUpMeanwhile)
+{
+    question_.setModal(true);
+    auto* answer = new QLineEdit(&question_);
+    Cover cover(question_);
+    question_.show();
+    answer->setFocus();
+    QMessageBox message(QMessageBox::Question, QStringLiteral("Excluir"), QStringLiteral("Excluir?"),
+                        QMessageBox::Yes | QMessageBox::No, &window_);
+    message.open();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&message));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::activeModalWidget(), &question_);
+    EXPECT_TRUE(question_.isVisible());
+    EXPECT_EQ(question_.focusWidget(), answer);
+    QTest::keyClick(message.windowHandle(), Qt::Key_Return);
+    EXPECT_TRUE(message.isVisible()) << "nobody has seen what is answered";
 }
 
 TEST_F(TheLock, ClosesMenusThatAreOpen)
