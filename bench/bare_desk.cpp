@@ -1,5 +1,6 @@
 #include "bench/bare_desk.hpp"
 
+#include "family/data/audit/short_names.hpp"
 #include "family/data/engine/iso_text.hpp"
 
 #include <stdexcept>
@@ -43,10 +44,11 @@ std::vector<std::optional<std::string>> ValuesOf(const BareRow& row)
     return values;
 }
 
-/// Replaces what stands behind `"column":` in a line of the audit.
+/// Replaces what a line of the audit keeps of a column of the appointment.
 void Replace(std::string& line, const std::string& column, const std::string& value)
 {
-    const std::size_t start = line.find("\"" + column + "\":") + column.size() + 3;
+    const std::string beginning = family::BeginningsOf(column).front();
+    const std::size_t start = line.find(beginning) + beginning.size();
     line.replace(start, line.find_first_of(",}", start) - start, value);
 }
 

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/utf8.hpp"
 #include "family/data/audit/audit.hpp"
+#include "family/data/audit/short_names.hpp"
 #include "family/data/engine/search_text.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/appointment_status.hpp"
@@ -11,9 +12,6 @@
 namespace kova::family::history {
 
 namespace {
-
-constexpr const char* Day = "substr(a.momento, 1, 10)";
-constexpr const char* DayOfAppointment = "\"data_inicial\":\"";
 
 std::string ListOf(const std::vector<Key>& keys)
 {
@@ -57,10 +55,14 @@ public:
         AddPlace(behind);
         most_ = most;
         const std::string codes = Codes();
-        const bool joins = !codes.empty() && !dialect_.IsServer();
-        // However many codes a server thinks that there are, it goes by them.
+        const bool goesByDays = findings_.hasManyOfText && filter_.subject.kind == Subject::Kind::Everything;
+        const bool joins = !codes.empty() && !dialect_.IsServer() && !goesByDays;
         if (!codes.empty())
-            conditions_.push_back(joins ? "a.codigo = k.codigo" : "a.codigo = any(array(" + codes + "))");
+            conditions_.push_back(joins ? "a.codigo = k.codigo"
+                                      : dialect_.IsServer()
+                                      // However many codes a server thinks that there are, it goes by them.
+                                      ? "a.codigo = any(array(" + codes + "))"
+                                      : "+a.codigo in (" + codes + ")");
         std::string text = joins ? "with k as materialized (" + codes + ") " : "";
         text +=
             "select a.codigo, a.momento, a.usuario, a.posto, a.tabela, a.chave, a.operacao, a.antes, a.depois"
@@ -71,6 +73,13 @@ public:
     }
 
 private:
+    /// As the engine's indexes have the line's day: a number in a file, where texts have no short form.
+    std::string Day() const { return AsDay("substr(a.momento, 1, 10)"); }
+    std::string AsDay(const std::string& text) const
+    {
+        return dialect_.IsServer() ? text : "cast(replace(" + text + ", '-', '') as integer)";
+    }
+
     std::string Where() const
     {
         std::string text;
@@ -81,7 +90,7 @@ private:
 
     std::string FirstOfThem() const
     {
-        return std::string(" order by ") + Day + " desc, a.codigo desc limit " + std::to_string(most_);
+        return " order by " + Day() + " desc, a.codigo desc limit " + std::to_string(most_);
     }
 
     /// The codes of all lines that come into question, where an index of the single conditions would not lead
@@ -90,8 +99,8 @@ private:
     {
         const std::string ofText = CodesOfText();
         std::string ofSubject = CodesOfSubject();
-        if (ofSubject.empty() && ofText.empty() && !findings_.rare.empty())
-            ofSubject = "select codigo from auditoria where " + findings_.rare + " = :" + findings_.rare;
+        if (ofSubject.empty() && ofText.empty() && findings_.rare)
+            ofSubject = "select codigo from auditoria a where " + ConditionOf(*findings_.rare, dialect_);
         if (ofSubject.empty() || ofText.empty())
             return ofSubject + ofText;
         return "select codigo from (" + ofSubject + ") s intersect select codigo from (" + ofText + ") t";
@@ -167,13 +176,12 @@ private:
     std::string CodesOfDay()
     {
         Bind("dia", filter_.subject.day);
-        Bind("contem_dia", "%" + std::string(DayOfAppointment) + filter_.subject.day + "\"%");
         return CodesOf(AppointmentRow::Table, "(select numero from agendamento where data_inicial = :dia)")
             + " union select codigo from auditoria where tabela = 'agendamento' and chave in (select chave "
               "from "
               "auditoria a where "
-            + HasWords("palavras_do_dia", filter_.subject.day)
-            + " and tabela = 'agendamento' and antes like :contem_dia)";
+            + HasWords("palavras_do_dia", filter_.subject.day) + " and tabela = 'agendamento' and "
+            + Tells("a.antes", "data_inicial", "\"" + filter_.subject.day + "\"", "dia_marcado") + ")";
     }
 
     std::string CodesOfText()
@@ -183,7 +191,7 @@ private:
             return {};
         std::string codes;
         if (!WordsSought(filter_.text, dialect_).empty())
-            codes = "select codigo from auditoria a where " + HasWords("palavras", filter_.text);
+            codes = LinesWithWords("palavras", filter_.text);
         if (!text.code.IsNull())
             codes += (codes.empty() ? "" : " union ")
                 + ("select codigo from auditoria where tabela in " + Tables()
@@ -191,14 +199,21 @@ private:
         return codes.empty() ? "select codigo from auditoria where codigo < 0" : codes;
     }
 
-    /// The condition on a line called `a` that it has the words.
-    std::string HasWords(const std::string& name, const std::string& text)
+    /// The codes of the lines that have the words.
+    std::string LinesWithWords(const std::string& name, const std::string& text)
     {
         Bind(name, WordsSought(text, dialect_));
         return dialect_.IsServer()
-            ? "palavras_da_auditoria(a.antes, a.depois) @@ to_tsquery('simple', :" + name + ")"
-            : "a.codigo in (select rowid from palavras_da_auditoria where palavras_da_auditoria match :"
-                + name + ")";
+            ? "select codigo from auditoria a where palavras_da_auditoria(a.antes, a.depois)"
+              " @@ to_tsquery('simple', :"
+                + name + ")"
+            : "select rowid as codigo from palavras_da_auditoria where palavras_da_auditoria match :" + name;
+    }
+
+    /// The condition on a line called `a` that it has the words.
+    std::string HasWords(const std::string& name, const std::string& text)
+    {
+        return "a.codigo in (" + LinesWithWords(name, text) + ")";
     }
 
     /// Those whose rows people know by a number.
@@ -212,23 +227,36 @@ private:
     {
         for (const ColumnValue& one : ColumnsOf(filter_)) {
             Bind(one.column, one.value);
-            conditions_.push_back("a." + one.column + " = :" + one.column);
+            conditions_.push_back(ConditionOf(one, dialect_));
         }
         if (filter_.operation == Cancellation)
             AddCancellation();
         if (!filter_.from.empty()) {
             Bind("desde", filter_.from);
-            conditions_.push_back(std::string(Day) + " >= :desde");
+            conditions_.push_back(Day() + " >= " + AsDay(":desde"));
         }
     }
 
     /// The audit tells of it as of any other change.
     void AddCancellation()
     {
-        const std::string cancelled = "\"situacao\":" + std::to_string(appointment_status::Cancelled);
-        Bind("cancelado", "%" + cancelled + "%");
-        conditions_.emplace_back("a.tabela = 'agendamento'");
-        conditions_.emplace_back("a.depois like :cancelado and a.antes not like :cancelado");
+        const std::string cancelled = std::to_string(appointment_status::Cancelled);
+        conditions_.push_back(ConditionOf({"tabela", AppointmentRow::Table}, dialect_, "'agendamento'"));
+        conditions_.push_back(Tells("a.depois", "situacao", cancelled, "depois_cancelado"));
+        conditions_.push_back("not " + Tells("a.antes", "situacao", cancelled, "antes_cancelado"));
+    }
+
+    /// The condition that a line keeps this value of a column of appointments, under whichever name.
+    std::string Tells(const std::string& where, std::string_view column, const std::string& value,
+                      const std::string& name)
+    {
+        std::string text;
+        for (const std::string& beginning : BeginningsOf(column)) {
+            const std::string one = name + (text.empty() ? "" : "_por_extenso");
+            Bind(one, "%" + beginning + value + "%");
+            text.append(text.empty() ? "" : " or ").append(where).append(" like :").append(one);
+        }
+        return "(" + text + ")";
     }
 
     void AddPlace(const std::optional<Place>& behind)
@@ -238,10 +266,10 @@ private:
             last = behind->day;
         if (!last.empty()) {
             Bind("ate", last);
-            conditions_.push_back(std::string(Day) + " <= :ate");
+            conditions_.push_back(Day() + " <= " + AsDay(":ate"));
         }
         if (behind && behind->day == last)
-            conditions_.push_back(std::string("(") + Day + " < :ate or a.codigo < "
+            conditions_.push_back("(" + Day() + " < " + AsDay(":ate") + " or a.codigo < "
                                   + std::to_string(behind->code) + ")");
     }
 
@@ -270,6 +298,24 @@ std::vector<ColumnValue> ColumnsOf(const Filter& filter)
     };
     std::erase_if(columns, [](const ColumnValue& one) { return one.value.empty(); });
     return columns;
+}
+
+bool IsOfMost(const ColumnValue& one)
+{
+    return one.value == AppointmentRow::Table || one.value == audit_operation::Insertion
+        || one.value == audit_operation::Change;
+}
+
+std::string ConditionOf(const ColumnValue& one, const Dialect& dialect, const std::string& value)
+{
+    const std::string column = "a." + one.column;
+    const std::string condition = column + " = " + (value.empty() ? ":" + one.column : value);
+    // An index that begins with the same column, and not with the day, would lead through half of all lines.
+    if (IsOfMost(one))
+        return (dialect.IsServer() ? "" : "+") + condition;
+    if (one.column == "operacao")
+        return condition + " and a.operacao not in ('inclusao', 'alteracao')";
+    return condition + (one.column == "tabela" ? " and a.tabela <> 'agendamento'" : "");
 }
 
 LineStatement StatementOf(const Filter& filter, const Findings& findings, const std::optional<Place>& behind,

@@ -15,6 +15,11 @@ struct LineStatement {
     std::vector<std::pair<std::string, std::string>> parameters;
 };
 
+/// What a column is to be, of those that lines are narrowed by.
+struct ColumnValue {
+    std::string column, value;
+};
+
 /// What has to be looked for before the lines are.
 struct Findings {
     /// Of a customer, also those of rows that have gone into it.
@@ -23,15 +28,19 @@ struct Findings {
     std::vector<std::pair<std::string, Key>> gone;
     /// As the audit has them, of a user.
     std::vector<std::string> users;
-    /// The column of several that are narrowed by which only few lines come into question; may be empty.
-    std::string rare;
+    /// One of several columns that are narrowed, by which only few lines come into question; there may be
+    /// none.
+    std::optional<ColumnValue> rare;
+    /// So many lines have the words of the text that it is quicker to go through the days than through these.
+    bool hasManyOfText = false;
 };
 
-/// What a column is to be, of those that lines are narrowed by.
-struct ColumnValue {
-    std::string column, value;
-};
 std::vector<ColumnValue> ColumnsOf(const Filter& filter);
+/// Whether nearly all lines may have that value, so that no index has it: they are found among the days.
+bool IsOfMost(const ColumnValue& one);
+/// The condition on a line called `a`, as its index has it. The value is a parameter called as the column, or
+/// the literal that is given.
+std::string ConditionOf(const ColumnValue& one, const Dialect& dialect, const std::string& value = {});
 
 /// Where a page ends.
 struct Place {

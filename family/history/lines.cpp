@@ -3,6 +3,7 @@
 #include "agenda/contracts/utf8.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/merged_rows.hpp"
+#include "family/data/audit/short_names.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/users/denials.hpp"
 
@@ -94,21 +95,24 @@ std::vector<std::pair<std::string, Key>> FindGone(Database& database, const std:
 {
     std::string ofCustomers;
     for (const Key customer : customers) {
-        for (const char* end : {",", "}"})
-            ofCustomers.append(ofCustomers.empty() ? "" : " or ")
-                .append("antes like '%\"codigo_do_cliente\":")
-                .append(std::to_string(customer))
-                .append(end)
-                .append("%'");
+        for (const std::string& beginning : BeginningsOf("codigo_do_cliente"))
+            for (const char* end : {",", "}"})
+                ofCustomers.append(ofCustomers.empty() ? "" : " or ")
+                    .append("antes like '%")
+                    .append(beginning)
+                    .append(std::to_string(customer))
+                    .append(end)
+                    .append("%'");
     }
     std::vector<std::pair<std::string, Key>> gone;
     Ask(database, [&](soci::session& session) {
         std::pair<std::string, Key> row;
         gone.clear();
         soci::statement statement =
-            (session.prepare << std::string("select distinct tabela, chave from auditoria where operacao = '")
-                     + audit_operation::Removal + "' and tabela in ('agendamento', 'animal') and ("
-                     + ofCustomers + ")",
+            (session.prepare << "select distinct a.tabela, a.chave from auditoria a where "
+                     + ConditionOf({"operacao", audit_operation::Removal}, database.GetDialect(),
+                                   std::string("'") + audit_operation::Removal + "'")
+                     + " and a.tabela in ('agendamento', 'animal') and (" + ofCustomers + ")",
              soci::into(row.first), soci::into(row.second));
         statement.execute();
         while (statement.fetch())
@@ -137,28 +141,45 @@ std::vector<std::string> SelectWriters(Database& database)
     return writers;
 }
 
+constexpr int Few = 5000;
+
 /// Whether few lines only have that value; no more are counted.
 bool IsRare(Database& database, const ColumnValue& of)
 {
-    constexpr int Few = 5000;
     int count = 0;
     Ask(database, [&](soci::session& session) {
-        session << "select count(*) from (select 1 from auditoria where " + of.column + " = :valor limit "
-                + std::to_string(Few) + ") as primeiras",
-            soci::use(of.value, "valor"), soci::into(count);
+        session << "select count(*) from (select 1 from auditoria a where "
+                + ConditionOf(of, database.GetDialect()) + " limit " + std::to_string(Few) + ") as primeiras",
+            soci::use(of.value, of.column), soci::into(count);
     });
     return count < Few;
 }
 
+/// Whether more than a few lines of a file have the words; no more are counted. A server knows by itself.
+bool HasManyOf(Database& database, const std::string& text)
+{
+    const std::string words = WordsSought(text, database.GetDialect());
+    if (database.GetDialect().IsServer() || words.empty())
+        return false;
+    int count = 0;
+    Ask(database, [&](soci::session& session) {
+        session << "select count(*) from (select rowid from palavras_da_auditoria"
+                   " where palavras_da_auditoria match :palavras limit "
+                + std::to_string(Few) + ")",
+            soci::use(words, "palavras"), soci::into(count);
+    });
+    return count == Few;
+}
+
 /// Where several columns are narrowed, an index of one that many lines fulfil would lead through all of them.
-std::string RareColumn(Database& database, const Filter& filter)
+std::optional<ColumnValue> RareColumn(Database& database, const Filter& filter)
 {
     const std::vector<ColumnValue> columns = ColumnsOf(filter);
     if (columns.size() < 2)
-        return {};
-    const auto rare =
-        std::ranges::find_if(columns, [&](const ColumnValue& one) { return IsRare(database, one); });
-    return rare == columns.end() ? std::string() : rare->column;
+        return std::nullopt;
+    const auto rare = std::ranges::find_if(
+        columns, [&](const ColumnValue& one) { return !IsOfMost(one) && IsRare(database, one); });
+    return rare == columns.end() ? std::nullopt : std::optional(*rare);
 }
 
 template <class Act> auto WhereAllowed(Database& database, const Author& author, Act act)
@@ -188,6 +209,7 @@ Findings FindingsFor(Database& database, const Filter& filter)
         }
     }
     findings.rare = RareColumn(database, filter);
+    findings.hasManyOfText = HasManyOf(database, filter.text);
     return findings;
 }
 

@@ -1,6 +1,7 @@
 #include "family/privacy/audited_values.hpp"
 
 #include "agenda/contracts/utf8.hpp"
+#include "family/data/audit/short_names.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/people_rows.hpp"
 #include "family/data/rows/select_rows.hpp"
@@ -11,16 +12,20 @@ namespace kova::family::privacy {
 
 namespace {
 
-constexpr std::string_view CustomerColumn = "\"codigo_do_cliente\":";
-/// Stands in the values of an appointment without a registered customer.
-constexpr std::string_view Simplified = "\"tipo_do_agendamento\":1";
-
 /// Looked for in the text itself: most lines are of other customers, and reading their values takes much
-/// longer. A code that begins with this one is named, too.
-bool MayName(std::string_view text, Key code)
+/// longer. A value that begins with this one is found, too.
+bool MayHave(std::string_view text, std::string_view column, const std::string& value)
 {
-    return text.find(std::string(CustomerColumn) + std::to_string(code)) != std::string_view::npos;
+    return std::ranges::any_of(BeginningsOf(column), [&](const std::string& beginning) {
+        return text.find(beginning + value) != std::string_view::npos;
+    });
 }
+
+constexpr const char* CustomerColumn = "codigo_do_cliente";
+bool MayName(std::string_view text, Key code) { return MayHave(text, CustomerColumn, std::to_string(code)); }
+bool MayNameSomebody(std::string_view text) { return MayHave(text, CustomerColumn, ""); }
+/// Such an appointment has no registered customer.
+bool MayBeSimplified(std::string_view text) { return MayHave(text, "tipo_do_agendamento", "1"); }
 
 class LastLine : public KeptStatement {
 public:
@@ -48,7 +53,7 @@ private:
 bool IsOfCustomer(const std::string& text, const std::set<Key>& codes)
 {
     return std::ranges::any_of(codes, [&](Key code) {
-        return MayName(text, code) && ValueOf(ReadValues(text), "codigo_do_cliente") == std::to_string(code);
+        return MayName(text, code) && ValueOf(ReadValues(text), CustomerColumn) == std::to_string(code);
     });
 }
 
@@ -81,12 +86,20 @@ AuditedValues ReadValues(const std::string& text)
     return values.is_object() ? values : AuditedValues::object();
 }
 
-std::string ValueOf(const AuditedValues& values, const char* column)
+std::string TextOf(const AuditedValues& value)
 {
-    const auto found = values.find(column);
-    if (found == values.end() || found->is_null())
+    if (value.is_null())
         return {};
-    return found->is_string() ? found->get<std::string>() : found->dump();
+    return value.is_string() ? value.get<std::string>() : value.dump();
+}
+
+std::string ValueOf(const AuditedValues& values, std::string_view column)
+{
+    for (const auto& [name, value] : values.items()) {
+        if (ColumnOfName(name) == column)
+            return TextOf(value);
+    }
+    return {};
 }
 
 LinesOfPerson::LinesOfPerson(const Person& person, const std::set<Key>& appointments,
@@ -117,9 +130,8 @@ Likeness LinesOfPerson::Of(const StoredAuditLine& line, const Nullable<std::stri
 
 std::optional<Likeness> LinesOfPerson::ToldBy(const StoredAuditLine& line, const std::string& text) const
 {
-    const bool isSimplified =
-        line.tabela == AppointmentRow::Table && text.find(Simplified) != std::string::npos;
-    if (!isSimplified && text.find(CustomerColumn) == std::string::npos)
+    const bool isSimplified = line.tabela == AppointmentRow::Table && MayBeSimplified(text);
+    if (!isSimplified && !MayNameSomebody(text))
         return std::nullopt;
     if (IsOfCustomer(text, person_.codes))
         return Likeness::Contact;

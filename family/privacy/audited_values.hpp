@@ -11,6 +11,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace kova::family::privacy {
@@ -51,10 +52,13 @@ void VisitAudit(Database& database, Key behind, const LongWork& work,
 /// In the order in which they were written.
 using AuditedValues = nlohmann::ordered_json;
 
-/// The values of a row that a line keeps; an empty object where they cannot be read.
+/// The values of a row that a line keeps, under the names that they have in it (short_names.hpp); an empty
+/// object where they cannot be read.
 AuditedValues ReadValues(const std::string& text);
-/// The text of a column; "" where it is not there or Null. Numbers in digits.
-std::string ValueOf(const AuditedValues& values, const char* column);
+/// A value as a text; "" where it is Null. Numbers in digits.
+std::string TextOf(const AuditedValues& value);
+/// That of a column; "" where it is not there.
+std::string ValueOf(const AuditedValues& values, std::string_view column);
 
 /// Tells the lines of a person from those of others. To be asked in the order of the lines, before and then
 /// after: a row of which a line does not say whose it is, since that has not changed, is whose it was before.

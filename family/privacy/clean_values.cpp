@@ -1,5 +1,6 @@
 #include "family/privacy/clean_values.hpp"
 
+#include "family/data/audit/short_names.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/people_rows.hpp"
 
@@ -53,8 +54,10 @@ std::string NameOfNobody(std::string_view table, std::string_view column, Key ke
 
 void CleanValues(std::string_view table, Key key, AuditedValues& values)
 {
-    for (auto& [column, value] : values.items())
+    for (auto& [name, value] : values.items()) {
+        const std::string_view column = ColumnOfName(name);
         CleanValue(HoldsOf(table, column).value_or(Holds::Text), NameOfNobody(table, column, key), value);
+    }
     if (table == AppointmentRow::Table)
         ComposeSearchText(values);
 }

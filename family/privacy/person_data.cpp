@@ -1,5 +1,6 @@
 #include "family/privacy/person_data.hpp"
 
+#include "family/data/audit/short_names.hpp"
 #include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/select_where.hpp"
 #include "family/data/stores/register_names.hpp"
@@ -144,9 +145,10 @@ private:
                                                                      const AuditedValues& values)
     {
         std::vector<std::pair<std::string, std::string>> exported;
-        for (const auto& [column, value] : values.items()) {
+        for (const auto& [name, value] : values.items()) {
+            const std::string column(ColumnOfName(name));
             if (IsExported(line.tabela, column))
-                exported.emplace_back(column, ValueOf(values, column.c_str()));
+                exported.emplace_back(column, TextOf(value));
         }
         return exported;
     }

@@ -28,7 +28,7 @@ constexpr const char* Tables[] = {
     "create index auditoria_por_chave on auditoria (tabela, chave)",
     "create table elo_da_auditoria (ordem integer primary key, codigo_da_linha integer not null,"
     " sal text not null, elo text not null)",
-    "create index elo_por_linha on elo_da_auditoria (codigo_da_linha)",
+    "create index elo_por_linha on elo_da_auditoria (codigo_da_linha) where ordem <> codigo_da_linha",
 };
 
 Key Number(Database& database, const std::string& selection)

@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/utf8.hpp"
 #include "family/data/audit/audit_chain.hpp"
+#include "family/data/audit/short_names.hpp"
 #include "family/data/audit/stamp.hpp"
 
 #include <nlohmann/json.hpp>
@@ -123,11 +124,12 @@ bool AuditValues::Tells(std::string_view column, const std::string& value) const
         columns_, [&](const Value& other) { return other.column == column && other.kept == Kept(value); });
 }
 
-std::string AuditValues::Line() const
+std::string AuditValues::Line(std::string_view table) const
 {
     auto line = nlohmann::ordered_json::object();
     for (const Value& value : columns_)
-        std::visit([&](const auto& kept) { line[value.column] = kept; }, value.kept);
+        std::visit([&](const auto& kept) { line[std::string(NameInLine(table, value.column))] = kept; },
+                   value.kept);
     // A text that is no UTF-8 loses the characters that are none: the write and its line count for more.
     return line.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
@@ -138,7 +140,7 @@ void AuditInsertion(Database& database, const Author& author, const char* table,
                          author.isRestoring ? audit_operation::Restoration : audit_operation::Insertion);
     after.DropEmpty();
     DropAuthor(database, after, author);
-    row.depois = WithCause(after, author).Line();
+    row.depois = WithCause(after, author).Line(table);
     AddLine(database, row);
 }
 
@@ -162,8 +164,8 @@ void AuditChange(Database& database, const Author& author, const char* table, Ke
     AuditRow row = RowOf(database, author, table, key, audit_operation::Change);
     DropAuthor(database, after, author, &before);
     AuditValues::DropAlike(before, after, together);
-    row.antes = before.Line();
-    row.depois = WithCause(after, author).Line();
+    row.antes = before.Line(table);
+    row.depois = WithCause(after, author).Line(table);
     AddLine(database, row);
 }
 
@@ -171,7 +173,7 @@ void AuditRemoval(Database& database, const Author& author, const char* table, K
 {
     AuditRow row = RowOf(database, author, table, key, audit_operation::Removal);
     before.DropEmpty();
-    row.antes = before.Line();
+    row.antes = before.Line(table);
     AddLine(database, row);
 }
 
@@ -183,7 +185,7 @@ void AuditRemovals(Database& database, const Author& author, const char* table,
         rows.push_back(RowOf(database, author, table, key, audit_operation::Removal));
         AuditValues given = values;
         given.DropEmpty();
-        rows.back().antes = given.Line();
+        rows.back().antes = given.Line(table);
     }
     AddLines(database, std::move(rows));
 }
@@ -203,7 +205,7 @@ void AuditRestoration(Database& database, const Author& author, const char* tabl
 {
     AuditRow row = RowOf(database, author, table, key, audit_operation::Restoration);
     after.DropEmpty();
-    row.depois = WithCause(after, author).Line();
+    row.depois = WithCause(after, author).Line(table);
     AddLine(database, row);
 }
 

@@ -23,7 +23,8 @@ public:
     AuditValues& Add(std::string_view column, const Nullable<Key>& value);
     AuditValues& Add(std::string_view column, const Nullable<int>& value);
 
-    std::string Line() const;
+    /// As a line about a row of the table keeps them (short_names.hpp).
+    std::string Line(std::string_view table = {}) const;
 
     /// Takes a column away; nothing where it is not there.
     void Drop(std::string_view column);

@@ -38,11 +38,14 @@ private:
     soci::statement statement_;
 };
 
+/// Most lines have the place of their code: an index leads to the others alone.
 class SaltRemoval : public KeptStatement {
 public:
     explicit SaltRemoval(Database& database)
-        : statement_((database.Session().prepare
-                          << "update elo_da_auditoria set sal = '' where codigo_da_linha = :codigo",
+        : atItsPlace_(
+            (database.Session().prepare << RemoveSalt + " and ordem = codigo_da_linha and ordem = :ordem",
+             soci::use(code_, "codigo"), soci::use(code_, "ordem"))),
+          elsewhere_((database.Session().prepare << RemoveSalt + " and ordem <> codigo_da_linha",
                       soci::use(code_, "codigo")))
     {
     }
@@ -50,12 +53,16 @@ public:
     void Run(Key code)
     {
         code_ = code;
-        statement_.execute(true);
+        atItsPlace_.execute(true);
+        elsewhere_.execute(true);
     }
 
 private:
+    static inline const std::string RemoveSalt =
+        "update elo_da_auditoria set sal = '' where codigo_da_linha = :codigo";
+
     Key code_ = 0;
-    soci::statement statement_;
+    soci::statement atItsPlace_, elsewhere_;
 };
 
 /// Nobody else writes to a file meanwhile.

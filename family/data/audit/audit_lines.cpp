@@ -1,6 +1,7 @@
 #include "family/data/audit/audit_lines.hpp"
 
 #include "agenda/contracts/utf8.hpp"
+#include "family/data/audit/short_names.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/engine/nullable.hpp"
 
@@ -42,7 +43,7 @@ AuditedColumns ReadAuditedColumns(const Nullable<std::string>& written)
     if (!object.is_object())
         throw Unreadable(written.value);
     for (const auto& [column, value] : object.items())
-        columns[column] = TextOf(value, written.value);
+        columns[std::string(ColumnOfName(column))] = TextOf(value, written.value);
     return columns;
 }
 

@@ -37,7 +37,7 @@ public:
         if (!wanted_.line)
             return found;
         VisitLinks(database_, FirstPlace, {}, [&](const StoredLink& stored) {
-            if (LinkOf(stored.link.elo, wanted_.link.sal, *wanted_.line) == wanted_.link.elo)
+            if (IsLinkOf(wanted_.link.elo, stored.link.elo, wanted_.link.sal, *wanted_.line))
                 found = stored.link.codigoDaLinha;
         });
         return found;
@@ -67,8 +67,10 @@ std::string TextOf(Database& database, const ChainFault& fault)
 }
 
 /// Lines that no program of this shop's has written.
-constexpr const char* LinesWithoutLink = " from auditoria a where not exists (select 1 from elo_da_auditoria "
-                                         "e where e.codigo_da_linha = a.codigo)";
+constexpr const char* LinesWithoutLink =
+    " from auditoria a where not exists (select 1 from elo_da_auditoria e where e.ordem = a.codigo"
+    " and e.codigo_da_linha = a.codigo) and not exists (select 1 from elo_da_auditoria e"
+    " where e.codigo_da_linha = a.codigo and e.ordem <> e.codigo_da_linha)";
 
 /// Goes through a shop's chain, and through the archive's before it where there is one.
 class WholeWalk {

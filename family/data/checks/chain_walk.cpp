@@ -40,7 +40,7 @@ void ChainWalk::TakeWithoutLine(const LinkRow& link)
 void ChainWalk::TakeLine(const LinkRow& link, const ChainedLine& line)
 {
     const auto doubt = doubts_.find(line.codigo);
-    if (LinkOf(former_.elo, link.sal, line) != link.elo) {
+    if (!IsLinkOf(link.elo, former_.elo, link.sal, line)) {
         if (doubt == doubts_.end())
             doubts_[line.codigo] = {link.ordem};
         else

@@ -39,9 +39,8 @@ void RequireLibrary()
         throw std::runtime_error("libsodium cannot be used");
 }
 
-} // namespace
-
-std::string LinkOf(const std::string& former, const std::string& salt, ChainedLine line)
+/// All of it.
+std::string SumOf(const std::string& former, const std::string& salt, ChainedLine line)
 {
     RequireLibrary();
     std::string content = Part(former) + Part(salt);
@@ -49,6 +48,19 @@ std::string LinkOf(const std::string& former, const std::string& salt, ChainedLi
     std::array<unsigned char, crypto_hash_sha256_BYTES> digest{};
     crypto_hash_sha256(digest.data(), reinterpret_cast<const unsigned char*>(content.data()), content.size());
     return Base64(digest);
+}
+
+} // namespace
+
+std::string LinkOf(const std::string& former, const std::string& salt, const ChainedLine& line)
+{
+    return SumOf(former, salt, line).substr(0, LinkLetters);
+}
+
+bool IsLinkOf(const std::string& link, const std::string& former, const std::string& salt,
+              const ChainedLine& line)
+{
+    return link.size() >= LinkLetters && SumOf(former, salt, line).starts_with(link);
 }
 
 std::string NewSalt()

@@ -30,10 +30,17 @@ struct ChainedLine {
     }
 };
 
-/// The link of a line: the SHA-256, in base64 without its filling, of the link before it ("" before the
+/// The letters of a link: nobody finds another line for 132 bits. Former programs have kept all 43.
+inline constexpr std::size_t LinkLetters = 22;
+
+/// The link of a line: the SHA-256, in base64 and as far as LinkLetters, of the link before it ("" before the
 /// first), of the salt and of all columns, each with its length in bytes before it. A server makes the same
 /// (family/data/migrations/chained_audit.cpp).
-std::string LinkOf(const std::string& former, const std::string& salt, ChainedLine line);
+std::string LinkOf(const std::string& former, const std::string& salt, const ChainedLine& line);
+
+/// Whether that is the line's link, also one of former programs.
+bool IsLinkOf(const std::string& link, const std::string& former, const std::string& salt,
+              const ChainedLine& line);
 
 /// Random digits that go into one link. Without them nobody can find out by trying what a line told that was
 /// cleaned since.

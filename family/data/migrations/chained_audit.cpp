@@ -12,8 +12,9 @@ std::string Part(const std::string& value)
     return "coalesce(octet_length(" + value + ") || ':' || " + value + ", '-')";
 }
 
-/// The link of a line in a server's words; it is called `line` there, and the other two as they are given.
-std::string LinkExpression(const std::string& former, const std::string& salt, const std::string& line)
+/// All of the sum that a line's link is of, in a server's words; the line is called `line` there, and the
+/// other two as they are given.
+std::string SumExpression(const std::string& former, const std::string& salt, const std::string& line)
 {
     std::string content = Part(former) + " || " + Part(salt);
     ChainedLine().Columns([&](const std::string& column, const auto&) {
@@ -22,15 +23,20 @@ std::string LinkExpression(const std::string& former, const std::string& salt, c
     return "rtrim(encode(sha256(convert_to(" + content + ", 'UTF8')), 'base64'), '=')";
 }
 
+std::string LinkExpression(const std::string& former, const std::string& salt, const std::string& line)
+{
+    return "left(" + SumExpression(former, salt, line) + ", " + std::to_string(LinkLetters) + ")";
+}
+
 constexpr const char* SaltExpression = "left(replace(cast(gen_random_uuid() as text), '-', ''), 16)";
 
 /// Only who waits for the one before can see his link: with a snapshot of the transaction's beginning he
 /// would put a second link behind an older one.
-std::string LinkingFunction()
+std::string LinkingFunction(const std::string& link)
 {
-    return std::string(
-               "create function encadeia_auditoria() returns trigger language plpgsql security definer"
-               " as $$ declare ultima bigint; anterior text; sal_novo text default ")
+    return std::string("create or replace function encadeia_auditoria() returns trigger language plpgsql "
+                       "security definer"
+                       " as $$ declare ultima bigint; anterior text; sal_novo text default ")
         + SaltExpression
         + "; begin"
           " if current_setting('transaction_isolation') <> 'read committed' then"
@@ -40,13 +46,14 @@ std::string LinkingFunction()
           " anterior = coalesce(anterior, '');"
           " insert into elo_da_auditoria (ordem, codigo_da_linha, sal, elo) values"
           " (coalesce(ultima, 0) + 1, new.codigo, sal_novo, "
-        + LinkExpression("anterior", "sal_novo", "new") + "); return null; end $$";
+        + link + "); return null; end $$";
 }
 
-std::vector<std::string> LinkOnServer()
+/// The function whatever the link is; what was set for it goes whenever it is made anew.
+std::vector<std::string> LinkBy(const std::string& link)
 {
     return {
-        LinkingFunction(),
+        LinkingFunction(link),
         // Names stand for the agenda's own tables, and never for temporary ones of whoever writes.
         "do $$ begin execute format('alter function encadeia_auditoria() set search_path = %I, pg_temp',"
         " current_schema()); end $$",
@@ -55,9 +62,16 @@ std::vector<std::string> LinkOnServer()
         "alter function encadeia_auditoria() set enable_seqscan = off",
         // Whoever may run it can have it link rows of a table of his own.
         "revoke all on function encadeia_auditoria() from public",
-        "create constraint trigger auditoria_encadeada after insert or update on auditoria"
-        " deferrable initially deferred for each row execute function encadeia_auditoria()",
     };
+}
+
+std::vector<std::string> LinkOnServer()
+{
+    std::vector<std::string> statements = LinkBy(SumExpression("anterior", "sal_novo", "new"));
+    statements.emplace_back(
+        "create constraint trigger auditoria_encadeada after insert or update on auditoria"
+        " deferrable initially deferred for each row execute function encadeia_auditoria()");
+    return statements;
 }
 
 std::string LinkAllOnServer()
@@ -66,7 +80,7 @@ std::string LinkAllOnServer()
                        "sal_novo text; begin"
                        " for linha in select * from auditoria order by codigo loop ultima = ultima + 1;"
                        " sal_novo = ")
-        + SaltExpression + "; anterior = " + LinkExpression("anterior", "sal_novo", "linha")
+        + SaltExpression + "; anterior = " + SumExpression("anterior", "sal_novo", "linha")
         + "; insert into elo_da_auditoria (ordem, codigo_da_linha, sal, elo)"
           " values (ultima, linha.codigo, sal_novo, anterior); end loop; end $$";
 }
@@ -128,6 +142,19 @@ std::vector<std::string> ChainAudit(const Dialect& dialect)
     };
     if (dialect.IsServer()) {
         for (std::string& statement : LinkOnServer())
+            statements.push_back(std::move(statement));
+    }
+    return statements;
+}
+
+std::vector<std::string> ShortenLinks(const Dialect& dialect)
+{
+    std::vector<std::string> statements = {
+        "drop index elo_por_linha",
+        "create index elo_por_linha on elo_da_auditoria (codigo_da_linha) where ordem <> codigo_da_linha",
+    };
+    if (dialect.IsServer()) {
+        for (std::string& statement : LinkBy(LinkExpression("anterior", "sal_novo", "new")))
             statements.push_back(std::move(statement));
     }
     return statements;

@@ -17,6 +17,10 @@ namespace kova::family {
 /// owner: who writes a line cannot write its link.
 std::vector<std::string> ChainAudit(const Dialect& dialect);
 
+/// From then on links have LinkLetters, and only those that stand elsewhere than at the place of their line's
+/// code are found by an index: of the others the place is known.
+std::vector<std::string> ShortenLinks(const Dialect& dialect);
+
 /// Links the lines that are there and have no link, in the order of their codes. For a database without
 /// links.
 void ChainLines(soci::session& session, const Dialect& dialect);

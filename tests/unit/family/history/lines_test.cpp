@@ -110,6 +110,46 @@ TEST_F(HistoryLines, AreFoundByTheBeginningsOfTheirWords)
     EXPECT_TRUE(found(std::string(1000, 'x').c_str()).empty());
 }
 
+TEST_F(HistoryLines, ComeByTheirDaysAlsoWhereAWordStandsInThousandsOfThem)
+{
+    // Codes that go up while the days go to and fro.
+    Run("insert into auditoria (momento, usuario, posto, tabela, chave, operacao, depois) with recursive n "
+        "(i)"
+        " as (select 1 union all select i + 1 from n where i < 9000) select '2026-' || substr(cast(101 + i % "
+        "7"
+        " as text), 2) || '-01 10:00:00', '7 - Lia', '', case when i % 3 = 0 then 'animal' else 'cliente' "
+        "end,"
+        " i, 'inclusao', case when i % 5 = 0 then '{\"nome\":\"Rex\"}' else '{\"nome\":\"Peçanha\"}' end"
+        " from n");
+    std::vector<Key> expected;
+    for (Key month = 7; month >= 1; --month)
+        for (Key i = 9000; i >= 1; --i)
+            if (i % 7 + 1 == month && i % 5 != 0)
+                expected.push_back(i);
+    const Filter many = With([](Filter& filter) { filter.text = "pecan"; });
+    ASSERT_EQ(history::FindingsFor(*here_, many).hasManyOfText, !TestsRunOnServer());
+    EXPECT_EQ(Find(many, 500).back().key, expected[499]);
+    std::vector<Key> keys;
+    std::optional<Line> last;
+    for (int page = 0; page < 3; ++page) {
+        for (const Line& line : history::FindLines(*here_, lia_, many, last, 700).lines) {
+            keys.push_back(line.key);
+            last = line;
+        }
+    }
+    expected.resize(2100);
+    EXPECT_EQ(keys, expected);
+    std::erase_if(expected, [](Key key) { return key % 3 != 0; });
+    Filter animals = many;
+    animals.table = "animal";
+    EXPECT_EQ(Find(animals, 1).front().key, expected.front());
+    EXPECT_EQ(Keys(With([](Filter& filter) {
+                  filter.text = "pecan";
+                  filter.user = "8 - Marcos";
+              })),
+              std::vector<Key>{});
+}
+
 TEST_F(HistoryLines, AreFoundByWordsThatWereChangedInTheAudit)
 {
     Add("2026-11-18 10:00:00", "7 - Lia", "cliente", 1, "inclusao", "", "{\"nome\":\"Peçanha\"}");
@@ -121,6 +161,37 @@ TEST_F(HistoryLines, AreFoundByWordsThatWereChangedInTheAudit)
     EXPECT_EQ(Keys(clean).size(), 1U);
     Run("delete from auditoria");
     EXPECT_TRUE(Keys(clean).empty());
+}
+
+TEST_F(HistoryLines, AreFoundByWhatTheyKeepUnderNamesOfFormerProgramsAndOfToday)
+{
+    const std::string agendamento = "agendamento";
+    for (const auto& [key, customer, day, status] :
+         {std::tuple(Key(901), "codigo_do_cliente", "data_inicial", "situacao"),
+          {Key(902), "cc", "di", "si"}}) {
+        const auto kept = [](const char* name, const std::string& value) {
+            return "{\"" + std::string(name) + "\":" + value + "}";
+        };
+        Add("2026-11-18 10:00:00", "7 - Lia", agendamento, key, "alteracao", kept(status, "1"),
+            kept(status, "3"));
+        Add("2026-11-18 11:00:00", "7 - Lia", agendamento, key, "alteracao", kept(status, "3"),
+            kept(status, "2"));
+        Add("2026-11-19 10:00:00", "7 - Lia", agendamento, key, "alteracao", kept(day, "\"2027-01-05\""),
+            kept(day, "\"2027-01-06\""));
+        Add("2026-11-20 10:00:00", "7 - Lia", agendamento, key, "exclusao", kept(customer, "11"), "");
+    }
+    EXPECT_EQ(Keys(With([](Filter& filter) { filter.operation = history::Cancellation; })),
+              (std::vector<Key>{902, 901}));
+    EXPECT_EQ(Keys(With([](Filter& filter) {
+                  filter.subject = {Subject::Kind::Customer, "", 11};
+                  filter.from = "2026-11-20";
+              })),
+              (std::vector<Key>{902, 901}));
+    EXPECT_EQ(Keys(With([](Filter& filter) {
+                  filter.subject = {Subject::Kind::BookedDay, "", 0, "2027-01-05"};
+                  filter.operation = "exclusao";
+              })),
+              (std::vector<Key>{902, 901}));
 }
 
 TEST_F(HistoryLines, OfACustomerAreThoseOfHisAnimalsAndAppointmentsAlsoOfThoseThatAreGone)

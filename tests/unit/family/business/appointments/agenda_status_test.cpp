@@ -37,8 +37,8 @@ TEST_F(AgendaStatus, LeavesALineWithTheValuesBeforeAndAfter)
     desk_.now.time = {10, 0, 0};
     ASSERT_EQ(Change(1, 3), 0);
     EXPECT_EQ(Audit(),
-              (Lines{R"(agendamento 1 alteracao {"situacao":1,"versao":1} {"situacao":2,"versao":2})",
-                     R"(agendamento 1 alteracao {"situacao":2,"versao":2} {"situacao":3,"versao":3})"}));
+              (Lines{R"(agendamento 1 alteracao {"si":1,"ve":1} {"si":2,"ve":2})",
+                     R"(agendamento 1 alteracao {"si":2,"ve":2} {"si":3,"ve":3})"}));
     EXPECT_EQ(Texts("select momento || ' ' || usuario from auditoria order by codigo"),
               (Lines{"2026-11-20 09:04:05 7 - Lia \"Lili\"", "2026-11-20 10:00:00 7 - Lia \"Lili\""}));
 }

@@ -66,7 +66,7 @@ TEST_F(AppointmentHistory, OfANumberThatWasNeverGivenIsEmpty) { EXPECT_TRUE(Hist
 
 TEST_F(AppointmentHistory, NamesACodeAloneThatIsNotRegisteredAnyMore)
 {
-    Run("update auditoria set depois = replace(depois, '\"codigo_do_servico\":2', '\"codigo_do_servico\":99')"
+    Run("update auditoria set depois = replace(depois, '\"cs\":2', '\"cs\":99')"
         " where chave = 24");
     const auto history = History(FullNumber);
     EXPECT_NE(std::ranges::find(history, "Serviço:  > 99"), history.end());

@@ -30,7 +30,19 @@ constexpr const char* Salt = "0123456789abcdef";
 /// The sum of "0:16:0123456789abcdef1:119:2026-11-20 09:04:058:..." as other programs make it.
 TEST(AuditLink, IsTheSumOfAllPartsWithTheirLengths)
 {
-    EXPECT_EQ(LinkOf("", Salt, Line()), "sijuOd5T3AruaPqdtErIYBIH/+W9iGvcep/6CGcnexo");
+    EXPECT_EQ(LinkOf("", Salt, Line()), "sijuOd5T3AruaPqdtErIYB");
+}
+
+TEST(AuditLink, IsKnownByAllOfItsLettersAlsoWhereFormerProgramsHaveKeptMore)
+{
+    const std::string whole = "sijuOd5T3AruaPqdtErIYBIH/+W9iGvcep/6CGcnexo";
+    EXPECT_TRUE(IsLinkOf(whole, "", Salt, Line()));
+    EXPECT_TRUE(IsLinkOf(whole.substr(0, 22), "", Salt, Line()));
+    EXPECT_FALSE(IsLinkOf(whole, "a", Salt, Line()));
+    for (const char* other :
+         {"", "s", "sijuOd5T3AruaPqdtErIY", "sijuOd5T3AruaPqdtErIYC",
+          "sijuOd5T3AruaPqdtErIYBIH/+W9iGvcep/6CGcnexx", "sijuOd5T3AruaPqdtErIYBIH/+W9iGvcep/6CGcnexoA"})
+        EXPECT_FALSE(IsLinkOf(other, "", Salt, Line())) << other;
 }
 
 TEST(AuditLink, IsAnotherOneAfterAnyChange)
