@@ -75,6 +75,11 @@ void TellWideRights(const std::string& source, std::ostream& error)
             error << "aviso: no servidor o papel \"" << role
                   << "\" pode mudar a auditoria sem ser o dono dela; \"agenda-data server-roles\" dá aos "
                      "postos só o que eles precisam.\n";
+        if (!family::HasRoleOfDesks(*database))
+            error
+                << "aviso: no servidor só o dono das tabelas tem o que um posto precisa, e ele pode mudar a "
+                   "auditoria. Crie um papel para os postos, com \"create role NOME login\", dê a ele o que "
+                   "eles precisam, com \"agenda-data server-roles\", e use-o no endereço dos postos.\n";
     } catch (const std::runtime_error& cause) {
         throw family::TranslatedFailure(source, cause);
     }

@@ -52,4 +52,19 @@ std::vector<std::string> WhoMayRewriteAudit(Database& database)
     return {found.begin(), found.end()};
 }
 
+bool HasRoleOfDesks(Database& database)
+{
+    if (!database.GetDialect().IsServer() || !Has(StoredTables(database), LinkRow::Table))
+        return true;
+    int roles = 0;
+    // The roles that a server brings along are nobody's.
+    database.Session() << "select count(*) from pg_roles r join pg_class l on l.relname = 'auditoria'"
+                          " and l.relnamespace = current_schema()::regnamespace"
+                          " where r.rolname not like 'pg\\_%' and not pg_has_role(r.oid, l.relowner, 'usage')"
+                          " and has_any_column_privilege(r.oid, l.oid, 'insert') and not exists (select 1"
+            + RewritableBy("r.oid") + ")",
+        soci::into(roles);
+    return roles > 0;
+}
+
 } // namespace kova::family

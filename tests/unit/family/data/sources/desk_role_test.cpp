@@ -137,6 +137,29 @@ TEST_F(PostgresqlDeskRole, ChangesNothingThatTheAuditTells)
     EXPECT_EQ(FindBrokenChain(*database), std::vector<std::string>{});
 }
 
+TEST_F(PostgresqlDeskRole, IsToldToBeMissingWhereOnlyTheOwnerCanBeAtADesk)
+{
+    const auto isMissed = [this] {
+        Run({"check", shop_.Address()});
+        return error_.str().find("só o dono das tabelas tem o que um posto precisa") != std::string::npos;
+    };
+    EXPECT_TRUE(isMissed());
+    EXPECT_NE(error_.str().find("agenda-data server-roles"), std::string::npos);
+    // Such a role could rewrite what it adds.
+    shop_.Run("grant insert, update on auditoria to \"postos da loja\"");
+    EXPECT_TRUE(isMissed());
+    shop_.Run(
+        "revoke all on auditoria from \"postos da loja\"; grant select on auditoria to \"postos da loja\"");
+    EXPECT_TRUE(isMissed());
+    GiveToDesks(shop_.Address(), Role);
+    EXPECT_FALSE(isMissed());
+    Run({"check", Desk()});
+    EXPECT_EQ(error_.str().find("aviso: no servidor"), std::string::npos) << error_.str();
+    Server().Run("postgres", "alter role \"postos da loja\" superuser");
+    EXPECT_TRUE(isMissed());
+    Server().Run("postgres", "alter role \"postos da loja\" nosuperuser");
+}
+
 TEST_F(PostgresqlDeskRole, LeavesAnonymisingToTheOwner)
 {
     GiveToDesks(shop_.Address(), Role);
