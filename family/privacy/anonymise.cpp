@@ -1,6 +1,8 @@
 #include "family/privacy/anonymise.hpp"
 
 #include "family/business/merged_row_text.hpp"
+#include "family/data/archive/audit_archive.hpp"
+#include "family/data/audit/archived_part.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audit_chain.hpp"
 #include "family/data/audit/code_ranges.hpp"
@@ -15,8 +17,13 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/privacy/affected.hpp"
 #include "family/privacy/clean_values.hpp"
+#include "family/privacy/cleaned_archive.hpp"
 #include "family/privacy/remains.hpp"
 #include "family/users/denials.hpp"
+#include "system/path_text.hpp"
+
+#include <algorithm>
+#include <filesystem>
 
 namespace kova::family::privacy {
 
@@ -37,20 +44,6 @@ struct ChannelOfPerson : ChannelRow {
 
 struct AnimalOfPerson : AnimalRow {
     static constexpr const char* FoundBy = "codigo_do_cliente";
-};
-
-/// What is written of a line of the audit.
-struct AuditTexts {
-    static constexpr const char* Table = "auditoria";
-    Key codigo = 0;
-    Nullable<std::string> antes, depois;
-
-    template <class Visit> void Columns(Visit visit)
-    {
-        visit("codigo", codigo);
-        visit("antes", antes);
-        visit("depois", depois);
-    }
 };
 
 class ChannelRemoval : public KeptStatement {
@@ -95,7 +88,9 @@ std::string Cleaned(const StoredAuditLine& line, const std::string& text)
 
 class Anonymiser {
 public:
-    Anonymiser(Database& database, const AnonymiseRequest& request) : database_(database), request_(request)
+    /// The archive may be missing.
+    Anonymiser(Database& database, Database* archive, const AnonymiseRequest& request)
+        : database_(database), archive_(archive), request_(request)
     {
     }
 
@@ -105,13 +100,16 @@ public:
     {
         if (const std::string merged = MergedText<CustomerRow>(database_, request_.code); !merged.empty())
             return {.outcome = Outcome::Gone, .text = merged};
-        const std::optional<Person> person = FindPerson(database_, request_.code);
+        const std::optional<Person> person = FindPerson(database_, request_.code, archive_);
         if (!person)
             return {.outcome = Outcome::Gone,
                     .text = "Não há cliente com o código " + std::to_string(request_.code) + "."};
-        if (person != person_)
+        const std::optional<ArchivedPart> part = LastArchived(database_);
+        // Lines may have gone into the archive meanwhile.
+        if (person != person_ || (part ? part->code : 0) != lastArchiving_)
             BeginAnew();
         person_ = person;
+        lastArchiving_ = part ? part->code : 0;
         affected_ = FindAffected(database_, *person_, request_.sameName);
         CollectLines(work);
         AnonymiseAnswer answer = Counted();
@@ -151,10 +149,14 @@ public:
                  .Add("agendamentos", answer.appointments));
     }
 
+    /// What the archive's lines are to be, after Write.
+    const std::vector<AuditTexts>& ArchivedLines() const { return archived_; }
+
 private:
     void BeginAnew()
     {
         lines_.clear();
+        archived_.clear();
         lastLine_ = 0;
     }
 
@@ -169,9 +171,14 @@ private:
     /// Behind the lines that were cleaned: those that it names are known to be changed rightly.
     void Tell(const Author& author, AuditValues what)
     {
+        if (archive_)
+            LinkCleaned(database_, *archive_, archived_);
         std::vector<Key> codes;
-        for (const AuditTexts& line : lines_)
-            codes.push_back(line.codigo);
+        for (const auto* lines : {&archived_, &lines_})
+            for (const AuditTexts& line : *lines)
+                codes.push_back(line.codigo);
+        std::ranges::sort(codes);
+        codes.erase(std::ranges::unique(codes).begin(), codes.end());
         what.Add("linhas_da_auditoria", static_cast<long long>(codes.size()))
             .Add(CleanedLinesColumn, RangesOf(codes));
         AuditAnonymisation(database_, author, CustomerRow::Table, person_->code, what);
@@ -183,7 +190,7 @@ private:
         answer.channels = static_cast<long long>(RowsOf<ChannelOfPerson>(database_, person_->code).size());
         answer.animals = static_cast<long long>(RowsOf<AnimalOfPerson>(database_, person_->code).size());
         answer.appointments = static_cast<long long>(affected_.all.size());
-        answer.auditLines = static_cast<long long>(lines_.size());
+        answer.auditLines = static_cast<long long>(lines_.size() + archived_.size());
         answer.undecided = affected_.undecided;
         return answer;
     }
@@ -202,17 +209,25 @@ private:
         for (const AnimalRow& animal : RowsOf<AnimalOfPerson>(database_, person_->code))
             animals.insert(animal.codigo);
         LinesOfPerson judge(*person_, numbers, animals);
+        if (archive_ && lastLine_ == 0)
+            VisitAudit(*archive_, 0, work,
+                       [&](const StoredAuditLine& line) { Collect(judge, line, archived_); });
         VisitAudit(database_, lastLine_, work, [&](const StoredAuditLine& line) {
             lastLine_ = line.codigo;
-            // It names nobody, and tells which lines were changed rightly.
-            if (line.operacao == audit_operation::Anonymisation)
-                return;
-            AuditTexts cleaned{line.codigo, CleanedText(judge, line, line.antes),
-                               CleanedText(judge, line, line.depois)};
-            // A null is never cleaned.
-            if (cleaned.antes.value != line.antes.value || cleaned.depois.value != line.depois.value)
-                lines_.push_back(std::move(cleaned));
+            Collect(judge, line, lines_);
         });
+    }
+
+    void Collect(LinesOfPerson& judge, const StoredAuditLine& line, std::vector<AuditTexts>& lines) const
+    {
+        // It names nobody, and tells which lines were changed rightly.
+        if (line.operacao == audit_operation::Anonymisation)
+            return;
+        AuditTexts cleaned{line.codigo, CleanedText(judge, line, line.antes),
+                           CleanedText(judge, line, line.depois)};
+        // A null is never cleaned.
+        if (cleaned.antes.value != line.antes.value || cleaned.depois.value != line.depois.value)
+            lines.push_back(std::move(cleaned));
     }
 
     Nullable<std::string> CleanedText(LinesOfPerson& judge, const StoredAuditLine& line,
@@ -260,11 +275,12 @@ private:
     }
 
     Database& database_;
+    Database* archive_;
     const AnonymiseRequest request_;
     std::optional<Person> person_;
     AffectedAppointments affected_;
-    Key lastLine_ = 0;
-    std::vector<AuditTexts> lines_;
+    Key lastLine_ = 0, lastArchiving_ = 0;
+    std::vector<AuditTexts> lines_, archived_;
 };
 
 /// Overwrites what it frees, from now on.
@@ -300,12 +316,41 @@ std::string WhyLateLinesStay(Anonymiser& anonymiser, const Author& author)
     }
 }
 
+void AddRemains(AnonymiseAnswer& answer, const std::string& remains)
+{
+    if (!remains.empty())
+        answer.remains += (answer.remains.empty() ? "" : "\n") + remains;
+}
+
+std::string WhyArchiveStays(Database& database)
+{
+    const std::string told = ToldArchive(database);
+    return told.empty() ? ""
+                        : told
+            + " Ele não foi encontrado, e ainda tem o que havia deste cliente. Informe onde ele está com "
+              "\"agenda-data forget --archive\", que também pode ser rodado depois.";
+}
+
+/// The archive's own file is cleaned with the shop.
+std::vector<std::string> OtherCopiesBeside(const std::string& source, const std::string& archive)
+{
+    std::vector<std::string> copies = CopiesBeside(source);
+    std::erase_if(copies, [&](const std::string& copy) {
+        std::error_code unreadable;
+        return !archive.empty()
+            && std::filesystem::equivalent(system::PathOf(copy), system::PathOf(archive), unreadable);
+    });
+    return copies;
+}
+
 /// Most of the audit is looked through before anybody has to wait.
 AnonymiseAnswer WriteAll(Database& database, const AnonymiseRequest& request, const Author& author,
                          const LongWork& work)
 {
     RequireRight(database, author, Right::Anonymise);
-    Anonymiser anonymiser(database, request);
+    const std::unique_ptr<ArchiveFile> archive =
+        MayRewriteAudit(database) ? OpenArchiveForWriting(database, request.archive) : nullptr;
+    Anonymiser anonymiser(database, archive ? &archive->Lines() : nullptr, request);
     AnonymiseAnswer answer = anonymiser.Look(author.moment, work);
     if (!answer.IsDone())
         return answer;
@@ -319,8 +364,14 @@ AnonymiseAnswer WriteAll(Database& database, const AnonymiseRequest& request, co
             anonymiser.Write(answer, author);
         return answer.IsDone();
     });
-    if (answer.IsDone() && database.GetDialect().IsServer())
-        answer.remains = WhyLateLinesStay(anonymiser, author);
+    if (!answer.IsDone())
+        return answer;
+    if (archive)
+        AddRemains(answer, CleanArchive(*archive, anonymiser.ArchivedLines()));
+    else
+        AddRemains(answer, WhyArchiveStays(database));
+    if (database.GetDialect().IsServer())
+        AddRemains(answer, WhyLateLinesStay(anonymiser, author));
     return answer;
 }
 
@@ -332,8 +383,9 @@ AnonymiseAnswer PlanToAnonymise(const std::string& source, const AnonymiseReques
     return Told(source, [&] {
         const std::unique_ptr<Database> database = OpenNewestForReading(source);
         const Snapshot snapshot(*database);
-        AnonymiseAnswer answer = Anonymiser(*database, request).Look(moment, work);
-        answer.copies = CopiesBeside(source);
+        const std::unique_ptr<Database> archive = OpenArchive(*database, request.archive);
+        AnonymiseAnswer answer = Anonymiser(*database, archive.get(), request).Look(moment, work);
+        answer.copies = OtherCopiesBeside(source, archive ? archive->Path() : "");
         return answer;
     });
 }
@@ -341,16 +393,17 @@ AnonymiseAnswer PlanToAnonymise(const std::string& source, const AnonymiseReques
 AnonymiseAnswer Anonymise(const std::string& source, const AnonymiseRequest& request, const Author& author,
                           const LongWork& work)
 {
+    std::string archive;
     AnonymiseAnswer answer = Told(source, [&] {
         const std::shared_ptr<Database> database = OpenForLongWork(source);
+        archive = PlaceOfArchive(*database, request.archive);
         EraseWhatIsFreed(*database);
         return TellingDenials(*database, author, [&] { return WriteAll(*database, request, author, work); });
     });
     if (!answer.IsDone())
         return answer;
-    if (const std::string remains = DropRemains(source); !remains.empty())
-        answer.remains += (answer.remains.empty() ? "" : "\n") + remains;
-    answer.copies = CopiesBeside(source);
+    AddRemains(answer, DropRemains(source));
+    answer.copies = OtherCopiesBeside(source, archive);
     return answer;
 }
 

@@ -15,6 +15,8 @@ struct AnonymiseRequest {
     /// Whether appointments without a registered customer for which the name alone speaks are his too; where
     /// there are some it has to be decided.
     std::optional<bool> sameName{};
+    /// The archive of the shop's audit, where it is not where the shop says.
+    std::optional<std::string> archive{};
 };
 
 struct AnonymiseAnswer {
@@ -49,7 +51,8 @@ AnonymiseAnswer PlanToAnonymise(const std::string& source, const AnonymiseReques
 /// transaction: names become nobody's, texts are emptied, contact channels go, the customer becomes deleted
 /// and its animals inactive. Appointments, dates, services, employees and values stay. Refused where booked
 /// appointments are still to come or pre-sales are open, and on a server to whoever may not change the audit.
-/// A line of the audit tells who did it, when, whose code it was, and which lines were cleaned. Afterwards
+/// A line of the audit tells who did it, when, whose code it was, and which lines were cleaned. The
+/// lines of the shop's archive are cleaned as well; where it is not found, `remains` says so. Afterwards
 /// what the engine has kept of the former values is taken away. Fails with a DatabaseFailure, and with
 /// RightDenied where the author may not; nothing is written then.
 AnonymiseAnswer Anonymise(const std::string& source, const AnonymiseRequest& request, const Author& author,

@@ -7,13 +7,9 @@
 #include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/select_where.hpp"
 
-#include <limits>
-
 namespace kova::family::privacy {
 
 namespace {
-
-constexpr Key AllLines = std::numeric_limits<Key>::max();
 
 struct SimplifiedAppointment : AppointmentRow {
     static constexpr const char* Condition = "tipo_do_agendamento = 1";
@@ -56,33 +52,37 @@ void AddCustomer(const std::optional<CustomerRow>& row, const std::vector<AuditL
         identity.AddContacts(channels);
 }
 
-void AddAnimals(Database& database, Key customer, Identity& identity)
+void AddAnimals(Database& database, Database* archive, Key customer, Identity& identity)
 {
     SelectWhere<AnimalOfPerson>(database, std::set<Key>{customer}, [&](const AnimalOfPerson& animal) {
         identity.AddAnimal(animal.nome);
         for (const std::string& name :
-             FormerValues(FindAuditLines(database, AnimalRow::Table, animal.codigo, AllLines), "nome"))
+             FormerValues(FindAllAuditLines(database, archive, AnimalRow::Table, animal.codigo), "nome"))
             identity.AddAnimal(name);
     });
 }
 
 } // namespace
 
-std::optional<Person> FindPerson(Database& database, Key code)
+std::optional<Person> FindPerson(Database& database, Key code, Database* archive)
 {
     Person person{code, {code}, {}};
     for (const Key gone : HaveGoneInto(database, CustomerRow::Table, code))
         person.codes.insert(gone);
+    if (archive)
+        for (const Key one : std::set<Key>(person.codes))
+            for (const Key gone : HaveGoneInto(*archive, CustomerRow::Table, one))
+                person.codes.insert(gone);
     bool isKnown = false;
     for (const Key one : person.codes) {
         const std::optional<CustomerRow> row = FindByKey<CustomerRow>(database, one);
-        const std::vector<AuditLine> lines = FindAuditLines(database, CustomerRow::Table, one, AllLines);
+        const std::vector<AuditLine> lines = FindAllAuditLines(database, archive, CustomerRow::Table, one);
         isKnown = isKnown || row || !lines.empty();
         AddCustomer(row, lines, person.identity);
         SelectWhere<ChannelOfPerson>(database, std::set<Key>{one}, [&](const ChannelOfPerson& channel) {
             person.identity.AddContacts(channel.canal);
         });
-        AddAnimals(database, one, person.identity);
+        AddAnimals(database, archive, one, person.identity);
     }
     return isKnown ? std::optional(person) : std::nullopt;
 }

@@ -26,8 +26,9 @@ struct Person {
 };
 
 /// By the rows and by the values that the audit keeps of them; also a customer whose row was removed, as long
-/// as the audit tells of it. Nothing where no customer ever had that code. Fails as FindAuditLines.
-std::optional<Person> FindPerson(Database& database, Key code);
+/// as the audit tells of it, the archive included where there is one. Nothing where no customer ever had that
+/// code. Fails as FindAuditLines.
+std::optional<Person> FindPerson(Database& database, Key code, Database* archive = nullptr);
 
 /// An appointment of a registered customer.
 struct AppointmentOfCustomer : AppointmentRow {

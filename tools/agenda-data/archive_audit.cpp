@@ -9,6 +9,22 @@ namespace {
 
 constexpr long long LastYear = 9999;
 
+std::string Megabytes(long long bytes)
+{
+    constexpr long long BytesOfTenth = 1024 * 1024 / 10;
+    const long long tenths = bytes / BytesOfTenth;
+    return std::to_string(tenths / 10) + "," + std::to_string(tenths % 10) + " MB";
+}
+
+void TellRoom(const family::ArchivedYears& archived, Surroundings& surroundings)
+{
+    if (archived.bytesBefore > 0)
+        surroundings.output << "O arquivo da loja tinha " << Megabytes(archived.bytesBefore)
+                            << " e ficou com " << Megabytes(archived.bytesAfter) << ".\n";
+    if (!archived.whyNotSmaller.empty())
+        surroundings.error << archived.whyNotSmaller << "\n";
+}
+
 int Run(const Call& call, Surroundings& surroundings)
 {
     const int until = static_cast<int>(call.Count("--until", 0, LastYear));
@@ -26,6 +42,7 @@ int Run(const Call& call, Surroundings& surroundings)
         surroundings.output << archived.lines << (archived.lines == 1 ? " linha" : " linhas") << years
                             << (archived.lines == 1 ? " foi para \"" : " foram para \"") << archived.file
                             << "\".\n";
+    TellRoom(archived, surroundings);
     if (archived.left > 0)
         surroundings.error << archived.left << (archived.left == 1 ? " linha" : " linhas") << years
                            << " fica na loja: foi gravada depois de uma com a data de um ano seguinte.\n";

@@ -36,7 +36,7 @@ int TellRefusal(const AnonymiseAnswer& answer, std::ostream& error)
 int Run(const Call& call, Surroundings& surroundings)
 {
     const std::string& source = call.Operand(0);
-    const AnonymiseRequest request{CustomerOf(call), DecisionOf(call)};
+    const AnonymiseRequest request{CustomerOf(call), DecisionOf(call), call.Option("--archive")};
     const family::LongWork work = ShownWork(surroundings.error, "Auditoria");
     const bool isConfirmed = call.Has("--confirm");
     const AnonymiseAnswer answer = isConfirmed
@@ -57,12 +57,14 @@ int Run(const Call& call, Surroundings& surroundings)
 
 const Command ForgetCommand{
     {"forget",
-     "Torna um cliente anônimo em todas as tabelas, na auditoria também: nome, documento,\n"
-     "endereço, contatos, observações e nomes dos animais saem; datas, serviços e valores\n"
-     "ficam. Sem --confirm só diz o que seria feito.",
+     "Torna um cliente anônimo em todas as tabelas, na auditoria e no arquivo dela também:\n"
+     "nome, documento, endereço, contatos, observações e nomes dos animais saem; datas,\n"
+     "serviços e valores ficam. Sem --confirm só diz o que seria feito.",
      {"BANCO"},
      {CustomerOption,
       {"--confirm", {}, "Faz o que diz; não pode ser desfeito."},
+      {"--archive", "ARQUIVO",
+       "O arquivo da auditoria, que também é limpo (padrão: onde foi gravado, ou ao lado do banco)."},
       {"--same-name", "sim|nao",
        "Se agendamentos sem cadastro que têm só o mesmo nome também são deste cliente."},
       {"--user", "NOME", "Quem faz (padrão: o usuário do computador)."}}},

@@ -2,6 +2,7 @@
 
 #include "family/data/audit/code_ranges.hpp"
 #include "family/data/checks/stored_links.hpp"
+#include "family/data/migrations/audit_indexes.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/sources/file_connection.hpp"
@@ -40,29 +41,63 @@ Key Number(Database& database, const std::string& selection)
 
 } // namespace
 
+bool IsArchive(Database& file)
+{
+    const std::string tables = "select count(*) from sqlite_master where type = 'table'"
+                               " and name not like 'palavras_da_auditoria%'";
+    return Number(file, tables) == 2
+        && Number(file, tables + " and name in ('auditoria', 'elo_da_auditoria')") == 2;
+}
+
+bool IsSearchable(Database& archive)
+{
+    return Number(archive, "select count(*) from sqlite_master where name = 'palavras_da_auditoria'") == 1;
+}
+
+std::string NoArchive(const std::string& path)
+{
+    return "\"" + path + "\" não é um arquivo de auditoria. Informe outro.";
+}
+
 ArchiveFile::ArchiveFile(std::string path)
     : path_(std::move(path)), database_(SqliteDialect(), FileConnection(path_), path_)
 {
-    const Key tables = Number(database_, "select count(*) from sqlite_master where type = 'table'");
-    const Key own = Number(database_,
-                           "select count(*) from sqlite_master where type = 'table'"
-                           " and name in ('auditoria', 'elo_da_auditoria')");
-    if (tables != own || (own != 0 && own != 2))
-        throw DatabaseFailure("\"" + path_ + "\" não é um arquivo de auditoria. Informe outro.");
+    const bool isEmpty = Number(database_, "select count(*) from sqlite_master") == 0;
+    if (!isEmpty && !IsArchive(database_))
+        throw DatabaseFailure(NoArchive(path_));
     system::KeepFromOthers(path_);
     // One file, that can be carried away: no log stays beside it.
     database_.Session() << "pragma journal_mode = delete";
     database_.Session() << "pragma synchronous = extra";
-    if (tables == 0)
-        MakeTables();
+    database_.Session() << "pragma secure_delete = on";
+    Complete(isEmpty);
 }
 
-void ArchiveFile::MakeTables()
+void ArchiveFile::Complete(bool isEmpty)
 {
     soci::transaction transaction(database_.Session());
-    for (const char* statement : Tables)
-        database_.Session() << statement;
+    if (isEmpty)
+        for (const char* statement : Tables)
+            database_.Session() << statement;
+    if (!IsSearchable(database_)) {
+        for (const std::string& statement : IndexDaysOfAudit(database_.GetDialect()))
+            database_.Session() << statement;
+        for (const std::string& statement : IndexWordsOfAudit(database_.GetDialect()))
+            database_.Session() << statement;
+    }
     transaction.commit();
+}
+
+void ArchiveFile::RequireWritable()
+{
+    database_.Session() << "begin immediate";
+    database_.Session() << "rollback";
+}
+
+void ArchiveFile::DropRemains()
+{
+    database_.Session() << "insert into palavras_da_auditoria (palavras_da_auditoria) values ('optimize')";
+    database_.Session() << "vacuum";
 }
 
 Key ArchiveFile::LastPlace()

@@ -10,6 +10,7 @@
 #include "family/data/sources/file_connection.hpp"
 #include "system/path_text.hpp"
 
+#include <cstdint>
 #include <filesystem>
 
 namespace kova::family {
@@ -17,6 +18,8 @@ namespace kova::family {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::uintmax_t BytesOfMegabyte = 1024 * 1024;
 
 bool IsThere(const std::string& file)
 {
@@ -72,6 +75,74 @@ long long LinesUntil(Database& shop, int until)
     return lines;
 }
 
+/// Fails with a sentence where it is not what the shop has archived.
+void RequireArchiveOf(Database& shop, Database& archive)
+{
+    const std::string of = "O arquivo da auditoria \"" + archive.Path() + "\" ";
+    try {
+        if (!IsArchive(archive))
+            throw DatabaseFailure(NoArchive(archive.Path()));
+        const std::optional<ArchivedPart> part = LastArchived(shop);
+        const auto last = part ? FindByKey<LinkRow>(archive, part->order) : std::nullopt;
+        if (!last || last->elo != part->link)
+            throw DatabaseFailure(of + "não é o desta loja, ou não tem tudo que foi arquivado.");
+    } catch (const soci::soci_error&) {
+        throw DatabaseFailure(of
+                              + "não pode ser lido: está danificado ou não é um arquivo de auditoria. Use uma"
+                                " cópia dele.");
+    }
+}
+
+long long BytesOf(Database& shop)
+{
+    return Number(shop, "select page_count * page_size from pragma_page_count, pragma_page_size");
+}
+
+/// The engine writes what stays twice, once beside the file and once where it keeps what is temporary.
+std::string WhyTooLittleRoom(Database& shop)
+{
+    const auto needed = static_cast<std::uintmax_t>(
+        Number(shop,
+               "select (page_count - freelist_count) * page_size"
+               " from pragma_page_count, pragma_freelist_count, pragma_page_size"));
+    std::error_code unknown;
+    const fs::path folder = fs::absolute(system::PathOf(shop.Path())).parent_path();
+    for (const fs::path& place : {folder, fs::temp_directory_path(unknown)}) {
+        const fs::space_info space = fs::space(place, unknown);
+        const std::uintmax_t needed_here = needed * (place == folder ? 2 : 1);
+        if (!unknown && space.available < needed_here)
+            return "O arquivo da loja ficou do mesmo tamanho: para ficar menor faltam "
+                + std::to_string((needed_here - space.available) / BytesOfMegabyte + 1) + " MB livres em \""
+                + system::TextOf(place) + "\". O espaço será usado pelo que for gravado.";
+    }
+    return {};
+}
+
+/// What cannot be done now is left as it is: the room is used by what comes.
+void GiveRoomBack(Database& shop, ArchivedYears& archived)
+{
+    archived.whyNotSmaller = WhyTooLittleRoom(shop);
+    if (!archived.whyNotSmaller.empty())
+        return;
+    try {
+        const long long before = BytesOf(shop);
+        shop.Session() << "vacuum";
+        int busy = 0, inLog = 0, written = 0;
+        shop.Session() << "pragma wal_checkpoint(truncate)", soci::into(busy), soci::into(inLog),
+            soci::into(written);
+        archived.bytesBefore = before;
+        archived.bytesAfter = BytesOf(shop);
+        if (busy != 0)
+            archived.whyNotSmaller =
+                "Outro programa estava lendo o arquivo da loja: ele fica menor quando todos "
+                "os programas que usam esta loja forem fechados.";
+    } catch (const soci::soci_error&) {
+        archived.whyNotSmaller =
+            "O arquivo da loja ficou do mesmo tamanho, porque outro programa o estava usando. "
+            "O espaço será usado pelo que for gravado.";
+    }
+}
+
 /// One archiving, from the shop over the file back to the shop.
 class Archiving {
 public:
@@ -82,7 +153,8 @@ public:
 
     ArchivedYears Run(const Author& author, const LongWork& work)
     {
-        ArchivedYears archived{0, archive_.Path(), 0};
+        ArchivedYears archived;
+        archived.file = archive_.Path();
         archive_.RequireGoesOnIn(shop_);
         if (last_ > Number(shop_, "select coalesce(min(ordem), 0) from elo_da_auditoria") || !IsBegun()) {
             archive_.TakeUntil(last_, shop_, work);
@@ -131,27 +203,67 @@ ArchivedYears ArchiveAudit(const std::string& source, int until, const std::opti
     RequireOwner(*shop, author);
     try {
         const std::string path = FileFor(*shop, file);
+        ArchivedYears archived;
+        archived.file = path;
         if (LastPlaceUntil(*shop, until) == 0)
-            return {0, path, 0};
+            return archived;
         ArchiveFile archive(path);
-        return Archiving(*shop, archive, until).Run(author, work);
+        archived = Archiving(*shop, archive, until).Run(author, work);
+        if (archived.lines > 0 && !IsServer(source))
+            GiveRoomBack(*OpenForLongWork(source), archived);
+        return archived;
     } catch (const std::runtime_error& cause) {
         throw TranslatedFailure(source, cause);
     }
 }
 
-std::unique_ptr<Database> OpenArchive(Database& shop, const std::optional<std::string>& file)
+std::string PlaceOfArchive(Database& shop, const std::optional<std::string>& file)
 {
     const std::optional<ArchivedPart> part = LastArchived(shop);
     if (file && !IsThere(*file))
         throw DatabaseFailure("O arquivo da auditoria \"" + *file + "\" não foi encontrado.");
     if (!part)
-        return nullptr;
+        return {};
     for (const std::string& place : {file.value_or(part->file), ArchiveBeside(shop.Path())}) {
         if (!IsServer(place) && IsThere(place))
-            return ConnectForReading(place);
+            return place;
     }
-    return nullptr;
+    return {};
+}
+
+std::unique_ptr<Database> OpenArchive(Database& shop, const std::optional<std::string>& file)
+{
+    const std::string place = PlaceOfArchive(shop, file);
+    if (place.empty())
+        return nullptr;
+    std::unique_ptr<Database> archive = ConnectForReading(place);
+    RequireArchiveOf(shop, *archive);
+    return archive;
+}
+
+std::unique_ptr<Database> OpenSearchableArchive(Database& shop, const std::optional<std::string>& file)
+{
+    std::unique_ptr<Database> archive = OpenArchive(shop, file);
+    if (!archive || IsSearchable(*archive))
+        return archive;
+    const std::string place = archive->Path();
+    archive.reset();
+    OpenArchiveForWriting(shop, place);
+    return OpenArchive(shop, place);
+}
+
+std::unique_ptr<ArchiveFile> OpenArchiveForWriting(Database& shop, const std::optional<std::string>& file)
+{
+    const std::unique_ptr<Database> readable = OpenArchive(shop, file);
+    if (!readable)
+        return nullptr;
+    try {
+        auto archive = std::make_unique<ArchiveFile>(readable->Path());
+        archive->RequireWritable();
+        return archive;
+    } catch (const soci::soci_error& cause) {
+        throw TranslatedFailure(readable->Path(), cause);
+    }
 }
 
 } // namespace kova::family

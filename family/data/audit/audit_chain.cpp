@@ -14,6 +14,9 @@ namespace kova::family {
 
 namespace {
 
+/// Taken by a server's own trigger as well, whenever it links.
+constexpr const char* LockOfChain = "select pg_advisory_xact_lock(20081115)";
+
 /// The place of the chain's last link and the link itself; 0 and "" where there is none.
 class LastLink : public KeptStatement {
 public:
@@ -117,11 +120,24 @@ void AddLines(Database& database, std::vector<AuditRow> rows)
 
 void LinkAnew(Database& database, Key code)
 {
-    database.With<SaltRemoval>([&](SaltRemoval& removal) { removal.Run(code); });
+    RemoveSalts(database, code);
     if (database.GetDialect().IsServer())
         return;
     if (const auto line = FindByKey<AuditRow>(database, code))
         AddLinks(database, std::span(&*line, 1));
+}
+
+void LinkArchivedAnew(Database& shop, const AuditRow& line)
+{
+    RemoveSalts(shop, line.codigo);
+    if (shop.GetDialect().IsServer())
+        shop.Session() << LockOfChain;
+    AddLinks(shop, std::span(&line, 1));
+}
+
+void RemoveSalts(Database& database, Key code)
+{
+    database.With<SaltRemoval>([&](SaltRemoval& removal) { removal.Run(code); });
 }
 
 bool MayRewriteAudit(Database& database)

@@ -40,6 +40,12 @@ void AddLines(Database& database, std::vector<AuditRow> rows);
 /// salts go: by them could be found out what it told before.
 void LinkAnew(Database& database, Key code);
 
+/// The same for a line that lies in the shop's archive, as it is now: its further link is the shop's. To be
+/// run as the last thing before the line that names it, since desks of a server wait from then on.
+void LinkArchivedAnew(Database& shop, const AuditRow& line);
+/// Takes the salts from all links of a line.
+void RemoveSalts(Database& database, Key code);
+
 /// Whether lines of the audit may be replaced over this connection; on a server its owner alone should. Fails
 /// with a DatabaseFailure.
 bool MayRewriteAudit(Database& database);

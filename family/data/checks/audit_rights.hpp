@@ -12,8 +12,8 @@ namespace kova::family {
 /// administrator's or may act as the owner. Nobody where it is a file. Fails with soci::soci_error.
 std::vector<std::string> WhoMayRewriteAudit(Database& database);
 
-/// Whether a server has a role that adds lines and can do no more with the audit, so that its desks need not be
-/// its owner. Always, where it is a file. Fails with soci::soci_error.
+/// Whether a server has a role that adds lines and can do no more with the audit, so that its desks need not
+/// be its owner. Always, where it is a file. Fails with soci::soci_error.
 bool HasRoleOfDesks(Database& database);
 
 } // namespace kova::family
