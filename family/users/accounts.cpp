@@ -1,10 +1,8 @@
 #include "family/users/accounts.hpp"
 
-#include "agenda/contracts/text.hpp"
 #include "family/business/clean_text.hpp"
 #include "family/data/audit/add_row.hpp"
 #include "family/data/audit/import_audit.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/safe_write.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/select_rows.hpp"
@@ -13,6 +11,7 @@
 #include "family/users/administrators.hpp"
 #include "family/users/denials.hpp"
 #include "family/users/role_rights.hpp"
+#include "family/users/user_names.hpp"
 #include "family/users/write_secret.hpp"
 
 #include <optional>
@@ -41,29 +40,20 @@ template <class Write> AccountAnswer Administer(Database& database, const Author
     return answer;
 }
 
-std::string ObjectionToName(const std::string& name)
-{
-    if (name.empty())
-        return "Informe o nome.";
-    if (Left(name, WidthOfUserName) != name)
-        return "O nome pode ter até " + std::to_string(WidthOfUserName) + " caracteres.";
-    return {};
-}
-
-/// Whether another row that `isMeant` takes is called so, case and accents aside.
+/// Whether another row that `isMeant` takes is called so (FoldUserName).
 template <class Row, class IsMeant>
 bool IsNameTaken(Database& database, const std::string& name, Key code, IsMeant isMeant)
 {
     bool taken = false;
     SelectRows<Row>(database, [&](const Row& row) {
-        taken = taken || (row.codigo != code && isMeant(row) && FoldText(row.nome) == FoldText(name));
+        taken = taken || (row.codigo != code && isMeant(row) && FoldUserName(row.nome) == FoldUserName(name));
     });
     return taken;
 }
 
 std::string ObjectionToAccount(Database& database, const Account& account, const std::string& name)
 {
-    if (std::string objection = ObjectionToName(name); !objection.empty())
+    if (std::string objection = ObjectionToUserName(name); !objection.empty())
         return objection;
     const auto hasRole = [](const AccountRow& row) { return !row.codigoDoPapel.IsNull(); };
     if (account.role != 0 && IsNameTaken<AccountRow>(database, name, account.code, hasRole))
@@ -151,7 +141,7 @@ AccountAnswer SaveRole(Database& database, const Role& role, const Author& autho
         const auto stored = FindByKey<RoleRow>(database, role.code);
         if (role.code != 0 && !stored)
             return {.why = "O papel não existe mais."};
-        if (std::string objection = ObjectionToName(name); !objection.empty())
+        if (std::string objection = ObjectionToUserName(name); !objection.empty())
             return {.why = std::move(objection)};
         if (IsNameTaken<RoleRow>(database, name, role.code, [](const RoleRow&) { return true; }))
             return {.why = "Já há um papel com este nome."};

@@ -3,6 +3,7 @@
 #include "family/data/audit/author.hpp"
 #include "family/users/passwords.hpp"
 #include "family/users/rights.hpp"
+#include "family/users/user_names.hpp"
 
 /// Users, their secrets and their roles, as those who administer them write them. Each runs in a transaction
 /// of its own, as WriteSafely, asks for the right to (RightDenied, whose line stands in the audit then),
@@ -38,11 +39,8 @@ struct AccountAnswer {
     std::string why{};
 };
 
-/// Most characters of a name, of a user or of a role.
-inline constexpr std::size_t WidthOfUserName = 60;
-
 /// Writes a user, with a new password where one is given. Refused without a name, with one that another user
-/// who has a role bears too, whatever its case and accents, and with a password that will not do.
+/// who has a role bears too (FoldUserName), and with a password that will not do.
 AccountAnswer SaveAccount(Database& database, const Account& account, const Secret* password,
                           const Author& author, const PasswordCost& cost = FrontDeskCost);
 

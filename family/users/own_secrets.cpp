@@ -1,10 +1,10 @@
 #include "family/users/own_secrets.hpp"
 
 #include "family/data/audit/audit.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/safe_write.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/users/tries.hpp"
+#include "family/users/user_names.hpp"
 #include "family/users/write_secret.hpp"
 
 #include <cstdlib>
@@ -43,7 +43,7 @@ KeptSecrets Keep(const OwnSecrets& wanted, const PasswordCost& cost)
 std::string Prove(Database& database, const AccountRow& account, const Secret& current, const Author& author,
                   const Clock& clock)
 {
-    const std::string digest = DigestOf(FoldText(account.nome));
+    const std::string digest = DigestOf(FoldUserName(account.nome));
     const long long now = SecondsNow(database, clock);
     const Tries tries = FindTries(database, digest, now);
     if (const long long wait = tries.WaitAt(now); wait > 0)

@@ -3,7 +3,6 @@
 #include "family/business/clean_text.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/engine/database.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/data/engine/iso_text.hpp"
 #include "family/data/engine/safe_write.hpp"
 #include "family/data/rows/find_by_key.hpp"
@@ -11,6 +10,7 @@
 #include "family/data/rows/update_row.hpp"
 #include "family/data/rows/user_rows.hpp"
 #include "family/users/tries.hpp"
+#include "family/users/user_names.hpp"
 #include "family/users/user_rights.hpp"
 #include "system/computer_name.hpp"
 
@@ -30,7 +30,7 @@ std::optional<AccountRow> FindUser(Database& database, const std::string& folded
 {
     std::optional<AccountRow> user;
     SelectRows<AccountRow>(database, [&](const AccountRow& row) {
-        if (!user && !row.codigoDoPapel.IsNull() && FoldText(row.nome) == folded)
+        if (!user && !row.codigoDoPapel.IsNull() && FoldUserName(row.nome) == folded)
             user = row;
     });
     return user;
@@ -43,7 +43,7 @@ public:
         : database_(database),
           wanted_(wanted),
           cost_(cost),
-          folded_(FoldText(CleanText(wanted.name))),
+          folded_(FoldUserName(wanted.name)),
           digest_(DigestOf(folded_)),
           clock_(clock),
           now_(SecondsNow(database, clock))

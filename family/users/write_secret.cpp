@@ -1,11 +1,11 @@
 #include "family/users/write_secret.hpp"
 
 #include "family/data/audit/audit.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/rows/update_row.hpp"
 #include "family/users/passwords.hpp"
 #include "family/users/tries.hpp"
+#include "family/users/user_names.hpp"
 
 namespace kova::family {
 
@@ -19,7 +19,7 @@ void WriteSecret(Database& database, Key user, Nullable<std::string> SecretsRow:
     AuditChange(database, author, SecretsRow::Table, user, {},
                 AuditValues().Add(name, std::string(kept.IsNull() ? "retirada" : "definida")));
     const auto account = FindByKey<AccountRow>(database, user);
-    ForgetTries(database, DigestOf(FoldText(account->nome)));
+    ForgetTries(database, DigestOf(FoldUserName(account->nome)));
 }
 
 } // namespace kova::family

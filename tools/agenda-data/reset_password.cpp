@@ -1,9 +1,8 @@
-#include "family/business/clean_text.hpp"
-#include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/user_rows.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/users/accounts.hpp"
+#include "family/users/user_names.hpp"
 #include "host/session/computer_user.hpp"
 #include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
@@ -15,13 +14,13 @@ namespace kova::data {
 
 namespace {
 
-/// Of those who have a role, whatever the case and the accents.
+/// Of those who have a role.
 std::optional<family::AccountRow> UserNamed(family::Database& database, const std::string& name)
 {
-    const std::string folded = family::FoldText(family::CleanText(name));
+    const std::string folded = family::FoldUserName(name);
     std::optional<family::AccountRow> user;
     family::SelectRows<family::AccountRow>(database, [&](const family::AccountRow& row) {
-        if (!row.codigoDoPapel.IsNull() && family::FoldText(row.nome) == folded)
+        if (!row.codigoDoPapel.IsNull() && family::FoldUserName(row.nome) == folded)
             user = row;
     });
     return user;

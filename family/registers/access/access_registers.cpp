@@ -4,6 +4,7 @@
 #include "family/registers/description/register_of.hpp"
 #include "family/users/administrators.hpp"
 #include "family/users/role_rights.hpp"
+#include "family/users/user_names.hpp"
 
 namespace kova::family::registers {
 
@@ -16,6 +17,13 @@ constexpr const char* NobodyWouldAdminister = "ninguém mais poderia administrar
                                               " que administra os usuários.";
 constexpr const char* FirstHasTo =
     "o primeiro usuário com um papel precisa poder administrar os usuários e ter uma senha.";
+
+/// A name that stands there already stays.
+template <class Record> void CheckCharacters(const Record* stored, const Record& record, Refusals& refusals)
+{
+    if (HasUnseenCharacters(record.nome) && (!stored || stored->nome != record.nome))
+        refusals.Add(column::Name, "só pode ter caracteres que se veem.");
+}
 
 class Users : public RegisterOf<AccountRecord> {
 public:
@@ -64,6 +72,7 @@ private:
             refusals.Add(column::RoleOfUser, "não há papel com este código.");
         if (IsNameOfAnother(among, stored, record))
             refusals.Add(column::Name, "já há um usuário com este nome.");
+        CheckCharacters(stored, record, refusals);
         CheckAdministrators(among, stored, record, refusals);
     }
 
@@ -71,7 +80,7 @@ private:
     bool IsNameOfAnother(const Among& among, const AccountRecord* stored, const AccountRecord& record) const
     {
         return !record.codigoDoPapel.IsNull() && IsTaken(among, stored, record, [](const AccountRecord& row) {
-            return row.codigoDoPapel.IsNull() ? std::string() : FoldText(row.nome);
+            return row.codigoDoPapel.IsNull() ? std::string() : FoldUserName(row.nome);
         });
     }
 
@@ -117,8 +126,9 @@ private:
     void CheckRecord(const Among& among, const RoleRecord* stored, RoleRecord& record,
                      Refusals& refusals) const override
     {
-        if (IsTaken(among, stored, record, [](const RoleRecord& row) { return FoldText(row.nome); }))
+        if (IsTaken(among, stored, record, [](const RoleRecord& row) { return FoldUserName(row.nome); }))
             refusals.Add(column::Name, "já há um papel com este nome.");
+        CheckCharacters(stored, record, refusals);
         if (!record.rights.contains(Right::AdministerUsers) && HasAdministrator(among)
             && !HasAdministratorBesideRole(among, record.codigo))
             refusals.Add(InfoOf(Right::AdministerUsers).label, NobodyWouldAdminister);

@@ -81,6 +81,10 @@ TEST_F(Accounts, NeedANameThatNobodyElseHas)
         {" \n", "Informe o nome."},
         {"ANA", "Já há um usuário com este nome."},
         {" lia\r\n", "Já há um usuário com este nome."},
+        {"\uFF21n\u00E1", "Já há um usuário com este nome."},
+        {"Ana\u200B", "O nome só pode ter caracteres que se veem."},
+        {"\u202EaiL", "O nome só pode ter caracteres que se veem."},
+        {"\u3164", "O nome só pode ter caracteres que se veem."},
         {std::string(1000, 'x'), "O nome pode ter até 60 caracteres."},
         {std::string(61, 'x'), "O nome pode ter até 60 caracteres."},
     };
@@ -92,6 +96,20 @@ TEST_F(Accounts, NeedANameThatNobodyElseHas)
     EXPECT_EQ(Texts("select nome from usuario where nome like 'Jos%'"),
               std::vector<std::string>{"Jos\uFFFD"});
     EXPECT_TRUE(Enter("'; drop table usuario; --", "Focinho 2026").IsDone());
+}
+
+TEST_F(Accounts, LookAlikeWhateverTheBlanksBetweenTheirWords)
+{
+    MakeUsers();
+    EXPECT_EQ(Save({0, "Ana  Paula", Reception, true}, "Focinho 2026"), "");
+    ExpectRefused("Já há um usuário com este nome.", [&] {
+        return Save({0, "ana\u00A0paula", Reception, true}, "Focinho 2026");
+    });
+    EXPECT_TRUE(Enter(" Ana Paula ", "Focinho 2026").IsDone());
+    for (int time = 0; time < 3; ++time)
+        Enter("Ana   Paula", "errada 123");
+    EXPECT_EQ(Enter("Ana Paula", "Focinho 2026").outcome, SignInAnswer::Outcome::Wait);
+    EXPECT_EQ(Texts("select cast(erros as text) from tentativa_de_entrada"), std::vector<std::string>{"3"});
 }
 
 TEST_F(Accounts, NeedAPasswordThatWillDo)

@@ -126,6 +126,10 @@ TEST_F(AccessRegisters, TellEveryNameOnce)
 {
     MakeUsers();
     EXPECT_EQ(Save(RoleRegister(), 0, {{"Nome", "RECEPCAO"}}), "Nome: já há um papel com este nome.");
+    EXPECT_EQ(Save(RoleRegister(), 0, {{"Nome", "Re\u200Bpouso"}}),
+              "Nome: só pode ter caracteres que se veem.");
+    EXPECT_EQ(Save(UserRegister(), 0, {{"Nome", "\u202EaiL"}, {"Código do papel", "3"}}),
+              "Nome: só pode ter caracteres que se veem.");
     EXPECT_EQ(Save(UserRegister(), 0, {{"Nome", "ANA"}, {"Código do papel", "3"}}),
               "Nome: já há um usuário com este nome.");
     EXPECT_EQ(Save(UserRegister(), 0, {{"Nome", "ANA"}}), "feito") << "without a role it is only a name";
