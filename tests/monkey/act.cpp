@@ -16,8 +16,9 @@ struct Grammar {
     bool hasText;
 };
 
-constexpr std::array<Grammar, 14> Words{{
+constexpr std::array<Grammar, 15> Words{{
     {Verb::Screen, "screen", false, 3, true},
+    {Verb::Users, "users", false, 0, false},
     {Verb::Press, "press", true, 2, false},
     {Verb::DoublePress, "double", true, 2, false},
     {Verb::RightPress, "right", true, 2, false},

@@ -13,6 +13,8 @@ enum class Verb {
     /// anything
     /// else.
     Screen,
+    /// The shop has users, who sign in. Before anything else, too.
+    Users,
     Press,
     DoublePress,
     RightPress,

@@ -1,6 +1,7 @@
 #include "tests/monkey/chooser.hpp"
 
 #include "tests/monkey/screen.hpp"
+#include "tests/monkey/users.hpp"
 #include "toolkits/qt/boxes/combo_field.hpp"
 #include "toolkits/qt/grid/grid_canvas.hpp"
 
@@ -9,6 +10,7 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <algorithm>
 #include <cstdlib>
 #include <regex>
 #include <utility>
@@ -37,10 +39,22 @@ std::optional<Act> Replay::Next()
     return next_ < acts_.size() ? std::optional(acts_[next_++]) : std::nullopt;
 }
 
+Chooser::Chooser(std::uint64_t seed, int count, Words words, std::deque<Act> first)
+    : first_(std::move(first)),
+      hasUsers_(std::ranges::find(first_, Verb::Users, &Act::verb) != first_.end()),
+      chance_(seed),
+      left_(count),
+      words_(std::move(words))
+{
+}
+
 std::optional<Act> Chooser::Next()
 {
-    if (first_)
-        return std::exchange(first_, std::nullopt);
+    if (!first_.empty()) {
+        Act act = std::move(first_.front());
+        first_.pop_front();
+        return act;
+    }
     if (left_-- <= 0)
         return std::nullopt;
     Act act = Choose();
@@ -82,8 +96,12 @@ Act Chooser::Choose()
         return *planned;
     if (chance_.InHundred(4))
         return Seldom();
+    if (hasUsers_ && !SignInInFront() && chance_.InHundred(4))
+        return Key(chance_.OneOf<std::string>({"Ctrl+Shift+U", "Ctrl+Shift+U", "Ctrl+L"}));
     if (QApplication::activePopupWidget())
         return InPopup();
+    if (SignInInFront())
+        return InSignIn();
     if (BoxInFront())
         return InBox();
     if (dynamic_cast<QFileDialog*>(QApplication::activeModalWidget()))
@@ -186,6 +204,49 @@ Act Chooser::InOtherArea()
     }
 }
 
+// What is in the midst of being done elsewhere goes on behind it.
+void Chooser::PlanToSignIn()
+{
+    const std::span<const Person> people = People();
+    const Person& person =
+        people[static_cast<std::size_t>(chance_.Between(0, static_cast<int>(people.size()) - 1))];
+    const bool isWrong = chance_.InHundred(12);
+    const bool isByPin = MainWindow() != nullptr && chance_.InHundred(70);
+    const std::string secret = isWrong ? chance_.OneOf<std::string>({"4321", "2581", "senha errada", "ção"})
+        : isByPin                      ? person.pin
+                                       : person.password;
+    const std::vector<Act> acts{At(Verb::Press, "nome", Middle / 2, Middle),
+                                Key("Ctrl+A"),
+                                Type(person.name),
+                                At(Verb::Press, "segredo", Middle, Middle),
+                                Key("Ctrl+A"),
+                                Type(secret),
+                                Key("Return")};
+    plan_.insert(plan_.begin(), acts.begin(), acts.end());
+}
+
+// Keys and places by which somebody might try to get past it, too.
+Act Chooser::InSignIn()
+{
+    switch (chance_.ByWeight({60, 12, 12, 8, 8})) {
+    case 0: {
+        PlanToSignIn();
+        const Act act = plan_.front();
+        plan_.pop_front();
+        return act;
+    }
+    case 1: return Key(chance_.OneOf<std::string>({"Tab", "Return", "Down", "F4", "Alt+E", "Ctrl+Z", "Del"}));
+    case 2:
+        return Key(chance_.OneOf<std::string>({"Alt+1", "Alt+2", "F2", "F5", "Ctrl+1", "Ctrl+3", "Ctrl+S",
+                                               "Ctrl+L", "Ctrl+Shift+U", "F10", "Ctrl+H", "Alt+F4"}));
+    case 3: return Somewhere(Verb::Press, chance_.InHundred(50) ? "@main" : "@front");
+    default:
+        if (MainWindow() == nullptr)
+            return Key("Tab");
+        return chance_.InHundred(70) ? Key("Esc") : Act{.verb = Verb::Close, .target = "@front"};
+    }
+}
+
 Act Chooser::AtTarget()
 {
     const auto targets = Targets();
@@ -267,8 +328,10 @@ Act Chooser::Seldom()
     switch (chance_.ByWeight({35, 20, 8, 4, 33})) {
     case 0: {
         Act act{.verb = Verb::OtherDesk, .numbers = {chance_.Between(0, Whole - 1)}};
-        act.text = chance_.OneOf<std::string>(
-            {"book", "status 1", "status 2", "status 3", "status 4", "remark", "delete"});
+        act.text = hasUsers_ && chance_.InHundred(20)
+            ? "role " + std::to_string(chance_.Between(1, 4))
+            : chance_.OneOf<std::string>(
+                {"book", "status 1", "status 2", "status 3", "status 4", "remark", "delete"});
         return act;
     }
     case 1:

@@ -33,10 +33,7 @@ private:
 class Chooser : public Source {
 public:
     /// `first` comes before the acts chosen.
-    Chooser(std::uint64_t seed, int count, Words words, Act first)
-        : first_(std::move(first)), chance_(seed), left_(count), words_(std::move(words))
-    {
-    }
+    Chooser(std::uint64_t seed, int count, Words words, std::deque<Act> first);
     std::optional<Act> Next() override;
 
     /// The environment may name acts by a regular expression that are not chosen.
@@ -53,6 +50,8 @@ private:
     Act InForm();
     Act InOtherWindow();
     Act InOtherArea();
+    Act InSignIn();
+    void PlanToSignIn();
     Act AtTarget();
     Act AtControl(const std::string& name, QWidget& widget);
     Act Keys();
@@ -63,7 +62,9 @@ private:
     Act Type(const std::string& text) const;
     Act Seldom();
 
-    std::optional<Act> first_;
+    std::deque<Act> first_;
+    /// The shop has users.
+    bool hasUsers_;
     Chance chance_;
     int left_;
     Words words_;

@@ -57,6 +57,7 @@ TEST(Act, ReadsTheLineThatItWrites)
 {
     const std::vector<Act> acts{
         {.verb = Verb::Screen, .numbers = {1366, 768, 125}, .text = "dark"},
+        {.verb = Verb::Users},
         {.verb = Verb::Press, .hasty = true, .target = "frmLista.kvcmdAlterar", .numbers = {500, 20}},
         {.verb = Verb::Drag, .target = "frmLista.msfgGrade", .numbers = {1, 2, 3, 4}},
         {.verb = Verb::Wheel, .target = "@popup", .numbers = {1, 2, -120}},

@@ -5,6 +5,7 @@
 #include "family/business/appointments/status_change.hpp"
 #include "family/data/rows/find_by_key.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/users/accounts.hpp"
 
 #include <exception>
 #include <string>
@@ -13,8 +14,6 @@
 namespace kova::monkey {
 
 namespace {
-
-const family::Author Marcos{"8", "Marcos", "2026-11-20 09:30:00", "BALCAO-2"};
 
 family::Key Number(soci::session& session, const std::string& selection)
 {
@@ -40,6 +39,8 @@ void OtherDesk::Does(const std::string& what, int which)
             database_ = family::OpenDatabase(path_);
         if (what == "book")
             return Book();
+        if (what.starts_with("role "))
+            return GiveRole(what.back() - '0');
         const auto keys = AppointmentsOfTheDay(database_->Session());
         if (!keys.empty())
             Act(what, keys[keys.size() * static_cast<std::size_t>(which) / 1000]);
@@ -67,13 +68,23 @@ void OtherDesk::Book()
     input.endTime = "20:45";
     input.remark = "Laço azul.";
     input.validated = true;
-    AddAppointments(*database_, input, Marcos);
+    AddAppointments(*database_, input, author_);
+}
+
+void OtherDesk::GiveRole(family::Key role)
+{
+    const family::Author owner{.code = "0", .name = "Dono", .moment = "2026-11-20 09:30:00", .isOwner = true};
+    const family::Key lia = Number(database_->Session(),
+                                   "select coalesce(min(codigo), 0) from usuario where nome = 'Lia'"
+                                   " and codigo_do_papel is not null");
+    if (lia != 0)
+        SaveAccount(*database_, {lia, "Lia", role, true}, nullptr, owner);
 }
 
 void OtherDesk::Act(const std::string& what, family::Key appointment)
 {
     if (what.starts_with("status ")) {
-        ChangeStatus(*database_, appointment, what.back() - '0', Marcos);
+        ChangeStatus(*database_, appointment, what.back() - '0', author_);
         return;
     }
     const auto row = family::FindByKey<family::AppointmentRow>(*database_, appointment);
@@ -82,10 +93,10 @@ void OtherDesk::Act(const std::string& what, family::Key appointment)
     auto input = family::InputOf(*row);
     input.validated = true;
     if (what == "delete") {
-        DeleteAppointment(*database_, input, Marcos);
+        DeleteAppointment(*database_, input, author_);
     } else {
         input.remark = "Ligar antes.";
-        AlterAppointment(*database_, input, Marcos);
+        AlterAppointment(*database_, input, author_);
     }
 }
 

@@ -45,8 +45,8 @@ bool MayBeClosed(const QWidget& window)
 
 } // namespace
 
-Player::Player(Source& source, OtherDesk& otherDesk, const std::string& log)
-    : source_(source), otherDesk_(otherDesk), log_(log)
+Player::Player(Source& source, OtherDesk& otherDesk, const Users* users, const std::string& log)
+    : source_(source), otherDesk_(otherDesk), users_(users), log_(log)
 {
     Arm();
 }
@@ -74,8 +74,9 @@ void Player::Turn()
         strokes_.pop_front();
         return stroke();
     }
-    if (!MainWindow()) {
-        isGone_ = true;
+    hasBegun_ = hasBegun_ || MainWindow();
+    if (!MainWindow() && !SignInInFront()) {
+        isGone_ = hasBegun_;
         return;
     }
     if (goesHome_)
@@ -120,7 +121,8 @@ void Player::Begin(const Act& act)
 void Player::Do(const Act& act)
 {
     switch (act.verb) {
-    case Verb::Screen: return;
+    case Verb::Screen:
+    case Verb::Users: return;
     case Verb::Press: return PressAt(act, Qt::LeftButton, 1);
     case Verb::DoublePress: return PressAt(act, Qt::LeftButton, 2);
     case Verb::RightPress: return PressAt(act, Qt::RightButton, 1);
@@ -223,7 +225,24 @@ void Player::StepHome()
     }
     if (++stepsHome_ > MostStepsHome)
         EndWithFinding("locked out", WhatIsInFront());
+    if (SignInInFront())
+        return SignIn();
     Strike(IsInOtherArea() ? "Alt+1" : BoxInFront() && stepsHome_ % 3 == 0 ? "S" : "Esc");
+}
+
+// Each in turn: whoever has mistyped has to wait.
+void Player::SignIn()
+{
+    const std::vector<Entry> all = users_ ? users_->WhoEnter() : std::vector<Entry>();
+    if (all.empty())
+        EndWithFinding("nobody can enter", WhatIsInFront());
+    const Entry& one = all[static_cast<std::size_t>(stepsHome_) % all.size()];
+    for (const auto& [box, text] : {std::pair("nome", one.name), {"segredo", one.password}}) {
+        PressAt({.verb = Verb::Press, .target = box, .numbers = {250, 500}}, Qt::LeftButton, 1);
+        Add([this] { Strike("Ctrl+A"); });
+        TypeText(text);
+    }
+    Add([this] { Strike("Return"); });
 }
 
 // What was typed in another area and not saved is discarded.
@@ -231,7 +250,7 @@ void Player::Leave()
 {
     if (++waited_ > LongestWaitForHomeInTurns)
         EndWithFinding("the window does not close", WhatIsInFront());
-    if (waited_ == 1)
+    if (waited_ == 1 && MainWindow())
         MainWindow()->close();
     else if (BoxInFront() && waited_ % TurnsForAnAnswer == 0)
         Strike("D");

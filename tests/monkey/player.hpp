@@ -19,8 +19,8 @@ namespace kova::monkey {
 /// source has no more acts, the user goes back to the list and closes the application's window.
 class Player : public QObject {
 public:
-    /// Each act is written to `log` before it is done.
-    Player(Source& source, OtherDesk& otherDesk, const std::string& log);
+    /// Each act is written to `log` before it is done. `users` may be null.
+    Player(Source& source, OtherDesk& otherDesk, const Users* users, const std::string& log);
 
     /// Turns of the event loop so far: a program that counts no more hangs.
     const std::atomic<unsigned>& Turns() const { return turns_; }
@@ -45,11 +45,13 @@ private:
     void Resize(const Act& act);
     void Close(const std::string& target);
     void StepHome();
+    void SignIn();
     void Leave();
     void Add(Stroke stroke) { strokes_.push_back(std::move(stroke)); }
 
     Source& source_;
     OtherDesk& otherDesk_;
+    const Users* users_;
     std::ofstream log_;
     Input input_;
     Rules rules_;
@@ -61,6 +63,8 @@ private:
     bool goesHome_ = false;
     bool leaves_ = false;
     bool isGone_ = false;
+    /// The window was there.
+    bool hasBegun_ = false;
     bool staysInThisShop_ = false;
 };
 

@@ -10,6 +10,7 @@
 #include "toolkits/qt/grid/grid_canvas.hpp"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 
 #include <array>
@@ -28,6 +29,55 @@ constexpr std::array RowButtons{"kvcmdMarcarAgendamentoComoAgendado",
                                 "kvcmdAlterar",
                                 "kvcmdExcluir",
                                 "kvcmdImprimirFicha"};
+
+/// Also where something else is in front of it.
+QWidget* SignInOnShow()
+{
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top->isVisible() && top->objectName() == QLatin1String("Entrada"))
+            return top;
+    }
+    return nullptr;
+}
+
+bool IsLock(const QWidget& asked) { return asked.windowTitle().startsWith(QLatin1String("Bloqueado")); }
+
+void LookAtLock(const QWidget& asked)
+{
+    if (QApplication::activeModalWidget() != &asked)
+        TellFinding("the lock is not in front", WhatIsInFront());
+    for (const QWidget* top : QApplication::topLevelWidgets()) {
+        const auto* cover = top->findChild<QWidget*>(QStringLiteral("cobertura"), Qt::FindDirectChildrenOnly);
+        const bool isPassing = top->windowType() == Qt::Popup || top->windowType() == Qt::ToolTip;
+        const bool isOfTheLock = top == &asked || asked.isAncestorOf(top);
+        if (top->isVisible() && !isPassing && !isOfTheLock && (!cover || cover->geometry() != top->rect()))
+            TellFinding("a locked window is seen", top->windowTitle().toStdString());
+    }
+}
+
+QString TextOf(const QWidget& field)
+{
+    if (const auto* line = qobject_cast<const QLineEdit*>(&field))
+        return line->text();
+    const auto* text = qobject_cast<const QPlainTextEdit*>(&field);
+    return text ? text->toPlainText() : QString();
+}
+
+/// Those that somebody may have typed into, in all windows but that one. None where a form is at work: it may
+/// go on meanwhile.
+std::vector<std::pair<QPointer<QWidget>, QString>> FieldsBeside(const QWidget& asked)
+{
+    std::vector<std::pair<QPointer<QWidget>, QString>> fields;
+    const toolkit::FormModel* list = FormOnShow("frmLista");
+    if (!list || list->GetToolkit().IsPausing() || list->GetToolkit().IsInsideEvent())
+        return fields;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        const bool isField = qobject_cast<QLineEdit*>(widget) || qobject_cast<QPlainTextEdit*>(widget);
+        if (isField && widget->isVisible() && !asked.isAncestorOf(widget))
+            fields.emplace_back(widget, TextOf(*widget));
+    }
+    return fields;
+}
 
 toolkit::FormModel* List() { return FormOnShow("frmLista"); }
 
@@ -53,6 +103,7 @@ Text CaptionOf(const toolkit::FormModel& form, const char* name)
 void Rules::Look()
 {
     LookForFailures();
+    LookAtSignIn();
     const toolkit::FormModel* form = FormInFront();
     const bool isCalm =
         form && form->Design().name == "frmLista" && IsSettled() && !form->GetToolkit().IsInsideEvent();
@@ -78,6 +129,25 @@ void Rules::LookForFailures()
     const QMessageBox* box = BoxInFront();
     if (box && box->windowTitle() == QCoreApplication::applicationName())
         TellFinding("unhandled failure", box->text().toStdString());
+}
+
+void Rules::LookAtSignIn()
+{
+    QWidget* asked = SignInOnShow();
+    if (asked && IsLock(*asked))
+        LookAtLock(*asked);
+    if (asked && !wasAsked_)
+        typed_ = FieldsBeside(*asked);
+    if (!asked && wasAsked_) {
+        for (const auto& [field, text] : typed_) {
+            if (field && TextOf(*field) != text)
+                TellFinding("typed text is lost",
+                            field->objectName().toStdString() + " had \"" + text.toStdString()
+                                + "\" and has \"" + TextOf(*field).toStdString() + '"');
+        }
+        typed_.clear();
+    }
+    wasAsked_ = asked != nullptr;
 }
 
 void Rules::LookAtRowButtons()

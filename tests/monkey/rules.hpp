@@ -3,6 +3,9 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <utility>
+#include <vector>
+
 namespace kova::monkey {
 
 /// What must hold at every moment. A rule that is broken is a finding.
@@ -15,11 +18,17 @@ public:
 
 private:
     void LookForFailures();
+    /// While somebody is asked who it is nothing else is seen of a locked desk or takes input, and what was
+    /// typed stays.
+    void LookAtSignIn();
     static void LookAtRowButtons();
     static void LookAtPanel();
 
     /// How often in a row the list has been found to take input.
     int calm_ = 0;
+    /// The fields on show when somebody was asked, with what stood in them.
+    std::vector<std::pair<QPointer<QWidget>, QString>> typed_;
+    bool wasAsked_ = false;
 };
 
 } // namespace kova::monkey

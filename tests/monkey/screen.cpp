@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMap>
 #include <QProgressBar>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -28,6 +29,13 @@ qt::FormWidget* FormIn(QWidget* top)
     return nullptr;
 }
 
+/// Whether what was typed is compared now.
+bool IsLooking(const QWidget& signIn)
+{
+    const auto* enter = signIn.findChild<QPushButton*>(QStringLiteral("entrar"));
+    return enter && enter->text().startsWith(QLatin1String("Conferindo"));
+}
+
 QWidget* Nth(const std::string& name, std::size_t colon)
 {
     QWidget* front = Front();
@@ -45,7 +53,9 @@ QWidget* Nth(const std::string& name, std::size_t colon)
 QWidget* Named(const std::string& name)
 {
     const QString wanted = QString::fromStdString(name);
-    const auto tops = QApplication::topLevelWidgets();
+    auto tops = QApplication::topLevelWidgets();
+    if (QWidget* asked = SignInInFront())
+        tops.prepend(asked);
     for (QWidget* top : tops) {
         const auto children = top->findChildren<QWidget*>(wanted);
         for (QWidget* child : children) {
@@ -91,6 +101,12 @@ toolkit::FormModel* FormInFront()
 
 QMessageBox* BoxInFront() { return dynamic_cast<QMessageBox*>(QApplication::activeModalWidget()); }
 
+QWidget* SignInInFront()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal && modal->objectName() == QLatin1String("Entrada") ? modal : nullptr;
+}
+
 toolkit::FormModel* FormOnShow(const std::string& name)
 {
     const auto widgets = QApplication::allWidgets();
@@ -129,6 +145,8 @@ bool IsSettled()
         return true;
     if (IsAtWork())
         return false;
+    if (const QWidget* asked = SignInInFront())
+        return !IsLooking(*asked);
     if (IsInOtherArea())
         return true;
     const toolkit::FormModel* form = FormInFront();

@@ -21,6 +21,8 @@ QWidget* Front();
 /// The form in front; null where something else is there.
 toolkit::FormModel* FormInFront();
 QMessageBox* BoxInFront();
+/// Where somebody signs in, or changes places; null where nobody is asked.
+QWidget* SignInInFront();
 /// The form of that name, where it is on show.
 toolkit::FormModel* FormOnShow(const std::string& name);
 /// The form's control where it is on show, with its widget; null where not.

@@ -6,6 +6,7 @@
 #include "tests/monkey/finding.hpp"
 #include "tests/monkey/player.hpp"
 #include "tests/monkey/screen.hpp"
+#include "tests/monkey/users.hpp"
 #include "tests/support/platform_remarks.hpp"
 #include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
@@ -95,6 +96,14 @@ Act ScreenOfSeed(std::uint64_t seed)
     return {.verb = Verb::Screen, .numbers = {kind.width, kind.height, kind.percent}, .text = kind.look};
 }
 
+/// One shop in three has users.
+bool HasUsers(const SessionPlan& plan)
+{
+    constexpr std::uint64_t Kinds = 3, WithUsers = 2;
+    return plan.replay ? std::ranges::find(*plan.replay, Verb::Users, &Act::verb) != plan.replay->end()
+                       : plan.seed % Kinds == WithUsers;
+}
+
 Act ScreenOf(const SessionPlan& plan)
 {
     const std::vector<Act> acts = plan.replay.value_or(std::vector{ScreenOfSeed(plan.seed)});
@@ -139,11 +148,17 @@ int RunSession(const SessionPlan& plan)
     const Act screen = ScreenOf(plan);
     SitDownAt(screen);
     const std::string database = (plan.folder / DatabaseName).string();
+    std::optional<Users> users;
+    std::deque<Act> first{screen};
+    if (HasUsers(plan)) {
+        users.emplace(database);
+        first.push_back({.verb = Verb::Users});
+    }
     std::unique_ptr<Source> source;
     if (plan.replay)
         source = std::make_unique<Replay>(*plan.replay);
     else
-        source = std::make_unique<Chooser>(plan.seed, plan.acts, Words(NamesIn(database)), screen);
+        source = std::make_unique<Chooser>(plan.seed, plan.acts, Words(NamesIn(database)), first);
     int count = 1;
     char name[] = "kovaris";
     char* words[] = {name, nullptr};
@@ -151,8 +166,9 @@ int RunSession(const SessionPlan& plan)
     QApplication::setApplicationName(QStringLiteral("kovaris"));
     qInstallMessageHandler(&TellWarning);
     qt::ApplyLook(application, screen.text == "dark" ? qt::Look::Dark : qt::Look::Light);
-    OtherDesk otherDesk(database);
-    Player player(*source, otherDesk, (plan.folder / LogName).string());
+    constexpr family::Key CodeOfNobody = 8;
+    OtherDesk otherDesk(database, users ? users->CodeOfColleague() : CodeOfNobody);
+    Player player(*source, otherDesk, users ? &*users : nullptr, (plan.folder / LogName).string());
     const Watchdog watchdog(player);
     const FailureEar ear;
     return Run(OptionsFor(database));

@@ -1,5 +1,6 @@
 #include "tests/monkey/trial.hpp"
 
+#include "tests/monkey/audited_rights.hpp"
 #include "tests/monkey/finding.hpp"
 #include "tests/monkey/session.hpp"
 
@@ -113,6 +114,10 @@ Verdict Trials::Run(const std::string& arguments)
     if (std::system(check.c_str()) != 0) {
         verdict.defect = "the database does not pass its check";
         verdict.output += ContentOf(said);
+    } else if (const std::string found = WriteWithoutRight((folder / DatabaseName).string());
+               !found.empty()) {
+        verdict.defect = "a write without the right";
+        verdict.output += found;
     }
     return verdict;
 }
