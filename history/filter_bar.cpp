@@ -57,6 +57,7 @@ constexpr const char* Tables[] = {
     "usuario",
     "papel",
     "papel_direito",
+    "ajuste",
     "pacote",
     "pre_venda",
     "importacao",

@@ -47,6 +47,7 @@ constexpr KnownTable Tables[] = {
     {"usuario", "Usuários", "o usuário"},
     {"papel", "Papéis", "o papel"},
     {"papel_direito", "Direitos dos papéis", "o direito"},
+    {"ajuste", "Ajustes da loja", "o ajuste"},
     {"pacote", "Pacotes", "o pacote"},
     {"pre_venda", "Pré-vendas", "a pré-venda"},
     {ImportsTable, "Importações", "a importação"},

@@ -3,6 +3,7 @@
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/stores/national_holidays.hpp"
+#include "family/demo/fictional_shop.hpp"
 
 #include <algorithm>
 
@@ -36,6 +37,7 @@ void WriteHolidays(Database& database)
 void Fill(Database& database, const ShopPlan& plan)
 {
     Random random(Seed);
+    MarkAsFictional(database);
     const ShopRegisters registers = WriteRegisters(database, plan.employees, random);
     WriteHolidays(database);
     const std::vector<ShopCustomer> customers = WriteCustomers(database, registers, plan.customers, random);

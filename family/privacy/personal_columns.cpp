@@ -65,6 +65,7 @@ constexpr ColumnsThatHold Columns[] = {
     {"expediente", Holds::NoPerson, "codigo dia_da_semana hora_inicial hora_final"},
     {"papel", Holds::NoPerson, "codigo nome"},
     {"papel_direito", Holds::NoPerson, "codigo codigo_do_papel direito"},
+    {"ajuste", Holds::NoPerson, "codigo nome valor"},
     {"tentativa_de_entrada", Holds::NoPerson, "identificador erros ultimo_erro"},
     {"gravacao", Holds::NoPerson, "identificador momento"},
     {"contador_de_alteracoes", Holds::NoPerson, "tabela alteracoes"},

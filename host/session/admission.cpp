@@ -14,8 +14,8 @@ bool Admit(Door& door, const Options& options, Outlet outlet)
     if (options.isTyped && Pretends(options)
         && (door.HasUsers() || !family::IsFictional(*door.OpenDesk().database)))
         throw arguments::BadArguments(
-            "As opções --user, --date e --time só valem em lojas de demonstração. Nesta "
-            "loja entra quem está no posto, com a data e a hora do relógio: abra o "
+            "As opções --user, --date e --time só valem em lojas de demonstração, que \"agenda-data demo\" "
+            "cria. Nesta loja entra quem está no posto, com a data e a hora do relógio: abra o "
             "programa sem elas.");
     if (door.HasUsers() && (outlet != Outlet::Window || options.firstPaint))
         throw arguments::BadArguments(

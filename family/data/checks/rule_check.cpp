@@ -89,6 +89,7 @@ constexpr Rule Rules[] = {
     {"ausencia", "codigo", "trim(motivo) = ''", "falta o motivo."},
     {"papel", "codigo", "trim(nome) = ''", "falta o nome."},
     {"papel_direito", "codigo", "direito not like '_%._%'", "o direito não é um nome com um ponto."},
+    {"ajuste", "codigo", "trim(nome) = ''", "falta o nome."},
 };
 
 /// The rows come in pages.

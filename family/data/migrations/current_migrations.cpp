@@ -18,6 +18,7 @@ constexpr Migration Steps[] = {
     {9, SchemaOfVersion9, HoldRulesOfVersion9},
     {10, SchemaOfVersion10, ChainLinesOfVersion10},
     {11, SchemaOfVersion11},
+    {12, SchemaOfVersion12, HoldRulesOfVersion12},
     {13, SchemaOfVersion13},
 };
 

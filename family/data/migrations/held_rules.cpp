@@ -100,6 +100,10 @@ constexpr RowRule OfTries[] = {
     {"erros", "@erros < 0 or @ultimo_erro < 0", "os erros ou o momento do último não são possíveis"},
 };
 
+constexpr RowRule OfSettings[] = {
+    {"nome", "trim(@nome) = ''", "falta o nome"},
+};
+
 constexpr const char* ColumnsOfHours = "dia_da_semana, hora_inicial, hora_final";
 
 /// The rules of a table, held from a version on.
@@ -129,6 +133,7 @@ constexpr HeldTable Tables[] = {
     {9, {"papel_direito", "direito", OfRights}},
     {9, {"usuario", "nome, situacao, codigo_do_papel, senha, pin", OfUsers}},
     {9, {"tentativa_de_entrada", "erros, ultimo_erro", OfTries}},
+    {12, {"ajuste", "nome", OfSettings}},
 };
 
 bool HasBrokenRow(soci::session& session, const TableRules& table, const RowRule& rule)

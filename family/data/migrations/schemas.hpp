@@ -38,6 +38,10 @@ void ChainLinesOfVersion10(soci::session& session, const Dialect& dialect);
 /// What the lines of the audit are found by: their day, their user, their kind, their table, and the words
 /// among what they tell.
 std::vector<std::string> SchemaOfVersion11(const Dialect& dialect);
+/// What a shop is set to for all its desks, and that a demonstration is one.
+std::vector<std::string> SchemaOfVersion12(const Dialect& dialect);
+/// Holds its rows to their rules.
+void HoldRulesOfVersion12(soci::session& session, const Dialect& dialect);
 /// Keeps the audit small: no index has what nearly all lines have, and links are shorter from then on.
 std::vector<std::string> SchemaOfVersion13(const Dialect& dialect);
 

@@ -33,6 +33,7 @@ constexpr StoredTable Tables[] = {
     {"ausencia", "codigo", 8},
     {"tentativa_de_entrada", "identificador", 9, false},
     {"elo_da_auditoria", "ordem", 10, false},
+    {"ajuste", "codigo", 12},
 };
 
 constexpr Reference AllReferences[] = {

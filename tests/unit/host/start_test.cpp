@@ -1,4 +1,5 @@
 #include "family/data/stores/new_shop.hpp"
+#include "family/demo/fictional_shop.hpp"
 #include "family/users/passwords.hpp"
 #include "host/session/remembered_shops.hpp"
 #include "tests/unit/host/program_run.hpp"
@@ -166,8 +167,8 @@ TEST(Start, TakesNoNameNoDayAndNoTimeForAShopThatIsReal)
         EXPECT_EQ(result.output, "");
         EXPECT_EQ(
             result.errors,
-            "Kovaris: As opções --user, --date e --time só valem em lojas de demonstração. Nesta loja entra "
-            "quem está no posto, com a data e a hora do relógio: abra o programa sem elas.\n");
+            "Kovaris: As opções --user, --date e --time só valem em lojas de demonstração, que \"agenda-data "
+            "demo\" cria. Nesta loja entra quem está no posto, com a data e a hora do relógio: abra o programa sem elas.\n");
     }
 }
 
@@ -180,6 +181,19 @@ TEST(Start, TakesThemForEveryFictionalShop)
         {"--database", shop, "--user", "Ana", "--date", "25/03/2026", "--time", "08:30"}, home.Path());
     EXPECT_EQ(result.status, 0) << result.errors;
     ExpectText(result.output, "Agenda de 25/03/2026");
+}
+
+TEST(Start, TakesThemForNoShopThatOnlyHasTheCompanyOfAFictionalOne)
+{
+    const TemporaryFolder home;
+    const std::string shop = home / "loja.db";
+    family::NewShop content;
+    content.company = family::FictionalCompany();
+    content.user = content.employee = "Ana";
+    family::CreateNewShop(shop, content);
+    const ProgramResult result = RunKovaris({"--database", shop, "--user", "Ana"}, home.Path());
+    EXPECT_EQ(result.status, 2);
+    ExpectText(result.errors, "só valem em lojas de demonstração, que \"agenda-data demo\" cria.");
 }
 
 TEST(Start, DrawsNoShopThatHasUsers)

@@ -114,6 +114,7 @@ const Breach Breaches[] = {
       "ausencia 70: \"2026-13-01\" em data_final não é uma data ou hora.",
       "ausencia 70: \"25:00\" em hora_final não é uma data ou hora."}},
     {"update papel set nome = ' ' where codigo = 2", {"papel 2: falta o nome."}},
+    {"insert into ajuste (codigo, nome, valor) values (70, ' ', '5')", {"ajuste 70: falta o nome."}},
     {"update papel_direito set direito = 'tudo' where codigo = 1",
      {"papel_direito 1: o direito não é um nome com um ponto."}},
     {"update agendamento set data_inicial = '20/11/2026', data_final = '20/11/2026' where numero = 1",

@@ -171,7 +171,8 @@ void FillEveryTable(const std::string& shop)
           " '$argon2id$v=19$m=8,t=1,p=1$c2Fs$aGFzaA')",
           "delete from papel_direito where codigo_do_papel = 2",
           "insert into tentativa_de_entrada (identificador, erros, ultimo_erro)"
-          " values ('a1', 3, 1795185845)"})
+          " values ('a1', 3, 1795185845)",
+          "insert into ajuste (nome, valor) values ('bloqueio.minutos', '5')"})
         database->Session() << statement;
     database->Session() << "insert into gravacao (identificador, momento)"
                            " values ('a1', '2026-11-20 09:00:00')";

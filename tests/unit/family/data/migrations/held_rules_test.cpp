@@ -78,6 +78,7 @@ constexpr const char* Breaches[] = {
     "insert into usuario (nome, senha, pin) values ('Bia', '$argon2id$v=19$m=8,t=1,p=1$c2Fs$aGFzaA', '')",
     "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', -1, 0)",
     "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', 1, -1)",
+    "insert into ajuste (nome, valor) values (' ', 'sim')",
 };
 
 } // namespace
@@ -140,7 +141,8 @@ TEST_F(HeldRules, TakeWhatBreaksNone)
           "insert into usuario (nome) values ('')",
           "insert into usuario (nome, codigo_do_papel, situacao, senha, pin) values ('Bia', 3, 2, null,"
           " '$argon2id$v=19$m=8,t=1,p=1$c2Fs$aGFzaA')",
-          "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', 0, 0)"})
+          "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', 0, 0)",
+          "insert into ajuste (nome, valor) values ('outra.coisa', '')"})
         EXPECT_EQ(Try(statement), "") << statement;
 }
 

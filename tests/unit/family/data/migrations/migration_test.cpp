@@ -8,6 +8,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_migration.hpp"
 #include "family/data/stores/appointment_rows.hpp"
+#include "family/demo/fictional_shop.hpp"
 #include "tests/support/small_files.hpp"
 #include "tests/support/sqlite_file.hpp"
 
@@ -102,7 +103,8 @@ TEST_F(SchemaMigration, MakesEveryRegister)
                                     "ausencia",
                                     "papel",
                                     "papel_direito",
-                                    "tentativa_de_entrada"}) {
+                                    "tentativa_de_entrada",
+                                    "ajuste"}) {
         int found = 0;
         database->Session() << "select count(*) from sqlite_master where type = 'table' and name = :nome",
             soci::use(table), soci::into(found);
@@ -335,6 +337,38 @@ TEST_F(SchemaMigration, GivesAShopRolesAndNobodyOneOfThem)
     kova::test::SqliteFile file(path);
     EXPECT_EQ(file.Run("select nome || ' ' || situacao from usuario order by codigo"),
               (std::vector<std::string>{"Carla 1", "Carla 2"}));
+}
+
+TEST_F(SchemaMigration, MarksADemonstrationThatWasMadeBeforeAndNoOtherShop)
+{
+    int shops = 0;
+    const auto marksAfter = [&](const std::vector<std::string>& before) {
+        const std::string path = folder_ / ("antigo" + std::to_string(++shops) + ".db");
+        {
+            Database database(SqliteDialect(), "dbname=" + path, path);
+            Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(11));
+            Insert(database, FictionalCompany());
+            for (const std::string& statement : before)
+                database.Session() << statement;
+        }
+        const auto database = OpenDatabase(path);
+        EXPECT_EQ(IsFictional(*database),
+                  kova::test::SqliteFile(path).Run("select 1 from ajuste").size() == 1);
+        return kova::test::SqliteFile(path).Run("select nome || '=' || valor from ajuste");
+    };
+    EXPECT_EQ(marksAfter({}), std::vector<std::string>{"demonstracao=sim"});
+    for (const char* statement :
+         {"update empresa set razao_social = 'Céu Ltda.'", "update empresa set cnpj = '11222333000181'",
+          "delete from empresa", "insert into usuario (nome, codigo_do_papel) values ('Ana', 1)"})
+        EXPECT_EQ(marksAfter({statement}), std::vector<std::string>()) << statement;
+}
+
+TEST_F(SchemaMigration, HasNoTwoSettingsOfOneName)
+{
+    const auto database = OpenDatabase(path_);
+    database->Session() << "insert into ajuste (nome, valor) values ('bloqueio.minutos', '5')";
+    EXPECT_THROW(database->Session() << "insert into ajuste (nome, valor) values ('bloqueio.minutos', '9')",
+                 soci::soci_error);
 }
 
 TEST_F(SchemaMigration, HasNoTwoRolesNorUsersInThemOfOneName)
