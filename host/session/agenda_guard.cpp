@@ -2,13 +2,14 @@
 
 #include "agenda/contracts/failure.hpp"
 #include "agenda/contracts/text.hpp"
-#include "agenda/contracts/widgets/grid.hpp"
+#include "agenda/contracts/widgets.hpp"
 #include "agenda/shared/frmLista_columns.hpp"
 #include "agenda/shared/modConstantes.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/toolkit.hpp"
 
 #include <algorithm>
+#include <vector>
 
 namespace kova::host {
 
@@ -44,17 +45,62 @@ constexpr std::string_view UndoPreSales[] = {"kvcmdMarcarAgendamentoComoAgendado
                                              "kvcmdMarcarAgendamentoComoAtendido",
                                              "kvcmdMarcarAgendamentoComoCancelado"};
 
-/// Whether the row of the list that its buttons stand on has a generated pre-sale.
-bool RowHasPreSale(const toolkit::ToolkitModel& toolkit)
+/// Null where the form, or what is called so on it, is not there.
+template <class Kind>
+const Kind* Find(const toolkit::ToolkitModel& toolkit, std::string_view form, std::string_view control)
 {
-    const toolkit::FormModel* list = toolkit.FindForm("frmLista");
-    toolkit::WidgetCore* found = list != nullptr ? list->Find("msfgGrade") : nullptr;
-    const auto* grid = found != nullptr ? dynamic_cast<const MSFlexGrid*>(&found->Face()) : nullptr;
+    const toolkit::FormModel* there = toolkit.FindForm(form);
+    toolkit::WidgetCore* found = there != nullptr ? there->Find(control) : nullptr;
+    return found != nullptr ? dynamic_cast<const Kind*>(&found->Face()) : nullptr;
+}
+
+/// Of the row of the list that its buttons stand on, and a record form was opened for; 0 of none.
+Double StatusOfRow(const toolkit::ToolkitModel& toolkit)
+{
+    const auto* grid = Find<MSFlexGrid>(toolkit, "frmLista", "msfgGrade");
     if (grid == nullptr || grid->RowSel() < 1 || grid->RowSel() >= grid->Rows()
         || grid->Cols() <= agenda::colunas::Situacao)
-        return false;
-    return Val(grid->TextMatrix(grid->RowSel(), agenda::colunas::Situacao))
-        == agenda::situacao::AtendidoEGeradoPreVenda;
+        return 0;
+    return Val(grid->TextMatrix(grid->RowSel(), agenda::colunas::Situacao));
+}
+
+bool RowHasPreSale(const toolkit::ToolkitModel& toolkit)
+{
+    return StatusOfRow(toolkit) == agenda::situacao::AtendidoEGeradoPreVenda;
+}
+
+/// What is chosen in a record; the row's where nothing is.
+Double ChosenStatus(const toolkit::ToolkitModel& toolkit, std::string_view form)
+{
+    const auto* status = Find<KVComboBox>(toolkit, form, "kvcmbSituacao");
+    return status != nullptr && status->ListIndex() >= 0 ? status->ItemData(status->ListIndex())
+                                                         : StatusOfRow(toolkit);
+}
+
+/// What saving a record needs: by what is done, which its title tells, and by the status that is chosen.
+std::vector<Right> RightsToSave(const toolkit::ToolkitModel& toolkit, std::string_view form)
+{
+    const auto* title = Find<KVTheme>(toolkit, form, "KVTheme");
+    if (title != nullptr && title->Caption().starts_with("Adicionar"))
+        return {Right::Book};
+    std::vector<Right> rights = {Right::ChangeAppointments};
+    const Double chosen = ChosenStatus(toolkit, form);
+    if (chosen == StatusOfRow(toolkit))
+        return rights;
+    if (chosen == agenda::situacao::Cancelado)
+        rights.push_back(Right::CancelAppointments);
+    if (RowHasPreSale(toolkit))
+        rights.push_back(Right::UndoPreSales);
+    return rights;
+}
+
+bool IsRecord(std::string_view form) { return form == "frmFichaCompleta" || form == "frmFichaSimplificada"; }
+
+bool UndoesPreSale(const toolkit::GuardedControl& control)
+{
+    return control.form == "frmLista"
+        ? std::ranges::find(UndoPreSales, control.control) != std::end(UndoPreSales)
+        : control.form == "frmFichaCompleta" && control.control == "kvcmbSituacao";
 }
 
 } // namespace
@@ -87,10 +133,20 @@ Text AgendaGuard::Why(const toolkit::GuardedControl& control) const
         if (const std::string why = isMeant ? family::WhyOf(denied_, one.right) : std::string(); !why.empty())
             return why;
     }
+    if (IsRecord(control.form) && control.control == "kvcmdSalvarFecharConfirmar"
+        && control.caption == "Salvar")
+        return WhyNotSaved(control.form);
     const std::string undo = family::WhyOf(denied_, Right::UndoPreSales);
-    const bool mayUndo = !undo.empty() && control.form == "frmLista"
-        && std::ranges::find(UndoPreSales, control.control) != std::end(UndoPreSales);
-    return mayUndo && RowHasPreSale(toolkit_) ? undo : Text();
+    return !undo.empty() && UndoesPreSale(control) && RowHasPreSale(toolkit_) ? undo : Text();
+}
+
+Text AgendaGuard::WhyNotSaved(std::string_view form) const
+{
+    for (const Right right : RightsToSave(toolkit_, form)) {
+        if (std::string why = family::WhyOf(denied_, right); !why.empty())
+            return why;
+    }
+    return {};
 }
 
 } // namespace kova::host

@@ -4,6 +4,7 @@
 #include "toolkits/common/guard.hpp"
 
 #include <functional>
+#include <string_view>
 
 namespace kova::toolkit {
 class ToolkitModel;
@@ -27,9 +28,12 @@ public:
     /// Somebody else is at the desk, or has other rights.
     void Look();
     bool MaySeePrices() const { return !denied_.contains(family::Right::SeePrices); }
+    /// As of the last Look.
+    const family::DeniedRights& Denied() const { return denied_; }
 
 private:
     Text Why(const toolkit::GuardedControl& control) const;
+    Text WhyNotSaved(std::string_view form) const;
 
     toolkit::ToolkitModel& toolkit_;
     AskRights ask_;

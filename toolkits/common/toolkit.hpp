@@ -46,6 +46,12 @@ public:
     const Guard& GetGuard() const { return guard_; }
     /// What the guard would answer has changed: of somebody else, or of another row.
     void LookAtGuard();
+    /// The same where there is one: the user has chosen something that it may go by.
+    void AskGuardAgain()
+    {
+        if (guard_)
+            LookAtGuard();
+    }
 
     /// The innermost modal form; null where none is shown.
     FormModel* ModalForm() const;

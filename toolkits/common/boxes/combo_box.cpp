@@ -1,6 +1,7 @@
 #include "toolkits/common/boxes/combo_box.hpp"
 
 #include "toolkits/common/form.hpp"
+#include "toolkits/common/toolkit.hpp"
 
 #include <algorithm>
 #include <limits>
@@ -96,6 +97,7 @@ void ComboBoxModel::Select(int row)
     row_ = row;
     text_ = row < 0 ? kova::Text() : rows_[static_cast<std::size_t>(row)].text;
     Tell(Aspect::Content);
+    GetForm().GetToolkit().AskGuardAgain();
     GetForm().Raise(click_);
 }
 

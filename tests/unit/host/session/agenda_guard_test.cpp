@@ -23,7 +23,12 @@ using Names = std::set<std::string>;
 /// The agenda's forms as they are designed, without what happens in them.
 class GuardOfTheAgenda : public testing::Test {
 protected:
-    GuardOfTheAgenda() { guard_.Look(); }
+    GuardOfTheAgenda()
+    {
+        for (const char* record : {"frmFichaCompleta", "frmFichaSimplificada"})
+            Say(record, "kvcmdSalvarFecharConfirmar", "Fechar");
+        guard_.Look();
+    }
 
     void Deny(std::initializer_list<Right> rights)
     {
@@ -48,9 +53,23 @@ protected:
         }
         return names;
     }
-    Text WhyOf(const char* control) const
+    Text WhyOf(const char* control, const char* form = "frmLista") const
     {
-        return dynamic_cast<const toolkit::FormModel&>(*forms_.at("frmLista")).Find(control)->Denial();
+        return dynamic_cast<const toolkit::FormModel&>(*forms_.at(form)).Find(control)->Denial();
+    }
+    Text WhyNotSaved(const char* form) const { return WhyOf("kvcmdSalvarFecharConfirmar", form); }
+    void Entitle(const char* form, const char* title)
+    {
+        Bind<KVTheme>(forms_.at(form), "KVTheme").Caption(title);
+    }
+    /// That status in the record.
+    void Choose(Long status)
+    {
+        auto& box = Bind<KVComboBox>(forms_.at("frmFichaCompleta"), "kvcmbSituacao");
+        box.Clear();
+        box.AddItem("outra");
+        box.ItemData(0, status);
+        box.ListIndex(0);
     }
     /// The list has two rows, the second of which has that status; its buttons stand on it.
     void StandOnRowOf(const char* status)
@@ -116,8 +135,52 @@ TEST_F(GuardOfTheAgenda, ShutsTheButtonsOfARecordByWhatTheySay)
         EXPECT_EQ(Denied(), ofTheList) << "who looks on leaves as he came";
         Say(form, "kvcmdSalvarFecharConfirmar", "Confirmar");
         EXPECT_TRUE(Denied().contains(name("kvcmdSalvarFecharConfirmar")));
-        Say(form, "kvcmdSalvarFecharConfirmar", "Salvar");
+        Say(form, "kvcmdSalvarFecharConfirmar", "Fechar");
     }
+}
+
+TEST_F(GuardOfTheAgenda, ShutsTheSavingOfARecordByWhatIsDone)
+{
+    for (const char* form : {"frmFichaCompleta", "frmFichaSimplificada"}) {
+        Say(form, "kvcmdSalvarFecharConfirmar", "Salvar");
+        Entitle(form, "Adicionar agendamento completo");
+        Deny({Right::ChangeAppointments, Right::CancelAppointments, Right::UndoPreSales});
+        EXPECT_EQ(WhyNotSaved(form), "");
+        Deny({Right::Book});
+        EXPECT_EQ(WhyNotSaved(form), "Não pode: agendamento.incluir");
+        Entitle(form, "Alterar agendamento completo");
+        EXPECT_EQ(WhyNotSaved(form), "");
+        Deny({Right::ChangeAppointments});
+        EXPECT_EQ(WhyNotSaved(form), "Não pode: agendamento.alterar");
+        Say(form, "kvcmdSalvarFecharConfirmar", "Fechar");
+        EXPECT_EQ(WhyNotSaved(form), "");
+    }
+}
+
+TEST_F(GuardOfTheAgenda, ShutsTheSavingOfAStatusThatOnlyOthersMaySet)
+{
+    Say("frmFichaCompleta", "kvcmdSalvarFecharConfirmar", "Salvar");
+    Entitle("frmFichaCompleta", "Alterar agendamento completo");
+    Deny({Right::CancelAppointments});
+    StandOnRowOf("1");
+    EXPECT_EQ(WhyNotSaved("frmFichaCompleta"), "") << "none is chosen yet";
+    Choose(3);
+    EXPECT_EQ(WhyNotSaved("frmFichaCompleta"), "Não pode: agendamento.cancelar");
+    Choose(2);
+    EXPECT_EQ(WhyNotSaved("frmFichaCompleta"), "");
+    StandOnRowOf("3");
+    Choose(3);
+    EXPECT_EQ(WhyNotSaved("frmFichaCompleta"), "") << "it is cancelled already";
+    Deny({Right::UndoPreSales});
+    StandOnRowOf("4");
+    EXPECT_EQ(WhyOf("kvcmbSituacao", "frmFichaCompleta"), "Não pode: agendamento.desfazer_pre_venda");
+    EXPECT_EQ(WhyOf("kvcmbSituacao"), "") << "the list's is a filter";
+    Choose(4);
+    EXPECT_EQ(WhyNotSaved("frmFichaCompleta"), "");
+    Choose(1);
+    EXPECT_EQ(WhyNotSaved("frmFichaCompleta"), "Não pode: agendamento.desfazer_pre_venda");
+    StandOnRowOf("2");
+    EXPECT_EQ(WhyOf("kvcmbSituacao", "frmFichaCompleta"), "");
 }
 
 TEST_F(GuardOfTheAgenda, KeepsAGeneratedPreSaleOnItsRowAlone)
@@ -125,10 +188,10 @@ TEST_F(GuardOfTheAgenda, KeepsAGeneratedPreSaleOnItsRowAlone)
     Deny({Right::UndoPreSales});
     EXPECT_EQ(Denied(), Names()) << "there is no row";
     StandOnRowOf("4");
-    EXPECT_EQ(
-        Denied(),
-        (Names{"frmLista.kvcmdMarcarAgendamentoComoAgendado", "frmLista.kvcmdMarcarAgendamentoComoAtendido",
-               "frmLista.kvcmdMarcarAgendamentoComoCancelado"}));
+    EXPECT_EQ(Denied(),
+              (Names{"frmFichaCompleta.kvcmbSituacao", "frmLista.kvcmdMarcarAgendamentoComoAgendado",
+                     "frmLista.kvcmdMarcarAgendamentoComoAtendido",
+                     "frmLista.kvcmdMarcarAgendamentoComoCancelado"}));
     EXPECT_EQ(WhyOf("kvcmdMarcarAgendamentoComoCancelado"), "Não pode: agendamento.desfazer_pre_venda");
     StandOnRowOf("2");
     EXPECT_EQ(Denied(), Names());
