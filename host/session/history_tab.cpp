@@ -5,13 +5,14 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/registers/access/access_registers.hpp"
 #include "family/registers/registers.hpp"
-#include "history/history_page.hpp"
 #include "host/session/tab_explanation.hpp"
 #include "host/session/user_change.hpp"
 #include "host/shell/main_window.hpp"
+#include "screens/offer.hpp"
 
 #include <QAction>
 #include <QMenu>
+#include <QShortcut>
 
 #include <span>
 #include <vector>
@@ -47,11 +48,18 @@ void HistoryTab::AddTo(MainWindow& window)
 {
     window_ = &window;
     tab_ = window.AddTab(QStringLiteral("Histórico"), [this](QWidget& parent) { return MakePage(parent); });
-    QAction* action =
-        window.Menu().addAction(QStringLiteral("&Histórico"), &window, [this] { window_->ShowTab(tab_); });
-    action->setShortcut(Qt::CTRL | Qt::Key_H);
-    // The menu is not always there to hear the key.
-    window.addAction(action);
+    const auto show = [this] { window_->ShowTab(tab_); };
+    entry_ = window.Menu().addAction(QStringLiteral("&Histórico\tCtrl+H"), &window, show);
+    // The menu is not always there to hear the key, and who may not turn to the tab is told why.
+    QObject::connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_H), &window), &QShortcut::activated,
+                     &window, show);
+}
+
+void HistoryTab::LookAtRights(const family::DeniedRights& denied)
+{
+    const QString why = QString::fromStdString(family::WhyOf(denied, family::Right::SeeHistory));
+    window_->OfferTab(tab_, why);
+    screens::Offer(*entry_, true, why);
 }
 
 registers::RecordActions HistoryTab::Actions()
@@ -62,19 +70,21 @@ registers::RecordActions HistoryTab::Actions()
     all.push_back(&family::registers::RoleRegister());
     registers::RecordActions actions;
     for (const Register* of : all)
-        actions.push_back({of->Name().name, QStringLiteral("&Histórico"),
+        actions.push_back({of->Name().name,
+                           QStringLiteral("&Histórico"),
                            [this, of](const registers::ActionTarget& target) {
                                ShowRow(of->Table(), target.key,
                                        Called(*of, *target.desk.database, target.key));
                                return registers::ActionResult{target.key};
-                           }});
+                           },
+                           {family::Right::SeeHistory}});
     return actions;
 }
 
 void HistoryTab::ShowRow(const std::string& table, family::Key key, const QString& called)
 {
     window_->ShowTab(tab_);
-    if (page_ != nullptr)
+    if (page_)
         page_->ShowRow(table, key, called);
 }
 
@@ -84,7 +94,7 @@ QWidget* HistoryTab::MakePage(QWidget& parent)
         page_ = new history::HistoryPage(
             {family::OpenDatabase(source_), [this] { return family::CurrentAuthor(user_, clock_); }},
             &parent);
-        change_.Follow(*page_, [this] { page_->Refresh(); });
+        change_.Follow(*page_, [page = page_.data()] { page->Refresh(); });
         return page_;
     } catch (const Failure& failure) {
         return ExplanationInTab(QStringLiteral("O histórico não pôde ser aberto."), failure.Description(),

@@ -2,15 +2,16 @@
 
 #include "agenda/contracts/platform.hpp"
 #include "family/data/engine/key.hpp"
+#include "family/users/user_rights.hpp"
+#include "history/history_page.hpp"
 #include "registers/record_actions.hpp"
+
+#include <QPointer>
 
 #include <string>
 
+class QAction;
 class QWidget;
-
-namespace kova::history {
-class HistoryPage;
-}
 
 namespace kova::host {
 
@@ -26,6 +27,9 @@ public:
     HistoryTab(std::string source, ObjectRef user, const Clock& clock, UserChange& change);
 
     void AddTo(MainWindow& window);
+    /// Without the right to see the history the tab is not there, and its entry says why. To be told before
+    /// the window is shown, and whenever it changes.
+    void LookAtRights(const family::DeniedRights& denied);
     /// "Histórico" of a row, for each register.
     registers::RecordActions Actions();
 
@@ -39,8 +43,9 @@ private:
     UserChange& change_;
     MainWindow* window_ = nullptr;
     int tab_ = 0;
-    /// Null before the page is made.
-    history::HistoryPage* page_ = nullptr;
+    QAction* entry_ = nullptr;
+    /// Null before the page is made, and when it has gone.
+    QPointer<history::HistoryPage> page_;
 };
 
 } // namespace kova::host

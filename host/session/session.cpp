@@ -172,8 +172,8 @@ SessionEnd Session::Run()
     AddDoorToMenu(*door_, *window_, !Pretends(options_));
     door_->Watch(*window_);
     FillMenu();
-    GuardAgenda();
     history_->AddTo(*window_);
+    GuardAgenda();
     registers_->Offer(history_->Actions());
     window_->ShowNotice(Update, QString::fromStdString(shop.update));
     OpenList();
@@ -253,6 +253,7 @@ void Session::GuardAgenda()
     const auto look = [this] {
         guard_->Look();
         components_.CreateObject("KOVA_N_Dados.clsBanco")->Set("OcultarPrecos", !guard_->MaySeePrices());
+        history_->LookAtRights(guard_->Denied());
     };
     look();
     userChange_.Follow(*window_, look);

@@ -4,6 +4,7 @@
 #include "host/shell/notice_bar.hpp"
 #include "host/shell/tab_row.hpp"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -12,6 +13,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -29,6 +31,8 @@ constexpr QSize Frame(16, 48);
 constexpr qint64 LongestWaitMilliseconds = 400;
 constexpr int EventSliceMilliseconds = 10;
 constexpr int MostNumberedTabs = 9;
+/// How often a page that has gone is looked at, while it has a dialog open.
+constexpr int LookForDialogsMilliseconds = 100;
 
 const QString DemonstrationText = QStringLiteral("Demonstração: nada do que é marcado aqui vale");
 
@@ -50,25 +54,31 @@ MainWindow::MainWindow(const Heading& heading)
       row_(new TabRow(this)),
       pages_(new QStackedWidget(this)),
       container_(new QWidget(this)),
-      notice_(new NoticeBar(this))
+      notice_(new NoticeBar(this)),
+      denial_(new NoticeBar(this)),
+      deleting_(new QTimer(this))
 {
     setWindowIcon(ApplicationIcon());
     setBackgroundRole(QPalette::Base);
 
     TellUser(heading.user);
     row_->TellShop(heading.isDemonstration ? DemonstrationText : QString());
+    denial_->setObjectName(QStringLiteral("recusa"));
     container_->setObjectName(QStringLiteral("container"));
     row_->GetTabs().addTab(QStringLiteral("Agenda"));
     pages_->addWidget(container_);
-    unmade_.emplace_back();
+    all_.push_back({{}, true});
     connect(&row_->GetTabs(), &QTabBar::currentChanged, this, [this](int tab) { TurnTo(tab); });
     AddShortcuts();
+    deleting_->setInterval(LookForDialogsMilliseconds);
+    connect(deleting_, &QTimer::timeout, this, [this] { DeleteDropped(); });
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(row_);
     layout->addWidget(pages_, 1);
+    layout->addWidget(denial_);
     layout->addWidget(notice_);
 }
 
@@ -79,7 +89,7 @@ void MainWindow::AddShortcuts()
         connect(new QShortcut(QKeySequence(Qt::ALT | key), this), &QShortcut::activated, this,
                 [this, number] {
                     if (number <= row_->GetTabs().count())
-                        row_->GetTabs().setCurrentIndex(number - 1);
+                        ShowTab(number - 1);
                 });
     }
     connect(new QShortcut(QKeySequence(Qt::Key_F10), this), &QShortcut::activated, this,
@@ -88,27 +98,69 @@ void MainWindow::AddShortcuts()
 
 int MainWindow::AddTab(const QString& name, MakePage make)
 {
-    unmade_.push_back(std::move(make));
+    all_.push_back({std::move(make)});
     const int tab = row_->GetTabs().addTab(name);
     row_->GetTabs().setTabToolTip(tab, name + QStringLiteral(" (Alt+%1)").arg(tab + 1));
     pages_->addWidget(new QWidget(pages_));
     return tab;
 }
 
-void MainWindow::ShowTab(int tab) { row_->GetTabs().setCurrentIndex(tab); }
+void MainWindow::ShowTab(int tab)
+{
+    const QString& why = all_[static_cast<std::size_t>(tab)].why;
+    denial_->Show(why);
+    if (why.isEmpty())
+        row_->GetTabs().setCurrentIndex(tab);
+}
+
+void MainWindow::OfferTab(int tab, const QString& why)
+{
+    Tab& one = all_[static_cast<std::size_t>(tab)];
+    one.why = why;
+    denial_->Show({});
+    if (!why.isEmpty() && row_->GetTabs().currentIndex() == tab)
+        row_->GetTabs().setCurrentIndex(0);
+    row_->GetTabs().setTabVisible(tab, why.isEmpty());
+    if (!why.isEmpty() && one.isMade)
+        Drop(tab);
+}
+
+void MainWindow::Drop(int tab)
+{
+    QWidget* const page = pages_->widget(tab);
+    pages_->insertWidget(tab, new QWidget(pages_));
+    pages_->removeWidget(page);
+    page->hide();
+    all_[static_cast<std::size_t>(tab)].isMade = false;
+    dropped_.push_back(page);
+    deleting_->start();
+}
+
+// What a page has asked is on its stack until it is answered.
+void MainWindow::DeleteDropped()
+{
+    if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
+        return;
+    deleting_->stop();
+    for (QWidget* page : std::exchange(dropped_, {}))
+        delete page;
+}
 
 void MainWindow::TurnTo(int tab)
 {
-    const MakePage make = std::exchange(unmade_[static_cast<std::size_t>(tab)], {});
-    if (make) {
+    Tab& one = all_[static_cast<std::size_t>(tab)];
+    const bool isNew = !std::exchange(one.isMade, true);
+    if (isNew) {
         QWidget* const placeholder = pages_->widget(tab);
-        pages_->insertWidget(tab, make(*pages_));
+        pages_->insertWidget(tab, one.make(*pages_));
         pages_->removeWidget(placeholder);
         delete placeholder;
     }
+    denial_->Show({});
     pages_->setCurrentIndex(tab);
     QWidget* const page = pages_->currentWidget();
-    (make || page->focusWidget() == nullptr ? page : page->focusWidget())->setFocus();
+    (isNew || page->focusWidget() == nullptr ? page : page->focusWidget())->setFocus();
+    onTurned();
 }
 
 void MainWindow::TellUser(const QString& name)

@@ -9,6 +9,7 @@
 
 class QMenu;
 class QStackedWidget;
+class QTimer;
 
 namespace kova::host {
 
@@ -16,7 +17,8 @@ class NoticeBar;
 class TabRow;
 
 /// The application's window: tabs, the first of which is the agenda, a container that the day's list fills,
-/// with a hint in its place where no list could be opened. Alt with a number turns to the tab of that number.
+/// with a hint in its place where no list could be opened. Alt with a number turns to the tab of that number,
+/// which it keeps while others are not there.
 /// Closing it ends the application's event loops, whatever else is on the screen.
 class MainWindow : public QWidget {
 public:
@@ -35,14 +37,19 @@ public:
     using MakePage = std::function<QWidget*(QWidget& parent)>;
     /// Answers its place in the row.
     int AddTab(const QString& name, MakePage make);
-    /// As a press of that tab does.
+    /// As a press of that tab does. One that is not there says why instead.
     void ShowTab(int tab);
+    /// Takes a tab away, with its page, where there is a reason, as a sentence, and brings it back without
+    /// one. It keeps its place and its number; its page is made anew.
+    void OfferTab(int tab, const QString& why);
     /// The application's menu, at the right end of the tabs.
     QMenu& Menu();
     /// Somebody else works with it from now on: in the title, and at the right end of the tabs.
     void TellUser(const QString& name);
     /// The user's name is a button from then on.
     void OfferChange(std::function<void()> change);
+    /// Called when another tab was turned to.
+    std::function<void()> onTurned = [] {};
     /// Asked before the window closes; false keeps it open.
     std::function<bool()> mayClose = [] { return true; };
 
@@ -61,6 +68,9 @@ protected:
 private:
     void AddShortcuts();
     void TurnTo(int tab);
+    /// The page of a tab that is not there any more goes as soon as it has no dialog open.
+    void Drop(int tab);
+    void DeleteDropped();
     void WaitForPlace();
     /// However small the screen is or however large it draws: no edge of the window has to lie beyond it.
     void FitToScreen();
@@ -69,9 +79,16 @@ private:
     TabRow* row_;
     QStackedWidget* pages_;
     QWidget* container_;
-    NoticeBar* notice_;
-    /// By tab; those that were turned to are made and leave nothing here.
-    std::vector<MakePage> unmade_;
+    NoticeBar *notice_, *denial_;
+    /// By tab: how its page is made, whether it is, and why the tab is not there, where it is not.
+    struct Tab {
+        MakePage make;
+        bool isMade = false;
+        QString why{};
+    };
+    std::vector<Tab> all_;
+    std::vector<QWidget*> dropped_;
+    QTimer* deleting_;
 };
 
 } // namespace kova::host

@@ -6,11 +6,13 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QDialog>
 #include <QIcon>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QScreen>
 #include <QTest>
 #include <QToolButton>
@@ -118,6 +120,62 @@ TEST_F(TheTabs, KeepWhatIsTypedAndThePlaceOfTheKeyboard)
     QTest::keyClick(&BoxOfAgenda(), Qt::Key_2, Qt::AltModifier);
     EXPECT_EQ(QApplication::focusWidget(), box_);
     EXPECT_EQ(box_->text(), "Ana");
+}
+
+TEST_F(TheTabs, AreNotThereForWhoMayNotTurnToThemAndComeBackWithAnotherPage)
+{
+    const QString why =
+        QStringLiteral("Recepção não pode ver o histórico. Peça a quem administra os usuários.");
+    const int last =
+        window_.AddTab(QStringLiteral("Histórico"), [](QWidget& parent) { return new QLabel(&parent); });
+    const auto told = [&] {
+        const auto* bar = window_.findChild<NoticeBar*>(QStringLiteral("recusa"));
+        return bar->isVisible() ? bar->findChild<QLabel*>()->text() : QString();
+    };
+    QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
+    const QPointer<QWidget> page = box_;
+    window_.OfferTab(1, why);
+    EXPECT_FALSE(Row().isTabVisible(1));
+    EXPECT_EQ(Row().currentIndex(), 0);
+    EXPECT_TRUE(told().isEmpty()) << "nobody has asked for it yet";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return page.isNull(); }));
+
+    QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(Row().currentIndex(), 0);
+    EXPECT_EQ(told(), why);
+    QTest::keyClick(&window_, Qt::Key_3, Qt::AltModifier);
+    EXPECT_EQ(Row().currentIndex(), last) << "each keeps its number";
+    EXPECT_TRUE(told().isEmpty());
+
+    window_.OfferTab(1, {});
+    EXPECT_TRUE(Row().isTabVisible(1));
+    QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(Row().currentIndex(), 1);
+    EXPECT_EQ(made_, 2);
+    EXPECT_TRUE(box_->isVisible());
+}
+
+TEST_F(TheTabs, KeepAPageThatHasGoneUntilItsDialogIsAnswered)
+{
+    QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
+    const QPointer<QWidget> page = box_;
+    auto dialog = std::make_unique<QDialog>(box_);
+    dialog->open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    window_.OfferTab(1, QStringLiteral("Não."));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(page);
+    dialog.reset();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return page.isNull(); }));
+}
+
+TEST_F(TheTabs, TellWhenAnotherIsTurnedTo)
+{
+    int turns = 0;
+    window_.onTurned = [&] { ++turns; };
+    QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
+    QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(turns, 1);
 }
 
 TEST_F(TheTabs, DoNotTakeTheKeyboardByAPress)
