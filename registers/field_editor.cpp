@@ -4,6 +4,7 @@
 #include "family/data/engine/fold_text.hpp"
 #include "family/registers/registers.hpp"
 #include "screens/field_frame.hpp"
+#include "toolkits/qt/look/theme.hpp"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -300,7 +301,13 @@ public:
         lines.removeAll(QString());
         return lines.join(QStringLiteral("; ")).toStdString();
     }
-    void SetReadOnly(bool isReadOnly) override { box_->setReadOnly(isReadOnly); }
+    void SetReadOnly(bool isReadOnly) override
+    {
+        box_->setReadOnly(isReadOnly);
+        QPalette colours = box_->palette();
+        colours.setColor(QPalette::Base, isReadOnly ? qt::look::LockedPaper : qt::look::Paper);
+        box_->setPalette(colours);
+    }
 
 private:
     QPlainTextEdit* box_;

@@ -146,7 +146,8 @@ void FlatStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         return PaintButton(*painter, *option, false);
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (element == PE_PanelLineEdit && frame && frame->lineWidth > 0)
-        return PaintField(*painter, option->rect, StateOf(*option), look::Paper);
+        return PaintField(*painter, option->rect, StateOf(*option),
+                          (option->state & State_ReadOnly) != 0 ? look::LockedPaper : look::Paper);
     if (element == PE_Frame && IsTypedInto(widget))
         return PaintField(*painter, option->rect, StateOf(*option), look::Paper);
     if (element == PE_IndicatorCheckBox)
