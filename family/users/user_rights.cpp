@@ -100,6 +100,8 @@ std::string Objection(const UsersInRoles& users, const Author& author, Right rig
 
 bool HasUsers(Database& database) { return !FindUsersInRoles(database)->empty(); }
 
+bool IsUser(Database& database, Key user) { return FindUsersInRoles(database)->contains(user); }
+
 Rights RightsOf(Database& database, Key user)
 {
     const auto users = FindUsersInRoles(database);

@@ -26,6 +26,9 @@ private:
 /// everything, as in a shop that was made before there were users.
 bool HasUsers(Database& database);
 
+/// Whether the user of that code is active and has a role.
+bool IsUser(Database& database, Key user);
+
 /// What the user of that code may do: all of it in a shop without users, nothing for the code of nobody who
 /// is active and has a role.
 Rights RightsOf(Database& database, Key user);
@@ -48,8 +51,8 @@ inline std::string WhyOf(const DeniedRights& denied, Right right)
 /// Fails with RightDenied where the author may not do it.
 void RequireRight(Database& database, const Author& author, Right right);
 
-/// All five go by what stood there when the writing transaction that is open began, or by what stands there
-/// now where none is; it stays in memory with the connection until a change of it is counted. A transaction
-/// that changes who may do what asks before it does. They fail as Database::With.
+/// All of them go by what stood there when the writing transaction that is open began, or by what stands
+/// there now where none is; it stays in memory with the connection until a change of it is counted. A
+/// transaction that changes who may do what asks before it does. They fail as Database::With.
 
 } // namespace kova::family

@@ -2,7 +2,9 @@
 
 #include "family/business/current_author.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/users/idle_lock.hpp"
 #include "family/users/kept_sign_in.hpp"
+#include "family/users/standing.hpp"
 #include "family/users/user_rights.hpp"
 #include "family/users/who_enters.hpp"
 #include "host/session/session_user.hpp"
@@ -11,10 +13,13 @@
 #include "host/sign_in/cover.hpp"
 #include "host/sign_in/idle_watch.hpp"
 #include "host/sign_in/sign_in_trial.hpp"
+#include "host/sign_in/standing_watch.hpp"
 #include "screens/run_alone.hpp"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+
+#include <utility>
 
 namespace kova::host {
 
@@ -31,16 +36,29 @@ std::vector<std::string> NamesOf(const std::vector<family::UserWhoEnters>& users
     return names;
 }
 
+/// What a key does, whatever window has the keyboard; null where it does nothing.
+auto ActOf(const QKeyEvent& key, bool hasUsers) -> void (Door::*)()
+{
+    if (key.key() == Qt::Key_U && key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier))
+        return &Door::Change;
+    if (key.key() == Qt::Key_L && key.modifiers() == Qt::ControlModifier && hasUsers)
+        return &Door::Lock;
+    return nullptr;
+}
+
 } // namespace
 
 Door::Door(Surroundings surroundings)
     : surroundings_(std::move(surroundings)),
       atStart_(family::OpenDatabase(surroundings_.source)),
       hasUsers_(family::HasUsers(*atStart_)),
+      idleMinutes_(family::IdleMinutes(*atStart_)),
       trial_(new SignInTrial(surroundings_.source, surroundings_.clock, this)),
-      idle_(new IdleWatch(this))
+      idle_(new IdleWatch(this)),
+      standing_(new StandingWatch(surroundings_.source, this))
 {
     idle_->onIdle = [this] { Lock(); };
+    standing_->onChanged = [this](const family::Standing& now, const auto& before) { Hear(now, !before); };
 }
 
 Door::~Door() = default;
@@ -144,12 +162,14 @@ SignInForm::Look Door::Look(SignInTry::Kind kind)
 
 void Door::LetIn(const SignInAnswer& answer)
 {
+    hasSignedIn_ = true;
     surroundings_.user->Become(static_cast<Long>(answer.code), answer.name);
     surroundings_.kept.SetLastName(surroundings_.source, answer.name);
     isAdministrator_ = answer.rights.contains(family::Right::AdministerUsers);
     if (window_ != nullptr)
         window_->TellUser(QString::fromStdString(answer.name));
     surroundings_.change.Tell();
+    FollowUser();
 }
 
 void Door::Watch(MainWindow& window)
@@ -157,9 +177,37 @@ void Door::Watch(MainWindow& window)
     window_ = &window;
     atStart_.reset();
     window.TellUser(QString::fromStdString(surroundings_.user->Name()));
+    window.onTurned = [this] { standing_->Look(); };
     QCoreApplication::instance()->installEventFilter(this);
     surroundings_.change.Follow(*this, [this] { FollowIdleness(); });
     FollowIdleness();
+    FollowUser();
+}
+
+void Door::FollowUser()
+{
+    if (window_ != nullptr)
+        standing_->Follow(surroundings_.user->Code());
+}
+
+void Door::Hear(const family::Standing& now, bool isFirst)
+{
+    const bool hadUsers = std::exchange(hasUsers_, hasUsers_ || now.hasUsers);
+    isAdministrator_ = hasUsers_ && !now.denied.contains(family::Right::AdministerUsers);
+    idleMinutes_ = now.idleMinutes;
+    FollowIdleness();
+    if (!isFirst || hadUsers != hasUsers_)
+        surroundings_.change.Tell();
+    if (hasUsers_ && !hasSignedIn_)
+        LockFor(
+            QStringLiteral("Esta loja passou a ter usuários: entre com o seu. O que está na tela continua "
+                           "como está."),
+            {});
+    else if (hasUsers_ && !now.mayEnter)
+        LockFor(QString::fromStdString(surroundings_.user->Name())
+                    + QStringLiteral(" não entra mais nesta loja. Entre com outro usuário, ou peça a quem "
+                                     "administra os usuários. O que está na tela continua como está."),
+                {});
 }
 
 SignInDialog& Door::Ask(const SignInDialog::Question& question)
@@ -190,18 +238,23 @@ void Door::Change()
 
 void Door::Lock()
 {
+    LockFor(QStringLiteral("A tela está bloqueada. O que estava nela continua como estava, também para outro "
+                           "usuário que entre agora."),
+            surroundings_.user->Name());
+}
+
+void Door::LockFor(const QString& why, const std::string& name)
+{
     if (!hasUsers_ || window_ == nullptr || cover_)
         return;
     delete dialog_;
-    SignInDialog& dialog =
-        Ask({.title = QStringLiteral("Bloqueado - Kovaris"),
-             .shop = QString::fromStdString(surroundings_.shop),
-             .why = QStringLiteral("A tela está bloqueada. O que estava nela continua como estava, também "
-                                   "para outro usuário que entre agora."),
-             .names = Names(),
-             .name = surroundings_.user->Name(),
-             .takesPin = true,
-             .mayLeave = false});
+    SignInDialog& dialog = Ask({.title = QStringLiteral("Bloqueado - Kovaris"),
+                                .shop = QString::fromStdString(surroundings_.shop),
+                                .why = why,
+                                .names = Names(),
+                                .name = name,
+                                .takesPin = true,
+                                .mayLeave = false});
     cover_ = std::make_unique<Cover>(dialog);
     dialog.show();
 }
@@ -212,10 +265,14 @@ void Door::BeginWithUsers(family::Key code, const std::string& name)
     LetIn({.code = code, .name = name, .rights = {family::Right::AdministerUsers}});
 }
 
-void Door::SetIdleMinutes(int minutes)
+std::string Door::SetIdleMinutes(int minutes)
 {
-    surroundings_.kept.SetIdleMinutes(surroundings_.source, minutes);
+    const registers::Desk desk = OpenDesk();
+    std::string why = family::SetIdleMinutes(*desk.database, minutes, desk.author());
+    if (why.empty())
+        idleMinutes_ = minutes;
     FollowIdleness();
+    return why;
 }
 
 bool Door::IsNeverAsked() const
@@ -235,16 +292,20 @@ void Door::FollowIdleness()
     idle_->SetPatience(std::chrono::minutes(locks ? IdleMinutes() : 0));
 }
 
-// A shortcut of the window would be none where a form is open over it.
+// A shortcut of the window would be none where a form is open over it. One that an area has of its own, such
+// as Ctrl+L of a list that is filtered, is not seen here: the area's comes first.
 bool Door::eventFilter(QObject* object, QEvent* event)
 {
+    // Whoever turns to the program, and whatever window has closed over another: something may have changed.
+    if (event->type() == QEvent::WindowActivate && object->isWidgetType())
+        standing_->Look();
     if (event->type() != QEvent::KeyPress)
         return QObject::eventFilter(object, event);
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() != Qt::Key_U || key->modifiers() != (Qt::ControlModifier | Qt::ShiftModifier))
+    const auto act = ActOf(*static_cast<QKeyEvent*>(event), hasUsers_);
+    if (act == nullptr)
         return QObject::eventFilter(object, event);
     QMetaObject::invokeMethod(
-        this, [this] { Change(); }, Qt::QueuedConnection);
+        this, [this, act] { (this->*act)(); }, Qt::QueuedConnection);
     return true;
 }
 

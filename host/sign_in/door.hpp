@@ -12,7 +12,8 @@
 
 namespace kova::family {
 class Database;
-}
+struct Standing;
+} // namespace kova::family
 
 namespace kova::host {
 
@@ -21,6 +22,7 @@ class IdleWatch;
 class MainWindow;
 class SessionUser;
 class SignInTrial;
+class StandingWatch;
 class UserChange;
 
 /// Who gets at the shop's desk: asks at the start, lets another user take the place, and locks the window.
@@ -46,7 +48,7 @@ public:
     bool HasUsers() const { return hasUsers_; }
     /// A shop gets its first user at any desk, or in its register. What cannot be read now stays as it was.
     void LookAgain();
-    /// Whether the user who is at the desk has administered the users when he came.
+    /// Whether the user who is at the desk administers the users, as far as this desk knows.
     bool IsAdministrator() const { return isAdministrator_; }
     /// A connection of its own to the shop, and whoever is at the desk. Fails with a DatabaseFailure.
     registers::Desk OpenDesk() const;
@@ -54,8 +56,10 @@ public:
     /// Asks who it is, where the shop has users and this computer does not keep the answer. False where the
     /// question is left. Fails with a DatabaseFailure.
     bool Enter();
-    /// From then on Ctrl+Shift+U lets another take the place, over every window of the application, and the
-    /// window is locked when nobody is at it. The window must outlive the door.
+    /// From then on Ctrl+Shift+U lets another take the place and Ctrl+L locks the window, over every window
+    /// of the application; it is locked, too, when nobody is at it, and when whoever is there is no user of
+    /// the shop any more. What other desks change of his rights is told to the areas. The window must outlive
+    /// the door.
     void Watch(MainWindow& window);
 
     /// Another one takes the place; nothing on the screen is lost. Nothing happens where somebody is asked
@@ -66,8 +70,10 @@ public:
     /// The shop has its first user, who administers it and is at the desk from now on.
     void BeginWithUsers(family::Key code, const std::string& name);
 
-    int IdleMinutes() const { return surroundings_.kept.IdleMinutes(surroundings_.source); }
-    void SetIdleMinutes(int minutes);
+    /// After which all desks of the shop are locked, as far as this one knows; 0 is never.
+    int IdleMinutes() const { return idleMinutes_; }
+    /// As family::SetIdleMinutes, by whoever is at the desk.
+    std::string SetIdleMinutes(int minutes);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -86,13 +92,21 @@ private:
     /// data cannot be read now.
     bool IsNeverAsked() const;
     void FollowIdleness();
+    void FollowUser();
+    void Hear(const family::Standing& now, bool isFirst);
+    /// Covers everything, and asks who it is.
+    void LockFor(const QString& why, const std::string& name);
 
     Surroundings surroundings_;
     /// Open until the window is watched: what is asked at the start is asked over one connection.
     std::shared_ptr<family::Database> atStart_;
     bool hasUsers_ = false, isAdministrator_ = false;
+    int idleMinutes_;
     SignInTrial* trial_;
     IdleWatch* idle_;
+    StandingWatch* standing_;
+    /// Somebody has; in a shop without users nobody does.
+    bool hasSignedIn_ = false;
     MainWindow* window_ = nullptr;
     QPointer<SignInDialog> dialog_;
     std::unique_ptr<Cover> cover_;

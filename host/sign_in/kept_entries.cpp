@@ -12,8 +12,6 @@ namespace {
 
 constexpr const char* LastNameKey = "nome";
 constexpr const char* TokenKey = "sinal";
-constexpr const char* IdleKey = "bloqueio";
-constexpr int UsualIdleMinutes = 15;
 
 QString NameOf(const std::filesystem::path& file) { return QString::fromStdString(system::TextOf(file)); }
 
@@ -41,18 +39,6 @@ std::string KeptEntries::Token(const std::string& source) const { return Read(so
 void KeptEntries::SetToken(const std::string& source, const std::string& token) const
 {
     Write(source, TokenKey, token);
-}
-
-int KeptEntries::IdleMinutes(const std::string& source) const
-{
-    bool isNumber = false;
-    const int minutes = QString::fromStdString(Read(source, IdleKey)).toInt(&isNumber);
-    return isNumber && minutes >= 0 ? minutes : UsualIdleMinutes;
-}
-
-void KeptEntries::SetIdleMinutes(const std::string& source, int minutes) const
-{
-    Write(source, IdleKey, std::to_string(minutes));
 }
 
 std::string KeptEntries::Read(const std::string& source, const char* key) const

@@ -21,10 +21,6 @@ public:
     /// "" forgets it.
     void SetToken(const std::string& source, const std::string& token) const;
 
-    /// After how many minutes without a hand at it the window is locked; 0 is never.
-    int IdleMinutes(const std::string& source) const;
-    void SetIdleMinutes(const std::string& source, int minutes) const;
-
 private:
     std::string Read(const std::string& source, const char* key) const;
     void Write(const std::string& source, const char* key, const std::string& text) const;

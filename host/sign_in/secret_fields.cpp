@@ -98,6 +98,16 @@ bool SecretFields::AcceptsPair(const Pair& pair, bool isRequired, Objection obje
     return !pair.firstFrame->IsRefused() && !pair.secondFrame->IsRefused();
 }
 
+void SecretFields::AskOnlyForPin()
+{
+    password_ = Password::Optional;
+    for (SecretBox* box : {passwords_.first, passwords_.second}) {
+        box->clear();
+        box->setEnabled(false);
+    }
+    setFocusProxy(pins_.first);
+}
+
 std::unique_ptr<family::Secret> SecretFields::NewPassword() const { return SecretIn(*passwords_.first); }
 
 std::unique_ptr<family::Secret> SecretFields::NewPin() const { return SecretIn(*pins_.first); }

@@ -25,6 +25,8 @@ public:
 
     /// Marks what will not do and leads to the first of it. False where there is any.
     bool Accepts();
+    /// The password is there already.
+    void AskOnlyForPin();
     /// What is typed; null where nothing is.
     std::unique_ptr<family::Secret> NewPassword() const;
     std::unique_ptr<family::Secret> NewPin() const;

@@ -97,6 +97,14 @@ void SecretsDialog::AddFields(const Question& question, QVBoxLayout& layout)
     (first == nullptr ? secrets_ : first)->setFocus();
 }
 
+void SecretsDialog::AskOnlyForPin()
+{
+    if (name_ != nullptr)
+        BoxOf(*name_).setEnabled(false);
+    secrets_->AskOnlyForPin();
+    findChild<QPushButton*>(QStringLiteral("cancelar"))->setText(QStringLiteral("&Continuar sem PIN"));
+}
+
 bool SecretsDialog::Accepts()
 {
     return IsGiven(name_, QStringLiteral("Informe o nome."))
@@ -135,8 +143,7 @@ void SecretsDialog::Try()
     if (why.empty())
         return accept();
     failure_->Tell(qt::Lines(why));
-    if (current_ != nullptr)
-        BoxOf(*current_).setFocus();
+    (current_ != nullptr ? &BoxOf(*current_) : secrets_->focusProxy())->setFocus();
 }
 
 } // namespace kova::host

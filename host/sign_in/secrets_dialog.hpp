@@ -44,6 +44,9 @@ public:
 
     SecretsDialog(const Question& question, Save save, QWidget* parent);
 
+    /// The name and the password are saved: what is left is the PIN, which one may do without.
+    void AskOnlyForPin();
+
 private:
     void AddFields(const Question& question, QVBoxLayout& layout);
     bool Accepts();

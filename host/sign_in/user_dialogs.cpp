@@ -9,11 +9,10 @@
 #include "family/users/role_rights.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/sign_in/door.hpp"
+#include "host/sign_in/idle_minutes_dialog.hpp"
 #include "host/sign_in/secrets_dialog.hpp"
 #include "screens/question.hpp"
 #include "toolkits/qt/look/theme.hpp"
-
-#include <QInputDialog>
 
 namespace kova::host {
 
@@ -23,8 +22,6 @@ using family::AccountAnswer;
 using family::AccountRow;
 using family::Key;
 using registers::Desk;
-
-constexpr int MostIdleMinutes = 24 * 60;
 
 /// Runs what needs the database before anything is asked, and tells what it reports.
 void Telling(QWidget& over, const std::function<void()>& act)
@@ -57,22 +54,51 @@ Key RoleOfAdministrators(family::Database& database)
     return 0;
 }
 
-AccountAnswer MakeFirstUser(const Desk& desk, const SecretsDialog::Typed& typed)
+/// The user with whom a shop begins to have users, saved step by step: what is saved stays saved.
+struct FirstUser {
+    /// 0 before there is one.
+    Key code = 0;
+    std::string name;
+};
+
+std::string SaveFirstUser(const Desk& desk, const SecretsDialog::Typed& typed, FirstUser& first)
 {
     family::Database& database = *desk.database;
     const Key former = CodeOfFormerName(database, typed.name);
     const AccountAnswer made =
         family::SaveAccount(database, {former, typed.name, RoleOfAdministrators(database), true},
                             typed.password.get(), desk.author());
-    if (!made.IsDone() || !typed.pin)
-        return made;
-    // From now on the shop has users, and this is the only one.
+    if (made.IsDone())
+        first = {made.code, typed.name};
+    return made.why;
+}
+
+// From then on the shop has users, and this is the only one.
+std::string SavePinOf(const FirstUser& first, const Desk& desk, const family::Secret& pin)
+{
     family::Author author = desk.author();
-    author.code = std::to_string(made.code);
-    author.name = typed.name;
-    AccountAnswer answer = family::SetPin(database, made.code, typed.pin.get(), author);
-    answer.code = made.code;
-    return answer;
+    author.code = std::to_string(first.code);
+    author.name = first.name;
+    try {
+        return family::SetPin(*desk.database, first.code, &pin, author).why;
+    } catch (const family::DatabaseFailure& failure) {
+        return failure.Description();
+    }
+}
+
+std::string BeginWith(const Desk& desk, const SecretsDialog::Typed& typed, FirstUser& first,
+                      SecretsDialog& dialog)
+{
+    if (first.code == 0) {
+        if (std::string why = SaveFirstUser(desk, typed, first); !why.empty())
+            return why;
+    }
+    const std::string why = typed.pin ? SavePinOf(first, desk, *typed.pin) : std::string();
+    if (why.empty())
+        return {};
+    dialog.AskOnlyForPin();
+    return first.name + " está salvo, com a senha, e a loja já tem usuários. O PIN não foi salvo. " + why
+        + "\nTente de novo, ou continue sem ele: Mudar minha senha, no menu, o define depois.";
 }
 
 std::string SetSecrets(const Desk& desk, Key user, const SecretsDialog::Typed& typed)
@@ -129,13 +155,8 @@ void BeginWithUsers(Door& door, QWidget& over)
 {
     Telling(over, [&] {
         const Desk desk = door.OpenDesk();
-        AccountAnswer made;
-        std::string name;
-        const auto save = [&](const SecretsDialog::Typed& typed) {
-            made = MakeFirstUser(desk, typed);
-            name = typed.name;
-            return made.why;
-        };
+        FirstUser first;
+        SecretsDialog* asking = nullptr;
         SecretsDialog dialog(
             {.title = QStringLiteral("Começar a usar usuários"),
              .explanation = QStringLiteral(
@@ -144,23 +165,15 @@ void BeginWithUsers(Door& door, QWidget& over)
                  "postos, e o que cada um grava fica com o nome dele."),
              .password = SecretFields::Password::Required,
              .name = NameOfThisUser()},
-            save, &over);
-        if (dialog.exec() == QDialog::Accepted)
-            door.BeginWithUsers(made.code, name);
+            [&](const SecretsDialog::Typed& typed) { return BeginWith(desk, typed, first, *asking); }, &over);
+        asking = &dialog;
+        dialog.exec();
+        if (first.code != 0)
+            door.BeginWithUsers(first.code, first.name);
     });
 }
 
-void AskForIdleMinutes(Door& door, QWidget& over)
-{
-    bool isGiven = false;
-    const int minutes = QInputDialog::getInt(
-        &over, QStringLiteral("Bloqueio por inatividade"),
-        QStringLiteral(
-            "Bloquear a tela deste computador depois de quantos minutos sem uso (0 nunca bloqueia)?"),
-        door.IdleMinutes(), 0, MostIdleMinutes, 1, &isGiven);
-    if (isGiven)
-        door.SetIdleMinutes(minutes);
-}
+void AskForIdleMinutes(Door& door, QWidget& over) { IdleMinutesDialog(door, &over).exec(); }
 
 registers::RecordAction SecretsAction()
 {

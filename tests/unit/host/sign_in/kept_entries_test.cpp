@@ -15,15 +15,11 @@ TEST(KeptEntries, AreKeptShopByShopBesideTheShopsThatWereOpened)
     const KeptEntries entries(file);
     EXPECT_EQ(entries.LastName("/casa/loja.db"), "");
     EXPECT_EQ(entries.Token("/casa/loja.db"), "");
-    EXPECT_EQ(entries.IdleMinutes("/casa/loja.db"), 15);
     entries.SetLastName("/casa/loja.db", "D'Ávila \"Lia\"; Peçanha");
     entries.SetToken("/casa/loja.db", "0123abcd");
-    entries.SetIdleMinutes("/casa/loja.db", 0);
     EXPECT_EQ(entries.LastName("/casa/loja.db"), "D'Ávila \"Lia\"; Peçanha");
     EXPECT_EQ(entries.Token("/casa/loja.db"), "0123abcd");
-    EXPECT_EQ(entries.IdleMinutes("/casa/loja.db"), 0);
     EXPECT_EQ(entries.Token("postgresql:///loja"), "");
-    EXPECT_EQ(entries.IdleMinutes("postgresql:///loja"), 15);
     ASSERT_TRUE(shops.Remember({"/casa/outra.db", ""}));
     EXPECT_EQ(entries.Token("/casa/loja.db"), "0123abcd");
     EXPECT_EQ(shops.All().size(), 2U);
@@ -39,12 +35,6 @@ TEST(KeptEntries, AreForTheirOwnerAloneAndReadAsNoneWhereTheyAreNone)
     entries.SetToken("loja", "0123abcd");
     const fs::perms others = fs::perms::group_all | fs::perms::others_all;
     EXPECT_EQ(fs::status(home / "kovaris.ini").permissions() & others, fs::perms::none);
-    for (const char* minutes : {"-1", "x", "99999999999"}) {
-        const std::string content = ContentOf(home / "kovaris.ini");
-        const std::string group = content.substr(0, content.find(']') + 1);
-        WriteFile(home / "kovaris.ini", group + "\nbloqueio=" + minutes + "\n");
-        EXPECT_EQ(entries.IdleMinutes("loja"), 15) << minutes;
-    }
 }
 
 } // namespace kova::host::test
