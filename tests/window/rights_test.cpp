@@ -2,7 +2,15 @@
 
 #include "tests/window/shop_with_users.hpp"
 
+#include "agenda/contracts/widgets.hpp"
+#include "toolkits/common/form.hpp"
+
+#include <QAction>
 #include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QTabBar>
+#include <QTableView>
 #include <QTest>
 
 namespace kova::window_test {
@@ -38,6 +46,16 @@ protected:
     static QWidget& Button(const char* name)
     {
         return *Window()->findChild<QWidget*>(QStringLiteral("frmLista.") + QLatin1String(name));
+    }
+    /// Of the record that is in front.
+    static QWidget* Record(const char* name)
+    {
+        const std::string full = Receptionist::FormInFront()->Name() + "." + name;
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (auto* found = top->findChild<QWidget*>(QString::fromStdString(full)))
+                return found;
+        }
+        return nullptr;
     }
     /// What a shut button says; "open" of one that is not.
     static std::string Reason(const char* button)
@@ -114,6 +132,158 @@ TEST_F(RightsInTheAgenda, ShutTheButtonThatBooksAndItsKey)
     Run();
     EXPECT_TRUE(reason.starts_with("Recepção não pode ")) << reason;
     EXPECT_FALSE(hasMenu);
+}
+
+TEST_F(RightsInTheAgenda, ShutTheSavingOfARecordThatIsOpenWhenTheRightIsTakenAway)
+{
+    std::string before, after, typed;
+    const auto salvar = [] {
+        const auto* button =
+            Receptionist::FormInFront() != nullptr ? Record("kvcmdSalvarFecharConfirmar") : nullptr;
+        return button == nullptr ? "gone"
+            : button->isEnabled()
+            ? "open"
+            : button->toolTip().replace(QLatin1Char('\n'), QLatin1Char(' ')).toStdString();
+    };
+    Enters("Lia", "Laço Azul 22");
+    receptionist->WaitsFor(List).Presses("F7").Presses("Down").Presses("F6");
+    receptionist->WaitsUntil("the record is open", IsRecordOpen).Looks([&] {
+        Widget& note = Receptionist::Control(Receptionist::FormInFront()->Name(), "kvtxtObservacaoDoServico");
+        As<KVTextBox>(note)->Text("Laço de fita");
+        before = salvar();
+        Deny("agendamento.alterar");
+    });
+    // The key works in a record, too, and whoever comes back finds what was typed.
+    receptionist->Presses("Ctrl+L");
+    Enters("Lia", "2580");
+    receptionist->WaitsUntil("it is shut", [&] { return IsRecordOpen() && salvar() != "open"; }).Looks([&] {
+        after = salvar();
+        typed = As<KVTextBox>(
+                    Receptionist::Control(Receptionist::FormInFront()->Name(), "kvtxtObservacaoDoServico"))
+                    ->Text();
+    });
+    receptionist->Presses("Escape").WaitsFor(List).Leaves();
+    Run();
+    EXPECT_EQ(before, "open");
+    EXPECT_EQ(after, "Recepção não pode alterar agendamentos. Peça a quem administra os usuários.");
+    EXPECT_EQ(typed, "Laço de fita");
+    EXPECT_EQ(Denials(), "0");
+}
+
+TEST_F(RightsInTheAgenda, AreLookedAtAnewWhenTheWindowIsTurnedTo)
+{
+    std::string before;
+    Enters("Lia", "Laço Azul 22");
+    receptionist->WaitsFor(List).Looks([&] {
+        before = Reason("kvcmdAlterar");
+        Deny("agendamento.alterar");
+        QEvent activation(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(Window(), &activation);
+    });
+    receptionist->WaitsUntil("it is shut", [] { return Reason("kvcmdAlterar") != "open"; });
+    receptionist->WaitsFor(List).Leaves();
+    Run();
+    EXPECT_EQ(before, "open");
+}
+
+TEST_F(RightsInTheAgenda, EndForWhomAnotherDeskHasDeactivated)
+{
+    std::string why;
+    Enters("Lia", "Laço Azul 22");
+    receptionist->WaitsFor(List).Presses("F7").Presses("Down").Looks(
+        [&] { Execute("update usuario set situacao = 2 where nome = 'Lia'"); });
+    // The door comes up over what the agenda says of it.
+    receptionist->Presses("Ctrl+3");
+    receptionist->WaitsUntil("somebody is asked for", [] { return IsReady(); }).Does("look", [&] {
+        why = In<QLabel>(Question(), "motivo").text().toStdString();
+    });
+    Enters("Ana", "1379");
+    receptionist->Answers("Return").WaitsFor(List).Leaves();
+    Run();
+    EXPECT_EQ(receptionist->Boxes(),
+              std::vector<std::string>{"Não foi possível alterar a situação do agendamento - Tente novamente "
+                                       "mais tarde."});
+    EXPECT_TRUE(why.starts_with("Lia não entra mais nesta loja.")) << why;
+    EXPECT_EQ(Value("select count(*) from agendamento where situacao = 3"), "0");
+}
+
+/// The history is there for whoever may see it.
+class RightToSeeTheHistory : public RightsInTheAgenda {
+protected:
+    static QTabBar& Tabs() { return *Window()->findChild<QTabBar*>(); }
+    static bool HasPage() { return Window()->findChild<QTableView*>(QStringLiteral("linhas")) != nullptr; }
+    static bool IsThere() { return Tabs().isTabVisible(2); }
+    /// What the line below the tabs says.
+    static std::string Line()
+    {
+        const auto* bar = Window()->findChild<QWidget*>(QStringLiteral("recusa"));
+        return bar != nullptr && bar->isVisible()
+            ? bar->findChild<QLabel*>(QStringLiteral("aviso"))->text().toStdString()
+            : "";
+    }
+};
+
+TEST_F(RightToSeeTheHistory, IsSaidWhereItsTabIsNotThere)
+{
+    std::vector<std::string> lines;
+    std::string entry;
+    bool isThere = true;
+    Enters("Lia", "Laço Azul 22");
+    for (const char* key : {"Ctrl+H", "Alt+3"})
+        receptionist->WaitsFor(List).Presses("F7").WaitsFor(List).Presses(key).WaitsFor(List).Looks([&] {
+            lines.push_back(Line());
+            isThere = IsThere();
+            for (const QAction* one : Window()->findChild<QMenu*>()->actions()) {
+                if (one->text().startsWith(QStringLiteral("&Histórico")))
+                    entry = one->isEnabled() ? "open" : one->toolTip().toStdString();
+            }
+            Tabs().setCurrentIndex(0);
+        });
+    receptionist->WaitsFor(List).Leaves();
+    Run();
+    const std::string why = "Recepção não pode ver o histórico. Peça a quem administra os usuários.";
+    EXPECT_EQ(lines, (std::vector<std::string>{why, why}));
+    EXPECT_FALSE(isThere);
+    EXPECT_EQ(entry, why);
+}
+
+TEST_F(RightToSeeTheHistory, BringsTheTabAlongAndTakesItAwayAgain)
+{
+    bool hasPage = false, isThere = false;
+    Enters("Lia", "Laço Azul 22");
+    receptionist->WaitsFor(List).Presses("Ctrl+Shift+U");
+    Enters("Ana", "1379");
+    receptionist->WaitsFor(List).Presses("Ctrl+H");
+    receptionist->WaitsUntil("the history is there", HasPage).Does("change", [&] {
+        hasPage = HasPage() && IsThere();
+        QTest::keyClick(Window()->windowHandle(), Qt::Key_U, Qt::ControlModifier | Qt::ShiftModifier);
+    });
+    Enters("Lia", "2580");
+    receptionist->WaitsUntil("it has gone", [] { return Question() == nullptr && !HasPage(); });
+    receptionist->WaitsFor(List).Looks([&] { isThere = IsThere(); }).Leaves();
+    Run();
+    EXPECT_TRUE(hasPage);
+    EXPECT_FALSE(isThere);
+}
+
+TEST_F(RightToSeeTheHistory, LeavesItsOwnKeyToTheFilters)
+{
+    std::string text = "?";
+    bool isLocked = true;
+    Enters("Ana", "Gato-Preto 1");
+    receptionist->WaitsFor(List).Presses("Ctrl+H");
+    receptionist->WaitsUntil("the history is there", HasPage).Does("clear the filters", [&] {
+        auto& box = *Window()->findChild<QLineEdit*>(QStringLiteral("procurar"));
+        Fill(box, QStringLiteral("zebra"));
+        QTest::keyClick(&box, Qt::Key_L, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        text = box.text().toStdString();
+        isLocked = Question() != nullptr;
+        Window()->close();
+    });
+    Run();
+    EXPECT_EQ(text, "");
+    EXPECT_FALSE(isLocked);
 }
 
 } // namespace kova::window_test

@@ -168,7 +168,8 @@ TEST(Start, TakesNoNameNoDayAndNoTimeForAShopThatIsReal)
         EXPECT_EQ(
             result.errors,
             "Kovaris: As opções --user, --date e --time só valem em lojas de demonstração, que \"agenda-data "
-            "demo\" cria. Nesta loja entra quem está no posto, com a data e a hora do relógio: abra o programa sem elas.\n");
+            "demo\" cria. Nesta loja entra quem está no posto, com a data e a hora do relógio: abra o "
+            "programa sem elas.\n");
     }
 }
 
