@@ -149,6 +149,8 @@ public:
         box_->setCurrentIndex(row);
         if (row < 0)
             box_->setEditText(QString::fromStdString(text));
+        // In a narrow box the beginning is what is seen.
+        box_->lineEdit()->home(false);
     }
     // A new breed or species has a name that nobody offers: saving tells.
     std::string Settle() override

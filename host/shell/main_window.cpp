@@ -31,6 +31,8 @@ constexpr QSize Frame(16, 48);
 constexpr qint64 LongestWaitMilliseconds = 400;
 constexpr int EventSliceMilliseconds = 10;
 constexpr int MostNumberedTabs = 9;
+/// What is told of a tab that is not there.
+const QString Denial = QStringLiteral("aba");
 /// How often a page that has gone is looked at, while it has a dialog open.
 constexpr int LookForDialogsMilliseconds = 100;
 
@@ -55,7 +57,6 @@ MainWindow::MainWindow(const Heading& heading)
       pages_(new QStackedWidget(this)),
       container_(new QWidget(this)),
       notice_(new NoticeBar(this)),
-      denial_(new NoticeBar(this)),
       deleting_(new QTimer(this))
 {
     setWindowIcon(ApplicationIcon());
@@ -63,7 +64,6 @@ MainWindow::MainWindow(const Heading& heading)
 
     TellUser(heading.user);
     row_->TellShop(heading.isDemonstration ? DemonstrationText : QString());
-    denial_->setObjectName(QStringLiteral("recusa"));
     container_->setObjectName(QStringLiteral("container"));
     row_->GetTabs().addTab(QStringLiteral("Agenda"));
     pages_->addWidget(container_);
@@ -78,7 +78,6 @@ MainWindow::MainWindow(const Heading& heading)
     layout->setSpacing(0);
     layout->addWidget(row_);
     layout->addWidget(pages_, 1);
-    layout->addWidget(denial_);
     layout->addWidget(notice_);
 }
 
@@ -108,7 +107,7 @@ int MainWindow::AddTab(const QString& name, MakePage make)
 void MainWindow::ShowTab(int tab)
 {
     const QString& why = all_[static_cast<std::size_t>(tab)].why;
-    denial_->Show(why);
+    notice_->Show(Denial, why);
     if (why.isEmpty())
         row_->GetTabs().setCurrentIndex(tab);
 }
@@ -117,7 +116,7 @@ void MainWindow::OfferTab(int tab, const QString& why)
 {
     Tab& one = all_[static_cast<std::size_t>(tab)];
     one.why = why;
-    denial_->Show({});
+    notice_->Show(Denial, {});
     if (!why.isEmpty() && row_->GetTabs().currentIndex() == tab)
         row_->GetTabs().setCurrentIndex(0);
     row_->GetTabs().setTabVisible(tab, why.isEmpty());
@@ -156,7 +155,7 @@ void MainWindow::TurnTo(int tab)
         pages_->removeWidget(placeholder);
         delete placeholder;
     }
-    denial_->Show({});
+    notice_->Show(Denial, {});
     pages_->setCurrentIndex(tab);
     QWidget* const page = pages_->currentWidget();
     (isNew || page->focusWidget() == nullptr ? page : page->focusWidget())->setFocus();

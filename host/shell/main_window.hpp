@@ -79,7 +79,7 @@ private:
     TabRow* row_;
     QStackedWidget* pages_;
     QWidget* container_;
-    NoticeBar *notice_, *denial_;
+    NoticeBar* notice_;
     /// By tab: how its page is made, whether it is, and why the tab is not there, where it is not.
     struct Tab {
         MakePage make;

@@ -216,10 +216,8 @@ protected:
     /// What the line below the tabs says.
     static std::string Line()
     {
-        const auto* bar = Window()->findChild<QWidget*>(QStringLiteral("recusa"));
-        return bar != nullptr && bar->isVisible()
-            ? bar->findChild<QLabel*>(QStringLiteral("aviso"))->text().toStdString()
-            : "";
+        const auto* line = Window()->findChild<QLabel*>(QStringLiteral("aviso"));
+        return line->isVisible() ? line->text().toStdString() : "";
     }
 };
 

@@ -129,8 +129,8 @@ TEST_F(TheTabs, AreNotThereForWhoMayNotTurnToThemAndComeBackWithAnotherPage)
     const int last =
         window_.AddTab(QStringLiteral("Histórico"), [](QWidget& parent) { return new QLabel(&parent); });
     const auto told = [&] {
-        const auto* bar = window_.findChild<NoticeBar*>(QStringLiteral("recusa"));
-        return bar->isVisible() ? bar->findChild<QLabel*>()->text() : QString();
+        const auto* line = window_.findChild<QLabel*>(QStringLiteral("aviso"));
+        return line->isVisible() ? line->text() : QString();
     };
     QTest::keyClick(&window_, Qt::Key_2, Qt::AltModifier);
     const QPointer<QWidget> page = box_;
