@@ -4,6 +4,8 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace kova::family {
 class Database;
@@ -15,6 +17,10 @@ namespace kova::history {
 struct Desk {
     std::shared_ptr<family::Database> database;
     std::function<family::Author()> author;
+    /// Opens the archive of the shop's audit, ready to be searched: where the shop says that it is, or that
+    /// file. Null where it is not to be found. Fails with a DatabaseFailure where the file is not the shop's
+    /// archive.
+    std::function<std::shared_ptr<family::Database>(const std::optional<std::string>& file)> archive;
 };
 
 } // namespace kova::history

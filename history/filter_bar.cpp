@@ -6,8 +6,10 @@
 #include "family/registers/description/typed_values.hpp"
 #include "history/subject_box.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/plain_label.hpp"
 #include "screens/search_box.hpp"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -87,6 +89,7 @@ FilterBar::FilterBar(const Desk& desk, QWidget* parent)
       fromFrame_(new screens::FieldFrame(QStringLiteral("D&esde"), from_, this)),
       toFrame_(new screens::FieldFrame(QStringLiteral("&Até"), to_, this)),
       clear_(new QPushButton(QStringLiteral("&Limpar"), this)),
+      archive_(new QCheckBox(QStringLiteral("&Incluir arquivo"), this)),
       pause_(new QTimer(this))
 {
     for (const char* operation : Operations)
@@ -100,6 +103,9 @@ FilterBar::FilterBar(const Desk& desk, QWidget* parent)
         Clear();
         onChanged();
     });
+    archive_->setObjectName(QStringLiteral("incluirArquivo"));
+    archive_->hide();
+    connect(archive_, &QCheckBox::clicked, this, [this](bool isWanted) { onArchive(isWanted); });
     connect(text_, &QLineEdit::textEdited, this, [this] { Changed(false); });
     // The button in the box clears it without an edit.
     connect(text_, &QLineEdit::textChanged, this, [this](const QString& text) {
@@ -148,6 +154,7 @@ void FilterBar::LayOut()
     auto* first = new QHBoxLayout;
     first->addWidget(subject_, 2);
     first->addWidget(new screens::FieldFrame(QStringLiteral("&Procurar"), text_, this), 1);
+    first->addWidget(archive_, 0, Qt::AlignBottom);
     auto* second = new QHBoxLayout;
     second->addWidget(new screens::FieldFrame(QStringLiteral("Que&m"), user_, this), 1);
     second->addWidget(new screens::FieldFrame(QStringLiteral("O que &fez"), operation_, this), 1);
@@ -162,7 +169,7 @@ void FilterBar::LayOut()
     layout->addLayout(first);
     layout->addLayout(second);
     // What is made before its neighbours would come before them with the tab key.
-    QWidget* const inOrder[] = {subject_, text_, user_, operation_, table_, from_, to_, clear_};
+    QWidget* const inOrder[] = {subject_, text_, archive_, user_, operation_, table_, from_, to_, clear_};
     for (std::size_t at = 1; at < std::size(inOrder); ++at)
         setTabOrder(inOrder[at - 1], inOrder[at]);
 }
@@ -237,6 +244,14 @@ void FilterBar::OfferWriters(const std::vector<std::string>& writers)
         user_->addItem(QString::fromStdString(writer), QString::fromStdString(writer));
     user_->setCurrentIndex(std::max(user_->findData(chosen), 0));
 }
+
+void FilterBar::OfferArchive(const QString& told)
+{
+    archive_->setToolTip(screens::PlainTip(told));
+    archive_->setVisible(!told.isEmpty());
+}
+
+void FilterBar::MarkArchive(bool isIncluded) { archive_->setChecked(isIncluded); }
 
 void FilterBar::FocusSearch()
 {

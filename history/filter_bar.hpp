@@ -11,6 +11,7 @@
 #include <vector>
 
 class QAbstractItemView;
+class QCheckBox;
 class QComboBox;
 class QLineEdit;
 class QPushButton;
@@ -37,6 +38,10 @@ public:
     /// Shows that subject, and narrows nothing else.
     void Show(const family::history::Subject& subject, const QString& called);
     void Clear();
+    /// Offers to look in the archive as well, which the sentence tells of; not where it is empty.
+    void OfferArchive(const QString& told);
+    /// Shows whether it is looked in.
+    void MarkArchive(bool isIncluded);
     void OfferWriters(const std::vector<std::string>& writers);
     void FocusSearch();
     /// The arrows in the search walk through that list.
@@ -44,6 +49,8 @@ public:
 
     /// The user has changed something, and pauses.
     std::function<void()> onChanged = [] {};
+    /// The user wants the archive, or wants it no more.
+    std::function<void(bool isWanted)> onArchive = [](bool) {};
 
 private:
     QComboBox* AddChoice(const char* name);
@@ -60,6 +67,7 @@ private:
     QLineEdit *from_, *to_;
     screens::FieldFrame *fromFrame_, *toFrame_;
     QPushButton* clear_;
+    QCheckBox* archive_;
     QTimer* pause_;
 };
 

@@ -1,5 +1,6 @@
 #include "history/history_page.hpp"
 
+#include "family/data/audit/archived_part.hpp"
 #include "family/data/engine/database_failure.hpp"
 #include "family/history/changes.hpp"
 #include "family/history/lines.hpp"
@@ -11,6 +12,7 @@
 #include "screens/row_table.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QShortcut>
@@ -59,6 +61,12 @@ HistoryPage::HistoryPage(Desk desk, QWidget* parent)
     LayOut();
     AddShortcuts();
     filter_->onChanged = [this] { Find(); };
+    filter_->onArchive = [this](bool isWanted) { IncludeArchive(isWanted); };
+    onChooseArchive = [this] {
+        return QFileDialog::getOpenFileName(
+            this, QStringLiteral("Onde está o arquivo da auditoria?"), {},
+            QStringLiteral("Arquivos da auditoria (*.auditoria);;Todos os arquivos (*)"));
+    };
     filter_->WalkThrough(*list_);
     panel_->onUndo = [this] { Undo(); };
     lines_->onMore = [this] { TellFound(); };
@@ -155,10 +163,32 @@ void HistoryPage::Try(const std::function<void()>& read)
 void HistoryPage::Refresh()
 {
     Try([this] {
-        filter_->OfferWriters(family::history::FindWriters(*desk_.database, desk_.author()));
+        filter_->OfferWriters(
+            family::history::FindWriters({*desk_.database, archive_.get()}, desk_.author()));
+        filter_->OfferArchive(QString::fromStdString(family::ToldArchive(*desk_.database)));
         if (const auto filter = filter_->Current())
             FindLines(*filter);
     });
+}
+
+void HistoryPage::IncludeArchive(bool isWanted)
+{
+    archive_ = isWanted ? OpenArchive() : nullptr;
+    filter_->MarkArchive(archive_ != nullptr);
+    Refresh();
+}
+
+std::shared_ptr<family::Database> HistoryPage::OpenArchive()
+{
+    try {
+        if (auto archive = desk_.archive({}))
+            return archive;
+        const QString file = onChooseArchive();
+        return file.isEmpty() ? nullptr : desk_.archive(file.toStdString());
+    } catch (const Failure& failure) {
+        screens::ShowWarning(*this, qt::Lines(failure.Description()));
+        return nullptr;
+    }
 }
 
 void HistoryPage::ShowRow(const std::string& table, family::Key key, const QString& called)
@@ -182,7 +212,7 @@ void HistoryPage::FindLines(const family::history::Filter& filter)
 {
     const family::Key marked = panel_->Shown() ? panel_->Shown()->audit.code : 0;
     Tell({});
-    lines_->Show(filter);
+    lines_->Show(filter, archive_);
     TellFound();
     for (const int column : {LineModel::When, LineModel::Who, LineModel::Where})
         screens::FitColumn(*list_, column, RoomInColumn, WidestColumn);

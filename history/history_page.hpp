@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QLabel;
@@ -30,6 +31,9 @@ public:
     /// Reads everything anew: others may have written, and somebody else may look at it now.
     void Refresh();
 
+    /// Asks for the file of the archive where it is not where the shop says; empty where none is given.
+    std::function<QString()> onChooseArchive;
+
 protected:
     void showEvent(QShowEvent* event) override;
 
@@ -41,6 +45,8 @@ private:
     void FindLines(const family::history::Filter& filter);
     void Mark(family::Key code);
     void ShowLine(int row);
+    void IncludeArchive(bool isWanted);
+    std::shared_ptr<family::Database> OpenArchive();
     void Undo();
     void Tell(const QString& text);
     void TellFound();
@@ -48,6 +54,8 @@ private:
     void Try(const std::function<void()>& read);
 
     const Desk desk_;
+    /// While it is looked in.
+    std::shared_ptr<family::Database> archive_;
     LineModel* lines_;
     FilterBar* filter_;
     QTableView* list_;

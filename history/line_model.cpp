@@ -37,12 +37,14 @@ QString TextOf(const Line& line, int column)
 
 LineModel::LineModel(const Desk& desk, QObject* parent) : QAbstractTableModel(parent), desk_(desk) { }
 
-void LineModel::Show(const family::history::Filter& filter)
+void LineModel::Show(const family::history::Filter& filter, std::shared_ptr<family::Database> archive)
 {
     Clear();
-    Lines found = family::history::FindLines(*desk_.database, desk_.author(), filter, {}, PageSize);
+    Lines found =
+        family::history::FindLines({*desk_.database, archive.get()}, desk_.author(), filter, {}, PageSize);
     beginResetModel();
     filter_ = filter;
+    archive_ = std::move(archive);
     found_ = std::move(found);
     endResetModel();
 }
@@ -105,8 +107,8 @@ bool LineModel::canFetchMore(const QModelIndex& parent) const { return !parent.i
 void LineModel::fetchMore(const QModelIndex&)
 {
     try {
-        Lines next = family::history::FindLines(*desk_.database, desk_.author(), filter_, found_.lines.back(),
-                                                PageSize);
+        Lines next = family::history::FindLines({*desk_.database, archive_.get()}, desk_.author(), filter_,
+                                                found_.lines.back(), PageSize);
         const int first = rowCount(), count = static_cast<int>(next.lines.size());
         found_.more = next.more;
         if (count > 0) {

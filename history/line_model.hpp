@@ -20,7 +20,7 @@ public:
     LineModel(const Desk& desk, QObject* parent);
 
     /// Reads the first page. Fails as family::history::FindLines, and shows nothing then.
-    void Show(const family::history::Filter& filter);
+    void Show(const family::history::Filter& filter, std::shared_ptr<family::Database> archive);
     void Clear();
     /// Null where there is no such row.
     const family::history::Line* LineAt(int row) const;
@@ -43,6 +43,8 @@ public:
 private:
     const Desk& desk_;
     family::history::Filter filter_;
+    /// May be left out.
+    std::shared_ptr<family::Database> archive_;
     family::history::Lines found_;
 };
 

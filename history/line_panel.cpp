@@ -95,8 +95,9 @@ void LinePanel::Show(const std::optional<family::history::Line>& line)
     if (!line)
         return;
     title_->setText(QString::fromStdString(family::history::ActOf(*line)));
-    who_->setText(
-        QString::fromStdString(family::PersonOf(line->audit) + ", em " + family::MomentOf(line->audit)));
+    who_->setText(QString::fromStdString(family::PersonOf(line->audit) + ", em "
+                                         + family::MomentOf(line->audit)
+                                         + (line->isArchived ? ", no arquivo da auditoria" : "")));
     ShowChanges();
     plan_ = family::history::PlanUndo(*desk_.database, desk_.author(), *line);
     ShowPlan();

@@ -14,6 +14,8 @@ struct Line {
     /// Without values where what the audit has kept cannot be read.
     AuditLine audit;
     bool isReadable = true;
+    /// It lies in the shop's archive.
+    bool isArchived = false;
 };
 
 /// The lines from one on, the last that was written first.

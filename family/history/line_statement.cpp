@@ -72,6 +72,12 @@ public:
         return std::move(statement_);
     }
 
+    LineStatement RunForMoved(const std::string& day)
+    {
+        statement_.text = Moved(day);
+        return std::move(statement_);
+    }
+
 private:
     /// As the engine's indexes have the line's day: a number in a file, where texts have no short form.
     std::string Day() const { return AsDay("substr(a.momento, 1, 10)"); }
@@ -108,6 +114,8 @@ private:
 
     std::string CodesOfSubject()
     {
+        if (findings_.rows)
+            return CodesOfRows(*findings_.rows);
         const Subject& subject = filter_.subject;
         switch (subject.kind) {
         case Subject::Kind::Everything: return {};
@@ -122,6 +130,15 @@ private:
     static std::string CodesOf(const std::string& table, const std::string& keys)
     {
         return "select codigo from auditoria where tabela = '" + table + "' and chave in " + keys;
+    }
+
+    static std::string CodesOfRows(const std::vector<RowsOfTable>& rows)
+    {
+        std::string codes = "select codigo from auditoria where codigo < 0";
+        for (const RowsOfTable& one : rows)
+            if (!one.keys.empty())
+                codes += " union " + CodesOf(one.table, ListOf(one.keys));
+        return codes;
     }
 
     std::string CodesOfRow()
@@ -177,11 +194,15 @@ private:
     {
         Bind("dia", filter_.subject.day);
         return CodesOf(AppointmentRow::Table, "(select numero from agendamento where data_inicial = :dia)")
-            + " union select codigo from auditoria where tabela = 'agendamento' and chave in (select chave "
-              "from "
-              "auditoria a where "
-            + HasWords("palavras_do_dia", filter_.subject.day) + " and tabela = 'agendamento' and "
-            + Tells("a.antes", "data_inicial", "\"" + filter_.subject.day + "\"", "dia_marcado") + ")";
+            + " union select codigo from auditoria where tabela = 'agendamento' and chave in ("
+            + Moved(filter_.subject.day) + ")";
+    }
+
+    std::string Moved(const std::string& day)
+    {
+        return "select chave from auditoria a where " + HasWords("palavras_do_dia", day)
+            + " and tabela = 'agendamento' and "
+            + Tells("a.antes", "data_inicial", "\"" + day + "\"", "dia_marcado");
     }
 
     std::string CodesOfText()
@@ -322,6 +343,13 @@ LineStatement StatementOf(const Filter& filter, const Findings& findings, const 
                           std::size_t most, const Dialect& dialect)
 {
     return Writer(filter, findings, dialect).Run(behind, most);
+}
+
+LineStatement StatementOfMoved(const std::string& day, const Dialect& dialect)
+{
+    const Filter filter;
+    const Findings findings;
+    return Writer(filter, findings, dialect).RunForMoved(day);
 }
 
 std::string WordsSought(const std::string& text, const Dialect& dialect)

@@ -20,6 +20,11 @@ struct ColumnValue {
     std::string column, value;
 };
 
+struct RowsOfTable {
+    std::string table;
+    std::vector<Key> keys;
+};
+
 /// What has to be looked for before the lines are.
 struct Findings {
     /// Of a customer, also those of rows that have gone into it.
@@ -33,6 +38,8 @@ struct Findings {
     std::optional<ColumnValue> rare;
     /// So many lines have the words of the text that it is quicker to go through the days than through these.
     bool hasManyOfText = false;
+    /// All rows of the subject, where they are known; else the statement looks for them.
+    std::optional<std::vector<RowsOfTable>> rows;
 };
 
 std::vector<ColumnValue> ColumnsOf(const Filter& filter);
@@ -53,6 +60,10 @@ struct Place {
 /// operacao, antes and depois, in the order of the days, the last first.
 LineStatement StatementOf(const Filter& filter, const Findings& findings, const std::optional<Place>& behind,
                           std::size_t most, const Dialect& dialect);
+
+/// The statement that selects the numbers of the appointments that a line tells to have been booked for a
+/// day.
+LineStatement StatementOfMoved(const std::string& day, const Dialect& dialect);
 
 /// The words of a text as an engine looks for their beginnings; empty where there is none.
 std::string WordsSought(const std::string& text, const Dialect& dialect);

@@ -30,6 +30,8 @@ constexpr NotUndone Kinds[] = {
 
 std::string WhyNever(const Line& line)
 {
+    if (line.isArchived)
+        return "Esta linha está no arquivo da auditoria, e o que está nele não pode mais ser desfeito.";
     if (!line.isReadable)
         return "Esta linha do histórico não pode ser lida.";
     const auto kind = std::ranges::find(Kinds, line.audit.operation, &NotUndone::operation);

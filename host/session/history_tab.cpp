@@ -2,6 +2,7 @@
 
 #include "family/business/audit_words.hpp"
 #include "family/business/current_author.hpp"
+#include "family/data/archive/audit_archive.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/registers/access/access_registers.hpp"
 #include "family/registers/registers.hpp"
@@ -91,8 +92,12 @@ void HistoryTab::ShowRow(const std::string& table, family::Key key, const QStrin
 QWidget* HistoryTab::MakePage(QWidget& parent)
 {
     try {
+        const std::shared_ptr<family::Database> database = family::OpenDatabase(source_);
         page_ = new history::HistoryPage(
-            {family::OpenDatabase(source_), [this] { return family::CurrentAuthor(user_, clock_); }},
+            {database, [this] { return family::CurrentAuthor(user_, clock_); },
+             [database](const std::optional<std::string>& file) -> std::shared_ptr<family::Database> {
+                 return family::OpenSearchableArchive(*database, file);
+             }},
             &parent);
         change_.Follow(*page_, [page = page_.data()] { page->Refresh(); });
         return page_;

@@ -1,5 +1,6 @@
 #include "tests/unit/history/history_fixture.hpp"
 
+#include "family/data/archive/audit_archive.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/stores/new_shop.hpp"
 #include "family/registers/registers.hpp"
@@ -50,8 +51,13 @@ HistoricoTest::HistoricoTest()
 
 void HistoricoTest::Open()
 {
-    page_ =
-        std::make_unique<HistoryPage>(Desk{family::OpenDatabase(file_), [this] { return author_; }}, nullptr);
+    const std::shared_ptr<family::Database> database = family::OpenDatabase(file_);
+    page_ = std::make_unique<HistoryPage>(
+        Desk{database, [this] { return author_; },
+             [database](const std::optional<std::string>& file) -> std::shared_ptr<family::Database> {
+                 return family::OpenSearchableArchive(*database, file);
+             }},
+        nullptr);
     page_->resize(1000, 640);
     page_->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(page_.get()));

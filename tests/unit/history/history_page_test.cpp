@@ -1,11 +1,16 @@
 #include "tests/unit/history/history_fixture.hpp"
 
+#include "family/data/archive/audit_archive.hpp"
+
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTableWidget>
+
+#include <filesystem>
 
 namespace kova::history::test {
 
@@ -235,6 +240,77 @@ TEST_F(TheHistoryPage, ShowsTextsAsTheyStand)
     EXPECT_NE(TextOf("quem").find("A\xef\xbf\xbd"
                                   "B"),
               std::string::npos);
+}
+
+class TheHistoryPageWithAnArchive : public HistoricoTest {
+protected:
+    TheHistoryPageWithAnArchive()
+    {
+        family::Author owner = author_;
+        owner.isOwner = true;
+        family::ArchiveAudit(file_, 2026, std::nullopt, owner, {});
+        page_->Refresh();
+        page_->onChooseArchive = [this] {
+            ++asked_;
+            return QString::fromStdString(chosen_);
+        };
+    }
+
+    QCheckBox& Box() { return Find<QCheckBox>("incluirArquivo"); }
+    void PressBox()
+    {
+        Box().setFocus();
+        Keys(Qt::Key_Space);
+    }
+
+    const std::string archive_ = family::ArchiveBeside(file_);
+    std::string chosen_;
+    int asked_ = 0;
+};
+
+TEST_F(TheHistoryPage, OffersNoArchiveWhereNothingWasArchived)
+{
+    EXPECT_FALSE(page_->findChild<QCheckBox*>(QStringLiteral("incluirArquivo"))->isVisible());
+}
+
+TEST_F(TheHistoryPageWithAnArchive, ShowsItsLinesWhereTheyAreWantedAndUndoesNone)
+{
+    EXPECT_EQ(Acts().size(), 1U);
+    EXPECT_NE(Box().toolTip().indexOf(QStringLiteral("até 2026")), -1);
+    PressBox();
+    EXPECT_TRUE(Box().isChecked());
+    const Lines all = Acts();
+    ASSERT_EQ(all.size(), 4U);
+    EXPECT_EQ(all[1], "Alterou o cliente 1");
+    Keys(Qt::Key_F3);
+    Keys(Qt::Key_Down);
+    EXPECT_EQ(Fields(), (Lines{"Bairro: (vazio) > Centro"}));
+    EXPECT_EQ(TextOf("quem"), "Ana (posto BALCAO), em 20/11/2026 às 09:00, no arquivo da auditoria");
+    EXPECT_NE(TextOf("motivo").find("não pode mais ser desfeito"), std::string::npos);
+    TypeInto("procurar", "centro");
+    EXPECT_EQ(Acts(), (Lines{"Alterou o cliente 1"}));
+    Keys(Qt::Key_L, Qt::ControlModifier);
+    PressBox();
+    EXPECT_EQ(Acts().size(), 1U);
+}
+
+TEST_F(TheHistoryPageWithAnArchive, AsksForItWhereItWasMovedAndSaysWhatAnotherFileIs)
+{
+    const std::string moved = (folder_.Path() / "fora").string();
+    std::filesystem::rename(archive_, moved);
+    PressBox();
+    EXPECT_EQ(asked_, 1);
+    EXPECT_FALSE(Box().isChecked()) << "nothing was chosen";
+    chosen_ = file_;
+    Answer({"OK"});
+    PressBox();
+    ASSERT_EQ(boxes_.size(), 1U);
+    EXPECT_NE(boxes_[0].find("não é um arquivo de auditoria"), std::string::npos) << boxes_[0];
+    EXPECT_FALSE(Box().isChecked());
+    chosen_ = moved;
+    PressBox();
+    EXPECT_TRUE(Box().isChecked());
+    EXPECT_EQ(Acts().size(), 4U);
 }
 
 } // namespace kova::history::test

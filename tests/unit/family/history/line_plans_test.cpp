@@ -2,6 +2,7 @@
 
 #include "tests/unit/family/plan_fixture.hpp"
 
+#include "family/history/findings.hpp"
 #include "family/history/lines.hpp"
 
 namespace kova::family::test {

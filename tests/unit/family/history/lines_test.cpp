@@ -2,6 +2,7 @@
 
 #include "tests/unit/family/history/history_fixture.hpp"
 
+#include "family/history/findings.hpp"
 #include "family/registers/customers/customer_registers.hpp"
 
 #include <algorithm>
