@@ -28,17 +28,14 @@ constexpr int WidthOfDay = 120;
 constexpr int LeastLettersOfChoice = 14;
 
 constexpr const char* Operations[] = {
-    family::audit_operation::Insertion,
-    family::audit_operation::Change,
-    family::history::Cancellation,
-    family::audit_operation::Removal,
-    family::audit_operation::Restoration,
-    family::audit_operation::Merging,
-    family::audit_operation::Anonymisation,
-    family::audit_operation::Import,
-    family::audit_operation::ImportUndone,
-    family::audit_operation::SigningIn,
-    family::audit_operation::SigningInRefused,
+    family::audit_operation::Insertion,     family::audit_operation::Change,
+    family::history::Cancellation,          family::audit_operation::Removal,
+    family::audit_operation::Restoration,   family::audit_operation::Merging,
+    family::audit_operation::Anonymisation, family::audit_operation::Import,
+    family::audit_operation::ImportUndone,  family::audit_operation::Export,
+    family::audit_operation::Print,         family::audit_operation::CopyRestored,
+    family::audit_operation::Archiving,     family::audit_operation::Migration,
+    family::audit_operation::SigningIn,     family::audit_operation::SigningInRefused,
     family::audit_operation::Denial,
 };
 

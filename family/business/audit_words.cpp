@@ -23,6 +23,12 @@ constexpr KnownOperation Operations[] = {
     {audit_operation::SigningIn, "Entrada", "Entradas", "Entrou como"},
     {audit_operation::SigningInRefused, "Entrada recusada", "Entradas recusadas",
      "Não conseguiu entrar como"},
+    {audit_operation::Export, "Exportação", "Exportações", "Exportou dados"},
+    {audit_operation::Print, "Impressão", "Impressões", "Imprimiu dados"},
+    {audit_operation::CopyRestored, "Cópia restaurada", "Cópias restauradas", "Restaurou uma cópia da loja"},
+    {audit_operation::Archiving, "Arquivamento", "Arquivamentos", "Arquivou linhas da auditoria"},
+    {audit_operation::Migration, "Atualização do banco", "Atualizações do banco",
+     "Atualizou o banco de dados"},
     {audit_operation::Denial, "Direito negado", "Direitos negados", "Foi recusado por falta de direito:"},
 };
 

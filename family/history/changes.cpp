@@ -85,6 +85,16 @@ constexpr OtherColumn Others[] = {
     {"motivo", "Motivo", AsItIs},
     {"arquivo", "Arquivo", AsItIs},
     {"cadastro", "Cadastro", AsItIs},
+    {"ate", "Até o ano", AsItIs},
+    {"elo", "Último elo", AsItIs},
+    {"ultima_importacao", "Última importação", AsItIs},
+    {"de", "Da versão", AsItIs},
+    {"para", "Para a versão", AsItIs},
+    {"copia", "Cópia", AsItIs},
+    {"documento", "Documento", AsItIs},
+    {"paginas", "Páginas", AsItIs},
+    {"pagina", "Página", AsItIs},
+    {"json", "JSON", AsItIs},
     {"codificacao", "Codificação", AsItIs},
     {"linhas", "Linhas", AsItIs},
     {"novos", "Novos", AsItIs},
@@ -273,10 +283,35 @@ std::vector<Change> ChangesOf(Database& database, const Author& author, const Li
 
 std::string RowOf(const Line& line) { return RowCalled(line.table, std::to_string(line.key)); }
 
+namespace {
+
+/// What is done with the shop as a whole, or with what is taken out of it.
+bool IsOfShop(const Line& line)
+{
+    constexpr std::string_view Kinds[] = {audit_operation::Export, audit_operation::Print,
+                                          audit_operation::CopyRestored, audit_operation::Archiving,
+                                          audit_operation::Migration};
+    return std::ranges::find(Kinds, line.audit.operation) != std::end(Kinds);
+}
+
+/// The key of an export or a print is a customer's, where they are of one.
+std::string ActOfShop(const Line& line)
+{
+    const bool isOfCustomer = line.key != 0
+        && (line.audit.operation == audit_operation::Export
+            || line.audit.operation == audit_operation::Print);
+    return WordsOfOperation(line.audit.operation).did
+        + (isOfCustomer ? " do cliente " + std::to_string(line.key) : "");
+}
+
+} // namespace
+
 std::string ActOf(const Line& line)
 {
     if (line.audit.operation == audit_operation::Merging)
         return UnionOf(line);
+    if (IsOfShop(line))
+        return ActOfShop(line);
     const std::string verb = StatusVerb(line);
     return (verb.empty() ? WordsOfOperation(line.audit.operation).did : verb) + " " + RowOf(line);
 }

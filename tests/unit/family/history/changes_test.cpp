@@ -74,6 +74,28 @@ TEST_F(HistoryChanges, OfLinesOfOtherKindsAreToldInWords)
     EXPECT_EQ(Changes(found[1]), (Lines{"Direito:  > Exportar dados"}));
 }
 
+TEST_F(HistoryChanges, OfWhatIsDoneWithTheShopAreToldInWords)
+{
+    Run("insert into auditoria (momento, usuario, tabela, chave, operacao, depois) values"
+        " ('2026-11-20 11:00:00', '7 - Lia', 'exportacao', 0, 'exportacao', '{}'),"
+        " ('2026-11-20 11:00:00', '7 - Lia', 'exportacao', 10, 'exportacao', '{}'),"
+        " ('2026-11-20 11:00:00', '7 - Lia', 'impressao', 10, 'impressao', '{\"paginas\":2}'),"
+        " ('2026-11-20 11:00:00', '7 - Lia', 'restauracao', 0, 'restauracao_de_copia', '{}'),"
+        " ('2026-11-20 11:00:00', '7 - Lia', 'versao_do_esquema', 11, 'atualizacao', '{\"de\":7}'),"
+        " ('2026-11-20 11:00:00', '7 - Lia', 'auditoria', 46432, 'arquivamento', '{\"ate\":2025}')");
+    const std::vector<Line> found = Find({}, 6);
+    std::vector<std::string> acts;
+    for (const Line& line : found)
+        acts.push_back(history::ActOf(line));
+    EXPECT_EQ(
+        acts,
+        (Lines{"Arquivou linhas da auditoria", "Atualizou o banco de dados", "Restaurou uma cópia da loja",
+               "Imprimiu dados do cliente 10", "Exportou dados do cliente 10", "Exportou dados"}));
+    EXPECT_EQ(Changes(found[0]), (Lines{"Até o ano:  > 2025"}));
+    EXPECT_EQ(Changes(found[1]), (Lines{"Da versão:  > 7"}));
+    EXPECT_EQ(Changes(found[3]), (Lines{"Páginas:  > 2"}));
+}
+
 TEST_F(HistoryChanges, TellOfColumnsThatTheLineHasAndOfNoOthers)
 {
     Run("update auditoria set antes = '{\"observacao\":\"a\"}', depois = '{\"observacao\":\"b\"}',"
