@@ -98,6 +98,15 @@ TEST_F(Accounts, NeedANameThatNobodyElseHas)
     EXPECT_TRUE(Enter("'; drop table usuario; --", "Focinho 2026").IsDone());
 }
 
+/// Nobody signs in with it.
+TEST_F(Accounts, WithoutARoleMayBearTheNameOfAnother)
+{
+    MakeUsers();
+    EXPECT_EQ(SaveAccount(Data(), {0, "Ana", 0, true}, nullptr, ana_, Cheap).why, "");
+    EXPECT_EQ(Texts("select nome from usuario where nome = 'Ana'").size(), 2U);
+    EXPECT_TRUE(Enter("Ana", "Gato-Preto 1").IsDone());
+}
+
 TEST_F(Accounts, LookAlikeWhateverTheBlanksBetweenTheirWords)
 {
     MakeUsers();

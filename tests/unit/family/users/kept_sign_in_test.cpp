@@ -2,6 +2,7 @@
 
 #include "family/users/kept_sign_in.hpp"
 #include "family/users/who_enters.hpp"
+#include "system/computer_name.hpp"
 
 namespace kova::family::test {
 
@@ -64,6 +65,17 @@ TEST_F(KeptSignIn, IsNothingThatCanBeMadeUp)
         EXPECT_FALSE(EnterBy(token).IsDone()) << token;
     EXPECT_EQ(SignInToken(Data(), 7), "");
     EXPECT_EQ(SignInToken(Data(), 99), "");
+    GiveLia(Reception);
+    EXPECT_FALSE(EnterBy("").IsDone()) << "what no token is made of lets in nobody either";
+}
+
+/// The settings go along where somebody copies them to another computer.
+TEST_F(KeptSignIn, IsOfThisComputerAlone)
+{
+    const std::string kept = Texts("select senha from usuario where codigo = 8").front();
+    EXPECT_FALSE(EnterBy(DigestOf("OUTRO-POSTO\n" + kept)).IsDone());
+    EXPECT_FALSE(EnterBy(DigestOf("\n" + kept)).IsDone());
+    EXPECT_TRUE(EnterBy(DigestOf(system::ComputerName() + "\n" + kept)).IsDone());
 }
 
 TEST_F(KeptSignIn, NamesThoseWhoCanEnterInTheOrderOfTheirNames)

@@ -268,6 +268,7 @@ TEST_F(SigningIn, TellsTheInactiveOnceTheyHaveProvedWhoTheyAre)
     EXPECT_EQ(answer.text, "Lia está inativo e não entra mais. Peça a quem administra os usuários.");
     EXPECT_EQ(answer.code, 0);
     EXPECT_TRUE(answer.rights.empty());
+    EXPECT_EQ(Count("tentativa_de_entrada"), 0) << "whoever is active again waits for nothing";
 }
 
 TEST_F(SigningIn, KeepsThePasswordAnewAtTheCostOfToday)

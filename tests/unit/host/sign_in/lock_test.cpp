@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -138,6 +139,10 @@ TEST_F(TheLock, IsPutOffByEveryTouch)
     timer->stop();
     QTest::mouseMove(window_.windowHandle(), QPoint(7, 7));
     EXPECT_TRUE(timer->isActive()) << "it was begun anew";
+    timer->stop();
+    QMouseEvent told(QEvent::MouseMove, QPointF(7, 7), QPointF(7, 7), Qt::NoButton, {}, {});
+    QCoreApplication::sendEvent(&window_, &told);
+    EXPECT_FALSE(timer->isActive()) << "what the program tells itself is nobody's hand";
     watch.SetPatience(0ms);
     EXPECT_FALSE(timer->isActive());
     QTest::keyClick(window_.windowHandle(), Qt::Key_A);

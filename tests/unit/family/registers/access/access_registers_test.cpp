@@ -122,6 +122,14 @@ TEST_F(AccessRegisters, MakeANewRoleAndTakeItAwayWhereNobodyHasIt)
     EXPECT_EQ(Count("papel_direito where codigo_do_papel = " + std::to_string(added.key)), 0);
 }
 
+TEST_F(AccessRegisters, LeaveANameAsItStandsThere)
+{
+    MakeUsers();
+    Run("update usuario set nome = 'L\u200Bia' where codigo = 7");
+    EXPECT_EQ(Save(UserRegister(), 7, {{"Situação", "Inativo"}}), "feito");
+    EXPECT_EQ(Save(UserRegister(), 7, {{"Nome", "Li\u200Ba"}}), "Nome: só pode ter caracteres que se veem.");
+}
+
 TEST_F(AccessRegisters, TellEveryNameOnce)
 {
     MakeUsers();
