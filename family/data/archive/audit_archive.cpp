@@ -127,6 +127,8 @@ void GiveRoomBack(Database& shop, ArchivedYears& archived)
     try {
         const long long before = BytesOf(shop);
         shop.Session() << "vacuum";
+        // Those who read do so for a moment only, unless they have forgotten to end.
+        shop.Session() << "pragma busy_timeout = 1000";
         int busy = 0, inLog = 0, written = 0;
         shop.Session() << "pragma wal_checkpoint(truncate)", soci::into(busy), soci::into(inLog),
             soci::into(written);
