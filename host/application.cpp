@@ -1,6 +1,6 @@
 #include "host/application.hpp"
 
-#include "agenda/contracts/failure.hpp"
+#include "family/data/engine/failure_words.hpp"
 #include "host/arguments/call.hpp"
 #include "host/display.hpp"
 #include "host/messages.hpp"
@@ -14,6 +14,7 @@
 #include <QTranslator>
 
 #include <cstdlib>
+#include <exception>
 #include <iostream>
 
 namespace kova::host {
@@ -61,10 +62,8 @@ int RunTelling(const Options& options, Outlet outlet)
         return RunShops(options, outlet);
     } catch (const arguments::BadArguments&) {
         throw;
-    } catch (const Failure& failure) {
-        TellFailure(failure.Description());
     } catch (const std::exception& failure) {
-        TellFailure(failure.what());
+        TellFailure(family::WordsFor(failure));
     }
     return EXIT_FAILURE;
 }

@@ -1,5 +1,6 @@
 #include "host/picture.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "system/path_text.hpp"
 
 #include <QCoreApplication>
@@ -35,11 +36,14 @@ void SavePicture(QWidget& window, const std::filesystem::path& file)
     QSaveFile target(QString::fromStdString(name));
     const bool isOpen = target.open(QIODevice::WriteOnly);
     // Customers stand in it. Where a disk knows no rights, it is written all the same.
-    target.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    if (isOpen)
+        target.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     if (!isOpen || !window.grab().save(&target, "PNG") || !target.commit()) {
-        throw std::runtime_error("A imagem \"" + name
-                                 + "\" não pôde ser gravada: " + target.errorString().toStdString()
-                                 + ". Informe em --picture um arquivo de uma pasta em que você pode gravar.");
+        throw std::runtime_error(WithDetail(
+            "A imagem \"" + name
+                + "\" não pôde ser gravada. Verifique o espaço no disco, ou informe em --picture um "
+                  "arquivo de uma pasta em que você pode gravar.",
+            target.errorString().toStdString()));
     }
 }
 

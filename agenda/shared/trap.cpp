@@ -1,10 +1,10 @@
 #include "agenda/shared/trap.hpp"
 
-#include "agenda/contracts/failure_detail.hpp"
+#include "agenda/contracts/foreign_failure.hpp"
 #include "agenda/shared/modConstantes.hpp"
 #include "agenda/shared/modMensagemDeErro.hpp"
 
-#include <new>
+#include <exception>
 #include <string>
 
 namespace kova::agenda {
@@ -22,13 +22,8 @@ Failure Current()
 {
     try {
         throw;
-    } catch (const Failure& failure) {
-        return failure;
-    } catch (const std::bad_alloc&) {
-        return Failure(FailureNumber::OutOfMemory);
     } catch (const std::exception& error) {
-        const Failure failure(FailureNumber::InvalidArgument);
-        return Failure(failure.Number(), WithDetail(failure.Description(), error.what()));
+        return AsFailure(error);
     }
 }
 

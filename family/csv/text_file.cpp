@@ -1,5 +1,6 @@
 #include "family/csv/text_file.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "system/path_text.hpp"
 
 #include <cerrno>
@@ -26,7 +27,7 @@ void CheckKind(const std::string& path)
     if (status.type() == fs::file_type::not_found)
         Refuse(path, "não existe. Verifique o caminho.");
     if (error)
-        Refuse(path, "não pode ser lido. Verifique o caminho e as permissões. (" + error.message() + ")");
+        Refuse(path, WithDetail("não pode ser lido. Verifique o caminho e as permissões.", error.message()));
     if (status.type() == fs::file_type::directory)
         throw std::runtime_error("\"" + path + "\" é uma pasta. Informe o caminho de um arquivo CSV.");
     if (status.type() != fs::file_type::regular)

@@ -1,5 +1,7 @@
 #include "host/first_start/source_trial.hpp"
 
+#include "family/data/engine/failure_words.hpp"
+
 #include <QMetaObject>
 
 #include <exception>
@@ -23,7 +25,7 @@ void SourceTrial::Begin(const std::string& source, std::function<void(const Refu
         try {
             refusal = look_(source);
         } catch (const std::exception& failure) {
-            refusal = failure.what();
+            refusal = family::WordsFor(failure);
         }
         QMetaObject::invokeMethod(
             this, [this, refusal] { End(refusal); }, Qt::QueuedConnection);

@@ -1,5 +1,6 @@
 #include "host/session/daily_backup.hpp"
 
+#include "family/data/engine/failure_words.hpp"
 #include "toolkits/qt/system_clock.hpp"
 
 #include <chrono>
@@ -61,7 +62,7 @@ template <class Step> void DailyBackup::Telling(Step step)
         step();
     } catch (const std::exception& failure) {
         End();
-        tell_(failure.what());
+        tell_(family::WordsFor(failure));
     }
 }
 

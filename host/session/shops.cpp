@@ -1,6 +1,6 @@
 #include "host/session/shops.hpp"
 
-#include "agenda/contracts/failure.hpp"
+#include "family/data/engine/failure_words.hpp"
 #include "host/arguments/call.hpp"
 #include "host/first_start/ask_for_shop.hpp"
 #include "host/folders.hpp"
@@ -46,10 +46,8 @@ std::optional<std::string> TryShop(const Options& options, SessionEnd& end)
         return std::nullopt;
     } catch (const arguments::BadArguments&) {
         throw;
-    } catch (const Failure& failure) {
-        return failure.Description();
     } catch (const std::exception& failure) {
-        return failure.what();
+        return family::WordsFor(failure);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "registers/importing/background_job.hpp"
 
 #include "family/data/engine/database_failure.hpp"
+#include "family/data/engine/failure_words.hpp"
 
 #include <QMetaObject>
 
@@ -27,7 +28,7 @@ void BackgroundJob::Begin(Work work, Tell tell)
         } catch (const family::DatabaseFailure& cause) {
             failure = stop.stop_requested() ? cause.Cause() : cause.Description();
         } catch (const std::exception& cause) {
-            failure = cause.what();
+            failure = family::WordsFor(cause);
         }
         Post([this, failure] { End(failure); });
     });

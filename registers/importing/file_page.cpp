@@ -1,7 +1,9 @@
 #include "registers/importing/file_page.hpp"
 
+#include "agenda/contracts/failure_detail.hpp"
 #include "family/csv/preview.hpp"
 #include "family/csv/registers/all_registers.hpp"
+#include "family/data/engine/failure_words.hpp"
 #include "family/registers/registers.hpp"
 #include "registers/importing/table.hpp"
 #include "screens/field_frame.hpp"
@@ -155,7 +157,7 @@ std::optional<csv::ImportOrder> FilePage::Order()
         return csv::ImportOrder{&Into(), path, std::move(file), separator,
                                 static_cast<Known>(known_->currentData().toInt())};
     } catch (const std::exception& failure) {
-        pathFrame_->Refuse(qt::Lines(failure.what()));
+        pathFrame_->Refuse(qt::Lines(WithoutDetail(family::WordsFor(failure))));
         return std::nullopt;
     }
 }

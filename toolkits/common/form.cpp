@@ -1,8 +1,9 @@
 #include "toolkits/common/form.hpp"
 
+#include "agenda/contracts/foreign_failure.hpp"
 #include "toolkits/common/toolkit.hpp"
 
-#include <new>
+#include <exception>
 
 namespace kova::toolkit {
 
@@ -119,12 +120,8 @@ void FormModel::ByUser(const std::function<void()>& action)
     const auto self = weak_from_this().lock();
     try {
         action();
-    } catch (const Failure& failure) {
-        toolkit_.UnhandledFailure(failure);
-    } catch (const std::bad_alloc&) {
-        toolkit_.UnhandledFailure(Failure(FailureNumber::OutOfMemory));
-    } catch (const std::exception& exception) {
-        toolkit_.UnhandledFailure(Failure(FailureNumber::InvalidArgument, exception.what()));
+    } catch (const std::exception& failure) {
+        toolkit_.UnhandledFailure(AsFailure(failure));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "tools/agenda-data/commands.hpp"
 
+#include "family/data/engine/failure_words.hpp"
 #include "family/data/engine/secrets_in_text.hpp"
 #include "family/data/engine/server_protection.hpp"
 
@@ -63,7 +64,7 @@ int Run(std::span<const std::string> words, DateTime now, std::ostream& output, 
         error << "agenda-data: " << family::WithoutSecrets(refusal.what()) << "\n";
         return 2;
     } catch (const std::exception& failure) {
-        error << "agenda-data: " << family::WithoutSecrets(failure.what()) << "\n";
+        error << "agenda-data: " << family::WithoutSecrets(family::WordsFor(failure)) << "\n";
         return 1;
     }
 }

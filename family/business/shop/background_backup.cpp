@@ -1,6 +1,7 @@
 #include "family/business/shop/background_backup.hpp"
 
 #include "family/data/copies/daily_backup.hpp"
+#include "family/data/engine/failure_words.hpp"
 
 #include <exception>
 
@@ -16,7 +17,7 @@ void BackgroundBackup::Run(const std::stop_token& stop)
     try {
         MakeDailyBackup(source_, day_, {{}, stop});
     } catch (const std::exception& failure) {
-        reason_ = failure.what();
+        reason_ = WordsFor(failure);
     }
     ended_ = true;
 }

@@ -1,6 +1,7 @@
 #include "family/data/engine/database_failure.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "family/data/engine/failure_words.hpp"
 #include "family/data/engine/long_work.hpp"
 #include "family/data/engine/server_client.hpp"
 #include "system/want_of_room.hpp"
@@ -118,18 +119,6 @@ std::optional<std::string> StateOnServer(const std::runtime_error& cause)
 {
     const ServerClient* client = LoadedServerClient();
     return client != nullptr ? client->StateOf(cause) : std::nullopt;
-}
-
-std::string AdviceFor(const std::error_code& cause)
-{
-    if (system::IsWantOfRoom(cause))
-        return "O disco está cheio. Libere espaço e tente novamente.";
-    if (cause == std::errc::no_such_file_or_directory)
-        return "A pasta não existe. Verifique o caminho.";
-    if (cause == std::errc::permission_denied || cause == std::errc::operation_not_permitted
-        || cause == std::errc::read_only_file_system)
-        return "Verifique as permissões da pasta ou escolha outra.";
-    return "Verifique o caminho e tente novamente.";
 }
 
 std::string Opening(const std::string& path) { return "Falha no banco de dados \"" + path + "\".\r\n"; }
