@@ -21,6 +21,8 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), text_(new QLabel(this))
     colours.setColor(QPalette::Window, Background);
     colours.setColor(QPalette::WindowText, Qt::black);
     setPalette(colours);
+    // Not the window's own, whatever it is.
+    setBackgroundRole(QPalette::Window);
     setAutoFillBackground(true);
 
     text_->setObjectName(QStringLiteral("aviso"));

@@ -288,6 +288,8 @@ TEST_F(TheMainWindow, HasAnIconThatIsNotEmptyInAnySize)
 TEST_F(TheMainWindow, TellsANoticeOnItsOwnGroundInAsManyLinesAsItNeeds)
 {
     QWidget window;
+    // The application's window does that, and children follow it.
+    window.setBackgroundRole(QPalette::Base);
     NoticeBar bar(&window);
     EXPECT_TRUE(bar.isHidden());
     const QString subject = QStringLiteral("cópia");
