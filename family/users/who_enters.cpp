@@ -18,7 +18,7 @@ std::vector<UserWhoEnters> UsersWhoEnter(Database& database)
     });
     std::erase_if(users, [&](const UserWhoEnters& user) {
         const auto secrets = FindByKey<SecretsRow>(database, user.code);
-        return !secrets || secrets->senha.IsNull();
+        return !secrets || (secrets->senha.IsNull() && secrets->pin.IsNull());
     });
     std::ranges::sort(users, {}, [](const UserWhoEnters& user) { return FoldText(user.name); });
     return users;

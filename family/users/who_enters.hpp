@@ -14,7 +14,8 @@ struct UserWhoEnters {
     std::string name;
 };
 
-/// Those who can sign in, by their names: active, in a role, with a password. Fails as Database::With.
+/// Those who can sign in or take the place of another, by their names: active, in a role, with a password or
+/// a PIN. Fails as Database::With.
 std::vector<UserWhoEnters> UsersWhoEnter(Database& database);
 
 } // namespace kova::family

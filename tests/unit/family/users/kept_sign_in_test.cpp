@@ -69,6 +69,20 @@ TEST_F(KeptSignIn, IsNothingThatCanBeMadeUp)
     EXPECT_FALSE(EnterBy("").IsDone()) << "what no token is made of lets in nobody either";
 }
 
+/// He takes the place by it, and is none whom this computer knows.
+TEST_F(KeptSignIn, EndsWithASecondUserWhoHasAPinAlone)
+{
+    const std::string token = SignInToken(Data(), 8);
+    GiveLia(Reception);
+    Run("update usuario set senha = null where codigo = 7");
+    EXPECT_TRUE(EnterBy(token).IsDone());
+    const Secret pin("2580");
+    EXPECT_EQ(SetPin(Data(), 7, &pin, ana_, Cheap).why, "");
+    EXPECT_FALSE(EnterBy(token).IsDone());
+    EXPECT_EQ(SignInToken(Data(), 8), "");
+    EXPECT_EQ(Names(), "8 Ana\n7 Lia\n");
+}
+
 /// The settings go along where somebody copies them to another computer.
 TEST_F(KeptSignIn, IsOfThisComputerAlone)
 {
