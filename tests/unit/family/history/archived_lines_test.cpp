@@ -3,6 +3,7 @@
 #include "tests/unit/family/history/history_fixture.hpp"
 
 #include "family/data/archive/audit_archive.hpp"
+#include "family/data/sources/file_connection.hpp"
 #include "family/registers/customers/customer_registers.hpp"
 
 #include <algorithm>
@@ -92,6 +93,41 @@ TEST_F(ArchivedLines, AreFoundByEachFilterAsTheyWereInTheShop)
     EXPECT_NE(std::ranges::find(writers, "8 - Marcos"), writers.end());
     archive_.reset();
     EXPECT_TRUE(Acts({}).empty());
+}
+
+TEST_F(ArchivedLines, AreFoundInAnArchiveOfAFormerProgramToo)
+{
+    OtherSaves(registers::AnimalRegister(), 50, {{"Cor", "Preto"}});
+    const Lines before = Acts(With(&Filter::text, "preto"));
+    ASSERT_EQ(before.size(), 1U);
+    Archive();
+    archive_.reset();
+    {
+        const std::string path = folder_ / "velha.auditoria";
+        Database archive(SqliteDialect(), FileConnection(path), path);
+        for (const char* what :
+             {"trigger palavras_da_linha_nova", "trigger palavras_da_linha_mudada",
+              "trigger palavras_da_linha_excluida", "table palavras_da_auditoria", "index auditoria_por_dia",
+              "index auditoria_por_usuario", "index auditoria_por_operacao", "index auditoria_por_tabela"})
+            archive.Session() << std::string("drop ") + what;
+    }
+    archive_ = OpenSearchableArchive(*here_);
+    ASSERT_TRUE(archive_);
+    EXPECT_EQ(Acts(With(&Filter::text, "preto")), before);
+}
+
+TEST_F(ArchivedLines, ThatAnArchivingWasCutOffBehindAreToldOnce)
+{
+    OtherSetsStatus(FullNumber, 3);
+    const Filter filter = OfRow("agendamento", FullNumber);
+    const Lines before = Acts(filter);
+    Archive();
+    const history::Lines archived = history::FindLines({*here_, archive_.get()}, lia_, filter, {}, 1);
+    Run("insert into auditoria (codigo, momento, usuario, posto, tabela, chave, operacao) values ("
+        + std::to_string(archived.lines.at(0).audit.code)
+        + ", '2026-11-20 09:30:00', '8 - Marcos', '', 'agendamento', " + std::to_string(FullNumber)
+        + ", 'alteracao')");
+    EXPECT_EQ(Acts(filter).size(), before.size());
 }
 
 TEST_F(ArchivedLines, AreNotUndone)

@@ -129,6 +129,7 @@ TEST_F(HistoryLines, ComeByTheirDaysAlsoWhereAWordStandsInThousandsOfThem)
                 expected.push_back(i);
     const Filter many = With([](Filter& filter) { filter.text = "pecan"; });
     ASSERT_EQ(history::FindingsFor(*here_, many).hasManyOfText, !TestsRunOnServer());
+    EXPECT_FALSE(history::FindingsFor(*here_, {}).hasManyOfText);
     EXPECT_EQ(Find(many, 500).back().key, expected[499]);
     std::vector<Key> keys;
     std::optional<Line> last;
