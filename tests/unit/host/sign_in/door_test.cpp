@@ -256,6 +256,12 @@ TEST_F(TheDoor, AsksForTheIdleMinutesAndStaysWhereTheyCannotBeSaved)
     IdleMinutesDialog dialog(door, nullptr);
     dialog.show();
     auto& minutes = *dialog.findChild<QSpinBox*>(QStringLiteral("minutos"));
+    EXPECT_EQ(dialog.windowTitle(), "Bloqueio por inatividade");
+    EXPECT_EQ(
+        dialog.findChild<QLabel*>(QStringLiteral("explicacao"))->text(),
+        "Vale para todos os postos da loja: a tela de um posto sem uso é bloqueada, e continua quem entrar "
+        "com o PIN ou a senha. Com 0 minutos ela nunca é bloqueada sozinha.");
+    EXPECT_EQ(minutes.accessibleName(), "Minutos sem uso");
     EXPECT_EQ(minutes.value(), 15);
     minutes.setValue(5);
     Execute("create trigger nada before insert on ajuste begin select raise(abort, 'nada'); end");
@@ -368,6 +374,7 @@ TEST_F(TheDoor, AsksOnceForALockAndChangesNoPlaceMeanwhile)
     const QPointer<QWidget> changing = QApplication::activeModalWidget();
     ASSERT_TRUE(changing);
     EXPECT_EQ(changing->windowTitle(), "Trocar usuário");
+    EXPECT_EQ(Why(), "Quem vai usar este posto agora? O que está na tela continua como está.");
     door.Lock();
     EXPECT_FALSE(changing);
     const QPointer<QWidget> lock = QApplication::activeModalWidget();
@@ -376,6 +383,9 @@ TEST_F(TheDoor, AsksOnceForALockAndChangesNoPlaceMeanwhile)
     door.Change();
     EXPECT_EQ(QApplication::activeModalWidget(), lock);
     EXPECT_EQ(lock->windowTitle(), "Bloqueado - Kovaris");
+    EXPECT_EQ(Why(),
+              "A tela está bloqueada. O que estava nela continua como estava, também para outro usuário que "
+              "entre agora.");
     door_.reset();
 }
 
