@@ -149,7 +149,7 @@ TEST_F(ShopsOfThisComputer, AreAskedForAtFirstAndRememberedThen)
 // Whoever has just given a name and a password is not asked for them.
 TEST_F(ShopsOfThisComputer, AreMadeStepByStepAndOpenWithWhoeverMadeThem)
 {
-    const QString file = QString::fromStdString(Database()) + QStringLiteral("-nova.db");
+    const QString file = QString::fromStdString(system::TextOf(Folder() / "nova.db"));
     std::string title;
     PressesInTheQuestion("criar").Does("make a shop", [&] {
         Type("fantasia", QStringLiteral("Pet Novo"));
