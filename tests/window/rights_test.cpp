@@ -208,6 +208,37 @@ TEST_F(RightsInTheAgenda, EndForWhomAnotherDeskHasDeactivated)
     EXPECT_EQ(Value("select count(*) from agendamento where situacao = 3"), "0");
 }
 
+TEST_F(RightsInTheAgenda, LeaveWhatIsTypedInARegisterBelowTheLock)
+{
+    std::string typed;
+    bool isLocked = false;
+    const auto name = [] {
+        QLineEdit* found = nullptr;
+        for (QLineEdit* one : Window()->findChildren<QLineEdit*>(QStringLiteral("Nome")))
+            found = one->isVisible() ? one : found;
+        return found;
+    };
+    Enters("Lia", "Laço Azul 22");
+    receptionist->WaitsFor(List).Presses("Alt+2");
+    receptionist->WaitsUntil("the registers are there", [name] { return name() != nullptr; })
+        .Does("type", [name] {
+            Fill(*name(), QStringLiteral("Zélia"));
+            QTest::keyClick(name(), Qt::Key_L, Qt::ControlModifier);
+        });
+    receptionist->WaitsUntil("it is locked", [] { return IsReady(); }).Does("look", [&] {
+        isLocked = Question()->windowTitle() == QStringLiteral("Bloqueado - Kovaris");
+    });
+    Enters("Lia", "2580");
+    receptionist->WaitsUntil("Lia is back", [] { return Question() == nullptr; }).Does("look", [&, name] {
+        typed = name()->text().toStdString();
+        QTest::keyClick(name(), Qt::Key_Escape);
+    });
+    receptionist->AnswersByMouse(Reply::Yes).Does("leave", [] { Window()->close(); });
+    Run();
+    EXPECT_TRUE(isLocked);
+    EXPECT_EQ(typed, "Zélia");
+}
+
 /// The history is there for whoever may see it.
 class RightToSeeTheHistory : public RightsInTheAgenda {
 protected:
