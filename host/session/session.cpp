@@ -121,13 +121,14 @@ private:
     void RequireDay() const;
     int RunWindow();
     void BackUpDaily();
-    void BeginReports();
+    void TellOfFailure();
     int PaintWindow();
     int DrawWindow();
 
     const Options& options_;
     Outlet outlet_;
     RememberedShops remembered_{SettingsFile()};
+    const FatalReports reports_{FatalReportsFolder()};
     std::optional<ChosenShop> next_;
     Registry registry_;
     SessionClock clock_;
@@ -149,6 +150,9 @@ private:
 
 SessionEnd Session::Run()
 {
+    if (outlet_ == Outlet::Window && !options_.firstPaint)
+        reports_.Begin(family::IsServer(options_.database) ? "uma loja em um servidor"
+                                                           : "uma loja em um arquivo");
     SetUpComponents(registry_, server_, ProgramFolder());
     Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
@@ -173,6 +177,7 @@ SessionEnd Session::Run()
     door_->Watch(*window_);
     FillMenu();
     history_->AddTo(*window_);
+    AddHelp(*window_, GuideFile(), OpenOnDesktop);
     GuardAgenda();
     registers_->Offer(history_->Actions());
     window_->ShowNotice(Update, QString::fromStdString(shop.update));
@@ -193,7 +198,6 @@ void Session::FillMenu()
             TurnTo(*chosen);
     });
     AddRememberedShops();
-    AddHelp(*window_, GuideFile(), OpenOnDesktop);
 }
 
 void Session::AddRememberedShops()
@@ -294,21 +298,19 @@ void Session::BackUpDaily()
         backup_->Begin();
         LoadComponents(registry_, server_);
         newer_.Watch();
-        BeginReports();
+        TellOfFailure();
     });
 }
 
-void Session::BeginReports()
+void Session::TellOfFailure()
 {
-    const FatalReports reports(FatalReportsFolder());
-    if (reports.TakeNews()
+    if (reports_.TakeNews()
         && screens::AskWhether(
             *window_,
             QStringLiteral("Da última vez o programa terminou por uma falha. O que estava gravado "
                            "continua gravado.\n\nUm relato para quem cuida do sistema ficou em uma "
                            "pasta deste computador; ele não tem dados da loja. Abrir essa pasta?")))
-        OpenOnDesktop(QUrl::fromLocalFile(QString::fromStdString(system::TextOf(reports.Folder()))));
-    reports.Begin(family::IsServer(options_.database) ? "uma loja em um servidor" : "uma loja em um arquivo");
+        OpenOnDesktop(QUrl::fromLocalFile(QString::fromStdString(system::TextOf(reports_.Folder()))));
 }
 
 void Session::RequireDay() const
