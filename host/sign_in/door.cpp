@@ -39,9 +39,11 @@ std::vector<std::string> NamesOf(const std::vector<family::UserWhoEnters>& users
 /// What a key does, whatever window has the keyboard; null where it does nothing.
 auto ActOf(const QKeyEvent& key, bool hasUsers) -> void (Door::*)()
 {
-    if (key.key() == Qt::Key_U && key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier))
+    if (key.modifiers() != (Qt::ControlModifier | Qt::ShiftModifier))
+        return nullptr;
+    if (key.key() == Qt::Key_U)
         return &Door::Change;
-    if (key.key() == Qt::Key_L && key.modifiers() == Qt::ControlModifier && hasUsers)
+    if (key.key() == Qt::Key_L && hasUsers)
         return &Door::Lock;
     return nullptr;
 }
@@ -292,8 +294,7 @@ void Door::FollowIdleness()
     idle_->SetPatience(std::chrono::minutes(locks ? IdleMinutes() : 0));
 }
 
-// A shortcut of the window would be none where a form is open over it. One that an area has of its own, such
-// as Ctrl+L of a list that is filtered, is not seen here: the area's comes first.
+// A shortcut of the window would be none where a form is open over it.
 bool Door::eventFilter(QObject* object, QEvent* event)
 {
     // Whoever turns to the program, and whatever window has closed over another: something may have changed.

@@ -56,10 +56,10 @@ public:
     /// Asks who it is, where the shop has users and this computer does not keep the answer. False where the
     /// question is left. Fails with a DatabaseFailure.
     bool Enter();
-    /// From then on Ctrl+Shift+U lets another take the place and Ctrl+L locks the window, over every window
-    /// of the application; it is locked, too, when nobody is at it, and when whoever is there is no user of
-    /// the shop any more. What other desks change of his rights is told to the areas. The window must outlive
-    /// the door.
+    /// From then on Ctrl+Shift+U lets another take the place and Ctrl+Shift+L locks the window, over every
+    /// window of the application; it is locked, too, when nobody is at it, and when whoever is there is no
+    /// user of the shop any more. What other desks change of his rights is told to the areas. The window must
+    /// outlive the door.
     void Watch(MainWindow& window);
 
     /// Another one takes the place; nothing on the screen is lost. Nothing happens where somebody is asked

@@ -50,7 +50,7 @@ void AddDoorToMenu(Door& door, MainWindow& window, bool mayBegin)
     };
     entries.ofUsers.push_back(
         add(QStringLiteral("&Trocar usuário...\tCtrl+Shift+U"), [&door] { door.Change(); }));
-    entries.ofUsers.push_back(add(QStringLiteral("&Bloquear agora\tCtrl+L"), [&door] { door.Lock(); }));
+    entries.ofUsers.push_back(add(QStringLiteral("&Bloquear agora\tCtrl+Shift+L"), [&door] { door.Lock(); }));
     entries.ofUsers.push_back(
         add(QStringLiteral("&Mudar minha senha..."), [&door, &window] { ChangeMySecrets(door, window); }));
     entries.ofAdministrators.push_back(add(QStringLiteral("Bloqueio por &inatividade..."),

@@ -97,7 +97,7 @@ Act Chooser::Choose()
     if (chance_.InHundred(4))
         return Seldom();
     if (hasUsers_ && !SignInInFront() && chance_.InHundred(4))
-        return Key(chance_.OneOf<std::string>({"Ctrl+Shift+U", "Ctrl+Shift+U", "Ctrl+L"}));
+        return Key(chance_.OneOf<std::string>({"Ctrl+Shift+U", "Ctrl+Shift+U", "Ctrl+Shift+L"}));
     if (QApplication::activePopupWidget())
         return InPopup();
     if (SignInInFront())
@@ -237,8 +237,9 @@ Act Chooser::InSignIn()
     }
     case 1: return Key(chance_.OneOf<std::string>({"Tab", "Return", "Down", "F4", "Alt+E", "Ctrl+Z", "Del"}));
     case 2:
-        return Key(chance_.OneOf<std::string>({"Alt+1", "Alt+2", "F2", "F5", "Ctrl+1", "Ctrl+3", "Ctrl+S",
-                                               "Ctrl+L", "Ctrl+Shift+U", "F10", "Ctrl+H", "Alt+F4"}));
+        return Key(
+            chance_.OneOf<std::string>({"Alt+1", "Alt+2", "F2", "F5", "Ctrl+1", "Ctrl+3", "Ctrl+S", "Ctrl+L",
+                                        "Ctrl+Shift+L", "Ctrl+Shift+U", "F10", "Ctrl+H", "Alt+F4"}));
     case 3: return Somewhere(Verb::Press, chance_.InHundred(50) ? "@main" : "@front");
     default:
         if (MainWindow() == nullptr)

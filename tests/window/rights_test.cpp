@@ -154,7 +154,7 @@ TEST_F(RightsInTheAgenda, ShutTheSavingOfARecordThatIsOpenWhenTheRightIsTakenAwa
         Deny("agendamento.alterar");
     });
     // The key works in a record, too, and whoever comes back finds what was typed.
-    receptionist->Presses("Ctrl+L");
+    receptionist->Presses("Ctrl+Shift+L");
     Enters("Lia", "2580");
     receptionist->WaitsUntil("it is shut", [&] { return IsRecordOpen() && salvar() != "open"; }).Looks([&] {
         after = salvar();
@@ -223,7 +223,7 @@ TEST_F(RightsInTheAgenda, LeaveWhatIsTypedInARegisterBelowTheLock)
     receptionist->WaitsUntil("the registers are there", [name] { return name() != nullptr; })
         .Does("type", [name] {
             Fill(*name(), QStringLiteral("Zélia"));
-            QTest::keyClick(name(), Qt::Key_L, Qt::ControlModifier);
+            QTest::keyClick(name(), Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
         });
     receptionist->WaitsUntil("it is locked", [] { return IsReady(); }).Does("look", [&] {
         isLocked = Question()->windowTitle() == QStringLiteral("Bloqueado - Kovaris");

@@ -156,7 +156,7 @@ TEST_F(ShopWithUsers, IsLockedAndCoveredUntilSomebodySignsIn)
     std::string name, title;
     bool isCovered = false, isStillLocked = false, isCoveredAfter = true;
     const auto cover = [] { return Window()->findChild<QWidget*>(QStringLiteral("cobertura")); };
-    receptionist->WaitsFor(List).Presses("Ctrl+L");
+    receptionist->WaitsFor(List).Presses("Ctrl+Shift+L");
     receptionist->WaitsUntil("it is locked", [] { return IsReady(); }).Does("look", [&, cover] {
         name = In<QComboBox>(Question(), "nome").currentText().toStdString();
         isCovered = cover() != nullptr && cover()->isVisible() && cover()->geometry() == Window()->rect();

@@ -30,7 +30,7 @@ TEST_F(UsersOfTheShop, BeginsWithTheFirstByTheMenu)
 {
     int offered = 0;
     std::string title;
-    receptionist->WaitsFor(List).Presses("Ctrl+Shift+U").Presses("Ctrl+L").WaitsFor(List).Looks([&] {
+    receptionist->WaitsFor(List).Presses("Ctrl+Shift+U").Presses("Ctrl+Shift+L").WaitsFor(List).Looks([&] {
         offered = Question() != nullptr;
     });
     receptionist->Presses("F10").Picks("&Começar a usar usuários...");
@@ -176,7 +176,7 @@ TEST_F(UsersOfTheShop, ChangeTheirOwnPasswordByTheMenu)
             Fill(In<QLineEdit>(dialog, "senhaAtual"), QStringLiteral("Laço Azul 22"));
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         });
-    receptionist->WaitsFor(List).Presses("Ctrl+L");
+    receptionist->WaitsFor(List).Presses("Ctrl+Shift+L");
     Enters("", "Laço Verde 33");
     receptionist->WaitsFor(List).Leaves();
     Run();
