@@ -4,7 +4,9 @@
 #include "family/business/shop/company_selection.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
+#include "family/demo/fictional_shop.hpp"
 #include "family/demo/shop.hpp"
+#include "family/users/user_rights.hpp"
 
 namespace kova::family {
 
@@ -40,6 +42,8 @@ std::span<const Property<DatabaseComponent>> DatabaseComponent::Properties()
         {"Existe", &DatabaseComponent::Existe},
         {"NomeFantasia", &DatabaseComponent::NomeFantasia},
         {"Atualizacao", &DatabaseComponent::Atualizacao},
+        {"TemUsuarios", &DatabaseComponent::TemUsuarios},
+        {"Demonstracao", &DatabaseComponent::Demonstracao},
         {"OcultarPrecos", nullptr, &DatabaseComponent::OcultarPrecos},
         {"CopiaDoDiaTerminou", &DatabaseComponent::CopiaDoDiaTerminou},
         {"FalhaDaCopiaDoDia", &DatabaseComponent::FalhaDaCopiaDoDia},
@@ -73,6 +77,8 @@ Value DatabaseComponent::Abrir(std::span<Argument>)
         const std::vector<std::string> names = SelectTradeNames(Data());
         tradeName_ = names.empty() ? Text() : names.front();
         update_ = Told(TakeMigrationReport(Host().DataSource()));
+        hasUsers_ = HasUsers(Data());
+        isFictional_ = IsFictional(Data());
     });
 }
 

@@ -30,6 +30,11 @@ private:
     /// older.
     Value Atualizacao() const { return update_; }
 
+    /// Boolean: whether the shop had users when Abrir looked; false before.
+    Value TemUsuarios() const { return hasUsers_; }
+    /// Boolean: whether it is a fictional shop, in which nothing that is booked counts; false before Abrir.
+    Value Demonstracao() const { return isFictional_; }
+
     /// Boolean: whoever is at the desk may not see prices and costs, so that what the components show of them
     /// is empty from then on. Write-only.
     void OcultarPrecos(const Value& value);
@@ -54,6 +59,7 @@ private:
 
     Text tradeName_;
     Text update_;
+    bool hasUsers_ = false, isFictional_ = false;
     std::unique_ptr<BackgroundBackup> backup_;
 };
 

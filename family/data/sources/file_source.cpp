@@ -13,34 +13,41 @@ namespace kova::family {
 namespace {
 
 /// Version of the schema; 0 where the tables are another program's.
-int ReadVersion(const std::string& path)
+int ReadVersion(Database& database)
 {
-    const std::unique_ptr<Database> database = ConnectForReading(path);
     try {
-        return VersionOf(*database);
+        return VersionOf(database);
     } catch (const soci::soci_error& cause) {
-        throw TranslatedFailure(path, cause);
+        throw TranslatedFailure(database.Path(), cause);
     }
 }
 
-std::optional<std::string> CheckVersion(const std::string& path, Migrations migrations)
+std::optional<std::string> RefusalOfVersion(Database& database, Migrations migrations)
 {
-    const int version = ReadVersion(path);
+    const int version = ReadVersion(database);
     if (version == 0)
-        return "O arquivo \"" + path + "\" não é um banco de dados da agenda. Escolha outro arquivo.";
-    return RefusalOfNewer(path, version, migrations);
+        return "O arquivo \"" + database.Path()
+            + "\" não é um banco de dados da agenda. Escolha outro arquivo.";
+    return RefusalOfNewer(database.Path(), version, migrations);
 }
 
 using FileCheck = std::optional<std::string> (*)(const std::string& path);
 
-std::optional<std::string> CheckBoth(const std::string& path, FileCheck checkFile, Migrations migrations)
+/// What a look at a file has shown: why it cannot be opened, or a connection that has read it.
+struct Looked {
+    std::optional<std::string> refusal;
+    std::unique_ptr<Database> reading;
+};
+
+Looked LookAt(const std::string& path, FileCheck checkFile, Migrations migrations)
 {
     try {
         if (auto refusal = checkFile(path))
-            return refusal;
-        return CheckVersion(path, migrations);
+            return {std::move(refusal), nullptr};
+        auto reading = ConnectForReading(path);
+        return {RefusalOfVersion(*reading, migrations), std::move(reading)};
     } catch (const Failure& failure) {
-        return failure.Description();
+        return {failure.Description(), nullptr};
     }
 }
 
@@ -94,23 +101,27 @@ void CloseFile(Database* database)
 
 std::optional<std::string> CheckFileSource(const std::string& path, Migrations migrations)
 {
-    return CheckBoth(path, CheckExistingFile, migrations);
+    return LookAt(path, CheckExistingFile, migrations).refusal;
 }
 
 std::unique_ptr<Database> OpenFileForReading(const std::string& path)
 {
-    if (const auto refusal = CheckBoth(path, CheckReadableFile, CurrentMigrations()))
-        throw DatabaseFailure(*refusal);
-    return ConnectForReading(path);
+    Looked looked = LookAt(path, CheckReadableFile, CurrentMigrations());
+    if (looked.refusal)
+        throw DatabaseFailure(*looked.refusal);
+    return std::move(looked.reading);
 }
 
 std::shared_ptr<Database> OpenFile(const std::string& path, Migrations migrations, MigrationReport* done)
 {
-    if (const auto refusal = CheckFileSource(path, migrations))
-        throw DatabaseFailure(*refusal);
+    Looked looked = LookAt(path, CheckExistingFile, migrations);
+    if (looked.refusal)
+        throw DatabaseFailure(*looked.refusal);
     KeepFromOthers(path);
     const int newest = NewestVersion(migrations);
     std::unique_ptr<Database> database = ConnectForWork(path);
+    // Not sooner: the last one to leave a file takes its log along, which the next one would make again.
+    looked.reading.reset();
     if (!IsOfVersion(*database, newest)) {
         database.reset();
         const MigrationReport report = MigrateFile(path, migrations);

@@ -50,6 +50,8 @@ TEST_F(TheDatabaseComponent, MakesTheDemonstrationShopAndOpensIt)
     EXPECT_EQ(component.Get("NomeFantasia"), Value(""));
     ASSERT_EQ(component.Call("Abrir"), Value(Integer(0)));
     EXPECT_EQ(component.Get("NomeFantasia"), Value("Pet Shop Amigo Fiel"));
+    EXPECT_EQ(component.Get("Demonstracao"), Value(true));
+    EXPECT_EQ(component.Get("TemUsuarios"), Value(false));
     Agenda agenda(host_);
     EXPECT_EQ(agenda.Call("Selecionar", DayArguments("20/11/2026")), Value(Integer(0)));
     EXPECT_GE(ResultOf(agenda)->RecordCount(), 36);
