@@ -159,8 +159,8 @@ SessionEnd Session::Run()
     user_ = std::make_shared<SessionUser>(NoUser, NameOfUser());
     door_ = std::make_unique<Door>(Door::Surroundings{SourceOf(options_), shop.tradeName,
                                                       KeptEntries(SettingsFile()), user_, userChange_, clock_,
-                                                      options_.entry});
-    if (!Admit(*door_, options_, outlet_))
+                                                      options_.entry, shop.hasUsers});
+    if (!Admit(*door_, shop, options_, outlet_))
         return {EXIT_SUCCESS, std::nullopt};
     registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_, userChange_);
     history_ = std::make_unique<HistoryTab>(SourceOf(options_), user_, clock_, userChange_);

@@ -41,7 +41,8 @@ Shop OpenShop(ComponentService& components, const fs::path& path, bool makeDemon
         Do(*database, "CriarDemonstracao", {today});
     }
     Do(*database, "Abrir");
-    return {database->Get("NomeFantasia").ToText(), database->Get("Atualizacao").ToText()};
+    return {database->Get("NomeFantasia").ToText(), database->Get("Atualizacao").ToText(),
+            database->Get("TemUsuarios").ToBoolean(), database->Get("Demonstracao").ToBoolean()};
 }
 
 } // namespace kova::host

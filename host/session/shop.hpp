@@ -13,6 +13,9 @@ struct Shop {
     std::string tradeName;
     /// What was done to bring an older one up to date, for the user; "" where it was not older.
     std::string update;
+    bool hasUsers = false;
+    /// Nothing that is booked in it counts.
+    bool isFictional = false;
 };
 
 /// Opens the data source of the host at `path` through the database component, for the whole process. Where

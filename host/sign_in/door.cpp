@@ -2,11 +2,10 @@
 
 #include "family/business/current_author.hpp"
 #include "family/data/sources/data_source.hpp"
-#include "family/users/idle_lock.hpp"
 #include "family/users/kept_sign_in.hpp"
 #include "family/users/standing.hpp"
-#include "family/users/user_rights.hpp"
 #include "family/users/who_enters.hpp"
+#include "host/first_paint.hpp"
 #include "host/session/session_user.hpp"
 #include "host/session/user_change.hpp"
 #include "host/shell/main_window.hpp"
@@ -19,6 +18,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace kova::host {
@@ -52,13 +52,15 @@ auto ActOf(const QKeyEvent& key, bool hasUsers) -> void (Door::*)()
 
 Door::Door(Surroundings surroundings)
     : surroundings_(std::move(surroundings)),
-      atStart_(family::OpenDatabase(surroundings_.source)),
-      hasUsers_(family::HasUsers(*atStart_)),
-      idleMinutes_(family::IdleMinutes(*atStart_)),
+      hasUsers_(surroundings_.hasUsers),
       trial_(new SignInTrial(surroundings_.source, surroundings_.clock, this)),
       idle_(new IdleWatch(this)),
       standing_(new StandingWatch(surroundings_.source, this))
 {
+    if (hasUsers_) {
+        atStart_ = family::OpenDatabase(surroundings_.source);
+        idleMinutes_ = family::IdleMinutes(*atStart_);
+    }
     idle_->onIdle = [this] { Lock(); };
     standing_->onChanged = [this](const family::Standing& now, const auto& before) { Hear(now, !before); };
 }
@@ -167,6 +169,7 @@ void Door::LetIn(const SignInAnswer& answer)
     hasSignedIn_ = true;
     surroundings_.user->Become(static_cast<Long>(answer.code), answer.name);
     surroundings_.kept.SetLastName(surroundings_.source, answer.name);
+    rightsAtEntry_ = answer.rights;
     isAdministrator_ = answer.rights.contains(family::Right::AdministerUsers);
     if (window_ != nullptr)
         window_->TellUser(QString::fromStdString(answer.name));
@@ -183,7 +186,11 @@ void Door::Watch(MainWindow& window)
     QCoreApplication::instance()->installEventFilter(this);
     surroundings_.change.Follow(*this, [this] { FollowIdleness(); });
     FollowIdleness();
-    FollowUser();
+    // The day does not wait for it.
+    AfterFirstPaint(window, [door = QPointer(this)] {
+        if (door)
+            door->FollowUser();
+    });
 }
 
 void Door::FollowUser()
@@ -192,13 +199,20 @@ void Door::FollowUser()
         standing_->Follow(surroundings_.user->Code());
 }
 
+bool Door::AreOthersThanAtEntry(const family::DeniedRights& denied) const
+{
+    return std::ranges::any_of(family::AllRights(), [&](const family::RightInfo& one) {
+        return rightsAtEntry_.contains(one.right) == denied.contains(one.right);
+    });
+}
+
 void Door::Hear(const family::Standing& now, bool isFirst)
 {
     const bool hadUsers = std::exchange(hasUsers_, hasUsers_ || now.hasUsers);
     isAdministrator_ = hasUsers_ && !now.denied.contains(family::Right::AdministerUsers);
     idleMinutes_ = now.idleMinutes;
     FollowIdleness();
-    if (!isFirst || hadUsers != hasUsers_)
+    if (!isFirst || hadUsers != hasUsers_ || (hasSignedIn_ && AreOthersThanAtEntry(now.denied)))
         surroundings_.change.Tell();
     if (hasUsers_ && !hasSignedIn_)
         LockFor(

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "agenda/contracts/platform.hpp"
+#include "family/users/idle_lock.hpp"
+#include "family/users/user_rights.hpp"
 #include "host/sign_in/kept_entries.hpp"
 #include "host/sign_in/sign_in_dialog.hpp"
 #include "registers/desk.hpp"
@@ -39,9 +41,11 @@ public:
         const Clock& clock;
         /// By which whoever has just made the shop is let in; "" where somebody is asked.
         std::string entry = {};
+        /// As far as is known; it is looked at again.
+        bool hasUsers = false;
     };
 
-    /// Looks whether the shop has users. Fails with a DatabaseFailure.
+    /// Fails with a DatabaseFailure.
     explicit Door(Surroundings surroundings);
     ~Door() override;
 
@@ -93,6 +97,7 @@ private:
     bool IsNeverAsked() const;
     void FollowIdleness();
     void FollowUser();
+    bool AreOthersThanAtEntry(const family::DeniedRights& denied) const;
     void Hear(const family::Standing& now, bool isFirst);
     /// Covers everything, and asks who it is.
     void LockFor(const QString& why, const std::string& name);
@@ -101,7 +106,8 @@ private:
     /// Open until the window is watched: what is asked at the start is asked over one connection.
     std::shared_ptr<family::Database> atStart_;
     bool hasUsers_ = false, isAdministrator_ = false;
-    int idleMinutes_;
+    family::Rights rightsAtEntry_;
+    int idleMinutes_ = family::UsualIdleMinutes;
     SignInTrial* trial_;
     IdleWatch* idle_;
     StandingWatch* standing_;
