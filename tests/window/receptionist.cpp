@@ -21,6 +21,8 @@ namespace {
 
 constexpr int PollMilliseconds = 2;
 constexpr int PatienceMilliseconds = 30'000;
+/// What a session takes behind its last step, such as the end of a copy, on a slow computer.
+constexpr int LongestEndMilliseconds = 120'000;
 
 qt::FormWidget* FormIn(QWidget* top)
 {
@@ -360,6 +362,11 @@ void Receptionist::timerEvent(QTimerEvent* event)
 {
     killTimer(event->timerId());
     Arm();
+    if (steps_.empty() && waiting_.elapsed() > LongestEndMilliseconds) {
+        std::cerr << "nothing is left to be done, but the application has not ended: " << WhatIsInFront()
+                  << std::endl;
+        std::_Exit(EXIT_FAILURE);
+    }
     if (steps_.empty() || typing_)
         return;
     if (!FrontHasKeyboard() || !steps_.front().ready()) {

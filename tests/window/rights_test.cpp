@@ -233,7 +233,13 @@ TEST_F(RightsInTheAgenda, LeaveWhatIsTypedInARegisterBelowTheLock)
         typed = name()->text().toStdString();
         QTest::keyClick(name(), Qt::Key_Escape);
     });
-    receptionist->AnswersByMouse(Reply::Yes).Does("leave", [] { Window()->close(); });
+    receptionist->AnswersByMouse(Reply::Yes)
+        .WaitsUntil("it is given up",
+                    [name] {
+                        return QApplication::activeModalWidget() == nullptr
+                            && name()->text() != QStringLiteral("Zélia");
+                    })
+        .Does("leave", [] { Window()->close(); });
     Run();
     EXPECT_TRUE(isLocked);
     EXPECT_EQ(typed, "Zélia");
