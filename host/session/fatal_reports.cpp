@@ -5,8 +5,11 @@
 #include "system/system_name.hpp"
 
 #include <QDateTime>
+#include <QRegularExpression>
 #include <QtGlobal>
 
+#include <algorithm>
+#include <string_view>
 #include <vector>
 
 namespace kova::host {
@@ -15,14 +18,45 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What nobody has been told of ends so; the rest of the name stays.
-constexpr const char* Untold = ".novo.txt";
-constexpr const char* Told = ".txt";
+/// What nobody has been told of ends so; the rest of the name stays, the moment when its program began.
+constexpr std::string_view Untold = ".novo.txt";
+constexpr std::string_view Told = ".txt";
+constexpr const char* Moment = "yyyyMMdd-HHmmss-zzz";
+constexpr const char* NameOfReport = R"([0-9]{8}-[0-9]{6}-[0-9]{3}(\.novo)?\.txt)";
+
+/// Those of a program that fails each morning tell nothing more.
+constexpr std::size_t MostReports = 10;
 
 std::string HeadingOf(const std::string& opened, const QDateTime& start)
 {
     return "Kovaris " KOVARIS_VERSION "\nSistema: " + system::SystemName() + "\nQt: " + qVersion()
         + "\nAberto: " + opened + ", desde " + start.toString(Qt::ISODate).toStdString() + "\n\n";
+}
+
+/// From the oldest to the newest; what else lies in the folder is somebody else's.
+std::vector<fs::path> ReportsIn(const fs::path& folder)
+{
+    const QRegularExpression name(QRegularExpression::anchoredPattern(QLatin1String(NameOfReport)));
+    std::error_code error;
+    std::vector<fs::path> reports;
+    for (auto entry = fs::directory_iterator(folder, error); entry != end(entry); entry.increment(error)) {
+        const QString file = QString::fromStdString(system::TextOf(entry->path().filename()));
+        std::error_code unreadable;
+        if (name.match(file).hasMatch() && entry->symlink_status(unreadable).type() == fs::file_type::regular)
+            reports.push_back(entry->path());
+    }
+    std::ranges::sort(reports);
+    return reports;
+}
+
+/// What cannot be removed stays.
+void RemoveOldReports(const fs::path& folder)
+{
+    std::vector<fs::path> old = ReportsIn(folder);
+    old.resize(old.size() - std::min(old.size(), MostReports));
+    std::error_code error;
+    for (const fs::path& report : old)
+        fs::remove(report, error);
 }
 
 } // namespace
@@ -33,24 +67,22 @@ void FatalReports::Begin(const std::string& opened) const
     fs::create_directories(folder_, error);
     if (error)
         return;
+    RemoveOldReports(folder_);
     const QDateTime start = QDateTime::currentDateTime();
-    const QString name = start.toString(QStringLiteral("yyyyMMdd-HHmmss-zzz")) + QLatin1String(Untold);
-    system::WriteOnFatalFailure({folder_ / system::PathOf(name.toStdString()), HeadingOf(opened, start)});
+    const std::string name = start.toString(QLatin1String(Moment)).toStdString().append(Untold);
+    system::WriteOnFatalFailure({folder_ / system::PathOf(name), HeadingOf(opened, start)});
 }
 
 bool FatalReports::TakeNews() const
 {
-    std::error_code error;
-    std::vector<fs::path> untold;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder_, error)) {
-        if (system::TextOf(entry.path().filename()).ends_with(Untold))
-            untold.push_back(entry.path());
-    }
     bool taken = false;
-    for (const fs::path& report : untold) {
-        const std::string text = system::TextOf(report);
-        fs::rename(report, system::PathOf(text.substr(0, text.size() - std::string(Untold).size()) + Told),
-                   error);
+    for (const fs::path& report : ReportsIn(folder_)) {
+        std::string name = system::TextOf(report);
+        if (!name.ends_with(Untold))
+            continue;
+        name.replace(name.size() - Untold.size(), Untold.size(), Told);
+        std::error_code error;
+        fs::rename(report, system::PathOf(name), error);
         taken = taken || !error;
     }
     return taken;

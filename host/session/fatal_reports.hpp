@@ -14,8 +14,8 @@ public:
 
     const std::filesystem::path& Folder() const { return folder_; }
 
-    /// From now on a fault leaves one. `opened` says what kind of shop is open. Where the folder cannot be
-    /// made the program does without.
+    /// From now on a fault leaves one. `opened` says what kind of shop is open. Of those that are there the
+    /// last ten stay. Where the folder cannot be made the program does without.
     void Begin(const std::string& opened) const;
 
     /// Whether there is one that nobody has been told of, and none from then on.

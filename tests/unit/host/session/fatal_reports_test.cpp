@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <set>
+#include <string>
 #include <vector>
 
 namespace kova::host::test {
@@ -26,12 +28,29 @@ protected:
         });
     }
 
+    /// A program that ends as it should.
+    void Start() const
+    {
+        system::RunApart([this] {
+            reports_.Begin("uma loja em um arquivo");
+            return 0;
+        });
+    }
+
     std::vector<fs::path> Files() const
     {
         std::vector<fs::path> files;
         for (const auto& entry : fs::directory_iterator(reports_.Folder()))
             files.push_back(entry.path());
         return files;
+    }
+
+    std::set<std::string> Names() const
+    {
+        std::set<std::string> names;
+        for (const fs::path& file : Files())
+            names.insert(file.filename().string());
+        return names;
     }
 
     const TemporaryFolder home_;
@@ -63,12 +82,46 @@ TEST_F(TheFatalReports, TellVersionsAndWhatKindOfShopWasOpen)
 
 TEST_F(TheFatalReports, AreNoneWhereNothingFailed)
 {
-    system::RunApart([this] {
-        reports_.Begin("uma loja em um arquivo");
-        return 0;
-    });
+    Start();
     EXPECT_TRUE(Files().empty());
     EXPECT_FALSE(reports_.TakeNews());
+}
+
+TEST_F(TheFatalReports, StayUntilThereAreTenNewerOnes)
+{
+    fs::create_directories(reports_.Folder());
+    std::set<std::string> staying;
+    for (int hour = 10; hour < 22; ++hour) {
+        const std::string name =
+            "20261120-" + std::to_string(hour) + "0000-000" + (hour % 2 == 0 ? ".txt" : ".novo.txt");
+        WriteFile(reports_.Folder() / name, "SIGSEGV");
+        if (hour >= 12)
+            staying.insert(name);
+    }
+    Start();
+    EXPECT_EQ(Names(), staying);
+    EXPECT_TRUE(reports_.TakeNews());
+    Start();
+    EXPECT_EQ(Names().size(), 10U);
+}
+
+TEST_F(TheFatalReports, AreNotWhatSomebodyElseHasPutBesideThem)
+{
+    const std::set<std::string> others = {"20261119-080000-000.txt.bak", "20261119-080000-000.novo",
+                                          "20261119-080000.txt",         "leia-me.novo.txt",
+                                          "x20261119-080000-000.txt",    "20261119-080000-000.novo.txt"};
+    fs::create_directories(reports_.Folder() / "20261119-080000-000.novo.txt");
+    for (const std::string& name : others) {
+        if (!fs::exists(reports_.Folder() / name))
+            WriteFile(reports_.Folder() / name, "nota");
+    }
+    for (int minute = 10; minute < 20; ++minute)
+        WriteFile(reports_.Folder() / ("20261120-08" + std::to_string(minute) + "00-000.txt"), "SIGSEGV");
+    Start();
+    EXPECT_FALSE(reports_.TakeNews());
+    EXPECT_EQ(Names().size(), 16U);
+    for (const std::string& name : others)
+        EXPECT_TRUE(Names().contains(name)) << name;
 }
 
 TEST_F(TheFatalReports, AreDoneWithoutWhereTheirFolderCannotBeMade)
