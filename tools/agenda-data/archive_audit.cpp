@@ -2,6 +2,7 @@
 #include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
+#include "tools/agenda-data/told_migration.hpp"
 
 namespace kova::data {
 
@@ -32,6 +33,7 @@ int Run(const Call& call, Surroundings& surroundings)
         call.Refuse("Informe com --until o último ano cujas linhas vão para o arquivo.");
     if (until >= surroundings.now.date.year)
         call.Refuse("O ano informado com --until ainda não acabou.");
+    BringFileUpToDate(call.Operand(0), surroundings.error);
     const family::ArchivedYears archived =
         family::ArchiveAudit(call.Operand(0), until, call.Option("--to"), AuthorOf(call, surroundings),
                              ShownWork(surroundings.error, "Arquivamento"));

@@ -4,6 +4,7 @@
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/customer_option.hpp"
 #include "tools/agenda-data/shown_work.hpp"
+#include "tools/agenda-data/told_migration.hpp"
 
 namespace kova::data {
 
@@ -39,6 +40,8 @@ int Run(const Call& call, Surroundings& surroundings)
     const AnonymiseRequest request{CustomerOf(call), DecisionOf(call), call.Option("--archive")};
     const family::LongWork work = ShownWork(surroundings.error, "Auditoria");
     const bool isConfirmed = call.Has("--confirm");
+    if (isConfirmed)
+        BringFileUpToDate(source, surroundings.error);
     const AnonymiseAnswer answer = isConfirmed
         ? Anonymise(source, request, AuthorOf(call, surroundings), work)
         : PlanToAnonymise(source, request, family::IsoMoment(surroundings.now), work);

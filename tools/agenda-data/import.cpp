@@ -4,6 +4,7 @@
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/csv_options.hpp"
 #include "tools/agenda-data/progress.hpp"
+#include "tools/agenda-data/told_migration.hpp"
 
 #include <algorithm>
 
@@ -125,6 +126,7 @@ int Run(const Call& call, Surroundings& surroundings)
     surroundings.output << "Arquivo lido em " << csv::NameOf(order.file.encoding) << ".\n";
     if (call.Has("--dry-run"))
         return Rehearse(call, order, surroundings);
+    BringFileUpToDate(call.Operand(0), surroundings.error);
     const ImportReport report = csv::BringIn(call.Operand(0), order, AuthorOf(call, surroundings),
                                              surroundings.now, WatchOn(surroundings.error));
     if (!report.IsGood())

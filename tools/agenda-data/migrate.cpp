@@ -1,30 +1,13 @@
-#include "family/data/checks/rule_check.hpp"
 #include "family/data/copies/database_migration.hpp"
 #include "family/data/engine/server_connection.hpp"
-#include "family/data/sources/data_source.hpp"
+#include "family/data/migrations/current_migrations.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
+#include "tools/agenda-data/told_migration.hpp"
 
 namespace kova::data {
 
 namespace {
-
-/// What the new schema would not take any more stays as it was; somebody should know.
-void TellBrokenRows(const std::string& source, std::ostream& error)
-{
-    const std::unique_ptr<family::Database> database = family::OpenForReading(source);
-    std::vector<std::string> problems;
-    try {
-        family::FindBrokenRows(*database, problems);
-    } catch (const soci::soci_error& cause) {
-        throw family::TranslatedFailure(source, cause);
-    }
-    if (problems.empty())
-        return;
-    error << "Estes registros não seguem as regras e ficaram como estavam; corrija-os na agenda:\n";
-    for (const std::string& problem : problems)
-        error << problem << "\n";
-}
 
 std::optional<std::string> CopyAskedFor(const Call& call)
 {
@@ -43,10 +26,7 @@ int Run(const Call& call, Surroundings& surroundings)
         surroundings.output << "O banco de dados já está na versão " << report.after << ".\n";
         return 0;
     }
-    surroundings.output << "Banco de dados atualizado da versão " << report.before << " para a versão "
-                        << report.after << ".\n"
-                        << "Cópia de antes da atualização: " << report.copy << "\n";
-    TellBrokenRows(source, surroundings.error);
+    TellMigration(source, report, surroundings.output, surroundings.error);
     return 0;
 }
 

@@ -7,6 +7,7 @@
 #include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/password.hpp"
+#include "tools/agenda-data/told_migration.hpp"
 
 #include <optional>
 
@@ -31,6 +32,7 @@ int Run(const Call& call, Surroundings& surroundings)
     const std::string name = call.Option("--user").value_or("");
     if (name.empty())
         call.Refuse("Informe com --user de quem é a senha.");
+    BringFileUpToDate(call.Operand(0), surroundings.error);
     const std::shared_ptr<family::Database> database = family::OpenDatabase(call.Operand(0));
     const auto user = UserNamed(*database, name);
     if (!user) {

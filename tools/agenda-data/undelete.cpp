@@ -2,6 +2,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
+#include "tools/agenda-data/told_migration.hpp"
 
 namespace kova::data {
 
@@ -10,6 +11,7 @@ namespace {
 int Run(const Call& call, Surroundings& surroundings)
 {
     const long long number = call.Number(1);
+    BringFileUpToDate(call.Operand(0), surroundings.error);
     const std::shared_ptr<family::Database> database = family::OpenDatabase(call.Operand(0));
     const family::WriteAnswer answer =
         family::RestoreAppointment(*database, number, AuthorOf(call, surroundings));

@@ -6,6 +6,7 @@
 #include "tools/agenda-data/author.hpp"
 #include "tools/agenda-data/commands.hpp"
 #include "tools/agenda-data/shown_work.hpp"
+#include "tools/agenda-data/told_migration.hpp"
 
 #include <limits>
 #include <ranges>
@@ -102,6 +103,7 @@ int Undo(const Call& call, Surroundings& surroundings)
 {
     const std::optional<family::Key> number = GivenNumber(call);
     const ChangedRows changed = call.Has(KeepChanged) ? ChangedRows::Keep : ChangedRows::Refuse;
+    BringFileUpToDate(call.Operand(0), surroundings.error);
     const auto database = family::OpenForLongWork(call.Operand(0));
     const UndoneImport undone =
         family::registers::UndoImport(*database, number, changed, AuthorOf(call, surroundings),
