@@ -156,6 +156,9 @@ SessionEnd Session::Run()
     SetUpComponents(registry_, server_, ProgramFolder());
     Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
+    // Whoever sees no window reads it, also where nothing is drawn.
+    if (outlet_ != Outlet::Window && !shop.update.empty())
+        std::cerr << shop.update << std::endl;
     user_ = std::make_shared<SessionUser>(NoUser, NameOfUser());
     door_ = std::make_unique<Door>(Door::Surroundings{SourceOf(options_), shop.tradeName,
                                                       KeptEntries(SettingsFile()), user_, userChange_, clock_,

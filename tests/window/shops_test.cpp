@@ -2,12 +2,11 @@
 
 #include "tests/window/shop.hpp"
 
-#include "family/data/engine/database.hpp"
-#include "family/data/migrations/current_migrations.hpp"
 #include "host/folders.hpp"
 #include "host/session/remembered_shops.hpp"
 #include "host/session/shops.hpp"
 #include "system/path_text.hpp"
+#include "tests/support/first_shop.hpp"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -53,19 +52,6 @@ protected:
                 return top;
         }
         return nullptr;
-    }
-
-    /// A shop as the first version kept it.
-    static void MakeOlder(const std::string& file)
-    {
-        family::Database older(family::SqliteDialect(), "dbname=" + file, file);
-        family::Migrate(older.Session(), family::SqliteDialect(), family::CurrentMigrations().first(1));
-        for (const char* statement :
-             {"insert into empresa values (1, 'Patas', 'Patas Ltda', '', '', '')",
-              "insert into tipo_de_servico values (4, 'Banho', 'banho', 1)",
-              "insert into servico values (1, 'Banho', 'banho', '', 4, 60, 5000, 1000, null, 1)",
-              "insert into funcionario values (1, 'Lia', 'Lia', 'lia', 1, 1)"})
-            older.Session() << statement;
     }
 
     /// What the window tells below the list; "" where it tells nothing.
@@ -169,7 +155,7 @@ TEST_F(ShopsOfThisComputer, AreMadeStepByStepAndOpenWithWhoeverMadeThem)
 TEST_F(ShopsOfThisComputer, AreBroughtUpToDateAndSaySo)
 {
     const std::string file = system::TextOf(Folder() / "antiga.db");
-    MakeOlder(file);
+    kova::test::MakeFirstShop(file);
     std::string notice, again = "not looked at";
     receptionist->WaitsFor(List).Looks([&] { notice = Notice(); }).Leaves();
     EXPECT_EQ(RunShops(file), EXIT_SUCCESS);

@@ -2,6 +2,7 @@
 #include "family/demo/fictional_shop.hpp"
 #include "family/users/passwords.hpp"
 #include "host/session/remembered_shops.hpp"
+#include "tests/support/first_shop.hpp"
 #include "tests/unit/host/program_run.hpp"
 
 #include <QImage>
@@ -151,6 +152,31 @@ TEST(Start, OpensAShopThatWasJustCreated)
     EXPECT_EQ(result.errors, "");
     ExpectText(result.output, "Agenda de ");
     EXPECT_EQ(RowsIn(result.output), 0);
+}
+
+TEST(Start, WithoutAWindowSaysOnceThatAnOlderShopWasBroughtUpToDate)
+{
+    const TemporaryFolder home;
+    const std::string shop = home / "antiga.db";
+    kova::test::MakeFirstShop(shop);
+    const ProgramResult first = RunKovaris({"--database", shop}, home.Path());
+    EXPECT_EQ(first.status, 0) << first.errors;
+    ExpectText(first.errors, "A loja foi atualizada da versão 1 para a versão ");
+    ExpectText(first.errors, "copiada para \"" + shop + ".antes-da-versao-");
+    const ProgramResult second = RunKovaris({"--database", shop}, home.Path());
+    EXPECT_EQ(second.status, 0);
+    EXPECT_EQ(second.errors, "");
+}
+
+TEST(Start, ThatIsRefusedSaysThatAnOlderShopWasBroughtUpToDateBefore)
+{
+    const TemporaryFolder home;
+    const std::string shop = home / "antiga.db";
+    kova::test::MakeFirstShop(shop);
+    const ProgramResult result = RunKovaris({"--database", shop, "--user", "Ana"}, home.Path());
+    EXPECT_EQ(result.status, 2);
+    ExpectText(result.errors, "A loja foi atualizada da versão 1 para a versão ");
+    ExpectText(result.errors, "só valem em lojas de demonstração");
 }
 
 TEST(Start, TakesNoNameNoDayAndNoTimeForAShopThatIsReal)
