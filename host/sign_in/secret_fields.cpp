@@ -47,7 +47,12 @@ SecretFields::SecretFields(Password password, QWidget* parent)
     grid->addWidget(capitals_, 3, 0, 1, 2);
     setFocusProxy(passwords_.first);
     for (SecretBox* box : {passwords_.first, passwords_.second})
-        box->onCapitals = [this](bool isDown) { capitals_->setVisible(isDown); };
+        WatchCapitals(*box);
+}
+
+void SecretFields::WatchCapitals(SecretBox& box)
+{
+    box.onCapitals = [this](bool isDown) { capitals_->setVisible(isDown); };
 }
 
 SecretFields::Pair SecretFields::AddPair(const QString& name, const QString& label, const QString& again,

@@ -27,6 +27,8 @@ public:
     bool Accepts();
     /// The password is there already.
     void AskOnlyForPin();
+    /// Tells below the fields that the key for capitals is down while somebody types there.
+    void WatchCapitals(SecretBox& box);
     /// What is typed; null where nothing is.
     std::unique_ptr<family::Secret> NewPassword() const;
     std::unique_ptr<family::Secret> NewPin() const;

@@ -70,6 +70,7 @@ void SecretsDialog::AddFields(const Question& question, QVBoxLayout& layout)
     QLabel* explanation = screens::MakePlainLabel(QStringLiteral("explicacao"), this);
     explanation->setText(question.explanation);
     layout.addWidget(explanation);
+    secrets_ = new SecretFields(question.password, this);
     QWidget* first = nullptr;
     if (question.name) {
         auto* box = new QLineEdit(QString::fromStdString(*question.name));
@@ -83,13 +84,13 @@ void SecretsDialog::AddFields(const Question& question, QVBoxLayout& layout)
         auto* box = new SecretBox(QStringLiteral("senhaAtual"));
         current_ = new screens::FieldFrame(QStringLiteral("Senha &atual"), box, this, true);
         layout.addWidget(current_);
+        secrets_->WatchCapitals(*box);
         first = box;
     }
     for (screens::FieldFrame* frame : {name_, current_}) {
         if (frame != nullptr)
             connect(&BoxOf(*frame), &QLineEdit::textEdited, frame, [frame] { frame->Refuse({}); });
     }
-    secrets_ = new SecretFields(question.password, this);
     layout.addWidget(secrets_);
     removesPin_->setObjectName(QStringLiteral("tirarPin"));
     removesPin_->setVisible(question.mayRemovePin);

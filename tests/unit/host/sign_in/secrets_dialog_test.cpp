@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 
 namespace kova::host::test {
 
@@ -77,12 +78,28 @@ TEST_F(TheSecrets, OfferToTakeThePinAwayAndTellWhatAGoodPasswordIs)
     EXPECT_TRUE(removes);
 }
 
-TEST_F(TheSecrets, SayThatCapitalsAreOn)
+TEST_F(TheSecrets, SayThatCapitalsAreOnAsLongAsTheyAre)
 {
-    SecretsDialog dialog({.title = QStringLiteral("Senha")}, save_, nullptr);
+    SecretsDialog dialog({.title = QStringLiteral("Senha"), .asksForCurrent = true}, save_, nullptr);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     const auto& capitals = In<QLabel>(dialog, "maiusculas");
     EXPECT_EQ(capitals.text(), "Caps Lock está ligado.");
-    EXPECT_FALSE(capitals.isVisibleTo(&dialog));
+    EXPECT_FALSE(capitals.isVisible());
+    for (const char* name : {"senhaAtual", "senha", "senhaDeNovo"}) {
+        auto& box = In<QLineEdit>(dialog, name);
+        QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_G, QStringLiteral("G"), Qt::NoModifier);
+        EXPECT_TRUE(capitals.isVisible()) << name;
+        QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_1, QStringLiteral("1"), Qt::NoModifier);
+        EXPECT_TRUE(capitals.isVisible()) << "a digit tells nothing of it";
+        QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_G, QStringLiteral("G"), Qt::ShiftModifier);
+        EXPECT_FALSE(capitals.isVisible()) << name;
+        QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_G, QStringLiteral("g"), Qt::ShiftModifier);
+        EXPECT_TRUE(capitals.isVisible()) << name;
+        QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_G, QStringLiteral("g"), Qt::NoModifier);
+        EXPECT_FALSE(capitals.isVisible()) << name;
+        EXPECT_EQ(box.text(), "G1Ggg") << "it is typed all the same";
+    }
 }
 
 TEST_F(TheSecrets, AreAskedOnAComputerThatMayKeepTheAnswer)
