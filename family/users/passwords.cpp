@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <optional>
 
 namespace kova::family {
 
@@ -15,13 +17,72 @@ namespace {
 constexpr std::size_t ShortestPassword = 8, LongestPassword = 1000;
 constexpr std::size_t ShortestPin = 4, LongestPin = 8;
 
-/// The library wants to be begun once; its answer below 0 is that it cannot work here.
+/// Nothing has been found out about the secret, and nothing is kept of it.
+[[noreturn]] void FailWithoutMemory()
+{
+    throw Failure(FailureNumber::OutOfMemory,
+                  "A memória do computador acabou, e sem ela uma senha não pode ser conferida nem guardada. "
+                  "Feche outros programas e tente novamente.");
+}
+
+/// The library wants to be begun once; its answer below 0 is that the system has nothing left for it.
 void RequireLibrary()
 {
     static const int begun = sodium_init();
     if (begun < 0)
-        throw Failure(FailureNumber::OutOfMemory,
-                      "O programa não consegue proteger senhas neste computador.");
+        FailWithoutMemory();
+}
+
+/// What is kept of a secret, taken apart.
+struct KeptText {
+    PasswordCost cost{};
+    std::array<unsigned char, crypto_pwhash_SALTBYTES> salt{};
+    std::array<unsigned char, 32> hash{};
+};
+
+/// What stands before the mark, which goes with it; everything where there is no mark.
+std::string_view TakeUntil(std::string_view& text, std::string_view mark)
+{
+    const std::string_view taken = text.substr(0, text.find(mark));
+    text.remove_prefix(std::min(text.size(), taken.size() + mark.size()));
+    return taken;
+}
+
+/// Whether the text is a number from the least to the most.
+template <class Whole> bool ReadNumber(std::string_view text, Whole least, Whole most, Whole& number)
+{
+    const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && stop == text.data() + text.size() && number >= least && number <= most;
+}
+
+/// Whether the text is exactly as many bytes.
+template <std::size_t Size> bool ReadBytes(std::string_view text, std::array<unsigned char, Size>& bytes)
+{
+    std::size_t size = 0;
+    const char* stop = nullptr;
+    return sodium_base642bin(bytes.data(), Size, text.data(), text.size(), nullptr, &size, &stop,
+                             sodium_base64_VARIANT_ORIGINAL_NO_PADDING)
+        == 0
+        && size == Size && stop == text.data() + text.size();
+}
+
+/// Nothing where the text is none of HashOf's: "$argon2id$v=19$m=65536,t=3,p=1$SALT$HASH", m in kilobytes.
+std::optional<KeptText> TakeApart(std::string_view kept)
+{
+    constexpr std::size_t Kilobyte = 1024;
+    KeptText text;
+    if (TakeUntil(kept, "m=") != crypto_pwhash_STRPREFIX "v=19$")
+        return {};
+    const std::string_view memory = TakeUntil(kept, ",t="), passes = TakeUntil(kept, ",p=1$"),
+                           salt = TakeUntil(kept, "$");
+    if (!ReadNumber<std::size_t>(memory, crypto_pwhash_MEMLIMIT_MIN / Kilobyte,
+                                 crypto_pwhash_MEMLIMIT_MAX / Kilobyte, text.cost.bytes)
+        || !ReadNumber<unsigned long long>(passes, crypto_pwhash_OPSLIMIT_MIN, crypto_pwhash_OPSLIMIT_MAX,
+                                           text.cost.passes)
+        || !ReadBytes(salt, text.salt) || !ReadBytes(kept, text.hash))
+        return {};
+    text.cost.bytes *= Kilobyte;
+    return text;
 }
 
 std::size_t CountCharacters(std::string_view text)
@@ -77,16 +138,24 @@ std::string HashOf(const Secret& secret, const PasswordCost& cost)
     if (crypto_pwhash_str_alg(kept.data(), secret.Text().data(), secret.Text().size(), cost.passes,
                               cost.bytes, crypto_pwhash_ALG_ARGON2ID13)
         != 0)
-        throw Failure(FailureNumber::OutOfMemory);
+        FailWithoutMemory();
     return kept.data();
 }
 
-// The library reads the kept text up to its end mark: one that holds such a mark is none of ours.
+// The library can compare, too, but tells a secret that does not fit from memory that is not there by
+// nothing.
 bool IsHashOf(const std::string& kept, const Secret& secret)
 {
     RequireLibrary();
-    return kept.starts_with(crypto_pwhash_STRPREFIX) && kept.find('\0') == std::string::npos
-        && crypto_pwhash_str_verify(kept.c_str(), secret.Text().data(), secret.Text().size()) == 0;
+    const auto text = TakeApart(kept);
+    if (!text)
+        return false;
+    std::array<unsigned char, std::tuple_size_v<decltype(text->hash)>> hash{};
+    if (crypto_pwhash(hash.data(), hash.size(), secret.Text().data(), secret.Text().size(), text->salt.data(),
+                      text->cost.passes, text->cost.bytes, crypto_pwhash_ALG_ARGON2ID13)
+        != 0)
+        FailWithoutMemory();
+    return sodium_memcmp(hash.data(), text->hash.data(), hash.size()) == 0;
 }
 
 bool IsOutdated(const std::string& kept, const PasswordCost& cost)

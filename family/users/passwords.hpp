@@ -36,7 +36,8 @@ inline constexpr PasswordCost FrontDeskCost{3, std::size_t{64} << 20U};
 /// memory for it.
 std::string HashOf(const Secret& secret, const PasswordCost& cost);
 
-/// Whether the kept text was made of that secret. False where it is none of HashOf's.
+/// Whether the kept text was made of that secret. False where it is none of HashOf's. Fails with 7 where
+/// there is not the memory to find out.
 bool IsHashOf(const std::string& kept, const Secret& secret);
 
 /// Whether the kept text was made at another cost, and is to be made anew when the secret is at hand.

@@ -1,5 +1,6 @@
 #include "host/first_start/new_shop_page.hpp"
 
+#include "agenda/contracts/failure.hpp"
 #include "family/data/engine/database_failure.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/stores/new_shop.hpp"
@@ -100,13 +101,13 @@ void NewShopPage::GoOn()
 void NewShopPage::Make()
 {
     const std::string file = company_->File();
-    family::NewShop shop;
-    for (const NewShopStep* step : steps_)
-        step->Fill(shop);
     try {
+        family::NewShop shop;
+        for (const NewShopStep* step : steps_)
+            step->Fill(shop);
         QDir().mkpath(QFileInfo(QString::fromStdString(file)).absolutePath());
         family::CreateNewShop(file, shop);
-    } catch (const family::DatabaseFailure& failure) {
+    } catch (const Failure& failure) {
         return failure_->Tell(qt::Lines(failure.Description()));
     }
     onMade({file, EntryOfMaker(file)});

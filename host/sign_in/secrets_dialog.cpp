@@ -1,6 +1,6 @@
 #include "host/sign_in/secrets_dialog.hpp"
 
-#include "family/data/engine/database_failure.hpp"
+#include "agenda/contracts/failure.hpp"
 #include "family/users/accounts.hpp"
 #include "host/sign_in/secret_box.hpp"
 #include "screens/field_frame.hpp"
@@ -137,7 +137,7 @@ void SecretsDialog::Try()
     setCursor(Qt::WaitCursor);
     try {
         why = save_(typed);
-    } catch (const family::DatabaseFailure& failure) {
+    } catch (const Failure& failure) {
         why = failure.Description();
     }
     unsetCursor();

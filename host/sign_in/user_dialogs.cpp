@@ -1,5 +1,6 @@
 #include "host/sign_in/user_dialogs.hpp"
 
+#include "agenda/contracts/failure.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/data/rows/find_by_key.hpp"
@@ -81,7 +82,7 @@ std::string SavePinOf(const FirstUser& first, const Desk& desk, const family::Se
     author.name = first.name;
     try {
         return family::SetPin(*desk.database, first.code, &pin, author).why;
-    } catch (const family::DatabaseFailure& failure) {
+    } catch (const Failure& failure) {
         return failure.Description();
     }
 }

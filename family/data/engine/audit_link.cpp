@@ -1,9 +1,10 @@
 #include "family/data/engine/audit_link.hpp"
 
+#include "agenda/contracts/failure.hpp"
+
 #include <sodium.h>
 
 #include <array>
-#include <stdexcept>
 
 namespace kova::family {
 
@@ -36,7 +37,7 @@ void RequireLibrary()
 {
     static const bool isReady = sodium_init() >= 0;
     if (!isReady)
-        throw std::runtime_error("libsodium cannot be used");
+        throw Failure(FailureNumber::OutOfMemory);
 }
 
 /// All of it.

@@ -1,6 +1,7 @@
 #include "tests/unit/family/users/users_fixture.hpp"
 
 #include "family/users/own_secrets.hpp"
+#include "tests/support/little_memory.hpp"
 
 namespace kova::family::test {
 
@@ -56,6 +57,18 @@ TEST_F(OwnSecretsOfAUser, AreGuessedAsSlowlyAsAtSigningIn)
     EXPECT_EQ(LinesOf("entrada_recusada").size(), 3U);
     Pass(2);
     EXPECT_EQ(Change("Laço Azul 22", {&password}), "");
+}
+
+TEST_F(OwnSecretsOfAUser, StayWhereThereIsNoMemoryToProveThePasswordOfToday)
+{
+    const Secret former("Laço Verde 33"), wanted("Laço Rosa 44");
+    ASSERT_EQ(SetPassword(Data(), 7, former, ana_).why, "");
+    {
+        const kova::test::LittleMemory memory;
+        EXPECT_THROW(Change("Laço Verde 33", {&wanted}), Failure);
+    }
+    EXPECT_TRUE(LinesOf("entrada_recusada").empty());
+    EXPECT_EQ(Change("Laço Verde 33", {&wanted}), "");
 }
 
 TEST_F(OwnSecretsOfAUser, AreNobodysWhoDoesNotEnter)

@@ -1,5 +1,8 @@
 #include "tests/unit/family/users/cheap.hpp"
 
+#include "agenda/contracts/failure.hpp"
+#include "tests/support/little_memory.hpp"
+
 #include <gtest/gtest.h>
 
 #include <map>
@@ -46,6 +49,41 @@ TEST(Passwords, AreNoneOfATextThatIsKeptOtherwise)
     for (const std::string& other : {std::string(), std::string("Laço Azul 22"), std::string("$argon2id$"),
                                      kept.substr(0, kept.size() - 1), kept + std::string("\0x", 2)})
         EXPECT_FALSE(IsHashOf(other, Typed("Laço Azul 22"))) << other;
+}
+
+TEST(Passwords, AreNoneOfATextWithPartsThatAreOutOfBounds)
+{
+    const std::string kept = HashOf(Typed("Laço Azul 22"), Cheap);
+    const auto with = [&](const std::string& part, const std::string& other) {
+        std::string text = kept;
+        return text.replace(text.find(part), part.size(), other);
+    };
+    for (const std::string& other :
+         {with("m=8", "m=7"), with("m=8", "m=-8"), with("m=8", "m=99999999999999999999"), with("m=8", "m="),
+          with("t=1", "t=0"), with("t=1", "t=4294967296"), with("t=1", "t=1x"), with("p=1", "p=2"),
+          with("v=19", "v=16"), with("argon2id", "argon2i"), with("p=1$", "p=1$A"), kept + "A", kept + "=",
+          with("p=1$", "p=1$$")})
+        EXPECT_FALSE(IsHashOf(other, Typed("Laço Azul 22"))) << other;
+}
+
+TEST(Passwords, AreNeitherKeptNorCalledWrongWhereThereIsNoMemoryForIt)
+{
+    const Secret secret = Typed("Laço Azul 22");
+    const std::string kept = HashOf(secret, FrontDeskCost);
+    for (const bool isRight : {true, false}) {
+        const Secret tried = Typed(isRight ? "Laço Azul 22" : "errada 123");
+        for (const bool keeps : {true, false}) {
+            const kova::test::LittleMemory memory;
+            try {
+                keeps ? void(HashOf(tried, FrontDeskCost)) : void(IsHashOf(kept, tried));
+                ADD_FAILURE() << isRight << keeps;
+            } catch (const Failure& failure) {
+                EXPECT_EQ(failure.Number(), 7);
+                EXPECT_EQ(failure.Description(), kova::test::LittleMemory::Told);
+            }
+        }
+        EXPECT_EQ(IsHashOf(kept, tried), isRight) << "afterwards";
+    }
 }
 
 TEST(Passwords, AreKeptAnewAtAnotherCost)

@@ -3,6 +3,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/users/tries.hpp"
 #include "system/computer_name.hpp"
+#include "tests/support/little_memory.hpp"
 
 #include <map>
 #include <thread>
@@ -96,6 +97,23 @@ TEST_F(SigningIn, IsSlowedDownByWrongTriesAndLooksAtNoneMeanwhile)
     }
     EXPECT_EQ(Texts("select cast(erros as text) from tentativa_de_entrada"), std::vector<std::string>{"12"});
     EXPECT_EQ(LinesOf("entrada_recusada").size(), 12U);
+}
+
+TEST_F(SigningIn, CountsNoTryAgainstAnybodyThatThereWasNoMemoryFor)
+{
+    const Secret password("Laço Verde 33");
+    ASSERT_EQ(SetPassword(Data(), 7, password, ana_).why, "");
+    for (int time = 0; time < 4; ++time) {
+        const kova::test::LittleMemory memory;
+        try {
+            Enter("Lia", "Laço Verde 33");
+            ADD_FAILURE();
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.Description(), kova::test::LittleMemory::Told);
+        }
+    }
+    EXPECT_TRUE(LinesOf("entrada_recusada").empty());
+    EXPECT_TRUE(Enter("Lia", "Laço Verde 33").IsDone()) << "at once";
 }
 
 TEST_F(SigningIn, IsOpenAgainWhenTheTimeIsOver)

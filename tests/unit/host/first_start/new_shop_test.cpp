@@ -2,13 +2,19 @@
 
 #include "family/data/sources/data_source.hpp"
 #include "family/users/kept_sign_in.hpp"
+#include "family/users/sign_in.hpp"
 #include "host/session/session_clock.hpp"
+#include "tests/support/little_memory.hpp"
 #include "tests/support/sqlite_file.hpp"
 #include "tests/unit/host/first_start/question_fixture.hpp"
 
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
+
+#include <algorithm>
+#include <string>
+#include <vector>
 
 namespace kova::host::test {
 
@@ -57,6 +63,50 @@ TEST_F(TheQuestionForAShop, MakesAShop)
     EXPECT_EQ(family::SignInByToken(*family::OpenDatabase(*Answer()), question_->Chosen()->entry, clock).name,
               "Ana Maria")
         << "nobody is asked for a password twice";
+}
+
+TEST_F(TheQuestionForAShop, SaysWhoAdministersTheShopAndWhatHeCanDo)
+{
+    Open();
+    Press("criar");
+    Type("fantasia", "Céu");
+    Press("avancar");
+    std::vector<std::string> told;
+    for (const QLabel* label : question_->findChildren<QLabel*>()) {
+        if (label->isVisible() && label->buddy() == nullptr && !label->text().isEmpty())
+            told.push_back(label->text().toStdString());
+    }
+    for (const char* part :
+         {"Quem administra a loja",
+          "É o primeiro usuário: entra com este nome e esta senha, pode fazer tudo, e cadastra os outros em "
+          "Cadastros, Usuários."})
+        EXPECT_NE(std::ranges::find(told, part), told.end()) << part;
+    GiveAPassword();
+    for (int step = 0; step < 3; ++step)
+        Press("avancar");
+    ASSERT_NE(Answer(), std::nullopt);
+    const auto database = family::OpenDatabase(*Answer());
+    const SessionClock clock;
+    const family::Secret password(std::string("Gato-Preto 1"));
+    const auto entered = family::SignIn(*database, {"Ana Maria", password}, clock);
+    EXPECT_TRUE(entered.IsDone()) << entered.text;
+    EXPECT_EQ(entered.rights.size(), family::AllRights().size());
+}
+
+TEST_F(TheQuestionForAShop, MakesNoShopWhereThereIsNoMemoryForAPassword)
+{
+    BeginAShop();
+    Press("avancar");
+    {
+        const kova::test::LittleMemory memory;
+        Press("avancar");
+    }
+    EXPECT_EQ(Find<QLabel>("falha").text().toStdString(), kova::test::LittleMemory::Told);
+    EXPECT_EQ(Answer(), std::nullopt);
+    EXPECT_FALSE(fs::exists(folder_ / "Céu.db"));
+    Press("avancar");
+    ASSERT_NE(Answer(), std::nullopt);
+    EXPECT_TRUE(fs::exists(*Answer()));
 }
 
 TEST_F(TheQuestionForAShop, WantsAPasswordThatWillDoTwice)

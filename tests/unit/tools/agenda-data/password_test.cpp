@@ -1,7 +1,9 @@
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
 #include "family/data/sources/data_source.hpp"
+#include "family/users/accounts.hpp"
 #include "family/users/sign_in.hpp"
+#include "tests/support/little_memory.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 #include <sstream>
@@ -94,8 +96,34 @@ TEST_F(Passwords, ThatWillNotDoOrAreOfNobodyChangeNothing)
     EXPECT_EQ(RunReading({"reset-password", place, "--user", "D'Ávila \"Lia\""}, "Laço Azul 22\n"), 1);
     EXPECT_EQ(error_.str(), "Não há usuário com papel que se chame \"D'Ávila \"Lia\"\" nesta loja.\n");
     EXPECT_EQ(RunReading({"reset-password", place}, "Laço Azul 22\n"), 2);
+    EXPECT_NE(error_.str().find("Informe com --user de quem é a senha."), std::string::npos) << error_.str();
     EXPECT_EQ(RunReading({"reset-password", place, "--user", "Ana", "Laço Azul 22"}, ""), 2)
         << "no word of the command line";
+    EXPECT_TRUE(Enters(place, "Ana", "Gato-Preto 1"));
+}
+
+TEST_F(Passwords, OfWhoeverIsInactiveAreResetAndLetNobodyIn)
+{
+    const std::string place = ShopOfAna();
+    const family::Secret former(std::string("Gato-Preto 1"));
+    const family::Author owner{.code = "0", .name = "root", .moment = "2026-11-20 09:00:00", .isOwner = true};
+    EXPECT_EQ(
+        family::SaveAccount(*family::OpenDatabase(place), {0, "Lia", 3, false}, &former, owner, {1, 8192})
+            .why,
+        "");
+    EXPECT_EQ(RunReading({"reset-password", place, "--user", "Lia"}, "Laço Azul 22\n"), 0) << error_.str();
+    EXPECT_EQ(output_.str(), "Senha definida: Lia\nO usuário está inativo e não entra enquanto estiver.\n");
+    EXPECT_FALSE(Enters(place, "Lia", "Laço Azul 22"));
+}
+
+TEST_F(Passwords, StayAsTheyWereWhereThereIsNoMemoryToKeepAnother)
+{
+    const std::string place = ShopOfAna();
+    {
+        const kova::test::LittleMemory memory;
+        EXPECT_EQ(RunReading({"reset-password", place, "--user", "Ana"}, "Laço Azul 22\n"), 1);
+        EXPECT_EQ(error_.str(), "agenda-data: " + std::string(kova::test::LittleMemory::Told) + "\n");
+    }
     EXPECT_TRUE(Enters(place, "Ana", "Gato-Preto 1"));
 }
 
