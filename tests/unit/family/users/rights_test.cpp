@@ -4,7 +4,9 @@
 #include "family/data/engine/write_transaction.hpp"
 #include "family/data/sources/data_source.hpp"
 
+#include <iterator>
 #include <set>
+#include <utility>
 
 namespace kova::family::test {
 
@@ -76,8 +78,24 @@ TEST_F(UserRights, AreDeniedWithTheRoleTheRightAndWhomToAsk)
     EXPECT_EQ(WhyDenied(Data(), lia_, Right::Book), "");
     EXPECT_EQ(WhyDenied(Data(), lia_, Right::DeleteAppointments),
               "Recepção não pode excluir agendamentos. Peça a quem administra os usuários.");
-    EXPECT_EQ(WhyDenied(Data(), lia_, Right::AdministerUsers),
-              "Recepção não pode administrar usuários. Peça a quem administra os usuários.");
+    Allow({});
+    const std::pair<Right, const char*> acts[] = {
+        {Right::Book, "incluir agendamentos"},
+        {Right::ChangeAppointments, "alterar agendamentos"},
+        {Right::CancelAppointments, "cancelar agendamentos"},
+        {Right::DeleteAppointments, "excluir agendamentos"},
+        {Right::UndoPreSales, "desfazer pré-vendas geradas"},
+        {Right::ChangeRegisters, "alterar cadastros"},
+        {Right::SeePrices, "ver e alterar preços e custos"},
+        {Right::Export, "exportar dados"},
+        {Right::Anonymise, "anonimizar clientes"},
+        {Right::SeeHistory, "ver o histórico"},
+        {Right::AdministerUsers, "administrar usuários"},
+    };
+    EXPECT_EQ(std::size(acts), AllRights().size());
+    for (const auto& [right, act] : acts)
+        EXPECT_EQ(WhyDenied(Data(), lia_, right),
+                  "Recepção não pode " + std::string(act) + ". Peça a quem administra os usuários.");
     try {
         RequireRight(Data(), lia_, Right::Export);
         ADD_FAILURE();

@@ -142,6 +142,7 @@ TEST(TheAccessRegisters, HelpWithWhatAUserIs)
         return std::string(users.Fields()[family::registers::FieldNamed(users.Fields(), label)].help);
     };
     EXPECT_EQ(helpOf("Nome"), "É com ele que se entra; maiúsculas e acentos não importam.");
+    EXPECT_EQ(helpOf("Código do papel"), "O que pode fazer. Quem não tem papel não entra.");
     EXPECT_EQ(helpOf("Situação"), "Quem está inativo não entra.");
 }
 
