@@ -1,5 +1,6 @@
 #include "host/session/newer_program.hpp"
 
+#include "host/shell/main_window.hpp"
 #include "system/program_path.hpp"
 
 #include <utility>
@@ -10,6 +11,14 @@ namespace {
 
 constexpr int Minute = 60'000;
 
+}
+
+void TellOfNewerProgram(MainWindow& window)
+{
+    window.ShowNotice(
+        QStringLiteral("programa"),
+        QStringLiteral("Uma versão mais nova do programa foi instalada. Esta continua funcionando; feche-a e "
+                       "abra o programa novamente quando for conveniente."));
 }
 
 NewerProgram::NewerProgram(Tell tell) : NewerProgram(std::move(tell), system::ProgramWasReplaced, Minute) { }

@@ -6,6 +6,11 @@
 
 namespace kova::host {
 
+class MainWindow;
+
+/// Shows it to whoever works in the window, who goes on working.
+void TellOfNewerProgram(MainWindow& window);
+
 /// Tells once that a newer version of the program was installed while this one is open.
 class NewerProgram {
 public:

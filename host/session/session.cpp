@@ -49,11 +49,7 @@ namespace {
 
 constexpr Long PrintedRows = 15;
 /// Subjects of notices.
-const QString Program = QStringLiteral("programa"), Copy = QStringLiteral("cópia"),
-              Update = QStringLiteral("atualização");
-const QString NewerProgramText = QStringLiteral(
-    "Uma versão mais nova do programa foi instalada. Esta continua funcionando; feche-a e abra o "
-    "programa novamente quando for conveniente.");
+const QString Copy = QStringLiteral("cópia"), Update = QStringLiteral("atualização");
 /// The code of whoever works in a shop without users, with a name alone: no user that the shop may get
 /// meanwhile has it.
 constexpr Long NoUser = 0;
@@ -145,7 +141,7 @@ private:
     ComponentRef agenda_;
     std::unique_ptr<AgendaGuard> guard_;
     std::unique_ptr<DailyBackup> backup_;
-    NewerProgram newer_{[this] { window_->ShowNotice(Program, NewerProgramText); }};
+    NewerProgram newer_{[this] { TellOfNewerProgram(*window_); }};
 };
 
 SessionEnd Session::Run()
@@ -226,7 +222,7 @@ void Session::TurnTo(const ChosenShop& shop)
         return;
     // Another session would begin with the libraries of another version.
     if (newer_.IsThere()) {
-        window_->ShowNotice(Program, NewerProgramText);
+        TellOfNewerProgram(*window_);
         return;
     }
     next_ = shop;

@@ -1,7 +1,10 @@
 #include "host/session/newer_program.hpp"
 
+#include "host/shell/main_window.hpp"
 #include "tests/unit/host/with_application.hpp"
 
+#include <QAbstractButton>
+#include <QLabel>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -54,6 +57,30 @@ TEST_F(ANewerProgram, IsThereForWhoeverAsksAtOnce)
     isInstalled_ = true;
     EXPECT_TRUE(newer_.IsThere());
     EXPECT_EQ(told_, 0);
+}
+
+TEST_F(ANewerProgram, IsToldInTheWindowWhichStaysAndCanBeRidOfTheNotice)
+{
+    MainWindow window({"", false, ""});
+    window.Open(WindowSize{1000, 700});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto* notice = window.findChild<QLabel*>(QStringLiteral("aviso"));
+    EXPECT_FALSE(notice->isVisible());
+    TellOfNewerProgram(window);
+    TellOfNewerProgram(window);
+    EXPECT_TRUE(notice->isVisible());
+    EXPECT_EQ(notice->text(),
+              "Uma versão mais nova do programa foi instalada. Esta continua funcionando; feche-a e abra o "
+              "programa novamente quando for conveniente.")
+        << "once, however often it was told";
+    QAbstractButton* close = nullptr;
+    for (auto* button : window.findChildren<QAbstractButton*>()) {
+        if (button->text() == QStringLiteral("Fechar aviso"))
+            close = button;
+    }
+    ASSERT_NE(close, nullptr);
+    QTest::mouseClick(close, Qt::LeftButton);
+    EXPECT_FALSE(notice->isVisible());
 }
 
 } // namespace kova::host
