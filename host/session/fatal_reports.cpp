@@ -1,5 +1,6 @@
 #include "host/session/fatal_reports.hpp"
 
+#include "family/data/engine/server_connection.hpp"
 #include "system/fatal_report.hpp"
 #include "system/path_text.hpp"
 #include "system/system_name.hpp"
@@ -27,8 +28,10 @@ constexpr const char* NameOfReport = R"([0-9]{8}-[0-9]{6}-[0-9]{3}(\.novo)?\.txt
 /// Those of a program that fails each morning tell nothing more.
 constexpr std::size_t MostReports = 10;
 
-std::string HeadingOf(const std::string& opened, const QDateTime& start)
+std::string HeadingOf(const std::string& source, const QDateTime& start)
 {
+    const char* const opened =
+        family::IsServer(source) ? "uma loja em um servidor" : "uma loja em um arquivo";
     return "Kovaris " KOVARIS_VERSION "\nSistema: " + system::SystemName() + "\nQt: " + qVersion()
         + "\nAberto: " + opened + ", desde " + start.toString(Qt::ISODate).toStdString() + "\n\n";
 }
@@ -61,7 +64,7 @@ void RemoveOldReports(const fs::path& folder)
 
 } // namespace
 
-void FatalReports::Begin(const std::string& opened) const
+void FatalReports::Begin(const std::string& source) const
 {
     std::error_code error;
     fs::create_directories(folder_, error);
@@ -70,7 +73,7 @@ void FatalReports::Begin(const std::string& opened) const
     RemoveOldReports(folder_);
     const QDateTime start = QDateTime::currentDateTime();
     const std::string name = start.toString(QLatin1String(Moment)).toStdString().append(Untold);
-    system::WriteOnFatalFailure({folder_ / system::PathOf(name), HeadingOf(opened, start)});
+    system::WriteOnFatalFailure({folder_ / system::PathOf(name), HeadingOf(source, start)});
 }
 
 bool FatalReports::TakeNews() const

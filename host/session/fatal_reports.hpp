@@ -14,9 +14,9 @@ public:
 
     const std::filesystem::path& Folder() const { return folder_; }
 
-    /// From now on a fault leaves one. `opened` says what kind of shop is open. Of those that are there the
-    /// last ten stay. Where the folder cannot be made the program does without.
-    void Begin(const std::string& opened) const;
+    /// From now on a fault leaves one, which says of the source only whether it is a file or a server. Of
+    /// those that are there the last ten stay. Where the folder cannot be made the program does without.
+    void Begin(const std::string& source) const;
 
     /// Whether there is one that nobody has been told of, and none from then on.
     bool TakeNews() const;

@@ -147,8 +147,7 @@ private:
 SessionEnd Session::Run()
 {
     if (outlet_ == Outlet::Window && !options_.firstPaint)
-        reports_.Begin(family::IsServer(options_.database) ? "uma loja em um servidor"
-                                                           : "uma loja em um arquivo");
+        reports_.Begin(options_.database);
     SetUpComponents(registry_, server_, ProgramFolder());
     Shop shop =
         OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
