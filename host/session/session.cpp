@@ -149,8 +149,7 @@ SessionEnd Session::Run()
     if (outlet_ == Outlet::Window && !options_.firstPaint)
         reports_.Begin(options_.database);
     SetUpComponents(registry_, server_, ProgramFolder());
-    Shop shop =
-        OpenShop(components_, DatabaseOf(options_), options_.database.empty(), FormatDate(clock_.Now().date));
+    Shop shop = OpenShop(components_, options_.database.empty(), FormatDate(clock_.Now().date));
     // Whoever sees no window reads it, also where nothing is drawn.
     if (outlet_ != Outlet::Window && !shop.update.empty())
         std::cerr << shop.update << std::endl;

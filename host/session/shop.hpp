@@ -2,7 +2,6 @@
 
 #include "agenda/contracts/business_services.hpp"
 
-#include <filesystem>
 #include <string>
 
 namespace kova::host {
@@ -18,10 +17,9 @@ struct Shop {
     bool isFictional = false;
 };
 
-/// Opens the data source of the host at `path` through the database component, for the whole process. Where
+/// Opens the data source of the host through the database component, for the whole process. Where
 /// nothing is there and `makeDemonstration` allows it, the demonstration shop is made first, around
 /// `today`. Throws std::runtime_error or Failure with a text for the user; the file is as it was then.
-Shop OpenShop(ComponentService& components, const std::filesystem::path& path, bool makeDemonstration,
-              const std::string& today);
+Shop OpenShop(ComponentService& components, bool makeDemonstration, const std::string& today);
 
 } // namespace kova::host
