@@ -33,8 +33,10 @@ TEST_F(AFailureOfTheLastTime, IsToldOnceBehindTheDay)
     receptionist->Answers("Escape").WaitsFor("frmLista").Leaves();
     EXPECT_EQ(Run(), EXIT_SUCCESS);
     ASSERT_EQ(receptionist->Boxes().size(), 1U);
-    EXPECT_TRUE(receptionist->Boxes()[0].starts_with("Da última vez o programa terminou por uma falha."))
-        << receptionist->Boxes()[0];
+    EXPECT_EQ(receptionist->Boxes()[0],
+              "Da última vez o programa terminou por uma falha. O que estava gravado continua gravado.\n\nUm "
+              "relato para quem cuida do sistema ficou em uma pasta deste computador; ele não tem dados da "
+              "loja. Abrir essa pasta?");
     EXPECT_TRUE(std::filesystem::exists(host::FatalReportsFolder() / "20261120-080000-000.txt"));
 
     receptionist->WaitsFor("frmLista").Leaves();

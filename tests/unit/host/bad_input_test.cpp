@@ -78,7 +78,9 @@ TEST(BadInput, ADayThatCannotBeReadIsToldAndNotDrawn)
         RunProgram(BuildFolder() / "agenda-data", {"demo", shop, "--date", "25/03/2026"}, home.Path());
     ASSERT_EQ(made.status, 0) << made.errors;
     kova::test::SqliteFile(shop).Run("drop table animal");
-    ExpectRefusal(Open(shop, home.Path()), "A agenda não pôde ser aberta.");
+    ExpectRefusal(
+        Open(shop, home.Path()),
+        "A agenda não pôde ser aberta. Corrija a causa que foi mostrada e abra o programa novamente.");
     EXPECT_FALSE(fs::exists(home / "agenda.png"));
 }
 

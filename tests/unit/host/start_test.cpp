@@ -63,7 +63,9 @@ TEST(Start, DrawsTheDemonstrationDayIntoAPictureAndPrintsItsFirstRows)
     EXPECT_EQ(result.errors, "");
     EXPECT_EQ(SizeOfPicture(picture), (PictureSize{1280, 800}));
     ExpectText(result.output, "Agenda de 25/03/2026");
-    ExpectText(result.output, picture.string());
+    EXPECT_TRUE(result.output.ends_with("\nImagem da janela: " + picture.string() + "\n"))
+        << "nothing is said of a screen that nobody has asked for\n"
+        << result.output;
     EXPECT_GE(RowsIn(result.output), 5) << result.output;
 }
 
@@ -112,8 +114,11 @@ TEST(Start, WithoutADisplaySaysWhereThePictureIsAndWhatADisplayIsFor)
 
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(SizeOfPicture(home / ".local/share/kovaris/agenda.png"), (PictureSize{1366, 768}));
-    ExpectText(result.output, (home / ".local/share/kovaris/agenda.png").string());
-    ExpectText(result.output, "DISPLAY");
+    ExpectText(result.output,
+               "\nImagem da janela: " + (home / ".local/share/kovaris/agenda.png").string()
+                   + "\nNão há tela: as variáveis DISPLAY e WAYLAND_DISPLAY não levam a uma. A tela é "
+                     "necessária\npara "
+                     "usar a agenda em uma janela, com mouse e teclado; sem ela só é possível ver o dia.\n");
 }
 
 TEST(Start, ForMeasuringEndsOnceTheDayIsPaintedAndSaysSo)
@@ -239,8 +244,10 @@ TEST(Start, DrawsNoShopThatHasUsers)
         const ProgramResult result = RunKovaris(words, home.Path());
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.output, "");
-        ExpectText(result.errors,
-                   "Kovaris: Esta loja tem usuários, e sem a janela do programa ninguém pode entrar");
+        EXPECT_EQ(
+            result.errors,
+            "Kovaris: Esta loja tem usuários, e sem a janela do programa ninguém pode entrar nela. Abra o "
+            "programa em uma tela, sem --picture e sem --first-paint.\n");
     }
     EXPECT_FALSE(fs::exists(home / "agenda.png"));
     EXPECT_FALSE(fs::exists(home / ".local/share/kovaris/agenda.png"));
