@@ -47,7 +47,9 @@ int Run(const Call& call, Surroundings& surroundings)
     TellRoom(archived, surroundings);
     if (archived.left > 0)
         surroundings.error << archived.left << (archived.left == 1 ? " linha" : " linhas") << years
-                           << " fica na loja: foi gravada depois de uma com a data de um ano seguinte.\n";
+                           << (archived.left == 1 ? " fica na loja: foi gravada"
+                                                  : " ficam na loja: foram gravadas")
+                           << " depois de uma com a data de um ano seguinte.\n";
     return 0;
 }
 

@@ -138,10 +138,11 @@ void GiveRoomBack(Database& shop, ArchivedYears& archived)
             archived.whyNotSmaller =
                 "Outro programa estava lendo o arquivo da loja: ele fica menor quando todos "
                 "os programas que usam esta loja forem fechados.";
-    } catch (const soci::soci_error&) {
-        archived.whyNotSmaller =
-            "O arquivo da loja ficou do mesmo tamanho, porque outro programa o estava usando. "
-            "O espaço será usado pelo que for gravado.";
+    } catch (const soci::soci_error& cause) {
+        const bool isInUse = TranslatedFailure(shop.Path(), cause).GetFault() == Fault::Locked;
+        archived.whyNotSmaller = std::string("O arquivo da loja ficou do mesmo tamanho, porque ")
+            + (isInUse ? "outro programa o estava usando" : "o disco ficou cheio ou não respondeu")
+            + ". O espaço será usado pelo que for gravado.";
     }
 }
 

@@ -1,6 +1,7 @@
 // Old years of the audit go into a file of their own, and are still told and proved.
 
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
+#include "tests/unit/tools/agenda-data/without_progress.hpp"
 
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audit_chain.hpp"
@@ -67,7 +68,11 @@ TEST_F(ArchivedAudit, LeavesTheShopAndIsProvedWithIt)
         0U);
     EXPECT_EQ(AskArchive("select count(*) || ' ' || max(codigo) from auditoria"), "2 2");
     EXPECT_EQ(Check(), 0) << Error();
-    EXPECT_NE(Output().find("arquivo da auditoria: " + Archived()), std::string::npos);
+    EXPECT_NE(Output().find("\narquivo da auditoria: " + Archived() + "\n"), std::string::npos) << Output();
+    EXPECT_NE(
+        Output().find("\nversão do esquema: " + Ask("select max(versao) from versao_do_esquema") + "\n"),
+        std::string::npos)
+        << Output();
     EXPECT_EQ(Archive("2025"), 0) << Error();
     EXPECT_EQ(AskArchive("select count(*) || ' ' || max(codigo) from auditoria"), "4 4");
     EXPECT_EQ(AskArchive("select count(*) || ' ' || max(ordem) from elo_da_auditoria"), "4 4");
@@ -89,8 +94,16 @@ TEST_F(ArchivedAudit, IsReadByTheHistory)
     EXPECT_NE(Output().find("01/03/2024"), std::string::npos);
     ASSERT_EQ(Run({"history", Database(), "5"}), 0) << Error();
     EXPECT_EQ(Output().find("01/03/2024"), std::string::npos);
+    const std::string apart = "A auditoria até 2025 está em um arquivo à parte (\"" + Archived() + "\").";
+    EXPECT_EQ(Run({"history", Database(), "99"}), 1);
+    EXPECT_EQ(Error(),
+              "A auditoria não conhece o agendamento 99.\n" + apart
+                  + " Ele não foi encontrado; informe-o com --archive.\n");
     EXPECT_EQ(Run({"check", Database()}), 0) << Error();
-    EXPECT_TRUE(Complained("aviso: A auditoria até 2025 está em um arquivo à parte")) << Error();
+    EXPECT_TRUE(Complained("aviso: " + apart
+                           + " Ele não foi encontrado, e o que está nele não foi conferido; informe-o com "
+                             "--archive.\n"))
+        << Error();
 }
 
 TEST_F(ArchivedAudit, IsFoundTamperedWith)
@@ -159,7 +172,9 @@ TEST_F(ArchivedAudit, GoesOnWhereItWasCutOff)
     // An archive that lacks lines is not gone on with.
     kova::test::WriteFile(Archived(), first);
     EXPECT_EQ(Run({"archive-audit", shop, "--until", "2025", "--to", Archived()}), 1);
-    EXPECT_TRUE(Complained("não é a continuação")) << Error();
+    EXPECT_TRUE(Complained("A auditoria da loja não é a continuação do arquivo \"" + Archived()
+                           + "\". Informe o arquivo que já tem as linhas anteriores dela."))
+        << Error();
 }
 
 TEST_F(ArchivedAudit, IsRefusedWhereTheFileIsAnotherOne)
@@ -172,12 +187,16 @@ TEST_F(ArchivedAudit, IsRefusedWhereTheFileIsAnotherOne)
     EXPECT_TRUE(Complained("não é um arquivo de auditoria")) << Error();
     EXPECT_EQ(Run({"archive-audit", Database(), "--until", "2024", "--to", File("nenhuma/pasta")}), 1);
     EXPECT_EQ(Run({"archive-audit", Database(), "--until", "2026", "--to", Archived()}), 2);
+    EXPECT_TRUE(Complained("O ano informado com --until ainda não acabou.")) << Error();
     EXPECT_EQ(Run({"archive-audit", Database()}), 2);
+    EXPECT_TRUE(Complained("Informe com --until o último ano cujas linhas vão para o arquivo.")) << Error();
     EXPECT_EQ(Ask("select count(*) from auditoria"), "6");
     ASSERT_EQ(Archive("2024"), 0) << Error();
     fs::remove(Archived());
     EXPECT_EQ(Archive("2025"), 1);
-    EXPECT_TRUE(Complained("não foi encontrado")) << Error();
+    EXPECT_TRUE(Complained("O arquivo da auditoria \"" + Archived()
+                           + "\" não foi encontrado. Ele já tem linhas desta loja: informe onde está."))
+        << Error();
 }
 
 TEST_F(ArchivedAudit, KeepsWhatWasWrittenBehindALineOfALaterYear)
@@ -185,8 +204,16 @@ TEST_F(ArchivedAudit, KeepsWhatWasWrittenBehindALineOfALaterYear)
     // A desk whose clock was an hour slow at midnight.
     Write("2025-12-31 23:30:00", 7);
     ASSERT_EQ(Archive("2025"), 0) << Error();
-    EXPECT_TRUE(Complained("1 linha da auditoria até 2025 fica na loja")) << Error();
+    EXPECT_EQ(WithoutProgress(Error()),
+              "1 linha da auditoria até 2025 fica na loja: foi gravada depois de uma com a data de um ano "
+              "seguinte.\n");
     EXPECT_EQ(Check(), 0) << Error();
+    Write("2025-12-31 23:40:00", 7);
+    ASSERT_EQ(Archive("2025"), 0) << Error();
+    EXPECT_EQ(
+        Error(),
+        "2 linhas da auditoria até 2025 ficam na loja: foram gravadas depois de uma com a data de um ano "
+        "seguinte.\n");
 }
 
 TEST_F(ArchivedAudit, IsNamedToWhoeverLooksForWhatIsInIt)

@@ -1,15 +1,21 @@
 // What an archive of the audit holds: as it was written, until somebody in it becomes anonymous.
 
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
+#include "tests/unit/tools/agenda-data/without_progress.hpp"
 
 #include "family/data/audit/audit.hpp"
 #include "family/data/audit/audit_chain.hpp"
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_connection.hpp"
+#include "tests/support/environment_variable.hpp"
 #include "tests/support/small_files.hpp"
+#include "tests/support/sqlite_file.hpp"
+#include "tests/support/statement_watch.hpp"
 
 #include <filesystem>
+#include <optional>
+#include <regex>
 
 namespace kova::data::test {
 
@@ -94,7 +100,12 @@ TEST_F(ArchiveContents, LeaveNoRoomBehindInTheShop)
     InShop([](family::Database& database) { database.Session() << "update empresa set codigo = codigo"; });
     const auto before = fs::file_size(Database());
     Archive();
-    EXPECT_NE(Output().find("O arquivo da loja tinha "), std::string::npos) << Output();
+    const std::regex told("O arquivo da loja tinha ([0-9]+),[0-9] MB e ficou com ([0-9]+),[0-9] MB\\.\n");
+    std::smatch sizes;
+    const std::string output = Output();
+    ASSERT_TRUE(std::regex_search(output, sizes, told)) << output;
+    EXPECT_EQ(std::stoul(sizes[1]), before >> 20U);
+    EXPECT_EQ(std::stoul(sizes[2]), fs::file_size(Database()) >> 20U);
     EXPECT_LT(fs::file_size(Database()) + 2'000'000, before);
     EXPECT_EQ(Check(), 0) << Error();
 }
@@ -112,11 +123,113 @@ TEST_F(ArchiveContents, LeaveTheRoomUntilOthersHaveReadToTheEnd)
         int lines = 0;
         reader->Session() << "select count(*) from auditoria", soci::into(lines);
         Archive();
-        EXPECT_TRUE(Complained("fica menor quando todos os programas que usam esta loja forem fechados"))
-            << Error();
+        EXPECT_EQ(
+            WithoutProgress(Error()),
+            "Outro programa estava lendo o arquivo da loja: ele fica menor quando todos os programas que "
+            "usam esta loja forem fechados.\n");
         EXPECT_EQ(lines, 1);
     }
     EXPECT_EQ(Check(), 0) << Error();
+}
+
+/// Where the shop's file stays as large as it was, the lines have gone all the same.
+class RoomOfTheShop : public ArchiveContents {
+protected:
+    RoomOfTheShop()
+    {
+        InShop([](family::Database& database) {
+            AuditRemoval(database, Lia, "cliente", 10, AuditValues().Add("nome", std::string("Ana")));
+            const family::Author later{"7", "Lia", "2026-03-01 09:00:00", "BALCAO-1"};
+            for (int line = 0; line < 3000; ++line)
+                AuditRemoval(database, later, "cliente", line,
+                             AuditValues().Add("nome", std::string(1000, 'x')));
+        });
+    }
+    void ExpectArchivedAndWhole()
+    {
+        EXPECT_EQ(Output(), "1 linha da auditoria até 2025 foi para \"" + Archived() + "\".\n");
+        EXPECT_EQ(AskArchive("select count(*) from auditoria"), "1");
+        EXPECT_EQ(Check(), 0) << Error();
+    }
+};
+
+TEST_F(RoomOfTheShop, IsNotGivenBackWhereThereIsTooLittleForTheWork)
+{
+    if (kova::test::TestsRunOnServer())
+        return;
+    const auto size = fs::file_size(Database());
+    {
+        // What lies there takes no room, and there is none.
+        const kova::test::EnvironmentVariable temporary("TMPDIR", "/proc");
+        Archive();
+    }
+    const std::regex told(
+        "O arquivo da loja ficou do mesmo tamanho: para ficar menor faltam ([0-9]+) MB livres em "
+        "\"/proc\"\\. O espaço será usado pelo que for gravado\\.\n");
+    std::smatch parts;
+    const std::string error = WithoutProgress(Error());
+    ASSERT_TRUE(std::regex_match(error, parts, told)) << error;
+    EXPECT_GE(std::stoul(parts[1]) << 20U, size / 2) << "as much as stays has to lie there";
+    EXPECT_LE(std::stoul(parts[1]) << 20U, size + (2U << 20U));
+    EXPECT_GE(fs::file_size(Database()), size);
+    ExpectArchivedAndWhole();
+}
+
+TEST_F(RoomOfTheShop, IsNotGivenBackWhereTheDiskIsFullInTheMidstOfIt)
+{
+    if (kova::test::TestsRunOnServer())
+        return;
+    {
+        const kova::test::SmallFiles files(rlim_t{2} << 20U);
+        Archive();
+    }
+    EXPECT_EQ(
+        WithoutProgress(Error()),
+        "O arquivo da loja ficou do mesmo tamanho, porque o disco ficou cheio ou não respondeu. O espaço "
+        "será usado pelo que for gravado.\n");
+    ExpectArchivedAndWhole();
+}
+
+TEST_F(RoomOfTheShop, IsNotGivenBackWhereAnotherDeskWrites)
+{
+    if (kova::test::TestsRunOnServer())
+        return;
+    {
+        std::optional<kova::test::SqliteFile> desk;
+        const kova::test::StatementWatch watch("vacuum", [&](int) {
+            desk.emplace(Database());
+            desk->Run("begin immediate");
+        });
+        Archive();
+        ASSERT_TRUE(desk);
+        desk->Run("rollback");
+    }
+    EXPECT_EQ(
+        WithoutProgress(Error()),
+        "O arquivo da loja ficou do mesmo tamanho, porque outro programa o estava usando. O espaço será "
+        "usado pelo que for gravado.\n");
+    ExpectArchivedAndWhole();
+}
+
+TEST_F(ArchiveContents, StayInTheShopWhereItsAuditIsChangedMeanwhile)
+{
+    if (kova::test::TestsRunOnServer())
+        return;
+    InShop([](family::Database& database) {
+        AuditRemoval(database, Lia, "cliente", 10, AuditValues().Add("nome", std::string("Ana")));
+    });
+    const std::string before = Ask("select codigo || antes from auditoria");
+    {
+        const kova::test::StatementWatch watch("begin immediate", [&](int) {
+            if (AskArchive("select count(*) from elo_da_auditoria") == "1")
+                kova::test::SqliteFile(Database())
+                    .Run("update elo_da_auditoria set elo = 'x' where ordem = 1");
+        });
+        EXPECT_EQ(Run({"archive-audit", Database(), "--until", "2025", "--to", Archived()}), 1);
+    }
+    EXPECT_TRUE(Complained("A auditoria foi mudada enquanto era arquivada. Nada saiu da loja.")) << Error();
+    EXPECT_EQ(Ask("select codigo || antes from auditoria"), before);
+    EXPECT_EQ(Run({"check", Database()}), 1) << "and it is found changed";
 }
 
 TEST_F(ArchiveContents, AreTheTextsThatWereWrittenWhateverStandsInThem)
@@ -178,7 +291,9 @@ TEST_F(ArchiveContents, OfAnotherShopOrOfNoneAreRefusedInASentence)
           {"vazio", "não é um arquivo de auditoria"},
           {"copia.bak", "não é um arquivo de auditoria"},
           {"outra.auditoria", "não é o desta loja, ou não tem tudo que foi arquivado."},
-          {"quebrado", "quebrado\""},
+          {"quebrado",
+           "quebrado\" não pode ser lido: está danificado ou não é um arquivo de auditoria. Use uma cópia "
+           "dele."},
           {"cortado", "cortado\""},
           {"nenhum", "não foi encontrado."}}) {
         for (std::vector<std::string> words : commands) {
