@@ -270,7 +270,8 @@ std::string UnionOf(const Line& line)
 {
     const std::string key = std::to_string(line.key), into = Kept(line.audit.after, "unido_a"),
                       gone = Kept(line.audit.after, "unido");
-    return into.empty() ? "Uniu a " + RowCalled(line.table, key) + " o registro " + gone
+    // All that can be joined is called "o ...".
+    return into.empty() ? "Uniu a" + RowCalled(line.table, key) + " o registro " + gone
                         : "Uniu " + RowCalled(line.table, key) + " ao registro " + into;
 }
 

@@ -2,6 +2,7 @@
 
 #include "tests/unit/family/history/history_fixture.hpp"
 
+#include "family/registers/customers/customer_merge.hpp"
 #include "family/registers/customers/customer_registers.hpp"
 
 #include <algorithm>
@@ -72,6 +73,95 @@ TEST_F(HistoryChanges, OfLinesOfOtherKindsAreToldInWords)
     EXPECT_EQ(Changes(found[0]), (Lines{"De onde:  > daqui"}));
     EXPECT_EQ(history::ActOf(found[1]), "Foi recusado por falta de direito: o usuário 7");
     EXPECT_EQ(Changes(found[1]), (Lines{"Direito:  > Exportar dados"}));
+}
+
+TEST_F(HistoryChanges, TellFromEitherSideWhichOfTwoHasGoneOnAsTheOther)
+{
+    const auto plan = registers::PlanCustomerMerge(*otherDesk_, 10, 11);
+    ASSERT_TRUE(plan);
+    const auto merged = registers::MergeCustomers(*otherDesk_, *plan, {}, marcos_);
+    ASSERT_TRUE(merged.IsDone());
+    Filter unions;
+    unions.operation = "uniao";
+    unions.table = "cliente";
+    const std::vector<Line> found = Find(unions);
+    ASSERT_EQ(found.size(), 2U);
+    for (const Line& line : found) {
+        const bool hasStayed = line.key == 10;
+        EXPECT_EQ(history::ActOf(line),
+                  hasStayed ? "Uniu ao cliente 10 o registro 11" : "Uniu o cliente 11 ao registro 10");
+        const Lines told = Changes(line);
+        EXPECT_NE(std::ranges::find(told,
+                                    hasStayed ? "Registro que foi unido a este:  > 11"
+                                              : "Continua no registro:  > 10"),
+                  told.end())
+            << testing::PrintToString(told);
+    }
+}
+
+TEST_F(HistoryChanges, OfWhoEntersAndOfWhatNobodyUndoesAreToldInWords)
+{
+    const std::pair<const char*, const char*> acts[] = {
+        {"entrada", "Entrou como o usuário 7"},
+        {"entrada_recusada", "Não conseguiu entrar como o usuário 7"},
+        {"anonimizacao", "Tornou anônimo o usuário 7"},
+        {"importacao_desfeita", "Desfez o usuário 7"},
+    };
+    for (const auto& [operation, act] : acts) {
+        Run("insert into auditoria (momento, usuario, tabela, chave, operacao, depois) values"
+            " ('2026-11-20 11:00:00', '7 - Lia', 'usuario', 7, '"
+            + std::string(operation) + "', '{\"meio\":\"pin\",\"motivo\":\"inativo\"}')");
+        const Line line = Newest("usuario", 7);
+        EXPECT_EQ(history::ActOf(line), act);
+        EXPECT_EQ(Changes(line), (Lines{"Meio:  > pin", "Motivo:  > inativo"}));
+    }
+}
+
+TEST_F(HistoryChanges, OfAPreSaleAreItsStatesInWords)
+{
+    OtherSetsStatus(FullNumber, 4);
+    Filter preSales;
+    preSales.table = "pre_venda";
+    const Lines made = Changes(Find(preSales).front());
+    EXPECT_NE(std::ranges::find(made, "Situação:  > Aberta"), made.end()) << testing::PrintToString(made);
+    EXPECT_TRUE(std::ranges::any_of(made, [](const std::string& one) {
+        return one.starts_with("Criada em:  > 20/11/2026");
+    })) << testing::PrintToString(made);
+    OtherSetsStatus(FullNumber, 1);
+    EXPECT_EQ(Changes(Find(preSales).front()), (Lines{"Situação: Aberta > Cancelada"}));
+    Run("update auditoria set depois = '{\"situacao\":3}' where tabela = 'pre_venda' and operacao ="
+        " 'alteracao'");
+    EXPECT_EQ(Changes(Find(preSales).front()), (Lines{"Situação: Aberta > Faturada"}));
+}
+
+TEST_F(HistoryChanges, OfWhatNoFormHasAreCalledByWords)
+{
+    const std::pair<const char*, const char*> captions[] = {
+        {"criado_em", "Criado em"},
+        {"criado_por", "Criado por"},
+        {"arquivo", "Arquivo"},
+        {"cadastro", "Cadastro"},
+        {"codificacao", "Codificação"},
+        {"copia", "Cópia"},
+        {"elo", "Último elo"},
+        {"ultima_importacao", "Última importação"},
+        {"de", "Da versão"},
+        {"para", "Para a versão"},
+        {"paginas", "Páginas"},
+        {"linhas", "Linhas"},
+        {"novos", "Novos"},
+        {"alterados", "Alterados"},
+        {"excluidos", "Excluídos"},
+        {"restaurados", "Restaurados"},
+        {"mantidos", "Mantidos"},
+        {"linhas_da_auditoria", "Linhas do histórico"},
+    };
+    for (const auto& [column, caption] : captions) {
+        Run("insert into auditoria (momento, usuario, tabela, chave, operacao, depois) values"
+            " ('2026-11-20 11:00:00', '7 - Lia', 'importacao', 3, 'importacao', '{\""
+            + std::string(column) + "\":\"3\"}')");
+        EXPECT_EQ(Changes(Newest("importacao", 3)), (Lines{std::string(caption) + ":  > 3"}));
+    }
 }
 
 TEST_F(HistoryChanges, OfWhatIsDoneWithTheShopAreToldInWords)

@@ -2,7 +2,11 @@
 
 #include "tests/unit/family/history/history_fixture.hpp"
 
+#include "family/registers/access/access_registers.hpp"
+#include "family/registers/customers/customer_merge.hpp"
 #include "family/registers/customers/customer_registers.hpp"
+#include "family/users/accounts.hpp"
+#include "tests/unit/family/users/cheap.hpp"
 
 #include <algorithm>
 
@@ -142,7 +146,9 @@ TEST_F(HistoryUndo, BringsADeletedAppointmentBackOnce)
     ExpectRefused(Newest("agendamento", FullNumber),
                   "Uma restauração não se desfaz aqui: exclua o registro onde ele está.");
     OtherDeletes(FullNumber);
-    EXPECT_NE(Plan(line).find("Só a última exclusão pode ser desfeita."), std::string::npos);
+    ExpectRefused(line,
+                  "Depois disto houve outra gravação (Exclusão) por Marcos (posto BALCAO-2) em 20/11/2026 às "
+                  "09:30. Só a última exclusão pode ser desfeita.");
     EXPECT_EQ(Undo(Newest("agendamento", FullNumber)), "");
 }
 
@@ -228,7 +234,8 @@ TEST_F(HistoryUndo, TellsWhatItCannotDo)
     ExpectRefused(Find(preSales).at(0),
                   "O que foi gravado em Pré-vendas segue de outra gravação, e se desfaz com ela.");
     for (const auto& [operation, why] :
-         {std::pair("uniao", "Uma união de cadastros não pode ser desfeita."),
+         {std::pair("importacao", "Uma importação se desfaz por inteiro, em \"agenda-data undo-import\"."),
+          std::pair("uniao", "Uma união de cadastros não pode ser desfeita."),
           std::pair("anonimizacao", "Uma anonimização não pode ser desfeita: os dados não existem mais."),
           std::pair("entrada", "Isto não mudou nenhum registro: não há o que desfazer.")}) {
         Run("insert into auditoria (momento, usuario, tabela, chave, operacao, depois) values"
@@ -236,6 +243,41 @@ TEST_F(HistoryUndo, TellsWhatItCannotDo)
             + std::string(operation) + "', '{}')");
         ExpectRefused(LineOf(operation), why);
     }
+}
+
+TEST_F(HistoryUndo, BringsNobodyBackWhoHasBecomeOneWithAnother)
+{
+    const auto plan = registers::PlanCustomerMerge(*otherDesk_, 10, 11);
+    ASSERT_TRUE(plan);
+    ASSERT_TRUE(registers::MergeCustomers(*otherDesk_, *plan, {}, marcos_).IsDone());
+    const Line removal = Newest("cliente", 11);
+    EXPECT_EQ(removal.audit.operation, "exclusao");
+    ExpectRefused(removal, "Foi unido a outro cadastro, e uma união não pode ser desfeita.");
+    ExpectRefused(LineOf("uniao"), "Uma união de cadastros não pode ser desfeita.");
+}
+
+TEST_F(HistoryUndo, GivesNobodyHisUserRoleOrSecretsBack)
+{
+    LiaMay({Right::SeeHistory, Right::AdministerUsers});
+    const Secret password("Laço Verde 33");
+    ASSERT_EQ(SetPassword(*otherDesk_, 7, password, marcos_, Cheap).why, "");
+    ExpectRefused(Newest("usuario", 7), "Esta alteração não se desfaz aqui.");
+    const auto made = SaveAccount(*otherDesk_, {0, "Nina", 3, true}, &password, marcos_, Cheap);
+    ASSERT_EQ(made.why, "");
+    const Key role = SaveRole(*otherDesk_, {0, "Tosa", {Right::Book}}, marcos_).code;
+    ASSERT_TRUE(registers::UserRegister().Remove(*otherDesk_, made.code, marcos_).IsDone());
+    ASSERT_TRUE(registers::RoleRegister().Remove(*otherDesk_, role, marcos_).IsDone());
+    for (const Line& line : {Newest("usuario", made.code), Newest("papel", role)})
+        ExpectRefused(line, "A exclusão de um usuário ou de um papel não se desfaz: cadastre-o de novo.");
+}
+
+TEST_F(HistoryUndo, NeedsALineThatTellsWhatWasThere)
+{
+    OtherSetsStatus(FullNumber, 3);
+    OtherSaves(registers::CustomerRegister(), 10, {{"Apelido", "Zezé"}});
+    Run("update auditoria set antes = '{}' where operacao = 'alteracao'");
+    for (const Line& line : {Newest("agendamento", FullNumber), Newest("cliente", 10)})
+        ExpectRefused(line, "Esta linha não diz tudo que havia antes.");
 }
 
 TEST_F(HistoryUndo, OfAChangeThatWasMadeAnonymousSinceIsRefused)
