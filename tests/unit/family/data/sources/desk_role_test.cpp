@@ -188,7 +188,8 @@ TEST_F(PostgresqlDeskRole, IsToldWhereItMayDoMore)
     shop_.Run("grant update on auditoria to public");
     EXPECT_EQ(Rewriters(), std::vector<std::string>{"PUBLIC"});
     EXPECT_EQ(Run({"check", shop_.Address()}), 1);
-    EXPECT_NE(error_.str().find("aviso: no servidor o papel \"PUBLIC\" pode mudar a auditoria"),
+    EXPECT_NE(error_.str().find("aviso: no servidor o papel \"PUBLIC\" pode mudar a auditoria sem ser o dono "
+                                "dela; \"agenda-data server-roles\" dá aos postos só o que eles precisam.\n"),
               std::string::npos)
         << error_.str();
     GiveToDesks(shop_.Address(), Role);
@@ -220,7 +221,45 @@ TEST_F(PostgresqlDeskRole, IsGivenItsRightsByTheCommandOrByWhatItPrints)
     shop_.Run(output_.str());
     EXPECT_TRUE(AddAppointments(*OpenDatabase(Desk()), Bath("01/12/2026"), Somebody).IsDone());
     EXPECT_EQ(Run({"server-roles", shop_.Address(), "--role", Role, "--run"}), 0) << error_.str();
+    EXPECT_EQ(
+        output_.str(),
+        "O papel \"postos da loja\" tem o que um posto precisa. A auditoria ele lê e continua; o que está "
+        "nela só o dono das tabelas pode mudar.\n");
     EXPECT_TRUE(AddAppointments(*OpenDatabase(Desk()), Bath("02/12/2026"), Somebody).IsDone());
+}
+
+TEST_F(PostgresqlDeskRole, IsNamedByWhoeverAsksForItsRights)
+{
+    EXPECT_EQ(Run({"server-roles", shop_.Address(), "--run"}), 2);
+    EXPECT_NE(error_.str().find("Informe com --role o papel do servidor com que os postos se conectam."),
+              std::string::npos)
+        << error_.str();
+    EXPECT_THROW(OpenDatabase(Desk()), Failure);
+}
+
+TEST_F(PostgresqlDeskRole, ArchivesNothingAndTheOwnerNamesAFileTheFirstTime)
+{
+    GiveToDesks(shop_.Address(), Role);
+    const auto archive = [this](const std::string& address, const std::vector<std::string>& more) {
+        std::vector<std::string> words = {"archive-audit", address, "--until", "2025"};
+        words.insert(words.end(), more.begin(), more.end());
+        return Run(words);
+    };
+    const std::string file = folder_ / "velha.auditoria";
+    shop_.Run("insert into auditoria (momento, usuario, tabela, chave, operacao) values"
+              " ('2025-03-01 09:00:00', '7 - Lia', 'cliente', 10, 'exclusao')");
+    EXPECT_EQ(archive(Desk(), {"--to", file}), 1);
+    EXPECT_NE(error_.str().find("Só o dono do banco de dados pode arquivar a auditoria de \""),
+              std::string::npos)
+        << error_.str();
+    EXPECT_NE(error_.str().find("Em um servidor, use o endereço dele."), std::string::npos) << error_.str();
+    EXPECT_EQ(archive(shop_.Address(), {}), 1);
+    EXPECT_NE(error_.str().find("Informe o arquivo em que a auditoria deste servidor é guardada."),
+              std::string::npos)
+        << error_.str();
+    EXPECT_EQ(archive(shop_.Address(), {"--to", file}), 0) << error_.str();
+    EXPECT_EQ(output_.str(), "1 linha da auditoria até 2025 foi para \"" + file + "\".\n");
+    EXPECT_EQ(archive(shop_.Address(), {}), 0) << "it is known from then on\n" << error_.str();
 }
 
 TEST_F(PostgresqlDeskRole, IsNeitherTheOwnerNorMissing)
@@ -232,9 +271,12 @@ TEST_F(PostgresqlDeskRole, IsNeitherTheOwnerNorMissing)
     EXPECT_NE(FailureOf([&] { StatementsForDesks(shop_.Address(), "postgres"); }).find("é dono das tabelas"),
               std::string::npos);
     EXPECT_NE(refusal(shop_.Address(), "nenhum").find("não existe no servidor"), std::string::npos);
-    EXPECT_NE(refusal(folder_ / "loja.db", Role).find("é um arquivo"), std::string::npos);
+    const std::string file = folder_ / "loja.db";
+    EXPECT_EQ(refusal(file, Role), "\"" + file + "\" é um arquivo: papéis só há em um servidor.");
     GiveToDesks(shop_.Address(), Role);
-    EXPECT_NE(refusal(Desk(), Role).find("Só o dono das tabelas"), std::string::npos);
+    const std::string told = refusal(Desk(), Role);
+    EXPECT_TRUE(told.starts_with("Só o dono das tabelas de \"")) << told;
+    EXPECT_TRUE(told.ends_with("\" pode dar e tirar direitos. Use o endereço dele.")) << told;
 }
 
 } // namespace kova::family::test
