@@ -29,10 +29,10 @@ if(CCACHE_PROGRAM)
     # It keeps what was compiled with precompiled headers only where it is told not to look at the clock. What was
     # compiled in one clone serves in another: paths count from the clone's own folder. A header counts with its
     # comments: of a precompiled one the compiler knows the bytes, and would read one that differs by a comment a
-    # second time.
+    # second time. The folder that KOVARIS_HARDEN keeps out of what is built does not count: it is not in there.
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}
-        CCACHE_NOHASHDIR=true CCACHE_DEPEND=true ${CCACHE_PROGRAM})
+        CCACHE_IGNOREOPTIONS=-ffile-prefix-map=* CCACHE_NOHASHDIR=true CCACHE_DEPEND=true ${CCACHE_PROGRAM})
 endif()
 
 # Compiles the headers once that most sources of the target include. Each source includes what it needs all the
