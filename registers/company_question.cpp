@@ -3,6 +3,7 @@
 #include "family/data/engine/database_failure.hpp"
 #include "family/registers/registers.hpp"
 #include "registers/record_form.hpp"
+#include "screens/grows_with_contents.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -49,7 +50,7 @@ CompanyQuestion::CompanyQuestion(const Desk& desk, QWidget* parent)
     layout->addWidget(form_, 1);
     layout->addWidget(failure_);
     layout->addWidget(buttons);
-    resize(UsualWidth, sizeHint().height());
+    screens::GrowWithContents(*this, {UsualWidth, 0});
     form_->FocusFirst();
 }
 

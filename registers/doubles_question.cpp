@@ -1,5 +1,7 @@
 #include "registers/doubles_question.hpp"
 
+#include "screens/grows_with_contents.hpp"
+
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -44,7 +46,7 @@ public:
         layout->addWidget(Explanation(QStringLiteral(
             "Quem abre o cadastro existente deixa de lado o que foi digitado aqui e não foi salvo.")));
         layout->addWidget(Buttons(std::ranges::none_of(doubles, &LikelyDouble::bars)));
-        resize(UsualWidth, sizeHint().height());
+        screens::GrowWithContents(*this, {UsualWidth, 0});
         list_->setFocus();
     }
 

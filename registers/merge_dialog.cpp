@@ -5,6 +5,7 @@
 #include "registers/merge_text.hpp"
 #include "registers/row_list.hpp"
 #include "registers/row_model.hpp"
+#include "screens/grows_with_contents.hpp"
 #include "screens/plain_label.hpp"
 #include "screens/question.hpp"
 #include "screens/refusal_label.hpp"
@@ -90,7 +91,7 @@ void MergeDialog::LayOut()
     layout->addWidget(alike_);
     layout->addWidget(failure_);
     layout->addWidget(buttons);
-    resize(UsualWidth, UsualHeight);
+    screens::GrowWithContents(*this, {UsualWidth, UsualHeight});
 }
 
 void MergeDialog::Try(const std::function<void()>& act)

@@ -6,6 +6,7 @@
 #include "family/privacy/person_files.hpp"
 #include "registers/importing/background_job.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/grows_with_contents.hpp"
 #include "screens/offer.hpp"
 #include "screens/plain_label.hpp"
 #include "screens/refusal_label.hpp"
@@ -83,7 +84,7 @@ PersonDialog::PersonDialog(const Desk& desk, family::Key customer, QWidget* pare
     AddOutcome(*layout);
     connect(close_, &QPushButton::clicked, this, [this] { reject(); });
     Offer();
-    resize(UsualWidth, sizeHint().height());
+    screens::GrowWithContents(*this, {UsualWidth, 0});
     folder_->setFocus();
 }
 

@@ -2,6 +2,7 @@
 
 #include "family/data/engine/database_failure.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/grows_with_contents.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -60,8 +61,8 @@ SuggestionsDialog::SuggestionsDialog(const Register& of, const Desk& desk, QWidg
     layout->addWidget(new screens::FieldFrame(QStringLiteral("&Dias"), list_, this), 1);
     layout->addWidget(refusal_);
     layout->addWidget(buttons);
-    resize(UsualWidth, sizeHint().height());
     Fill();
+    screens::GrowWithContents(*this, {UsualWidth, 0});
     list_->setFocus();
 }
 

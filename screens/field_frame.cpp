@@ -41,7 +41,7 @@ FieldFrame::FieldFrame(const QString& label, QWidget* editor, QWidget* parent, b
 
 void FieldFrame::Refuse(const QString& reason)
 {
-    reason_->Tell(reason);
+    reason_->Show(reason);
     editor_->setAccessibleDescription(reason);
 }
 

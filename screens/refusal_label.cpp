@@ -1,5 +1,6 @@
 #include "screens/refusal_label.hpp"
 
+#include "screens/scrolled_body.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 namespace kova::screens {
@@ -13,10 +14,17 @@ RefusalLabel::RefusalLabel(QWidget* parent) : QLabel(parent)
     hide();
 }
 
-void RefusalLabel::Tell(const QString& reason)
+void RefusalLabel::Show(const QString& reason)
 {
     setText(reason);
     setVisible(!reason.isEmpty());
+}
+
+void RefusalLabel::Tell(const QString& reason)
+{
+    Show(reason);
+    if (!reason.isEmpty())
+        RevealInBody(*this);
 }
 
 // Which of the two colours counts follows from the ground that the label lies on.

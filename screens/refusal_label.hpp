@@ -11,6 +11,8 @@ class RefusalLabel : public QLabel {
 public:
     explicit RefusalLabel(QWidget* parent);
 
+    void Show(const QString& reason);
+    /// The same, and a body that scrolls brings it into sight.
     void Tell(const QString& reason);
 };
 

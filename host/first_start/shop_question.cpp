@@ -4,11 +4,11 @@
 #include "host/first_start/new_shop_page.hpp"
 #include "host/first_start/welcome_page.hpp"
 #include "host/shell/icon.hpp"
+#include "screens/scrolled_body.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -19,18 +19,6 @@ namespace {
 constexpr QSize UsualSize(820, 600);
 /// What the desktop's frame around a window takes, at most.
 constexpr QSize Frame(16, 48);
-
-/// On a small or magnified screen what has no room scrolls.
-QScrollArea* Scrolled(QWidget* page)
-{
-    auto* area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->viewport()->setBackgroundRole(QPalette::Base);
-    area->setWidget(page);
-    return area;
-}
 
 } // namespace
 
@@ -49,7 +37,8 @@ ShopQuestion::ShopQuestion(const Surroundings& surroundings, QWidget* parent)
     auto* made = new NewShopPage(surroundings.user, surroundings.documents, this);
     auto* existing = new ExistingShopPage(surroundings.look, this);
     for (QWidget* page : std::initializer_list<QWidget*>{welcome_, made, existing})
-        pages_->addWidget(Scrolled(page));
+        // On a small or magnified screen what has no room scrolls.
+        pages_->addWidget(new screens::ScrolledBody(page));
 
     const auto turnTo = [this](QWidget* page) {
         pages_->setCurrentWidget(page->parentWidget()->parentWidget());

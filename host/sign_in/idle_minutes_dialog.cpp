@@ -54,8 +54,7 @@ IdleMinutesDialog::IdleMinutesDialog(Door& door, QWidget* parent)
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Save(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    screens::GrowWithContents(*this);
-    resize(Width, layout->totalHeightForWidth(Width));
+    screens::GrowWithContents(*this, {Width, 0});
     minutes_->setFocus();
     minutes_->selectAll();
 }
@@ -70,8 +69,8 @@ void IdleMinutesDialog::Save()
     }
     if (why.empty())
         return accept();
-    failure_->Tell(qt::Lines(why));
     minutes_->setFocus();
+    failure_->Tell(qt::Lines(why));
 }
 
 } // namespace kova::host

@@ -61,8 +61,7 @@ SecretsDialog::SecretsDialog(const Question& question, Save save, QWidget* paren
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Try(); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    screens::GrowWithContents(*this);
-    resize(Width, layout->totalHeightForWidth(Width));
+    screens::GrowWithContents(*this, {Width, 0});
 }
 
 void SecretsDialog::AddFields(const Question& question, QVBoxLayout& layout)
@@ -143,8 +142,8 @@ void SecretsDialog::Try()
     unsetCursor();
     if (why.empty())
         return accept();
-    failure_->Tell(qt::Lines(why));
     (current_ != nullptr ? &BoxOf(*current_) : secrets_->focusProxy())->setFocus();
+    failure_->Tell(qt::Lines(why));
 }
 
 } // namespace kova::host

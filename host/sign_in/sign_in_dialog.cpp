@@ -53,9 +53,8 @@ SignInDialog::SignInDialog(const Question& question, SignInForm::Look look, QWid
         accept();
         onEntered(answer, keep_->isVisibleTo(this) && keep_->isChecked());
     };
-    setFixedWidth(Width);
     setTabOrder(keep_, &form_->Offered());
-    screens::GrowWithContents(*this);
+    screens::GrowWithContents(*this, {Width, 0});
     form_->FocusNext();
 }
 

@@ -117,8 +117,8 @@ void SignInForm::ShowAnswer(const family::SignInAnswer& answer)
     wait_ = left_ = answer.wait;
     if (left_ > 0)
         everySecond_->start();
-    Refuse(qt::Lines(answer.text));
     secret_->setFocus();
+    Refuse(qt::Lines(answer.text));
 }
 
 void SignInForm::CountDown()

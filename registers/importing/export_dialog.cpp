@@ -5,16 +5,18 @@
 #include "registers/importing/background_job.hpp"
 #include "registers/importing/table.hpp"
 #include "screens/field_frame.hpp"
+#include "screens/grows_with_contents.hpp"
 #include "screens/plain_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QFileDialog>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QVBoxLayout>
 
 #include <utility>
 
@@ -80,17 +82,21 @@ ExportDialog::~ExportDialog() { delete job_; }
 
 void ExportDialog::LayOut()
 {
-    auto* grid = new QGridLayout(this);
-    grid->setVerticalSpacing(12);
-    grid->addWidget(told_, 0, 0, 1, 3);
-    grid->addWidget(frame_, 1, 0, 1, 2);
-    grid->addWidget(choose_, 1, 2, Qt::AlignBottom);
-    grid->addWidget(progress_, 2, 0, 1, 3);
-    grid->addWidget(export_, 3, 1);
-    grid->addWidget(cancel_, 3, 2);
-    grid->setColumnStretch(0, 1);
-    grid->setRowStretch(2, 1);
-    resize(UsualWidth, sizeHint().height());
+    auto* file = new QHBoxLayout;
+    file->addWidget(frame_, 1);
+    file->addWidget(choose_, 0, Qt::AlignBottom);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(export_);
+    buttons->addWidget(cancel_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    layout->addWidget(told_);
+    layout->addLayout(file);
+    layout->addWidget(progress_);
+    layout->addStretch(1);
+    layout->addLayout(buttons);
+    screens::GrowWithContents(*this, {UsualWidth, 0});
 }
 
 void ExportDialog::ChooseFile()

@@ -4,6 +4,7 @@
 #include "registers/importing/background_job.hpp"
 #include "registers/importing/check_page.hpp"
 #include "registers/importing/file_page.hpp"
+#include "screens/grows_with_contents.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QHBoxLayout>
@@ -79,8 +80,8 @@ ImportWizard::ImportWizard(FileDesk desk, std::string_view registerName, QWidget
     layout->setSpacing(14);
     layout->addWidget(pages_, 1);
     layout->addLayout(buttons);
-    resize(UsualWidth, UsualHeight);
     Back();
+    screens::GrowWithContents(*this, {UsualWidth, UsualHeight});
 }
 
 // The work goes before what it is told to.
