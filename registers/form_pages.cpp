@@ -2,9 +2,9 @@
 
 #include "family/registers/description/related_list.hpp"
 #include "registers/related_panel.hpp"
+#include "screens/scrolled_body.hpp"
 #include "screens/tabs.hpp"
 
-#include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -13,17 +13,6 @@ namespace kova::registers {
 namespace {
 
 constexpr int Form = 0;
-
-QScrollArea* Scrolled(QWidget& form)
-{
-    auto* area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(&form);
-    area->viewport()->setBackgroundRole(QPalette::Base);
-    return area;
-}
 
 } // namespace
 
@@ -34,7 +23,7 @@ FormPages::FormPages(const family::registers::Register& of, const Desk& desk, QW
 {
     tabs_->setObjectName(QStringLiteral("paginas"));
     tabs_->addTab(QStringLiteral("Ficha"));
-    pages_->addWidget(Scrolled(form));
+    pages_->addWidget(new screens::ScrolledBody(&form));
     for (const family::registers::RelatedList* list : of.Related()) {
         const std::string_view title = list->Title();
         tabs_->addTab(QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size())));

@@ -2,6 +2,7 @@
 
 #include "screens/field_frame.hpp"
 #include "screens/mnemonics.hpp"
+#include "screens/scrolled_body.hpp"
 
 #include <QFocusEvent>
 #include <QGridLayout>
@@ -161,8 +162,11 @@ void RecordForm::Refuse(std::span<const family::registers::RefusedField> refused
         frame->Refuse({});
     for (const auto& one : refused)
         FrameOf(one.field).Refuse(QString::fromStdString(family::registers::Sentence(one.why)));
-    if (!refused.empty())
-        frames_[refused.front().field]->setFocus();
+    if (refused.empty())
+        return;
+    screens::FieldFrame& first = FrameOf(refused.front().field);
+    first.setFocus();
+    screens::RevealInBody(first);
 }
 
 void RecordForm::LookAtRights(const family::DeniedRights& denied)

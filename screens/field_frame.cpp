@@ -21,6 +21,7 @@ FieldFrame::FieldFrame(const QString& label, QWidget* editor, QWidget* parent, b
 {
     auto* title = new QLabel(isRequired ? label + QStringLiteral(" *") : label, this);
     title->setBuddy(editor);
+    title->setWordWrap(true);
     editor->setParent(this);
     if (auto* box = qobject_cast<QLineEdit*>(editor)) {
         box->setMinimumHeight(BoxHeight);
