@@ -3,6 +3,7 @@
 #include "family/data/engine/database_failure.hpp"
 #include "family/data/engine/fold_text.hpp"
 #include "family/registers/registers.hpp"
+#include "registers/register_words.hpp"
 #include "screens/field_frame.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -27,11 +28,6 @@ using family::registers::Offer;
 constexpr int LinesOfChannels = 3;
 constexpr int MostProposals = 12;
 const std::string SeveralMeant = "há mais de um com este nome: escolha na lista.";
-
-QString Shown(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 class LineEditor : public FieldEditor {
 public:

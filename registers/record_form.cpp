@@ -1,5 +1,6 @@
 #include "registers/record_form.hpp"
 
+#include "registers/register_words.hpp"
 #include "screens/field_frame.hpp"
 #include "screens/mnemonics.hpp"
 #include "screens/scrolled_body.hpp"
@@ -16,11 +17,6 @@ using family::registers::FieldKind;
 
 /// Letters that lead to the buttons beside the form.
 const QString LettersOfButtons = QStringLiteral("nsdemix");
-
-QString Shown(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// Takes a row of the form alone.
 bool IsWide(const FieldInfo& field) { return field.kind == FieldKind::Channels || field.longest > 100; }

@@ -1,27 +1,24 @@
 #pragma once
 
+#include "family/registers/description/register.hpp"
 #include "family/users/user_rights.hpp"
 #include "registers/desk.hpp"
 #include "registers/record_actions.hpp"
 #include "registers/record_form.hpp"
-#include "registers/row_model.hpp"
 
 #include <QWidget>
 
-class QCheckBox;
-class QLabel;
-class QPushButton;
-class QTableView;
+#include <memory>
 
-namespace kova::screens {
-class SearchBox;
-}
+class QLabel;
 
 namespace kova::registers {
 
+class RowButtons;
 class FormDraft;
 class FormPages;
-class MoreButton;
+class RowSaving;
+class SearchPane;
 
 /// One register: a list that searches as one types, and beside it the form of the row that is marked.
 class RegisterScreen : public QWidget {
@@ -30,6 +27,7 @@ public:
 
     /// Of `actions` it offers those of its register.
     RegisterScreen(const Register& of, const Desk& desk, const RecordActions& actions, QWidget* parent);
+    ~RegisterScreen() override;
 
     /// Whether something is typed that was not saved.
     bool IsChanged() const;
@@ -56,59 +54,31 @@ public:
 
 private:
     void Find();
-    family::registers::Listed WhichRows() const;
-    /// How many were found, and what there is to do where none was.
-    QString Found() const;
     /// The row is shown in the form; a form that is changed is asked about first.
     void TurnTo(family::Key key);
     void ShowRow(family::Key key);
     void ShowNew();
-    void MarkRow(family::Key key);
-    bool MayBeSaved();
-    void ShowAnswer(const family::registers::SaveAnswer& answer);
     void FocusForm();
-    /// Goes on from the search to the form of the row that is marked.
-    void OpenFound();
-    void Refuse(std::span<const family::registers::RefusedField> refused);
     void ShowSaved(const family::registers::SaveAnswer& answer);
-    /// Whether it was saved.
-    bool SaveRow();
-    /// Where the row may be there already: asks, and shows that one where the user wants it.
-    bool IsNoDouble();
     /// What the user has picked behind "Mais...".
     void Run(const RecordAction& action);
     void Tell(const QString& text);
     void OfferButtons();
-    /// Why nothing may be written here, and no row added; empty where that may be.
-    QString WhyNotWritten() const;
-    QString WhyNothingNew() const;
-    QString TitleOfNew() const;
     /// Offers rows that many shops have.
     void Suggest();
     void LayOut();
     void Connect();
-    /// Runs what needs the database and tells what it reports. False where it failed.
-    bool Try(const std::function<void()>& act);
     bool event(QEvent* event) override;
-    QString NameOf(family::Key key) const;
 
     const Register& register_;
     const Desk& desk_;
-    RowModel* rows_;
-    screens::SearchBox* search_;
-    QCheckBox* inactive_;
-    QTableView* list_;
-    QLabel *found_, *title_, *told_;
+    SearchPane* search_;
+    QLabel *title_, *told_;
     RecordForm* form_;
     FormPages* pages_;
     FormDraft* draft_;
-    QPushButton *new_, *save_, *discard_, *remove_;
-    MoreButton* more_;
-    /// Null where there is nothing to suggest.
-    QPushButton* suggest_ = nullptr;
-    family::DeniedRights denied_;
-    /// The list follows the form and not the other way round.
-    bool isMarking_ = false;
+    std::unique_ptr<RowSaving> saving_;
+    RowButtons* buttons_;
 };
 
 } // namespace kova::registers
