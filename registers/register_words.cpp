@@ -1,5 +1,7 @@
 #include "registers/register_words.hpp"
 
+#include "screens/field_frame.hpp"
+
 #include <QPushButton>
 
 #include <span>
@@ -30,6 +32,14 @@ QPushButton* MakeButton(const QString& name, const QString& text, const QString&
     button->setObjectName(name);
     button->setToolTip(tip);
     return button;
+}
+
+void LetGiveWay(QPushButton& button)
+{
+    constexpr int roomBesideWord = 8;
+    button.ensurePolished();
+    const QString word = screens::WithoutMnemonic(button.text());
+    button.setMinimumWidth(button.fontMetrics().horizontalAdvance(word) + 2 * roomBesideWord);
 }
 
 } // namespace kova::registers

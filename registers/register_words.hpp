@@ -21,5 +21,7 @@ QString TitleOfNew(const family::registers::Register& of);
 QString NameOf(const family::registers::Register& of, const Desk& desk, family::Key key);
 
 QPushButton* MakeButton(const QString& name, const QString& text, const QString& tip, QWidget* parent);
+/// Where there is little room it has no more than its word.
+void LetGiveWay(QPushButton& button);
 
 } // namespace kova::registers

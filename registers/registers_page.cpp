@@ -5,10 +5,12 @@
 #include "family/registers/registers.hpp"
 #include "registers/importing/export_dialog.hpp"
 #include "registers/importing/import_wizard.hpp"
+#include "registers/names_panel.hpp"
 #include "registers/register_screen.hpp"
+#include "registers/register_words.hpp"
 #include "screens/offer.hpp"
 
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
@@ -25,11 +27,9 @@ namespace {
 constexpr int LeastWidthOfNames = 150;
 constexpr int RoomBesideNames = 16;
 constexpr int HeightOfName = 32;
-
-QString Shown(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+constexpr int LeastWidthForTwoColumns = 760;
+constexpr QMargins UsualMargins(20, 16, 20, 12), NarrowMargins(12, 8, 12, 8);
+constexpr int RoomBetween = 16;
 
 } // namespace
 
@@ -57,7 +57,8 @@ RegistersPage::RegistersPage(Desk desk, QWidget* parent, RegistersChoice choice)
     }
     // On a low screen the names scroll, and the bar must not cover their ends.
     widest += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, names_);
-    LayOut(std::max(LeastWidthOfNames, widest + RoomBesideNames));
+    names_->setMinimumWidth(std::max(LeastWidthOfNames, widest + RoomBesideNames));
+    LayOut();
     connect(names_, &QListWidget::currentRowChanged, this, [this](int row) { TurnTo(row); });
     AddShortcuts();
     ShowGuarded();
@@ -71,6 +72,7 @@ void RegistersPage::ShowGuarded()
         names_->setCurrentRow(0);
     for (std::size_t row = guarded_; row < registers_.size(); ++row)
         names_->item(static_cast<int>(row))->setHidden(!isShown);
+    panel_->Follow();
 }
 
 void RegistersPage::OfferFiles()
@@ -87,23 +89,37 @@ void RegistersPage::OfferFiles()
     screens::Offer(*export_, isOffered, why(family::Right::Export));
 }
 
-void RegistersPage::LayOut(int widthOfNames)
+void RegistersPage::LayOut()
 {
     import_ = FileButton(QStringLiteral("importarPlanilha"), QStringLiteral("&Importar planilha..."),
                          &RegistersPage::Import);
     export_ = FileButton(QStringLiteral("exportarPlanilha"), QStringLiteral("E&xportar planilha..."),
                          &RegistersPage::Export);
-    names_->setFixedWidth(std::max({widthOfNames, import_->sizeHint().width(), export_->sizeHint().width()}));
-    auto* left = new QVBoxLayout;
-    left->setSpacing(8);
-    left->addWidget(names_, 1);
-    left->addWidget(import_);
-    left->addWidget(export_);
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(20, 16, 20, 12);
-    layout->setSpacing(16);
-    layout->addLayout(left);
-    layout->addWidget(pages_, 1);
+    panel_ = new NamesPanel(*names_, {import_, export_}, this);
+    layout_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
+    layout_->setContentsMargins(UsualMargins);
+    layout_->setSpacing(RoomBetween);
+    // What it needs depends on what it has.
+    layout_->setSizeConstraint(QLayout::SetNoConstraint);
+    layout_->addWidget(panel_);
+    layout_->addWidget(pages_, 1);
+}
+
+QSize RegistersPage::minimumSizeHint() const
+{
+    const int width = pages_->minimumSizeHint().width() + NarrowMargins.left() + NarrowMargins.right();
+    return {width, layout_->minimumSize().height()};
+}
+
+// The names stand above the screens where these would have too little room beside them.
+void RegistersPage::resizeEvent(QResizeEvent* event)
+{
+    const bool isNarrow = width() < LeastWidthForTwoColumns;
+    layout_->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    layout_->setContentsMargins(isNarrow ? NarrowMargins : UsualMargins);
+    layout_->setSpacing(isNarrow ? RoomBetween / 2 : RoomBetween);
+    panel_->SetNarrow(isNarrow);
+    QWidget::resizeEvent(event);
 }
 
 // The screens use the desk as long as they are there; hidden, they write what is not written yet.

@@ -8,6 +8,7 @@
 
 #include <vector>
 
+class QBoxLayout;
 class QDialog;
 class QListWidget;
 class QPushButton;
@@ -19,6 +20,7 @@ class Register;
 
 namespace kova::registers {
 
+class NamesPanel;
 class RegisterScreen;
 
 /// What a page has besides the usual registers.
@@ -45,8 +47,13 @@ public:
     /// may not do.
     void Refresh();
 
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
-    void LayOut(int widthOfNames);
+    void LayOut();
     void AddShortcuts();
     QPushButton* FileButton(const QString& name, const QString& text, void (RegistersPage::*act)());
     void Import();
@@ -73,6 +80,8 @@ private:
     const std::function<bool()> showsGuarded_;
     family::DeniedRights denied_;
     QListWidget* names_;
+    NamesPanel* panel_ = nullptr;
+    QBoxLayout* layout_ = nullptr;
     QPushButton *import_ = nullptr, *export_ = nullptr;
     QStackedWidget* pages_;
     /// By register; null until it is turned to.

@@ -33,6 +33,8 @@ void RowButtons::LayOut()
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
+    for (QPushButton* button : {new_, save_, discard_, static_cast<QPushButton*>(more_), remove_})
+        LetGiveWay(*button);
     row->addWidget(save_);
     row->addWidget(discard_);
     row->addStretch(1);

@@ -13,9 +13,17 @@
 #include <QPushButton>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace kova::registers {
 
 using family::registers::Listed;
+
+namespace {
+
+constexpr int RoomBeforeForm = 8;
+
+} // namespace
 
 SearchPane::SearchPane(const Register& of, const Desk& desk, QWidget* parent)
     : QWidget(parent),
@@ -46,10 +54,29 @@ void SearchPane::LayOut()
     belowList_->addWidget(found_, 1);
     belowList_->addWidget(inactive_);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 8, 0);
+    column->setContentsMargins(0, 0, RoomBeforeForm, 0);
     column->addLayout(aboveList_);
     column->addWidget(list_, 1);
     column->addLayout(belowList_);
+}
+
+// What stands below the list needs the room of its widest part: it stands one below the other where it is
+// narrow.
+QSize SearchPane::minimumSizeHint() const
+{
+    int width = aboveList_->minimumSize().width();
+    for (int part = 0; part < belowList_->count(); ++part)
+        width = std::max(width, belowList_->itemAt(part)->minimumSize().width());
+    return {width + RoomBeforeForm, layout()->minimumSize().height()};
+}
+
+void SearchPane::resizeEvent(QResizeEvent* event)
+{
+    int needed = RoomBeforeForm;
+    for (int part = 0; part < belowList_->count(); ++part)
+        needed += belowList_->itemAt(part)->minimumSize().width() + belowList_->spacing();
+    belowList_->setDirection(width() < needed ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    QWidget::resizeEvent(event);
 }
 
 void SearchPane::Put(QPushButton& add, QPushButton* addMany)

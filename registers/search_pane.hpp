@@ -38,6 +38,8 @@ public:
     /// 0 where nothing was found.
     family::Key FirstFound() const;
 
+    QSize minimumSizeHint() const override;
+
     void FocusSearch();
     /// Shows the inactive rows, too, or leaves them out again.
     void TurnInactive();
@@ -49,6 +51,9 @@ public:
     std::function<void(family::Key)> onTurned = [](family::Key) {};
     /// Goes on to the form of the row that is marked.
     std::function<void()> onOpened = [] {};
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void LayOut();
