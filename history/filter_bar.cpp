@@ -24,8 +24,8 @@ using family::history::Filter;
 
 /// How long nobody types before it is looked for.
 constexpr int PauseMilliseconds = 300;
-constexpr int WidthOfDay = 120;
-constexpr int LeastLettersOfChoice = 14;
+constexpr int WidthOfDay = 108;
+constexpr int LeastLettersOfChoice = 5;
 
 constexpr const char* Operations[] = {
     family::audit_operation::Insertion,     family::audit_operation::Change,
@@ -87,6 +87,8 @@ FilterBar::FilterBar(const Desk& desk, QWidget* parent)
       toFrame_(new screens::FieldFrame(QStringLiteral("&Até"), to_, this)),
       clear_(new QPushButton(QStringLiteral("&Limpar"), this)),
       archive_(new QCheckBox(QStringLiteral("&Incluir arquivo"), this)),
+      second_(new QHBoxLayout),
+      third_(new QHBoxLayout),
       pause_(new QTimer(this))
 {
     for (const char* operation : Operations)
@@ -152,23 +154,34 @@ void FilterBar::LayOut()
     first->addWidget(subject_, 2);
     first->addWidget(new screens::FieldFrame(QStringLiteral("&Procurar"), text_, this), 1);
     first->addWidget(archive_, 0, Qt::AlignBottom);
-    auto* second = new QHBoxLayout;
-    second->addWidget(new screens::FieldFrame(QStringLiteral("Que&m"), user_, this), 1);
-    second->addWidget(new screens::FieldFrame(QStringLiteral("O que &fez"), operation_, this), 1);
-    second->addWidget(new screens::FieldFrame(QStringLiteral("Re&gistro"), table_, this), 1);
-    for (screens::FieldFrame* frame : {fromFrame_, toFrame_}) {
-        frame->setFixedWidth(WidthOfDay);
-        second->addWidget(frame);
-    }
-    second->addWidget(clear_, 0, Qt::AlignBottom);
+    second_->addWidget(new screens::FieldFrame(QStringLiteral("Que&m"), user_, this), 1);
+    second_->addWidget(new screens::FieldFrame(QStringLiteral("O que &fez"), operation_, this), 1);
+    second_->addWidget(new screens::FieldFrame(QStringLiteral("Re&gistro"), table_, this), 1);
+    third_->addStretch();
+    fromFrame_->setFixedWidth(WidthOfDay);
+    toFrame_->setFixedWidth(WidthOfDay);
+    SetNarrow(false);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(first);
-    layout->addLayout(second);
+    layout->addLayout(second_);
+    layout->addLayout(third_);
     // What is made before its neighbours would come before them with the tab key.
     QWidget* const inOrder[] = {subject_, text_, archive_, user_, operation_, table_, from_, to_, clear_};
     for (std::size_t at = 1; at < std::size(inOrder); ++at)
         setTabOrder(inOrder[at - 1], inOrder[at]);
+}
+
+void FilterBar::SetNarrow(bool isNarrow)
+{
+    // Behind what stands there always.
+    QHBoxLayout& row = isNarrow ? *third_ : *second_;
+    int place = isNarrow ? 0 : 3;
+    for (QWidget* one : std::initializer_list<QWidget*>{fromFrame_, toFrame_, clear_}) {
+        second_->removeWidget(one);
+        third_->removeWidget(one);
+        row.insertWidget(place++, one, 0, one == clear_ ? Qt::AlignBottom : Qt::Alignment());
+    }
 }
 
 void FilterBar::Changed(bool isDone)

@@ -13,6 +13,7 @@
 class QAbstractItemView;
 class QCheckBox;
 class QComboBox;
+class QHBoxLayout;
 class QLineEdit;
 class QPushButton;
 class QTimer;
@@ -44,6 +45,8 @@ public:
     void MarkArchive(bool isIncluded);
     void OfferWriters(const std::vector<std::string>& writers);
     void FocusSearch();
+    /// In three rows instead of two.
+    void SetNarrow(bool isNarrow);
     /// The arrows in the search walk through that list.
     void WalkThrough(QAbstractItemView& list);
 
@@ -68,6 +71,7 @@ private:
     screens::FieldFrame *fromFrame_, *toFrame_;
     QPushButton* clear_;
     QCheckBox* archive_;
+    QHBoxLayout *second_, *third_;
     QTimer* pause_;
 };
 

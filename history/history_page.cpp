@@ -10,6 +10,7 @@
 #include "screens/plain_label.hpp"
 #include "screens/question.hpp"
 #include "screens/row_table.hpp"
+#include "screens/scrolled_body.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QFileDialog>
@@ -34,6 +35,11 @@ using family::history::Subject;
 constexpr int WidthOfList = 3, WidthOfPanel = 2;
 constexpr int RoomInColumn = 10;
 constexpr int WidestColumn = 160;
+/// Below each other in a page that is narrower; with less height than these the page scrolls.
+constexpr int LeastWidthForTwoColumns = 600;
+constexpr int LeastHeightOfList = 140, LeastHeightOfPanel = 240;
+/// As much as the smallest screen has.
+constexpr QSize LeastSize(440, 200);
 
 QTableView* MakeList(LineModel& lines, QWidget* parent)
 {
@@ -56,6 +62,7 @@ HistoryPage::HistoryPage(Desk desk, QWidget* parent)
       told_(screens::MakePlainLabel(QStringLiteral("recado"), this)),
       refusal_(screens::MakePlainLabel(QStringLiteral("impedimento"), this)),
       panel_(new LinePanel(desk_, this)),
+      sides_(new QSplitter(this)),
       pages_(new QStackedWidget(this))
 {
     LayOut();
@@ -94,29 +101,47 @@ void HistoryPage::LayOut()
     pages_->addWidget(refusal_);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 12, 20, 12);
+    // What it needs depends on what it has.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(pages_);
 }
 
-QWidget* HistoryPage::MakeContent()
+QSize HistoryPage::minimumSizeHint() const { return LeastSize; }
+
+void HistoryPage::resizeEvent(QResizeEvent* event)
+{
+    const bool isNarrow = width() < LeastWidthForTwoColumns;
+    filter_->SetNarrow(isNarrow);
+    sides_->setOrientation(isNarrow ? Qt::Vertical : Qt::Horizontal);
+    QWidget::resizeEvent(event);
+}
+
+void HistoryPage::MakeSides()
 {
     auto* left = new QWidget(this);
     auto* column = new QVBoxLayout(left);
     column->setContentsMargins(0, 0, 8, 0);
     column->addWidget(list_, 1);
     column->addWidget(found_);
-    auto* sides = new QSplitter(this);
-    sides->setChildrenCollapsible(false);
-    sides->addWidget(left);
-    sides->addWidget(panel_);
-    sides->setStretchFactor(0, WidthOfList);
-    sides->setStretchFactor(1, WidthOfPanel);
+    list_->setMinimumHeight(LeastHeightOfList);
+    panel_->setMinimumHeight(LeastHeightOfPanel);
+    sides_->setChildrenCollapsible(false);
+    sides_->addWidget(left);
+    sides_->addWidget(panel_);
+    sides_->setStretchFactor(0, WidthOfList);
+    sides_->setStretchFactor(1, WidthOfPanel);
+}
+
+QWidget* HistoryPage::MakeContent()
+{
+    MakeSides();
     auto* content = new QWidget(this);
     auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(filter_);
-    layout->addWidget(sides, 1);
+    layout->addWidget(sides_, 1);
     layout->addWidget(told_);
-    return content;
+    return new screens::ScrolledBody(content, this);
 }
 
 void HistoryPage::AddShortcuts()

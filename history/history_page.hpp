@@ -10,6 +10,7 @@
 #include <optional>
 
 class QLabel;
+class QSplitter;
 class QStackedWidget;
 class QTableView;
 
@@ -34,12 +35,16 @@ public:
     /// Asks for the file of the archive where it is not where the shop says; empty where none is given.
     std::function<QString()> onChooseArchive;
 
+    QSize minimumSizeHint() const override;
+
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void LayOut();
     QWidget* MakeContent();
+    void MakeSides();
     void AddShortcuts();
     void Find();
     void FindLines(const family::history::Filter& filter);
@@ -61,6 +66,7 @@ private:
     QTableView* list_;
     QLabel *found_, *told_, *refusal_;
     LinePanel* panel_;
+    QSplitter* sides_;
     QStackedWidget* pages_;
 };
 
