@@ -24,6 +24,39 @@ if(MINGW)
     endforeach()
 endif()
 
+# What a program for Windows tells the system about itself.
+if(MINGW)
+    set(resources ${CMAKE_SOURCE_DIR}/packaging/windows)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${resources}/program.rc ${resources}/program.manifest)
+    execute_process(COMMAND ${CMAKE_RC_COMPILER} -I ${resources} ${resources}/program.rc
+                            ${CMAKE_BINARY_DIR}/program_resources.o COMMAND_ERROR_IS_FATAL ANY)
+    string(APPEND CMAKE_EXE_LINKER_FLAGS " \"${CMAKE_BINARY_DIR}/program_resources.o\"")
+endif()
+
+# The libraries that are loaded from there too, once they are built.
+if(MINGW AND NOT KOVARIS_CORE_ONLY)
+    file(GLOB windows_libraries CONFIGURE_DEPENDS ${KOVARIS_WINDOWS_PREFIX}/bin/*.dll)
+    if(KOVARIS_SCREEN)
+        file(GLOB qt_libraries CONFIGURE_DEPENDS ${KOVARIS_WINDOWS_PREFIX}/qt/bin/*.dll)
+        file(COPY ${KOVARIS_WINDOWS_PREFIX}/qt/plugins/ DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    endif()
+    file(COPY ${windows_libraries} ${qt_libraries} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+endif()
+
+# A library that is all headers. They serve every system; another one takes those of this one, away from its
+# C library's.
+macro(kovaris_find_headers package target header)
+    if(CMAKE_CROSSCOMPILING)
+        find_path(KOVARIS_${package} ${header} PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+        string(REGEX REPLACE "/.*" "" package_folder ${header})
+        file(COPY ${KOVARIS_${package}}/${package_folder} DESTINATION ${CMAKE_BINARY_DIR}/headers/${package})
+        add_library(${target} INTERFACE IMPORTED)
+        target_include_directories(${target} INTERFACE ${CMAKE_BINARY_DIR}/headers/${package})
+    else()
+        find_package(${package} REQUIRED)
+    endif()
+endmacro()
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
     # It keeps what was compiled with precompiled headers only where it is told not to look at the clock. What was
