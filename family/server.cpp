@@ -15,8 +15,6 @@
 #include "family/business/shop/system_version.hpp"
 #include "family/data/sources/shared_database.hpp"
 
-#include <soci/soci.h>
-
 namespace {
 
 template <class Class> kova::ComponentLibrary::Entry Entry(const char* classId)
@@ -50,17 +48,14 @@ kova::ComponentLibrary& Library()
 
 /// A record set that is still held counts as an object of the library.
 ///
-/// Without a host nobody will come back for the connections. The back ends go with them: one that stayed
-/// would be closed by a destructor that runs while the library itself is being closed.
+/// Without a host nobody will come back for the connections.
 KOVA_ENTRY_POINT std::int32_t KovaAttachHost(kova::ServerHost* host)
 {
     if (host != Library().Host() && kova::family::LentRecordSets() > 0)
         return static_cast<std::int32_t>(kova::ServerStatus::Refused);
     const std::int32_t status = Library().AttachHost(host);
-    if (!host && status == 0) {
+    if (!host && status == 0)
         kova::family::CloseSharedDatabases();
-        soci::dynamic_backends::unload_all();
-    }
     return status;
 }
 

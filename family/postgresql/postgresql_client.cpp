@@ -93,6 +93,8 @@ bool IsFile(const std::string& path)
 
 class PostgresqlClient final : public ServerClient {
 public:
+    const soci::backend_factory& BackEnd() const override { return *soci::factory_postgresql(); }
+
     std::optional<AddressParts> Read(const std::string& address) const override
     {
         PQconninfoOption* const told = PQconninfoParse(address.c_str(), nullptr);

@@ -29,7 +29,7 @@ void Database::Connect()
 {
     const auto start = std::chrono::steady_clock::now();
     try {
-        session_.open(dialect_.backend, connection_);
+        session_.open(dialect_.backEnd(), connection_);
     } catch (const soci::soci_error& cause) {
         const bool soon = std::chrono::steady_clock::now() - start < LongAttempt;
         throw soon && dialect_.IsServer() ? RefusalOfServer(path_, connection_, cause)

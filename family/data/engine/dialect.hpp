@@ -5,12 +5,17 @@
 #include <string>
 #include <vector>
 
+namespace soci {
+class backend_factory;
+}
+
 namespace kova::family {
 
 /// What differs between the engines that keep the data; everything else is one SQL.
 struct Dialect {
-    /// Name by which the back end of the engine is loaded.
-    std::string backend;
+    /// The back end of the engine. That of servers is loaded when it is asked for first, and fails as
+    /// RequireServerClient.
+    const soci::backend_factory& (*backEnd)();
     /// Type of a key that the engine numbers itself, never giving a number twice.
     std::string identity;
     std::string bigInteger;

@@ -5,6 +5,10 @@
 #include <stdexcept>
 #include <string>
 
+namespace soci {
+class backend_factory;
+}
+
 namespace kova::family {
 
 /// What an address says, by keyword.
@@ -34,6 +38,9 @@ std::string ValueOf(const AddressParts& parts, const char* keyword);
 class ServerClient {
 public:
     virtual ~ServerClient() = default;
+
+    /// What makes connections to a server.
+    virtual const soci::backend_factory& BackEnd() const = 0;
 
     /// Nothing where the address cannot be understood. Asks nobody.
     virtual std::optional<AddressParts> Read(const std::string& address) const = 0;

@@ -47,7 +47,7 @@ TEST(ServerClient, TakesNoFailureOfAFileForAServers)
 TEST(ServerClient, KnowsTheStateOfWhatPostgresqlReports)
 {
     const kova::test::PostgresDatabase database(kova::test::PostgresServer::Shared());
-    soci::session session("postgresql", database.Address());
+    soci::session session(RequireServerClient().BackEnd(), database.Address());
     try {
         session << "select 1 / 0";
         FAIL() << "nothing was reported";
