@@ -1,6 +1,6 @@
 # The failure sweep: every script once for each border crossing. It grows with the scripts. A build of the
 # core alone leaves it to the others: it would find the same there.
-if(KOVARIS_CORE_ONLY)
+if(NOT KOVARIS_SCREEN)
     return()
 endif()
 add_executable(fault-sweep ${CMAKE_CURRENT_LIST_DIR}/sweep.cpp)

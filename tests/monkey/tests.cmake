@@ -1,6 +1,6 @@
 # A receptionist that never tires, on the real window. tests/monkey/run lets it loose for as long as
 # one likes; the tests here only repeat what it has found.
-if(NOT KOVARIS_CORE_ONLY)
+if(KOVARIS_SCREEN)
     find_package(SQLite3 REQUIRED)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 

@@ -7,7 +7,7 @@ foreach(scenario IN LISTS scenarios)
              COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/check $<TARGET_FILE:agenda-scenario> ${scenario})
     set_tests_properties(Scenario.${name} PROPERTIES
         ENVIRONMENT "KOVARIS_EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}")
-    if(NOT KOVARIS_CORE_ONLY)
+    if(KOVARIS_SCREEN)
         add_test(NAME ScenarioOnScreen.${name}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/check $<TARGET_FILE:agenda-scenario> ${scenario}
                          --toolkit qt)

@@ -6,6 +6,10 @@
 
 namespace kova::test {
 
+/// Sets a variable of this process's environment, or takes it out.
+void SetVariable(const char* name, const std::string& value);
+void RemoveVariable(const char* name);
+
 /// Gives an environment variable another value for a while.
 class EnvironmentVariable {
 public:
@@ -13,14 +17,14 @@ public:
     {
         if (const char* former = std::getenv(name))
             former_ = former;
-        setenv(name, value.c_str(), 1);
+        SetVariable(name, value);
     }
     ~EnvironmentVariable()
     {
         if (former_)
-            setenv(name_, former_->c_str(), 1);
+            SetVariable(name_, *former_);
         else
-            unsetenv(name_);
+            RemoveVariable(name_);
     }
     EnvironmentVariable(const EnvironmentVariable&) = delete;
     EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;

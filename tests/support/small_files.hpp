@@ -1,8 +1,7 @@
 #pragma once
 
-#include <sys/resource.h>
-
-#include <csignal>
+#include <cstdint>
+#include <memory>
 
 namespace kova::test {
 
@@ -10,24 +9,14 @@ namespace kova::test {
 /// full.
 class SmallFiles {
 public:
-    explicit SmallFiles(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &former_);
-        formerHandler_ = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small{bytes, former_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallFiles()
-    {
-        setrlimit(RLIMIT_FSIZE, &former_);
-        std::signal(SIGXFSZ, formerHandler_);
-    }
+    explicit SmallFiles(std::uint64_t bytes);
+    ~SmallFiles();
     SmallFiles(const SmallFiles&) = delete;
     SmallFiles& operator=(const SmallFiles&) = delete;
 
 private:
-    rlimit former_{};
-    void (*formerHandler_)(int) = nullptr;
+    struct Former;
+    std::unique_ptr<Former> former_;
 };
 
 } // namespace kova::test

@@ -1,6 +1,6 @@
 # The application as the shop runs it, in this process: its window, its libraries loaded by name, its
 # database; keys and mouse as the desktop sends them.
-if(NOT KOVARIS_CORE_ONLY)
+if(KOVARIS_SCREEN)
     find_package(SQLite3 REQUIRED)
     kovaris_test_program(test_window screen_hand host_application family_business test_qt_application
         test_postgres_server SQLite::SQLite3 Qt6::Test)

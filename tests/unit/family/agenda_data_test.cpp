@@ -8,6 +8,7 @@
 #include "family/data/migrations/current_migrations.hpp"
 #include "family/data/selections/customer_selection.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "system/path_text.hpp"
 #include "tools/agenda-data/commands.hpp"
 
 #include <sstream>
@@ -307,7 +308,7 @@ TEST_F(AgendaData, TakesAPlaceForTheCopyOfAServerAlone)
 {
     MakeOld(a_, 4);
     EXPECT_EQ(Run({"migrate", a_, "--backup", folder_ / "antes.bak"}), TestsRunOnServer() ? 0 : 2);
-    EXPECT_EQ(std::filesystem::exists(folder_ / "antes.bak"), TestsRunOnServer());
+    EXPECT_EQ(std::filesystem::exists(system::PathOf(folder_ / "antes.bak")), TestsRunOnServer());
     EXPECT_TRUE(TestsRunOnServer() || Complained("--backup é só para um servidor")) << error_.str();
 }
 

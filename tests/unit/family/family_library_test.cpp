@@ -1,6 +1,7 @@
 #include "tests/unit/family/shop_fixture.hpp"
 
-#include <dlfcn.h>
+#include "system/library.hpp"
+#include "system/path_text.hpp"
 
 namespace kova::family::test {
 
@@ -9,13 +10,9 @@ namespace {
 /// The library as a host loads it.
 class FamilyLibrary : public testing::Test {
 protected:
-    FamilyLibrary() : library_(dlopen(FAMILY_LIBRARY, RTLD_NOW | RTLD_LOCAL)) { }
-
-    void SetUp() override { ASSERT_NE(library_, nullptr) << dlerror(); }
-
     template <class Function> Function Entry(const char* name)
     {
-        return reinterpret_cast<Function>(dlsym(library_, name));
+        return reinterpret_cast<Function>(library_.Find(name));
     }
 
     std::int32_t Attach(ServerHost* host) { return Entry<KovaAttachHostFunction>("KovaAttachHost")(host); }
@@ -31,7 +28,7 @@ protected:
     }
 
     TemporaryFolder folder_;
-    void* library_;
+    system::Library library_{FAMILY_LIBRARY};
 };
 
 } // namespace
@@ -76,9 +73,9 @@ TEST_F(FamilyLibrary, KeepsTheConnectionBetweenComponentsAndClosesItWithTheHost)
     EXPECT_EQ(Attach(&host), 0) << "it is the same host";
     records = nullptr;
     EXPECT_EQ(Entry<DllCanUnloadNowFunction>("DllCanUnloadNow")(), 0);
-    EXPECT_TRUE(std::filesystem::exists(log));
+    EXPECT_TRUE(std::filesystem::exists(system::PathOf(log)));
     EXPECT_EQ(Attach(nullptr), 0);
-    EXPECT_FALSE(std::filesystem::exists(log));
+    EXPECT_FALSE(std::filesystem::exists(system::PathOf(log)));
 }
 
 } // namespace kova::family::test

@@ -9,6 +9,7 @@
 #include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/customer_store.hpp"
+#include "system/path_text.hpp"
 #include "tests/support/data_places.hpp"
 
 #include <fstream>
@@ -18,28 +19,18 @@ namespace kova::family::test {
 
 namespace fs = std::filesystem;
 
-TemporaryFolder::TemporaryFolder()
-{
-    std::string name = (fs::temp_directory_path() / "salão-XXXXXX").string();
-    path_ = mkdtemp(name.data());
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-    fs::permissions(path_, fs::perms::owner_all);
-    fs::remove_all(path_);
-}
+TemporaryFolder::~TemporaryFolder() { fs::permissions(Path(), fs::perms::owner_all); }
 
 std::string ContentOf(const std::string& path)
 {
     std::ostringstream content;
-    content << std::ifstream(path, std::ios::binary).rdbuf();
+    content << std::ifstream(system::PathOf(path), std::ios::binary).rdbuf();
     return content.str();
 }
 
 void WriteContent(const std::string& path, const std::string& content)
 {
-    std::ofstream(path, std::ios::binary) << content;
+    std::ofstream(system::PathOf(path), std::ios::binary) << content;
 }
 
 namespace {

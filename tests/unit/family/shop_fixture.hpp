@@ -3,6 +3,8 @@
 #include "agenda/contracts/component_server.hpp"
 #include "agenda/contracts/support/paged_record_set.hpp"
 #include "family/data/engine/database.hpp"
+#include "system/path_text.hpp"
+#include "system/temporary_folder.hpp"
 #include "tests/support/postgres_server.hpp"
 
 #include <gtest/gtest.h>
@@ -18,16 +20,19 @@ namespace kova::family::test {
 /// A folder with an accent in its name that goes with its owner, writable again before.
 class TemporaryFolder {
 public:
-    TemporaryFolder();
+    TemporaryFolder() = default;
     ~TemporaryFolder();
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    std::string operator/(const std::string& name) const { return (path_ / name).string(); }
-    const std::filesystem::path& Path() const { return path_; }
+    std::string operator/(const std::string& name) const
+    {
+        return system::TextOf(Path() / system::PathOf(name));
+    }
+    const std::filesystem::path& Path() const { return folder_.Path(); }
 
 private:
-    std::filesystem::path path_;
+    system::TemporaryFolder folder_{"salão"};
 };
 
 std::string ContentOf(const std::string& path);

@@ -1,9 +1,10 @@
 if(NOT KOVARIS_CORE_ONLY)
-    kovaris_test_program(test_family agenda_data_commands family_business test_postgres_server
-                         test_network_disk)
+    kovaris_test_program(test_family agenda_data_commands family_business test_postgres_server)
     kovaris_precompile(test_family ${CMAKE_CURRENT_LIST_DIR}/shop_fixture.hpp)
     target_compile_definitions(test_family PRIVATE FAMILY_LIBRARY="$<TARGET_FILE:KOVA_N_Familia>")
-    target_link_libraries(test_family PRIVATE ${CMAKE_DL_LIBS})
+    if(NOT WIN32)
+        target_link_libraries(test_family PRIVATE test_network_disk)
+    endif()
     add_dependencies(test_family KOVA_N_Familia)
 
     # All of it again with the fixtures' data on a server. Left out is what is about SQLite files themselves, which

@@ -1,4 +1,4 @@
-if(NOT KOVARIS_CORE_ONLY)
+if(KOVARIS_SCREEN)
     kovaris_test_program(test_host host_application Qt6::Test family_presentation family_business
         agenda_module toolkit_headless
         test_postgres_server)

@@ -5,6 +5,8 @@
 #include "host/components/component_service.hpp"
 #include "host/components/profile_file.hpp"
 #include "host/components/server_host.hpp"
+#include "system/path_text.hpp"
+#include "system/temporary_folder.hpp"
 #include "toolkits/common/form.hpp"
 #include "toolkits/headless/toolkit.hpp"
 #include "tools/scenario/scripted_components.hpp"
@@ -30,7 +32,6 @@ const std::string ClassName = "KOVA_A_Agenda.clsAgenda";
 class TheModulesLibrary : public testing::Test, public Platform {
 protected:
     TheModulesLibrary() { container = toolkit.CreateContainer(20490, 10500); }
-    ~TheModulesLibrary() override { std::filesystem::remove_all(folder); }
 
     ComponentService& Components() override { return script; }
     kova::Toolkit& Toolkit() override { return toolkit; }
@@ -55,18 +56,13 @@ protected:
                       {.records = {{"Apelido", "Codigo"}, {{"Ana", Long{7}}}}});
     }
 
-    static std::string MakeFolder()
-    {
-        std::string pattern = (std::filesystem::temp_directory_path() / "modulo-XXXXXX").string();
-        return mkdtemp(pattern.data());
-    }
-
-    const std::string folder = MakeFolder();
+    const system::TemporaryFolder ownFolder{"modulo"};
+    const std::string folder = system::TextOf(ownFolder.Path());
     scenario::ScriptedComponents script;
     headless::HeadlessToolkit toolkit;
     ProfileFile profile;
     Long container = 0;
-    Registry registry{folder.empty() ? std::string() : folder + "/componentes.reg"};
+    Registry registry{folder + "/componentes.reg"};
     RegistryServerHost server{registry, *this, ""};
     RegisteredComponents components{registry, server.Libraries()};
 };

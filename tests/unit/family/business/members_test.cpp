@@ -4,6 +4,7 @@
 #include "family/business/registers/employees.hpp"
 #include "family/business/registers/service_types.hpp"
 #include "family/data/sources/shared_database.hpp"
+#include "system/path_text.hpp"
 
 namespace kova::family::test {
 
@@ -93,7 +94,7 @@ TEST_F(Members, OfEverySelectionAnswerAStatusWhereTheDatabaseIsMissing)
     EXPECT_EQ(types.Call("SelecionarParaComboBox", {ByRef(all)}), Value(Integer(1)));
     EXPECT_EQ(types.Get("LocalDoErro"), Value("KOVA_N_TipoDeServ.clsTiposDeServ, SelecionarParaComboBox"));
     EXPECT_NE(types.Get("NumeroDoErro"), Value(Long(0)));
-    EXPECT_FALSE(std::filesystem::exists(host.DataSource()));
+    EXPECT_FALSE(std::filesystem::exists(system::PathOf(host.DataSource())));
 }
 
 TEST_F(Members, AnswerAStatusWhereATableIsGoneAndRecoverWhenItIsBack)

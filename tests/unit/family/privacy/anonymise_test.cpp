@@ -14,6 +14,7 @@
 #include "family/privacy/person_files.hpp"
 #include "family/registers/customers/customer_merge.hpp"
 #include "family/registers/registers.hpp"
+#include "system/path_text.hpp"
 #include "tests/unit/family/bath.hpp"
 
 #include <utility>
@@ -448,8 +449,9 @@ TEST_F(AnonymousCustomer, IsAskedForUnderTheCodeThatItGoesOnWith)
     EXPECT_EQ(answer.outcome, Outcome::Gone);
     EXPECT_EQ(answer.text, told);
     EXPECT_EQ(WholeDatabase(), before);
-    const std::string failure = FailureOf(
-        [&] { privacy::ExportPerson(host_.DataSource(), gone, folder_.Path().string(), ana_, now_, {}); });
+    const std::string failure = FailureOf([&] {
+        privacy::ExportPerson(host_.DataSource(), gone, system::TextOf(folder_.Path()), ana_, now_, {});
+    });
     EXPECT_NE(failure.find(told), std::string::npos) << failure;
 }
 

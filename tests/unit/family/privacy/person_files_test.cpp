@@ -1,7 +1,9 @@
+#include "tests/support/own_file.hpp"
 #include "tests/unit/family/privacy/privacy_fixture.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
 #include "family/privacy/person_files.hpp"
+#include "system/path_text.hpp"
 #include "tests/support/small_files.hpp"
 
 #include <filesystem>
@@ -14,13 +16,13 @@ class PersonFilesOfAShop : public PrivacyTest {
 protected:
     privacy::PersonFiles Export(Key code = 10)
     {
-        return privacy::ExportPerson(host_.DataSource(), code, to_.Path().string(), ana_, now_, {});
+        return privacy::ExportPerson(host_.DataSource(), code, system::TextOf(to_.Path()), ana_, now_, {});
     }
     std::vector<std::string> Names() const
     {
         std::vector<std::string> names;
         for (const fs::directory_entry& entry : fs::directory_iterator(to_.Path()))
-            names.push_back(entry.path().filename().string());
+            names.push_back(system::TextOf(entry.path().filename()));
         std::sort(names.begin(), names.end());
         return names;
     }
@@ -35,7 +37,7 @@ TEST_F(PersonFilesOfAShop, AreReadByTheirOwnerAlone)
     EXPECT_EQ(files.json, to_ / "cliente-10.json");
     EXPECT_EQ(Names(), (std::vector<std::string>{"cliente-10.html", "cliente-10.json"}));
     for (const std::string& file : {files.page, files.json})
-        EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write) << file;
+        EXPECT_TRUE(kova::test::IsForItsOwnerAlone(file)) << file;
     EXPECT_NE(ContentOf(files.page).find("zq cliente documento"), std::string::npos);
     EXPECT_NE(ContentOf(files.json).find("zq cliente documento"), std::string::npos);
 }
@@ -47,7 +49,7 @@ TEST_F(PersonFilesOfAShop, NeverReplaceAFile)
         EXPECT_NE(FailureOf([&] { Export(); }).find("já existe"), std::string::npos);
         EXPECT_EQ(ContentOf(to_ / name), "nota");
         EXPECT_EQ(Names(), std::vector<std::string>{name});
-        fs::remove(to_ / name);
+        fs::remove(system::PathOf(to_ / name));
     }
 }
 
@@ -79,7 +81,7 @@ TEST_F(PersonFilesOfAShop, AreNotMadeWhereTheWorkIsStopped)
     Change(2, 2);
     ASSERT_EQ(Count("auditoria"), 1) << "before the first line is read";
     EXPECT_NE(FailureOf([&] {
-                  privacy::ExportPerson(host_.DataSource(), 10, to_.Path().string(), ana_, now_, work);
+                  privacy::ExportPerson(host_.DataSource(), 10, system::TextOf(to_.Path()), ana_, now_, work);
               }).find("interrompido"),
               std::string::npos);
     EXPECT_EQ(Names(), std::vector<std::string>{});

@@ -2,6 +2,7 @@
 
 #include "family/data/sources/data_source.hpp"
 #include "family/privacy/anonymise.hpp"
+#include "system/path_text.hpp"
 #include "tests/support/sqlite_file.hpp"
 
 #include <filesystem>
@@ -51,7 +52,7 @@ protected:
     {
         std::string bytes;
         for (const char* companion : {"", "-wal", "-journal"}) {
-            if (fs::exists(file_ + companion))
+            if (fs::exists(system::PathOf(file_ + companion)))
                 bytes += ContentOf(file_ + companion);
         }
         return bytes;

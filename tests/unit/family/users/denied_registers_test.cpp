@@ -13,6 +13,7 @@
 #include "family/privacy/person_files.hpp"
 #include "family/registers/customers/customer_merge.hpp"
 #include "family/registers/registers.hpp"
+#include "system/path_text.hpp"
 
 #include <filesystem>
 #include <functional>
@@ -87,14 +88,14 @@ bool Export(const Place& place, const char* from)
 {
     const csv::ExportOrder order{csv::RegisterNamed(from), place.folder + "/saida.csv"};
     csv::ExportTo(place.source, order, place.author, {});
-    return std::filesystem::exists(order.path);
+    return std::filesystem::exists(system::PathOf(order.path));
 }
 
 bool ExportOfAPerson(const Place& place)
 {
     const privacy::PersonFiles files =
         privacy::ExportPerson(place.source, 10, place.folder, place.author, {{2026, 11, 20}, {9, 4, 5}}, {});
-    return std::filesystem::exists(files.page);
+    return std::filesystem::exists(system::PathOf(files.page));
 }
 
 constexpr const char* Prices = "Nome;Número do tipo;Duração em minutos;Preço\nTosa;4;60;80,00\n";
@@ -162,7 +163,7 @@ protected:
 
     Place PlaceOf(const Author& author)
     {
-        return {host_.DataSource(), Data(), folder_.Path().string(), author};
+        return {host_.DataSource(), Data(), system::TextOf(folder_.Path()), author};
     }
 
     /// Every row of what the acts may write but for the audit, and the files.
@@ -175,7 +176,7 @@ protected:
         }
         for (const auto& file : std::filesystem::directory_iterator(folder_.Path())) {
             if (file.path().extension() == ".csv" || file.path().extension() == ".html")
-                all.push_back(file.path().string());
+                all.push_back(system::TextOf(file.path()));
         }
         return all;
     }

@@ -25,12 +25,12 @@ protected:
 
 TEST_F(LibraryCacheTest, LoadsALibraryOnceWhateverTheSpellingOfItsPath)
 {
-    const std::filesystem::path path = TEST_COMPONENT;
+    const std::filesystem::path path = system::PathOf(TEST_COMPONENT);
     const auto otherSpelling = path.parent_path() / "." / path.filename();
     EXPECT_FALSE(libraries.IsLoaded(TEST_COMPONENT));
     LoadedLibrary& library = libraries.Load(TEST_COMPONENT);
-    EXPECT_EQ(&libraries.Load(otherSpelling.string()), &library);
-    EXPECT_TRUE(libraries.IsLoaded(otherSpelling.string()));
+    EXPECT_EQ(&libraries.Load(system::TextOf(otherSpelling)), &library);
+    EXPECT_TRUE(libraries.IsLoaded(system::TextOf(otherSpelling)));
 }
 
 TEST_F(LibraryCacheTest, HandsTheHostOverToTheLibrary)

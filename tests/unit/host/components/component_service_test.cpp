@@ -90,7 +90,7 @@ TEST_F(RegisteredComponentsTest, PassesOnWhyTheClassCouldNotBeCreated)
 
 TEST_F(RegisteredComponentsTest, SaysThatTheRegistryCannotBeRead)
 {
-    std::filesystem::create_directory(registry.Path());
+    std::filesystem::create_directory(system::PathOf(registry.Path()));
     const std::string text = RefusalOf("Teste.clsEco");
     EXPECT_TRUE(Contains(text, "não pôde ser lido")) << text;
 }
@@ -126,9 +126,9 @@ TEST_F(RegisteredComponentsTest, SurvivesAFactoryThatWithdrawsItself)
 
 TEST_F(RegisteredComponentsTest, RegistersEveryClassUnderTheLibrarysFullPath)
 {
-    const auto relative = std::filesystem::relative(TEST_COMPONENT).string();
+    const auto relative = system::TextOf(std::filesystem::relative(system::PathOf(TEST_COMPONENT)));
     server.RegisterLibrary(relative);
-    const std::string path = std::filesystem::canonical(TEST_COMPONENT).string();
+    const std::string path = system::TextOf(std::filesystem::canonical(system::PathOf(TEST_COMPONENT)));
     EXPECT_EQ(ContentOf(registry.Path()),
               "Teste.clsEco\t{11111111-2222-4333-8444-555555555501}\t" + path
                   + "\nTeste.clsFalha\t{11111111-2222-4333-8444-555555555502}\t" + path + "\n");
@@ -156,7 +156,7 @@ TEST_F(RegisteredComponentsTest, KeepsALibraryLoadedThatIsInUseWhileItIsRegister
 
 TEST_F(RegisteredComponentsTest, SaysWhyALibraryCannotBeRegistered)
 {
-    std::filesystem::create_directory(registry.Path());
+    std::filesystem::create_directory(system::PathOf(registry.Path()));
     const std::string error = ErrorOf([&] { server.RegisterLibrary(TEST_COMPONENT); });
     EXPECT_TRUE(Contains(error, "não registrou as suas classes")) << error;
     EXPECT_TRUE(Contains(error, registry.Path())) << error;
@@ -164,7 +164,7 @@ TEST_F(RegisteredComponentsTest, SaysWhyALibraryCannotBeRegistered)
 
 TEST_F(RegisteredComponentsTest, SaysWhyALibraryCannotBeTakenOutOfTheRegistry)
 {
-    std::filesystem::create_directory(registry.Path());
+    std::filesystem::create_directory(system::PathOf(registry.Path()));
     const std::string error = ErrorOf([&] { server.UnregisterLibrary(TEST_COMPONENT); });
     EXPECT_TRUE(Contains(error, "não retirou as suas classes do registro")) << error;
     EXPECT_TRUE(Contains(error, registry.Path())) << error;

@@ -1,4 +1,5 @@
 #include "host/components/profile_file.hpp"
+#include "system/path_text.hpp"
 #include "tests/unit/host/components/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
@@ -149,7 +150,7 @@ TEST_F(ProfileFileTest, RefusesWhatOneLineCannotHold)
 TEST_F(ProfileFileTest, AnswersFalseWhereTheFileCannotBeWritten)
 {
     EXPECT_FALSE(profile.Write("S", "k", "1", folder.File("sem/pasta.ini")));
-    std::filesystem::create_directory(path);
+    std::filesystem::create_directory(system::PathOf(path));
     EXPECT_FALSE(profile.Write("S", "k", "1", path));
     EXPECT_TRUE(std::filesystem::is_directory(path));
 }

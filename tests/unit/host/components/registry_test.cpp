@@ -3,9 +3,6 @@
 #include "tests/unit/host/components/temporary_folder.hpp"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace kova::host {
 
@@ -62,7 +59,7 @@ TEST_F(RegistryTest, ReadsLinesWithCarriageReturnsAndWithoutALastLineEnd)
 TEST_F(RegistryTest, CountsARelativePathFromItsOwnFolder)
 {
     Fill(Line("A.clsA", FirstId, "../lib/a.so"));
-    const auto expected = std::filesystem::path(folder.File("../lib/a.so")).lexically_normal().string();
+    const auto expected = system::TextOf(system::PathOf(folder.File("../lib/a.so")).lexically_normal());
     EXPECT_EQ(registry.Find("A.clsA")->libraryPath, expected);
 }
 
@@ -161,7 +158,7 @@ TEST_F(RegistryTest, RefusesARegistrationThatMakesNoReadableLine)
 
 TEST_F(RegistryTest, SaysWhichFileCannotBeReadOrWritten)
 {
-    std::filesystem::create_directory(registry.Path());
+    std::filesystem::create_directory(system::PathOf(registry.Path()));
     try {
         registry.Write({"A.clsA", FirstId, "/a.so"});
         FAIL() << "a folder was taken for a file";
@@ -172,45 +169,6 @@ TEST_F(RegistryTest, SaysWhichFileCannotBeReadOrWritten)
     WriteFile(folder.File("arquivo"), "");
     Registry insideFile(folder.File("arquivo/registro.txt"));
     EXPECT_THROW(insideFile.Write({"A.clsA", FirstId, "/a.so"}), ComponentError);
-}
-
-TEST_F(RegistryTest, KeepsThePermissionsAndTheLinkOfItsFile)
-{
-    Fill("");
-    ::chmod(registry.Path().c_str(), 0640);
-    Registry linked(folder.File("atalho.txt"));
-    std::filesystem::create_symlink(registry.Path(), linked.Path());
-    linked.Write({"A.clsA", FirstId, "/a.so"});
-    EXPECT_TRUE(std::filesystem::is_symlink(linked.Path()));
-    EXPECT_TRUE(registry.Find("A.clsA"));
-    struct stat status;
-    ASSERT_EQ(::stat(registry.Path().c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0640U);
-}
-
-TEST_F(RegistryTest, LosesNothingWhenSeveralProcessesWriteAtOnce)
-{
-    constexpr int processes = 4;
-    constexpr int classesOfEach = 15;
-    std::vector<pid_t> children;
-    for (int process = 0; process < processes; ++process) {
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            for (int number = 0; number < classesOfEach; ++number)
-                registry.Write(
-                    {"P" + std::to_string(process) + ".cls" + std::to_string(number), FirstId, "/lib/p.so"});
-            ::_exit(0);
-        }
-        children.push_back(child);
-    }
-    for (const pid_t child : children) {
-        int status = 1;
-        ::waitpid(child, &status, 0);
-        EXPECT_EQ(status, 0);
-    }
-    EXPECT_EQ(registry.Load().classes.size(), static_cast<std::size_t>(processes * classesOfEach));
-    EXPECT_TRUE(registry.Load().problems.empty());
 }
 
 } // namespace kova::host

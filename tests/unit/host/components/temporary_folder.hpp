@@ -1,6 +1,8 @@
 #pragma once
 
-#include <cstdlib>
+#include "system/path_text.hpp"
+#include "system/temporary_folder.hpp"
+
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -11,30 +13,24 @@ namespace kova::test {
 /// A fresh folder, with accents in its name, that goes with its content at the end of the scope.
 class TemporaryFolder {
 public:
-    TemporaryFolder()
+    std::string File(const std::string& name) const
     {
-        std::string pattern = (std::filesystem::temp_directory_path() / "conceição-XXXXXX").string();
-        path_ = ::mkdtemp(pattern.data());
+        return system::TextOf(folder_.Path() / system::PathOf(name));
     }
-    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    std::string File(const std::string& name) const { return (path_ / name).string(); }
 
 private:
-    std::filesystem::path path_;
+    system::TemporaryFolder folder_{"conceição"};
 };
 
 inline void WriteFile(const std::string& path, const std::string& content)
 {
-    std::ofstream(path, std::ios::binary) << content;
+    std::ofstream(system::PathOf(path), std::ios::binary) << content;
 }
 
 inline std::string ContentOf(const std::string& path)
 {
     std::ostringstream content;
-    content << std::ifstream(path, std::ios::binary).rdbuf();
+    content << std::ifstream(system::PathOf(path), std::ios::binary).rdbuf();
     return content.str();
 }
 

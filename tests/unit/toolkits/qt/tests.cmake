@@ -1,4 +1,4 @@
-if(NOT KOVARIS_CORE_ONLY)
+if(KOVARIS_SCREEN)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
     kovaris_test_program(test_qt toolkit_qt report_samples test_whole_program_on_qt Qt6::Test)
     kovaris_precompile(test_qt ${CMAKE_CURRENT_LIST_DIR}/support.hpp)

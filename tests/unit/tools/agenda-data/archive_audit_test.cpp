@@ -7,6 +7,7 @@
 #include "family/data/audit/audit_chain.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_connection.hpp"
+#include "system/path_text.hpp"
 
 #include <filesystem>
 
@@ -89,7 +90,7 @@ TEST_F(ArchivedAudit, IsReadByTheHistory)
         EXPECT_NE(Output().find(std::string(moment) + "  Alteração por 7 - D'Ávila \"Zé\" no posto BALCAO-1"),
                   std::string::npos)
             << Output();
-    fs::rename(Archived(), File("outro"));
+    fs::rename(system::PathOf(Archived()), system::PathOf(File("outro")));
     ASSERT_EQ(Run({"history", Database(), "5", "--archive", File("outro")}), 0) << Error();
     EXPECT_NE(Output().find("01/03/2024"), std::string::npos);
     ASSERT_EQ(Run({"history", Database(), "5"}), 0) << Error();
@@ -128,7 +129,7 @@ TEST_F(ArchivedAudit, IsFoundTamperedWith)
     }
     EXPECT_EQ(Check(), 0) << Error();
     family::OpenDatabase(Database())->Session() << "delete from elo_da_auditoria where ordem = 4";
-    fs::remove(Archived());
+    fs::remove(system::PathOf(Archived()));
     EXPECT_EQ(Run({"check", Database()}), 1);
     EXPECT_TRUE(Complained("estavam antes dela foram retiradas")) << Error();
 }
@@ -148,9 +149,9 @@ TEST_F(ArchivedAudit, StaysProvableWhereALineWasCleanedBeforeAndAfter)
     ASSERT_EQ(Archive("2024"), 0) << Error();
     EXPECT_EQ(AskArchive("select antes from auditoria where codigo = 1"), "{}");
     EXPECT_EQ(Check(), 0) << Error();
-    fs::rename(Archived(), File("fora"));
+    fs::rename(system::PathOf(Archived()), system::PathOf(File("fora")));
     EXPECT_EQ(Run({"check", Database()}), 0) << Error();
-    fs::rename(File("fora"), Archived());
+    fs::rename(system::PathOf(File("fora")), system::PathOf(Archived()));
     RunOnArchive("update auditoria set depois = '{}' where codigo = 1");
     EXPECT_EQ(Check(), 1);
 }
@@ -192,7 +193,7 @@ TEST_F(ArchivedAudit, IsRefusedWhereTheFileIsAnotherOne)
     EXPECT_TRUE(Complained("Informe com --until o último ano cujas linhas vão para o arquivo.")) << Error();
     EXPECT_EQ(Ask("select count(*) from auditoria"), "6");
     ASSERT_EQ(Archive("2024"), 0) << Error();
-    fs::remove(Archived());
+    fs::remove(system::PathOf(Archived()));
     EXPECT_EQ(Archive("2025"), 1);
     EXPECT_TRUE(Complained("O arquivo da auditoria \"" + Archived()
                            + "\" não foi encontrado. Ele já tem linhas desta loja: informe onde está."))

@@ -8,6 +8,7 @@
 #include "family/data/engine/snapshot.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_connection.hpp"
+#include "system/path_text.hpp"
 #include "tests/support/environment_variable.hpp"
 #include "tests/support/small_files.hpp"
 #include "tests/support/sqlite_file.hpp"
@@ -98,15 +99,15 @@ TEST_F(ArchiveContents, LeaveNoRoomBehindInTheShop)
     }
     // Nothing stays in the log that is beside it.
     InShop([](family::Database& database) { database.Session() << "update empresa set codigo = codigo"; });
-    const auto before = fs::file_size(Database());
+    const auto before = fs::file_size(system::PathOf(Database()));
     Archive();
     const std::regex told("O arquivo da loja tinha ([0-9]+),[0-9] MB e ficou com ([0-9]+),[0-9] MB\\.\n");
     std::smatch sizes;
     const std::string output = Output();
     ASSERT_TRUE(std::regex_search(output, sizes, told)) << output;
     EXPECT_EQ(std::stoul(sizes[1]), before >> 20U);
-    EXPECT_EQ(std::stoul(sizes[2]), fs::file_size(Database()) >> 20U);
-    EXPECT_LT(fs::file_size(Database()) + 2'000'000, before);
+    EXPECT_EQ(std::stoul(sizes[2]), fs::file_size(system::PathOf(Database())) >> 20U);
+    EXPECT_LT(fs::file_size(system::PathOf(Database())) + 2'000'000, before);
     EXPECT_EQ(Check(), 0) << Error();
 }
 
@@ -338,21 +339,21 @@ TEST_F(ArchiveContents, TellNothingOfWhoeverBecameAnonymousAndStayProved)
             << Error();
         kova::test::WriteFile(Archived(), whole);
     }
-    fs::remove(Archived());
+    fs::remove(system::PathOf(Archived()));
     EXPECT_EQ(Run({"check", Database()}), 0) << Error();
 }
 
 TEST_F(ArchiveContents, ThatWereNotThereAreToldAndCleanedLater)
 {
     ArchivePeople();
-    fs::rename(Archived(), File("fora"));
+    fs::rename(system::PathOf(Archived()), system::PathOf(File("fora")));
     ASSERT_EQ(Forget(), 0) << Error();
     EXPECT_NE(Output().find("agenda-data forget --archive"), std::string::npos) << Output();
     EXPECT_NE(kova::test::ContentOf(File("fora")).find("zq Maria"), std::string::npos);
     ASSERT_EQ(Forget({"--archive", File("fora")}), 0) << Error();
     EXPECT_EQ(Output().find("agenda-data forget --archive"), std::string::npos) << Output();
     EXPECT_EQ(kova::test::ContentOf(File("fora")).find("zq"), std::string::npos);
-    fs::rename(File("fora"), Archived());
+    fs::rename(system::PathOf(File("fora")), system::PathOf(Archived()));
     EXPECT_EQ(Check(), 0) << Error();
 }
 

@@ -3,6 +3,7 @@
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
 #include "family/data/sources/data_source.hpp"
+#include "system/path_text.hpp"
 
 #include <algorithm>
 #include <filesystem>
@@ -36,7 +37,7 @@ TEST_F(CopyBeforeImport, IsNotMadeWhereNothingIsWritten)
     ASSERT_EQ(Import("tipos", "Nome\nHotel\n", {"--dry-run"}), 0) << Error();
     ASSERT_EQ(Import("tipos", "Nome;Situação\nHotel;x\n"), 1);
     ASSERT_EQ(Import("tipos", "Nome\n"), 0) << Error();
-    EXPECT_FALSE(fs::exists(Copy()));
+    EXPECT_FALSE(fs::exists(system::PathOf(Copy())));
     EXPECT_EQ(Output().find("Cópia"), std::string::npos) << Output();
 }
 
@@ -44,7 +45,7 @@ TEST_F(CopyBeforeImport, IsLeftOutWhereThatIsAskedFor)
 {
     ASSERT_EQ(Import("tipos", "Nome\nHotel\n", {"--no-copy"}), 0) << Error();
     EXPECT_EQ(Output().find("Cópia"), std::string::npos) << Output();
-    EXPECT_FALSE(fs::exists(Copy()));
+    EXPECT_FALSE(fs::exists(system::PathOf(Copy())));
     EXPECT_EQ(Ask("select nome from tipo_de_servico"), "Hotel");
 }
 
@@ -53,9 +54,11 @@ TEST_F(CopyBeforeImport, OfAnImportThatLeavesEverythingAsItIsIsNotMadeAndNothing
     ImportShop();
     const std::string lines = Ask("select count(*) from auditoria");
     const auto copies = [this] {
-        return std::ranges::count_if(fs::directory_iterator(File("")), [](const fs::directory_entry& entry) {
-            return entry.path().filename().string().find(".antes-da-importacao-") != std::string::npos;
-        });
+        return std::ranges::count_if(
+            fs::directory_iterator(system::PathOf(File(""))), [](const fs::directory_entry& entry) {
+                return system::TextOf(entry.path().filename()).find(".antes-da-importacao-")
+                    != std::string::npos;
+            });
     };
     const auto before = copies();
     ASSERT_EQ(Import("tipos", "Número;Nome\n1;Consulta\n", {"--update"}), 0) << Error();

@@ -1,9 +1,6 @@
 #include "tests/unit/tools/agenda-data/fetched_rows.hpp"
 
-#include <libpq-fe.h>
 #include <sqlite3.h>
-
-#include <dlfcn.h>
 
 #include <algorithm>
 #include <map>
@@ -18,7 +15,7 @@ struct Counts {
     /// Of the runs of SQLite's statements that are under way.
     std::map<void*, long long> running;
     /// The last result of a server that was looked at.
-    const PGresult* result = nullptr;
+    const void* result = nullptr;
 };
 
 Counts& TheCounts()
@@ -50,25 +47,6 @@ int FollowConnection(sqlite3* connection, char**, const void*)
 
 void (*AtEachConnection())() { return reinterpret_cast<void (*)()>(FollowConnection); }
 
-void Note(const PGresult* result, long long rows)
-{
-    Counts& counts = TheCounts();
-    if (!counts.counting)
-        return;
-    counts.atOnce = std::max(counts.atOnce, rows);
-    // It is asked for the same result more than once.
-    if (counts.result != result)
-        counts.inAll += rows;
-    counts.result = result;
-}
-
-/// The next result may lie where this one did.
-void Forget(const PGresult* result)
-{
-    if (TheCounts().result == result)
-        TheCounts().result = nullptr;
-}
-
 } // namespace
 
 FetchedRows::FetchedRows()
@@ -87,21 +65,23 @@ FetchedRows::~FetchedRows()
 long long FetchedRows::AtOnce() const { return TheCounts().atOnce; }
 long long FetchedRows::InAll() const { return TheCounts().inAll; }
 
+void NoteServerRows(const void* result, long long rows)
+{
+    Counts& counts = TheCounts();
+    if (!counts.counting)
+        return;
+    counts.atOnce = std::max(counts.atOnce, rows);
+    // It is asked for the same result more than once.
+    if (counts.result != result)
+        counts.inAll += rows;
+    counts.result = result;
+}
+
+void ForgetServerRows(const void* result)
+{
+    // The next result may lie where this one did.
+    if (TheCounts().result == result)
+        TheCounts().result = nullptr;
+}
+
 } // namespace kova::data::test
-
-// They stand before the client library's own, which has no other way to tell how many rows its results hold.
-
-extern "C" __attribute__((visibility("default"))) int PQntuples(const PGresult* result)
-{
-    static const auto ofLibrary = reinterpret_cast<int (*)(const PGresult*)>(dlsym(RTLD_NEXT, "PQntuples"));
-    const int rows = ofLibrary(result);
-    kova::data::test::Note(result, rows);
-    return rows;
-}
-
-extern "C" __attribute__((visibility("default"))) void PQclear(PGresult* result)
-{
-    static const auto ofLibrary = reinterpret_cast<void (*)(PGresult*)>(dlsym(RTLD_NEXT, "PQclear"));
-    kova::data::test::Forget(result);
-    ofLibrary(result);
-}

@@ -15,4 +15,9 @@ public:
     long long InAll() const;
 };
 
+/// A result of a server with so many rows, and that it is gone: told by what stands in the client library's
+/// place.
+void NoteServerRows(const void* result, long long rows);
+void ForgetServerRows(const void* result);
+
 } // namespace kova::data::test

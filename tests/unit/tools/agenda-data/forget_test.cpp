@@ -1,3 +1,4 @@
+#include "system/path_text.hpp"
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
 #include <fstream>
@@ -76,7 +77,7 @@ TEST_F(ForgottenCustomers, GoFromShopToShop)
     const std::string other = Place("outra");
     MakeEmptyDatabase(other);
     for (const std::string name : {"clientes", "animais"}) {
-        std::ofstream(File(name + ".csv")) << Exported(name);
+        std::ofstream(system::PathOf(File(name + ".csv"))) << Exported(name);
         EXPECT_EQ(Run({"import", other, name, File(name + ".csv")}), 0) << Error();
         EXPECT_EQ(Exported(name, other), Exported(name));
     }

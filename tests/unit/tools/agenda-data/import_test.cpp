@@ -4,6 +4,7 @@
 #include "family/data/rows/insert_new_row.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/stores/appointment_rows.hpp"
+#include "system/path_text.hpp"
 
 namespace kova::data::test {
 
@@ -225,7 +226,7 @@ TEST_F(Imports, RefusesFilesThatAreNoTable)
     EXPECT_EQ(importing(File("nada.csv")), 1);
     EXPECT_EQ(Error(),
               "agenda-data: O arquivo \"" + File("nada.csv") + "\" não existe. Verifique o caminho.\n");
-    std::filesystem::create_directory(File("pasta"));
+    std::filesystem::create_directory(system::PathOf(File("pasta")));
     EXPECT_EQ(importing(File("pasta")), 1);
     EXPECT_EQ(Error(),
               "agenda-data: \"" + File("pasta") + "\" é uma pasta. Informe o caminho de um arquivo CSV.\n");

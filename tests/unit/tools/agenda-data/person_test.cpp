@@ -1,3 +1,5 @@
+#include "system/path_text.hpp"
+#include "tests/support/own_file.hpp"
 #include "tests/unit/tools/agenda-data/import_fixture.hpp"
 
 #include <filesystem>
@@ -13,7 +15,7 @@ protected:
     DataOfAPerson()
     {
         ImportShop();
-        fs::create_directory(folder_);
+        fs::create_directory(system::PathOf(folder_));
     }
 
     int Tell(const std::string& customer, const std::string& folder)
@@ -34,7 +36,7 @@ TEST_F(DataOfAPerson, AreWrittenIntoTwoFilesOfAFolder)
     EXPECT_TRUE(Said("Página: " + folder_ + "/cliente-10.html\n")) << Output();
     EXPECT_TRUE(Said("JSON: " + folder_ + "/cliente-10.json\n")) << Output();
     for (const char* name : {"/cliente-10.html", "/cliente-10.json"})
-        EXPECT_EQ(fs::status(folder_ + name).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+        EXPECT_TRUE(kova::test::IsForItsOwnerAlone(folder_ + name));
     EXPECT_EQ(Tell("10", folder_), 1);
     EXPECT_TRUE(Complained("já existe")) << Error();
     EXPECT_EQ(Tell("11", folder_), 0) << Error();

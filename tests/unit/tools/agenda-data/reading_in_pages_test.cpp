@@ -5,6 +5,7 @@
 
 #include "family/data/rows/page_size.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "system/path_text.hpp"
 
 #include <sstream>
 
@@ -43,7 +44,7 @@ TEST_F(ReadingInPages, ExportsEveryRow)
         EXPECT_GT(fetched.InAll(), 2 * Page) << name;
     }
     for (const std::string name : Registers) {
-        if (!std::filesystem::exists(File(name + ".csv"))) {
+        if (!std::filesystem::exists(system::PathOf(File(name + ".csv")))) {
             ASSERT_EQ(Run({"export", Shop(), name, File(name + ".csv")}), 0) << Error();
         }
         ASSERT_EQ(Run({"import", Database(), name, File(name + ".csv")}), 0) << name << Error();

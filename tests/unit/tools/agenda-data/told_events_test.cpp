@@ -9,6 +9,7 @@
 #include "family/data/sources/file_connection.hpp"
 #include "host/session/computer_user.hpp"
 #include "system/computer_name.hpp"
+#include "system/path_text.hpp"
 
 #include <filesystem>
 
@@ -48,7 +49,7 @@ TEST_F(ToldEvents, AreExports)
 
 TEST_F(ToldEvents, AreExportsOfAPerson)
 {
-    fs::create_directory(File("pessoa"));
+    fs::create_directory(system::PathOf(File("pessoa")));
     ASSERT_EQ(Run({"person", Database(), "--customer", "10", "--to", File("pessoa")}), 0) << Error();
     EXPECT_EQ(LinesOf("exportacao"),
               "exportacao 10 {\"pagina\":\"" + File("pessoa") + "/cliente-10.html\",\"json\":\""

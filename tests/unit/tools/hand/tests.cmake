@@ -1,3 +1,3 @@
-if(NOT KOVARIS_CORE_ONLY)
+if(KOVARIS_SCREEN)
     kovaris_test_program(test_hand screen_hand test_qt_application)
 endif()

@@ -8,6 +8,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_migration.hpp"
 #include "family/data/sources/shared_database.hpp"
+#include "system/path_text.hpp"
 
 #include <thread>
 
@@ -127,8 +128,8 @@ TEST_F(TheDatabaseComponent, GivesTheCopyOfTheDayUpWhenItGoes)
         component.Call("IniciarCopiaDoDia", {"20/11/2026"});
     }
     // It may have come to its end before.
-    EXPECT_FALSE(std::filesystem::exists(UnfinishedName(copy)));
-    EXPECT_TRUE(!std::filesystem::exists(copy) || !CheckDataSource(copy));
+    EXPECT_FALSE(std::filesystem::exists(system::PathOf(UnfinishedName(copy))));
+    EXPECT_TRUE(!std::filesystem::exists(system::PathOf(copy)) || !CheckDataSource(copy));
 }
 
 TEST_F(TheDatabaseComponent, ClosesTheFileWhenNobodyUsesIt)
@@ -136,9 +137,9 @@ TEST_F(TheDatabaseComponent, ClosesTheFileWhenNobodyUsesIt)
     DatabaseComponent component(host_);
     component.Call("CriarDemonstracao", {"20/11/2026"});
     component.Call("Abrir");
-    EXPECT_TRUE(std::filesystem::exists(host_.DataSource() + "-wal"));
+    EXPECT_TRUE(std::filesystem::exists(system::PathOf(host_.DataSource() + "-wal")));
     EXPECT_EQ(component.Call("Fechar"), Value(Integer(0)));
-    EXPECT_FALSE(std::filesystem::exists(host_.DataSource() + "-wal"));
+    EXPECT_FALSE(std::filesystem::exists(system::PathOf(host_.DataSource() + "-wal")));
 }
 
 } // namespace kova::family::test

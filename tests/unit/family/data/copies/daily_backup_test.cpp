@@ -1,9 +1,11 @@
+#include "tests/support/own_file.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/data/copies/daily_backup.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/rows/insert_row.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "system/path_text.hpp"
 
 #include <algorithm>
 
@@ -13,14 +15,14 @@ namespace fs = std::filesystem;
 
 class DailyBackup : public ShopTest {
 protected:
-    DailyBackup() : shop_(host_.DataSource()), shopFolder_(fs::path(shop_).parent_path()) { }
+    DailyBackup() : shop_(host_.DataSource()), shopFolder_(system::PathOf(shop_).parent_path()) { }
 
     /// The dates of the copies that are there.
     std::vector<std::string> Days() const
     {
         std::vector<std::string> days;
         for (const auto& entry : fs::directory_iterator(shopFolder_)) {
-            const std::string name = entry.path().filename().string();
+            const std::string name = system::TextOf(entry.path().filename());
             const std::size_t mark = name.find(".copia-");
             if (mark != std::string::npos)
                 days.push_back(name.substr(mark + 7));
@@ -53,7 +55,7 @@ TEST_F(DailyBackup, KeepsTheLastFourteenAndTouchesNoOtherFile)
     for (int day = 1; day <= 17; ++day)
         ASSERT_TRUE(MakeDailyBackup(shop_, {2026, 11, day}, {}));
     for (int day = 1; day <= 17; ++day)
-        EXPECT_EQ(fs::exists(DailyBackupName(shop_, {2026, 11, day})), day > 3) << day;
+        EXPECT_EQ(fs::exists(system::PathOf(DailyBackupName(shop_, {2026, 11, day}))), day > 3) << day;
     for (const std::string& name : others)
         EXPECT_EQ(ContentOf(shopFolder_ / name), "nota") << name;
     EXPECT_TRUE(fs::is_directory(shopFolder_ / "loja.db.copia-2026-10-02.bak"));
@@ -64,10 +66,10 @@ TEST_F(DailyBackup, IsForItsOwnerAloneAndSoAreFormerOnes)
     const std::string former = DailyBackupName(shop_, {2026, 11, 19});
     const std::string today = DailyBackupName(shop_, {2026, 11, 20});
     WriteContent(former, "");
-    fs::permissions(former, static_cast<fs::perms>(0644));
+    fs::permissions(system::PathOf(former), static_cast<fs::perms>(0644));
     EXPECT_TRUE(MakeDailyBackup(shop_, {2026, 11, 20}, {}));
     for (const std::string& file : {former, today})
-        EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write) << file;
+        EXPECT_TRUE(kova::test::IsForItsOwnerAlone(file)) << file;
 }
 
 TEST_F(DailyBackup, OfTodayStaysAlsoWhereAWrongClockMadeLaterOnes)
@@ -75,7 +77,7 @@ TEST_F(DailyBackup, OfTodayStaysAlsoWhereAWrongClockMadeLaterOnes)
     for (int day = 1; day <= 14; ++day)
         WriteContent(DailyBackupName(shop_, {2099, 1, day}), "");
     EXPECT_TRUE(MakeDailyBackup(shop_, {2026, 11, 20}, {}));
-    EXPECT_TRUE(fs::exists(DailyBackupName(shop_, {2026, 11, 20})));
+    EXPECT_TRUE(fs::exists(system::PathOf(DailyBackupName(shop_, {2026, 11, 20}))));
     EXPECT_EQ(Days().size(), DailyBackupsKept);
 }
 
@@ -85,7 +87,7 @@ TEST_F(DailyBackup, OfTodayStaysAlsoWhereThePathIsSpeltInAnotherWay)
         WriteContent(DailyBackupName(shop_, {2099, 1, day}), "");
     const std::string other = shopFolder_.string() + "//" + fs::path(shop_).filename().string();
     EXPECT_TRUE(MakeDailyBackup(other, {2026, 11, 20}, {}));
-    EXPECT_TRUE(fs::exists(DailyBackupName(shop_, {2026, 11, 20})));
+    EXPECT_TRUE(fs::exists(system::PathOf(DailyBackupName(shop_, {2026, 11, 20}))));
     EXPECT_EQ(Days().size(), DailyBackupsKept);
 }
 
@@ -96,16 +98,16 @@ TEST_F(DailyBackup, ClearsWhatAKilledAttemptHasLeftAndNothingThatIsBeingMade)
     WriteContent(UnfinishedName(killed) + "-wal", "resto");
     const UnfinishedFile living(DailyBackupName(shop_, {2026, 11, 19}));
     MakeDailyBackup(shop_, {2026, 11, 20}, {});
-    EXPECT_FALSE(fs::exists(UnfinishedName(killed)));
-    EXPECT_FALSE(fs::exists(UnfinishedName(killed) + "-wal"));
-    EXPECT_TRUE(fs::exists(living.Name()));
+    EXPECT_FALSE(fs::exists(system::PathOf(UnfinishedName(killed))));
+    EXPECT_FALSE(fs::exists(system::PathOf(UnfinishedName(killed) + "-wal")));
+    EXPECT_TRUE(fs::exists(system::PathOf(living.Name())));
 }
 
 TEST_F(DailyBackup, ThatAnotherProgramIsMakingIsLeftToIt)
 {
     const UnfinishedFile other(DailyBackupName(shop_, {2026, 11, 20}));
     EXPECT_FALSE(MakeDailyBackup(shop_, {2026, 11, 20}, {}));
-    EXPECT_TRUE(fs::exists(other.Name()));
+    EXPECT_TRUE(fs::exists(system::PathOf(other.Name())));
 }
 
 TEST_F(DailyBackup, ThatFailsTakesNoFormerOneAway)

@@ -12,6 +12,7 @@
 #include "family/data/rows/work_rows.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/stores/appointment_rows.hpp"
+#include "system/path_text.hpp"
 
 namespace kova::family::test {
 
@@ -112,8 +113,8 @@ TEST_F(DatabaseCopy, OfRowsThatReferToNothingIsNotMade)
 {
     RunUnchecked(shop_, "delete from raca");
     EXPECT_THROW(CopyDatabase(shop_, copy_, {}), Failure);
-    EXPECT_FALSE(fs::exists(copy_));
-    EXPECT_FALSE(fs::exists(copy_ + ".parcial"));
+    EXPECT_FALSE(fs::exists(system::PathOf(copy_)));
+    EXPECT_FALSE(fs::exists(system::PathOf(copy_ + ".parcial")));
 }
 
 TEST_F(DatabaseCopy, OfAnOlderSchemaTellsHowToUpdateIt)
@@ -125,7 +126,7 @@ TEST_F(DatabaseCopy, OfAnOlderSchemaTellsHowToUpdateIt)
     } catch (const Failure& failure) {
         EXPECT_NE(failure.Description().find("agenda-data migrate"), std::string::npos);
     }
-    EXPECT_FALSE(fs::exists(copy_));
+    EXPECT_FALSE(fs::exists(system::PathOf(copy_)));
 }
 
 TEST_F(DatabaseCopy, SumsTellOneValueFromAnother)

@@ -1,8 +1,10 @@
+#include "tests/support/own_file.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "family/data/copies/import_copy.hpp"
 #include "family/data/engine/unfinished_file.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "system/path_text.hpp"
 
 #include <algorithm>
 
@@ -12,7 +14,7 @@ namespace fs = std::filesystem;
 
 class ImportCopy : public ShopTest {
 protected:
-    ImportCopy() : shop_(host_.DataSource()), shopFolder_(fs::path(shop_).parent_path()) { }
+    ImportCopy() : shop_(host_.DataSource()), shopFolder_(system::PathOf(shop_).parent_path()) { }
 
     std::string Named(const std::string& stamp) const
     {
@@ -30,7 +32,7 @@ protected:
     {
         std::vector<std::string> stamps;
         for (const auto& entry : fs::directory_iterator(shopFolder_)) {
-            const std::string name = entry.path().filename().string(), mark = ".antes-da-importacao-";
+            const std::string name = system::TextOf(entry.path().filename()), mark = ".antes-da-importacao-";
             if (const std::size_t at = name.find(mark); at != std::string::npos)
                 stamps.push_back(name.substr(at + mark.size()));
         }
@@ -47,7 +49,7 @@ TEST_F(ImportCopy, LiesBesideTheShopNamedAfterTheMomentAndIsForItsOwnerAlone)
     const std::string copy = Copy(7);
     EXPECT_EQ(copy, Named("2026-11-20-090705"));
     EXPECT_EQ(CheckDataSource(copy), std::nullopt);
-    EXPECT_EQ(fs::status(copy).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_TRUE(kova::test::IsForItsOwnerAlone(copy));
 }
 
 TEST_F(ImportCopy, HoldsTheShopAsItIsAtThatMoment)
@@ -94,9 +96,10 @@ TEST_F(ImportCopy, StaysWithTheLastFiveAndTouchesNoOtherFile)
     for (const std::string& name : others)
         EXPECT_EQ(ContentOf(shopFolder_ / name), "nota") << name;
     for (const char* gone : {"2026-11-20-091005", "2026-11-20-091005-02"})
-        EXPECT_FALSE(fs::exists(Named(gone))) << gone;
+        EXPECT_FALSE(fs::exists(system::PathOf(Named(gone)))) << gone;
     for (int minute = 11; minute <= 15; ++minute)
-        EXPECT_TRUE(fs::exists(Named("2026-11-20-09" + std::to_string(minute) + "05"))) << minute;
+        EXPECT_TRUE(fs::exists(system::PathOf(Named("2026-11-20-09" + std::to_string(minute) + "05"))))
+            << minute;
 }
 
 TEST_F(ImportCopy, GoesTheOlderOneOfASecondFirst)
@@ -105,8 +108,8 @@ TEST_F(ImportCopy, GoesTheOlderOneOfASecondFirst)
     Copy(10);
     for (int minute = 11; minute <= 14; ++minute)
         Copy(minute);
-    EXPECT_FALSE(fs::exists(Named("2026-11-20-091005")));
-    EXPECT_TRUE(fs::exists(Named("2026-11-20-091005-02")));
+    EXPECT_FALSE(fs::exists(system::PathOf(Named("2026-11-20-091005"))));
+    EXPECT_TRUE(fs::exists(system::PathOf(Named("2026-11-20-091005-02"))));
 }
 
 TEST_F(ImportCopy, JustMadeStaysAlsoWhereAWrongClockMadeLaterOnes)
@@ -114,7 +117,7 @@ TEST_F(ImportCopy, JustMadeStaysAlsoWhereAWrongClockMadeLaterOnes)
     for (int minute = 10; minute <= 14; ++minute)
         WriteContent(Named("2099-11-20-09" + std::to_string(minute) + "05"), "");
     const std::string copy = Copy(7);
-    EXPECT_TRUE(fs::exists(copy));
+    EXPECT_TRUE(fs::exists(system::PathOf(copy)));
     EXPECT_EQ(Stamps().size(), ImportCopiesKept);
 }
 
@@ -122,7 +125,7 @@ TEST_F(ImportCopy, ClearsWhatAKilledAttemptHasLeft)
 {
     WriteContent(UnfinishedName(Named("2026-11-18-090000")), "resto");
     Copy(7);
-    EXPECT_FALSE(fs::exists(UnfinishedName(Named("2026-11-18-090000"))));
+    EXPECT_FALSE(fs::exists(system::PathOf(UnfinishedName(Named("2026-11-18-090000")))));
 }
 
 TEST_F(ImportCopy, ThatFailsTakesNoFormerOneAway)

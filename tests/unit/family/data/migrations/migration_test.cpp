@@ -9,6 +9,7 @@
 #include "family/data/sources/file_migration.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/demo/fictional_shop.hpp"
+#include "system/path_text.hpp"
 #include "tests/support/small_files.hpp"
 #include "tests/support/sqlite_file.hpp"
 
@@ -57,8 +58,8 @@ protected:
     {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
-            if (entry.path().filename().string().find(".antes-da-versao-") != std::string::npos)
-                names.push_back(entry.path().filename().string());
+            if (system::TextOf(entry.path().filename()).find(".antes-da-versao-") != std::string::npos)
+                names.push_back(system::TextOf(entry.path().filename()));
         }
         std::sort(names.begin(), names.end());
         return names;
@@ -131,7 +132,8 @@ TEST_F(SchemaMigration, BringsAnOlderVersionUpToDateAfterACopy)
 TEST_F(SchemaMigration, MakesNoCopyOfAnUpToDateDatabase)
 {
     OpenDatabase(path_);
-    EXPECT_FALSE(std::filesystem::exists(BackupName(path_, NewestVersion(CurrentMigrations()))));
+    EXPECT_FALSE(
+        std::filesystem::exists(system::PathOf(BackupName(path_, NewestVersion(CurrentMigrations())))));
 }
 
 TEST_F(SchemaMigration, ThatFailsChangesNothing)
@@ -147,7 +149,7 @@ TEST_F(SchemaMigration, GoesAheadAfterAnAttemptThatWasCutOff)
 {
     WriteContent(BackupName(path_, Newest + 1) + ".parcial", "resto");
     EXPECT_EQ(StoredVersion(OpenDatabase(path_, NextVersion)->Session()), Newest + 1);
-    EXPECT_FALSE(std::filesystem::exists(BackupName(path_, Newest + 1) + ".parcial"));
+    EXPECT_FALSE(std::filesystem::exists(system::PathOf(BackupName(path_, Newest + 1) + ".parcial")));
     EXPECT_EQ(StoredVersion(OpenDatabase(BackupName(path_, Newest + 1))->Session()), Newest);
 }
 

@@ -5,6 +5,7 @@
 
 #include "family/data/selections/day_selection.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "system/path_text.hpp"
 
 #include <filesystem>
 
@@ -68,12 +69,12 @@ TEST_F(ClosingAFile, HasItLookAgainWhenATableHasGrownAGoodDeal)
 TEST_F(ClosingAFile, LeavesItAsItIsWhereNothingWasWritten)
 {
     Work(1);
-    const auto written = std::filesystem::last_write_time(path_);
+    const auto written = std::filesystem::last_write_time(system::PathOf(path_));
     {
         const auto database = OpenDatabase(path_);
         EXPECT_EQ(SelectDay(*database, {"2026-11-21", 0, 0, 0, 0, ""}).rows.size(), 0U);
     }
-    EXPECT_EQ(std::filesystem::last_write_time(path_), written);
+    EXPECT_EQ(std::filesystem::last_write_time(system::PathOf(path_)), written);
 }
 
 TEST_F(ClosingAFile, WaitsForNobodyWhoIsWriting)

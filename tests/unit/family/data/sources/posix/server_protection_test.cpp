@@ -4,6 +4,7 @@
 #include "family/data/engine/server_connection.hpp"
 #include "family/data/engine/server_protection.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "system/path_text.hpp"
 #include "tests/support/environment_variable.hpp"
 #include "tests/support/postgres_server.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
@@ -56,9 +57,9 @@ protected:
 
     static void WritePassword(const std::string& password)
     {
-        std::filesystem::remove(Passwords());
+        std::filesystem::remove(system::PathOf(Passwords()));
         WriteContent(Passwords(), "*:*:*:carla:" + password + "\n");
-        std::filesystem::permissions(Passwords(), std::filesystem::perms::owner_read);
+        std::filesystem::permissions(system::PathOf(Passwords()), std::filesystem::perms::owner_read);
     }
     static std::string Passwords() { return *folder / "senhas"; }
     static std::string Port() { return std::to_string(server->Port()); }
@@ -144,7 +145,7 @@ TEST_F(PostgresqlProtection, WithAWrongPasswordIsRefusedWithoutRepeatingIt)
 
 TEST_F(PostgresqlProtection, WithoutAPasswordSaysWhereToKeepIt)
 {
-    std::filesystem::remove(Passwords());
+    std::filesystem::remove(system::PathOf(Passwords()));
     ExpectRefused(AddressAt("localhost", Trusting("servidor.crt")), "O servidor pede uma senha");
 }
 
@@ -171,7 +172,7 @@ protected:
     }
 
     /// No certificates of a user's own.
-    EnvironmentVariable home_{"HOME", folder->Path().string()};
+    EnvironmentVariable home_{"HOME", system::TextOf(folder->Path())};
 };
 
 TEST_F(ProtectionFromAfar, IsDemandedWithoutAWordOfItAndHadByAGoodCertificate)
@@ -184,8 +185,9 @@ TEST_F(ProtectionFromAfar, IsDemandedWithoutAWordOfItAndHadByAGoodCertificate)
 
 TEST_F(ProtectionFromAfar, TakesTheCertificateOfTheUsersUsualPlace)
 {
-    std::filesystem::create_directories(*folder / ".postgresql");
-    std::filesystem::copy_file(*folder / "loja.crt", *folder / ".postgresql/root.crt");
+    std::filesystem::create_directories(system::PathOf(*folder / ".postgresql"));
+    std::filesystem::copy_file(system::PathOf(*folder / "loja.crt"),
+                               system::PathOf(*folder / ".postgresql/root.crt"));
     EXPECT_EQ(CheckDataSource(Address()), std::nullopt);
     std::filesystem::remove_all(*folder / ".postgresql");
 }

@@ -1,4 +1,4 @@
-#include "tests/unit/family/business/appointments/counting_desks.hpp"
+#include "tests/unit/family/business/appointments/posix/counting_desks.hpp"
 
 #include "tests/unit/family/business/appointments/desk_fixture.hpp"
 #include "tests/unit/family/business/appointments/record_form.hpp"

@@ -1,6 +1,6 @@
 // Two processes change the same appointments at the same time, a thousand times each.
 
-#include "tests/unit/family/business/appointments/counting_desks.hpp"
+#include "tests/unit/family/business/appointments/posix/counting_desks.hpp"
 #include "tests/unit/family/business/appointments/two_desk_fixture.hpp"
 
 #include "family/data/sources/shared_database.hpp"
