@@ -8,6 +8,7 @@
 int main(int count, char** words)
 {
     using namespace kova::host;
+    kova::system::UseUtf8Streams();
     try {
         const Options options = ParseOptions(kova::system::Arguments(count, words));
         if (!options.answer)

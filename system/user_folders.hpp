@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 namespace kova::system {
 
@@ -10,5 +11,9 @@ namespace kova::system {
 /// nobody's own.
 std::filesystem::path UserDataFolder();
 std::filesystem::path UserSettingsFolder();
+
+/// Where a program of others keeps its settings that has done so since before those conventions: "~/.NAME",
+/// or NAME in the folder of settings.
+std::filesystem::path UserFolderOf(std::string_view program);
 
 } // namespace kova::system

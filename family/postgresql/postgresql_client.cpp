@@ -2,11 +2,11 @@
 
 #include "family/data/engine/server_client.hpp"
 #include "system/network.hpp"
+#include "system/user_folders.hpp"
 
 #include <libpq-fe.h>
 #include <soci/postgresql/soci-postgresql.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string_view>
@@ -85,7 +85,7 @@ AddressParts PartsOf(PQconninfoOption* told)
     return parts;
 }
 
-bool IsFile(const std::string& path)
+bool IsFile(const std::filesystem::path& path)
 {
     std::error_code unreadable;
     return std::filesystem::exists(path, unreadable);
@@ -114,8 +114,7 @@ public:
 
     std::string TrustedCertificates() const override
     {
-        const char* const home = std::getenv("HOME");
-        if (home != nullptr && IsFile(std::string(home) + "/.postgresql/root.crt"))
+        if (IsFile(system::UserFolderOf("postgresql") / "root.crt"))
             return {};
         constexpr int KnowsTheSystems = 160000;
         if (PQlibVersion() >= KnowsTheSystems)

@@ -8,6 +8,6 @@ std::vector<std::string> Arguments(int count, const char* const* words)
     return count > 0 ? std::vector<std::string>(words + 1, words + count) : std::vector<std::string>();
 }
 
-void WriteBytesUnchanged() { }
+void UseUtf8Streams() { }
 
 } // namespace kova::system

@@ -31,4 +31,10 @@ fs::path UserDataFolder() { return UserFolder("XDG_DATA_HOME", ".local/share"); 
 
 fs::path UserSettingsFolder() { return UserFolder("XDG_CONFIG_HOME", ".config"); }
 
+fs::path UserFolderOf(std::string_view program)
+{
+    const fs::path home = AbsolutePathIn("HOME");
+    return home.empty() ? fs::path() : home / PathOf("." + std::string(program));
+}
+
 } // namespace kova::system

@@ -1,5 +1,7 @@
 #include "system/user_folders.hpp"
 
+#include "system/path_text.hpp"
+
 #include <windows.h>
 
 #include <initguid.h>
@@ -26,5 +28,7 @@ fs::path KnownFolder(const KNOWNFOLDERID& id)
 fs::path UserDataFolder() { return KnownFolder(FOLDERID_LocalAppData); }
 
 fs::path UserSettingsFolder() { return KnownFolder(FOLDERID_RoamingAppData); }
+
+fs::path UserFolderOf(std::string_view program) { return UserSettingsFolder() / PathOf(program); }
 
 } // namespace kova::system

@@ -20,7 +20,7 @@ kova::DateTime Now()
 
 int main(int count, char** words)
 {
-    kova::system::WriteBytesUnchanged();
+    kova::system::UseUtf8Streams();
     return kova::data::Run(kova::system::Arguments(count, words), Now(), std::cout, std::cerr,
                            {std::cin, kova::system::IsInputTyped()}, true);
 }

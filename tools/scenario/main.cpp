@@ -60,7 +60,7 @@ int RunApart(const RunOptions& options, const Script& script)
 int main(int count, char** words)
 {
     try {
-        kova::system::WriteBytesUnchanged();
+        kova::system::UseUtf8Streams();
         const RunOptions options = ParseOptions(kova::system::Arguments(count, words));
         if (options.answer) {
             std::fputs(options.answer->c_str(), stdout);

@@ -104,7 +104,7 @@ protected:
     }
 
     TemporaryFolder folder_;
-    kova::test::DataPlaces places_{folder_.Path()};
+    kova::test::DataPlaces places_{system::TextOf(folder_.Path())};
     const std::string a_ = places_.Place("a"), b_ = places_.Place("b");
     std::ostringstream output_, error_;
 };

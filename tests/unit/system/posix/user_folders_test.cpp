@@ -21,6 +21,7 @@ TEST(UserFoldersOnPosix, LieInTheUsersHomeWhereTheDesktopNamesNoFullPath)
     const test::EnvironmentVariable settings("XDG_CONFIG_HOME", "");
     EXPECT_EQ(TextOf(UserDataFolder()), "/casa/joão/.local/share");
     EXPECT_EQ(TextOf(UserSettingsFolder()), "/casa/joão/.config");
+    EXPECT_EQ(TextOf(UserFolderOf("outro")), "/casa/joão/.outro");
 }
 
 TEST(UserFoldersOnPosix, AreNowhereWithoutAHome)
@@ -30,6 +31,7 @@ TEST(UserFoldersOnPosix, AreNowhereWithoutAHome)
     const test::EnvironmentVariable settings("XDG_CONFIG_HOME", "");
     EXPECT_EQ(UserDataFolder(), "");
     EXPECT_EQ(UserSettingsFolder(), "");
+    EXPECT_EQ(UserFolderOf("outro"), "");
 }
 
 } // namespace kova::system

@@ -50,14 +50,14 @@ TEST_F(DailyBackup, KeepsTheLastFourteenAndTouchesNoOtherFile)
                                              "outra.db.copia-2026-10-01.bak", "loja.db.copia-2026-10-1.bak",
                                              "loja.db.antes-da-versao-3.bak"};
     for (const std::string& name : others)
-        WriteContent(shopFolder_ / name, "nota");
+        WriteContent(system::TextOf(shopFolder_ / name), "nota");
     fs::create_directory(shopFolder_ / "loja.db.copia-2026-10-02.bak");
     for (int day = 1; day <= 17; ++day)
         ASSERT_TRUE(MakeDailyBackup(shop_, {2026, 11, day}, {}));
     for (int day = 1; day <= 17; ++day)
         EXPECT_EQ(fs::exists(system::PathOf(DailyBackupName(shop_, {2026, 11, day}))), day > 3) << day;
     for (const std::string& name : others)
-        EXPECT_EQ(ContentOf(shopFolder_ / name), "nota") << name;
+        EXPECT_EQ(ContentOf(system::TextOf(shopFolder_ / name)), "nota") << name;
     EXPECT_TRUE(fs::is_directory(shopFolder_ / "loja.db.copia-2026-10-02.bak"));
 }
 
@@ -85,7 +85,8 @@ TEST_F(DailyBackup, OfTodayStaysAlsoWhereThePathIsSpeltInAnotherWay)
 {
     for (int day = 1; day <= 14; ++day)
         WriteContent(DailyBackupName(shop_, {2099, 1, day}), "");
-    const std::string other = shopFolder_.string() + "//" + fs::path(shop_).filename().string();
+    const std::string other =
+        system::TextOf(shopFolder_) + "//" + system::TextOf(system::PathOf(shop_).filename());
     EXPECT_TRUE(MakeDailyBackup(other, {2026, 11, 20}, {}));
     EXPECT_TRUE(fs::exists(system::PathOf(DailyBackupName(shop_, {2026, 11, 20}))));
     EXPECT_EQ(Days().size(), DailyBackupsKept);

@@ -228,7 +228,7 @@ TEST_F(DatabaseBackup, IsNotRestoredIntoAFolderThatIsMissing)
 
 TEST_F(DatabaseBackup, IsNotRestoredOntoADiskOfTheNetworkButMadeThere)
 {
-    const kova::test::NetworkDisk share(folder_.Path());
+    const kova::test::NetworkDisk share(system::TextOf(folder_.Path()));
     BackUpDatabase(shop_, copy_, {});
     const std::string told = FailureOf([&] { RestoreDatabase(copy_, folder_ / "nova.db", Carla, {}); });
     EXPECT_NE(told.find("pasta da rede"), std::string::npos) << told;

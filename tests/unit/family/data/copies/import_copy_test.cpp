@@ -88,13 +88,13 @@ TEST_F(ImportCopy, StaysWithTheLastFiveAndTouchesNoOtherFile)
         "loja.db.antes-da-importacao-2026-11-20-0907.bak", "loja.db.antes-da-importacao-de-junho.bak",
         "outra.db.antes-da-importacao-2026-11-20-090705.bak", "loja.db.copia-2026-11-01.bak"};
     for (const std::string& name : others)
-        WriteContent(shopFolder_ / name, "nota");
+        WriteContent(system::TextOf(shopFolder_ / name), "nota");
     Copy(10);
     Copy(10);
     for (int minute = 11; minute <= 15; ++minute)
         Copy(minute);
     for (const std::string& name : others)
-        EXPECT_EQ(ContentOf(shopFolder_ / name), "nota") << name;
+        EXPECT_EQ(ContentOf(system::TextOf(shopFolder_ / name)), "nota") << name;
     for (const char* gone : {"2026-11-20-091005", "2026-11-20-091005-02"})
         EXPECT_FALSE(fs::exists(system::PathOf(Named(gone)))) << gone;
     for (int minute = 11; minute <= 15; ++minute)

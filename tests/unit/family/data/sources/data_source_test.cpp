@@ -79,7 +79,7 @@ TEST_F(DataSource, OfANewerSchemaIsRefusedUntouched)
 TEST_F(DataSource, OnADiskOfTheNetworkIsRefusedAndTellsWhatToDo)
 {
     const std::string path = MakeEmptyShop("loja.db");
-    const kova::test::NetworkDisk share(folder_.Path());
+    const kova::test::NetworkDisk share(system::TextOf(folder_.Path()));
     ExpectRefused(path, "está em uma pasta da rede");
     ExpectRefused(path, "servidor PostgreSQL");
     EXPECT_THROW(CreateDatabase(folder_ / "nova.db", [](Database&) {}), Failure);
