@@ -1,10 +1,15 @@
-// Without a server there is nothing to relay to.
+// What breaks connections is not to be had here.
 
 #include "tests/support/postgres_relay.hpp"
 
+#include <stdexcept>
+
 namespace kova::test {
 
-PostgresRelay::PostgresRelay(const PostgresServer& server) : server_(server) { }
+PostgresRelay::PostgresRelay(const PostgresServer& server) : server_(server)
+{
+    throw std::runtime_error("no connection can be broken from here");
+}
 
 PostgresRelay::~PostgresRelay() = default;
 

@@ -70,12 +70,13 @@ TEST_F(RegisteredComponentsTest, NamesClassAndCauseWhereTheLibraryIsMissing)
     registry.Write({"Teste.clsEco", "{11111111-2222-4333-8444-555555555501}", "/nao/existe.so"});
     const std::string text = RefusalOf("Teste.clsEco");
     EXPECT_TRUE(text.starts_with("O componente 'Teste.clsEco' não pode ser criado.")) << text;
-    EXPECT_TRUE(Contains(text, "'/nao/existe.so' não foi encontrada")) << text;
+    EXPECT_TRUE(Contains(text, "'" + folder.OnItsDisk("/nao/existe.so") + "' não foi encontrada")) << text;
 }
 
 TEST_F(RegisteredComponentsTest, NamesTheLibraryThatDoesNotOfferTheClass)
 {
-    registry.Write({"Teste.clsOutra", "{99999999-2222-4333-8444-555555555501}", TEST_COMPONENT});
+    const std::string path = system::TextOf(std::filesystem::canonical(system::PathOf(TEST_COMPONENT)));
+    registry.Write({"Teste.clsOutra", "{99999999-2222-4333-8444-555555555501}", path});
     const std::string text = RefusalOf("Teste.clsOutra");
     EXPECT_TRUE(Contains(text, "não oferece a classe {99999999-2222-4333-8444-555555555501}")) << text;
 }

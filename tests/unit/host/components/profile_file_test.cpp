@@ -152,14 +152,14 @@ TEST_F(ProfileFileTest, AnswersFalseWhereTheFileCannotBeWritten)
     EXPECT_FALSE(profile.Write("S", "k", "1", folder.File("sem/pasta.ini")));
     std::filesystem::create_directory(system::PathOf(path));
     EXPECT_FALSE(profile.Write("S", "k", "1", path));
-    EXPECT_TRUE(std::filesystem::is_directory(path));
+    EXPECT_TRUE(std::filesystem::is_directory(system::PathOf(path)));
 }
 
 TEST_F(ProfileFileTest, LeavesNoOtherFileBehind)
 {
     profile.Write("S", "k", "1", path);
     profile.Write("S", "k", "2", path);
-    const std::filesystem::directory_iterator files(std::filesystem::path(path).parent_path());
+    const std::filesystem::directory_iterator files(system::PathOf(path).parent_path());
     EXPECT_EQ(std::distance(begin(files), end(files)), 1);
 }
 

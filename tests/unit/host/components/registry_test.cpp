@@ -43,7 +43,7 @@ TEST_F(RegistryTest, FindsAClassByItsExactName)
     const auto found = registry.Find("A.clsB");
     ASSERT_TRUE(found);
     EXPECT_EQ(found->classId, SecondId);
-    EXPECT_EQ(found->libraryPath, "/lib/ação.so");
+    EXPECT_EQ(found->libraryPath, folder.OnItsDisk("/lib/ação.so"));
     EXPECT_FALSE(registry.Find("a.clsb"));
     EXPECT_FALSE(registry.Find("A.cls"));
     EXPECT_TRUE(registry.Load().problems.empty());
@@ -52,8 +52,8 @@ TEST_F(RegistryTest, FindsAClassByItsExactName)
 TEST_F(RegistryTest, ReadsLinesWithCarriageReturnsAndWithoutALastLineEnd)
 {
     Fill(std::string("A.clsA\t") + FirstId + "\t/lib/a.so\r\nA.clsB\t" + SecondId + "\t/lib/b.so");
-    EXPECT_EQ(registry.Find("A.clsA")->libraryPath, "/lib/a.so");
-    EXPECT_EQ(registry.Find("A.clsB")->libraryPath, "/lib/b.so");
+    EXPECT_EQ(registry.Find("A.clsA")->libraryPath, folder.OnItsDisk("/lib/a.so"));
+    EXPECT_EQ(registry.Find("A.clsB")->libraryPath, folder.OnItsDisk("/lib/b.so"));
 }
 
 TEST_F(RegistryTest, CountsARelativePathFromItsOwnFolder)
@@ -81,7 +81,7 @@ TEST_F(RegistryTest, ReadsAnIdentifierOfHexadecimalDigitsAlone)
 TEST_F(RegistryTest, ReadsAPathWithABlank)
 {
     Fill(Line("A.clsA", FirstId, "/casa/ana maria/a.so"));
-    EXPECT_EQ(registry.Find("A.clsA")->libraryPath, "/casa/ana maria/a.so");
+    EXPECT_EQ(registry.Find("A.clsA")->libraryPath, folder.OnItsDisk("/casa/ana maria/a.so"));
 }
 
 TEST_F(RegistryTest, ReportsACorruptLineAndKeepsTheOthers)

@@ -18,6 +18,12 @@ public:
         return system::TextOf(folder_.Path() / system::PathOf(name));
     }
 
+    /// The full path of what lies there on the folder's disk, as this system writes it: from "/lib/a.so".
+    std::string OnItsDisk(const std::string& path) const
+    {
+        return system::TextOf((folder_.Path().root_name() / system::PathOf(path)).make_preferred());
+    }
+
 private:
     system::TemporaryFolder folder_{"conceição"};
 };
