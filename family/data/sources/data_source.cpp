@@ -12,8 +12,13 @@ bool DataSourceExists(const std::string& path)
 {
     if (IsServer(path))
         return ExistsOnServer(path);
-    std::error_code unreadable;
-    return std::filesystem::exists(std::filesystem::symlink_status(system::PathOf(path), unreadable));
+    try {
+        std::error_code unreadable;
+        return std::filesystem::exists(std::filesystem::symlink_status(system::PathOf(path), unreadable));
+    } catch (const std::filesystem::filesystem_error&) {
+        // No file bears a name that cannot be written here.
+        return false;
+    }
 }
 
 std::optional<std::string> CheckDataSource(const std::string& path, Migrations migrations)

@@ -57,8 +57,12 @@ ReplacedCall::ReplacedCall(const char* name, void* replacement)
     std::array<HMODULE, 512> libraries{};
     DWORD bytes = 0;
     ::K32EnumProcessModules(::GetCurrentProcess(), libraries.data(), sizeof libraries, &bytes);
-    for (std::size_t at = 0; at < bytes / sizeof(HMODULE) && at < libraries.size(); ++at)
-        ReplaceIn(libraries[at], name, replacement);
+    const HMODULE system = ::GetModuleHandleW(L"kernel32.dll");
+    for (std::size_t at = 0; at < bytes / sizeof(HMODULE) && at < libraries.size(); ++at) {
+        // Its own way leads on to where the call is done.
+        if (libraries[at] != system)
+            ReplaceIn(libraries[at], name, replacement);
+    }
 }
 
 ReplacedCall::~ReplacedCall()

@@ -15,7 +15,7 @@ class TemporaryFolder {
 public:
     std::string File(const std::string& name) const
     {
-        return system::TextOf(folder_.Path() / system::PathOf(name));
+        return system::TextOf((folder_.Path() / system::PathOf(name)).make_preferred());
     }
 
     /// The full path of what lies there on the folder's disk, as this system writes it: from "/lib/a.so".

@@ -33,8 +33,8 @@ protected:
 TEST_F(DataOfAPerson, AreWrittenIntoTwoFilesOfAFolder)
 {
     EXPECT_EQ(Tell("10", folder_), 0) << Error();
-    EXPECT_TRUE(Said("Página: " + folder_ + "/cliente-10.html\n")) << Output();
-    EXPECT_TRUE(Said("JSON: " + folder_ + "/cliente-10.json\n")) << Output();
+    EXPECT_TRUE(Said("Página: " + File("pessoa/cliente-10.html") + "\n")) << Output();
+    EXPECT_TRUE(Said("JSON: " + File("pessoa/cliente-10.json") + "\n")) << Output();
     for (const char* name : {"/cliente-10.html", "/cliente-10.json"})
         EXPECT_TRUE(kova::test::IsForItsOwnerAlone(folder_ + name));
     EXPECT_EQ(Tell("10", folder_), 1);
@@ -58,7 +58,7 @@ TEST_F(DataOfAPerson, AreNotWrittenForACommandLineThatIsWrong)
     EXPECT_TRUE(Complained("Não há cliente com o código 99.")) << Error();
     EXPECT_EQ(Tell("10", File("nenhuma")), 1);
     EXPECT_TRUE(Complained("não existe")) << Error();
-    EXPECT_TRUE(fs::is_empty(folder_));
+    EXPECT_TRUE(fs::is_empty(system::PathOf(folder_)));
 }
 
 } // namespace kova::data::test

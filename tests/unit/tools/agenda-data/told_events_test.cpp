@@ -22,6 +22,15 @@ protected:
     ToldEvents() { ImportShop(); }
 
     /// Behind moment, user and computer.
+    /// A path as a text of JSON.
+    static std::string InJson(const std::string& path)
+    {
+        std::string text = "\"";
+        for (const char character : path)
+            text += character == '\\' ? std::string("\\\\") : std::string(1, character);
+        return text + "\"";
+    }
+
     std::string LinesOf(const std::string& operation)
     {
         return Ask("select tabela || ' ' || chave || ' ' || depois from auditoria where operacao = '"
@@ -37,8 +46,8 @@ TEST_F(ToldEvents, AreExports)
 {
     ASSERT_EQ(Run({"export", Database(), "clientes", File("saida.csv")}), 0) << Error();
     EXPECT_EQ(LinesOf("exportacao"),
-              "exportacao 0 {\"cadastro\":\"clientes\",\"arquivo\":\"" + File("saida.csv")
-                  + "\",\"linhas\":2}");
+              "exportacao 0 {\"cadastro\":\"clientes\",\"arquivo\":" + InJson(File("saida.csv"))
+                  + ",\"linhas\":2}");
     EXPECT_EQ(Ask("select momento || ' ' || usuario || ' ' || posto from auditoria where operacao = "
                   "'exportacao'"),
               "2026-11-20 09:00:00 0 - " + host::NameOfThisUser() + " " + system::ComputerName());
@@ -52,8 +61,8 @@ TEST_F(ToldEvents, AreExportsOfAPerson)
     fs::create_directory(system::PathOf(File("pessoa")));
     ASSERT_EQ(Run({"person", Database(), "--customer", "10", "--to", File("pessoa")}), 0) << Error();
     EXPECT_EQ(LinesOf("exportacao"),
-              "exportacao 10 {\"pagina\":\"" + File("pessoa") + "/cliente-10.html\",\"json\":\""
-                  + File("pessoa") + "/cliente-10.json\"}");
+              "exportacao 10 {\"pagina\":" + InJson(File("pessoa/cliente-10.html"))
+                  + ",\"json\":" + InJson(File("pessoa/cliente-10.json")) + "}");
     EXPECT_EQ(Run({"person", Database(), "--customer", "99", "--to", File("pessoa")}), 1);
     EXPECT_EQ(Ask("select count(*) from auditoria where operacao = 'exportacao'"), "1");
 }
@@ -77,8 +86,8 @@ TEST_F(ToldEvents, AreRestorations)
         << "select usuario || ' ' || operacao || ' ' || depois from auditoria order by codigo desc limit 1",
         soci::into(line);
     EXPECT_EQ(line,
-              "0 - " + host::NameOfThisUser() + " restauracao_de_copia {\"copia\":\"" + File("copia.bak")
-                  + "\"}");
+              "0 - " + host::NameOfThisUser()
+                  + " restauracao_de_copia {\"copia\":" + InJson(File("copia.bak")) + "}");
     EXPECT_EQ(Broken(restored), std::vector<std::string>{});
 }
 
@@ -100,8 +109,8 @@ TEST_F(ToldEvents, AreMigrationsByTheComputersUser)
         soci::into(line);
     EXPECT_EQ(line,
               "0 - " + host::NameOfThisUser() + " " + system::ComputerName() + " versao_do_esquema " + newest
-                  + " atualizacao {\"de\":7,\"para\":" + newest + ",\"copia\":\"" + older
-                  + ".antes-da-versao-" + newest + ".bak\"}");
+                  + " atualizacao {\"de\":7,\"para\":" + newest
+                  + ",\"copia\":" + InJson(older + ".antes-da-versao-" + newest + ".bak") + "}");
     EXPECT_EQ(Broken(older), std::vector<std::string>{});
 }
 
