@@ -132,7 +132,7 @@ TEST_F(Stamps, AreThoseOfAClockThatWasSetOnPurposeOnBothEngines)
 }
 
 /// Two desks of a server, and its clock.
-class StampsOfDesks : public PostgresqlShop {
+class PostgresqlStamps : public PostgresqlShop {
 protected:
     std::string Now(const std::string& later = "0 hours") const
     {
@@ -152,7 +152,7 @@ protected:
     }
 };
 
-TEST_F(StampsOfDesks, AreInTheirTrueOrderWhateverTheirClocksShow)
+TEST_F(PostgresqlStamps, AreInTheirTrueOrderWhateverTheirClocksShow)
 {
     const auto fast = OpenDatabase(shop_.Address()), slow = OpenDatabase(shop_.Address());
     Book(*fast, "07/12/2026", Now("1 hour"));
@@ -165,7 +165,7 @@ TEST_F(StampsOfDesks, AreInTheirTrueOrderWhateverTheirClocksShow)
     EXPECT_LE(lines.at(2), Now());
 }
 
-TEST_F(StampsOfDesks, StandInTheZoneThatTheOwnerGivesTheDatabase)
+TEST_F(PostgresqlStamps, StandInTheZoneThatTheOwnerGivesTheDatabase)
 {
     shop_.Run("alter database " + shop_.Name() + " set timezone to 'America/Noronha'");
     const auto desk = OpenDatabase(shop_.Address());
@@ -178,7 +178,7 @@ TEST_F(StampsOfDesks, StandInTheZoneThatTheOwnerGivesTheDatabase)
     EXPECT_EQ(shop_.Run("select max(incluido_em) from agendamento").at(0), WithoutZone(line));
 }
 
-TEST_F(StampsOfDesks, AreNoBrokenRule)
+TEST_F(PostgresqlStamps, AreNoBrokenRule)
 {
     const auto desk = OpenDatabase(shop_.Address());
     std::vector<std::string> before, after;
