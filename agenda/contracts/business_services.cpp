@@ -6,36 +6,47 @@ void Argument::Assign(const Value& value) { value_ = assign_ ? assign_(value) : 
 
 Argument ByRef(Integer& variable)
 {
-    return {Value(variable), [&variable](const Value& value) { return Value(variable = value.ToInteger()); }};
+    return ByRef(
+        variable, [&variable](const Value& value) { return Value(variable = value.ToInteger()); }, false);
 }
 
 Argument ByRef(Long& variable)
 {
-    return {Value(variable), [&variable](const Value& value) { return Value(variable = value.ToLong()); }};
+    return ByRef(
+        variable, [&variable](const Value& value) { return Value(variable = value.ToLong()); }, false);
 }
 
 Argument ByRef(Double& variable)
 {
-    return {Value(variable), [&variable](const Value& value) { return Value(variable = value.ToDouble()); }};
+    return ByRef(
+        variable, [&variable](const Value& value) { return Value(variable = value.ToDouble()); }, false);
 }
 
 Argument ByRef(Text& variable)
 {
-    return {Value(variable), [&variable](const Value& value) { return Value(variable = value.ToText()); }};
+    return ByRef(
+        variable, [&variable](const Value& value) { return Value(variable = value.ToText()); }, false);
 }
 
 Argument ByRef(ObjectRef& variable)
 {
-    return {Value(variable), [&variable](const Value& value) {
-                // A dropped reference empties the variable; everything else must be an object.
-                const bool dropped = value == Value(ObjectRef());
-                return Value(variable = dropped ? ObjectRef() : value.ToObject());
-            }};
+    const auto assign = [&variable](const Value& value) {
+        // A dropped reference empties the variable; everything else must be an object.
+        const bool dropped = value == Value(ObjectRef());
+        return Value(variable = dropped ? ObjectRef() : value.ToObject());
+    };
+    return ByRef(variable, assign, false);
 }
 
 Argument ByRef(Value& variable)
 {
-    return {variable, [&variable](const Value& value) { return variable = value; }};
+    return ByRef(
+        variable, [&variable](const Value& value) { return variable = value; }, true);
+}
+
+Argument ByRef(Value value, Argument::Assigner assign, bool takesEveryType)
+{
+    return {std::move(value), std::move(assign), takesEveryType};
 }
 
 } // namespace kova

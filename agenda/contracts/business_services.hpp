@@ -6,6 +6,7 @@
 #include <memory>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kova {
@@ -18,10 +19,16 @@ public:
 
     const Value& Get() const { return value_; }
     bool IsByReference() const { return static_cast<bool>(assign_); }
+    /// Whether the caller's variable takes values of every type. One by reference that does not keeps the
+    /// type of its value.
+    bool TakesEveryType() const { return takesEveryType_; }
 
     /// Writes the caller's variable, converted to the variable's type (failures 6, 13, 91, 94). On an
     /// argument by value it changes nothing for the caller, as a callee's own copy would.
     void Assign(const Value& value);
+
+    /// Writes a variable and answers what it holds then.
+    using Assigner = std::function<Value(const Value&)>;
 
 private:
     friend Argument ByRef(Integer&);
@@ -30,14 +37,16 @@ private:
     friend Argument ByRef(Text&);
     friend Argument ByRef(ObjectRef&);
     friend Argument ByRef(Value&);
+    friend Argument ByRef(Value, Assigner, bool);
 
-    Argument(Value value, std::function<Value(const Value&)> assign)
-        : value_(std::move(value)), assign_(std::move(assign))
+    Argument(Value value, Assigner assign, bool takesEveryType)
+        : value_(std::move(value)), assign_(std::move(assign)), takesEveryType_(takesEveryType)
     {
     }
 
     Value value_;
-    std::function<Value(const Value&)> assign_;
+    Assigner assign_;
+    bool takesEveryType_ = false;
 };
 
 /// Hands a variable over by reference. It must outlive the call.
@@ -47,6 +56,18 @@ Argument ByRef(Double& variable);
 Argument ByRef(Text& variable);
 Argument ByRef(ObjectRef& variable);
 Argument ByRef(Value& variable);
+/// A variable that is no C++ one: what it holds, and what writes it (Argument::Assign).
+Argument ByRef(Value value, Argument::Assigner assign, bool takesEveryType);
+
+/// What a component tells of one of its members.
+struct Member {
+    Text name;
+    bool isMethod = false;
+    bool isReadable = false;
+    bool isWritable = false;
+
+    bool operator==(const Member&) const = default;
+};
 
 /// A component of the product family, or the module's own public class: found by class name, used by
 /// member name. Names are compared letter for letter.
@@ -60,6 +81,8 @@ public:
     /// Calls a method. Fails with 438 where there is none of that name and with 450 on a wrong count
     /// of arguments. A method without a result answers Empty.
     virtual Value Call(std::string_view member, std::span<Argument> arguments) = 0;
+    /// Its members, no two of them with names that differ by case alone. Empty where it cannot tell.
+    virtual std::vector<Member> Members() const { return {}; }
 
     Value Call(std::string_view member) { return Call(member, std::span<Argument>()); }
     Value Call(std::string_view member, std::vector<Argument> arguments)

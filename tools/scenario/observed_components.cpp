@@ -67,6 +67,8 @@ public:
         return Logged(*log_, text + ")", true, [&] { return inner_->Call(member, arguments); });
     }
 
+    std::vector<Member> Members() const override { return inner_->Members(); }
+
 private:
     std::string Full(std::string_view member) const { return className_ + "." + std::string(member); }
 

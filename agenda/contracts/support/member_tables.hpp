@@ -55,6 +55,18 @@ public:
         return (Self().*method->run)(arguments);
     }
 
+    /// Methods, then properties, as they stand in the tables.
+    std::vector<Member> Members() const override
+    {
+        std::vector<Member> members;
+        for (const Method<Class>& method : Class::Methods())
+            members.push_back({Text(method.name), true, false, false});
+        for (const Property<Class>& property : Class::Properties())
+            members.push_back(
+                {Text(property.name), false, property.read != nullptr, property.write != nullptr});
+        return members;
+    }
+
 protected:
     using Base::Base;
 
@@ -63,11 +75,11 @@ protected:
 private:
     Class& Self() { return static_cast<Class&>(*this); }
 
-    template <class Member> static const Member* Find(std::span<const Member> members, std::string_view name)
+    template <class Row> static const Row* Find(std::span<const Row> rows, std::string_view name)
     {
-        for (const Member& member : members) {
-            if (member.name == name)
-                return &member;
+        for (const Row& row : rows) {
+            if (row.name == name)
+                return &row;
         }
         return nullptr;
     }

@@ -1,7 +1,10 @@
+#include "agenda/contracts/text.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "system/library.hpp"
 #include "system/path_text.hpp"
+
+#include <set>
 
 namespace kova::family::test {
 
@@ -47,6 +50,21 @@ TEST_F(FamilyLibrary, RegistersItsClassesAndMakesThem)
         EXPECT_NE(Create(host, name), nullptr) << name;
     EXPECT_EQ(Entry<DllUnregisterServerFunction>("DllUnregisterServer")(), 0);
     EXPECT_TRUE(host.registered.empty());
+    EXPECT_EQ(Attach(nullptr), 0);
+}
+
+TEST_F(FamilyLibrary, HasClassesThatListTheirMembersEachUnderOneName)
+{
+    TestHost host(folder_ / "loja.db");
+    ASSERT_EQ(Attach(&host), 0);
+    ASSERT_EQ(Entry<DllRegisterServerFunction>("DllRegisterServer")(), 0);
+    const auto classes = host.registered;
+    for (const auto& [name, classId] : classes) {
+        std::set<std::string> names;
+        for (const Member& member : Create(host, name)->Members())
+            EXPECT_TRUE(names.insert(LowerCase(member.name)).second) << name << '.' << member.name;
+        EXPECT_GE(names.size(), 3U) << name;
+    }
     EXPECT_EQ(Attach(nullptr), 0);
 }
 

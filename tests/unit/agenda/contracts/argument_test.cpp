@@ -38,6 +38,8 @@ TEST(Argument, ByReferenceCarriesTheVariablesType)
     EXPECT_EQ(ByRef(object).Get().GetType(), ValueType::Object);
     EXPECT_TRUE(ByRef(any).Get().IsNull());
     EXPECT_TRUE(ByRef(any).IsByReference());
+    EXPECT_TRUE(ByRef(any).TakesEveryType());
+    EXPECT_FALSE(ByRef(number).TakesEveryType());
 }
 
 TEST(Argument, ByReferenceConvertsToTheVariablesType)

@@ -86,6 +86,15 @@ TEST(MembersByTable, RefuseAWriteWhereTheyAreOnlyRead)
     EXPECT_EQ(FailureOf([&] { cofre.Set("Moeda", "dólar"); }).Number(), 450);
 }
 
+TEST(MembersByTable, AreListedWithWhatCanBeDoneWithThem)
+{
+    const std::vector<Member> listed = {{"Somar", true, false, false},
+                                        {"Saldo", false, true, true},
+                                        {"Moeda", false, true, false},
+                                        {"Senha", false, false, true}};
+    EXPECT_EQ(Cofre().Members(), listed);
+}
+
 TEST(MembersByTable, RefuseAWrongCountOfArguments)
 {
     Cofre cofre;
