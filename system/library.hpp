@@ -33,7 +33,7 @@ private:
     bool unloads_ = true;
 };
 
-/// What the file of a library is called on this system: "libNAME.so", "libNAME.dll".
+/// What the file of a library is called on this system: "libNAME.so", "NAME.dll".
 std::string LibraryFile(std::string_view name);
 
 /// The name within; "" where a file so called is no library.

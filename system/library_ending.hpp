@@ -4,7 +4,8 @@
 
 namespace kova::system {
 
-/// How the files of libraries end, with the point.
+/// How the files of libraries begin, "" where they begin with their names, and how they end, with the point.
+std::string_view LibraryBeginning();
 std::string_view LibraryEnding();
 
 } // namespace kova::system

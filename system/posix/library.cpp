@@ -22,6 +22,8 @@ Library::~Library()
 
 void* Library::Find(const char* name) const { return ::dlsym(handle_, name); }
 
+std::string_view LibraryBeginning() { return "lib"; }
+
 std::string_view LibraryEnding() { return ".so"; }
 
 } // namespace kova::system

@@ -35,6 +35,8 @@ void* Library::Find(const char* name) const
     return reinterpret_cast<void*>(::GetProcAddress(static_cast<HMODULE>(handle_), name));
 }
 
+std::string_view LibraryBeginning() { return {}; }
+
 std::string_view LibraryEnding() { return ".dll"; }
 
 } // namespace kova::system
