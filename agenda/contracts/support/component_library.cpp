@@ -43,7 +43,9 @@ private:
     Entry entry_;
 };
 
-ComponentLibrary::ComponentLibrary(std::vector<Entry> classes)
+ServedLibrary::Function ServedLibrary::library_ = nullptr;
+
+ComponentLibrary::ComponentLibrary(std::vector<Entry> classes, LibraryHooks hooks) : hooks_(std::move(hooks))
 {
     for (Entry& entry : classes)
         factories_.push_back(std::make_unique<Factory>(*this, std::move(entry)));
@@ -53,9 +55,11 @@ ComponentLibrary::~ComponentLibrary() = default;
 
 std::int32_t ComponentLibrary::AttachHost(ServerHost* host)
 {
-    if (host != host_ && live_ > 0)
+    if (host != host_ && IsInUse())
         return Code(ServerStatus::Refused);
     host_ = host;
+    if (hooks_.hostChanged)
+        hooks_.hostChanged(host);
     return Code(ServerStatus::Ok);
 }
 
@@ -78,7 +82,7 @@ std::int32_t ComponentLibrary::GetClassObject(const char* classId, ClassFactory*
 
 std::int32_t ComponentLibrary::CanUnloadNow() const
 {
-    return Code(live_ == 0 && locks_ == 0 ? ServerStatus::Ok : ServerStatus::Busy);
+    return Code(!IsInUse() && locks_ == 0 ? ServerStatus::Ok : ServerStatus::Busy);
 }
 
 std::shared_ptr<void> ComponentLibrary::Hold()
@@ -105,6 +109,14 @@ std::int32_t ComponentLibrary::UnregisterServer()
         if (!host_->Unregister(factory->ClassName()))
             return Code(ServerStatus::RegistrationFailed);
     return Code(ServerStatus::Ok);
+}
+
+std::vector<ClassRegistration> ComponentLibrary::Classes() const
+{
+    std::vector<ClassRegistration> classes;
+    for (const auto& factory : factories_)
+        classes.push_back({factory->ClassName(), factory->ClassId(), {}});
+    return classes;
 }
 
 } // namespace kova

@@ -10,10 +10,18 @@
 #include <type_traits>
 #include <vector>
 
-/// Put before each of the five entry points: exported under its plain name.
+/// Put before each entry point: exported under its plain name.
 #define KOVA_ENTRY_POINT extern "C" __attribute__((visibility("default")))
 
 namespace kova {
+
+/// What a library has of its own beside its classes; either may be missing.
+struct LibraryHooks {
+    /// Whether the library is needed although no object of it lives.
+    std::function<bool()> isInUse = nullptr;
+    /// Told of each host that is attached, and of null where none is any more.
+    std::function<void(ServerHost*)> hostChanged = nullptr;
+};
 
 /// What every component library has: the host that is attached, its classes, and how many of their
 /// objects live. The library's entry points forward to the members of one such object, which lives as
@@ -56,7 +64,7 @@ public:
         std::function<ComponentRef(ServerHost&, std::atomic<long>&)> create_;
     };
 
-    explicit ComponentLibrary(std::vector<Entry> classes);
+    explicit ComponentLibrary(std::vector<Entry> classes, LibraryHooks hooks = {});
     ~ComponentLibrary();
     ComponentLibrary(const ComponentLibrary&) = delete;
     ComponentLibrary& operator=(const ComponentLibrary&) = delete;
@@ -70,6 +78,9 @@ public:
     std::int32_t RegisterServer();
     std::int32_t UnregisterServer();
 
+    /// Names and identifiers, without a path.
+    std::vector<ClassRegistration> Classes() const;
+
     /// Keeps the library loaded while any copy of it lives, as an object does: for what the library has put
     /// on the screen and its object does not own.
     std::shared_ptr<void> Hold();
@@ -82,10 +93,27 @@ public:
 private:
     class Factory;
 
+    bool IsInUse() const { return live_ > 0 || (hooks_.isInUse && hooks_.isInUse()); }
+
     std::vector<std::unique_ptr<Factory>> factories_;
+    LibraryHooks hooks_;
     ServerHost* host_ = nullptr;
     std::atomic<long> live_ = 0;
     long locks_ = 0;
+};
+
+/// Tells the entry points which library is theirs. Each component library has one such object, made while it
+/// is loaded; the function is asked when the first entry point is called.
+class ServedLibrary {
+public:
+    using Function = ComponentLibrary& (*)();
+
+    explicit ServedLibrary(Function library) { library_ = library; }
+
+    static ComponentLibrary& Get() { return library_(); }
+
+private:
+    static Function library_;
 };
 
 } // namespace kova
