@@ -10,6 +10,7 @@ BEGIN {
 # Each operating system's sources define what the folder around them declares.
 function room_of(source) {
     sub(/^system\/(posix|windows)\//, "system/", source)
+    sub(/^component\/(posix|windows)\//, "component/", source)
     while (sub(/[^\/]*\/?$/, "", source) && source != "")
         if (source in sees)
             return source

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "agenda/contracts/failure.hpp"
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace kova::component {
+
+/// The code of a failure among the system's: a negative number is one itself, a small one stands in the place
+/// that the system keeps for the numbers of run-time failures.
+HRESULT CodeOf(const Failure& failure);
+
+/// Tells the caller of a member that failed. `source` names the class. Answers what the member has to answer.
+HRESULT Raise(const Failure& failure, std::string_view source, EXCEPINFO* exception);
+
+/// Tells the caller of what is no member; whoever asks the system for the last failure gets its text.
+HRESULT RaiseLast(const Failure& failure, std::string_view source);
+
+/// What a member of another maker's object has answered, as a failure of ours with its number and its text.
+/// Takes over what the exception holds.
+Failure FailureOf(HRESULT status, EXCEPINFO& exception);
+/// The same where there is no more than the code.
+Failure FailureOf(HRESULT status);
+
+} // namespace kova::component
