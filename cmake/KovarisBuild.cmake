@@ -12,6 +12,11 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
+# A library of Windows has no "lib" before its name: whoever registers a component names its file.
+if(MINGW)
+    set(CMAKE_SHARED_LIBRARY_PREFIX "")
+endif()
+
 include_directories(${CMAKE_SOURCE_DIR})
 
 # A program for Windows looks for the compiler's own libraries beside itself. They are shared: failures cross the
@@ -141,7 +146,13 @@ function(kovaris_loaded_library target exports)
     set_target_properties(${target} PROPERTIES LINK_DEPENDS ${exports})
 endfunction()
 
-# A component library: what it exports are its entry points.
+# A component library: what it exports are its entry points, which component/ has.
 function(kovaris_component_library target)
-    kovaris_loaded_library(${target} component_library.exports ${ARGN})
+    if(WIN32)
+        set(exports component_library_windows.exports)
+    else()
+        set(exports component_library.exports)
+    endif()
+    kovaris_loaded_library(${target} ${exports} ${ARGN} $<TARGET_OBJECTS:component_entry_points>)
+    target_link_libraries(${target} PRIVATE component)
 endfunction()

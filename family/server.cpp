@@ -23,54 +23,39 @@ template <class Class> kova::ComponentLibrary::Entry Entry(const char* classId)
             [](kova::ServerHost& host) { return std::make_unique<Class>(host); }};
 }
 
+/// A record set that is still held counts as an object of the library.
+bool RecordSetsAreLent() { return kova::family::LentRecordSets() > 0; }
+
+/// Without a host nobody will come back for the connections.
+void HostChanged(kova::ServerHost* host)
+{
+    if (!host)
+        kova::family::CloseSharedDatabases();
+}
+
 kova::ComponentLibrary& Library()
 {
     using namespace kova::family;
-    static kova::ComponentLibrary library({
-        Entry<Agenda>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E01}"),
-        Entry<ServiceTypes>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E02}"),
-        Entry<Employees>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E03}"),
-        Entry<Company>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E04}"),
-        Entry<SystemVersion>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E05}"),
-        Entry<DatabaseComponent>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E06}"),
-        Entry<Species>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E07}"),
-        Entry<Breeds>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E08}"),
-        Entry<Services>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E09}"),
-        Entry<Customers>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0A}"),
-        Entry<Animals>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0B}"),
-        Entry<Holidays>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0C}"),
-        Entry<PrintComponent>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0D}"),
-    });
+    static kova::ComponentLibrary library(
+        {
+            Entry<Agenda>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E01}"),
+            Entry<ServiceTypes>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E02}"),
+            Entry<Employees>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E03}"),
+            Entry<Company>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E04}"),
+            Entry<SystemVersion>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E05}"),
+            Entry<DatabaseComponent>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E06}"),
+            Entry<Species>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E07}"),
+            Entry<Breeds>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E08}"),
+            Entry<Services>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E09}"),
+            Entry<Customers>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0A}"),
+            Entry<Animals>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0B}"),
+            Entry<Holidays>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0C}"),
+            Entry<PrintComponent>("{3C8F0B1E-6D2A-4E57-9A41-1F5B7C2D9E0D}"),
+        },
+        {.isInUse = RecordSetsAreLent, .hostChanged = HostChanged});
     return library;
 }
 
+const kova::ServedLibrary served(Library);
+
 } // namespace
-
-/// A record set that is still held counts as an object of the library.
-///
-/// Without a host nobody will come back for the connections.
-KOVA_ENTRY_POINT std::int32_t KovaAttachHost(kova::ServerHost* host)
-{
-    if (host != Library().Host() && kova::family::LentRecordSets() > 0)
-        return static_cast<std::int32_t>(kova::ServerStatus::Refused);
-    const std::int32_t status = Library().AttachHost(host);
-    if (!host && status == 0)
-        kova::family::CloseSharedDatabases();
-    return status;
-}
-
-KOVA_ENTRY_POINT std::int32_t DllGetClassObject(const char* classId, kova::ClassFactory** factory)
-{
-    return Library().GetClassObject(classId, factory);
-}
-
-KOVA_ENTRY_POINT std::int32_t DllCanUnloadNow()
-{
-    if (kova::family::LentRecordSets() > 0)
-        return static_cast<std::int32_t>(kova::ServerStatus::Busy);
-    return Library().CanUnloadNow();
-}
-
-KOVA_ENTRY_POINT std::int32_t DllRegisterServer() { return Library().RegisterServer(); }
-
-KOVA_ENTRY_POINT std::int32_t DllUnregisterServer() { return Library().UnregisterServer(); }

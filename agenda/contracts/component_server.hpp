@@ -15,9 +15,9 @@
 ///       Refused while objects live or what they have put on the screen, unless that host is attached
 ///       already.
 ///   int32_t DllGetClassObject(const char* classId, kova::ClassFactory** factory);
-///       The factory of the class with that identifier. `*factory` is null on any failure:
-///       ClassNotAvailable for an unknown identifier, InvalidArgument for a null pointer. The factory
-///       belongs to the library.
+///       Called KovaClasses on Windows, where the system has a function of the first name. The factory of the
+///       class with that identifier. `*factory` is null on any failure: ClassNotAvailable for an unknown
+///       identifier, InvalidArgument for a null pointer. The factory belongs to the library.
 ///   int32_t DllCanUnloadNow();
 ///       Ok where no object of the library lives, nothing of it is on the screen and nobody locks it, else
 ///       Busy.
@@ -25,6 +25,9 @@
 ///       Writes the library's classes through ServerHost::Register. Ok, or RegistrationFailed.
 ///   int32_t DllUnregisterServer();
 ///       Removes them. Ok also where they were not there, or RegistrationFailed.
+///
+/// On Windows the library is one of the system's components too: DllGetClassObject is there with the system's
+/// own signature, and without a host the last two write into the system's registry. component/ has all that.
 namespace kova {
 
 class Platform;

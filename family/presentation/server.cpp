@@ -25,17 +25,6 @@ kova::ComponentLibrary& Library()
     return library;
 }
 
+const kova::ServedLibrary served(Library);
+
 } // namespace
-
-KOVA_ENTRY_POINT std::int32_t KovaAttachHost(kova::ServerHost* host) { return Library().AttachHost(host); }
-
-KOVA_ENTRY_POINT std::int32_t DllGetClassObject(const char* classId, kova::ClassFactory** factory)
-{
-    return Library().GetClassObject(classId, factory);
-}
-
-KOVA_ENTRY_POINT std::int32_t DllCanUnloadNow() { return Library().CanUnloadNow(); }
-
-KOVA_ENTRY_POINT std::int32_t DllRegisterServer() { return Library().RegisterServer(); }
-
-KOVA_ENTRY_POINT std::int32_t DllUnregisterServer() { return Library().UnregisterServer(); }

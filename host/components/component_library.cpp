@@ -1,6 +1,7 @@
 #include "host/components/component_library.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "component/entry_names.hpp"
 #include "host/components/component_error.hpp"
 #include "system/path_text.hpp"
 
@@ -56,7 +57,7 @@ template <class Function> void LoadedLibrary::Find(Function& function, const cha
 void LoadedLibrary::FindEntryPoints()
 {
     Find(attachHost_, "KovaAttachHost");
-    Find(getClassObject_, "DllGetClassObject");
+    Find(getClassObject_, component::ClassesEntryPoint());
     Find(canUnloadNow_, "DllCanUnloadNow");
     Find(registerServer_, "DllRegisterServer");
     Find(unregisterServer_, "DllUnregisterServer");

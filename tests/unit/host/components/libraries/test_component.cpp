@@ -49,13 +49,6 @@ ComponentLibrary& Library()
     return library;
 }
 
-} // namespace
+const ServedLibrary served(Library);
 
-KOVA_ENTRY_POINT std::int32_t KovaAttachHost(ServerHost* host) { return Library().AttachHost(host); }
-KOVA_ENTRY_POINT std::int32_t DllGetClassObject(const char* classId, ClassFactory** factory)
-{
-    return Library().GetClassObject(classId, factory);
-}
-KOVA_ENTRY_POINT std::int32_t DllCanUnloadNow() { return Library().CanUnloadNow(); }
-KOVA_ENTRY_POINT std::int32_t DllRegisterServer() { return Library().RegisterServer(); }
-KOVA_ENTRY_POINT std::int32_t DllUnregisterServer() { return Library().UnregisterServer(); }
+} // namespace

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "agenda/contracts/component_server.hpp"
+
+#include <windows.h>
+
+#include <vector>
+
+namespace kova::component {
+
+/// Writes the classes under a key that has such: the class's name with its identifier, the identifier with
+/// the library's path and the rule that each object is used in the thread that made it. Answers the system's
+/// code; where it is not 0, what was written is taken back.
+LSTATUS RegisterClasses(HKEY classesKey, const std::vector<ClassRegistration>& classes);
+
+/// Takes everything out that RegisterClasses has written. What is not there is no failure.
+LSTATUS UnregisterClasses(HKEY classesKey, const std::vector<ClassRegistration>& classes);
+
+/// The same for all users of the computer; where that is not allowed, for this one. Taking out goes for both.
+bool RegisterForSystem(const std::vector<ClassRegistration>& classes);
+bool UnregisterForSystem(const std::vector<ClassRegistration>& classes);
+
+} // namespace kova::component
