@@ -67,12 +67,22 @@ OwnHost* own = nullptr;
 
 bool IsAttached() { return own && ServedLibrary::Get().Host() == own->Get(); }
 
+/// False where something is in use.
+bool LetGo()
+{
+    if (IsAttached()
+        && ServedLibrary::Get().AttachHost(nullptr) != static_cast<std::int32_t>(ServerStatus::Ok))
+        return false;
+    delete std::exchange(own, nullptr);
+    return true;
+}
+
 } // namespace
 
 void RequireHost()
 {
     ComponentLibrary& library = ServedLibrary::Get();
-    if (IsAttached() && !own->IsOfThisThread())
+    if (IsAttached() && !own->IsOfThisThread() && !LetGo())
         throw FailureOf(RPC_E_WRONG_THREAD);
     if (library.Host())
         return;
@@ -82,17 +92,6 @@ void RequireHost()
     delete std::exchange(own, made.release());
 }
 
-bool LetGoOfOwnHost()
-{
-    if (!own)
-        return true;
-    if (!own->IsOfThisThread())
-        return false;
-    if (IsAttached()
-        && ServedLibrary::Get().AttachHost(nullptr) != static_cast<std::int32_t>(ServerStatus::Ok))
-        return false;
-    delete std::exchange(own, nullptr);
-    return true;
-}
+bool LetGoOfOwnHost() { return !own || (own->IsOfThisThread() && LetGo()); }
 
 } // namespace kova::component

@@ -4,7 +4,6 @@ get_target_property(late_binding_tests test_late_binding SOURCES)
 if(NOT WIN32)
     list(FILTER late_binding_tests EXCLUDE REGEX "/unit/component/windows/")
 endif()
-list(FILTER late_binding_tests EXCLUDE REGEX "/unit/component/platform/")
 set_target_properties(test_late_binding PROPERTIES SOURCES "${late_binding_tests}")
 if(WIN32)
     target_link_libraries(test_late_binding PRIVATE toolkit_headless)
@@ -25,6 +24,14 @@ if(WIN32)
     add_dependencies(test_late_binding installed_component)
     target_compile_definitions(test_late_binding PRIVATE INSTALLED_FOLDER="${installed}")
 
+    add_executable(any_apartment ${CMAKE_CURRENT_LIST_DIR}/platform/any_apartment.cpp)
+    target_compile_definitions(any_apartment PRIVATE UNICODE _WIN32_WINNT=0x0A00)
+    target_link_libraries(any_apartment PRIVATE ole32 oleaut32)
+    set_target_properties(any_apartment PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${installed})
+    add_dependencies(installed_component any_apartment)
+
+    add_test(NAME Checks.ComponentLibrariesOfWindowsExportTheirEntryPointsOnly
+             COMMAND ${CMAKE_SOURCE_DIR}/tests/checks/exports ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
     add_test(NAME LateBinding.ByAScriptHost
              COMMAND ${CMAKE_CURRENT_LIST_DIR}/platform/by_script ${CMAKE_CROSSCOMPILING_EMULATOR} ${installed})
 endif()

@@ -219,6 +219,9 @@ TEST_F(ModuleSeenFromOutside, ServesOneThreadAtATime)
     };
     EXPECT_EQ(createElsewhere(), RPC_E_WRONG_THREAD);
     agenda = {};
+    EXPECT_EQ(createElsewhere(), S_OK) << "nothing of the first thread's lives any more";
+    EXPECT_EQ(Create(factory, agenda), S_OK);
+    agenda = {};
     factory = {};
     EXPECT_EQ(CanUnloadNow(), S_OK);
 }
