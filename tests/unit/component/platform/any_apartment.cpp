@@ -47,8 +47,11 @@ void Use(const char* who, DWORD kind)
         ::SysFreeString(exception.bstrSource);
         agenda->Release();
     }
-    ::CoFreeUnusedLibrariesEx(0, 0);
-    std::printf("%s: %s\n", who, ::GetModuleHandleW(L"KOVA_A_Agenda.dll") ? "loaded" : "unloaded");
+    // What the system has put between belongs to a thread of its own.
+    if (kind == COINIT_APARTMENTTHREADED) {
+        ::CoFreeUnusedLibrariesEx(0, 0);
+        std::printf("%s: %s\n", who, ::GetModuleHandleW(L"KOVA_A_Agenda.dll") ? "loaded" : "unloaded");
+    }
     ::CoUninitialize();
 }
 
