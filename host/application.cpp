@@ -5,13 +5,11 @@
 #include "host/display.hpp"
 #include "host/messages.hpp"
 #include "host/session/shops.hpp"
+#include "host/toolkit_words.hpp"
 #include "toolkits/qt/look/apply_look.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
 
 #include <cstdlib>
 #include <exception>
@@ -45,15 +43,6 @@ void LeaveOutRemarks(QtMsgType, const QMessageLogContext&, const QString& messag
     if (!message.startsWith(QLatin1String("This plugin does not support "))
         && !message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
         std::cerr << message.toStdString() << std::endl;
-}
-
-/// The toolkit's own words (menus of text boxes, its dialogs) in Portuguese, whatever the desktop speaks.
-void SpeakPortuguese(QApplication& application)
-{
-    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
-    auto* translator = new QTranslator(&application);
-    if (translator->load(QStringLiteral("qtbase_pt_BR"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(translator);
 }
 
 int RunTelling(const Options& options, Outlet outlet)

@@ -181,7 +181,7 @@ Long FormWindow::Handle() const { return handle_; }
 
 std::optional<toolkit::InnerSize> FormWindow::SetParent(Long containerHandle)
 {
-    QWidget* container = WidgetOfHandle(containerHandle);
+    QWidget* container = ContainerOfHandle(containerHandle);
     if (!container || !widget_)
         return std::nullopt;
     container_ = container;

@@ -18,6 +18,12 @@ QHash<Long, QPointer<QWidget>>& OwnHandles()
     return handles;
 }
 
+WindowTaker& TheTaker()
+{
+    static WindowTaker taker = nullptr;
+    return taker;
+}
+
 Long NewHandle(QWidget& widget)
 {
     static Long next = FirstOwnHandle;
@@ -45,6 +51,14 @@ QWidget* WidgetOfHandle(Long handle)
     if (handle >= FirstOwnHandle)
         return OwnHandles().value(handle);
     return QWidget::find(static_cast<WId>(handle));
+}
+
+void TakeForeignWindowsBy(WindowTaker taker) { TheTaker() = taker; }
+
+QWidget* ContainerOfHandle(Long handle)
+{
+    QWidget* widget = WidgetOfHandle(handle);
+    return widget || !TheTaker() ? widget : TheTaker()(handle);
 }
 
 } // namespace kova::qt

@@ -14,4 +14,14 @@ Long HandleOf(QWidget& widget);
 /// The widget of this process with that handle, by either kind of number; null where there is none.
 QWidget* WidgetOfHandle(Long handle);
 
+/// Answers a widget that fills a window of the process which is none of the toolkit's; null where there is
+/// none.
+using WindowTaker = QWidget* (*)(Long window);
+/// Who is asked for such; nobody is unless told.
+void TakeForeignWindowsBy(WindowTaker taker);
+
+/// What a form may be put into: the widget with that handle, else one in a window that is none of the
+/// toolkit's.
+QWidget* ContainerOfHandle(Long handle);
+
 } // namespace kova::qt
