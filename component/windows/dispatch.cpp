@@ -69,8 +69,9 @@ HRESULT Dispatch::QueryInterface(REFIID interfaceId, void** found)
 {
     if (!found)
         return E_POINTER;
-    if (IsEqualIID(interfaceId, IID_IUnknown) || IsEqualIID(interfaceId, IID_IDispatch))
-        *found = static_cast<IDispatch*>(this);
+    if (IsEqualIID(interfaceId, IID_IUnknown) || IsEqualIID(interfaceId, IID_IDispatch)
+        || IsEqualIID(interfaceId, ListingId))
+        *found = static_cast<IDispatchEx*>(this);
     else if (IsEqualIID(interfaceId, OwnObjectId))
         *found = static_cast<OwnObject*>(this);
     else {
@@ -141,6 +142,81 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID interfaceId, LCID, WORD flags, DISPPA
     } catch (const std::exception& error) {
         return Raise(AsFailure(error), Source, exception);
     }
+}
+
+HRESULT Dispatch::GetDispID(BSTR name, DWORD how, DISPID* id)
+{
+    if (!name || !id)
+        return E_INVALIDARG;
+    const Text wanted = TextOf(name);
+    *id = IdOf(wanted);
+    if (*id != DISPID_UNKNOWN && (how & fdexNameCaseSensitive) != 0 && MemberOf(*id)->name != wanted)
+        *id = DISPID_UNKNOWN;
+    return *id == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
+}
+
+HRESULT Dispatch::InvokeEx(DISPID id, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* answer,
+                           EXCEPINFO* exception, IServiceProvider*)
+{
+    if ((flags & DISPATCH_CONSTRUCT) != 0)
+        return DISP_E_MEMBERNOTFOUND;
+    if (!parameters)
+        return E_INVALIDARG;
+    // The object may come along as a first named argument.
+    DISPPARAMS plain = *parameters;
+    if (plain.cNamedArgs > 0 && plain.rgdispidNamedArgs[0] == DISPID_THIS) {
+        --plain.cNamedArgs;
+        ++plain.rgdispidNamedArgs;
+        --plain.cArgs;
+        ++plain.rgvarg;
+    }
+    return Invoke(id, IID_NULL, locale, flags, &plain, answer, exception, nullptr);
+}
+
+HRESULT Dispatch::GetMemberProperties(DISPID id, DWORD asked, DWORD* properties)
+{
+    const Member* member = MemberOf(id);
+    if (!member)
+        return DISP_E_MEMBERNOTFOUND;
+    if (!properties)
+        return E_POINTER;
+    const bool isKnown = listsMembers_;
+    const auto part = [&](bool can, DWORD yes, DWORD no) { return can || !isKnown ? yes : no; };
+    *properties = asked
+        & (part(member->isReadable, fdexPropCanGet, fdexPropCannotGet)
+           | part(member->isWritable, fdexPropCanPut, fdexPropCannotPut)
+           | part(member->isMethod, fdexPropCanCall, fdexPropCannotCall));
+    return S_OK;
+}
+
+HRESULT Dispatch::GetMemberName(DISPID id, BSTR* name)
+{
+    if (!name)
+        return E_POINTER;
+    *name = nullptr;
+    const Member* member = MemberOf(id);
+    if (!member)
+        return DISP_E_MEMBERNOTFOUND;
+    *name = BstrOf(member->name);
+    return S_OK;
+}
+
+HRESULT Dispatch::GetNextDispID(DWORD, DISPID id, DISPID* next)
+{
+    if (!next)
+        return E_POINTER;
+    *next = id == DISPID_STARTENUM ? 1 : id + 1;
+    if (listsMembers_ && MemberOf(*next))
+        return S_OK;
+    *next = DISPID_UNKNOWN;
+    return S_FALSE;
+}
+
+HRESULT Dispatch::GetNameSpaceParent(IUnknown** parent)
+{
+    if (parent)
+        *parent = nullptr;
+    return E_NOTIMPL;
 }
 
 const Member* Dispatch::MemberOf(DISPID id) const

@@ -3,13 +3,20 @@
 #include "agenda/contracts/business_services.hpp"
 #include "component/windows/objects.hpp"
 
+#include <dispex.h>
+
 #include <vector>
 
 namespace kova::component {
 
-/// An object of ours as other programs see it: members by name, without regard to case. It is used in the
-/// thread that it was made in; elsewhere it is seen by what the system puts in its place there.
-class Dispatch : public IDispatch, public OwnObject {
+/// The system's own name for the interface that lists members; its libraries lack it.
+inline constexpr IID ListingId = {
+    0xa6ef9860, 0xc720, 0x11d0, {0x93, 0x37, 0x00, 0xa0, 0xc9, 0x0d, 0xca, 0xa9}};
+
+/// An object of ours as other programs see it: members by name, without regard to case unless a program asks
+/// for it, and listed. It is used in the thread that it was made in; elsewhere it is seen by what the system
+/// puts in its place there.
+class Dispatch : public IDispatchEx, public OwnObject {
 public:
     /// The one of the object, made where there is none yet. It keeps the object, and the library loaded.
     static Held<IDispatch> Of(const ObjectRef& object);
@@ -26,6 +33,17 @@ public:
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID interfaceId, LCID locale, WORD flags,
                                      DISPPARAMS* parameters, VARIANT* answer, EXCEPINFO* exception,
                                      UINT* wrongArgument) override;
+
+    HRESULT STDMETHODCALLTYPE GetDispID(BSTR name, DWORD how, DISPID* id) override;
+    HRESULT STDMETHODCALLTYPE InvokeEx(DISPID id, LCID locale, WORD flags, DISPPARAMS* parameters,
+                                       VARIANT* answer, EXCEPINFO* exception,
+                                       IServiceProvider* caller) override;
+    HRESULT STDMETHODCALLTYPE DeleteMemberByName(BSTR, DWORD) override { return S_FALSE; }
+    HRESULT STDMETHODCALLTYPE DeleteMemberByDispID(DISPID) override { return S_FALSE; }
+    HRESULT STDMETHODCALLTYPE GetMemberProperties(DISPID id, DWORD asked, DWORD* properties) override;
+    HRESULT STDMETHODCALLTYPE GetMemberName(DISPID id, BSTR* name) override;
+    HRESULT STDMETHODCALLTYPE GetNextDispID(DWORD how, DISPID id, DISPID* next) override;
+    HRESULT STDMETHODCALLTYPE GetNameSpaceParent(IUnknown** parent) override;
 
     ObjectRef Own() override { return object_; }
 

@@ -59,7 +59,7 @@ function families_of(header) {
         return "gtest"
     if (header ~ /^(sys\/[a-z]+|dlfcn|execinfo|link|netdb|poll|pwd|termios|unistd)\.h$/)
         return "posix"
-    if (header ~ /^(commctrl|initguid|io|knownfolders|lm|shellapi|shlobj|windows|winsock2|ws2tcpip)\.h$/)
+    if (header ~ /^(commctrl|dispex|initguid|io|knownfolders|lm|shellapi|shlobj|windows|winsock2|ws2tcpip)\.h$/)
         return "windows"
     if (header == "fcntl.h")
         return "posix windows"

@@ -1,4 +1,5 @@
 #include "agenda/contracts/text.hpp"
+#include "component/entry_names.hpp"
 #include "tests/unit/family/shop_fixture.hpp"
 
 #include "system/library.hpp"
@@ -24,7 +25,7 @@ protected:
     {
         ClassFactory* factory = nullptr;
         const std::string classId = host.registered.at(className);
-        Entry<DllGetClassObjectFunction>("DllGetClassObject")(classId.c_str(), &factory);
+        Entry<DllGetClassObjectFunction>(component::ClassesEntryPoint())(classId.c_str(), &factory);
         ComponentRef object;
         EXPECT_EQ(factory->CreateInstance(nullptr, &object), ServerStatus::Ok);
         return object;

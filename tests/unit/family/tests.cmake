@@ -1,5 +1,5 @@
 if(NOT KOVARIS_CORE_ONLY)
-    kovaris_test_program(test_family agenda_data_commands family_business test_postgres_server)
+    kovaris_test_program(test_family agenda_data_commands component family_business test_postgres_server)
     kovaris_precompile(test_family ${CMAKE_CURRENT_LIST_DIR}/shop_fixture.hpp)
     target_compile_definitions(test_family PRIVATE FAMILY_LIBRARY="$<TARGET_FILE:KOVA_N_Familia>")
     if(WIN32)

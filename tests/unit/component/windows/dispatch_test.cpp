@@ -36,6 +36,28 @@ template <class Type> VARIANT Reference(VARTYPE type, Type* variable)
     return variant;
 }
 
+/// A component that cannot tell its members, one of which is a property and one a method.
+class Silent : public Component {
+public:
+    Value Get(std::string_view member) override
+    {
+        if (member != "Nome")
+            throw Failure(FailureNumber::NoSuchMember);
+        return "Ana";
+    }
+    void Set(std::string_view member, const Value& value) override
+    {
+        written = Text(member) + value.ToText();
+    }
+    using Component::Call;
+    Value Call(std::string_view member, std::span<Argument> arguments) override
+    {
+        return Text(member) + std::to_string(arguments.size());
+    }
+
+    Text written;
+};
+
 class SeenFromOutside : public testing::Test {
 protected:
     ~SeenFromOutside() override
@@ -90,6 +112,53 @@ TEST_F(SeenFromOutside, MembersAreFoundWithoutRegardToCase)
     EXPECT_EQ(IdOf(*seen.Get(), L"CONTEÚDO"), id);
     EXPECT_NE(IdOf(*seen.Get(), L"moeda"), id);
     EXPECT_EQ(IdOf(*seen.Get(), L"Conteudo"), DISPID_UNKNOWN);
+}
+
+TEST_F(SeenFromOutside, MembersAreListedWithWhatCanBeDoneWithThem)
+{
+    const auto listing = seen.As<IDispatchEx>(ListingId);
+    ASSERT_TRUE(listing);
+    std::vector<Text> listed;
+    DISPID id = DISPID_STARTENUM;
+    while (listing->GetNextDispID(fdexEnumAll, id, &id) == S_OK) {
+        BSTR name = nullptr;
+        ASSERT_EQ(listing->GetMemberName(id, &name), S_OK);
+        DWORD properties = 0;
+        ASSERT_EQ(listing->GetMemberProperties(id, grfdexPropCanAll, &properties), S_OK);
+        listed.push_back(TextOf(name) + ((properties & fdexPropCanCall) != 0 ? "()" : "")
+                         + ((properties & fdexPropCanGet) != 0 ? " r" : "")
+                         + ((properties & fdexPropCanPut) != 0 ? " w" : ""));
+        ::SysFreeString(name);
+    }
+    EXPECT_EQ(listed,
+              (std::vector<Text>{"Devolver()", "Contar()", "Escrever()", "Preencher()", "Falhar()",
+                                 "Conteúdo r w", "Moeda r", "Senha w"}));
+}
+
+TEST_F(SeenFromOutside, MembersAreFoundWithTheirCaseWhereThatIsAskedFor)
+{
+    const auto listing = seen.As<IDispatchEx>(ListingId);
+    const OwnBstr exact("Conteúdo");
+    const OwnBstr small("conteúdo");
+    DISPID id = 0;
+    EXPECT_EQ(listing->GetDispID(exact.Get(), fdexNameCaseSensitive, &id), S_OK);
+    EXPECT_EQ(id, IdOf(*seen.Get(), L"Conteúdo"));
+    EXPECT_EQ(listing->GetDispID(small.Get(), fdexNameCaseSensitive, &id), DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(listing->GetDispID(small.Get(), fdexNameCaseInsensitive, &id), S_OK);
+}
+
+TEST_F(SeenFromOutside, MayBeHandedTheObjectItself)
+{
+    VARIANT passed[2] = {Plain(vault), Plain("um")};
+    DISPID self = DISPID_THIS;
+    DISPPARAMS parameters = {passed, &self, 2, 1};
+    const auto listing = seen.As<IDispatchEx>(ListingId);
+    EXPECT_EQ(listing->InvokeEx(IdOf(*seen.Get(), L"Contar"), LOCALE_USER_DEFAULT, DISPATCH_METHOD,
+                                &parameters, &answer, &exception, nullptr),
+              S_OK);
+    EXPECT_EQ(ValueOf(answer), Value(Long{1}));
+    for (VARIANT& variant : passed)
+        ::VariantClear(&variant);
 }
 
 TEST_F(SeenFromOutside, PropertiesAreReadAndWritten)
@@ -230,6 +299,20 @@ TEST_F(SeenFromOutside, ARecordSetHasItsMembersAndAFieldItsValue)
     EXPECT_EQ(Invoke(field, L"", DISPATCH_PROPERTYGET), S_OK);
     EXPECT_EQ(ValueOf(answer), Value("Rex"));
     EXPECT_EQ(ObjectOf(seenRecords.Get()), records.HeldObject());
+}
+
+TEST_F(SeenFromOutside, AComponentThatListsNoMembersIsAskedForEveryName)
+{
+    const auto silent = std::make_shared<Silent>();
+    const auto seenSilent = DispatchOf(silent);
+    EXPECT_EQ(Invoke(seenSilent, L"Nome", DISPATCH_PROPERTYGET | DISPATCH_METHOD), S_OK);
+    EXPECT_EQ(ValueOf(answer), Value("Ana"));
+    EXPECT_EQ(Invoke(seenSilent, L"Abrir", DISPATCH_METHOD), S_OK);
+    EXPECT_EQ(ValueOf(answer), Value("Abrir0"));
+    EXPECT_EQ(Invoke(seenSilent, L"Abrir", DISPATCH_PROPERTYGET | DISPATCH_METHOD, {Plain(Long{1})}), S_OK);
+    EXPECT_EQ(ValueOf(answer), Value("Abrir1"));
+    EXPECT_EQ(Invoke(seenSilent, L"Código", DISPATCH_PROPERTYPUT, {Plain(Long{7})}), S_OK);
+    EXPECT_EQ(silent->written, "Código7");
 }
 
 TEST_F(SeenFromOutside, KeepsTheLibraryAndTheObjectWhileItIsSeen)
