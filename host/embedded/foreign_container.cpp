@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <memory>
+
 namespace kova::host {
 
 namespace {
