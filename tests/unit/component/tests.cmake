@@ -24,11 +24,14 @@ if(WIN32)
     add_dependencies(test_late_binding installed_component)
     target_compile_definitions(test_late_binding PRIVATE INSTALLED_FOLDER="${installed}")
 
-    add_executable(any_apartment ${CMAKE_CURRENT_LIST_DIR}/platform/any_apartment.cpp)
-    target_compile_definitions(any_apartment PRIVATE UNICODE _WIN32_WINNT=0x0A00)
-    target_link_libraries(any_apartment PRIVATE ole32 oleaut32)
-    set_target_properties(any_apartment PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${installed})
-    add_dependencies(installed_component any_apartment)
+    # Programs that are not of the family. The shell shows a window: it needs a screen, and the application's platform.
+    foreach(program IN ITEMS any_apartment foreign_shell)
+        add_executable(${program} ${CMAKE_CURRENT_LIST_DIR}/platform/${program}.cpp)
+        target_compile_definitions(${program} PRIVATE UNICODE _WIN32_WINNT=0x0A00)
+        target_link_libraries(${program} PRIVATE ole32 oleaut32)
+        set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${installed})
+        add_dependencies(installed_component ${program})
+    endforeach()
 
     add_test(NAME Checks.ComponentLibrariesOfWindowsExportTheirEntryPointsOnly
              COMMAND ${CMAKE_SOURCE_DIR}/tests/checks/exports ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})

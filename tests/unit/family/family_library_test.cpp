@@ -64,7 +64,7 @@ TEST_F(FamilyLibrary, HasClassesThatListTheirMembersEachUnderOneName)
         std::set<std::string> names;
         for (const Member& member : Create(host, name)->Members())
             EXPECT_TRUE(names.insert(LowerCase(member.name)).second) << name << '.' << member.name;
-        EXPECT_GE(names.size(), 3U) << name;
+        EXPECT_FALSE(names.empty()) << name;
     }
     EXPECT_EQ(Attach(nullptr), 0);
 }
