@@ -13,8 +13,6 @@ namespace kova::component {
 
 namespace {
 
-constexpr std::string_view Source = "KOVARIS";
-
 std::atomic<long> held = 0;
 
 class ClassObject : public IClassFactory {
@@ -58,7 +56,7 @@ public:
             return object ? DispatchOf(object)->QueryInterface(interfaceId, made)
                           : static_cast<HRESULT>(status);
         } catch (const std::exception& error) {
-            return RaiseLast(AsFailure(error), Source);
+            return RaiseLast(AsFailure(error));
         }
     }
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override

@@ -15,11 +15,10 @@ namespace kova::component {
 
 namespace {
 
-constexpr std::string_view Source = "KOVARIS";
-
 std::map<Object*, Dispatch*>& Seen()
 {
-    static std::map<Object*, Dispatch*> seen;
+    // Never ended: a program may keep an object to its very end.
+    static auto& seen = *new std::map<Object*, Dispatch*>;
     return seen;
 }
 
@@ -140,7 +139,7 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID interfaceId, LCID, WORD flags, DISPPA
             Put(result, *answer);
         return S_OK;
     } catch (const std::exception& error) {
-        return Raise(AsFailure(error), Source, exception);
+        return Raise(AsFailure(error), exception);
     }
 }
 

@@ -5,11 +5,15 @@
 
 #include <limits>
 #include <optional>
+#include <string_view>
 #include <system_error>
 
 namespace kova::component {
 
 namespace {
+
+/// Where a failure comes from, for the caller's messages.
+constexpr std::string_view Source = "Kovaris";
 
 // The system's numbers for run-time failures of programs lie here.
 constexpr HRESULT RunTimeCodes = static_cast<HRESULT>(0x800A0000);
@@ -59,23 +63,23 @@ HRESULT CodeOf(const Failure& failure)
     return number > 0 && number <= std::numeric_limits<WORD>::max() ? RunTimeCodes | number : E_FAIL;
 }
 
-HRESULT Raise(const Failure& failure, std::string_view source, EXCEPINFO* exception)
+HRESULT Raise(const Failure& failure, EXCEPINFO* exception)
 {
     if (!exception)
         return CodeOf(failure);
     *exception = {};
     exception->scode = CodeOf(failure);
-    exception->bstrSource = BstrOf(source);
+    exception->bstrSource = BstrOf(Source);
     exception->bstrDescription = BstrOf(failure.Description());
     return DISP_E_EXCEPTION;
 }
 
-HRESULT RaiseLast(const Failure& failure, std::string_view source)
+HRESULT RaiseLast(const Failure& failure)
 {
     ICreateErrorInfo* made = nullptr;
     if (SUCCEEDED(::CreateErrorInfo(&made))) {
         const auto error = Held<ICreateErrorInfo>::Counted(made);
-        error->SetSource(OwnBstr(source).Get());
+        error->SetSource(OwnBstr(Source).Get());
         error->SetDescription(OwnBstr(failure.Description()).Get());
         ::SetErrorInfo(0, error.As<IErrorInfo>(IID_IErrorInfo).Get());
     }

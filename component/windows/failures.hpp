@@ -4,19 +4,17 @@
 
 #include <windows.h>
 
-#include <string_view>
-
 namespace kova::component {
 
 /// The code of a failure among the system's: a negative number is one itself, a small one stands in the place
 /// that the system keeps for the numbers of run-time failures.
 HRESULT CodeOf(const Failure& failure);
 
-/// Tells the caller of a member that failed. `source` names the class. Answers what the member has to answer.
-HRESULT Raise(const Failure& failure, std::string_view source, EXCEPINFO* exception);
+/// Tells the caller of a member that failed. Answers what the member has to answer.
+HRESULT Raise(const Failure& failure, EXCEPINFO* exception);
 
 /// Tells the caller of what is no member; whoever asks the system for the last failure gets its text.
-HRESULT RaiseLast(const Failure& failure, std::string_view source);
+HRESULT RaiseLast(const Failure& failure);
 
 /// What a member of another maker's object has answered, as a failure of ours with its number and its text.
 /// Takes over what the exception holds.

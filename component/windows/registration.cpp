@@ -103,13 +103,17 @@ LSTATUS UnregisterClasses(HKEY classesKey, const std::vector<ClassRegistration>&
     return worst;
 }
 
+bool ForAllElseForOne(const std::function<LSTATUS(HKEY root)>& write)
+{
+    const LSTATUS status = write(HKEY_LOCAL_MACHINE);
+    return (status == ERROR_ACCESS_DENIED ? write(HKEY_CURRENT_USER) : status) == ERROR_SUCCESS;
+}
+
 bool RegisterForSystem(const std::vector<ClassRegistration>& classes)
 {
-    const LSTATUS status = With(HKEY_LOCAL_MACHINE, RegisterClasses, classes);
-    if (status == ERROR_ACCESS_DENIED)
-        return With(HKEY_CURRENT_USER, RegisterClasses, classes) == ERROR_SUCCESS;
-    // What this user had registered for himself would go before it.
-    return status == ERROR_SUCCESS && With(HKEY_CURRENT_USER, UnregisterClasses, classes) == ERROR_SUCCESS;
+    // What this user has registered for himself would go before what all have.
+    return With(HKEY_CURRENT_USER, UnregisterClasses, classes) == ERROR_SUCCESS
+        && ForAllElseForOne([&](HKEY root) { return With(root, RegisterClasses, classes); });
 }
 
 bool UnregisterForSystem(const std::vector<ClassRegistration>& classes)

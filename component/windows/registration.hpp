@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <vector>
 
 namespace kova::component {
@@ -16,7 +17,11 @@ LSTATUS RegisterClasses(HKEY classesKey, const std::vector<ClassRegistration>& c
 /// Takes everything out that RegisterClasses has written. What is not there is no failure.
 LSTATUS UnregisterClasses(HKEY classesKey, const std::vector<ClassRegistration>& classes);
 
-/// The same for all users of the computer; where that is not allowed, for this one. Taking out goes for both.
+/// Writes for all users of the computer; where that is not allowed, for this one. `write` is handed the root
+/// of either and answers the system's code. False where it fails.
+bool ForAllElseForOne(const std::function<LSTATUS(HKEY root)>& write);
+
+/// The classes in the system's own place for them. Taking out goes for all users and for this one.
 bool RegisterForSystem(const std::vector<ClassRegistration>& classes);
 bool UnregisterForSystem(const std::vector<ClassRegistration>& classes);
 

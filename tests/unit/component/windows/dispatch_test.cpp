@@ -176,7 +176,7 @@ TEST_F(SeenFromOutside, FailuresComeAsExceptionsWithNumberAndText)
     EXPECT_EQ(Call(L"Falhar", {Plain(Long{3265}), Plain("O campo não existe")}), DISP_E_EXCEPTION);
     EXPECT_EQ(exception.scode, static_cast<SCODE>(0x800A0000 + 3265));
     EXPECT_STREQ(exception.bstrDescription, L"O campo não existe");
-    EXPECT_STREQ(exception.bstrSource, L"KOVARIS");
+    EXPECT_STREQ(exception.bstrSource, L"Kovaris");
 }
 
 TEST_F(SeenFromOutside, AFailureWithACodeOfTheSystemKeepsIt)

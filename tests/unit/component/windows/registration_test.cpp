@@ -59,6 +59,25 @@ TEST_F(Registration, NamesTheLibraryOfEachClassAndTheRuleOfThreads)
     EXPECT_EQ(Text(L"CLSID\\{5B0E7E52-6B0C-4E0B-9E57-0C6A2C3D4E01}\\ProgID"), L"KOVA_T_Cofre.clsCofre");
 }
 
+TEST_F(Registration, GoesForThisUserAloneWhereItMayNotGoForAll)
+{
+    std::vector<HKEY> roots;
+    const auto writing = [&](LSTATUS forAll, LSTATUS forOne) {
+        roots.clear();
+        return ForAllElseForOne([&, forAll, forOne](HKEY root) {
+            roots.push_back(root);
+            return root == HKEY_LOCAL_MACHINE ? forAll : forOne;
+        });
+    };
+    EXPECT_TRUE(writing(ERROR_SUCCESS, ERROR_ACCESS_DENIED));
+    EXPECT_EQ(roots, (std::vector<HKEY>{HKEY_LOCAL_MACHINE}));
+    EXPECT_TRUE(writing(ERROR_ACCESS_DENIED, ERROR_SUCCESS));
+    EXPECT_EQ(roots, (std::vector<HKEY>{HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}));
+    EXPECT_FALSE(writing(ERROR_ACCESS_DENIED, ERROR_ACCESS_DENIED));
+    EXPECT_FALSE(writing(ERROR_DISK_FULL, ERROR_SUCCESS));
+    EXPECT_EQ(roots, (std::vector<HKEY>{HKEY_LOCAL_MACHINE}));
+}
+
 TEST_F(Registration, LeavesNothingOfItsOwnBehindAndEverythingElse)
 {
     HKEY other = nullptr;
