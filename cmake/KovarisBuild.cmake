@@ -38,6 +38,31 @@ if(MINGW)
     string(APPEND CMAKE_EXE_LINKER_FLAGS " \"${CMAKE_BINARY_DIR}/program_resources.o\"")
 endif()
 
+if(MINGW)
+    enable_language(RC)
+endif()
+
+# What Windows tells of the program's file: kovaris_describe_program(TARGET DESCRIPTION [ICON_FILE]).
+function(kovaris_describe_program target description)
+    if(NOT MINGW)
+        return()
+    endif()
+    set(version ${PROJECT_VERSION})
+    string(REGEX MATCHALL "[0-9]+" numbers ${version}.0.0.0)
+    list(SUBLIST numbers 0 4 numbers)
+    list(JOIN numbers "," numbers)
+    set(icon)
+    set(file ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
+    if(ARGN)
+        set(icon "1 ICON \"${ARGN}\"")
+        set_source_files_properties(${file} PROPERTIES OBJECT_DEPENDS ${ARGN})
+    endif()
+    configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/version.rc.in ${file} @ONLY)
+    # Its texts are UTF-8.
+    set_source_files_properties(${file} PROPERTIES COMPILE_OPTIONS "-c;65001")
+    target_sources(${target} PRIVATE ${file})
+endfunction()
+
 # The libraries that are loaded from there too, once they are built.
 if(MINGW AND NOT KOVARIS_CORE_ONLY)
     file(GLOB windows_libraries CONFIGURE_DEPENDS ${KOVARIS_WINDOWS_PREFIX}/bin/*.dll)
