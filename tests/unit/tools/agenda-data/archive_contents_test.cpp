@@ -14,6 +14,7 @@
 #include "tests/support/sqlite_file.hpp"
 #include "tests/support/statement_watch.hpp"
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <regex>
@@ -181,7 +182,7 @@ TEST_F(RoomOfTheShop, IsNotGivenBackWhereTheDiskIsFullInTheMidstOfIt)
     if (kova::test::TestsRunOnServer())
         return;
     {
-        const kova::test::SmallFiles files(rlim_t{2} << 20U);
+        const kova::test::SmallFiles files(std::uint64_t{2} << 20U);
         Archive();
     }
     EXPECT_EQ(
