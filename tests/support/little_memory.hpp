@@ -1,9 +1,6 @@
 #pragma once
 
-#include <sys/resource.h>
-#include <unistd.h>
-
-#include <fstream>
+#include <memory>
 
 namespace kova::test {
 
@@ -11,16 +8,8 @@ namespace kova::test {
 /// too little for what looks at a password or keeps one.
 class LittleMemory {
 public:
-    LittleMemory()
-    {
-        constexpr rlim_t More = rlim_t{32} << 20U;
-        rlim_t pages = 0;
-        std::ifstream("/proc/self/statm") >> pages;
-        getrlimit(RLIMIT_AS, &former_);
-        const rlimit little{pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + More, former_.rlim_max};
-        setrlimit(RLIMIT_AS, &little);
-    }
-    ~LittleMemory() { setrlimit(RLIMIT_AS, &former_); }
+    LittleMemory();
+    ~LittleMemory();
     LittleMemory(const LittleMemory&) = delete;
     LittleMemory& operator=(const LittleMemory&) = delete;
 
@@ -30,7 +19,8 @@ public:
         "Feche outros programas e tente novamente.";
 
 private:
-    rlimit former_{};
+    struct Former;
+    std::unique_ptr<Former> former_;
 };
 
 } // namespace kova::test

@@ -1,3 +1,4 @@
+#include "component/entry_names.hpp"
 #include "host/components/component_error.hpp"
 #include "host/components/component_library.hpp"
 #include "tests/unit/host/components/host_fixture.hpp"
@@ -119,7 +120,9 @@ TEST_F(LibraryCacheTest, SaysWhichEntryPointIsMissing)
     const std::string path =
         system::TextOf(std::filesystem::canonical(system::PathOf(TEST_COMPONENT_INCOMPLETE)));
     const std::string error = ErrorOf([&] { libraries.Load(path); });
-    EXPECT_TRUE(Contains(error, "falta o ponto de entrada 'DllGetClassObject'")) << error;
+    EXPECT_TRUE(
+        Contains(error, "falta o ponto de entrada '" + std::string(component::ClassesEntryPoint()) + "'"))
+        << error;
     EXPECT_TRUE(Contains(error, path)) << error;
 }
 

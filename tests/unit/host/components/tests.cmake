@@ -3,7 +3,7 @@
 set(component_test_libraries ${CMAKE_CURRENT_LIST_DIR}/libraries)
 kovaris_component_library(test_component ${component_test_libraries}/test_component.cpp)
 target_link_libraries(test_component PRIVATE contracts)
-kovaris_loaded_library(test_component_refusing component_library.exports
+kovaris_loaded_library(test_component_refusing ${component_library_exports}
                        ${component_test_libraries}/refusing.cpp)
 target_link_libraries(test_component_refusing PRIVATE contracts)
 add_library(test_component_incomplete SHARED ${component_test_libraries}/incomplete.cpp)

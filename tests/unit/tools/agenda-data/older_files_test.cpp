@@ -4,6 +4,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/file_connection.hpp"
 #include "family/data/sources/file_migration.hpp"
+#include "system/path_text.hpp"
 
 #include <filesystem>
 #include <map>
@@ -27,7 +28,7 @@ protected:
     OlderFiles()
     {
         WriteFile(File("tipos.csv"), "Nome\nBanho\n");
-        std::filesystem::create_directory(File("pasta"));
+        std::filesystem::create_directory(system::PathOf(File("pasta")));
         family::Database database(family::SqliteDialect(), family::FileConnection(older_), older_);
         family::Migrate(database.Session(), family::SqliteDialect(),
                         family::CurrentMigrations().first(static_cast<std::size_t>(Newest) - 1));
@@ -112,14 +113,14 @@ TEST_F(OlderFiles, AreBroughtUpToDateByWhatWritesWhichSaysSoAndWhereTheCopyLies)
         for (const Words& words : lines.writing) {
             RunCommand(name, words);
             EXPECT_EQ(VersionOf(older_), Newest) << name;
-            ASSERT_TRUE(std::filesystem::exists(copy_)) << name;
+            ASSERT_TRUE(std::filesystem::exists(system::PathOf(copy_))) << name;
             EXPECT_EQ(VersionOf(copy_), Newest - 1) << name;
             EXPECT_NE((name == "migrate" ? Output() : Error()).find(told), std::string::npos)
                 << name << ": " << Output() << Error();
 
             RunCommand(name, words);
             EXPECT_EQ((Output() + Error()).find("atualizado"), std::string::npos) << name;
-            std::filesystem::remove(copy_);
+            std::filesystem::remove(system::PathOf(copy_));
             WriteFile(older_, before);
         }
     }
@@ -132,7 +133,7 @@ TEST_F(OlderFiles, AreLeftAsTheyAreByWhatOnlyLooks)
         for (const Words& words : lines.looking) {
             RunCommand(name, words);
             EXPECT_EQ(ContentOf(older_), before) << name;
-            EXPECT_FALSE(std::filesystem::exists(copy_)) << name;
+            EXPECT_FALSE(std::filesystem::exists(system::PathOf(copy_))) << name;
             EXPECT_EQ((Output() + Error()).find("atualizado"), std::string::npos) << name;
         }
     }
