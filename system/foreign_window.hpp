@@ -23,6 +23,12 @@ public:
     virtual ~ForeignWindow() = default;
     virtual int Width() const = 0;
     virtual int Height() const = 0;
+
+    /// The window of that number fills this one from now on: it gets the keyboard whenever this one does, and
+    /// every key, where the program hands them out among its controls.
+    virtual void Hold(std::int64_t inner) = 0;
+    /// Keeps the user out of the whole window of the program's that this one is a part of, or lets him back.
+    virtual void Block(bool blocks) = 0;
 };
 
 } // namespace kova::system

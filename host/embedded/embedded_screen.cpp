@@ -24,7 +24,8 @@ void BeginApplication()
     static int count = 1;
     static char name[] = "kovaris";
     static char* words[] = {name, nullptr};
-    // The program ends when its own windows close.
+    // How the program is scaled is for itself to say, and when it ends.
+    QCoreApplication::setAttribute(Qt::AA_PluginApplication);
     auto* application = new QApplication(count, words);
     QApplication::setQuitOnLastWindowClosed(false);
     qt::ApplyLook(*application, qt::LookOfDesktop(*application));

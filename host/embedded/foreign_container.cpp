@@ -2,6 +2,7 @@
 
 #include "system/foreign_window.hpp"
 
+#include <QEvent>
 #include <QHash>
 #include <QWidget>
 #include <QWindow>
@@ -31,6 +32,7 @@ public:
     {
         Containers().remove(number_);
         // The system takes the windows within a window along with it.
+        hide();
         if (windowHandle())
             windowHandle()->setParent(nullptr);
     }
@@ -41,9 +43,20 @@ public:
     {
         Containers().insert(number_, this);
         winId();
-        windowHandle()->setParent(QWindow::fromWinId(static_cast<WId>(number_)));
+        around_.reset(QWindow::fromWinId(static_cast<WId>(number_)));
+        windowHandle()->setParent(around_.get());
+        window_->Hold(static_cast<Long>(winId()));
         Fill(window_->Width(), window_->Height());
         show();
+    }
+
+protected:
+    // A form that keeps the user to itself keeps him out of the program's window, too.
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked)
+            window_->Block(event->type() == QEvent::WindowBlocked);
+        return QWidget::event(event);
     }
 
 private:
@@ -55,6 +68,7 @@ private:
 
     const Long number_;
     std::unique_ptr<system::ForeignWindow> window_;
+    std::unique_ptr<QWindow> around_;
 };
 
 } // namespace
