@@ -8,6 +8,9 @@ namespace kova::component {
 
 namespace {
 
+/// More than any screen or import has; an index far from 0 would be as many elements.
+constexpr LONGLONG MostElements = 1 << 24;
+
 void Require(HRESULT status)
 {
     if (status == E_OUTOFMEMORY)
@@ -33,6 +36,8 @@ Bounds BoundsOf(SAFEARRAY* array)
     }
     if (std::min(bounds.lower[0], bounds.lower[1]) < 0)
         throw Failure(FailureNumber::IndexOutOfRange);
+    if ((LONGLONG{bounds.upper[0]} + 1) * (LONGLONG{bounds.upper[1]} + 1) > MostElements)
+        throw Failure(FailureNumber::OutOfMemory);
     return bounds;
 }
 
@@ -105,7 +110,10 @@ void CopyInto(SAFEARRAY*& to, const Array& from)
     if (!HasSameBounds(from, bounds)) {
         Require(type == VT_VARIANT ? S_OK : DISP_E_TYPEMISMATCH);
         SAFEARRAY* copy = SafeArrayOf(from);
-        Require(::SafeArrayDestroy(to));
+        const HRESULT status = ::SafeArrayDestroy(to);
+        if (FAILED(status))
+            ::SafeArrayDestroy(copy);
+        Require(status);
         to = copy;
         return;
     }

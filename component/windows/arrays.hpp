@@ -8,7 +8,7 @@ namespace kova::component {
 
 /// The system's arrays with two dimensions. Indexes stay what they are: of one that is counted from 1 the
 /// elements 0 are Empty. Fails with 13 on another count of dimensions and on elements without a counterpart,
-/// with 9 on one that is counted from below 0.
+/// with 9 on one that is counted from below 0, with 7 where counting from 0 would make it enormous.
 ArrayRef ArrayOf(SAFEARRAY* array);
 
 /// An array of variants, the caller's own. Fails with 7.

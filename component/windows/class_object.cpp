@@ -1,6 +1,5 @@
 #include "component/windows/class_object.hpp"
 
-#include "agenda/contracts/foreign_failure.hpp"
 #include "agenda/contracts/support/component_library.hpp"
 #include "component/windows/failures.hpp"
 #include "component/windows/objects.hpp"
@@ -55,8 +54,8 @@ public:
             const ServerStatus status = factory_.CreateInstance(nullptr, &object);
             return object ? DispatchOf(object)->QueryInterface(interfaceId, made)
                           : static_cast<HRESULT>(status);
-        } catch (const std::exception& error) {
-            return RaiseLast(AsFailure(error));
+        } catch (...) {
+            return RaiseLast(CaughtFailure());
         }
     }
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override

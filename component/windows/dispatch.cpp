@@ -1,6 +1,5 @@
 #include "component/windows/dispatch.hpp"
 
-#include "agenda/contracts/foreign_failure.hpp"
 #include "agenda/contracts/support/component_library.hpp"
 #include "agenda/contracts/text.hpp"
 #include "component/record_set_component.hpp"
@@ -108,19 +107,23 @@ HRESULT Dispatch::GetIDsOfNames(REFIID interfaceId, LPOLESTR* names, UINT count,
 {
     if (!IsEqualIID(interfaceId, IID_NULL))
         return DISP_E_UNKNOWNINTERFACE;
-    if (!names || !ids || count == 0)
+    if (!names || !ids || count == 0 || !names[0])
         return E_INVALIDARG;
+    if (IsElsewhere())
+        return RPC_E_WRONG_THREAD;
     // The first is the member's, the others would be its arguments'.
     for (UINT at = 0; at < count; ++at)
         ids[at] = DISPID_UNKNOWN;
-    ids[0] = IdOf(system::Narrow(names[0]));
-    return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
+    return Guarded([&] {
+        ids[0] = IdOf(system::Narrow(names[0]));
+        return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
+    });
 }
 
 HRESULT Dispatch::Invoke(DISPID id, REFIID interfaceId, LCID, WORD flags, DISPPARAMS* parameters,
                          VARIANT* answer, EXCEPINFO* exception, UINT*)
 {
-    if (::GetCurrentThreadId() != thread_)
+    if (IsElsewhere())
         return RPC_E_WRONG_THREAD;
     if (!IsEqualIID(interfaceId, IID_NULL))
         return DISP_E_UNKNOWNINTERFACE;
@@ -138,8 +141,8 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID interfaceId, LCID, WORD flags, DISPPA
         if (answer)
             Put(result, *answer);
         return S_OK;
-    } catch (const std::exception& error) {
-        return Raise(AsFailure(error), exception);
+    } catch (...) {
+        return Raise(CaughtFailure(), exception);
     }
 }
 
@@ -147,11 +150,15 @@ HRESULT Dispatch::GetDispID(BSTR name, DWORD how, DISPID* id)
 {
     if (!name || !id)
         return E_INVALIDARG;
-    const Text wanted = TextOf(name);
-    *id = IdOf(wanted);
-    if (*id != DISPID_UNKNOWN && (how & fdexNameCaseSensitive) != 0 && MemberOf(*id)->name != wanted)
-        *id = DISPID_UNKNOWN;
-    return *id == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
+    if (IsElsewhere())
+        return RPC_E_WRONG_THREAD;
+    return Guarded([&] {
+        const Text wanted = TextOf(name);
+        *id = IdOf(wanted);
+        if (*id != DISPID_UNKNOWN && (how & fdexNameCaseSensitive) != 0 && MemberOf(*id)->name != wanted)
+            *id = DISPID_UNKNOWN;
+        return *id == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
+    });
 }
 
 HRESULT Dispatch::InvokeEx(DISPID id, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* answer,
@@ -196,8 +203,10 @@ HRESULT Dispatch::GetMemberName(DISPID id, BSTR* name)
     const Member* member = MemberOf(id);
     if (!member)
         return DISP_E_MEMBERNOTFOUND;
-    *name = BstrOf(member->name);
-    return S_OK;
+    return Guarded([&] {
+        *name = BstrOf(member->name);
+        return S_OK;
+    });
 }
 
 HRESULT Dispatch::GetNextDispID(DWORD, DISPID id, DISPID* next)
@@ -217,6 +226,8 @@ HRESULT Dispatch::GetNameSpaceParent(IUnknown** parent)
         *parent = nullptr;
     return E_NOTIMPL;
 }
+
+bool Dispatch::IsElsewhere() const { return ::GetCurrentThreadId() != thread_; }
 
 const Member* Dispatch::MemberOf(DISPID id) const
 {

@@ -5,13 +5,10 @@
 
 #include <dispex.h>
 
+#include <atomic>
 #include <vector>
 
 namespace kova::component {
-
-/// The system's own name for the interface that lists members; its libraries lack it.
-inline constexpr IID ListingId = {
-    0xa6ef9860, 0xc720, 0x11d0, {0x93, 0x37, 0x00, 0xa0, 0xc9, 0x0d, 0xca, 0xa9}};
 
 /// An object of ours as other programs see it: members by name, without regard to case unless a program asks
 /// for it, and listed. It is used in the thread that it was made in; elsewhere it is seen by what the system
@@ -51,11 +48,12 @@ private:
     explicit Dispatch(ObjectRef object);
     virtual ~Dispatch();
 
+    bool IsElsewhere() const;
     const Member* MemberOf(DISPID id) const;
     DISPID IdOf(std::string_view name);
     Value Act(const Member& member, WORD flags, const DISPPARAMS& parameters);
 
-    ULONG references_ = 0;
+    std::atomic<ULONG> references_ = 0;
     DWORD thread_;
     ObjectRef object_;
     /// The object itself, or what stands for a record set; null where the object has no members.

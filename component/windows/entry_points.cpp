@@ -3,6 +3,7 @@
 
 #include "agenda/contracts/support/component_library.hpp"
 #include "component/windows/class_object.hpp"
+#include "component/windows/failures.hpp"
 #include "component/windows/objects.hpp"
 #include "component/windows/own_host.hpp"
 #include "component/windows/registration.hpp"
@@ -10,6 +11,7 @@
 #include "system/program_path.hpp"
 
 using kova::ServedLibrary;
+using kova::component::Guarded;
 
 namespace {
 
@@ -53,16 +55,20 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID interfaceId, void** found)
     if (!found)
         return E_POINTER;
     *found = nullptr;
-    const auto classObject = kova::component::ClassObjectOf(classId);
-    return classObject ? classObject->QueryInterface(interfaceId, found) : CLASS_E_CLASSNOTAVAILABLE;
+    return Guarded([&] {
+        const auto classObject = kova::component::ClassObjectOf(classId);
+        return classObject ? classObject->QueryInterface(interfaceId, found) : CLASS_E_CLASSNOTAVAILABLE;
+    });
 }
 
 STDAPI DllCanUnloadNow()
 {
-    if (kova::component::ClassObjects() > 0 || ServedLibrary::Get().CanUnloadNow() != S_OK
-        || !kova::component::LetGoOfOwnHost())
-        return S_FALSE;
-    return kova::component::ForeignObjects() == 0 ? S_OK : S_FALSE;
+    return Guarded([] {
+        if (kova::component::ClassObjects() > 0 || ServedLibrary::Get().CanUnloadNow() != S_OK
+            || !kova::component::LetGoOfOwnHost())
+            return S_FALSE;
+        return kova::component::ForeignObjects() == 0 ? S_OK : S_FALSE;
+    });
 }
 
 STDAPI DllRegisterServer()

@@ -1,5 +1,6 @@
 #include "component/windows/failures.hpp"
 
+#include "agenda/contracts/foreign_failure.hpp"
 #include "component/windows/held.hpp"
 #include "component/windows/variants.hpp"
 
@@ -42,6 +43,16 @@ std::int32_t NumberIn(HRESULT code)
     return isRunTime ? code & 0xFFFF : code;
 }
 
+/// Null where there is no room for it.
+BSTR TriedBstr(std::string_view text)
+{
+    try {
+        return BstrOf(text);
+    } catch (const std::exception&) {
+        return nullptr;
+    }
+}
+
 /// Everything of what was raised, given back at the end of its scope.
 struct OwnedTexts {
     EXCEPINFO& exception;
@@ -63,14 +74,25 @@ HRESULT CodeOf(const Failure& failure)
     return number > 0 && number <= std::numeric_limits<WORD>::max() ? RunTimeCodes | number : E_FAIL;
 }
 
+Failure CaughtFailure()
+{
+    try {
+        throw;
+    } catch (const std::exception& error) {
+        return AsFailure(error);
+    } catch (...) {
+        return Failure(FailureNumber::InvalidArgument);
+    }
+}
+
 HRESULT Raise(const Failure& failure, EXCEPINFO* exception)
 {
     if (!exception)
         return CodeOf(failure);
     *exception = {};
     exception->scode = CodeOf(failure);
-    exception->bstrSource = BstrOf(Source);
-    exception->bstrDescription = BstrOf(failure.Description());
+    exception->bstrSource = TriedBstr(Source);
+    exception->bstrDescription = TriedBstr(failure.Description());
     return DISP_E_EXCEPTION;
 }
 
@@ -93,7 +115,9 @@ Failure FailureOf(HRESULT status, EXCEPINFO& exception)
         return FailureOf(status);
     if (exception.pfnDeferredFillIn)
         exception.pfnDeferredFillIn(&exception);
-    const std::int32_t number = exception.wCode != 0 ? exception.wCode : NumberIn(exception.scode);
+    std::int32_t number = exception.wCode != 0 ? exception.wCode : NumberIn(exception.scode);
+    if (number == 0)
+        number = E_FAIL;
     const Text description = TextOf(exception.bstrDescription);
     return description.empty() ? Failure(number, FailureOf(exception.scode).Description())
                                : Failure(number, description);

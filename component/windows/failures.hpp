@@ -10,6 +10,19 @@ namespace kova::component {
 /// that the system keeps for the numbers of run-time failures.
 HRESULT CodeOf(const Failure& failure);
 
+/// What has been caught, whatever it is, as a failure of ours. To be asked where something was.
+Failure CaughtFailure();
+
+/// Answers what `act` does; the code of the failure that ends it otherwise.
+template <class Act> HRESULT Guarded(Act act)
+{
+    try {
+        return act();
+    } catch (...) {
+        return CodeOf(CaughtFailure());
+    }
+}
+
 /// Tells the caller of a member that failed. Answers what the member has to answer.
 HRESULT Raise(const Failure& failure, EXCEPINFO* exception);
 

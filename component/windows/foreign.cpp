@@ -3,6 +3,7 @@
 #include "component/windows/failures.hpp"
 #include "component/windows/foreign_component.hpp"
 #include "component/windows/foreign_record_set.hpp"
+#include "component/windows/objects.hpp"
 #include "component/windows/passed_arguments.hpp"
 #include "component/windows/variants.hpp"
 #include "system/windows/wide_text.hpp"
@@ -27,11 +28,21 @@ Known& TheKnown()
     return known;
 }
 
+HRESULT IdIn(const Held<IDispatch>& dispatch, const Held<IDispatchEx>& listing, std::wstring name, DISPID& id)
+{
+    wchar_t* asked = name.data();
+    if (!listing)
+        return dispatch->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id);
+    BSTR text = ::SysAllocString(asked);
+    const HRESULT status = listing->GetDispID(text, fdexNameCaseInsensitive, &id);
+    ::SysFreeString(text);
+    return status;
+}
+
 bool HasMember(const Held<IDispatch>& dispatch, const wchar_t* name)
 {
-    auto* asked = const_cast<wchar_t*>(name);
     DISPID id = 0;
-    return SUCCEEDED(dispatch->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id));
+    return SUCCEEDED(IdIn(dispatch, dispatch.As<IDispatchEx>(ListingId), name, id));
 }
 
 bool IsRecordSet(const Held<IDispatch>& dispatch)
@@ -50,15 +61,20 @@ Failure NoSuchMember(std::string_view member)
 
 } // namespace
 
-Foreign::Foreign(Held<IDispatch> dispatch) : dispatch_(std::move(dispatch)), thread_(::GetCurrentThreadId())
+Foreign::Foreign(Held<IDispatch> dispatch)
+    : dispatch_(std::move(dispatch)),
+      listing_(dispatch_.As<IDispatchEx>(ListingId)),
+      thread_(::GetCurrentThreadId())
 {
     ++TheKnown().count;
 }
 
 Foreign::~Foreign()
 {
-    if (ended || ::GetCurrentThreadId() != thread_)
+    if (ended || ::GetCurrentThreadId() != thread_) {
         dispatch_.Release();
+        listing_.Release();
+    }
     if (!ended)
         --TheKnown().count;
 }
@@ -67,38 +83,29 @@ long Foreign::Count() { return TheKnown().count; }
 
 Value Foreign::Read(std::string_view member) const
 {
-    return Invoke(member, DISPATCH_PROPERTYGET | DISPATCH_METHOD, {});
+    return InvokeByEither(member, DISPATCH_PROPERTYGET, DISPATCH_METHOD, {});
 }
 
 void Foreign::Write(std::string_view member, const Value& value) const
 {
     Argument argument = value;
-    if (value.GetType() == ValueType::Object)
-        try {
-            Invoke(member, DISPATCH_PROPERTYPUTREF, {&argument, 1});
-            return;
-        } catch (const Failure& failure) {
-            // Many take objects as they take everything else.
-            if (failure.Number() != static_cast<std::int32_t>(FailureNumber::NoSuchMember))
-                throw;
-        }
-    Invoke(member, DISPATCH_PROPERTYPUT, {&argument, 1});
+    const WORD first = value.GetType() == ValueType::Object ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT;
+    // Many take objects as they take everything else.
+    InvokeByEither(member, first, DISPATCH_PROPERTYPUT, {&argument, 1});
 }
 
 Value Foreign::Run(std::string_view member, std::span<Argument> arguments) const
 {
-    return Invoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments);
+    return InvokeByEither(member, DISPATCH_METHOD, DISPATCH_PROPERTYGET, arguments);
 }
 
 DISPID Foreign::IdOf(std::string_view member) const
 {
     if (const auto known = ids_.find(member); known != ids_.end())
         return known->second;
-    std::wstring name = system::Wide(member);
-    wchar_t* asked = name.data();
     DISPID id = 0;
-    const HRESULT status = dispatch_->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id);
-    if (status == DISP_E_UNKNOWNNAME)
+    const HRESULT status = IdIn(dispatch_, listing_, system::Wide(member), id);
+    if (status == DISP_E_UNKNOWNNAME || status == DISP_E_MEMBERNOTFOUND)
         throw NoSuchMember(member);
     if (FAILED(status))
         throw FailureOf(status);
@@ -106,22 +113,33 @@ DISPID Foreign::IdOf(std::string_view member) const
     return id;
 }
 
-Value Foreign::Invoke(std::string_view member, WORD flags, std::span<Argument> arguments) const
+Value Foreign::InvokeByEither(std::string_view member, WORD first, WORD second,
+                              std::span<Argument> arguments) const
 {
     if (::GetCurrentThreadId() != thread_)
         throw FailureOf(RPC_E_WRONG_THREAD);
     const DISPID id = IdOf(member);
+    for (const WORD flags : {first, second})
+        if (const auto answer = Invoke(id, flags, arguments))
+            return *answer;
+    throw NoSuchMember(member);
+}
+
+std::optional<Value> Foreign::Invoke(DISPID id, WORD flags, std::span<Argument> arguments) const
+{
     PassedArguments passed(arguments);
     DISPID written = DISPID_PROPERTYPUT;
     const bool isWrite = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
     DISPPARAMS parameters = {passed.First(), isWrite ? &written : nullptr, passed.Count(), isWrite ? 1U : 0U};
     Variant answer;
     EXCEPINFO exception = {};
-    UINT wrongArgument = 0;
-    const HRESULT status = dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
-                                             isWrite ? nullptr : &answer, &exception, &wrongArgument);
+    VARIANT* const result = isWrite ? nullptr : &answer;
+    const HRESULT status = listing_
+        ? listing_->InvokeEx(id, LOCALE_USER_DEFAULT, flags, &parameters, result, &exception, nullptr)
+        : dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result, &exception,
+                            nullptr);
     if (status == DISP_E_MEMBERNOTFOUND)
-        throw NoSuchMember(member);
+        return std::nullopt;
     if (FAILED(status))
         throw FailureOf(status, exception);
     passed.WriteBack();

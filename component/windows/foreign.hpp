@@ -3,7 +3,10 @@
 #include "agenda/contracts/business_services.hpp"
 #include "component/windows/held.hpp"
 
+#include <dispex.h>
+
 #include <map>
+#include <optional>
 
 namespace kova::component {
 
@@ -29,9 +32,15 @@ protected:
 
 private:
     DISPID IdOf(std::string_view member) const;
-    Value Invoke(std::string_view member, WORD flags, std::span<Argument> arguments) const;
+    /// Objects are strict in what they may be asked for as what.
+    Value InvokeByEither(std::string_view member, WORD first, WORD second,
+                         std::span<Argument> arguments) const;
+    /// Nothing where it has no such member to be used that way.
+    std::optional<Value> Invoke(DISPID id, WORD flags, std::span<Argument> arguments) const;
 
     Held<IDispatch> dispatch_;
+    /// Null where the object has none. Some objects of script hosts have nothing but this.
+    Held<IDispatchEx> listing_;
     DWORD thread_;
     mutable std::map<Text, DISPID, std::less<>> ids_;
 };

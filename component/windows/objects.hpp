@@ -18,6 +18,10 @@ ObjectRef ObjectOf(IUnknown* object);
 long SeenObjects();
 long ForeignObjects();
 
+/// The system's own name for the interface that lists members; its libraries lack it.
+inline constexpr IID ListingId = {
+    0xa6ef9860, 0xc720, 0x11d0, {0x93, 0x37, 0x00, 0xa0, 0xc9, 0x0d, 0xca, 0xa9}};
+
 /// By what an object of ours is known from others, whichever library of the family has made it. Libraries
 /// that lie side by side are made together, so that they mean the same by an object.
 class OwnObject : public IUnknown {

@@ -18,43 +18,37 @@ VARIANT ReferenceTo(Variant& held, bool asVariant)
     return reference;
 }
 
-/// What a variant by reference may itself refer to.
-VARIANT Resolved(const VARIANT& variant)
-{
-    return variant.vt == (VT_BYREF | VT_VARIANT) ? *variant.pvarVal : variant;
-}
-
 /// Where an array lies that the callee may write into; null where there is none.
 SAFEARRAY** ArrayIn(const VARIANT& variant)
 {
     if ((variant.vt & VT_BYREF) == 0)
         return nullptr;
-    const bool isOuter = variant.vt == (VT_BYREF | VT_VARIANT);
-    VARIANT& inner = isOuter ? *variant.pvarVal : const_cast<VARIANT&>(variant);
-    if ((inner.vt & VT_ARRAY) == 0)
-        return nullptr;
-    return (inner.vt & VT_BYREF) != 0 ? inner.pparray : &inner.parray;
+    const Variable variable = VariableOf(variant);
+    if ((variable.type & VT_ARRAY) != 0)
+        return static_cast<SAFEARRAY**>(variable.place);
+    auto* any = variable.type == VT_VARIANT ? static_cast<VARIANT*>(variable.place) : nullptr;
+    return any && (any->vt & VT_ARRAY) != 0 ? &any->parray : nullptr;
 }
 
 Argument ReceivedArgument(const VARIANT& variant)
 {
-    if ((variant.vt & VT_BYREF) == 0 || (variant.vt & VT_ARRAY) != 0)
+    if ((variant.vt & VT_BYREF) == 0)
         return ValueOf(variant);
-    VARTYPE type = static_cast<VARTYPE>(variant.vt & ~VT_BYREF);
-    void* place = variant.byref;
-    // A variant by reference may refer to a variable with a type of its own.
-    const VARIANT inner = Resolved(variant);
-    if (type == VT_VARIANT && (inner.vt & VT_BYREF) != 0 && (inner.vt & VT_ARRAY) == 0) {
-        type = static_cast<VARTYPE>(inner.vt & ~VT_BYREF);
-        place = inner.byref;
-    }
+    const Variable variable = VariableOf(variant);
+    if ((variable.type & VT_ARRAY) != 0)
+        return ValueOf(variant);
     return ByRef(
-        ValueOf(variant), [type, place](const Value& value) { return Store(value, type, place); },
-        type == VT_VARIANT);
+        ValueOf(variant),
+        [variable](const Value& value) { return Store(value, variable.type, variable.place); },
+        variable.type == VT_VARIANT);
 }
 
 bool IsMissing(const VARIANT& variant)
 {
+    if (variant.vt == (VT_BYREF | VT_VARIANT)) {
+        const Variable variable = VariableOf(variant);
+        return variable.type == VT_VARIANT && IsMissing(*static_cast<VARIANT*>(variable.place));
+    }
     return variant.vt == VT_ERROR && variant.scode == DISP_E_PARAMNOTFOUND;
 }
 

@@ -5,6 +5,7 @@
 #include "component/windows/objects.hpp"
 #include "system/windows/wide_text.hpp"
 
+#include <cmath>
 #include <cstdio>
 #include <limits>
 
@@ -16,6 +17,8 @@ namespace {
 
 void Require(HRESULT status)
 {
+    if (status == DISP_E_OVERFLOW)
+        throw Failure(FailureNumber::Overflow);
     if (FAILED(status))
         Mismatch();
 }
@@ -23,16 +26,17 @@ void Require(HRESULT status)
 Text DateText(DATE date)
 {
     SYSTEMTIME moment;
-    if (!::VariantTimeToSystemTime(date, &moment))
+    if (std::isnan(date) || !::VariantTimeToSystemTime(date, &moment))
         Mismatch();
     const Date day = {moment.wYear, moment.wMonth, moment.wDay};
+    const bool hasDay = DayNumber(day) != 0;
     const bool hasTime = moment.wHour != 0 || moment.wMinute != 0 || moment.wSecond != 0;
-    if (!hasTime)
+    if (hasDay && !hasTime)
         return FormatDate(day);
     char time[9];
     std::snprintf(time, sizeof time, "%02d:%02d:%02d", moment.wHour % 100, moment.wMinute % 100,
                   moment.wSecond % 100);
-    return DayNumber(day) == 0 ? Text(time) : FormatDate(day) + ' ' + time;
+    return hasDay ? FormatDate(day) + ' ' + time : Text(time);
 }
 
 template <class Number> Value WholeNumber(Number number)
@@ -58,9 +62,11 @@ Value Decimal(DECIMAL& amount)
     return number;
 }
 
-/// The value of a plain type at that place.
+/// The value of a type at that place.
 Value ValueAt(VARTYPE type, void* place)
 {
+    if ((type & VT_ARRAY) != 0)
+        return ArrayOf(*static_cast<SAFEARRAY**>(place));
     switch (type) {
     case VT_BOOL: return *static_cast<VARIANT_BOOL*>(place) != VARIANT_FALSE;
     case VT_I1: return WholeNumber(*static_cast<signed char*>(place));
@@ -86,13 +92,45 @@ Value ValueAt(VARTYPE type, void* place)
     }
 }
 
-/// Where a variant has its value, or that which it refers to.
+/// Where a variant has its own value.
 void* PlaceIn(const VARIANT& variant)
 {
-    if ((variant.vt & VT_BYREF) != 0)
-        return variant.byref;
     auto& own = const_cast<VARIANT&>(variant);
     return variant.vt == VT_DECIMAL ? static_cast<void*>(&own.decVal) : static_cast<void*>(&own.llVal);
+}
+
+/// Numbers of kinds that there are none of here, by the system's own conversions. False for another type.
+bool StoreForeignNumber(const Value& value, VARTYPE type, void* variable)
+{
+    const auto number = [&] { return value.ToDouble(); };
+    switch (type) {
+    case VT_I1: Require(::VarI1FromR8(number(), static_cast<CHAR*>(variable))); return true;
+    case VT_UI1: Require(::VarUI1FromR8(number(), static_cast<BYTE*>(variable))); return true;
+    case VT_UI2: Require(::VarUI2FromR8(number(), static_cast<USHORT*>(variable))); return true;
+    case VT_UINT:
+    case VT_UI4: Require(::VarUI4FromR8(number(), static_cast<ULONG*>(variable))); return true;
+    case VT_I8: Require(::VarI8FromR8(number(), static_cast<LONG64*>(variable))); return true;
+    case VT_UI8: Require(::VarUI8FromR8(number(), static_cast<ULONG64*>(variable))); return true;
+    case VT_R4: Require(::VarR4FromR8(number(), static_cast<FLOAT*>(variable))); return true;
+    case VT_CY: Require(::VarCyFromR8(number(), static_cast<CY*>(variable))); return true;
+    case VT_DECIMAL: {
+        DECIMAL made = {};
+        Require(::VarDecFromR8(number(), &made));
+        // Within a variant its type lies there.
+        auto& decimal = *static_cast<DECIMAL*>(variable);
+        made.wReserved = decimal.wReserved;
+        decimal = made;
+        return true;
+    }
+    default: return false;
+    }
+}
+
+/// A dropped reference empties the variable; everything else must be an object.
+void StoreObject(const Value& value, IUnknown*& variable)
+{
+    const ObjectRef object = value == Value(ObjectRef()) ? ObjectRef() : value.ToObject();
+    Held<IUnknown>::Counted(std::exchange(variable, DispatchOf(object).Release()));
 }
 
 template <class Type> Value Written(void* place, Type value)
@@ -117,8 +155,26 @@ BSTR BstrOf(std::string_view text)
     return made;
 }
 
+Variable VariableOf(const VARIANT& reference)
+{
+    // More would be a ring.
+    constexpr int mostSteps = 8;
+    const VARIANT* at = &reference;
+    for (int step = 0; step < mostSteps && at->byref; ++step) {
+        const auto type = static_cast<VARTYPE>(at->vt & ~VT_BYREF);
+        if (type != VT_VARIANT || (at->pvarVal->vt & VT_BYREF) == 0)
+            return {type, at->byref};
+        at = at->pvarVal;
+    }
+    Mismatch();
+}
+
 Value ValueOf(const VARIANT& variant)
 {
+    if ((variant.vt & VT_BYREF) != 0) {
+        const Variable variable = VariableOf(variant);
+        return ValueAt(variable.type, variable.place);
+    }
     switch (variant.vt) {
     case VT_EMPTY: return {};
     case VT_NULL: return Null();
@@ -126,14 +182,8 @@ Value ValueOf(const VARIANT& variant)
         if (variant.scode == DISP_E_PARAMNOTFOUND)
             return {};
         Mismatch();
-    default: break;
+    default: return ValueAt(variant.vt, PlaceIn(variant));
     }
-    const auto type = static_cast<VARTYPE>(variant.vt & ~VT_BYREF);
-    if ((type & VT_ARRAY) != 0) {
-        SAFEARRAY* array = variant.vt & VT_BYREF ? *variant.pparray : variant.parray;
-        return ArrayOf(array);
-    }
-    return ValueAt(type, PlaceIn(variant));
 }
 
 void Put(const Value& value, VARIANT& variant)
@@ -183,39 +233,27 @@ Value Store(const Value& value, VARTYPE type, void* variable)
         *static_cast<VARIANT_BOOL*>(variable) = truth ? VARIANT_TRUE : VARIANT_FALSE;
         return truth;
     }
-    case VT_UI1: {
-        const Long number = value.ToLong();
-        if (!std::in_range<BYTE>(number))
-            throw Failure(FailureNumber::Overflow);
-        *static_cast<BYTE*>(variable) = static_cast<BYTE>(number);
-        return static_cast<Integer>(number);
-    }
     case VT_I2: return Written<Integer>(variable, value.ToInteger());
     case VT_INT:
     case VT_I4: return Value(Long(*static_cast<LONG*>(variable) = value.ToLong()));
-    case VT_R4: return Value(Double(*static_cast<FLOAT*>(variable) = static_cast<FLOAT>(value.ToDouble())));
     case VT_R8: return Written<Double>(variable, value.ToDouble());
-    case VT_CY: Require(::VarCyFromR8(value.ToDouble(), static_cast<CY*>(variable))); break;
     case VT_DATE: *static_cast<DATE*>(variable) = DateOf(value.ToText()); break;
     case VT_BSTR: {
         BSTR made = BstrOf(value.ToText());
         ::SysFreeString(std::exchange(*static_cast<BSTR*>(variable), made));
         break;
     }
-    case VT_DISPATCH: {
-        // A dropped reference empties the variable; everything else must be an object.
-        const ObjectRef object = value == Value(ObjectRef()) ? ObjectRef() : value.ToObject();
-        Held<IDispatch>::Counted(
-            std::exchange(*static_cast<IDispatch**>(variable), DispatchOf(object).Release()));
-        break;
-    }
+    case VT_UNKNOWN:
+    case VT_DISPATCH: StoreObject(value, *static_cast<IUnknown**>(variable)); break;
     case VT_VARIANT: {
         Variant made;
         Put(value, made);
         std::swap(static_cast<VARIANT&>(made), *static_cast<VARIANT*>(variable));
         return value;
     }
-    default: Mismatch();
+    default:
+        if (!StoreForeignNumber(value, type, variable))
+            Mismatch();
     }
     return ValueAt(type, variable);
 }

@@ -22,9 +22,18 @@ Text TextOf(BSTR text);
 /// The caller's own. Fails with 7.
 BSTR BstrOf(std::string_view text);
 
+/// A variable by its type and where it lies.
+struct Variable {
+    VARTYPE type;
+    void* place;
+};
+/// The one at which a variant by reference ends, however many variants refer to each other on the way. Fails
+/// with 13 where it ends nowhere.
+Variable VariableOf(const VARIANT& reference);
+
 /// What a variant holds, wherever it refers to. A date becomes the text that forms show, "dd/mm/yyyy",
-/// "hh:mm:ss" or both; numbers of kinds that there are none of here become the next larger one. A missing
-/// argument reads as Empty. Fails with 13 on what has no counterpart.
+/// "hh:mm:ss" or both, and midnight without a day is a time; numbers of kinds that there are none of here
+/// become the next larger one. A missing argument reads as Empty. Fails with 13 on what has no counterpart.
 Value ValueOf(const VARIANT& variant);
 
 /// Writes a value into an empty variant.

@@ -27,6 +27,7 @@ TEST(ForeignFailure, ForWantOfMemoryHasItsNumber)
 {
     EXPECT_EQ(AsFailure(std::bad_alloc()).Number(), 7);
     EXPECT_EQ(AsFailure(std::bad_alloc()).Description(), "Memória insuficiente");
+    EXPECT_EQ(AsFailure(std::length_error("vector::reserve")).Number(), 7) << "no memory would be enough";
 }
 
 } // namespace kova

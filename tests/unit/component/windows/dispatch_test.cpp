@@ -4,37 +4,23 @@
 
 #include "agenda/contracts/support/memory_record_set.hpp"
 #include "component/windows/arrays.hpp"
+#include "tests/unit/component/windows/seen_from_outside.hpp"
 #include "tests/unit/component/windows/stranger.hpp"
-#include "tests/unit/component/windows/vault.hpp"
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <thread>
 #include <vector>
 
 namespace kova::component {
 
+using test::Plain;
+using test::Reference;
+using test::SeenFromOutside;
 using test::Stranger;
 using test::Vault;
 
 namespace {
-
-VARIANT Plain(const Value& value)
-{
-    VARIANT variant;
-    ::VariantInit(&variant);
-    Put(value, variant);
-    return variant;
-}
-
-template <class Type> VARIANT Reference(VARTYPE type, Type* variable)
-{
-    VARIANT variant;
-    variant.vt = static_cast<VARTYPE>(type | VT_BYREF);
-    variant.byref = variable;
-    return variant;
-}
 
 /// A component that cannot tell its members, one of which is a property and one a method.
 class Silent : public Component {
@@ -56,51 +42,6 @@ public:
     }
 
     Text written;
-};
-
-class SeenFromOutside : public testing::Test {
-protected:
-    ~SeenFromOutside() override
-    {
-        ::SysFreeString(exception.bstrSource);
-        ::SysFreeString(exception.bstrDescription);
-    }
-
-    static DISPID IdOf(IDispatch& object, const wchar_t* name)
-    {
-        auto* asked = const_cast<wchar_t*>(name);
-        DISPID id = 0;
-        const HRESULT status = object.GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &id);
-        EXPECT_EQ(status, id == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK);
-        return id;
-    }
-
-    /// Calls a member with the arguments, which are given in their order and emptied.
-    HRESULT Invoke(const Held<IDispatch>& object, const wchar_t* name, WORD flags,
-                   std::initializer_list<VARIANT> arguments = {})
-    {
-        std::vector<VARIANT> passed(std::rbegin(arguments), std::rend(arguments));
-        DISPID put = DISPID_PROPERTYPUT;
-        const bool isPut = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
-        DISPPARAMS parameters = {passed.data(), isPut ? &put : nullptr, static_cast<UINT>(passed.size()),
-                                 isPut ? 1U : 0U};
-        ::VariantClear(&answer);
-        const DISPID id = *name != L'\0' ? IdOf(*object.Get(), name) : DISPID_VALUE;
-        const HRESULT status = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &answer,
-                                              &exception, nullptr);
-        for (VARIANT& variant : passed)
-            ::VariantClear(&variant);
-        return status;
-    }
-    HRESULT Call(const wchar_t* name, std::initializer_list<VARIANT> arguments = {})
-    {
-        return Invoke(seen, name, DISPATCH_METHOD, arguments);
-    }
-
-    std::shared_ptr<Vault> vault = std::make_shared<Vault>();
-    Held<IDispatch> seen = DispatchOf(vault);
-    Variant answer;
-    EXCEPINFO exception = {};
 };
 
 } // namespace

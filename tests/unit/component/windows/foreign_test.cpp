@@ -72,6 +72,24 @@ TEST(ForeignObject, IsReadWrittenAndCalledByNames)
     EXPECT_TRUE(user->Members().empty());
 }
 
+TEST(ForeignObject, IsAskedInTheOneWayThatItTakes)
+{
+    const auto takingOnly = [](WORD flags) {
+        return [flags](const Stranger::Call& call) {
+            Put(Long(call.parameters.cArgs), call.answer);
+            return call.flags == flags ? S_OK : DISP_E_MEMBERNOTFOUND;
+        };
+    };
+    // A property, a function, and a property with arguments.
+    const ComponentRef strict = Seen({{L"Nome", takingOnly(DISPATCH_PROPERTYGET)},
+                                      {L"Idade", takingOnly(DISPATCH_METHOD)},
+                                      {L"Item", takingOnly(DISPATCH_PROPERTYGET)}});
+    EXPECT_EQ(strict->Get("Nome"), Value(Long{0}));
+    EXPECT_EQ(strict->Get("Idade"), Value(Long{0}));
+    EXPECT_EQ(strict->Call("Idade"), Value(Long{0}));
+    EXPECT_EQ(strict->Call("Item", {Long{1}}), Value(Long{1}));
+}
+
 TEST(ForeignObject, IsGivenObjectsByReferenceOrAsItTakesThem)
 {
     WORD taken = 0;
@@ -133,6 +151,7 @@ TEST(ForeignObject, FailuresKeepTheirNumberAndText)
         {L"D", [](const Stranger::Call&) { return DISP_E_TYPEMISMATCH; }},
         {L"E", Raising(static_cast<HRESULT>(0x800A0000 + 11), 0, nullptr)},
         {L"F", [](const Stranger::Call&) { return DISP_E_BADPARAMCOUNT; }},
+        {L"G", Raising(0, 0, L"Sem número")},
     });
     const auto failure = [&](const char* member) { return FailureIn([&] { failing->Call(member); }); };
     EXPECT_EQ(failure("A").Number(), 91);
@@ -144,6 +163,8 @@ TEST(ForeignObject, FailuresKeepTheirNumberAndText)
     EXPECT_EQ(failure("E").Number(), 11);
     EXPECT_EQ(failure("E").Description(), "Divisão por zero");
     EXPECT_EQ(failure("F").Number(), 450);
+    EXPECT_EQ(failure("G").Number(), E_FAIL) << "0 would be none";
+    EXPECT_EQ(failure("G").Description(), "Sem número");
 }
 
 TEST(ForeignObject, TellsWhichMemberIsMissing)
