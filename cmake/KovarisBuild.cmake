@@ -140,18 +140,24 @@ endif()
 # what is compiled here, the rest in the libraries and the system, and so are all but 8 of its 55 MB of memory. No path of
 # the folder that it is built in gets into what is built.
 if(KOVARIS_HARDEN)
-    include(CheckPIESupported)
-    check_pie_supported()
     # The compiler's cache names sources by the way to them from the folder that is built in.
     file(RELATIVE_PATH way_to_sources ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
     cmake_path(GET way_to_sources PARENT_PATH way_to_sources)
-    add_compile_options(-g1 -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong -fstack-clash-protection
-                        -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${way_to_sources}=.
+    add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${way_to_sources}=.
                         -ffile-prefix-map=${CMAKE_BINARY_DIR}=./build)
-    if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
-        add_compile_options(-fcf-protection)
+    if(MINGW)
+        # Places differ from start to start, and no data is run as a program; checks of the stack would need one more
+        # library of the compiler. When it was linked is in no file.
+        add_link_options(-Wl,--dynamicbase,--high-entropy-va,--nxcompat,--no-insert-timestamp)
+    else()
+        include(CheckPIESupported)
+        check_pie_supported()
+        add_compile_options(-g1 -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong -fstack-clash-protection)
+        if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
+            add_compile_options(-fcf-protection)
+        endif()
+        add_link_options(-Wl,-z,relro,-z,now)
     endif()
-    add_link_options(-Wl,-z,relro,-z,now)
 endif()
 
 # A development build links some sixty programs, which takes the usual linker twice as long as this one. What a shop
