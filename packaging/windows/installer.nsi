@@ -5,8 +5,10 @@
 ;   FILES          a file that names all that lies in STAGE: lines of
 ;                  !insertmacro TakeFile FOLDER NAME and !insertmacro TakeFolder FOLDER, folders before what lies in them
 ;   INSTALLER      where the installer goes
-; Silent: /S, with /CurrentUser or /AllUsers and, as the last word, /D=FOLDER. It ends with 0 where all was done, with 2 where
-; nothing was changed because the program is in use or a file could not be written.
+; Silent: /S, with /CurrentUser or /AllUsers, /Components for the components and, as the last word, /D=FOLDER. It ends with 0
+; where all was done, with 2 where nothing was changed because the program is in use or a file could not be written.
+; The application finds its components beside itself. For other programs they are registered only where somebody asks for it:
+; a class has one place in the system, which another installation may hold, and whoever is allowed to writes it for all users.
 ; Shops, settings and reports of failures lie with each user and are never touched.
 Unicode true
 Target amd64-unicode
@@ -31,6 +33,7 @@ SetDateSave off
 !include MUI2.nsh
 !include FileFunc.nsh
 !include x64.nsh
+!include Sections.nsh
 
 Name "${NAME}"
 OutFile "${INSTALLER}"
@@ -83,6 +86,7 @@ VIAddVersionKey /LANG=1046 "LegalCopyright" "Kovaris contributors"
     !insertmacro RequireWritable KOVA_A_Agenda.dll
     !insertmacro RequireWritable KOVA_N_Familia.dll
     !insertmacro RequireWritable KOVA_A_Familia.dll
+    !insertmacro RequireWritable kovaris-platform.dll
     !insertmacro RequireWritable Qt6Core.dll
 !macroend
 
@@ -99,6 +103,8 @@ VIAddVersionKey /LANG=1046 "LegalCopyright" "Kovaris contributors"
     ${EndIf}
 !macroend
 
+Var Components
+
 Function .onInit
     ${IfNot} ${RunningX64}
         MessageBox MB_OK|MB_ICONSTOP "Este programa precisa de um Windows de 64 bits." /SD IDOK
@@ -107,6 +113,7 @@ Function .onInit
     ${EndIf}
     SetRegView 64
     !insertmacro MULTIUSER_INIT
+    Call ChooseComponents
 FunctionEnd
 
 Function un.onInit
@@ -120,6 +127,13 @@ FunctionEnd
 !macro TakeFile folder name
     SetOutPath "$INSTDIR\${folder}"
     File "${STAGE}\${folder}\${name}"
+!macroend
+
+; The system's own program for it, in a process of its own: what a library does there ends with it.
+!macro WithComponents how
+    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} "$INSTDIR\KOVA_A_Agenda.dll"'
+    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} "$INSTDIR\KOVA_N_Familia.dll"'
+    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} "$INSTDIR\KOVA_A_Familia.dll"'
 !macroend
 
 Section "Agenda" SectionAgenda
@@ -164,13 +178,34 @@ Section "Atalho para a demonstração" SectionDemonstration
     CreateShortcut "$SMPROGRAMS\${NAME} (demonstração).lnk" "$INSTDIR\kovaris.exe" "--demo" "$INSTDIR\kovaris.exe" 0
 SectionEnd
 
+Section /o "Componentes para outros programas" SectionComponents
+    !insertmacro WithComponents ""
+    WriteRegDWORD SHCTX "Software\${NAME}" "Components" 1
+SectionEnd
+
+; They are asked for by /Components, or were when the former version was installed.
+Function ChooseComponents
+    ReadRegDWORD $Components SHCTX "Software\${NAME}" "Components"
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/Components" $1
+    ${IfNot} ${Errors}
+        StrCpy $Components 1
+    ${EndIf}
+    ${If} $Components = 1
+        !insertmacro SelectSection ${SectionComponents}
+    ${EndIf}
+FunctionEnd
+
 LangString DESC_Agenda 1046 "O programa, os dados de exemplo, as ferramentas e o guia."
 LangString DESC_Desktop 1046 "Um ícone na área de trabalho que abre a agenda."
 LangString DESC_Demonstration 1046 "Uma entrada do menu que abre uma loja inventada, para experimentar."
+LangString DESC_Components 1046 "Só para quem abre a agenda de dentro de outro programa. A agenda mesma não precisa."
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
     !insertmacro MUI_DESCRIPTION_TEXT ${SectionAgenda} $(DESC_Agenda)
     !insertmacro MUI_DESCRIPTION_TEXT ${SectionDesktop} $(DESC_Desktop)
     !insertmacro MUI_DESCRIPTION_TEXT ${SectionDemonstration} $(DESC_Demonstration)
+    !insertmacro MUI_DESCRIPTION_TEXT ${SectionComponents} $(DESC_Components)
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
 
 ; What was installed goes, and folders that are empty behind it: whatever somebody else put there stays.
@@ -181,8 +216,18 @@ LangString DESC_Demonstration 1046 "Uma entrada do menu que abre uma loja invent
     RMDir "$INSTDIR\${folder}"
 !macroend
 
+; Registered by whomever, if these are meant.
+!macro ForgetComponents
+    ReadRegStr $0 HKCR "KOVA_A_Agenda.clsAgenda\CLSID" ""
+    ReadRegStr $0 HKCR "CLSID\$0\InprocServer32" ""
+    ${If} $0 == "$INSTDIR\KOVA_A_Agenda.dll"
+        !insertmacro WithComponents "/u"
+    ${EndIf}
+!macroend
+
 Section "Uninstall"
     !insertmacro RequireAllWritable
+    !insertmacro ForgetComponents
     !include "${FILES}.removal"
     Delete "$INSTDIR\Desinstalar.exe"
     ${GetParameters} $0
