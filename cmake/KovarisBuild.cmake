@@ -147,7 +147,8 @@ if(KOVARIS_HARDEN)
                         -ffile-prefix-map=${CMAKE_BINARY_DIR}=./build)
     if(MINGW)
         # Places differ from start to start, and no data is run as a program; checks of the stack would need one more
-        # library of the compiler. When it was linked is in no file.
+        # library of the compiler. When it was linked is in no file, nor where the libraries' headers lay.
+        add_compile_options(-ffile-prefix-map=${KOVARIS_WINDOWS_PREFIX}=./libraries)
         add_link_options(-Wl,--dynamicbase,--high-entropy-va,--nxcompat,--no-insert-timestamp)
     else()
         include(CheckPIESupported)

@@ -104,6 +104,7 @@ VIAddVersionKey /LANG=1046 "LegalCopyright" "Kovaris contributors"
 !macroend
 
 Var Components
+Var NamedFolder
 
 Function .onInit
     ${IfNot} ${RunningX64}
@@ -112,7 +113,12 @@ Function .onInit
         Quit
     ${EndIf}
     SetRegView 64
+    ; What chooses between all and one names the folder anew.
+    StrCpy $NamedFolder $INSTDIR
     !insertmacro MULTIUSER_INIT
+    ${If} $NamedFolder != ""
+        StrCpy $INSTDIR $NamedFolder
+    ${EndIf}
     Call ChooseComponents
 FunctionEnd
 
