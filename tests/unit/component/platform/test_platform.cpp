@@ -1,17 +1,27 @@
-// A platform library without a screen: what its forms do is told on the standard output. Business components
-// are those of a script, all others the system's own.
+// A platform library without a screen: what its forms do is told on the standard output. The shop is a file
+// beside it. Business components are those of a script, unless the family's own lie there too; all others are
+// the system's.
 
 #include "tests/unit/component/platform/test_platform.hpp"
 
 #include "component/platform_library.hpp"
+#include "system/library.hpp"
+#include "system/path_text.hpp"
+#include "system/program_path.hpp"
 #include "tools/scenario/memory_profile.hpp"
 #include "tools/scenario/scripted_components.hpp"
 
+#include <filesystem>
 #include <iostream>
 
 namespace {
 
 using namespace kova;
+
+std::filesystem::path Beside(const std::string& file)
+{
+    return system::OwnPath().parent_path() / system::PathOf(file);
+}
 
 class Screen {
 public:
@@ -44,7 +54,7 @@ public:
     bool Register(const ClassRegistration&) override { return false; }
     bool Unregister(std::string_view) override { return false; }
     Platform& GetPlatform() override { return *this; }
-    std::string DataSource() const override { return {}; }
+    std::string DataSource() const override { return system::TextOf(Beside("loja.db")); }
 
     ComponentService& Components() override { return *this; }
     kova::Toolkit& Toolkit() override { return TheScreen().toolkit; }
@@ -55,12 +65,13 @@ public:
 
     ComponentRef CreateObject(std::string_view className) override
     {
-        return className.starts_with("KOVA_N_") ? TheScreen().script.CreateObject(className)
-                                                : others_.CreateObject(className);
+        const bool isScripted = className.starts_with("KOVA_N_") && !hasFamily_;
+        return isScripted ? TheScreen().script.CreateObject(className) : others_.CreateObject(className);
     }
 
 private:
     ComponentService& others_;
+    const bool hasFamily_ = std::filesystem::exists(Beside(system::LibraryFile("KOVA_N_Familia")));
 };
 
 } // namespace
