@@ -417,17 +417,6 @@ TEST_F(AgendaData, TellsHowAnOlderShopIsBroughtUpToDate)
     }
 }
 
-TEST_F(AgendaData, WarnsOfAConnectionThatIsNotChecked)
-{
-    const std::string address = "postgresql://carla@servidor.da.loja:1/loja?hostaddr=127.0.0.1";
-    EXPECT_EQ(Run({"check", address + "&sslmode=require"}), 1);
-    EXPECT_TRUE(
-        Complained("Aviso: A conexão com o servidor \"servidor.da.loja\" não é conferida por inteiro"))
-        << error_.str();
-    EXPECT_EQ(Run({"check", address}), 1);
-    EXPECT_FALSE(Complained("Aviso:")) << error_.str();
-}
-
 TEST_F(AgendaData, RepeatsNoPasswordOfAnAddress)
 {
     for (const std::vector<std::string>& words :

@@ -10,6 +10,16 @@ if(NOT KOVARIS_CORE_ONLY)
     endif()
     add_dependencies(test_family KOVA_N_Familia)
 
+    # What the client library of servers answers, or what is told where there is none.
+    if(KOVARIS_SERVERS)
+        set(of_the_other "/no_server_client_test")
+    else()
+        set(of_the_other "/(server_client|unchecked_server)_test")
+    endif()
+    get_target_property(family_tests test_family SOURCES)
+    list(FILTER family_tests EXCLUDE REGEX ${of_the_other})
+    set_target_properties(test_family PROPERTIES SOURCES "${family_tests}")
+
     # All of it again with the fixtures' data on a server. Left out is what is about SQLite files themselves, which
     # nothing of a server stands for (how they are opened, copied by pages every day, brought up to date and waited
     # for), and what reads the audit by a function of SQLite. The copy in
