@@ -57,22 +57,22 @@ protected:
     {
         InShop([](family::Database& database) {
             const auto text = [](const char* value) { return std::string(value); };
-            AuditChange(database, Lia, "cliente", 10, AuditValues().Add("nome", text("zq Maria")),
-                        AuditValues().Add("nome", text("zq Ana")));
+            AuditChange(database, Lia, "cliente", 10, AuditValues().Add("nome", text("zqzq Maria")),
+                        AuditValues().Add("nome", text("zqzq Ana")));
             AuditChange(database, Lia, "cliente", 11, AuditValues().Add("nome", text("Canil")),
                         AuditValues().Add("nome", text("Canil Feliz")));
             AuditInsertion(database, Lia, "animal", 50,
-                           AuditValues().Add("codigo_do_cliente", 10).Add("nome", text("zq Rex")));
+                           AuditValues().Add("codigo_do_cliente", 10).Add("nome", text("zqzq Rex")));
             AuditRemoval(database, Lia, "agendamento", 900,
                          AuditValues()
                              .Add("tipo_do_agendamento", 0)
                              .Add("codigo_do_cliente", 10)
-                             .Add("observacao", text("zq à mão")));
+                             .Add("observacao", text("zqzq à mão")));
             AuditRemoval(database, Lia, "agendamento", 901,
                          AuditValues()
                              .Add("tipo_do_agendamento", 1)
-                             .Add("nome_do_cliente", text("zq Maria"))
-                             .Add("nome_do_animal", text("zq Rex")));
+                             .Add("nome_do_cliente", text("zqzq Maria"))
+                             .Add("nome_do_animal", text("zqzq Rex")));
         });
         Archive();
         ImportShop();
@@ -316,7 +316,7 @@ TEST_F(ArchiveContents, TellNothingOfWhoeverBecameAnonymousAndStayProved)
     ASSERT_EQ(Check(), 0) << Error();
     ASSERT_EQ(Forget(), 0) << Error();
     EXPECT_EQ(Output().find(Archived()), std::string::npos) << "it holds nothing of what was\n" << Output();
-    EXPECT_EQ(kova::test::ContentOf(Archived()).find("zq"), std::string::npos);
+    EXPECT_EQ(kova::test::ContentOf(Archived()).find("zqzq"), std::string::npos);
     EXPECT_EQ(
         AskArchive("select group_concat(codigo || ' ' || coalesce(antes, '') || coalesce(depois, ''), ';')"
                    " from auditoria where codigo in (1, 2)"),
@@ -352,10 +352,10 @@ TEST_F(ArchiveContents, ThatWereNotThereAreToldAndCleanedLater)
     fs::rename(system::PathOf(Archived()), system::PathOf(File("fora")));
     ASSERT_EQ(Forget(), 0) << Error();
     EXPECT_NE(Output().find("agenda-data forget --archive"), std::string::npos) << Output();
-    EXPECT_NE(kova::test::ContentOf(File("fora")).find("zq Maria"), std::string::npos);
+    EXPECT_NE(kova::test::ContentOf(File("fora")).find("zqzq Maria"), std::string::npos);
     ASSERT_EQ(Forget({"--archive", File("fora")}), 0) << Error();
     EXPECT_EQ(Output().find("agenda-data forget --archive"), std::string::npos) << Output();
-    EXPECT_EQ(kova::test::ContentOf(File("fora")).find("zq"), std::string::npos);
+    EXPECT_EQ(kova::test::ContentOf(File("fora")).find("zqzq"), std::string::npos);
     fs::rename(system::PathOf(File("fora")), system::PathOf(Archived()));
     EXPECT_EQ(Check(), 0) << Error();
 }
