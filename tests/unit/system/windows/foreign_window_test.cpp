@@ -27,8 +27,8 @@ protected:
                                     nullptr, nullptr);
     HWND Inner() const
     {
-        return ::CreateWindowExW(0, L"STATIC", L"Dentro", WS_CHILD, 0, 0, 10, 10, window, nullptr, nullptr,
-                                 nullptr);
+        return ::CreateWindowExW(0, L"STATIC", L"Dentro", WS_POPUP, 0, 0, 10, 10, HWND_MESSAGE, nullptr,
+                                 nullptr, nullptr);
     }
 
     std::vector<std::pair<int, int>> sizes;
@@ -67,6 +67,7 @@ TEST_F(ForeignWindowTest, IsLeftAloneOnceNobodyWatchesIt)
 TEST_F(ForeignWindowTest, GivesEveryKeyToWhatItHolds)
 {
     const HWND inner = Inner();
+    ASSERT_NE(inner, nullptr) << ::GetLastError();
     const LRESULT before = ::SendMessageW(inner, WM_GETDLGCODE, 0, 0);
     EXPECT_EQ(before & DLGC_WANTALLKEYS, 0);
     auto watched = Watch();
@@ -75,11 +76,13 @@ TEST_F(ForeignWindowTest, GivesEveryKeyToWhatItHolds)
     EXPECT_EQ(::SendMessageW(inner, WM_GETDLGCODE, 0, 0) & wanted, wanted);
     watched.reset();
     EXPECT_EQ(::SendMessageW(inner, WM_GETDLGCODE, 0, 0), before);
+    ::DestroyWindow(inner);
 }
 
 TEST_F(ForeignWindowTest, MayOutliveWhatItHolds)
 {
     const HWND inner = Inner();
+    ASSERT_NE(inner, nullptr) << ::GetLastError();
     auto watched = Watch();
     watched->Hold(reinterpret_cast<std::intptr_t>(inner));
     ::DestroyWindow(inner);
