@@ -16,4 +16,8 @@ std::filesystem::path UserSettingsFolder();
 /// or NAME in the folder of settings.
 std::filesystem::path UserFolderOf(std::string_view program);
 
+/// Where the client of PostgreSQL servers looks for this user's passwords, as people are told of it and as
+/// they would type it on this system: "~/.pgpass".
+std::string_view ShownPasswordsFile();
+
 } // namespace kova::system

@@ -2,6 +2,7 @@
 
 #include "family/data/engine/server_protection.hpp"
 #include "screens/field_frame.hpp"
+#include "system/user_folders.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
 #include <QFileDialog>
@@ -12,15 +13,20 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include <string_view>
+
 namespace kova::host {
 
 namespace {
 
-const QString Explanation = QStringLiteral(
-    "Um arquivo de banco de dados deste computador, como Documentos/loja.db, ou o endereço de um "
-    "servidor, como postgresql://ana@servidor/loja. A senha não faz parte do endereço: ela fica no arquivo "
-    "de "
-    "senhas (~/.pgpass).");
+QString Explanation()
+{
+    const std::string_view passwords = system::ShownPasswordsFile();
+    return QStringLiteral("Um arquivo de banco de dados deste computador, como Documentos/loja.db, ou o "
+                          "endereço de um servidor, como postgresql://ana@servidor/loja. A senha não faz "
+                          "parte do endereço: ela fica no arquivo de senhas (%1).")
+        .arg(QLatin1String(passwords.data(), static_cast<int>(passwords.size())));
+}
 
 QString FoundText(const std::string& source)
 {
@@ -52,7 +58,7 @@ ExistingShopPage::ExistingShopPage(SourceTrial::Look look, QWidget* parent)
     outcome_->setObjectName(QStringLiteral("resultado"));
     outcome_->setTextFormat(Qt::PlainText);
     outcome_->setWordWrap(true);
-    auto* explanation = new QLabel(Explanation, this);
+    auto* explanation = new QLabel(Explanation(), this);
     explanation->setTextFormat(Qt::PlainText);
     explanation->setWordWrap(true);
     QPushButton* back = Button(QStringLiteral("voltar"), QStringLiteral("&Voltar"), this);

@@ -37,4 +37,6 @@ fs::path UserFolderOf(std::string_view program)
     return home.empty() ? fs::path() : home / PathOf("." + std::string(program));
 }
 
+std::string_view ShownPasswordsFile() { return "~/.pgpass"; }
+
 } // namespace kova::system

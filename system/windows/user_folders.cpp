@@ -31,4 +31,6 @@ fs::path UserSettingsFolder() { return KnownFolder(FOLDERID_RoamingAppData); }
 
 fs::path UserFolderOf(std::string_view program) { return UserSettingsFolder() / PathOf(program); }
 
+std::string_view ShownPasswordsFile() { return R"(%APPDATA%\postgresql\pgpass.conf)"; }
+
 } // namespace kova::system

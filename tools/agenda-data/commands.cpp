@@ -3,6 +3,7 @@
 #include "family/data/engine/failure_words.hpp"
 #include "family/data/engine/secrets_in_text.hpp"
 #include "family/data/engine/server_protection.hpp"
+#include "system/user_folders.hpp"
 
 #include <algorithm>
 
@@ -18,18 +19,28 @@ constexpr const Command* Commands[] = {
     &ServerRolesCommand, &ResetPasswordCommand, &ArchiveAuditCommand,
 };
 
-arguments::Program ThisProgram()
+/// What else the help tells; the program's description only refers to it.
+const std::string& Closing()
 {
-    arguments::Program program{
-        {"agenda-data", "agenda-data: administração dos dados da agenda"},
-        "agenda-data " KOVARIS_VERSION,
+    static const std::string closing =
         "BANCO é o caminho de um arquivo ou o endereço de um banco em um servidor PostgreSQL, como\n"
         "postgresql://usuario@servidor/loja ou postgresql:///?service=NOME; a senha fica no arquivo de\n"
-        "senhas (~/.pgpass), nunca no endereço. O banco em um servidor já existe, e está vazio para\n"
-        "o criar. Um arquivo que já existe nunca é substituído.\n"
-        "\n"
-        "Resultado: 0 concluído; 1 os dados não podem ser lidos ou gravados; 2 linha de comando\n"
-        "incorreta."};
+        "senhas ("
+        + std::string(system::ShownPasswordsFile())
+        + "), nunca no endereço.\n"
+          "O banco em um servidor já existe, e está vazio para o criar. Um arquivo que já existe nunca\n"
+          "é substituído.\n"
+          "\n"
+          "Resultado: 0 concluído; 1 os dados não podem ser lidos ou gravados; 2 linha de comando\n"
+          "incorreta.";
+    return closing;
+}
+
+arguments::Program ThisProgram()
+{
+    arguments::Program program{{"agenda-data", "agenda-data: administração dos dados da agenda"},
+                               "agenda-data " KOVARIS_VERSION,
+                               Closing()};
     for (const Command* command : Commands)
         program.commands.push_back(&command->words);
     return program;

@@ -4,6 +4,7 @@
 #include "family/data/engine/failure_words.hpp"
 #include "family/data/engine/long_work.hpp"
 #include "family/data/engine/server_client.hpp"
+#include "system/user_folders.hpp"
 #include "system/want_of_room.hpp"
 
 #include <soci/soci.h>
@@ -11,6 +12,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <utility>
 
 namespace kova::family {
 
@@ -53,6 +55,9 @@ constexpr FileResult FileResults[] = {
     {SQLITE_INTERRUPT, Fault::Lasting, Stopped},
 };
 
+/// Stands in a cause for the file of passwords as this system calls it.
+constexpr std::string_view PasswordsFile = "$SENHAS";
+
 /// A state of a server, or the class of states that begin with it.
 struct ServerState {
     std::string_view state;
@@ -94,7 +99,7 @@ constexpr ServerState ServerStates[] = {
     {"57014", Fault::Shortage, "O servidor demorou demais e a operação foi interrompida. Tente novamente."},
     {"28P01", Fault::Lasting,
      "O servidor não aceitou o usuário ou a senha. Verifique o usuário no endereço e a senha no arquivo de"
-     " senhas (~/.pgpass)."},
+     " senhas ($SENHAS)."},
     {"28", Fault::Lasting,
      "O servidor não aceita este usuário a partir deste computador, ou só com uma conexão protegida (TLS)."
      " Fale com quem cuida do servidor."},
@@ -106,6 +111,14 @@ constexpr ServerState ServerStates[] = {
     {"58", Fault::Lasting, "O disco do servidor falhou. Fale com quem cuida dele."},
     {"23", Fault::Lasting, AgainstTheRules},
 };
+
+std::string CauseOf(const ServerState& known)
+{
+    std::string cause(known.cause);
+    if (const std::size_t at = cause.find(PasswordsFile); at != std::string::npos)
+        cause.replace(at, PasswordsFile.size(), system::ShownPasswordsFile());
+    return cause;
+}
 
 std::string MessageOf(const std::runtime_error& cause)
 {
@@ -141,9 +154,10 @@ bool IsPassing(Fault fault)
 DatabaseFailure ServerFailure(const std::string& path, std::string_view state, const std::string& reported)
 {
     for (const ServerState& known : ServerStates) {
-        if (state.starts_with(known.state))
-            return {WithDetail(Opening(path).append(known.cause), reported), known.fault,
-                    std::string(known.cause)};
+        if (!state.starts_with(known.state))
+            continue;
+        std::string cause = CauseOf(known);
+        return {WithDetail(Opening(path).append(cause), reported), known.fault, std::move(cause)};
     }
     return DatabaseFailure(WithDetail(Opening(path).append(Refused), reported));
 }

@@ -4,6 +4,7 @@
 #include "family/data/engine/server_client.hpp"
 #include "family/data/engine/server_protection.hpp"
 #include "system/network.hpp"
+#include "system/user_folders.hpp"
 
 #include <algorithm>
 #include <cctype>
@@ -78,8 +79,9 @@ std::optional<std::string> CheckAddress(const std::string& address)
     const auto parts = RequireServerClient().Read(address);
     if (parts && (!ValueOf(*parts, "password").empty() || !ValueOf(*parts, "sslpassword").empty()))
         return "O endereço do servidor contém uma senha, que outras pessoas podem ler na linha de comando. "
-               "Tire a senha do endereço e guarde-a no arquivo de senhas (~/.pgpass, ou o que PGPASSFILE "
-               "indicar) ou em um arquivo de serviço.";
+               "Tire a senha do endereço e guarde-a no arquivo de senhas ("
+            + std::string(system::ShownPasswordsFile())
+            + ", ou o que PGPASSFILE indicar) ou em um arquivo de serviço.";
     if (!parts || !BeginsAsAddress(address))
         return "O endereço do servidor não foi entendido. Informe-o como "
                "postgresql://usuario@servidor/banco ou postgresql:///?service=NOME.";
@@ -109,10 +111,9 @@ DatabaseFailure RefusalOfServer(const std::string& address, const std::string& c
 {
     const ConnectionAttempt attempt = RequireServerClient().TryConnection(connection);
     if (attempt.wantsPassword)
-        return DatabaseFailure(
-            Opening(address)
-            + "O servidor pede uma senha. Guarde-a no arquivo de senhas (~/.pgpass, ou o que "
-              "PGPASSFILE indicar), que só o seu usuário pode ler.");
+        return DatabaseFailure(Opening(address) + "O servidor pede uma senha. Guarde-a no arquivo de senhas ("
+                               + std::string(system::ShownPasswordsFile())
+                               + ", ou o que PGPASSFILE indicar), que só o seu usuário pode ler.");
     if (!attempt.state.empty())
         return ServerFailure(address, attempt.state, cause.what());
     // Whoever was about to be protected was found, by whatever name.

@@ -34,4 +34,9 @@ TEST(UserFoldersOnPosix, AreNowhereWithoutAHome)
     EXPECT_EQ(UserFolderOf("outro"), "");
 }
 
+TEST(UserFoldersOnPosix, HaveAFileOfPasswordsInTheHome)
+{
+    EXPECT_EQ(ShownPasswordsFile(), "~/.pgpass");
+}
+
 } // namespace kova::system

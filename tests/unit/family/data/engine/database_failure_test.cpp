@@ -1,6 +1,7 @@
 #include "agenda/contracts/failure_detail.hpp"
 #include "family/data/engine/database_failure.hpp"
 #include "family/data/engine/long_work.hpp"
+#include "system/user_folders.hpp"
 
 #include <gtest/gtest.h>
 #include <soci/sqlite3/soci-sqlite3.h>
@@ -94,6 +95,13 @@ TEST(DatabaseFailure, KeepsTheWordsOfAServerApartToo)
         EXPECT_TRUE(failure.Description().ends_with("\r\nDetalhe técnico: ERROR:  no space DETAIL:  none"));
         EXPECT_TRUE(CauseOf(failure).ends_with('.')) << failure.Description();
     }
+}
+
+TEST(DatabaseFailure, NamesTheFileOfPasswordsAsThisSystemCallsIt)
+{
+    const std::string cause = ServerFailure("postgresql://maria@servidor/loja", "28P01", "").Cause();
+    const std::string named = " senhas (" + std::string(system::ShownPasswordsFile()) + ").";
+    EXPECT_TRUE(cause.ends_with(named)) << cause;
 }
 
 } // namespace kova::family
