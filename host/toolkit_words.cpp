@@ -8,18 +8,20 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include <string>
-
 namespace kova::host {
 
-void SpeakPortuguese(QApplication& application)
+QStringList FoldersOfToolkitWords()
+{
+    const auto beside = system::OwnPath().parent_path() / "translations";
+    return {QLibraryInfo::path(QLibraryInfo::TranslationsPath),
+            QString::fromStdString(system::TextOf(beside))};
+}
+
+void SpeakPortuguese(QApplication& application, const QStringList& folders)
 {
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     auto* translator = new QTranslator(&application);
-    // Inside a program that is not of the family, the toolkit takes that one's folder for its own.
-    const std::string besides = system::TextOf(system::OwnPath().parent_path() / "translations");
-    for (const QString& folder :
-         {QLibraryInfo::path(QLibraryInfo::TranslationsPath), QString::fromStdString(besides)}) {
+    for (const QString& folder : folders) {
         if (translator->load(QStringLiteral("qtbase_pt_BR"), folder)) {
             QApplication::installTranslator(translator);
             return;
