@@ -1,4 +1,4 @@
-// The entry points of a component library: the system's own four, by which any program uses its classes, and
+// The entry points of a component library: the system's own five, by which any program uses its classes, and
 // the family's two.
 
 #include "agenda/contracts/support/component_library.hpp"
@@ -9,6 +9,10 @@
 #include "component/windows/registration.hpp"
 #include "system/path_text.hpp"
 #include "system/program_path.hpp"
+
+#include <exception>
+#include <string_view>
+#include <vector>
 
 using kova::ServedLibrary;
 using kova::component::Guarded;
@@ -23,16 +27,25 @@ std::vector<kova::ClassRegistration> ClassesWithPath()
     return classes;
 }
 
+using WithSystem = bool (*)(const std::vector<kova::ClassRegistration>&);
+
+HRESULT Registered(WithSystem withSystem)
+{
+    try {
+        if (withSystem(ClassesWithPath()))
+            return S_OK;
+    } catch (const std::exception&) {
+        // Nobody is told more than that it failed.
+    }
+    return static_cast<HRESULT>(kova::ServerStatus::RegistrationFailed);
+}
+
 /// Registers with the host that is attached, else with the system.
-HRESULT Registered(std::int32_t (kova::ComponentLibrary::*withHost)(),
-                   bool (*withSystem)(const std::vector<kova::ClassRegistration>&))
+HRESULT Registered(std::int32_t (kova::ComponentLibrary::*withHost)(), WithSystem withSystem)
 {
     try {
         kova::ComponentLibrary& library = ServedLibrary::Get();
-        if (library.Host())
-            return (library.*withHost)();
-        return withSystem(ClassesWithPath()) ? S_OK
-                                             : static_cast<HRESULT>(kova::ServerStatus::RegistrationFailed);
+        return library.Host() ? (library.*withHost)() : Registered(withSystem);
     } catch (const std::exception&) {
         return static_cast<HRESULT>(kova::ServerStatus::RegistrationFailed);
     }
@@ -79,4 +92,15 @@ STDAPI DllRegisterServer()
 STDAPI DllUnregisterServer()
 {
     return Registered(&kova::ComponentLibrary::UnregisterServer, kova::component::UnregisterForSystem);
+}
+
+/// For whom it is done, as in "regsvr32 /n /i:user": this user alone, or with no word as without "/n".
+STDAPI DllInstall(BOOL install, PCWSTR forWhom)
+{
+    const std::wstring_view whom = forWhom != nullptr ? forWhom : L"";
+    if (whom.empty())
+        return install ? DllRegisterServer() : DllUnregisterServer();
+    if (whom != L"user")
+        return E_INVALIDARG;
+    return Registered(install ? kova::component::RegisterForUser : kova::component::UnregisterForUser);
 }

@@ -124,4 +124,14 @@ bool UnregisterForSystem(const std::vector<ClassRegistration>& classes)
     return own == ERROR_SUCCESS && (ofAll == ERROR_SUCCESS || ofAll == ERROR_ACCESS_DENIED);
 }
 
+bool RegisterForUser(const std::vector<ClassRegistration>& classes)
+{
+    return With(HKEY_CURRENT_USER, RegisterClasses, classes) == ERROR_SUCCESS;
+}
+
+bool UnregisterForUser(const std::vector<ClassRegistration>& classes)
+{
+    return With(HKEY_CURRENT_USER, UnregisterClasses, classes) == ERROR_SUCCESS;
+}
+
 } // namespace kova::component

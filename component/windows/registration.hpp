@@ -25,4 +25,8 @@ bool ForAllElseForOne(const std::function<LSTATUS(HKEY root)>& write);
 bool RegisterForSystem(const std::vector<ClassRegistration>& classes);
 bool UnregisterForSystem(const std::vector<ClassRegistration>& classes);
 
+/// The same for this user alone, also where the classes may be written for all; what all have stays as it is.
+bool RegisterForUser(const std::vector<ClassRegistration>& classes);
+bool UnregisterForUser(const std::vector<ClassRegistration>& classes);
+
 } // namespace kova::component

@@ -8,7 +8,7 @@
 ; Silent: /S, with /CurrentUser or /AllUsers, /Components for the components and, as the last word, /D=FOLDER. It ends with 0
 ; where all was done, with 2 where nothing was changed because the program is in use or a file could not be written.
 ; The application finds its components beside itself. For other programs they are registered only where somebody asks for it:
-; a class has one place in the system, which another installation may hold, and whoever is allowed to writes it for all users.
+; a class has one place in the system, for all users or for one, which another installation may hold.
 ; Shops, settings and reports of failures lie with each user and are never touched.
 Unicode true
 Target amd64-unicode
@@ -135,11 +135,16 @@ FunctionEnd
     File "${STAGE}\${folder}\${name}"
 !macroend
 
-; The system's own program for it, in a process of its own: what a library does there ends with it.
+; The system's own program for it, in a process of its own: what a library does there ends with it. What is installed for one
+; user is registered for that one alone, also by whoever may write for all.
 !macro WithComponents how
-    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} "$INSTDIR\KOVA_A_Agenda.dll"'
-    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} "$INSTDIR\KOVA_N_Familia.dll"'
-    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} "$INSTDIR\KOVA_A_Familia.dll"'
+    StrCpy $1 ""
+    ${If} $MultiUser.InstallMode == "CurrentUser"
+        StrCpy $1 "/n /i:user"
+    ${EndIf}
+    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} $1 "$INSTDIR\KOVA_A_Agenda.dll"'
+    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} $1 "$INSTDIR\KOVA_N_Familia.dll"'
+    ExecWait '"$SYSDIR\regsvr32.exe" /s ${how} $1 "$INSTDIR\KOVA_A_Familia.dll"'
 !macroend
 
 Section "Agenda" SectionAgenda

@@ -11,6 +11,32 @@ const std::vector<ClassRegistration> Classes = {
     {"KOVA_T_Cofre.clsChave", "{5B0E7E52-6B0C-4E0B-9E57-0C6A2C3D4E02}", "C:\\Salão\\KOVA_T_Cofre.dll"},
 };
 
+/// While it lives, what is everybody's and what is this user's lie in two keys below that one.
+class RootsApart {
+public:
+    explicit RootsApart(HKEY key)
+    {
+        Put(HKEY_LOCAL_MACHINE, key, L"Todos");
+        Put(HKEY_CURRENT_USER, key, L"Um");
+    }
+    ~RootsApart()
+    {
+        ::RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr);
+        ::RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+    }
+    RootsApart(const RootsApart&) = delete;
+    RootsApart& operator=(const RootsApart&) = delete;
+
+private:
+    static void Put(HKEY root, HKEY key, const wchar_t* name)
+    {
+        HKEY made = nullptr;
+        ::RegCreateKeyExW(key, name, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &made, nullptr);
+        ::RegOverridePredefKey(root, made);
+        ::RegCloseKey(made);
+    }
+};
+
 /// A place of the test's own in the registry.
 class Registration : public testing::Test {
 protected:
@@ -76,6 +102,28 @@ TEST_F(Registration, GoesForThisUserAloneWhereItMayNotGoForAll)
     EXPECT_FALSE(writing(ERROR_ACCESS_DENIED, ERROR_ACCESS_DENIED));
     EXPECT_FALSE(writing(ERROR_DISK_FULL, ERROR_SUCCESS));
     EXPECT_EQ(roots, (std::vector<HKEY>{HKEY_LOCAL_MACHINE}));
+}
+
+TEST_F(Registration, ThatIsAskedForThisUserAloneLeavesWhatAllHave)
+{
+    const RootsApart roots(key);
+    ASSERT_TRUE(RegisterForSystem(Classes));
+    ASSERT_TRUE(RegisterForUser(Classes));
+    const std::wstring name = L"\\Software\\Classes\\KOVA_T_Cofre.clsChave\\CLSID";
+    const std::wstring classId = L"{5B0E7E52-6B0C-4E0B-9E57-0C6A2C3D4E02}";
+    EXPECT_EQ(Text((L"Todos" + name).c_str()), classId);
+    EXPECT_EQ(Text((L"Um" + name).c_str()), classId);
+    EXPECT_TRUE(UnregisterForUser(Classes));
+    EXPECT_EQ(Text((L"Todos" + name).c_str()), classId);
+    EXPECT_EQ(Text((L"Um" + name).c_str()), L"-");
+}
+
+TEST_F(Registration, ThatIsAskedForThisUserAloneWritesNothingForAll)
+{
+    const RootsApart roots(key);
+    ASSERT_TRUE(RegisterForUser(Classes));
+    EXPECT_EQ(Keys(L"Todos"), 0U);
+    EXPECT_EQ(Keys(L"Um\\Software\\Classes"), 3U);
 }
 
 TEST_F(Registration, LeavesNothingOfItsOwnBehindAndEverythingElse)
