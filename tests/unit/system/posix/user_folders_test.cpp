@@ -34,9 +34,6 @@ TEST(UserFoldersOnPosix, AreNowhereWithoutAHome)
     EXPECT_EQ(UserFolderOf("outro"), "");
 }
 
-TEST(UserFoldersOnPosix, HaveAFileOfPasswordsInTheHome)
-{
-    EXPECT_EQ(ShownPasswordsFile(), "~/.pgpass");
-}
+TEST(UserFoldersOnPosix, HaveAFileOfPasswordsInTheHome) { EXPECT_EQ(ShownPasswordsFile(), "~/.pgpass"); }
 
 } // namespace kova::system
