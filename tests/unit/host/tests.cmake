@@ -3,5 +3,5 @@ if(KOVARIS_SCREEN)
         agenda_module toolkit_headless
         test_postgres_server)
     add_dependencies(test_host kovaris agenda-data KOVA_A_Familia)
-    kovaris_precompile(test_host <gtest/gtest.h> <QApplication>)
+    kovaris_precompile(test_host OF test_qt_application)
 endif()

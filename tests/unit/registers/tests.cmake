@@ -1,6 +1,6 @@
 if(KOVARIS_SCREEN)
     kovaris_test_program(test_registers register_screens test_whole_program_on_qt Qt6::Test SQLite::SQLite3)
-    kovaris_precompile(test_registers <gtest/gtest.h> <QApplication>)
+    kovaris_precompile(test_registers OF test_qt_application)
 
     # A second program, to be killed in the middle of a word.
     add_executable(registers_typist ${CMAKE_CURRENT_LIST_DIR}/typist/main.cpp)
