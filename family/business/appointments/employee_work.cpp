@@ -7,16 +7,6 @@ namespace kova::family {
 namespace {
 
 constexpr Long DaysOfWeek = 7;
-constexpr int MinutesOfDay = 24 * 60;
-
-int MinutesOf(TimeOfDay time) { return 60 * time.hour + time.minute; }
-
-/// What a span takes of one of its days; empty of the last one where it ends at midnight.
-PartOfDay PartOn(Date date, const TimeSpan& span)
-{
-    return {date == span.start.date ? MinutesOf(span.start.time) : 0,
-            date == span.end.date ? MinutesOf(span.end.time) : MinutesOfDay};
-}
 
 } // namespace
 

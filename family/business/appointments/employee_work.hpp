@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/business/appointments/time_span.hpp"
+#include "family/business/time_span.hpp"
 #include "family/data/stores/booking_registers.hpp"
 #include "family/data/stores/work_tables.hpp"
 

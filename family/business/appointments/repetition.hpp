@@ -1,6 +1,6 @@
 #pragma once
 
-#include "family/business/appointments/time_span.hpp"
+#include "family/business/time_span.hpp"
 
 #include <vector>
 

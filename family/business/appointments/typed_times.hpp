@@ -1,7 +1,7 @@
 #pragma once
 
-#include "family/business/appointments/time_span.hpp"
 #include "family/business/appointments/write_answer.hpp"
+#include "family/business/time_span.hpp"
 
 #include <optional>
 #include <vector>

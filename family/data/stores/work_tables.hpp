@@ -26,6 +26,10 @@ public:
     void Add(int weekday, PartOfDay part) { days_.at(static_cast<std::size_t>(weekday)).push_back(part); }
     bool HasAnyOn(int weekday) const { return !days_.at(static_cast<std::size_t>(weekday)).empty(); }
     bool HasAny() const;
+    const std::vector<PartOfDay>& On(int weekday) const
+    {
+        return days_.at(static_cast<std::size_t>(weekday));
+    }
     /// Whether the whole part lies within the day's hours, breaks between them left out.
     bool Cover(int weekday, PartOfDay part) const;
 

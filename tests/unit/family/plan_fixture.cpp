@@ -4,6 +4,7 @@
 
 #include <soci/sqlite3/soci-sqlite3.h>
 
+#include <algorithm>
 #include <regex>
 #include <sstream>
 
@@ -148,6 +149,13 @@ bool ReadsWholeTable(const std::string& plan)
         || std::regex_search(plan, wholeIndex);
 }
 
+std::string PlanWith(const std::string& text, const std::vector<StatementPlan>& plans)
+{
+    const auto found = std::ranges::find_if(
+        plans, [&](const StatementPlan& plan) { return plan.statement.find(text) != std::string::npos; });
+    return found == plans.end() ? "SCAN agendamento: the statement was not found" : found->plan;
+}
+
 void BigShopTest::AddAppointments(int employees)
 {
     const std::string count = std::to_string(employees);
@@ -211,6 +219,32 @@ void BigShopTest::AnalyseALittle()
     if (!TestsRunOnServer())
         Run("pragma analysis_limit = 400");
     Analyse();
+}
+
+void BigShopTest::ActAsIfThereWere(long long appointments, int employees, const std::string& ofSeveralDays)
+{
+    const auto per = [&](long long parts) {
+        return std::to_string(std::max<long long>(1, appointments / parts));
+    };
+    const std::string all = std::to_string(appointments) + " ";
+    Run("delete from sqlite_stat1 where tbl = 'agendamento'");
+    Run("insert into sqlite_stat1 (tbl, idx, stat) values"
+        " ('agendamento', 'agendamento_por_termino', '"
+        + all + per(employees) + " " + per(employees * 2500LL) + " " + per(employees * 2500LL) + "'),"
+        + " ('agendamento', 'agendamento_por_inicio', '" + all + per(2500) + " " + per(80'000) + " 1')");
+    if (!ofSeveralDays.empty())
+        Run("insert into sqlite_stat1 (tbl, idx, stat) values"
+            " ('agendamento', 'agendamento_de_varios_dias', '"
+            + ofSeveralDays + "')");
+    Run("analyze sqlite_schema");
+}
+
+void BigShopTest::ForgetWhatWasCounted()
+{
+    if (TestsRunOnServer())
+        return;
+    Run("delete from sqlite_stat1");
+    Run("analyze sqlite_schema");
 }
 
 Database& BigShopTest::Data() { return *SharedDatabase(host_.DataSource()); }

@@ -18,6 +18,9 @@ std::vector<StatementPlan> PlansForValues(Database& database);
 /// Whether a plan walks through the whole of a table that grows with the years.
 bool ReadsWholeTable(const std::string& plan);
 
+/// The plan of the statement that contains that text; one of a whole table where there is none.
+std::string PlanWith(const std::string& text, const std::vector<StatementPlan>& plans);
+
 /// The shop with two desks, grown big.
 class BigShopTest : public TwoDesksTest {
 protected:
@@ -32,6 +35,11 @@ protected:
     void Analyse() { Run("analyze"); }
     /// The same as little as the closing of a file does; on a server there is no such thing.
     void AnalyseALittle();
+    /// Gives a file's engine counts like those of so many appointments, and for the index of those of several
+    /// days what is told so: "ALL EACH ...", or "" for none.
+    void ActAsIfThereWere(long long appointments, int employees, const std::string& ofSeveralDays);
+    /// As before anything was counted; on a server there is no such thing.
+    void ForgetWhatWasCounted();
 
     Database& Data();
 };

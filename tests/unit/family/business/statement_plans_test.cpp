@@ -121,10 +121,7 @@ TEST_F(StatementPlans, OfADaysWorkReadNoTableThatGrows)
 
 TEST_F(StatementPlans, OfADaysWorkReadNoTableThatGrowsEvenIfNothingWasCounted)
 {
-    if (!TestsRunOnServer()) {
-        Run("delete from sqlite_stat1");
-        Run("analyze sqlite_schema");
-    }
+    ForgetWhatWasCounted();
     UseTheRegisters();
     WriteAppointments();
     ExpectNoneReadsAWholeTable(PlansOf(Data()));

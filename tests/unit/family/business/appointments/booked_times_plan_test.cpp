@@ -19,29 +19,9 @@ protected:
         FindBookedTimes(Data(), {2, 0, "2026-11-27", "", "2026-11-27"});
     }
 
-    /// Statistics like those of so many appointments; a file's engine takes them as its own.
-    void ActAsIfThereWere(long long appointments, const std::string& ofSeveralDays)
-    {
-        const auto per = [&](long long parts) {
-            return std::to_string(std::max<long long>(1, appointments / parts));
-        };
-        const std::string all = std::to_string(appointments) + " ";
-        const int employees = GetParam();
-        Run("delete from sqlite_stat1 where tbl = 'agendamento'");
-        Run("insert into sqlite_stat1 (tbl, idx, stat) values"
-            " ('agendamento', 'agendamento_por_termino', '"
-            + all + per(employees) + " " + per(employees * 2500) + " " + per(employees * 2500) + "'),"
-            + " ('agendamento', 'agendamento_por_inicio', '" + all + per(2500) + " " + per(80'000) + " 1')"
-            + ofSeveralDays);
-        Run("analyze sqlite_schema");
-    }
-
     static std::string PlanOfIt(const std::vector<StatementPlan>& plans)
     {
-        const auto booked = std::ranges::find_if(plans, [](const StatementPlan& plan) {
-            return plan.statement.find("data_inicial || '' >") != std::string::npos;
-        });
-        return booked == plans.end() ? "SCAN agendamento: the statement was not found" : booked->plan;
+        return PlanWith("data_inicial || '' >", plans);
     }
 
     static void ExpectItGoesByTheEnd(const std::vector<StatementPlan>& plans)
@@ -68,10 +48,7 @@ TEST_P(BookedTimesPlan, GoesByTheEmployeesOwnEndsWhateverWasCountedWhenTheShopWa
 
 TEST_P(BookedTimesPlan, GoesByTheEmployeesOwnEndsBeforeAnythingWasCounted)
 {
-    if (!TestsRunOnServer()) {
-        Run("delete from sqlite_stat1");
-        Run("analyze sqlite_schema");
-    }
+    ForgetWhatWasCounted();
     ExpectItGoesByTheEnd(PlansOf(Data()));
     ExpectItGoesByTheEnd(PlansForValues(Data()));
 }
@@ -85,10 +62,9 @@ TEST_P(BookedTimesPlan, GoesByTheEmployeesOwnEndsAfterTheAppointmentsWereCounted
     ExpectItGoesByTheEnd(PlansOf(Data()));
     if (TestsRunOnServer())
         return;
-    for (const char* ofSeveralDays : {"", ", ('agendamento', 'agendamento_de_varios_dias', '1 1 1 1')",
-                                      ", ('agendamento', 'agendamento_de_varios_dias', '5000 80 2 1')"}) {
+    for (const char* ofSeveralDays : {"", "1 1 1 1", "5000 80 2 1"}) {
         SCOPED_TRACE(ofSeveralDays);
-        ActAsIfThereWere(1'000'000, ofSeveralDays);
+        ActAsIfThereWere(1'000'000, GetParam(), ofSeveralDays);
         ExpectItGoesByTheEnd(PlansOf(Data()));
     }
 }

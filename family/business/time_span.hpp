@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/date_time.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/stores/work_tables.hpp"
 
 namespace kova::family {
 
@@ -19,6 +20,17 @@ inline TimeSpan ReadIsoSpan(std::string_view startDate, std::string_view startTi
                             std::string_view endTime)
 {
     return {ReadIsoMoment(startDate, startTime), ReadIsoMoment(endDate, endTime)};
+}
+
+/// What a span takes of a day; empty where it is elsewhere, and on the last one where it ends at midnight.
+inline PartOfDay PartOn(Date date, const TimeSpan& span)
+{
+    constexpr int MinutesOfDay = 24 * 60;
+    const auto minutesOf = [](TimeOfDay time) { return 60 * time.hour + time.minute; };
+    if (date < span.start.date || date > span.end.date)
+        return {};
+    return {date == span.start.date ? minutesOf(span.start.time) : 0,
+            date == span.end.date ? minutesOf(span.end.time) : MinutesOfDay};
 }
 
 /// The same hours on other days.
