@@ -37,6 +37,10 @@ struct KnownTable {
 };
 constexpr KnownTable Tables[] = {
     {"agendamento", "Agendamentos", "o agendamento"},
+    {"lista_de_espera", "Lista de espera", "o pedido da lista de espera"},
+    {"espera_servico", "Serviços da lista de espera", "o serviço do pedido da lista de espera"},
+    {"espera_funcionario", "Funcionários da lista de espera",
+     "o(a) funcionário(a) do pedido da lista de espera"},
     {"cliente", "Clientes", "o cliente"},
     {"animal", "Animais", "o animal"},
     {"canal_de_comunicacao", "Canais de comunicação", "o canal de comunicação"},

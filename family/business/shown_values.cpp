@@ -33,6 +33,30 @@ std::string ShownStatus(int status)
     }
 }
 
+std::string ShownWaitingStatus(int status)
+{
+    switch (status) {
+    case 1: return "Esperando";
+    case 2: return "Sendo marcado";
+    case 3: return "Marcado";
+    case 4: return "Desistiu";
+    default: return "";
+    }
+}
+
+std::string ShownWeekdays(std::string_view digits)
+{
+    constexpr std::string_view Names[] = {"dom", "seg", "ter", "qua", "qui", "sex", "sáb"};
+    if (digits == "1234567")
+        return "todos";
+    std::string shown;
+    for (const char digit : digits) {
+        if (digit >= '1' && digit <= '7')
+            shown.append(shown.empty() ? "" : ", ").append(Names[digit - '1']);
+    }
+    return shown;
+}
+
 std::string YesOrNo(bool yes) { return yes ? "Sim" : "Não"; }
 
 std::string ShownMoney(long long cents)

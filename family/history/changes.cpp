@@ -6,6 +6,7 @@
 #include "family/business/shown_values.hpp"
 #include "family/data/audit/audit.hpp"
 #include "family/data/engine/iso_text.hpp"
+#include "family/data/rows/waiting_rows.hpp"
 #include "family/data/stores/appointment_rows.hpp"
 #include "family/data/stores/appointment_status.hpp"
 #include "family/data/stores/register_names.hpp"
@@ -15,7 +16,7 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <iterator>
+#include <span>
 
 namespace kova::family::history {
 
@@ -41,6 +42,20 @@ std::string ServiceOf(Database& database, const std::string& kept)
 std::string CustomerOf(Database& database, const std::string& kept)
 {
     return NamedCustomer(database, Number(kept));
+}
+std::string AnimalOf(Database& database, const std::string& kept)
+{
+    return NamedAnimal(database, Number(kept));
+}
+std::string EmployeeOf(Database& database, const std::string& kept)
+{
+    return NamedEmployee(database, Number(kept));
+}
+std::string DateOf(Database&, const std::string& kept) { return IsIsoDate(kept) ? ShownDate(kept) : kept; }
+std::string WeekdaysOf(Database&, const std::string& kept) { return ShownWeekdays(kept); }
+std::string WaitingStatusOf(Database&, const std::string& kept)
+{
+    return ShownWaitingStatus(static_cast<int>(Number(kept)));
 }
 std::string RightOf(Database&, const std::string& kept)
 {
@@ -110,6 +125,28 @@ constexpr OtherColumn Others[] = {
     {"importacao", "Importação", AsItIs},
     {UndoneLineColumn, "Desfaz", UndoneBy},
 };
+
+/// The same of the waiting list, where some columns are called as others elsewhere.
+constexpr OtherColumn OfWaitingList[] = {
+    {"situacao", "Situação", WaitingStatusOf}, {"codigo_do_animal", "Animal", AnimalOf},
+    {"data_inicial", "Do dia", DateOf},        {"data_final", "Até o dia", DateOf},
+    {"dias_da_semana", "Dias", WeekdaysOf},    {"hora_inicial", "Das", AsItIs},
+    {"hora_final", "Até as", AsItIs},          {"observacao", "Observação", AsItIs},
+    {"codigo_da_espera", "Pedido", AsItIs},    {"codigo_do_funcionario", "Funcionário(a)", EmployeeOf},
+};
+
+/// Null where nothing is known of it.
+const OtherColumn* KnownColumn(std::string_view table, std::string_view column)
+{
+    const auto in = [&](std::span<const OtherColumn> columns) -> const OtherColumn* {
+        const auto found = std::ranges::find(columns, column, &OtherColumn::column);
+        return found == columns.end() ? nullptr : &*found;
+    };
+    const bool isOfWaitingList =
+        table == WaitingRow::Table || table == WaitingServiceRow::Table || table == WaitingEmployeeRow::Table;
+    const OtherColumn* known = isOfWaitingList ? in(OfWaitingList) : nullptr;
+    return known != nullptr ? known : in(Others);
+}
 
 /// What follows from other columns, or is told by the line itself.
 bool IsToldElsewhere(std::string_view column)
@@ -226,8 +263,8 @@ private:
             return;
         told_.emplace_back(column);
         const std::string before = Kept(line_.audit.before, column), after = Kept(line_.audit.after, column);
-        const auto known = std::ranges::find(Others, column, &OtherColumn::column);
-        if (known == std::end(Others))
+        const OtherColumn* const known = KnownColumn(line_.table, column);
+        if (known == nullptr)
             return Add(CaptionOf(column), before, after);
         const auto show = [&](const std::string& kept) {
             return kept.empty() ? std::string() : known->show(database_, kept);

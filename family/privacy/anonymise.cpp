@@ -15,6 +15,7 @@
 #include "family/data/rows/select_where.hpp"
 #include "family/data/rows/update_row.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/stores/waiting_list.hpp"
 #include "family/privacy/affected.hpp"
 #include "family/privacy/clean_values.hpp"
 #include "family/privacy/cleaned_archive.hpp"
@@ -141,12 +142,15 @@ public:
         database_.With<ChannelRemoval>([&](ChannelRemoval& removal) { removal.Run(person_->code); });
         for (const AppointmentRow& row : affected_.all)
             WriteAppointment(row.numero);
+        for (const WaitingRow& row : FindWaitingOf(database_, person_->code))
+            WriteWaiting(row.codigo);
         WriteLines();
         Tell(author,
              AuditValues()
                  .Add("canais", answer.channels)
                  .Add("animais", answer.animals)
-                 .Add("agendamentos", answer.appointments));
+                 .Add("agendamentos", answer.appointments)
+                 .Add("pedidos_na_lista_de_espera", answer.waiting));
     }
 
     /// What the archive's lines are to be, after Write.
@@ -190,6 +194,7 @@ private:
         answer.channels = static_cast<long long>(RowsOf<ChannelOfPerson>(database_, person_->code).size());
         answer.animals = static_cast<long long>(RowsOf<AnimalOfPerson>(database_, person_->code).size());
         answer.appointments = static_cast<long long>(affected_.all.size());
+        answer.waiting = static_cast<long long>(FindWaitingOf(database_, person_->code).size());
         answer.auditLines = static_cast<long long>(lines_.size() + archived_.size());
         answer.undecided = affected_.undecided;
         return answer;
@@ -202,13 +207,14 @@ private:
 
     void CollectLines(const LongWork& work)
     {
-        std::set<Key> numbers;
+        LinesOfPerson::Rows rows;
         for (const AppointmentRow& row : affected_.all)
-            numbers.insert(row.numero);
-        std::set<Key> animals;
+            rows.appointments.insert(row.numero);
         for (const AnimalRow& animal : RowsOf<AnimalOfPerson>(database_, person_->code))
-            animals.insert(animal.codigo);
-        LinesOfPerson judge(*person_, numbers, animals);
+            rows.animals.insert(animal.codigo);
+        for (const WaitingRow& row : FindWaitingOf(database_, person_->code))
+            rows.waiting.insert(row.codigo);
+        LinesOfPerson judge(*person_, rows);
         if (archive_ && lastLine_ == 0)
             VisitAudit(*archive_, 0, work,
                        [&](const StoredAuditLine& line) { Collect(judge, line, archived_); });
@@ -269,6 +275,21 @@ private:
         CleanRow(row);
         row.Compose();
         if (IsSame<AppointmentRow>(*stored, row))
+            return;
+        ++row.versao;
+        Update(database_, row);
+    }
+
+    void WriteWaiting(Key code)
+    {
+        const auto stored = LockWaiting(database_, code);
+        if (!stored)
+            return;
+        WaitingRow row = stored->row;
+        CleanRow(row);
+        if (waiting_status::IsOpen(row.situacao))
+            row.situacao = waiting_status::GivenUp;
+        if (IsSame(stored->row, row))
             return;
         ++row.versao;
         Update(database_, row);

@@ -34,7 +34,7 @@ struct AnonymiseAnswer {
     std::string text{};
     /// What was changed, or would be; of the appointments all that are his, also those that tell nothing
     /// about him.
-    long long channels = 0, animals = 0, appointments = 0, auditLines = 0;
+    long long channels = 0, animals = 0, appointments = 0, waiting = 0, auditLines = 0;
     /// Appointments for which the name alone speaks, where nothing was decided about them.
     std::vector<Key> undecided{};
     /// Why former values stay in the database's file for now; else empty.
@@ -49,12 +49,12 @@ AnonymiseAnswer PlanToAnonymise(const std::string& source, const AnonymiseReques
 
 /// Takes from every table of the shop at `source`, the audit included, what tells who a customer is, in one
 /// transaction: names become nobody's, texts are emptied, contact channels go, the customer becomes deleted
-/// and its animals inactive. Appointments, dates, services, employees and values stay. Refused where booked
-/// appointments are still to come or pre-sales are open, and on a server to whoever may not change the audit.
-/// A line of the audit tells who did it, when, whose code it was, and which lines were cleaned. The
-/// lines of the shop's archive are cleaned as well; where it is not found, `remains` says so. Afterwards
-/// what the engine has kept of the former values is taken away. Fails with a DatabaseFailure, and with
-/// RightDenied where the author may not; nothing is written then.
+/// and its animals inactive, and what it waits for is given up. Appointments, dates, services, employees and
+/// values stay. Refused where booked appointments are still to come or pre-sales are open, and on a server to
+/// whoever may not change the audit. A line of the audit tells who did it, when, whose code it was, and which
+/// lines were cleaned. The lines of the shop's archive are cleaned as well; where it is not found, `remains`
+/// says so. Afterwards what the engine has kept of the former values is taken away. Fails with a
+/// DatabaseFailure, and with RightDenied where the author may not; nothing is written then.
 AnonymiseAnswer Anonymise(const std::string& source, const AnonymiseRequest& request, const Author& author,
                           const LongWork& work);
 

@@ -29,6 +29,9 @@ std::string CountsInWords(const AnonymiseAnswer& answer)
     return Counted(answer.channels, "canal de comunicação", "canais de comunicação") + ", "
         + Counted(answer.animals, "animal", "animais") + ", "
         + Counted(answer.appointments, "agendamento", "agendamentos") + ", "
+        + (answer.waiting == 0
+               ? std::string()
+               : Counted(answer.waiting, "pedido da lista de espera", "pedidos da lista de espera") + ", ")
         + Counted(answer.auditLines, "linha da auditoria", "linhas da auditoria");
 }
 

@@ -5,6 +5,7 @@
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/people_rows.hpp"
 #include "family/data/rows/select_rows.hpp"
+#include "family/data/rows/waiting_rows.hpp"
 
 #include <algorithm>
 
@@ -102,14 +103,14 @@ std::string ValueOf(const AuditedValues& values, std::string_view column)
     return {};
 }
 
-LinesOfPerson::LinesOfPerson(const Person& person, const std::set<Key>& appointments,
-                             const std::set<Key>& animals)
-    : person_(person)
+LinesOfPerson::LinesOfPerson(const Person& person, const Rows& rows) : person_(person)
 {
-    for (const Key number : appointments)
+    for (const Key number : rows.appointments)
         rows_[{AppointmentRow::Table, number}] = Likeness::Contact;
-    for (const Key code : animals)
+    for (const Key code : rows.animals)
         rows_[{AnimalRow::Table, code}] = Likeness::Contact;
+    for (const Key code : rows.waiting)
+        rows_[{WaitingRow::Table, code}] = Likeness::Contact;
 }
 
 Likeness LinesOfPerson::Of(const StoredAuditLine& line, const Nullable<std::string>& text)

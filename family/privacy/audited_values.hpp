@@ -21,7 +21,7 @@ struct StoredAuditLine {
     static constexpr const char* Table = "auditoria";
     /// Written so that the lines are gone through in their order.
     static constexpr const char* Condition =
-        "tabela || '' in ('cliente', 'canal_de_comunicacao', 'animal', 'agendamento')";
+        "tabela || '' in ('cliente', 'canal_de_comunicacao', 'animal', 'agendamento', 'lista_de_espera')";
     Key codigo = 0;
     std::string momento, usuario, tabela;
     Key chave = 0;
@@ -64,8 +64,12 @@ std::string ValueOf(const AuditedValues& values, std::string_view column);
 /// after: a row of which a line does not say whose it is, since that has not changed, is whose it was before.
 class LinesOfPerson {
 public:
-    /// The numbers of the appointments and the codes of the animals that are his today.
-    LinesOfPerson(const Person& person, const std::set<Key>& appointments, const std::set<Key>& animals);
+    /// The keys of the rows that are his today.
+    struct Rows {
+        std::set<Key> appointments, animals, waiting;
+    };
+
+    LinesOfPerson(const Person& person, const Rows& rows);
 
     /// What speaks for it that the values which a line keeps, before or after, are of the person's rows:
     /// Contact where they are of his registered ones.

@@ -4,6 +4,7 @@
 #include "family/data/rows/select_rows.hpp"
 #include "family/data/rows/select_where.hpp"
 #include "family/data/stores/register_names.hpp"
+#include "family/data/stores/waiting_list.hpp"
 #include "family/privacy/audited_values.hpp"
 #include "family/privacy/personal_columns.hpp"
 #include "family/registers/registers.hpp"
@@ -39,6 +40,7 @@ public:
         ReadRegisters();
         ReadAppointments();
         ReadSales();
+        ReadWaiting();
         ReadChanges(work);
         return std::move(data_);
     }
@@ -93,6 +95,25 @@ private:
         });
     }
 
+    void ReadWaiting()
+    {
+        for (const WaitingRow& row : FindWaitingOf(database_, person_.code)) {
+            const std::optional<WaitingEntry> entry = FindWaiting(database_, row.codigo);
+            if (entry)
+                data_.waiting.push_back({row, NamedAnimal(database_, row.codigoDoAnimal),
+                                         Named(entry->services, NamedService),
+                                         Named(entry->employees, NamedEmployee)});
+        }
+    }
+
+    std::string Named(const std::set<Key>& codes, std::string (*name)(Database&, Key))
+    {
+        std::string names;
+        for (const Key code : codes)
+            names += (names.empty() ? "" : ", ") + name(database_, code);
+        return names;
+    }
+
     std::set<Key> HisNumbers() const
     {
         std::set<Key> numbers;
@@ -108,7 +129,10 @@ private:
     void ReadChanges(const LongWork& work)
     {
         constexpr Key FromTheFirst = 0;
-        LinesOfPerson lines(person_, HisNumbers(), animals_);
+        LinesOfPerson::Rows rows{HisNumbers(), animals_, {}};
+        for (const PersonWaiting& waiting : data_.waiting)
+            rows.waiting.insert(waiting.row.codigo);
+        LinesOfPerson lines(person_, rows);
         VisitAudit(database_, FromTheFirst, work, [&](const StoredAuditLine& line) {
             AuditedValues before = HisValues(lines, line, line.antes);
             AuditedValues after = HisValues(lines, line, line.depois);

@@ -2,6 +2,7 @@
 
 #include "family/data/engine/long_work.hpp"
 #include "family/data/rows/people_rows.hpp"
+#include "family/data/rows/waiting_rows.hpp"
 #include "family/privacy/person.hpp"
 #include "family/registers/description/field.hpp"
 
@@ -25,6 +26,13 @@ struct PersonPackage {
     PackageRow row;
     /// "CODE - NAME"
     std::string service;
+};
+
+/// What the person waits for, or has waited for.
+struct PersonWaiting {
+    WaitingRow row;
+    /// "CODE - NAME", the latter two with commas between; no employee is anybody.
+    std::string animal, services, employees;
 };
 
 /// A write of one of the person's rows, as the audit tells of it.
@@ -54,6 +62,7 @@ struct PersonData {
     std::vector<PersonAppointment> appointments, likely;
     std::vector<PersonPackage> packages;
     std::vector<PreSaleRow> preSales;
+    std::vector<PersonWaiting> waiting;
     /// Oldest first; of the likely ones only of those that are taken for his.
     std::vector<PersonChange> changes;
 };

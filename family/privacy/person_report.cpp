@@ -15,6 +15,11 @@ using registers::Texts;
 
 std::string Shown(const Nullable<std::string>& text) { return text.IsNull() ? std::string() : text.value; }
 
+std::string NumberOrNothing(const Nullable<Key>& number)
+{
+    return number.IsNull() ? std::string() : std::to_string(number.value);
+}
+
 ReportRecord RecordOf(const Register& of, const Texts& texts)
 {
     ReportRecord record;
@@ -75,7 +80,7 @@ void AddTypedTexts(const AppointmentRow& row, ReportRecord& record)
 
 void AddRest(const AppointmentRow& row, ReportRecord& record)
 {
-    record.push_back({"Pacote", row.codigoDoPacote.IsNull() ? "" : std::to_string(row.codigoDoPacote.value)});
+    record.push_back({"Pacote", NumberOrNothing(row.codigoDoPacote)});
     record.push_back({"Observação", Shown(row.observacao)});
     record.push_back({"Buscar", YesOrNo(row.transporteBuscar != 0)});
     record.push_back({"Levar", YesOrNo(row.transporteLevar != 0)});
@@ -168,6 +173,30 @@ ReportGroup PreSales(const PersonData& data)
     return group;
 }
 
+ReportGroup WaitingList(const PersonData& data)
+{
+    ReportGroup group{"Lista de espera", {}, {}};
+    for (const PersonWaiting& one : data.waiting)
+        group.records.push_back(
+            {{"Código", std::to_string(one.row.codigo)},
+             {"Animal", one.animal},
+             {"Serviços", one.services},
+             {"Funcionários", one.employees},
+             {"Do dia", ShownDate(one.row.dataInicial)},
+             {"Até o dia", ShownDate(one.row.dataFinal)},
+             {"Dias da semana", ShownWeekdays(one.row.diasDaSemana)},
+             {"Das", one.row.horaInicial},
+             {"Até as", one.row.horaFinal},
+             {"Observação", Shown(one.row.observacao)},
+             {"Situação", ShownWaitingStatus(one.row.situacao)},
+             {"Agendamento", NumberOrNothing(one.row.numeroDoAgendamento)},
+             {"Incluído em", ShownMoment(one.row.incluidoEm)},
+             {"Incluído por", one.row.incluidoPor},
+             {"Alterado em", one.row.alteradoEm.IsNull() ? "" : ShownMoment(one.row.alteradoEm.value)},
+             {"Alterado por", Shown(one.row.alteradoPor)}});
+    return group;
+}
+
 ReportEntry Values(const char* label, const std::vector<std::pair<std::string, std::string>>& values)
 {
     ReportEntry entry{label, {}, {}, true};
@@ -201,8 +230,9 @@ PersonReport InWords(const PersonData& data, DateTime now)
     report.heading = {{"Loja", data.shop},
                       {"Gerado em", ShownMoment(IsoMoment(now))},
                       {"Código do cliente", std::to_string(data.code)}};
-    report.groups = {Customer(data),           Channels(data), Animals(data),  Appointments(data),
-                     LikelyAppointments(data), Packages(data), PreSales(data), Changes(data)};
+    report.groups = {Customer(data),     Channels(data),           Animals(data),
+                     Appointments(data), LikelyAppointments(data), Packages(data),
+                     PreSales(data),     WaitingList(data),        Changes(data)};
     return report;
 }
 

@@ -35,6 +35,15 @@ constexpr ColumnsThatHold Columns[] = {
     {"agendamento", Holds::Staff, "incluido_por alterado_por"},
     {"agendamento", Holds::NoPerson, "versao"},
 
+    {"lista_de_espera", Holds::Figure,
+     "codigo codigo_do_cliente codigo_do_animal data_inicial data_final dias_da_semana hora_inicial"
+     " hora_final situacao numero_do_agendamento incluido_em alterado_em"},
+    {"lista_de_espera", Holds::OptionalText, "observacao"},
+    {"lista_de_espera", Holds::Staff, "incluido_por alterado_por"},
+    {"lista_de_espera", Holds::NoPerson, "versao"},
+    {"espera_servico", Holds::Figure, "codigo codigo_da_espera codigo_do_servico"},
+    {"espera_funcionario", Holds::Figure, "codigo codigo_da_espera codigo_do_funcionario"},
+
     {"pacote", Holds::Figure, "codigo codigo_do_servico criado_em"},
     {"pacote", Holds::Staff, "criado_por"},
     {"pre_venda", Holds::Figure, "codigo numero_do_agendamento valor_em_centavos situacao criada_em"},

@@ -90,6 +90,22 @@ constexpr Rule Rules[] = {
     {"papel", "codigo", "trim(nome) = ''", "falta o nome."},
     {"papel_direito", "codigo", "direito not like '_%._%'", "o direito não é um nome com um ponto."},
     {"ajuste", "codigo", "trim(nome) = ''", "falta o nome."},
+    {"lista_de_espera", "codigo", "data_final < data_inicial", "o último dia é anterior ao primeiro."},
+    {"lista_de_espera", "codigo", "dias_da_semana = '' or trim(dias_da_semana, '1234567') <> ''",
+     "os dias da semana não existem."},
+    {"lista_de_espera", "codigo", "hora_final <= hora_inicial", "o fim não é posterior ao início."},
+    {"lista_de_espera", "codigo", "situacao not between 1 and 4", "a situação não existe."},
+    {"lista_de_espera", "codigo",
+     "(situacao = 3 and numero_do_agendamento is null)"
+     " or (situacao <> 3 and numero_do_agendamento is not null)",
+     "falta o agendamento, ou não foi marcado e tem um."},
+    {"lista_de_espera", "codigo",
+     "exists (select 1 from animal a where a.codigo = lista_de_espera.codigo_do_animal"
+     " and a.codigo_do_cliente <> lista_de_espera.codigo_do_cliente)",
+     "o animal não é do cliente."},
+    {"lista_de_espera", "codigo",
+     "not exists (select 1 from espera_servico s where s.codigo_da_espera = lista_de_espera.codigo)",
+     "falta o serviço."},
 };
 
 /// The rows come in pages.

@@ -39,6 +39,12 @@ constexpr DatedColumn DatedColumns[] = {
     {"ausencia", "codigo", "hora_inicial", IsIsoTime},
     {"ausencia", "codigo", "data_final", IsIsoDate},
     {"ausencia", "codigo", "hora_final", IsIsoEndTime},
+    {"lista_de_espera", "codigo", "data_inicial", IsIsoDate},
+    {"lista_de_espera", "codigo", "hora_inicial", IsIsoTime},
+    {"lista_de_espera", "codigo", "data_final", IsIsoDate},
+    {"lista_de_espera", "codigo", "hora_final", IsIsoEndTime},
+    {"lista_de_espera", "codigo", "incluido_em", IsIsoMoment},
+    {"lista_de_espera", "codigo", "alterado_em", IsIsoMoment},
 };
 
 struct NamedTable {

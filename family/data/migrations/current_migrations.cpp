@@ -20,6 +20,7 @@ constexpr Migration Steps[] = {
     {11, SchemaOfVersion11},
     {12, SchemaOfVersion12, HoldRulesOfVersion12},
     {13, SchemaOfVersion13},
+    {14, SchemaOfVersion14, HoldRulesOfVersion14},
 };
 
 } // namespace

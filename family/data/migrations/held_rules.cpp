@@ -104,6 +104,22 @@ constexpr RowRule OfSettings[] = {
     {"nome", "trim(@nome) = ''", "falta o nome"},
 };
 
+constexpr RowRule OfWaitingList[] = {
+    {"dias", "@data_final < @data_inicial", "o último dia é anterior ao primeiro"},
+    {"semana", "@dias_da_semana = '' or trim(@dias_da_semana, '1234567') <> ''",
+     "os dias da semana não existem"},
+    {"horas",
+     "@hora_inicial not like '__:__' or @hora_final not like '__:__' or @hora_inicial < '00:00'"
+     " or @hora_final > '24:00'",
+     "o início ou o fim não é uma hora do dia"},
+    {"fim", "@hora_final <= @hora_inicial", "o fim não é posterior ao início"},
+    {"situacao", "@situacao not between 1 and 4", "a situação não existe"},
+    {"agendamento",
+     "(@situacao = 3 and @numero_do_agendamento is null)"
+     " or (@situacao <> 3 and @numero_do_agendamento is not null)",
+     "falta o agendamento, ou não foi marcado e tem um"},
+};
+
 constexpr const char* ColumnsOfHours = "dia_da_semana, hora_inicial, hora_final";
 
 /// The rules of a table, held from a version on.
@@ -134,6 +150,10 @@ constexpr HeldTable Tables[] = {
     {9, {"usuario", "nome, situacao, codigo_do_papel, senha, pin", OfUsers}},
     {9, {"tentativa_de_entrada", "erros, ultimo_erro", OfTries}},
     {12, {"ajuste", "nome", OfSettings}},
+    {14,
+     {"lista_de_espera",
+      "data_inicial, data_final, dias_da_semana, hora_inicial, hora_final, situacao, numero_do_agendamento",
+      OfWaitingList}},
 };
 
 bool HasBrokenRow(soci::session& session, const TableRules& table, const RowRule& rule)

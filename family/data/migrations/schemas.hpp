@@ -44,5 +44,9 @@ std::vector<std::string> SchemaOfVersion12(const Dialect& dialect);
 void HoldRulesOfVersion12(soci::session& session, const Dialect& dialect);
 /// Keeps the audit small: no index has what nearly all lines have, and links are shorter from then on.
 std::vector<std::string> SchemaOfVersion13(const Dialect& dialect);
+/// The waiting list.
+std::vector<std::string> SchemaOfVersion14(const Dialect& dialect);
+/// Holds its rows to their rules.
+void HoldRulesOfVersion14(soci::session& session, const Dialect& dialect);
 
 } // namespace kova::family

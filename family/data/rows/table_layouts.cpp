@@ -34,6 +34,9 @@ constexpr StoredTable Tables[] = {
     {"tentativa_de_entrada", "identificador", 9, false},
     {"elo_da_auditoria", "ordem", 10, false},
     {"ajuste", "codigo", 12},
+    {"lista_de_espera", "codigo", 14},
+    {"espera_servico", "codigo", 14},
+    {"espera_funcionario", "codigo", 14},
 };
 
 constexpr Reference AllReferences[] = {
@@ -53,6 +56,12 @@ constexpr Reference AllReferences[] = {
     {"agendamento", "codigo_do_pacote", "pacote", "codigo"},
     {"horario_do_funcionario", "codigo_do_funcionario", "funcionario", "codigo"},
     {"ausencia", "codigo_do_funcionario", "funcionario", "codigo"},
+    {"lista_de_espera", "codigo_do_cliente", "cliente", "codigo"},
+    {"lista_de_espera", "codigo_do_animal", "animal", "codigo"},
+    {"espera_servico", "codigo_da_espera", "lista_de_espera", "codigo"},
+    {"espera_servico", "codigo_do_servico", "servico", "codigo"},
+    {"espera_funcionario", "codigo_da_espera", "lista_de_espera", "codigo"},
+    {"espera_funcionario", "codigo_do_funcionario", "funcionario", "codigo"},
 };
 
 } // namespace

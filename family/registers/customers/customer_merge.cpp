@@ -10,6 +10,7 @@
 #include "family/data/rows/select_where.hpp"
 #include "family/data/rows/update_row.hpp"
 #include "family/data/stores/appointment_store.hpp"
+#include "family/data/stores/waiting_list.hpp"
 #include "family/registers/customers/customer_registers.hpp"
 #include "family/registers/customers/merged_customer.hpp"
 #include "family/registers/description/field_merge.hpp"
@@ -123,6 +124,7 @@ public:
                         + OfRegister.lookAgain};
         MoveAnimals();
         MoveAppointments();
+        MoveWaiting();
         RemoveJoinedAnimals();
         MoveFields(*now);
         AuditMerging(database_, author_, CustomerRow::Table, plan_.kept, plan_.other,
@@ -218,6 +220,28 @@ private:
             moved.codigoDoAnimal = kept->second;
         ReplaceAppointment(database_, stored, moved, author_);
         ++answer_.appointments;
+    }
+
+    void MoveWaiting()
+    {
+        std::set<Key> codes, animals;
+        for (const auto& [other, kept] : replaced_)
+            animals.insert(other);
+        for (const WaitingRow& row : FindWaitingOf(database_, plan_.other))
+            codes.insert(row.codigo);
+        for (const WaitingRow& row : FindWaitingFor(database_, animals))
+            codes.insert(row.codigo);
+        for (const Key code : codes) {
+            const auto stored = LockWaiting(database_, code);
+            if (!stored)
+                continue;
+            WaitingRow moved = stored->row;
+            if (moved.codigoDoCliente == plan_.other)
+                moved.codigoDoCliente = plan_.kept;
+            if (const auto kept = replaced_.find(moved.codigoDoAnimal); kept != replaced_.end())
+                moved.codigoDoAnimal = kept->second;
+            ReplaceWaiting(database_, stored->row, std::move(moved), author_);
+        }
     }
 
     void RemoveJoinedAnimals()

@@ -136,14 +136,17 @@ bool ReadsWholeTable(const std::string& plan)
     // The letters are the names that statements give to these tables.
     static const std::regex inFile("(^|\\n)SCAN "
                                    "(agendamento|cliente|animal|auditoria|elo_da_auditoria|pre_venda|pacote|"
-                                   "canal_de_comunicacao|a|c|n|p)\\b");
+                                   "canal_de_comunicacao|lista_de_espera|espera_servico|espera_funcionario|"
+                                   "a|c|n|p)\\b");
     static const std::regex onServer(
         "Seq Scan on "
-        "(agendamento|cliente|animal|auditoria|elo_da_auditoria|pre_venda|pacote|canal_de_comunicacao)\\b");
+        "(agendamento|cliente|animal|auditoria|elo_da_auditoria|pre_venda|pacote|canal_de_comunicacao"
+        "|lista_de_espera|espera_servico|espera_funcionario)\\b");
     // An index from its one end to the other: no condition in the line behind.
     static const std::regex wholeIndex(
         "Scan using \\w+ on "
-        "(agendamento|cliente|animal|auditoria|elo_da_auditoria|pre_venda|pacote)\\b[^\\n]*\\n"
+        "(agendamento|cliente|animal|auditoria|elo_da_auditoria|pre_venda|pacote|lista_de_espera"
+        "|espera_servico|espera_funcionario)\\b[^\\n]*\\n"
         "(?!\\s*Index Cond)");
     return std::regex_search(plan, inFile) || std::regex_search(plan, onServer)
         || std::regex_search(plan, wholeIndex);
@@ -200,6 +203,15 @@ void BigShopTest::AddTheRest()
            "1000 + i, 1000 + i, 'A', 'M', 1, 2, '', cast(900000000000000 + i as text), 'a'", NewCustomers);
     insert("pacote (codigo, codigo_do_servico, criado_em, criado_por)",
            "1000 + i, 2, '2026-11-01 09:00:00', 'Carla'", NewAppointments / 5);
+    insert("lista_de_espera (codigo, codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+           " dias_da_semana, hora_inicial, hora_final, situacao, numero_do_agendamento, incluido_em,"
+           " incluido_por)",
+           "1000 + i, 1000 + i, 1000 + i, '2022-01-01', " + std::string(DayOfRow)
+               + ", '1234567', '08:00', '18:00', case when i % 100 = 0 then 1 else 3 end,"
+                 " case when i % 100 = 0 then null else 5 end, '2026-11-01 09:00:00', 'Carla'",
+           NewCustomers);
+    insert("espera_servico (codigo_da_espera, codigo_do_servico)", "1000 + i, 2", NewCustomers);
+    insert("espera_funcionario (codigo_da_espera, codigo_do_funcionario)", "1000 + i, 2", NewCustomers);
     Run("update agendamento set codigo_do_cliente = 1000 + numero, codigo_do_animal = 1000 + numero"
         " where numero > 100");
     Run("update agendamento set codigo_do_pacote = 1000 + numero / 10 where numero > 100 and numero % 2 = 0");

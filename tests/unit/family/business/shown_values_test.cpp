@@ -24,6 +24,14 @@ TEST(ShownMoney, HasTwoDecimalsAndAPointBeforeEachThreeDigits)
         EXPECT_EQ(ShownMoney(cents), shown);
 }
 
+TEST(ShownWeekdays, AreTheirShortNames)
+{
+    EXPECT_EQ(ShownWeekdays("1"), "dom");
+    EXPECT_EQ(ShownWeekdays("247"), "seg, qua, sáb");
+    EXPECT_EQ(ShownWeekdays("1234567"), "todos");
+    EXPECT_EQ(ShownWeekdays("09x"), "");
+}
+
 TEST(ShownSex, IsAWordForItsLetterAndEverythingElseAsItIs)
 {
     EXPECT_EQ(ShownSex("M"), "Macho");

@@ -13,6 +13,7 @@
 #include "family/business/registers/service_types.hpp"
 #include "family/business/registers/services.hpp"
 #include "family/business/registers/species.hpp"
+#include "family/data/stores/waiting_list.hpp"
 
 #include <algorithm>
 #include <set>
@@ -84,6 +85,9 @@ protected:
         ASSERT_EQ(Write(*DeskTest::Desk(21, 3), "AlterarSituacaoDoAgendamentoNoPacoteDeBanhoETosa"), 0);
         ASSERT_EQ(Write(*DeskTest::Desk(SimplifiedNumber, 0), "Excluir"), 0);
         ASSERT_FALSE(HistoryOf(Data(), FullNumber).empty());
+        ASSERT_FALSE(FindOpenWaiting(Data(), "2026-11-20").empty());
+        ASSERT_TRUE(FindWaitingOf(Data(), 10).empty());
+        ASSERT_TRUE(FindWaitingFor(Data(), {50}).empty());
         ASSERT_TRUE(RestoreAppointment(Data(), SimplifiedNumber, marcos_).IsDone());
     }
 

@@ -134,6 +134,21 @@ TEST_F(HistoryChanges, OfAPreSaleAreItsStatesInWords)
     EXPECT_EQ(Changes(Find(preSales).front()), (Lines{"Situação: Aberta > Faturada"}));
 }
 
+TEST_F(HistoryChanges, OfTheWaitingListAreToldInWords)
+{
+    Run("insert into auditoria (momento, usuario, tabela, chave, operacao, antes, depois) values"
+        " ('2026-11-20 11:00:00', '7 - Lia', 'lista_de_espera', 5, 'alteracao', "
+        "'{\"data_inicial\":\"2026-12-01\",\"dias_da_semana\":\"23456\",\"situacao\":1,\"versao\":1}',"
+        "'{\"data_inicial\":\"2026-12-02\",\"dias_da_semana\":\"1234567\",\"situacao\":4,\"versao\":2}'),"
+        " ('2026-11-20 11:00:01', '7 - Lia', 'espera_funcionario', 6, 'exclusao', "
+        "'{\"codigo\":6,\"codigo_da_espera\":5,\"codigo_do_funcionario\":2}', null)");
+    EXPECT_EQ(Changes(Newest("lista_de_espera", 5)),
+              (Lines{"Do dia: 01/12/2026 > 02/12/2026", "Dias: seg, ter, qua, qui, sex > todos",
+                     "Situação: Esperando > Desistiu"}));
+    EXPECT_EQ(Changes(Newest("espera_funcionario", 6)),
+              (Lines{"Pedido: 5 > ", "Funcionário(a): 2 - Bia > "}));
+}
+
 TEST_F(HistoryChanges, OfWhatNoFormHasAreCalledByWords)
 {
     const std::pair<const char*, const char*> captions[] = {

@@ -10,6 +10,7 @@
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/appointment_rows.hpp"
+#include "family/data/stores/waiting_list.hpp"
 #include "family/privacy/anonymise.hpp"
 #include "family/privacy/person_files.hpp"
 #include "family/registers/customers/customer_merge.hpp"
@@ -135,7 +136,8 @@ TEST_F(AnonymousCustomer, HasALineOfTheAuditThatNamesNobody)
               " coalesce(antes, '-') || '|' || depois from auditoria where operacao = 'anonimizacao'"),
         std::vector<std::string>{
             "2026-12-01 10:00:00|3 - Ana|BALCAO-1|cliente|10|-|{\"canais\":2,\"animais\":1,"
-            "\"agendamentos\":6,\"linhas_da_auditoria\":1,\"linhas_limpas\":\"1\"}"});
+            "\"agendamentos\":6,\"pedidos_na_lista_de_espera\":1,\"linhas_da_auditoria\":1,\"linhas_limpas\":"
+            "\"1\"}"});
 }
 
 TEST_F(AnonymousCustomer, LeavesTheChainOfTheAuditWhole)
@@ -148,8 +150,9 @@ TEST_F(AnonymousCustomer, LeavesTheChainOfTheAuditWhole)
     ASSERT_EQ(broken(), std::vector<std::string>{});
     ASSERT_TRUE(Forget().IsDone());
     EXPECT_EQ(Texts("select depois from auditoria where operacao = 'anonimizacao'"),
-              std::vector<std::string>{"{\"canais\":2,\"animais\":1,\"agendamentos\":5,"
-                                       "\"linhas_da_auditoria\":2,\"linhas_limpas\":\"1,3\"}"});
+              std::vector<std::string>{
+                  "{\"canais\":2,\"animais\":1,\"agendamentos\":5,\"pedidos_na_lista_de_espera\":1,"
+                  "\"linhas_da_auditoria\":2,\"linhas_limpas\":\"1,3\"}"});
     EXPECT_EQ(broken(), std::vector<std::string>{});
     EXPECT_EQ(Texts("select codigo_da_linha || ' ' || ordem from elo_da_auditoria where sal = ''"
                     " order by ordem"),
@@ -159,6 +162,28 @@ TEST_F(AnonymousCustomer, LeavesTheChainOfTheAuditWhole)
     EXPECT_EQ(broken(), std::vector<std::string>{});
     RunUnchecked(host_.DataSource(), "update auditoria set antes = '{}' where codigo = 3");
     EXPECT_EQ(broken().front(), "auditoria 3: a linha foi alterada depois de gravada.");
+}
+
+TEST_F(AnonymousCustomer, WaitsForNothingAnyMore)
+{
+    ASSERT_EQ(Texts("select situacao || ' ' || versao || ' ' || observacao from lista_de_espera"),
+              std::vector<std::string>{"1 1 zq lista_de_espera observacao"});
+    Database& database = *SharedDatabase(host_.DataSource());
+    const WaitingEntry before = FindWaiting(database, 1).value();
+    WaitingEntry after = before;
+    after.row.observacao = std::string("zq another note");
+    ReplaceWaiting(database, before, after, ana_);
+    const AnonymiseAnswer answer = Forget();
+    ASSERT_TRUE(answer.IsDone()) << answer.text;
+    EXPECT_EQ(answer.waiting, 1);
+    EXPECT_EQ(Texts("select situacao || ' ' || versao || ' ' || coalesce(observacao, '-') || ' '"
+                    " || codigo_do_cliente || ' ' || dias_da_semana || ' ' || incluido_por"
+                    " from lista_de_espera"),
+              std::vector<std::string>{"4 3 - 10 246 Carla"});
+    EXPECT_EQ(
+        Texts("select coalesce(antes, '-') || coalesce(depois, '-') from auditoria"
+              " where tabela = 'lista_de_espera'"),
+        std::vector<std::string>{"{\"observacao\":null,\"versao\":1}{\"observacao\":null,\"versao\":2}"});
 }
 
 TEST_F(AnonymousCustomer, LeavesASoundShopBehind)

@@ -186,7 +186,7 @@ TEST_F(PersonDataOfAShop, AreWellFormedJsonWithTheKeysOfTheGuide)
     EXPECT_EQ(json["codigo_do_cliente"], "10");
     for (const char* group :
          {"cadastro", "canais_de_comunicacao", "animais", "agendamentos",
-          "agendamentos_possivelmente_desta_pessoa", "pacotes", "pre_vendas", "historico"})
+          "agendamentos_possivelmente_desta_pessoa", "pacotes", "pre_vendas", "lista_de_espera", "historico"})
         EXPECT_TRUE(json.contains(group) && json[group].is_array()) << group;
     ASSERT_EQ(json["cadastro"].size(), 1U);
     EXPECT_EQ(json["cadastro"][0]["tipo_de_pessoa"], "PF");
@@ -194,6 +194,10 @@ TEST_F(PersonDataOfAShop, AreWellFormedJsonWithTheKeysOfTheGuide)
     EXPECT_EQ(json["animais"][0]["especie"], "Canina");
     EXPECT_EQ(json["agendamentos"][0]["inicio"], "20/11/2026 09:00");
     EXPECT_EQ(json["agendamentos"][0]["funcionario_a"], "1 - Zeca");
+    EXPECT_EQ(json["lista_de_espera"][0]["servicos"], "2 - Banho");
+    EXPECT_EQ(json["lista_de_espera"][0]["funcionarios"], "");
+    EXPECT_EQ(json["lista_de_espera"][0]["dias_da_semana"], "seg, qua, sex");
+    EXPECT_EQ(json["lista_de_espera"][0]["situacao"], "Esperando");
 }
 
 TEST_F(PersonDataOfAShop, AreNotThereWhereNoCustomerHasTheCode) { EXPECT_FALSE(Read(99)); }

@@ -15,6 +15,11 @@ PrivacyTest::PrivacyTest()
     Mark("canal_de_comunicacao", "codigo_do_cliente = 10");
     Mark("animal", "codigo = 50");
     Mark("agendamento", "numero = 4");
+    Run("insert into lista_de_espera (codigo, codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+        " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por) values (1, 10, 50,"
+        " '2026-12-01', '2026-12-31', '246', '08:00', '24:00', '2026-11-20 09:00:00', 'Carla')");
+    Run("insert into espera_servico (codigo_da_espera, codigo_do_servico) values (1, 2)");
+    Mark("lista_de_espera", "codigo = 1");
     // What speaks for it that it is the customer's.
     Run("update agendamento set canais_do_cliente = canais_do_cliente || ' (11) 91234-5678' where numero = "
         "4");

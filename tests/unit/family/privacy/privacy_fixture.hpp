@@ -7,8 +7,9 @@
 namespace kova::family::test {
 
 /// The shop of DeskTest, looked at on 20/11/2026 at 09:04:05. Customer 10 has an animal, 50, two channels,
-/// the appointments 1 and 2 of that day and those of package 1, 21 to 23. Somebody without a register has
-/// appointment 4. Each column of theirs that can tell who they are holds "zq", its table and its own name.
+/// the appointments 1 and 2 of that day and those of package 1, 21 to 23, and waits for a bath, 1. Somebody
+/// without a register has appointment 4. Each column of theirs that can tell who they are holds "zq", its
+/// table and its own name.
 class PrivacyTest : public DeskTest {
 protected:
     PrivacyTest();

@@ -31,7 +31,7 @@ class DatabaseCheckPostgresql : public PostgresqlShop { };
 
 TEST_F(DatabaseCheckPostgresql, TellsOfReferencesThatTheServerDoesNotHoldTo)
 {
-    const Problems told = {"O servidor confere só 15 das 16 referências entre as tabelas. Restaure uma cópia "
+    const Problems told = {"O servidor confere só 21 das 22 referências entre as tabelas. Restaure uma cópia "
                            "em um banco vazio."};
     EXPECT_EQ(CheckDatabase(shop_.Address()).problems, Problems());
     shop_.Run("alter table animal drop constraint animal_codigo_da_raca_fkey");

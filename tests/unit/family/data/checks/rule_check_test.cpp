@@ -115,6 +115,24 @@ const Breach Breaches[] = {
       "ausencia 70: \"25:00\" em hora_final não é uma data ou hora."}},
     {"update papel set nome = ' ' where codigo = 2", {"papel 2: falta o nome."}},
     {"insert into ajuste (codigo, nome, valor) values (70, ' ', '5')", {"ajuste 70: falta o nome."}},
+    {"insert into lista_de_espera (codigo, codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+     " dias_da_semana, hora_inicial, hora_final, situacao, numero_do_agendamento, incluido_em, incluido_por)"
+     " values (70, 10, 50, '2026-12-02', '2026-12-01', '', '08:00', '08:00', 5, null, 'ontem', 'Ana')",
+     {"lista_de_espera 70: o último dia é anterior ao primeiro.",
+      "lista_de_espera 70: os dias da semana não existem.",
+      "lista_de_espera 70: o fim não é posterior ao início.", "lista_de_espera 70: a situação não existe.",
+      "lista_de_espera 70: falta o serviço.",
+      "lista_de_espera 70: \"ontem\" em incluido_em não é uma data ou hora."}},
+    {"insert into lista_de_espera (codigo, codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+     " dias_da_semana, hora_inicial, hora_final, situacao, numero_do_agendamento, incluido_em, incluido_por)"
+     " values (70, 10, 51, '2026-12-01', '2026-12-32', '28', '8:00', '24:00', 3, null, '2026-11-20 "
+     "09:00:00', 'Ana')",
+     {"lista_de_espera 70: os dias da semana não existem.",
+      "lista_de_espera 70: o fim não é posterior ao início.",
+      "lista_de_espera 70: falta o agendamento, ou não foi marcado e tem um.",
+      "lista_de_espera 70: o animal não é do cliente.", "lista_de_espera 70: falta o serviço.",
+      "lista_de_espera 70: \"8:00\" em hora_inicial não é uma data ou hora.",
+      "lista_de_espera 70: \"2026-12-32\" em data_final não é uma data ou hora."}},
     {"update papel_direito set direito = 'tudo' where codigo = 1",
      {"papel_direito 1: o direito não é um nome com um ponto."}},
     {"update agendamento set data_inicial = '20/11/2026', data_final = '20/11/2026' where numero = 1",
@@ -156,7 +174,13 @@ TEST_F(RuleCheck, FindsNothingInTheHoursAndAbsencesOfASoundShop)
           "insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial,"
           " hora_final) values (1, 2, '18:00', '24:00')",
           "insert into ausencia (codigo_do_funcionario, data_inicial, hora_inicial, data_final, hora_final,"
-          " motivo) values (1, '2026-11-20', '00:00', '2026-11-20', '24:00', 'Férias')"})
+          " motivo) values (1, '2026-11-20', '00:00', '2026-11-20', '24:00', 'Férias')",
+          "insert into lista_de_espera (codigo, codigo_do_cliente, codigo_do_animal, data_inicial, "
+          "data_final,"
+          " dias_da_semana, hora_inicial, hora_final, situacao, numero_do_agendamento, incluido_em,"
+          " incluido_por) values (70, 10, 50, '2026-12-01', '2026-12-01', '3', '08:00', '24:00', 3, 99,"
+          " '2026-11-20 09:00:00', 'Ana')",
+          "insert into espera_servico (codigo_da_espera, codigo_do_servico) values (70, 2)"})
         database_->Session() << change;
     EXPECT_EQ(FindBrokenRules(*database_, Morning), std::vector<std::string>())
         << "what was booked before an absence stays booked";

@@ -173,7 +173,13 @@ void FillEveryTable(const std::string& shop)
           "delete from papel_direito where codigo_do_papel = 2",
           "insert into tentativa_de_entrada (identificador, erros, ultimo_erro)"
           " values ('a1', 3, 1795185845)",
-          "insert into ajuste (nome, valor) values ('bloqueio.minutos', '5')"})
+          "insert into ajuste (nome, valor) values ('bloqueio.minutos', '5')",
+          "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+          " dias_da_semana, hora_inicial, hora_final, observacao, incluido_em, incluido_por)"
+          " values (10, 50, '2026-12-01', '2026-12-31', '246', '08:00', '24:00', 'Só à tarde',"
+          " '2026-11-20 09:00:00', 'Ana')",
+          "insert into espera_servico (codigo_da_espera, codigo_do_servico) values (1, 1), (1, 2)",
+          "insert into espera_funcionario (codigo_da_espera, codigo_do_funcionario) values (1, 2)"})
         database->Session() << statement;
     database->Session() << "insert into gravacao (identificador, momento)"
                            " values ('a1', '2026-11-20 09:00:00')";

@@ -79,6 +79,36 @@ constexpr const char* Breaches[] = {
     "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', -1, 0)",
     "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', 1, -1)",
     "insert into ajuste (nome, valor) values (' ', 'sim')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-02', '2026-12-01', '23456', '08:00', '18:00', '2026-11-20 09:00:00', 'Ana')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-01', '2026-12-02', '', '08:00', '18:00', '2026-11-20 09:00:00', 'Ana')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-01', '2026-12-02', '80', '08:00', '18:00', '2026-11-20 09:00:00', 'Ana')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-01', '2026-12-02', '23456', '8:00', '18:00', '2026-11-20 09:00:00', 'Ana')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-01', '2026-12-02', '23456', '08:00', '24:01', '2026-11-20 09:00:00', 'Ana')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-01', '2026-12-02', '23456', '18:00', '18:00', '2026-11-20 09:00:00', 'Ana')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, situacao, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-01', '2026-12-02', '23456', '08:00', '18:00', 5, '2026-11-20 09:00:00', "
+    "'Ana')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, situacao, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-01', '2026-12-02', '23456', '08:00', '18:00', 3, '2026-11-20 09:00:00', "
+    "'Ana')",
+    "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+    " dias_da_semana, hora_inicial, hora_final, situacao, numero_do_agendamento, incluido_em, incluido_por)"
+    " values (10, 50, '2026-12-01', '2026-12-02', '23456', '08:00', '18:00', 4, 1, '2026-11-20 09:00:00', "
+    "'Ana')",
 };
 
 } // namespace
@@ -142,7 +172,15 @@ TEST_F(HeldRules, TakeWhatBreaksNone)
           "insert into usuario (nome, codigo_do_papel, situacao, senha, pin) values ('Bia', 3, 2, null,"
           " '$argon2id$v=19$m=8,t=1,p=1$c2Fs$aGFzaA')",
           "insert into tentativa_de_entrada (identificador, erros, ultimo_erro) values ('a1', 0, 0)",
-          "insert into ajuste (nome, valor) values ('outra.coisa', '')"})
+          "insert into ajuste (nome, valor) values ('outra.coisa', '')",
+          "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+          " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por)"
+          " values (10, 50, '2026-12-01', '2026-12-01', '7', '00:00', '24:00', '2026-11-20 09:00:00', 'Ana')",
+          "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+          " dias_da_semana, hora_inicial, hora_final, situacao, numero_do_agendamento, incluido_em, "
+          "incluido_por)"
+          " values (10, 50, '2026-12-01', '2026-12-02', '1234567', '08:00', '18:00', 3, 1, '2026-11-20 "
+          "09:00:00', 'Ana')"})
         EXPECT_EQ(Try(statement), "") << statement;
 }
 

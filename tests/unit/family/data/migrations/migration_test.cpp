@@ -105,7 +105,10 @@ TEST_F(SchemaMigration, MakesEveryRegister)
                                     "papel",
                                     "papel_direito",
                                     "tentativa_de_entrada",
-                                    "ajuste"}) {
+                                    "ajuste",
+                                    "lista_de_espera",
+                                    "espera_servico",
+                                    "espera_funcionario"}) {
         int found = 0;
         database->Session() << "select count(*) from sqlite_master where type = 'table' and name = :nome",
             soci::use(table), soci::into(found);
@@ -363,6 +366,40 @@ TEST_F(SchemaMigration, MarksADemonstrationThatWasMadeBeforeAndNoOtherShop)
          {"update empresa set razao_social = 'Céu Ltda.'", "update empresa set cnpj = '11222333000181'",
           "delete from empresa", "insert into usuario (nome, codigo_do_papel) values ('Ana', 1)"})
         EXPECT_EQ(marksAfter({statement}), std::vector<std::string>()) << statement;
+}
+
+TEST_F(SchemaMigration, GivesAShopAWaitingListWithNobodyInItAndHoldsItToItsRules)
+{
+    const std::string path = folder_ / "antigo.db";
+    {
+        Database database(SqliteDialect(), "dbname=" + path, path);
+        Migrate(database.Session(), SqliteDialect(), CurrentMigrations().first(13));
+    }
+    const auto database = OpenDatabase(path);
+    EXPECT_EQ(kova::test::SqliteFile(path).Run("select (select count(*) from espera_servico)"
+                                               " + (select count(*) from espera_funcionario) + count(*)"
+                                               " from lista_de_espera"),
+              std::vector<std::string>{"0"});
+    const std::string row =
+        "insert into lista_de_espera (codigo_do_cliente, codigo_do_animal, data_inicial, data_final,"
+        " dias_da_semana, hora_inicial, hora_final, incluido_em, incluido_por)"
+        " values (1, 1, '2026-12-01', '2026-12-31', '23456', '08:00', ";
+    try {
+        database->Session() << row + "'07:00', '2026-11-20 09:00:00', 'Ana')";
+        ADD_FAILURE() << "hours that end before they begin";
+    } catch (const soci::soci_error& refused) {
+        EXPECT_NE(std::string(refused.what()).find("o fim não é posterior ao início"), std::string::npos);
+    }
+}
+
+TEST_F(SchemaMigration, HasNoServiceTwiceInWhatOneCustomerWaitsFor)
+{
+    const auto database = OpenDatabase(path_);
+    database->Session() << "pragma foreign_keys = off";
+    database->Session() << "insert into espera_servico (codigo_da_espera, codigo_do_servico) values (1, 2)";
+    EXPECT_THROW(database->Session()
+                     << "insert into espera_servico (codigo_da_espera, codigo_do_servico) values (1, 2)",
+                 soci::soci_error);
 }
 
 TEST_F(SchemaMigration, HasNoTwoSettingsOfOneName)

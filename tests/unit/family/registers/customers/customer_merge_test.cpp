@@ -8,6 +8,7 @@
 #include "family/data/audit/merged_rows.hpp"
 #include "family/data/rows/table_layouts.hpp"
 #include "family/data/sources/data_source.hpp"
+#include "family/data/stores/waiting_list.hpp"
 #include "family/registers/customers/customer_merge.hpp"
 
 namespace kova::family::test {
@@ -125,7 +126,36 @@ TEST_F(CustomerMerges, KnowAllThatRefersToACustomerOrAnAnimal)
     }
     EXPECT_EQ(known,
               (Lines{"canal_de_comunicacao > cliente", "animal > cliente", "agendamento > cliente",
-                     "agendamento > animal"}));
+                     "agendamento > animal", "lista_de_espera > cliente", "lista_de_espera > animal"}));
+}
+
+TEST_F(CustomerMerges, KeepWhatBothWaitFor)
+{
+    const Key other = Customer({{"Nome", "Zé Antônio"}});
+    const Key joined = Animal(other, "Paçoca", "Canina"), own = Animal(other, "Bidu", "Canina");
+    WaitingEntry entry;
+    entry.row.dataInicial = entry.row.dataFinal = "2026-12-01";
+    entry.row.diasDaSemana = "3";
+    entry.row.horaInicial = "08:00";
+    entry.row.horaFinal = "18:00";
+    entry.services = {2};
+    entry.employees = {1, 2};
+    for (const auto& [customer, animal] : {std::pair<Key, Key>(10, 50), {other, joined}, {other, own}}) {
+        entry.row.codigoDoCliente = customer;
+        entry.row.codigoDoAnimal = animal;
+        AddWaiting(Data(), entry, lia_);
+    }
+    const CustomerMerge plan = Plan(10, other);
+    ASSERT_EQ(plan.alike.size(), 1U);
+    ASSERT_TRUE(Merge(plan, plan.alike).IsDone());
+    EXPECT_EQ(Texts("select codigo_do_cliente || ' ' || codigo_do_animal || ' ' || versao"
+                    " from lista_de_espera order by codigo"),
+              (Lines{"10 50 1", "10 50 2", "10 " + std::to_string(own) + " 2"}));
+    EXPECT_EQ(Texts("select depois from auditoria where tabela = 'lista_de_espera' and operacao = 'alteracao'"
+                    " order by codigo"),
+              (Lines{"{\"codigo_do_cliente\":10,\"codigo_do_animal\":50,\"versao\":2}",
+                     "{\"codigo_do_cliente\":10,\"versao\":2}"}));
+    EXPECT_EQ(FindWaiting(Data(), 3)->employees, (std::set<Key>{1, 2}));
 }
 
 TEST_F(CustomerMerges, LeaveTheirLinesInTheAudit)
