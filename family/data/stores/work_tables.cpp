@@ -20,12 +20,6 @@ struct WorkRow {
     std::string startDate, startTime, endDate, endTime, reason;
 };
 
-int MinutesOf(const std::string& time)
-{
-    const TimeOfDay read = ReadIsoMoment({}, time).time;
-    return 60 * read.hour + read.minute;
-}
-
 void AddHours(WeeklyHours& hours, const WorkRow& row)
 {
     constexpr int Sunday = 1, Saturday = 7;
@@ -89,6 +83,12 @@ private:
 bool WeeklyHours::HasAny() const
 {
     return std::any_of(days_.begin(), days_.end(), [](const auto& day) { return !day.empty(); });
+}
+
+int MinutesOf(const std::string& time)
+{
+    const TimeOfDay read = ReadIsoMoment({}, time).time;
+    return 60 * read.hour + read.minute;
 }
 
 bool WeeklyHours::Cover(int weekday, PartOfDay part) const

@@ -14,6 +14,9 @@ namespace kova::family {
 
 class Database;
 
+/// The minutes from midnight to "hh:mm", which may be "24:00".
+int MinutesOf(const std::string& time);
+
 /// In minutes from midnight: from its beginning up to, and without, its end.
 struct PartOfDay {
     int from = 0, until = 0;
