@@ -6,7 +6,9 @@
 
 #include <libpq-fe.h>
 #include <soci/postgresql/soci-postgresql.h>
+#include <soci/soci.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string_view>
@@ -145,6 +147,27 @@ public:
     {
         const auto* failure = dynamic_cast<const soci::postgresql_soci_error*>(&reported);
         return failure != nullptr ? std::optional(failure->sqlstate()) : std::nullopt;
+    }
+
+    std::intptr_t SocketOf(soci::session& session) const override { return PQsocket(ConnectionOf(session)); }
+
+    std::optional<bool> TakeNotices(soci::session& session) const override
+    {
+        PGconn* const connection = ConnectionOf(session);
+        if (PQconsumeInput(connection) == 0 || PQstatus(connection) != CONNECTION_OK)
+            return std::nullopt;
+        bool were = false;
+        while (PGnotify* const notice = PQnotifies(connection)) {
+            PQfreemem(notice);
+            were = true;
+        }
+        return were;
+    }
+
+private:
+    static PGconn* ConnectionOf(soci::session& session)
+    {
+        return static_cast<soci::postgresql_session_backend*>(session.get_backend())->conn_;
     }
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <stdexcept>
@@ -7,7 +8,8 @@
 
 namespace soci {
 class backend_factory;
-}
+class session;
+} // namespace soci
 
 namespace kova::family {
 
@@ -54,7 +56,16 @@ public:
     virtual ConnectionAttempt TryConnection(const std::string& connection) const = 0;
     /// The state (SQLSTATE) under which a server's back end reported this; nothing where none has.
     virtual std::optional<std::string> StateOf(const std::runtime_error& reported) const = 0;
+
+    /// The system's number of the socket of a session on a server.
+    virtual std::intptr_t SocketOf(soci::session& session) const = 0;
+    /// Takes the notices that have come to a session on a server, and answers whether there were any; nothing
+    /// where its connection is lost. Waits for nobody.
+    virtual std::optional<bool> TakeNotices(soci::session& session) const = 0;
 };
+
+/// Where a server tells its sessions that there are new lines in the audit.
+inline constexpr const char* NoticeChannel = "kovaris_novidades";
 
 /// The name of that library, and of the function that it exports; its ServerClient stays as long as it does.
 inline constexpr const char* ServerClientLibrary = "kovaris-postgresql";

@@ -21,6 +21,7 @@ constexpr Migration Steps[] = {
     {12, SchemaOfVersion12, HoldRulesOfVersion12},
     {13, SchemaOfVersion13},
     {14, SchemaOfVersion14, HoldRulesOfVersion14},
+    {15, SchemaOfVersion15},
 };
 
 } // namespace

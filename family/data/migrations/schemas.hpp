@@ -48,5 +48,7 @@ std::vector<std::string> SchemaOfVersion13(const Dialect& dialect);
 std::vector<std::string> SchemaOfVersion14(const Dialect& dialect);
 /// Holds its rows to their rules.
 void HoldRulesOfVersion14(soci::session& session, const Dialect& dialect);
+/// A server tells its desks that something was written.
+std::vector<std::string> SchemaOfVersion15(const Dialect& dialect);
 
 } // namespace kova::family
