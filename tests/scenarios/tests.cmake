@@ -11,7 +11,8 @@ foreach(scenario IN LISTS scenarios)
         add_test(NAME ScenarioOnScreen.${name}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/scenarios/check $<TARGET_FILE:agenda-scenario> ${scenario}
                          --toolkit qt)
-        set_tests_properties(ScenarioOnScreen.${name} PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+        set_tests_properties(ScenarioOnScreen.${name} PROPERTIES
+            ENVIRONMENT "KOVARIS_EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR};QT_QPA_PLATFORM=offscreen")
     endif()
 endforeach()
 

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QSysInfo>
+#include <QTimer>
 
 #include <memory>
 
@@ -29,11 +31,21 @@ public:
             qputenv("QT_QPA_PLATFORM", "offscreen");
         application_ = std::make_unique<QApplication>(count_, arguments_);
         QApplication::setQuitOnLastWindowClosed(false);
+        if (QSysInfo::kernelType() == QLatin1String("winnt"))
+            LookAgain();
         qInstallMessageHandler(&FailOnWarning);
     }
     void TearDown() override { application_.reset(); }
 
 private:
+    /// There the platform that draws into memory forgets that a loop was ended where another one has run
+    /// inside it since, and waits for the next event: here is one.
+    void LookAgain()
+    {
+        auto* const events = new QTimer(application_.get());
+        events->start(5);
+    }
+
     int count_ = 1;
     char name_[8] = "kovaris";
     char* arguments_[2] = {name_, nullptr};

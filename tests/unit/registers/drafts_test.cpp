@@ -1,5 +1,6 @@
 // What is typed and not saved outlives the program.
 
+#include "tests/support/own_file.hpp"
 #include "tests/unit/registers/registers_fixture.hpp"
 
 #include "screens/draft_folder.hpp"
@@ -7,7 +8,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 
 #include <filesystem>
@@ -44,10 +44,7 @@ protected:
 TEST_F(Drafts, KeepWhatWasTypedInAProgramThatWasKilled)
 {
     TypeElsewhereAndCrash("Aninha");
-    EXPECT_EQ(QFileInfo(FileOf("clientes")).permissions()
-                  & (QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ReadOther
-                     | QFileDevice::WriteOther),
-              QFileDevice::Permissions());
+    EXPECT_TRUE(kova::test::IsForItsOwnerAlone(FileOf("clientes").toStdString()));
     OpenWithDrafts(Folder(), {"Continuar"});
     ASSERT_EQ(boxes_.size(), 1U);
     EXPECT_EQ(boxes_[0].find("Há alterações não salvas de Clientes: Ana Lúcia Prado."), 0U) << boxes_[0];

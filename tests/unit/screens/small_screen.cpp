@@ -9,21 +9,25 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <filesystem>
 #include <fstream>
 
 namespace kova::test {
 
 namespace {
 
-/// Before the application begins.
+/// Before the application begins. The file's name is told without a drive: the toolkit would end it at the
+/// colon.
 void SitDownAtScreenOf(const QSize& size)
 {
     const system::TemporaryFolder folder("tela-");
-    const std::string file = (folder.Path() / "telas.json").string();
-    std::ofstream(file) << R"({"screens": [{"name": "tela", "x": 0, "y": 0, "width": )" << size.width()
-                        << R"(, "height": )" << size.height() << "}]}";
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QByteArray::fromStdString(file));
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Path());
+    std::ofstream("telas.json") << R"({"screens": [{"name": "tela", "x": 0, "y": 0, "width": )"
+                                << size.width() << R"(, "height": )" << size.height() << "}]}";
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=telas.json");
     NeedApplication();
+    std::filesystem::current_path(before);
 }
 
 } // namespace

@@ -6,8 +6,6 @@
 
 #include <QApplication>
 #include <QFileDialog>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -43,25 +41,6 @@ TEST(PaperDesk, AnswersNoPathWhereTheUserThinksBetterOfIt)
 {
     const QTemporaryDir folder;
     EXPECT_EQ(AskedPath(folder.filePath(QStringLiteral("lista.pdf")), false), QString());
-}
-
-TEST(PaperDesk, AsksForThePrinterAndThePages)
-{
-    const QTemporaryDir folder;
-    for (const bool isAccepted : {true, false}) {
-        QPrinter printer;
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(folder.filePath(QStringLiteral("papel.pdf")));
-        QTimer::singleShot(0, qApp, [isAccepted] {
-            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Imprimir"));
-            EXPECT_EQ(dialog->minPage(), 1);
-            EXPECT_EQ(dialog->maxPage(), 5);
-            dialog->done(isAccepted ? QDialog::Accepted : QDialog::Rejected);
-        });
-        EXPECT_EQ(Desk().ChoosePrinter(nullptr, printer, 5, true), isAccepted);
-    }
 }
 
 } // namespace

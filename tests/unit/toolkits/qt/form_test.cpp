@@ -377,7 +377,10 @@ TEST_F(Forms, ProcessPendingEventsWaitsInAPauseWithNothingToDoOnly)
     toolkit_.ProcessPendingEvents();
     EXPECT_EQ(waits, 0);
     Settle();
-    toolkit_.ProcessPendingEvents();
+    // What comes from the system meanwhile is something to do, too.
+    constexpr int MostCalls = 100;
+    for (int call = 0; waits == 0 && call < MostCalls; ++call)
+        toolkit_.ProcessPendingEvents();
     EXPECT_GT(waits, 0);
     toolkit_.PauseEnds();
 }

@@ -1,9 +1,7 @@
 // The label window: fields, keys, sheets, output.
 
-#include "family/presentation/labels/label_sheet_view.hpp"
-#include "family/presentation/labels/label_window.hpp"
 #include "family/presentation/scrolled_body.hpp"
-#include "tests/unit/family/presentation/labels/label_fixture.hpp"
+#include "tests/unit/family/presentation/labels/label_window_fixture.hpp"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -20,71 +18,9 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace kova::family::test {
 namespace {
-
-class LabelWindowTest : public LabelTest {
-protected:
-    LabelWindowTest()
-    {
-        window_.show();
-        QApplication::setActiveWindow(&window_);
-    }
-    void TearDown() override { EXPECT_EQ(toolkit.Queue().Unused(), 0U); }
-
-    template <class Widget> Widget& The(const char* name) const
-    {
-        auto* found = window_.findChild<Widget*>(QString::fromLatin1(name));
-        if (!found)
-            throw std::runtime_error(std::string("there is no ") + name);
-        return *found;
-    }
-    LabelSheetView& View() const
-    {
-        for (QWidget* child : window_.findChildren<QWidget*>()) {
-            if (auto* view = dynamic_cast<LabelSheetView*>(child))
-                return *view;
-        }
-        throw std::runtime_error("there is no sheet");
-    }
-    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(window_.windowHandle(), key, modifiers);
-        // A button pressed by its key goes down for a moment before it acts.
-        EXPECT_TRUE(QTest::qWaitFor([this] {
-            return std::ranges::none_of(window_.findChildren<QAbstractButton*>(),
-                                        [](const QAbstractButton* button) { return button->isDown(); });
-        }));
-    }
-    std::string Focused() const
-    {
-        return window_.focusWidget() ? window_.focusWidget()->objectName().toStdString() : "";
-    }
-    std::string Shown(const char* label) const { return The<QLabel>(label).text().toStdString(); }
-    /// "row,column" of the first free label.
-    std::string First() const
-    {
-        return The<QSpinBox>("linha").text().toStdString() + ","
-            + The<QSpinBox>("coluna").text().toStdString();
-    }
-    std::string Told()
-    {
-        return toolkit.Queue().Questions().empty() ? "" : toolkit.Queue().Questions().back().text;
-    }
-    /// How many labels each sheet has.
-    std::vector<std::size_t> LabelsOnSheets() const
-    {
-        std::vector<std::size_t> labels;
-        for (const reports::Page& page : window_.Pages().pages)
-            labels.push_back(page.items.size() / LinesOf(Jose(), false).size());
-        return labels;
-    }
-
-    ScriptedDesk desk_{toolkit, "Kova"};
-    LabelWindow window_{Jose(), {"A4-2x7", false}, desk_, {2026, 3, 9}};
-};
 
 TEST_F(LabelWindowTest, ListsTheKeysThatWorkNowOnF1)
 {
@@ -280,18 +216,6 @@ TEST_F(LabelWindowTest, RemembersWhatWasChosen)
     EXPECT_EQ(again.Choice(), window_.Choice());
 }
 
-TEST_F(LabelWindowTest, SavesAPdf)
-{
-    desk_.path = File("e.pdf");
-    The<QSpinBox>("quantidade").setValue(2);
-    Press(Qt::Key_S, Qt::AltModifier);
-    EXPECT_TRUE(desk_.proposal.endsWith(
-        QStringLiteral("/Etiqueta de endereço - José Antônio Peçanha 2026-03-09.pdf")))
-        << desk_.proposal.toStdString();
-    EXPECT_EQ(TextOf(File("e.pdf")).size(), 2 * std::string(LabelText).size() + 1);
-    EXPECT_EQ(Shown("situacao"), "Salvo em e.pdf");
-}
-
 TEST_F(LabelWindowTest, HasWhatIsSavedOrPrintedNotedAndTellsWhereItCannotBe)
 {
     std::vector<std::string> noted;
@@ -306,16 +230,6 @@ TEST_F(LabelWindowTest, HasWhatIsSavedOrPrintedNotedAndTellsWhereItCannotBe)
     Press(Qt::Key_Return);
     EXPECT_EQ(noted, (std::vector<std::string>{"1|" + File("e.pdf").toStdString(), "1|"}));
     EXPECT_NE(toolkit.Queue().Questions().back().text.find("O disco está cheio."), std::string::npos);
-}
-
-TEST_F(LabelWindowTest, PrintsByEnter)
-{
-    desk_.printTo = File("papel.pdf");
-    The<QCheckBox>("apelido").setChecked(true);
-    Press(Qt::Key_Return);
-    EXPECT_EQ(TextOf(File("papel.pdf")), std::string("Zé ") + LabelText);
-    EXPECT_EQ(Shown("situacao"), "Enviado para a impressora");
-    EXPECT_TRUE(window_.isVisible());
 }
 
 TEST_F(LabelWindowTest, DoesNothingForAUserWhoThinksBetterOfIt)
@@ -347,18 +261,6 @@ TEST_F(LabelWindowTest, TellsOfAPaperThatIsNotTheSheets)
     Press(Qt::Key_I, Qt::AltModifier);
     EXPECT_NE(Told().find("Escolha o papel A4"), std::string::npos) << Told();
     EXPECT_EQ(Shown("situacao"), "");
-}
-
-TEST_F(LabelWindowTest, TellsOfAFolderThatCannotBeWrittenAndGoesOn)
-{
-    desk_.path = File("nada/e.pdf");
-    toolkit.Queue().QueueReply(Reply::Ok);
-    Press(Qt::Key_S, Qt::AltModifier);
-    EXPECT_NE(Told().find("A pasta não existe."), std::string::npos) << Told();
-    EXPECT_EQ(toolkit.Queue().Questions().back().kind, MessageKind::Critical);
-    desk_.path = File("e.pdf");
-    Press(Qt::Key_S, Qt::AltModifier);
-    EXPECT_EQ(TextOf(File("e.pdf")), LabelText);
 }
 
 } // namespace
