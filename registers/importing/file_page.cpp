@@ -35,11 +35,15 @@ QString TitleOf(const csv::Register& one)
     return of == nullptr ? QStringLiteral("Agendamentos") : Shown(of->Name().title);
 }
 
+/// It may be narrower than the longest of its choices, and so may the window.
 QComboBox* Box(const QString& name)
 {
+    constexpr int LeastLettersOfChoice = 8;
     auto* box = new QComboBox;
     box->setObjectName(name);
     box->setMinimumHeight(screens::BoxHeight);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(LeastLettersOfChoice);
     return box;
 }
 

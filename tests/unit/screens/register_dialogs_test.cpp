@@ -13,7 +13,10 @@
 #include "tests/unit/screens/small_screen.hpp"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTest>
 
 #include <functional>
@@ -22,6 +25,15 @@
 namespace kova::registers::test {
 
 namespace {
+
+int RoomForTextIn(const QComboBox& box)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    return box.style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box)
+        .width();
+}
 
 const family::Author Ana{"1", "Ana", "2026-11-20 09:00:00", "BALCAO"};
 
@@ -59,6 +71,15 @@ protected:
         } while (QApplication::focusWidget() != first);
     }
 
+    void ExpectToImportAndExport()
+    {
+        ImportWizard import({file_, desk_.author}, "clientes", &window_);
+        ExpectUsable(import, {"conferir", "cancelar"});
+        import.close();
+        ExportDialog exporting({file_, desk_.author}, "clientes", &window_);
+        ExpectUsable(exporting, {"exportar", "cancelar"});
+    }
+
     system::TemporaryFolder folder_{"cadastros-"};
     const std::string file_ = (folder_.Path() / "loja.db").string();
     Desk desk_;
@@ -91,13 +112,29 @@ TEST_F(RegisterDialogsOfASmallScreen, SuggestHolidays)
     ExpectUsable(dialog, {"incluir"});
 }
 
-TEST_F(RegisterDialogsOfASmallScreen, ImportAndExport)
+TEST_F(RegisterDialogsOfASmallScreen, ImportAndExport) { ExpectToImportAndExport(); }
+
+TEST_F(RegisterDialogsOfASmallScreen, ImportAndExportWithLettersHalfAsLargeAgain)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(usual.pixelSize() * 3 / 2);
+    QApplication::setFont(large);
+    ExpectToImportAndExport();
+    QApplication::setFont(usual);
+}
+
+TEST_F(RegisterDialogsOfASmallScreen, ShowEveryChoiceOfAnImportInFull)
 {
     ImportWizard import({file_, desk_.author}, "clientes", &window_);
-    ExpectUsable(import, {"conferir", "cancelar"});
-    import.close();
-    ExportDialog exporting({file_, desk_.author}, "clientes", &window_);
-    ExpectUsable(exporting, {"exportar", "cancelar"});
+    Show(import);
+    for (const QComboBox* box : import.findChildren<QComboBox*>()) {
+        const int room = RoomForTextIn(*box);
+        for (int choice = 0; choice < box->count(); ++choice) {
+            EXPECT_GE(room, box->fontMetrics().horizontalAdvance(box->itemText(choice)))
+                << box->itemText(choice).toStdString();
+        }
+    }
 }
 
 } // namespace kova::registers::test

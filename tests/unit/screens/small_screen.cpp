@@ -2,6 +2,7 @@
 
 #include "system/temporary_folder.hpp"
 #include "tests/support/qt_application.hpp"
+#include "toolkits/qt/look/apply_look.hpp"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -28,6 +29,7 @@ void SitDownAtScreenOf(const QSize& size)
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=telas.json");
     NeedApplication();
     std::filesystem::current_path(before);
+    qt::ApplyLook(*qApp);
 }
 
 } // namespace
