@@ -23,7 +23,8 @@ QHash<Long, ForeignContainer*>& Containers()
 
 class ForeignContainer : public QWidget {
 public:
-    explicit ForeignContainer(Long number) : number_(number)
+    // With a frame of its own, which nobody sees, it would be larger than its window by that.
+    explicit ForeignContainer(Long number) : QWidget(nullptr, Qt::FramelessWindowHint), number_(number)
     {
         window_ = system::ForeignWindow::Of(
             number, {[this](int width, int height) { Fill(width, height); }, [this] { delete this; }});
