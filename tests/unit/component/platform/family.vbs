@@ -36,8 +36,12 @@ Sub CreateAll
     On Error Resume Next
     Dim name, made
     For Each name In Array("KOVA_N_Agenda.clsAgenda", "KOVA_N_TipoDeServ.clsTiposDeServ", _
-            "KOVA_N_Funcionarios.clsFuncionarios", "KOVA_N_Empresa.clsEmpresa", "KOVA_N_ClientAnim.clsClientes", _
-            "KOVA_N_ClientAnim.clsAnimais")
+            "KOVA_N_Funcionarios.clsFuncionarios", "KOVA_N_Empresa.clsEmpresa", _
+            "KOVA_N_ClientAnim.clsClientes", "KOVA_N_ClientAnim.clsAnimais", _
+            "KOVA_N_Servicos.clsServicos", "KOVA_N_Feriados.clsFeriados", _
+            "KOVA_N_EspecRacas.clsEspecies", "KOVA_N_EspecRacas.clsRacas", _
+            "KOVA_N_SO.clsObterVersaoDoSO", "KOVA_N_Dados.clsBanco", _
+            "KOVA_N_Dados.clsImpressoes")
         Set made = Nothing
         Set made = CreateObject(name)
         Tell name, Not (made Is Nothing)
