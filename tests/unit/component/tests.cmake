@@ -58,4 +58,12 @@ if(WIN32)
         set_tests_properties(LateBinding.ByAScriptHost LateBinding.OfTheFamilyByAScriptHost
                              PROPERTIES RESOURCE_LOCK registry_of_windows)
     endif()
+    if(KOVARIS_SCREEN AND NOT KOVARIS_CORE_ONLY)
+        add_test(NAME LateBinding.InAWindowOfAForeignShell
+                 COMMAND ${CMAKE_CURRENT_LIST_DIR}/platform/in_a_foreign_window $<TARGET_FILE:foreign_shell>
+                         ${CMAKE_RUNTIME_OUTPUT_DIRECTORY} ${CMAKE_BINARY_DIR}/foreign_window)
+        # A program that ends in a message waits for somebody to read it.
+        set_tests_properties(LateBinding.InAWindowOfAForeignShell PROPERTIES TIMEOUT 120
+                             RESOURCE_LOCK registry_of_windows)
+    endif()
 endif()
