@@ -1,5 +1,6 @@
 // Registers on a server: connections that break, and desks that bring the same at the same moment.
 
+#include "tests/support/meeting_point.hpp"
 #include "tests/support/postgres_relay.hpp"
 #include "tests/unit/family/server_fixture.hpp"
 
@@ -12,7 +13,6 @@
 #include "family/registers/registers.hpp"
 
 #include <atomic>
-#include <barrier>
 #include <thread>
 
 namespace kova::family::test {
@@ -97,14 +97,14 @@ TEST_F(PostgresqlRegisters, TellThatNothingWasWrittenWhereTheServerIsAway)
 TEST_F(PostgresqlRegisters, TakeADocumentOnceFromDesksThatBringItAtTheSameMoment)
 {
     constexpr int Desks = 4;
-    std::barrier begin(Desks);
+    kova::test::MeetingPoint begin(Desks);
     std::atomic<int> done = 0, refused = 0;
     std::vector<std::thread> desks;
     for (int desk = 0; desk < Desks; ++desk)
         desks.emplace_back([&, desk] {
             const auto database = OpenDatabase(shop_.Address());
             for (const char* document : {"12.ABC.345/01DE-35", "529.982.247-25"}) {
-                begin.arrive_and_wait();
+                begin.ArriveAndWait();
                 ++(AddCustomerTo(*database, "Cliente " + std::to_string(desk), document).IsDone() ? done
                                                                                                   : refused);
             }
@@ -120,13 +120,13 @@ TEST_F(PostgresqlRegisters, KeepOneRowOfTheOpeningHoursFromDesksThatRemoveThemAt
     const Register& open = registers::OpeningHoursRegister();
     const std::vector<Key> keys = open.Find(*database_, "");
     ASSERT_EQ(keys.size(), 6U);
-    std::barrier begin(static_cast<std::ptrdiff_t>(keys.size()));
+    kova::test::MeetingPoint begin(static_cast<int>(keys.size()));
     std::atomic<int> done = 0;
     std::vector<std::thread> desks;
     for (const Key key : keys)
         desks.emplace_back([&, key] {
             const auto database = OpenDatabase(shop_.Address());
-            begin.arrive_and_wait();
+            begin.ArriveAndWait();
             done += open.Remove(*database, key, Lia).IsDone() ? 1 : 0;
         });
     for (std::thread& desk : desks)

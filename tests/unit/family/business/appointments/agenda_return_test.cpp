@@ -1,5 +1,6 @@
 // Cancelled appointments that come back to their employee, and stored ones that stay where they are.
 
+#include "tests/support/meeting_point.hpp"
 #include "tests/unit/family/bath.hpp"
 #include "tests/unit/family/business/appointments/booking_fixture.hpp"
 
@@ -8,7 +9,6 @@
 #include "family/data/sources/data_source.hpp"
 
 #include <atomic>
-#include <barrier>
 #include <functional>
 #include <thread>
 
@@ -238,12 +238,12 @@ TEST_F(ReturnRace, NeverGoesBeyondTheLimit)
         cancelled.status = 3;
         ASSERT_TRUE(AddAppointments(*database, cancelled, Somebody).IsDone());
     }
-    std::barrier both(2);
+    kova::test::MeetingPoint both(2);
     std::atomic<int> done = 0, refused = 0;
     const auto onEachDay = [&](const std::function<WriteAnswer(Database&, int)>& write) {
         const std::shared_ptr<Database> own = OpenDatabase(host_.DataSource());
         for (int day = 1; day <= Days; ++day) {
-            both.arrive_and_wait();
+            both.ArriveAndWait();
             ++(write(*own, day).IsDone() ? done : refused);
         }
     };

@@ -1,5 +1,6 @@
 // Writes and reads over a connection that breaks, and transactions in each other's way.
 
+#include "tests/support/meeting_point.hpp"
 #include "tests/support/postgres_relay.hpp"
 #include "tests/unit/family/business/appointments/desk_fixture.hpp"
 #include "tests/unit/family/server_fixture.hpp"
@@ -12,7 +13,6 @@
 #include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/pre_sales.hpp"
 
-#include <barrier>
 #include <thread>
 
 namespace kova::family::test {
@@ -182,7 +182,7 @@ TEST_F(PostgresqlShop, WaitsForAServerThatIsJustStarting)
 
 TEST_F(PostgresqlShop, WritesAgainAfterADeadlock)
 {
-    std::barrier both(2);
+    kova::test::MeetingPoint both(2);
     std::atomic<int> attempts = 0;
     const auto lockBoth = [&](int first, int second) {
         const auto database = OpenDatabase(shop_.Address());
@@ -195,7 +195,7 @@ TEST_F(PostgresqlShop, WritesAgainAfterADeadlock)
             ++attempts;
             lock(first);
             if (!met)
-                both.arrive_and_wait();
+                both.ArriveAndWait();
             met = true;
             lock(second);
             return true;
