@@ -1,11 +1,12 @@
 #include "family/data/engine/file_checks.hpp"
 
 #include "agenda/contracts/failure_detail.hpp"
+#include "family/data/engine/file_header.hpp"
 #include "system/access.hpp"
 #include "system/network_disk.hpp"
 #include "system/path_text.hpp"
 
-#include <fstream>
+#include <filesystem>
 
 namespace kova::family {
 
@@ -13,20 +14,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view SqliteHeader("SQLite format 3\0", 16);
-
 std::string FolderOf(const std::string& path)
 {
     const fs::path folder = system::PathOf(path).parent_path();
     return folder.empty() ? "." : system::TextOf(folder);
-}
-
-bool HasSqliteHeader(const std::string& path)
-{
-    std::string header(SqliteHeader.size(), ' ');
-    std::ifstream file(system::PathOf(path), std::ios::binary);
-    file.read(header.data(), static_cast<std::streamsize>(header.size()));
-    return file && header == SqliteHeader;
 }
 
 std::string NotADatabase(const std::string& path)
