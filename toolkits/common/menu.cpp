@@ -28,6 +28,22 @@ std::vector<MenuModel*> MenuModel::EntriesOn(const FormModel& form) const
     return entries;
 }
 
+std::string MenuModel::WhyNotChosen() const
+{
+    if (auto refusal = GetForm().Refusal(); !refusal.empty())
+        return refusal;
+    return IsChoosable() ? std::string() : FullName() + " cannot be chosen";
+}
+
+void MenuModel::UserChooses()
+{
+    // What holds it is hidden, as menus are until they open.
+    GetForm().ByUser([this] {
+        if (WhyNotChosen().empty())
+            GetForm().Raise(click_);
+    });
+}
+
 void MenuModel::PopUp(FormModel& form, Twips x, Twips y)
 {
     const std::vector<MenuModel*> entries = EntriesOn(form);

@@ -18,6 +18,11 @@ public:
     /// Whether the user could choose the entry in an open menu.
     bool IsChoosable() const { return State().visible && State().enabled && !IsRule() && Denial().empty(); }
 
+    /// The user chose the entry, or another one that stands for it: where it is choosable it is clicked.
+    void UserChooses();
+    /// Why the user could not, as in WidgetCore::Refusal; "" where he can.
+    std::string WhyNotChosen() const;
+
     bool HoldsOthers() const override { return true; }
     void PopUp(FormModel& form, Twips x, Twips y) override;
     void DropHandlers() override { click_ = nullptr; }

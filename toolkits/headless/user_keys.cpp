@@ -8,8 +8,8 @@
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/grid/navigation_bar.hpp"
+#include "toolkits/common/toolkit.hpp"
 #include "toolkits/headless/keys.hpp"
-#include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
 
 #include <algorithm>
@@ -118,7 +118,7 @@ std::string User::Key(const KeyPress& key)
                                                               {"Backtab", FormKey::BackTab},
                                                               {"Return", FormKey::Enter},
                                                               {"Esc", FormKey::Escape}};
-    toolkit::FormModel* form = toolkit_.ActiveForm();
+    toolkit::FormModel* form = Toolkit().ActiveForm();
     if (!form)
         return "no form is open";
     if (auto refusal = form->Refusal(); !refusal.empty())

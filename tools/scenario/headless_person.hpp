@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkits/headless/toolkit.hpp"
 #include "toolkits/headless/user.hpp"
 #include "tools/scenario/person.hpp"
 

@@ -208,6 +208,8 @@ public:
 
     /// Whether the design's navigation bar offers that button; false where it names none.
     bool OffersPage(int button) const;
+    /// Whether the mouse stands on a row, of which the form has been told.
+    bool MouseRests() const;
     /// Whether a click on a row means anything.
     bool HasClick() const { return static_cast<bool>(click_); }
     /// What the design names; null where it names none.
@@ -260,7 +262,6 @@ private:
 
     void RowsChanged();
     void MarkUntold();
-    bool MouseRests() const;
     void RaiseMouseMoveAt(Twips x, Twips y);
     void WalkTo(Long row);
     void ClickHeader();

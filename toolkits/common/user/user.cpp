@@ -1,4 +1,4 @@
-#include "toolkits/headless/user.hpp"
+#include "toolkits/common/user/user.hpp"
 
 #include "toolkits/common/boxes/check_box.hpp"
 #include "toolkits/common/boxes/combo_box.hpp"
@@ -11,19 +11,19 @@
 #include "toolkits/common/form.hpp"
 #include "toolkits/common/grid/grid.hpp"
 #include "toolkits/common/grid/navigation_bar.hpp"
+#include "toolkits/common/menu.hpp"
+#include "toolkits/common/toolkit.hpp"
 #include "toolkits/common/whole_number.hpp"
-#include "toolkits/headless/toolkit.hpp"
 
 #include <algorithm>
 #include <limits>
 
-namespace kova::headless {
+namespace kova::toolkit {
 
-toolkit::WidgetCore* User::Reach(std::string_view form, std::string_view control, int index,
-                                 std::string& refusal)
+WidgetCore* User::Reach(std::string_view form, std::string_view control, int index, std::string& refusal)
 {
-    const toolkit::FormModel* model = toolkit_.FindForm(form);
-    toolkit::WidgetCore* widget = model ? model->Find(control, index) : nullptr;
+    const FormModel* model = toolkit_.FindForm(form);
+    WidgetCore* widget = model ? model->Find(control, index) : nullptr;
     if (!model)
         refusal = std::string(form) + " does not exist";
     else if (!widget)
@@ -37,7 +37,7 @@ toolkit::WidgetCore* User::Reach(std::string_view form, std::string_view control
 template <class Model>
 Model* User::Reach(std::string_view form, std::string_view control, int index, std::string& refusal)
 {
-    toolkit::WidgetCore* widget = Reach(form, control, index, refusal);
+    WidgetCore* widget = Reach(form, control, index, refusal);
     auto* model = dynamic_cast<Model*>(widget);
     if (widget && !model)
         refusal = widget->FullName() + " is a " + NameOf(widget->KindOfWidget());
@@ -47,14 +47,14 @@ Model* User::Reach(std::string_view form, std::string_view control, int index, s
 std::string User::Click(std::string_view form, std::string_view control, int index)
 {
     std::string refusal;
-    toolkit::WidgetCore* widget = Reach(form, control, index, refusal);
+    WidgetCore* widget = Reach(form, control, index, refusal);
     if (!widget)
         return refusal;
-    if (auto* button = dynamic_cast<toolkit::CommandButtonModel*>(widget))
+    if (auto* button = dynamic_cast<CommandButtonModel*>(widget))
         button->UserPresses();
-    else if (auto* box = dynamic_cast<toolkit::CheckBoxModel*>(widget))
+    else if (auto* box = dynamic_cast<CheckBoxModel*>(widget))
         box->UserPresses();
-    else if (auto* option = dynamic_cast<toolkit::OptionButtonModel*>(widget))
+    else if (auto* option = dynamic_cast<OptionButtonModel*>(widget))
         option->UserPresses();
     else
         return widget->FullName() + " is a " + NameOf(widget->KindOfWidget());
@@ -63,9 +63,9 @@ std::string User::Click(std::string_view form, std::string_view control, int ind
 
 std::string User::ChooseRow(std::string_view form, std::string_view combo, int index, const RowFinder& find)
 {
-    const toolkit::EventScope scope(toolkit_);
+    const EventScope scope(toolkit_);
     std::string refusal;
-    auto* box = Reach<toolkit::ComboBoxModel>(form, combo, index, refusal);
+    auto* box = Reach<ComboBoxModel>(form, combo, index, refusal);
     if (!box)
         return refusal;
     box->UserOpensList();
@@ -99,11 +99,21 @@ std::string User::Choose(std::string_view form, std::string_view combo, std::str
     });
 }
 
+std::string User::ChooseData(std::string_view form, std::string_view combo, Long data, int index)
+{
+    return ChooseRow(form, combo, index, [data](const auto& rows, std::string& name) {
+        name = "with number " + std::to_string(data);
+        const auto found =
+            std::find_if(rows.begin(), rows.end(), [data](const auto& row) { return row.data == data; });
+        return static_cast<std::size_t>(found - rows.begin());
+    });
+}
+
 std::string User::Type(std::string_view form, std::string_view control, std::string_view text, int index)
 {
-    const toolkit::EventScope scope(toolkit_);
+    const EventScope scope(toolkit_);
     std::string refusal;
-    auto* box = Reach<toolkit::EditCore>(form, control, index, refusal);
+    auto* box = Reach<EditCore>(form, control, index, refusal);
     if (!box)
         return refusal;
     if (!box->AllowsTyping())
@@ -112,7 +122,7 @@ std::string User::Type(std::string_view form, std::string_view control, std::str
     box->UserSelectsAll();
     if (text.empty() && box->ShownSelection().caret > 0)
         box->UserErases();
-    for (const char32_t character : toolkit::ToCharacters(text))
+    for (const char32_t character : ToCharacters(text))
         box->UserTypes(character);
     return {};
 }
@@ -120,14 +130,26 @@ std::string User::Type(std::string_view form, std::string_view control, std::str
 std::string User::Press(std::string_view form, std::string_view find, int index)
 {
     std::string refusal;
-    if (auto* box = Reach<toolkit::FindBoxModel>(form, find, index, refusal))
+    if (auto* box = Reach<FindBoxModel>(form, find, index, refusal))
         box->UserPresses();
     return refusal;
 }
 
-std::string User::PressKey(std::string_view form, toolkit::FormKey key)
+std::string User::PickEntry(std::string_view form, std::string_view entry)
 {
-    toolkit::FormModel* model = toolkit_.FindForm(form);
+    const FormModel* model = toolkit_.FindForm(form);
+    auto* menu = model != nullptr ? dynamic_cast<MenuModel*>(model->Find(entry)) : nullptr;
+    if (menu == nullptr)
+        return std::string(form) + "." + std::string(entry) + " is no menu entry that exists";
+    std::string refusal = menu->WhyNotChosen();
+    if (refusal.empty())
+        menu->UserChooses();
+    return refusal;
+}
+
+std::string User::PressKey(std::string_view form, FormKey key)
+{
+    FormModel* model = toolkit_.FindForm(form);
     if (!model)
         return std::string(form) + " does not exist";
     if (auto refusal = model->Refusal(); !refusal.empty())
@@ -138,7 +160,7 @@ std::string User::PressKey(std::string_view form, toolkit::FormKey key)
 
 std::string User::PressShortcut(std::string_view form, std::string_view shortcut)
 {
-    toolkit::FormModel* model = toolkit_.FindForm(form);
+    FormModel* model = toolkit_.FindForm(form);
     if (!model)
         return std::string(form) + " does not exist";
     if (auto refusal = model->Refusal(); !refusal.empty())
@@ -151,7 +173,7 @@ std::string User::PressShortcut(std::string_view form, std::string_view shortcut
 std::string User::Focus(std::string_view form, std::string_view control, int index)
 {
     std::string refusal;
-    toolkit::WidgetCore* widget = Reach(form, control, index, refusal);
+    WidgetCore* widget = Reach(form, control, index, refusal);
     if (widget && !widget->IsFocusable())
         return widget->FullName() + " takes no focus";
     if (widget)
@@ -162,7 +184,7 @@ std::string User::Focus(std::string_view form, std::string_view control, int ind
 std::string User::Pick(std::string_view form, std::string_view control, const Date& date, int index)
 {
     std::string refusal;
-    if (auto* box = Reach<toolkit::DateBoxModel>(form, control, index, refusal))
+    if (auto* box = Reach<DateBoxModel>(form, control, index, refusal))
         box->UserPicks(date);
     return refusal;
 }
@@ -170,7 +192,7 @@ std::string User::Pick(std::string_view form, std::string_view control, const Da
 std::string User::Bar(std::string_view form, std::string_view bar, int button)
 {
     std::string refusal;
-    auto* model = Reach<toolkit::NavigationBarModel>(form, bar, -1, refusal);
+    auto* model = Reach<NavigationBarModel>(form, bar, -1, refusal);
     if (model && !model->Offers(button))
         return model->FullName() + " does not offer button " + std::to_string(button);
     if (model)
@@ -180,7 +202,7 @@ std::string User::Bar(std::string_view form, std::string_view bar, int button)
 
 std::string User::CloseForm(std::string_view form)
 {
-    toolkit::FormModel* model = toolkit_.FindForm(form);
+    FormModel* model = toolkit_.FindForm(form);
     if (!model)
         return std::string(form) + " does not exist";
     if (!model->MayBeClosed())
@@ -189,10 +211,10 @@ std::string User::CloseForm(std::string_view form)
     return {};
 }
 
-User::Point User::MiddleOf(toolkit::GridModel& grid, Long row, std::string& refusal)
+User::Point User::MiddleOf(GridModel& grid, Long row, std::string& refusal)
 {
-    const toolkit::GridAxis& rows = grid.RowAxis();
-    const toolkit::GridAxis& columns = grid.ColumnAxis();
+    const GridAxis& rows = grid.RowAxis();
+    const GridAxis& columns = grid.ColumnAxis();
     Long column = 0;
     while (column < columns.Count() && columns.Size(column) == 0)
         ++column;
@@ -202,7 +224,7 @@ User::Point User::MiddleOf(toolkit::GridModel& grid, Long row, std::string& refu
     }
     const bool scrolledOut = row >= rows.Fixed()
         && (row < rows.First()
-            || row >= rows.First() + rows.PageSize(toolkit::WholeNumber<Long>(grid.State().height)));
+            || row >= rows.First() + rows.PageSize(WholeNumber<Long>(grid.State().height)));
     if (scrolledOut)
         grid.UserScrolls(row, columns.First());
     return {static_cast<Twips>(columns.Start(column)) + static_cast<Twips>(columns.Size(column)) / 2,
@@ -219,7 +241,7 @@ std::string User::Hover(std::string_view form, std::string_view grid, Long row)
 std::string User::Rest(std::string_view form, std::string_view grid, Long row)
 {
     std::string refusal;
-    auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal);
+    auto* model = Reach<GridModel>(form, grid, -1, refusal);
     if (!model)
         return refusal;
     const Point middle = MiddleOf(*model, row, refusal);
@@ -231,7 +253,7 @@ std::string User::Rest(std::string_view form, std::string_view grid, Long row)
 std::string User::Leave(std::string_view form, std::string_view grid)
 {
     std::string refusal;
-    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+    if (auto* model = Reach<GridModel>(form, grid, -1, refusal))
         model->UserLeaves();
     return refusal;
 }
@@ -239,7 +261,7 @@ std::string User::Leave(std::string_view form, std::string_view grid)
 std::string User::RestAt(std::string_view form, std::string_view grid, Twips x, Twips y)
 {
     std::string refusal;
-    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+    if (auto* model = Reach<GridModel>(form, grid, -1, refusal))
         model->UserMovesMouse(0, 0, x, y);
     return refusal;
 }
@@ -254,7 +276,7 @@ std::string User::HoverAt(std::string_view form, std::string_view grid, Twips x,
 std::string User::Select(std::string_view form, std::string_view grid, Long row)
 {
     std::string refusal;
-    auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal);
+    auto* model = Reach<GridModel>(form, grid, -1, refusal);
     if (!model)
         return refusal;
     const Point middle = MiddleOf(*model, row, refusal);
@@ -266,7 +288,7 @@ std::string User::Select(std::string_view form, std::string_view grid, Long row)
 std::string User::ClickAt(std::string_view form, std::string_view grid, Twips x, Twips y)
 {
     std::string refusal;
-    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+    if (auto* model = Reach<GridModel>(form, grid, -1, refusal))
         model->UserClicks(x, y);
     return refusal;
 }
@@ -274,7 +296,7 @@ std::string User::ClickAt(std::string_view form, std::string_view grid, Twips x,
 std::string User::Drag(std::string_view form, std::string_view grid, Twips x, Twips y, Twips toX, Twips toY)
 {
     std::string refusal;
-    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal)) {
+    if (auto* model = Reach<GridModel>(form, grid, -1, refusal)) {
         model->UserPresses(x, y);
         model->UserDrags(toX, toY);
         model->UserReleases(toX, toY);
@@ -285,9 +307,9 @@ std::string User::Drag(std::string_view form, std::string_view grid, Twips x, Tw
 std::string User::GridKey(std::string_view form, std::string_view grid, toolkit::GridKey key)
 {
     std::string refusal;
-    if (auto* model = Reach<toolkit::GridModel>(form, grid, -1, refusal))
+    if (auto* model = Reach<GridModel>(form, grid, -1, refusal))
         model->UserKey(key);
     return refusal;
 }
 
-} // namespace kova::headless
+} // namespace kova::toolkit
