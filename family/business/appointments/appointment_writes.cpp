@@ -101,13 +101,15 @@ WriteAnswer AddAppointments(Database& database, const AppointmentInput& input, c
 WriteAnswer AlterAppointment(Database& database, const AppointmentInput& input, const Author& author)
 {
     Key before = 0;
-    const WriteAnswer answer = WithStored(database, input.number, author, Right::ChangeAppointments,
-                                          [&](const AppointmentRow& stored) {
-                                              before = stored.versao;
-                                              return WriteOver(database, stored, input, author);
-                                          });
-    if (answer.IsDone())
-        database.Versions().Follow(KeyOf(input.number), before, before + 1);
+    WriteAnswer answer = WithStored(database, input.number, author, Right::ChangeAppointments,
+                                    [&](const AppointmentRow& stored) {
+                                        before = stored.versao;
+                                        return WriteOver(database, stored, input, author);
+                                    });
+    if (answer.IsDone()) {
+        answer.version = before + 1;
+        database.Versions().Follow(KeyOf(input.number), before, answer.version);
+    }
     return answer;
 }
 

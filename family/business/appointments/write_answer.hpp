@@ -28,6 +28,8 @@ struct WriteAnswer {
     long long package = 0;
     /// Status of that appointment, or the one that it had when it was deleted.
     int appointmentStatus = 0;
+    /// The version that an appointment has which was altered as a whole; 0 after every other write.
+    long long version = 0;
 };
 
 } // namespace kova::family

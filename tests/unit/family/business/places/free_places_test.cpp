@@ -1,11 +1,9 @@
 // Free places, against a search that asks the rules of a booking about every place there could be.
 
-#include "tests/unit/family/business/appointments/booking_fixture.hpp"
+#include "tests/unit/family/business/places/places_fixture.hpp"
 
 #include "family/business/appointments/employee_room.hpp"
 #include "family/business/places/free_places.hpp"
-#include "family/data/engine/fold_text.hpp"
-#include "family/data/sources/shared_database.hpp"
 #include "family/data/stores/booked_times.hpp"
 #include "family/data/stores/holiday_calendar.hpp"
 
@@ -19,10 +17,7 @@ namespace kova::family::test {
 
 namespace {
 
-constexpr Key Everybody = 0, Zeca = 1, Bia = 2;
-constexpr Date FirstDay{2031, 3, 3}, LastDay{2031, 3, 30};
-
-std::string Quoted(const std::string& text) { return "'" + text + "'"; }
+constexpr Date LastDay{2031, 3, 30};
 
 /// "yyyy-mm-dd hh:mm NICKNAME", as a test reads well.
 std::vector<std::string> Told(const std::vector<FreePlace>& places)
@@ -36,59 +31,8 @@ std::vector<std::string> Told(const std::vector<FreePlace>& places)
 
 } // namespace
 
-class FreePlaces : public BookingTest {
+class FreePlaces : public PlacesTest {
 protected:
-    FreePlaces() { Run("delete from expediente"); }
-
-    Database& Data() { return *SharedDatabase(host_.DataSource()); }
-
-    void Open(int weekday, const std::string& from, const std::string& until)
-    {
-        Run("insert into expediente (dia_da_semana, hora_inicial, hora_final) values ("
-            + std::to_string(weekday) + ", " + Quoted(from) + ", " + Quoted(until) + ")");
-    }
-    void OpenOnWorkdays(const std::string& from, const std::string& until)
-    {
-        for (int weekday = 2; weekday <= 6; ++weekday)
-            Open(weekday, from, until);
-    }
-    void Works(Key employee, int weekday, const std::string& from, const std::string& until)
-    {
-        Run("insert into horario_do_funcionario (codigo_do_funcionario, dia_da_semana, hora_inicial, "
-            "hora_final)"
-            " values ("
-            + std::to_string(employee) + ", " + std::to_string(weekday) + ", " + Quoted(from) + ", "
-            + Quoted(until) + ")");
-    }
-    void Away(Key employee, Date from, const std::string& fromTime, Date until, const std::string& untilTime)
-    {
-        Run("insert into ausencia (codigo_do_funcionario, data_inicial, hora_inicial, data_final, hora_final,"
-            " motivo) values ("
-            + (employee == Everybody ? "null" : std::to_string(employee)) + ", " + Quoted(IsoDate(from))
-            + ", " + Quoted(fromTime) + ", " + Quoted(IsoDate(until)) + ", " + Quoted(untilTime)
-            + ", 'curso')");
-    }
-    void Rest(Date date)
-    {
-        Run("insert into feriado (nome, data) values ('Dia', " + Quoted(IsoDate(date)) + ")");
-    }
-    void Book(Key employee, Date from, const std::string& start, Date until, const std::string& end,
-              int status = 1)
-    {
-        Run("insert into agendamento (data_inicial, hora_inicial, data_final, hora_final, "
-            "tipo_do_agendamento,"
-            " nome_do_cliente, nome_do_animal, numero_do_tipo_de_servico, codigo_do_servico,"
-            " codigo_do_funcionario, situacao, incluido_em, incluido_por) values ("
-            + Quoted(IsoDate(from)) + ", " + Quoted(start) + ", " + Quoted(IsoDate(until)) + ", "
-            + Quoted(end) + ", 1, 'C', 'A', 4, 2, " + std::to_string(employee) + ", " + std::to_string(status)
-            + ", '2026-11-01 09:00:00', 'Carla')");
-    }
-    void Limit(Key employee, int limit)
-    {
-        Run("update funcionario set agendamentos_simultaneos = " + std::to_string(limit)
-            + " where codigo = " + std::to_string(employee));
-    }
-
     static PlaceWish Wish(Key employee, int minutes, int count = 3)
     {
         PlaceWish wish;
