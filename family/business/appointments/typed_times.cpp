@@ -27,13 +27,13 @@ bool ReadDate(const Text& typed, Date& date)
     return IsWithinLimits(date);
 }
 
-/// Hours and minutes only.
+/// Hours and minutes only; a program that hands over a time of its own has no seconds in it either, and tells
+/// so.
 bool ReadTime(const Text& typed, TimeOfDay& time)
 {
-    const Text text = Trim(typed);
-    const std::optional<TimeOfDay> read = text.size() > 5 ? std::nullopt : ParseTime(text);
+    const std::optional<TimeOfDay> read = ParseTime(Trim(typed));
     time = read.value_or(TimeOfDay());
-    return read.has_value();
+    return read && read->second == 0;
 }
 
 bool HasContent(const TypedTimes& row)
