@@ -2,6 +2,7 @@
 
 #include "agenda/contracts/platform.hpp"
 #include "family/business/shop/company_selection.hpp"
+#include "family/data/audit/own_lines.hpp"
 #include "family/data/sources/data_source.hpp"
 #include "family/data/sources/shared_database.hpp"
 #include "family/demo/fictional_shop.hpp"
@@ -26,6 +27,7 @@ Text Told(const MigrationReport& report)
 std::span<const Method<DatabaseComponent>> DatabaseComponent::Methods()
 {
     static constexpr Method<DatabaseComponent> methods[] = {
+        {"GravouALinha", 3, 3, &DatabaseComponent::GravouALinha},
         {"Verificar", 0, 0, &DatabaseComponent::Verificar},
         {"Abrir", 0, 0, &DatabaseComponent::Abrir},
         {"Fechar", 0, 0, &DatabaseComponent::Fechar},
@@ -61,6 +63,13 @@ Value DatabaseComponent::Existe() const { return DataSourceExists(Host().DataSou
 void DatabaseComponent::OcultarPrecos(const Value& value)
 {
     HidePrices(Host().DataSource(), value.ToBoolean());
+}
+
+Value DatabaseComponent::GravouALinha(std::span<Argument> arguments)
+{
+    return IsOwnLine(Data().Path(),
+                     {static_cast<Key>(arguments[0].Get().ToDouble()), arguments[1].Get().ToText(),
+                      static_cast<Key>(arguments[2].Get().ToDouble())});
 }
 
 Value DatabaseComponent::Verificar(std::span<Argument>)

@@ -39,6 +39,10 @@ private:
     /// is empty from then on. Write-only.
     void OcultarPrecos(const Value& value);
 
+    /// Boolean: whether the components of this process have written the line of the audit with that code
+    /// (Double), about that table (Text) and key (Double).
+    Value GravouALinha(std::span<Argument> arguments);
+
     /// Looks whether the data source can be opened, and changes nothing.
     Value Verificar(std::span<Argument>);
     /// Opens it for the whole process, bringing an older schema up to date.

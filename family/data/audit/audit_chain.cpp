@@ -1,6 +1,7 @@
 #include "family/data/audit/audit_chain.hpp"
 
 #include "agenda/contracts/utf8.hpp"
+#include "family/data/audit/own_lines.hpp"
 #include "family/data/audit/stamp.hpp"
 #include "family/data/engine/database.hpp"
 #include "family/data/rows/find_by_key.hpp"
@@ -114,6 +115,8 @@ void AddLines(Database& database, std::vector<AuditRow> rows)
     }
     for (AuditRow& row : left)
         row.codigo = database.With<One>([&](One& insertion) { return insertion.Run(row); });
+    for (const AuditRow& row : rows)
+        NoteOwnLine(database.Path(), {row.codigo, row.tabela, row.chave});
     if (!database.GetDialect().IsServer() && !rows.empty())
         AddLinks(database, rows);
 }

@@ -1,5 +1,6 @@
 #include "family/data/audit/news.hpp"
 
+#include "family/data/audit/days_of_news.hpp"
 #include "family/data/engine/server_client.hpp"
 #include "system/network.hpp"
 
@@ -33,12 +34,20 @@ private:
 class LinesBehind : public KeptStatement {
 public:
     explicit LinesBehind(Database& database)
-        : statement_((database.Session().prepare
-                          << "select e.ordem, a.tabela, a.chave, a.usuario, a.posto from elo_da_auditoria e"
-                             " join auditoria a on a.codigo = e.codigo_da_linha where e.ordem > :apos"
-                             " order by e.ordem",
-                      soci::into(order_), soci::into(row_.table), soci::into(row_.key), soci::into(row_.user),
-                      soci::into(row_.desk), soci::use(after_, "apos")))
+        : statement_(
+            (database.Session().prepare
+                 << "select e.ordem, a.codigo, a.tabela, a.chave, a.usuario, a.posto,"
+                    " case when a.tabela = 'agendamento' then a.antes end,"
+                    " case when a.tabela = 'agendamento' then a.depois end,"
+                    " g.data_inicial, g.data_final from elo_da_auditoria e"
+                    " join auditoria a on a.codigo = e.codigo_da_linha"
+                    " left join agendamento g on a.tabela = 'agendamento' and g.numero = a.chave"
+                    " where e.ordem > :apos"
+                    " order by e.ordem",
+             soci::into(order_), soci::into(row_.line), soci::into(row_.table), soci::into(row_.key),
+             soci::into(row_.user), soci::into(row_.desk), soci::into(row_.before.value, row_.before.state),
+             soci::into(row_.after.value, row_.after.state), soci::into(row_.begins.value, row_.begins.state),
+             soci::into(row_.ends.value, row_.ends.state), soci::use(after_, "apos")))
     {
     }
 
@@ -174,6 +183,7 @@ std::vector<NewsOfRow> News::Read()
     std::vector<NewsOfRow> rows =
         database_.WithOnce<LinesBehind>([&](LinesBehind& lines) { return lines.Run(last); });
     last_ = last;
+    TakeDaysOfTheTime(rows);
     return rows;
 }
 

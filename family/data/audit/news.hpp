@@ -1,6 +1,7 @@
 #pragma once
 
 #include "family/data/engine/database.hpp"
+#include "family/data/engine/nullable.hpp"
 
 #include <cstdint>
 #include <string>
@@ -12,10 +13,14 @@ namespace kova::family {
 struct NewsOfRow {
     std::string table;
     Key key = 0;
-    /// "CODE - NAME", and the computer; by both a desk knows what it has written itself.
+    /// "CODE - NAME", and the computer.
     std::string user, desk;
-
-    bool operator==(const NewsOfRow&) const = default;
+    /// Of the audit's line, by which a program knows what it has written itself (own_lines.hpp).
+    Key line = 0;
+    /// Of an appointment what the line keeps of it (ReadAuditedColumns); Null of anything else.
+    Nullable<std::string> before{}, after{};
+    /// Its days from then on, "yyyy-mm-dd"; Null where none are known, and of anything else.
+    Nullable<std::string> begins{}, ends{};
 };
 
 /// What was written since the last look, by whomever, in the order in which it was kept. A server says by

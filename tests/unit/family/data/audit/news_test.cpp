@@ -2,8 +2,11 @@
 
 #include "tests/unit/family/business/appointments/two_desk_fixture.hpp"
 
+#include "family/business/shop/database_component.hpp"
 #include "family/data/audit/audit.hpp"
+#include "family/data/audit/days_of_news.hpp"
 #include "family/data/audit/news.hpp"
+#include "family/data/audit/own_lines.hpp"
 #include "family/data/engine/safe_write.hpp"
 #include "family/data/sources/data_source.hpp"
 
@@ -106,6 +109,78 @@ TEST_F(NewsOfDesks, AreCaughtUpWithWhenTheConnectionWasLost)
     EXPECT_EQ(ToldOnceThereIsSome(), (List{"agendamento 24 8 - Marcos", "agendamento 25 8 - Marcos"}));
     OtherSetsStatus(FullNumber, 1);
     EXPECT_EQ(ToldOnceThereIsSome(), List{"agendamento 24 8 - Marcos"}) << "and are heard again";
+}
+
+TEST_F(NewsOfDesks, OfAnAppointmentTellItsDaysBeforeAndFromThenOn)
+{
+    using Days = std::vector<DaysOfAppointment>;
+    const DaysOfAppointment day{"2026-12-01", "2026-12-01"}, later{"2026-12-03", "2026-12-04"};
+    std::vector<Days> told;
+    const auto look = [&] {
+        EXPECT_EQ(news_.Await(Soon), TestsRunOnServer());
+        for (const NewsOfRow& row : news_.Look())
+            told.push_back(DaysOf(row));
+    };
+    OtherSetsStatus(FullNumber, 3);
+    look();
+    OtherChanges(FullNumber, [](AppointmentInput& input) {
+        input.startDate = "03/12/2026";
+        input.endDate = "04/12/2026";
+    });
+    look();
+    OtherDeletes(FullNumber);
+    look();
+    EXPECT_EQ(told, (std::vector<Days>{{day}, {day, later}, {later}}));
+}
+
+TEST_F(NewsOfDesks, TellTheDaysOfTheTimeAlsoWhereTheyAreHeardTogether)
+{
+    using Days = std::vector<DaysOfAppointment>;
+    const DaysOfAppointment day{"2026-12-01", "2026-12-01"}, later{"2026-12-03", "2026-12-03"};
+    OtherSetsStatus(FullNumber, 3);
+    OtherChanges(FullNumber, [](AppointmentInput& input) { input.startDate = input.endDate = "03/12/2026"; });
+    OtherSetsStatus(FullNumber, 1);
+    OtherDeletes(FullNumber);
+    std::vector<Days> told;
+    while (told.size() < 4) {
+        ASSERT_EQ(news_.Await(Soon), TestsRunOnServer());
+        for (const NewsOfRow& row : news_.Look())
+            told.push_back(DaysOf(row));
+    }
+    EXPECT_EQ(told, (std::vector<Days>{{day}, {day, later}, {later}, {later}}));
+}
+
+TEST_F(NewsOfDesks, OfAnythingElseTellNoDays)
+{
+    WriteSafely(*otherDesk_, [&] {
+        AuditRemoval(*otherDesk_, marcos_, "animal", 7, {});
+        return true;
+    });
+    ASSERT_EQ(news_.Await(Soon), TestsRunOnServer());
+    const std::vector<NewsOfRow> told = news_.Look();
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(DaysOf(told.front()), std::vector<DaysOfAppointment>());
+}
+
+TEST_F(NewsOfDesks, AreKnownAsOwnByTheirLines)
+{
+    OtherSetsStatus(FullNumber, 3);
+    ASSERT_EQ(news_.Await(Soon), TestsRunOnServer());
+    const std::vector<NewsOfRow> told = news_.Look();
+    ASSERT_EQ(told.size(), 1U);
+    const Key line = told.front().line;
+    const std::string& source = listening_->Path();
+    DatabaseComponent component(host_);
+    const auto wrote = [&](Key number) {
+        return component
+            .Call("GravouALinha", {static_cast<Double>(line), "agendamento", static_cast<Double>(number)})
+            .ToBoolean();
+    };
+    EXPECT_TRUE(IsOwnLine(source, {line, "agendamento", FullNumber}));
+    EXPECT_TRUE(wrote(FullNumber));
+    EXPECT_FALSE(wrote(SimplifiedNumber)) << "the code of a line that was taken back, and another's now";
+    EXPECT_FALSE(IsOwnLine(source, {line, "animal", FullNumber}));
+    EXPECT_FALSE(IsOwnLine(source, {line + 1, "agendamento", FullNumber}));
 }
 
 TEST_F(NewsOfDesks, ComeOverASocketFromServersAlone)
