@@ -1,0 +1,5 @@
+if(KOVARIS_SCREEN)
+    find_package(SQLite3 REQUIRED)
+    kovaris_test_program(test_waiting waiting_screens test_whole_program_on_qt Qt6::Test SQLite::SQLite3)
+    kovaris_precompile(test_waiting OF test_qt_application)
+endif()
