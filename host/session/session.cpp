@@ -15,9 +15,12 @@
 #include "host/session/agenda_guard.hpp"
 #include "host/session/computer_user.hpp"
 #include "host/session/daily_backup.hpp"
+#include "host/session/day_list_news.hpp"
 #include "host/session/fatal_reports.hpp"
+#include "host/session/heard_components.hpp"
 #include "host/session/history_tab.hpp"
 #include "host/session/newer_program.hpp"
+#include "host/session/news_of_desks.hpp"
 #include "host/session/noted_prints.hpp"
 #include "host/session/registers_tab.hpp"
 #include "host/session/remembered_shops.hpp"
@@ -29,6 +32,8 @@
 #include "host/shell/main_window.hpp"
 #include "host/sign_in/door.hpp"
 #include "host/sign_in/door_menu.hpp"
+#include "host/timetable/timetable_tab.hpp"
+#include "host/transport/transport_entry.hpp"
 #include "screens/question.hpp"
 #include "system/path_text.hpp"
 #include "toolkits/common/form.hpp"
@@ -89,9 +94,12 @@ public:
           toolkit_(clock_, DrawnWidth(options, outlet)),
           platform_(clock_, toolkit_),
           server_(registry_, platform_, system::TextOf(DatabaseOf(options))),
-          components_(registry_, server_.Libraries())
+          components_(registry_, server_.Libraries()),
+          news_(SourceOf(options), [this, source = SourceOf(options)](family::Key line, family::Key number) {
+              return WriterOf(components_, source, line, number);
+          })
     {
-        platform_.Use(components_);
+        platform_.Use(heard_);
     }
 
     /// The list goes while its window is still there, and the window before the libraries.
@@ -132,10 +140,14 @@ private:
     HostPlatform platform_;
     RegistryServerHost server_;
     RegisteredComponents components_;
+    HeardComponents heard_{components_};
     std::shared_ptr<SessionUser> user_;
     UserChange userChange_;
     std::unique_ptr<RegistersTab> registers_;
     std::unique_ptr<HistoryTab> history_;
+    std::unique_ptr<TransportEntry> transport_;
+    std::unique_ptr<TimetableTab> timetable_;
+    NewsOfDesks news_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<Door> door_;
     ComponentRef agenda_;
@@ -159,13 +171,18 @@ SessionEnd Session::Run()
                                                       options_.entry, shop.hasUsers});
     if (!Admit(*door_, shop, options_, outlet_))
         return {EXIT_SUCCESS, std::nullopt};
+    // Before the day is read, so that nothing is missed.
+    if (outlet_ == Outlet::Window)
+        news_.Begin();
     registers_ = std::make_unique<RegistersTab>(SourceOf(options_), user_, clock_, userChange_);
     history_ = std::make_unique<HistoryTab>(SourceOf(options_), user_, clock_, userChange_);
+    timetable_ = std::make_unique<TimetableTab>(SourceOf(options_), user_, clock_, userChange_, toolkit_);
     if (shop.tradeName.empty() && outlet_ == Outlet::Window && !options_.firstPaint)
         shop.tradeName = registers_->AskForCompany();
     window_ = std::make_unique<MainWindow>(MainWindow::Heading{QString::fromStdString(shop.tradeName),
                                                                options_.database.empty(),
                                                                QString::fromStdString(user_->Name())});
+    transport_ = std::make_unique<TransportEntry>(SourceOf(options_), shop.tradeName, toolkit_, clock_);
     if (outlet_ == Outlet::Window && !options_.firstPaint)
         Remember(shop);
     registers_->AddTo(*window_);
@@ -174,8 +191,12 @@ SessionEnd Session::Run()
     door_->Watch(*window_);
     FillMenu();
     history_->AddTo(*window_);
+    timetable_->AddTo(*window_);
+    transport_->AddTo(*window_);
     AddHelp(*window_, GuideFile(), OpenOnDesktop);
     GuardAgenda();
+    (new DayListNews(toolkit_, clock_, news_, *window_))->Hear(heard_);
+    news_.Follow(*window_, [this](const DeskNews& news) { timetable_->Hear(news); });
     registers_->Offer(history_->Actions());
     window_->ShowNotice(Update, QString::fromStdString(shop.update));
     OpenList();
@@ -343,6 +364,8 @@ int Session::DrawWindow()
 Session::~Session()
 {
     backup_.reset();
+    news_.End();
+    heard_.Forget();
     if (Form* list = List())
         list->Unload();
     agenda_.reset();

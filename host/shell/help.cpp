@@ -26,6 +26,7 @@ constexpr std::pair<const char*, const char*> Sections[] = {
     {"Agenda", "a-lista-do-dia"},
     {"Cadastros", "cadastros"},
     {"Histórico", "histórico"},
+    {"Horários", "horários"},
 };
 
 QUrl PageOf(const std::filesystem::path& guide, const QString& section)

@@ -173,6 +173,8 @@ void MainWindow::OfferChange(std::function<void()> change) { row_->OfferChange(s
 
 QMenu& MainWindow::Menu() { return row_->Menu(); }
 
+NewsBar& MainWindow::News() { return row_->News(); }
+
 void MainWindow::ShowNotice(const QString& subject, const QString& text) { notice_->Show(subject, text); }
 
 void MainWindow::ShowHint(const QString& text)

@@ -13,6 +13,7 @@ class QTimer;
 
 namespace kova::host {
 
+class NewsBar;
 class NoticeBar;
 class TabRow;
 
@@ -53,6 +54,8 @@ public:
     /// Asked before the window closes; false keeps it open.
     std::function<bool()> mayClose = [] { return true; };
 
+    /// Above the agenda, where that is the tab on show.
+    NewsBar& News();
     /// Shown in the container, until something else fills it.
     void ShowHint(const QString& text);
     /// Shown in a line below the container until the user closes it; one subject has one line, which "" takes

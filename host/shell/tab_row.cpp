@@ -1,5 +1,6 @@
 #include "host/shell/tab_row.hpp"
 
+#include "host/shell/news_bar.hpp"
 #include "screens/refusal_label.hpp"
 #include "toolkits/qt/look/theme.hpp"
 
@@ -24,6 +25,7 @@ constexpr int WidestName = 240;
 TabRow::TabRow(QWidget* parent)
     : QWidget(parent),
       tabs_(new screens::Tabs(QStringLiteral("Áreas do programa"), this)),
+      news_(new NewsBar(this)),
       shop_(new QLabel(this)),
       user_(new QToolButton(this)),
       button_(new QToolButton(this)),
@@ -55,13 +57,15 @@ TabRow::TabRow(QWidget* parent)
     button_->setPopupMode(QToolButton::InstantPopup);
     button_->setMenu(menu_);
 
+    // The agenda is the first one.
+    connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) { news_->SetOnShow(tab == 0); });
+
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 6, 0);
     layout->setSpacing(12);
     layout->addWidget(tabs_);
-    layout->addStretch(1);
+    layout->addWidget(news_, 1);
     layout->addWidget(shop_);
-    layout->addStretch(1);
     layout->addWidget(user_);
     layout->addWidget(button_);
 }

@@ -12,6 +12,8 @@ class QToolButton;
 
 namespace kova::host {
 
+class NewsBar;
+
 /// The narrow row at the upper edge of the window: its tabs, that a demonstration is one, who works with the
 /// window, as a button where another can take the place, and the menu of the application, which F10 opens
 /// too.
@@ -27,6 +29,7 @@ public:
     /// The user's name is a button from then on.
     void OfferChange(std::function<void()> change);
     QMenu& Menu() { return *menu_; }
+    NewsBar& News() { return *news_; }
     void OpenMenu();
 
 protected:
@@ -38,6 +41,7 @@ private:
     screens::Tabs* tabs_;
     void ShowUser();
 
+    NewsBar* news_;
     QLabel* shop_;
     QToolButton *user_, *button_;
     QString name_;

@@ -27,7 +27,9 @@ QString DocumentsFolder()
 
 QString ProposedPath(const reports::Document& document, Date day)
 {
-    const QString folder = LastFolder().isEmpty() ? DocumentsFolder() : LastFolder();
+    // It may be gone, as a stick that was pulled out.
+    const bool isThere = !LastFolder().isEmpty() && QDir(LastFolder()).exists();
+    const QString folder = isThere ? LastFolder() : DocumentsFolder();
     return QDir(folder).filePath(FileNameOf(QString::fromStdString(document.title), day));
 }
 

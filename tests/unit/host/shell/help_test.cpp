@@ -121,7 +121,7 @@ TEST_F(TheHelp, SaysThatTheGuideIsMissing)
 TEST_F(TheHelp, NamesHeadingsThatTheGuideHas)
 {
     const std::string guide = Guide();
-    for (const char* tab : {"Agenda", "Cadastros", "Histórico"}) {
+    for (const char* tab : {"Agenda", "Cadastros", "Histórico", "Horários"}) {
         const std::string section = GuideSection(QString::fromUtf8(tab)).toStdString();
         ASSERT_NE(section, "");
         EXPECT_NE(guide.find(" id=\"" + section + "\""), std::string::npos) << section;
