@@ -74,13 +74,23 @@ Rights OfRegister(const Line& line)
     return needed;
 }
 
+/// Whoever books takes in hand, books and puts back; who only changes what is waited for, or takes somebody
+/// off the list, does not.
+Rights OfWaiting(const Line& line)
+{
+    if (line.operation != operation::Change)
+        return {"agendamento.incluir"};
+    const std::string to = TextIn(line.after, "situacao");
+    return {to.empty() || to == "4" ? "agendamento.alterar" : "agendamento.incluir"};
+}
+
 /// What follows from another write is told by that one's line.
 Rights NeededFor(const Line& line)
 {
     static const std::set<std::string> acts{operation::SigningIn, operation::SigningInRefused,
                                             operation::Denial, operation::Print};
     if (acts.contains(line.operation) || line.table == "pre_venda" || line.table == "pacote"
-        || IsOwnSecret(line))
+        || line.table == "espera_servico" || line.table == "espera_funcionario" || IsOwnSecret(line))
         return {};
     if (line.operation == operation::Export)
         return {"dados.exportar"};
@@ -88,6 +98,8 @@ Rights NeededFor(const Line& line)
         return {"dados.anonimizar"};
     if (line.table == "agendamento")
         return OfAppointment(line);
+    if (line.table == "lista_de_espera")
+        return OfWaiting(line);
     if (line.table == "usuario" || line.table == "papel" || line.table == "papel_direito")
         return {"usuarios.administrar"};
     return OfRegister(line);

@@ -195,10 +195,41 @@ Act Chooser::InOtherArea()
     switch (chance_.ByWeight({50, 25, 20, 5})) {
     case 0: return AtTarget();
     case 1:
-        return Key(chance_.OneOf<std::string>(
-            {"Tab", "Tab",  "Tab",    "Shift+Tab", "Down",  "Up",       "Return",
-             "Esc", "F3",   "Ctrl+N", "Ctrl+S",    "Space", "Alt+Down", "PgDown",
-             "End", "Home", "Ctrl+A", "Del",       "Alt+1", "Alt+2",    "Ctrl+PgDown"}));
+        return Key(chance_.OneOf<std::string>({"Tab",
+                                               "Tab",
+                                               "Tab",
+                                               "Shift+Tab",
+                                               "Down",
+                                               "Up",
+                                               "Return",
+                                               "Esc",
+                                               "F3",
+                                               "Ctrl+N",
+                                               "Ctrl+S",
+                                               "Space",
+                                               "Alt+Down",
+                                               "PgDown",
+                                               "End",
+                                               "Home",
+                                               "Ctrl+A",
+                                               "Del",
+                                               "Alt+1",
+                                               "Alt+2",
+                                               "Ctrl+PgDown",
+                                               "Left",
+                                               "Right",
+                                               "F2",
+                                               "F4",
+                                               "F6",
+                                               "F8",
+                                               "Ctrl+2",
+                                               "Ctrl+3",
+                                               "Ctrl+Z",
+                                               "Ctrl+L",
+                                               "Ctrl+E",
+                                               "Ctrl+Shift+Down",
+                                               "Ctrl+Shift+Right",
+                                               "Shift+PgDown"}));
     case 2: return Type(words_.Any(chance_));
     default: return Somewhere(Verb::Press, "@front");
     }
@@ -305,7 +336,8 @@ Act Chooser::Keys()
         "F9",        "F11",      "F12",      "Ctrl+1",      "Ctrl+2",    "Ctrl+3",    "Ctrl+4",     "Ctrl+5",
         "Ctrl+S",    "Ctrl+S",   "Ctrl+P",   "Ctrl+A",      "Ctrl+C",    "Ctrl+V",    "Ctrl+X",     "Ctrl+Z",
         "Ctrl+Home", "Ctrl+End", "Alt+Down", "Alt+Left",    "Alt+Right", "Alt+A",     "Alt+C",      "Alt+S",
-        "Alt+F",     "Alt+R",    "Ctrl+F",   "Ctrl+PgDown", "Ctrl+PgUp", "Ctrl+Left", "Ctrl+Right", "Alt+2"};
+        "Alt+F",     "Alt+R",    "Ctrl+F",   "Ctrl+PgDown", "Ctrl+PgUp", "Ctrl+Left", "Ctrl+Right", "Alt+2",
+        "Alt+4",     "Ctrl+T",   "Ctrl+T",   "Ctrl+L",      "Ctrl+E"};
     return Key(chance_.InHundred(60) ? chance_.OneOf(common) : chance_.OneOf(commands));
 }
 

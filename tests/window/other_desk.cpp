@@ -11,8 +11,6 @@ namespace kova::window_test {
 
 namespace {
 
-const family::Author Marcos{"8", "Marcos", "2026-11-20 09:30:00", "BALCAO-2"};
-
 family::Key Number(soci::session& session, const std::string& selection)
 {
     family::Key number = 0;
@@ -22,9 +20,12 @@ family::Key Number(soci::session& session, const std::string& selection)
 
 } // namespace
 
-OtherDesk::OtherDesk(const std::string& database) : database_(family::OpenDatabase(database)) { }
+OtherDesk::OtherDesk(const std::string& database, const std::string& computer)
+    : database_(family::OpenDatabase(database)), marcos_{"8", "Marcos", "2026-11-20 09:30:00", computer}
+{
+}
 
-family::Key OtherDesk::Books()
+family::Key OtherDesk::Books(const std::string& from, const std::string& until)
 {
     soci::session& session = database_->Session();
     family::AppointmentInput input;
@@ -39,12 +40,12 @@ family::Key OtherDesk::Books()
     input.employee =
         static_cast<Long>(Number(session, "select min(codigo) from funcionario where situacao = 1"));
     input.startDate = input.endDate = "20/11/2026";
-    input.startTime = "23:00";
-    input.endTime = "23:45";
+    input.startTime = from;
+    input.endTime = until;
     input.remark = "Laço azul.";
     // The day is a holiday, and Marcos wants it so.
     input.validated = true;
-    const family::WriteAnswer answer = AddAppointments(*database_, input, Marcos);
+    const family::WriteAnswer answer = AddAppointments(*database_, input, marcos_);
     EXPECT_TRUE(answer.IsDone()) << answer.field << " " << answer.text;
     return Number(session, "select max(numero) from agendamento");
 }
@@ -54,7 +55,15 @@ void OtherDesk::Changes(family::Key number, const std::function<void(family::App
     auto input = family::InputOf(*family::FindByKey<family::AppointmentRow>(*database_, number));
     input.validated = true;
     change(input);
-    const family::WriteAnswer answer = AlterAppointment(*database_, input, Marcos);
+    const family::WriteAnswer answer = AlterAppointment(*database_, input, marcos_);
+    EXPECT_TRUE(answer.IsDone()) << answer.field << " " << answer.text;
+}
+
+void OtherDesk::Deletes(family::Key number)
+{
+    family::AppointmentInput input;
+    input.number = static_cast<Double>(number);
+    const family::WriteAnswer answer = DeleteAppointment(*database_, input, marcos_);
     EXPECT_TRUE(answer.IsDone()) << answer.field << " " << answer.text;
 }
 

@@ -1,8 +1,11 @@
 // The server goes away while the agenda is open, and comes back.
 
+#include "tests/window/other_desk.hpp"
 #include "tests/window/shop.hpp"
 
 #include "agenda/contracts/widgets.hpp"
+
+#include <QApplication>
 
 #include <iostream>
 #include <sstream>
@@ -77,6 +80,17 @@ protected:
         receptionist->WaitsFor(List).Looks([&] { told = failures_.Take(); });
     }
 
+    void WaitsForBar(const QString& words)
+    {
+        receptionist->WaitsUntil("the bar says: " + words.toStdString(), [words] {
+            for (QWidget* one : QApplication::allWidgets()) {
+                if (one->objectName() == QLatin1String("novidades"))
+                    return one->isVisible() ? one->accessibleName() == words : words.isEmpty();
+            }
+            return false;
+        });
+    }
+
     RunningAgain runningAgain_;
     ToldFailures failures_;
 };
@@ -101,6 +115,27 @@ TEST_F(PostgresqlAway, IsToldAndTheNextActionWorksWhenItIsBackWithoutARestart)
     EXPECT_EQ(shown, "1");
     EXPECT_EQ(Query("select numero, alterado_por from agendamento where situacao <> 1"),
               Rows{number + "|Antônia"});
+}
+
+TEST_F(PostgresqlAway, IsFoundAgainByItselfAndWhatOthersDidMeanwhileIsTold)
+{
+    OtherDesk other(Database());
+    const std::string number = Value("select min(numero) from agendamento where data_inicial = '2026-11-20'");
+    const auto changes = [&](const char* remark) {
+        other.Changes(std::stoll(number), [remark](auto& input) { input.remark = remark; });
+    };
+    receptionist->WaitsFor(List).Looks([] { Server().Stop(); });
+    StartsServer();
+    receptionist->Looks([&] { changes("Enquanto estava fora."); });
+    WaitsForBar("A agenda de hoje mudou em outro posto (1). Ctrl+R atualiza a lista.");
+    // And it is heard again.
+    receptionist->Looks([&] { changes("Depois."); });
+    WaitsForBar("A agenda de hoje mudou em outro posto (2). Ctrl+R atualiza a lista.");
+    receptionist->Presses("Ctrl+R").WaitsFor(List);
+    WaitsForBar("");
+    receptionist->Leaves();
+    Run();
+    EXPECT_EQ(receptionist->Boxes(), Rows());
 }
 
 } // namespace kova::window_test
