@@ -56,6 +56,19 @@ ServerAnswer RawServer::RunPrepared(const std::string& name,
                                   texts.data(), nullptr, nullptr, 0));
 }
 
+bool RawServer::TakeNotices() const
+{
+    if (PQconsumeInput(connection_.get()) == 0)
+        throw std::runtime_error(PQerrorMessage(connection_.get()));
+    bool isAny = false;
+    for (PGnotify* notice = PQnotifies(connection_.get()); notice != nullptr;
+         notice = PQnotifies(connection_.get())) {
+        PQfreemem(notice);
+        isAny = true;
+    }
+    return isAny;
+}
+
 ServerAnswer RawServer::Checked(PGresult* result) const
 {
     ServerAnswer answer(result);

@@ -43,6 +43,11 @@ public:
     ServerAnswer RunPrepared(const std::string& name,
                              const std::vector<std::optional<std::string>>& values) const;
 
+    /// Of the connection.
+    int Socket() const { return PQsocket(connection_.get()); }
+    /// Takes the notices that have come, and answers whether there were any.
+    bool TakeNotices() const;
+
 private:
     ServerAnswer Checked(PGresult* result) const;
 
